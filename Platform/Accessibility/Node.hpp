@@ -1,0 +1,87 @@
+// The semantic tree of a screen: what assistive technology, tests and the screen dump read.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Platform/Geometry/Geometry.hpp"
+
+namespace accessibility {
+
+enum class Traits : std::uint16_t {
+    none = 0, button = 1, selected = 2, disabled = 4, header = 8, image = 16, staticText = 32, adjustable = 64, link = 128,
+};
+constexpr Traits operator|(Traits a, Traits b) { return Traits(std::uint16_t(a) | std::uint16_t(b)); }
+constexpr bool contains(Traits all, Traits one) { return (std::uint16_t(all) & std::uint16_t(one)) == std::uint16_t(one); }
+
+struct TextRunInfo {
+    std::string text;
+    std::string font;
+    double size = 0;
+    std::optional<int> weight;
+    std::string color;
+    bool isStruckThrough = false;
+};
+
+// A text as it was laid out.
+struct TextInfo {
+    std::string text; // the whole text before any change of case
+    std::string font;
+    double size = 0;
+    std::optional<int> weight;
+    std::string color;
+    int lineCount = 0;
+    bool isTruncated = false;
+    std::vector<TextRunInfo> runs; // of rich texts only
+};
+
+// Colours by their design-system names; empty for none.
+struct ShapeInfo {
+    std::string fill;
+    std::string stroke;
+    std::optional<double> lineWidth;
+    std::optional<double> cornerRadius;
+};
+
+struct ScrollInfo {
+    geometry::Point contentOffset;
+    geometry::Size contentSize;
+    geometry::PhysicalInsets contentInset;
+};
+
+struct ClipInfo {
+    std::string name;
+    double time_s = 0;
+};
+
+// A view and what is inside it, front-most last. Frames are in window points, after every transform.
+struct Node {
+    std::string type; // as in the code
+    geometry::Rect frame;
+    bool isOnScreen = false;
+    std::string identifier;
+    std::string label;
+    std::string value;
+    Traits traits = Traits::none;
+    std::optional<TextInfo> text;
+    std::string image; // asset name
+    std::optional<ShapeInfo> shape;
+    double opacity = 1; // ancestors' included
+    std::optional<double> scale;
+    std::optional<double> rotation_degrees;
+    std::optional<geometry::Rect> clip;
+    std::optional<ScrollInfo> scroll;
+    std::optional<ClipInfo> clipView;
+    // Something that a person can tap.
+    bool isControl = false;
+    // Of controls: does what a tap at the control's centre does. Empty when it is disabled.
+    std::function<void()> activate;
+    // Scrolls whatever scroll views are around the node by as little as makes its centre reachable, at once. Empty outside scroll views.
+    std::function<void()> reveal;
+    std::vector<Node> children;
+};
+
+} // namespace accessibility

@@ -1,0 +1,26 @@
+// The token of a subscription.
+#pragma once
+
+#include <functional>
+#include <utility>
+
+namespace combine {
+
+// Cancels its subscription when it is destroyed. Move-only; an empty token does nothing.
+class AnyCancellable {
+public:
+    AnyCancellable() = default;
+    explicit AnyCancellable(std::function<void()> cancel) : m_cancel(std::move(cancel)) {}
+    AnyCancellable(AnyCancellable&& other) noexcept : m_cancel(std::exchange(other.m_cancel, nullptr)) {}
+    AnyCancellable& operator=(AnyCancellable&& other) noexcept;
+    ~AnyCancellable() { cancel(); }
+
+    // Ends the subscription now; later calls do nothing. No value is delivered after it returns.
+    void cancel();
+    explicit operator bool() const { return static_cast<bool>(m_cancel); }
+
+private:
+    std::function<void()> m_cancel;
+};
+
+} // namespace combine

@@ -1,0 +1,39 @@
+// The one logger to which the module and its toolkit report host mistakes.
+#pragma once
+
+#include <functional>
+#include <source_location>
+#include <string>
+#include <string_view>
+
+namespace commons {
+
+struct LogRecord {
+    int severity = 0;
+    std::string message;
+    std::string function; // as the caller names itself
+    std::string file;
+    unsigned line = 0;
+};
+
+class DefaultLogger {
+public:
+    // On the logger's scale, 4 is an error that was survived.
+    static constexpr int errorSeverity = 4;
+
+    static DefaultLogger& shared();
+
+    // Hands the record to the sink at once, on the calling thread.
+    void log(int severity, std::string_view message, std::string_view function,
+             std::source_location location = std::source_location::current());
+
+    using Sink = std::function<void(const LogRecord&)>;
+
+    // Replaces the sink and returns the previous one. An empty sink restores the default, a line on standard error.
+    Sink setSink(Sink sink);
+
+private:
+    Sink m_sink;
+};
+
+} // namespace commons

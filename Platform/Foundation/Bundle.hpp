@@ -1,0 +1,41 @@
+// A folder of resources and of translations.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace foundation {
+
+class Bundle {
+public:
+    // An absent folder is an empty bundle.
+    explicit Bundle(std::filesystem::path folder);
+    ~Bundle();
+    Bundle(const Bundle&) = delete;
+
+    const std::filesystem::path& folder() const { return m_folder; }
+
+    // The file `name`.`extension` in the bundle's folder or one folder below it, if there is one.
+    std::optional<std::filesystem::path> pathForResource(std::string_view name, std::string_view extension) const;
+
+    // The translation of `key` from <language>.lproj/Localizable.strings, by the current locale's language chain; the key itself
+    // when there is none. Tables are read once; a broken one costs one log line and counts as empty.
+    const std::string& localizedString(const std::string& key) const;
+
+    // The host application's bundle: where texts come from.
+    static const Bundle& main();
+    static void setMain(std::filesystem::path folder);
+
+private:
+    struct Tables;
+    std::filesystem::path m_folder;
+    std::unique_ptr<Tables> m_tables;
+};
+
+// The text for `key` in the host application's bundle. The comment is for translators only.
+std::string localizedString(const std::string& key, std::string_view comment = {});
+
+} // namespace foundation

@@ -1,0 +1,19 @@
+// Sentences with placeholders.
+#pragma once
+
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace foundation {
+
+// Fills %@ (the next argument), %1$@ (that argument, from 1) and %% (a percent sign). A placeholder without an argument
+// becomes nothing; any other character after % is kept as it stands. Arguments are not searched for placeholders.
+std::string format(std::string_view text, std::initializer_list<std::string_view> arguments);
+
+// A decimal number in the C locale, with optional sign, fraction and exponent. The whole text must be the number: absent for an
+// empty text, surrounding blanks, grouping, currency signs, hexadecimal digits, "inf" and "nan".
+std::optional<double> decimalNumber(std::string_view text);
+
+} // namespace foundation

@@ -1,0 +1,32 @@
+// Affine transforms of the plane.
+#pragma once
+
+#include "Platform/Geometry/Geometry.hpp"
+
+namespace geometry {
+
+// Maps (x, y) to (a·x + c·y + tx, b·x + d·y + ty).
+struct Transform {
+    double a = 1, b = 0, c = 0, d = 1, tx = 0, ty = 0;
+
+    static constexpr Transform translation(double x, double y) { return {1, 0, 0, 1, x, y}; }
+    static constexpr Transform scaling(double x, double y) { return {x, 0, 0, y, 0, 0}; }
+    // Clockwise on screen for positive angles, since y grows downwards.
+    static Transform rotation(double angle_rad);
+    // The transform seen from `anchor` instead of from the origin.
+    Transform about(Point anchor) const;
+
+    // First this transform, then `next`.
+    Transform then(const Transform& next) const;
+    // The identity where the transform has no inverse.
+    Transform inverted() const;
+    Point apply(Point p) const;
+    // The bounding rectangle of the mapped rectangle.
+    Rect apply(const Rect& rect) const;
+    constexpr bool isIdentity() const { return *this == Transform{}; }
+    constexpr bool isTranslation() const { return a == 1 && b == 0 && c == 0 && d == 1; }
+
+    constexpr bool operator==(const Transform&) const = default;
+};
+
+} // namespace geometry

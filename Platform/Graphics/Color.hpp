@@ -1,0 +1,39 @@
+// Colours by name, with a light and a dark value.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace graphics {
+
+enum class ColorScheme : std::uint8_t { light, dark };
+
+// Straight (not premultiplied) 8-bit components.
+struct RGBA {
+    std::uint8_t red = 0, green = 0, blue = 0, alpha = 255;
+
+    bool operator==(const RGBA&) const = default;
+};
+
+constexpr RGBA rgb(std::uint32_t hex, std::uint8_t alpha = 255) {
+    return {std::uint8_t(hex >> 16), std::uint8_t(hex >> 8), std::uint8_t(hex), alpha};
+}
+
+struct Color {
+    std::string_view name; // the design system's; names live as long as the process
+    RGBA light;
+    RGBA dark;
+
+    constexpr RGBA resolved(ColorScheme scheme) const { return scheme == ColorScheme::dark ? dark : light; }
+    bool operator==(const Color&) const = default;
+
+    static const Color clear;
+    static const Color black;
+    static const Color white;
+};
+
+inline constexpr Color Color::clear{"clear", {0, 0, 0, 0}, {0, 0, 0, 0}};
+inline constexpr Color Color::black{"black", rgb(0x000000), rgb(0x000000)};
+inline constexpr Color Color::white{"white", rgb(0xFFFFFF), rgb(0xFFFFFF)};
+
+} // namespace graphics

@@ -1,0 +1,76 @@
+// What a surface paints: a flat list of commands, back to front, in window points.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "Platform/Geometry/Path.hpp"
+#include "Platform/Graphics/Image.hpp"
+#include "Platform/Graphics/ShapedText.hpp"
+
+namespace graphics {
+
+// Pixels that somebody else made, a clip's frame for instance. Premultiplied 32-bit ARGB in host byte order, rows without gaps.
+struct Bitmap {
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint32_t> pixels;
+};
+
+enum class CommandKind : std::uint8_t {
+    fillRectangle,        // frame, color
+    fillRoundedRectangle, // frame, cornerRadius, cornerStyle, color
+    strokeRoundedRectangle, // likewise, lineWidth, centred on the frame's edge
+    fillEllipse,          // frame, color
+    strokeEllipse,        // frame, lineWidth, centred on the edge
+    fillPath,             // path, color
+    strokePath,           // path, lineWidth, color
+    image,                // frame, image, scheme; color is the tint of a tinted image
+    bitmap,               // frame, bitmap
+    text,                 // frame.origin is the baseline's left end, text, firstCluster, endCluster, color
+    shadow,               // of a filled frame: color, blurRadius; frame is already offset
+};
+
+// Every command stands for itself: its clip, opacity and transform are complete, so two lists can be compared one by one.
+struct Command {
+    CommandKind kind = CommandKind::fillRectangle;
+    geometry::CornerStyle cornerStyle = geometry::CornerStyle::circular;
+    ColorScheme scheme = ColorScheme::light;
+    RGBA color;
+    float opacity = 1;
+    geometry::Rect frame;
+    geometry::Rect bounds; // what it may touch in the window, clip and transform applied
+    geometry::Rect clip;   // nothing is painted outside; in window points
+    double cornerRadius = 0;
+    double lineWidth = 0;
+    double blurRadius = 0;
+    // Where the clip has rounded corners, their radius; they are those of `roundedClip`, which contains the clip.
+    double clipRadius = 0;
+    geometry::Rect roundedClip;
+    std::int32_t transform = -1; // index into transforms, about the window's origin; -1: none
+    std::int32_t resource = -1;  // index into paths, images, bitmaps or texts, by kind
+    std::uint32_t firstCluster = 0;
+    std::uint32_t endCluster = 0;
+};
+
+class DisplayList {
+public:
+    std::vector<Command> commands;
+    std::vector<geometry::Transform> transforms;
+    std::vector<geometry::Path> paths;
+    std::vector<ImageRef> images;
+    std::vector<std::shared_ptr<const Bitmap>> bitmaps;
+    std::vector<std::shared_ptr<const ShapedText>> texts;
+
+    // Empties the list and keeps its memory.
+    void clear();
+};
+
+// Whether a command of one list paints exactly what a command of another does.
+bool paintsTheSame(const DisplayList& a, const Command& inA, const DisplayList& b, const Command& inB);
+
+// The part of the window in which two lists differ: a few rectangles, empty when they paint the same. Keeps the memory of `result`.
+void findDamage(const DisplayList& before, const DisplayList& after, std::vector<geometry::Rect>& result);
+
+} // namespace graphics

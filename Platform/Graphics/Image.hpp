@@ -1,0 +1,32 @@
+// Images: vector files with a natural size.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "Platform/Geometry/Geometry.hpp"
+#include "Platform/Graphics/Color.hpp"
+
+namespace graphics {
+
+// How an image's colours are used.
+enum class RenderingMode { original, tinted };
+
+class Image {
+public:
+    std::string name;
+    geometry::Size size; // natural size in points
+    std::filesystem::path file;
+    std::optional<std::filesystem::path> darkFile; // shown instead in the dark colour scheme
+    RenderingMode renderingMode = RenderingMode::original;
+
+    const std::filesystem::path& fileFor(ColorScheme scheme) const {
+        return scheme == ColorScheme::dark && darkFile ? *darkFile : file;
+    }
+};
+
+using ImageRef = std::shared_ptr<const Image>;
+
+} // namespace graphics

@@ -1,0 +1,53 @@
+// Writes display lists: keeps the clip, the opacity and the transform that are in force.
+#pragma once
+
+#include "Platform/Graphics/DisplayList.hpp"
+#include "Platform/Graphics/TextLayout.hpp"
+
+namespace graphics {
+
+// What is in force at a place of a tree. Cheap to copy; a parent hands a changed copy to its children.
+struct PaintState {
+    geometry::Point origin;   // of the current coordinates, in window points before `transform`
+    geometry::Rect clip{{-1e9, -1e9}, {2e9, 2e9}}; // in window points
+    geometry::Rect roundedClip;
+    double clipRadius = 0;
+    double opacity = 1;
+    geometry::Transform transform; // about the window's origin
+    ColorScheme scheme = ColorScheme::light;
+
+    PaintState movedBy(geometry::Point delta) const;
+    PaintState clippedTo(const geometry::Rect& rect, double radius = 0) const; // in current coordinates
+    PaintState fadedBy(double opacity) const;
+    PaintState transformedBy(const geometry::Transform& transform) const; // in current coordinates
+    // A rectangle in current coordinates as it stands in the window, transform applied, clip not.
+    geometry::Rect toWindow(const geometry::Rect& rect) const;
+    // True where nothing of the rectangle can be seen.
+    bool hides(const geometry::Rect& rect) const;
+};
+
+// Commands that nothing of can be seen are left out.
+class PaintContext {
+public:
+    explicit PaintContext(DisplayList& list) : m_list(list) {}
+
+    void fillRectangle(const PaintState&, const geometry::Rect&, RGBA);
+    void fillRoundedRectangle(const PaintState&, const geometry::Rect&, double radius, geometry::CornerStyle, RGBA);
+    void strokeRoundedRectangle(const PaintState&, const geometry::Rect&, double radius, geometry::CornerStyle, double lineWidth, RGBA);
+    void fillEllipse(const PaintState&, const geometry::Rect&, RGBA);
+    void strokeEllipse(const PaintState&, const geometry::Rect&, double lineWidth, RGBA);
+    void fillPath(const PaintState&, const geometry::Path&, RGBA);
+    void strokePath(const PaintState&, const geometry::Path&, double lineWidth, RGBA);
+    void image(const PaintState&, const geometry::Rect&, const ImageRef&, RGBA tint = {});
+    void bitmap(const PaintState&, const geometry::Rect&, const std::shared_ptr<const Bitmap>&);
+    // A fragment of a line; `baseline` is its left end.
+    void text(const PaintState&, geometry::Point baseline, const geometry::Rect& lineBox, const std::shared_ptr<const ShapedText>&,
+              std::uint32_t firstCluster, std::uint32_t endCluster, RGBA);
+    // The shadow of a filled rectangle.
+    void shadow(const PaintState&, const geometry::Rect&, double blurRadius, geometry::Point offset, RGBA);
+
+private:
+    DisplayList& m_list;
+};
+
+} // namespace graphics

@@ -1,0 +1,49 @@
+// Text after shaping: clusters with advances, to be wrapped by arithmetic.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "Platform/Graphics/Font.hpp"
+
+namespace graphics {
+
+// What may happen to a line after a cluster.
+enum class LineBreak : std::uint8_t { none, allowed, mandatory };
+
+// A user-perceived character.
+struct Cluster {
+    std::uint32_t textOffset = 0; // bytes
+    std::uint32_t textLength = 0; // bytes
+    double advance = 0;           // points, letter spacing included
+    std::uint16_t run = 0;        // index of its styled run
+    std::uint8_t bidiLevel = 0;   // odd: right to left
+    LineBreak breakAfter = LineBreak::none;
+    bool isWhitespace = false;    // takes no room at a line's end; a line feed has no advance at all
+};
+
+struct StyledRun {
+    std::string text;
+    Font font;
+    double kern = 0; // points added after each cluster
+
+    bool operator==(const StyledRun&) const = default;
+};
+
+struct RunMetrics {
+    double ascent = 0;  // points above the baseline
+    double descent = 0; // points below it; ascent + descent is the line's height
+};
+
+// One text in logical order. A backend's own kind carries its glyphs.
+class ShapedText {
+public:
+    virtual ~ShapedText() = default;
+
+    std::vector<StyledRun> runs;
+    std::vector<RunMetrics> metrics; // one for each run
+    std::vector<Cluster> clusters;
+};
+
+} // namespace graphics

@@ -1,0 +1,61 @@
+// Lines made from shaped text.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "Platform/Geometry/Geometry.hpp"
+#include "Platform/Graphics/ShapedText.hpp"
+
+namespace graphics {
+
+// Neighbouring clusters of one run and one direction, as they stand on a line.
+struct TextFragment {
+    std::uint32_t firstCluster = 0;
+    std::uint32_t endCluster = 0;
+    std::uint16_t run = 0;
+    bool isRightToLeft = false;
+    double x = 0;     // of its left edge, from the line's left edge
+    double width = 0;
+
+    bool operator==(const TextFragment&) const = default;
+};
+
+struct TextLine {
+    std::uint32_t firstCluster = 0;
+    std::uint32_t endCluster = 0;    // without the blanks at its end
+    std::uint32_t firstFragment = 0; // in visual order, left to right
+    std::uint32_t endFragment = 0;
+    double width = 0;
+    double ascent = 0;
+    double height = 0;
+    // The line ends in an ellipsis of `ellipsisWidth`, which `width` includes; it stands at the line's trailing end.
+    bool isTruncated = false;
+    double ellipsisWidth = 0;
+    std::uint16_t ellipsisRun = 0;
+
+    bool operator==(const TextLine&) const = default;
+};
+
+struct TextLayoutRequest {
+    std::optional<double> width;  // absent: never wrapped
+    std::optional<double> height; // absent: no limit; otherwise lines that do not fit are cut, the first one never
+    std::optional<int> lineLimit;
+    double lineSpacing = 0;
+    geometry::LayoutDirection direction = geometry::LayoutDirection::leftToRight;
+    double ellipsisWidth = 0;     // of "…" in the text's font; used when something is cut
+};
+
+struct TextLayout {
+    std::vector<TextLine> lines;
+    std::vector<TextFragment> fragments;
+    geometry::Size size; // the widest line's width, the lines' heights and the spacing between them
+    bool isTruncated = false;
+};
+
+// Greedy wrapping at the allowed breaks; a word wider than the line is broken between clusters. An empty text has one line of
+// no width and its first run's height. Keeps the vectors' memory of `result`.
+void layOutText(const ShapedText& text, const TextLayoutRequest& request, TextLayout& result);
+
+} // namespace graphics

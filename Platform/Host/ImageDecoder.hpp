@@ -1,0 +1,19 @@
+// Supplied by a backend: reading image files.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+
+#include "Platform/Geometry/Geometry.hpp"
+
+namespace host {
+
+class ImageDecoder {
+public:
+    virtual ~ImageDecoder() = default;
+
+    // The natural size in points of the image in the file; absent when there is none that can be read.
+    virtual std::optional<geometry::Size> naturalSize(const std::filesystem::path& file) = 0;
+};
+
+} // namespace host

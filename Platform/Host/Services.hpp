@@ -1,0 +1,37 @@
+// The one place where a backend's services are installed.
+#pragma once
+
+#include <memory>
+
+#include "Platform/Foundation/Locale.hpp"
+#include "Platform/Host/ImageDecoder.hpp"
+#include "Platform/Host/TextShaper.hpp"
+
+namespace host {
+
+class ClipDecoder;
+
+struct Services {
+    std::shared_ptr<TextShaper> textShaper;
+    std::shared_ptr<ImageDecoder> imageDecoder;
+    std::shared_ptr<ClipDecoder> clipDecoder; // null: clips stay empty
+    std::shared_ptr<const foundation::LocaleServices> localeServices; // null: the built-in ones
+};
+
+// Installs services for as long as it lives; the newest installation counts.
+class Installation {
+public:
+    explicit Installation(Services services);
+    ~Installation();
+    Installation(const Installation&) = delete;
+
+    // The newest installation's services. Stops the program when there is none.
+    static const Services& current();
+
+private:
+    Services m_services;
+    Installation* m_previous;
+    std::shared_ptr<const foundation::LocaleServices> m_previousLocale;
+};
+
+} // namespace host

@@ -1,0 +1,23 @@
+// Supplied by a backend: shaping.
+#pragma once
+
+#include <memory>
+#include <span>
+#include <string_view>
+
+#include "Platform/Geometry/Geometry.hpp"
+#include "Platform/Graphics/ShapedText.hpp"
+
+namespace host {
+
+class TextShaper {
+public:
+    virtual ~TextShaper() = default;
+
+    // Shapes the runs as one text. `language` is a tag such as "de-AT" and steers line breaks and glyph forms; `direction` is the
+    // paragraph's. At least one run; its text may be empty.
+    virtual std::shared_ptr<const graphics::ShapedText> shape(std::span<const graphics::StyledRun> runs, std::string_view language,
+                                                             geometry::LayoutDirection direction) = 0;
+};
+
+} // namespace host

@@ -1,0 +1,43 @@
+// What a backend's window shows and feeds with input.
+#pragma once
+
+#include <functional>
+
+#include "Platform/Accessibility/Node.hpp"
+#include "Platform/Graphics/DisplayList.hpp"
+
+namespace host {
+
+enum class TouchPhase { began, moved, ended, cancelled };
+
+// One finger, or the mouse with its button held.
+struct Touch {
+    TouchPhase phase = TouchPhase::began;
+    geometry::Point location; // window points
+    double time_s = 0;        // on the main run loop's clock
+};
+
+enum class Key { escape, tab, backTab, activate, up, down, left, right };
+
+class WindowContent {
+public:
+    virtual ~WindowContent() = default;
+
+    virtual void setSize(geometry::Size size, geometry::PhysicalInsets safeArea) = 0;
+    virtual void touch(const Touch& touch) = 0;
+    // A wheel or trackpad: moves the scroll view under `location` by `delta` points.
+    virtual void scroll(geometry::Point location, geometry::Point delta) = 0;
+    // Returns whether the key meant something.
+    virtual bool key(Key key) = 0;
+
+    // Writes what the window shows at the main run loop's time.
+    virtual void paint(graphics::DisplayList& list) = 0;
+    // Whether the picture changes by itself, so that a frame should follow at the next refresh.
+    virtual bool isAnimating() const = 0;
+    // Told when the picture has changed.
+    virtual void setNeedsDisplayHandler(std::function<void()> handler) = 0;
+
+    virtual accessibility::Node semanticTree() = 0;
+};
+
+} // namespace host
