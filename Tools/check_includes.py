@@ -1,0 +1,100 @@
+#!/usr/bin/env python3
+"""Holds every include against the house's arrows.
+
+usage: check_includes.py ROOT
+
+A room may include itself and the rooms below it. ProUpsells/ and Platform/ include nothing but the project's own
+headers and the C++ standard library's. A backend includes Platform/ and its library. Exit status 1 when an include
+points up or out, one line each."""
+import pathlib
+import re
+import sys
+
+# From the top down; rooms in one row never include each other.
+FLOORS = [
+    ["ProUpsells"],
+    ["Platform/VelaUIKit"],
+    ["Platform/LumoKit"],
+    ["Platform/Hosting"],
+    ["Platform/SwiftUI", "Platform/UIKit"],
+    ["Platform/Host"],
+    ["Platform/Accessibility"],
+    ["Platform/Graphics"],
+    ["Platform/Foundation"],
+    ["Platform/Combine"],
+    ["Platform/RunLoop"],
+    ["Platform/Motion"],
+    ["Platform/Geometry"],
+    ["Platform/Commons"],
+]
+FLOOR_OF = {room: number for number, floor in enumerate(FLOORS) for room in floor}
+
+STANDARD = set("""algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv chrono cinttypes
+climits clocale cmath compare complex concepts condition_variable coroutine csetjmp csignal cstdarg cstddef cstdint cstdio
+cstdlib cstring ctime cuchar cwchar cwctype deque exception execution filesystem format forward_list fstream functional future
+initializer_list iomanip ios iosfwd iostream istream iterator latch limits list locale map memory memory_resource mutex new
+numbers numeric optional ostream queue random ranges ratio regex scoped_allocator semaphore set shared_mutex source_location
+span sstream stack stdexcept stop_token streambuf string string_view strstream syncstream system_error thread tuple type_traits
+typeindex typeinfo unordered_map unordered_set utility valarray variant vector version""".split())
+
+INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
+
+
+def room_of(path: str) -> str | None:
+    parts = path.split("/")
+    if parts[0] == "ProUpsells":
+        return "ProUpsells"
+    if parts[0] in ("Platform", "Backends") and len(parts) > 1:
+        return "/".join(parts[:2])
+    return None
+
+
+def complaint(source_room: str, bracket: str, target: str) -> str | None:
+    target_room = room_of(target)
+    if source_room.startswith("Backends/"):
+        if target_room == "ProUpsells":
+            return "a backend never includes ProUpsells/"
+        if target_room and target_room.startswith("Backends/") and target_room != source_room:
+            return "a backend never includes another backend"
+        return None
+    if bracket == "<":
+        return None if target in STANDARD else "only the C++ standard library may be included with <>"
+    if target_room is None:
+        return "only the project's own headers may be included with quotes"
+    if target_room.startswith("Backends/"):
+        return "the module and its platform never include a backend"
+    if target_room not in FLOOR_OF:
+        return f"{target_room} is not a room"
+    if target_room == source_room:
+        return None
+    if FLOOR_OF[target_room] <= FLOOR_OF[source_room]:
+        return f"{source_room} stands below or beside {target_room}"
+    return None
+
+
+def main() -> int:
+    if len(sys.argv) != 2:
+        print(__doc__, file=sys.stderr)
+        return 2
+    root = pathlib.Path(sys.argv[1])
+    failures = files = 0
+    for top in ("ProUpsells", "Platform", "Backends"):
+        for path in sorted(p for p in (root / top).rglob("*") if p.suffix in (".hpp", ".cpp")):
+            files += 1
+            relative = path.relative_to(root).as_posix()
+            room = room_of(relative)
+            if not room.startswith("Backends/") and room not in FLOOR_OF:
+                print(f"{relative}: {room} is not a room")
+                failures += 1
+                continue
+            for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+                if match := INCLUDE.match(line):
+                    if why := complaint(room, *match.groups()):
+                        print(f"{relative}:{number}: {match.group(2)}: {why}")
+                        failures += 1
+    print(f"{files} files, {failures} includes point the wrong way")
+    return 1 if failures or not files else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
