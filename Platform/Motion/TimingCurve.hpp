@@ -3,7 +3,7 @@
 
 namespace motion {
 
-// A cubic Bézier curve from (0, 0) to (1, 1), given by its two control points.
+// A cubic Bézier curve from (0, 0) to (1, 1), given by its two control points, whose x are cut to [0, 1].
 struct TimingCurve {
     double x1 = 0, y1 = 0, x2 = 1, y2 = 1;
 
@@ -24,7 +24,7 @@ struct Animation {
     double duration_s = 0.35;
     double delay_s = 0;
 
-    // Progress in [0, 1] at a time after the start; 0 during the delay.
+    // Progress at a time after the start: 0 during the delay, 1 from the end on (at once where the duration is 0).
     double progressAt(double elapsed_s) const;
     double end_s() const { return delay_s + duration_s; }
 
