@@ -7,8 +7,14 @@ class MainActor {
 public:
     MainActor() = delete;
 
-    // Stops the program when called on another thread than the one that created the first main run loop.
+    // Stops the program when called on another thread than the one that created the first main run loop. Before there was one,
+    // every thread will do.
     static void assertIsolated();
+
+private:
+    friend class MainRunLoop;
+    // The first call makes the calling thread the main thread for the life of the process.
+    static void adoptCurrentThread();
 };
 
 } // namespace runloop

@@ -1,71 +1,23 @@
 // The main run loop: everything that happens at a time happens here, in one order, on any clock.
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
-#include <vector>
+
+#include "Platform/RunLoop/Clock.hpp"
+#include "Platform/RunLoop/Timer.hpp"
+#include "Platform/RunLoop/UpdateClient.hpp"
 
 namespace runloop {
 
-// Tells the time that the loop runs on, in seconds. Never goes back.
-class Clock {
-public:
-    virtual ~Clock() = default;
-    virtual double now_s() const = 0;
-};
-
-// Stands still until it is told to move.
-class VirtualClock final : public Clock {
-public:
-    double now_s() const override { return m_now_s; }
-    void advanceTo(double time_s);
-
-private:
-    double m_now_s = 0;
-};
-
-// Seconds since its creation.
-class RealClock final : public Clock {
-public:
-    RealClock();
-    double now_s() const override;
-
-private:
-    std::int64_t m_start_ns;
-};
-
-// One piece of scheduled work, once or repeating. Letting go of the pointer does not cancel it.
-class Timer {
-public:
-    // A one-shot is valid until it has fired, a repeating timer until it is invalidated.
-    bool isValid() const { return m_isValid; }
-    void invalidate() { m_isValid = false; m_callback = nullptr; }
-
-private:
-    friend class MainRunLoop;
-    std::function<void()> m_callback;
-    double m_due_s = 0;
-    double m_start_s = 0;
-    double m_interval_s = 0; // 0 for a one-shot
-    std::uint64_t m_tick = 0;
-    std::uint64_t m_sequence = 0;
-    bool m_isValid = true;
-};
-
-// Something that is brought up to date at the end of a turn, at most once a turn for each request.
-class UpdateClient {
-public:
-    virtual ~UpdateClient() = default;
-    virtual void update() = 0;
-};
-
 // Orders work by (due time, sequence number). A turn is the due callbacks of one moment, then the updates that they
 // caused; repeating timers that fired are re-armed at the turn's end, on their own grid, with new sequence numbers.
+// All of it, scheduling included, belongs to the main thread.
 class MainRunLoop {
 public:
     explicit MainRunLoop(std::shared_ptr<Clock> clock);
+    // Drops what waits. Stops the program inside a turn of its own.
     ~MainRunLoop();
     MainRunLoop(const MainRunLoop&) = delete;
     MainRunLoop& operator=(const MainRunLoop&) = delete;
@@ -74,12 +26,17 @@ public:
     static MainRunLoop& main();
     static bool exists();
 
-    // Inside a callback or an update: the due time of the turn. Outside: the clock's time.
+    // Inside a callback or an update: the due time of the turn, however late the clock is. Outside: the clock's time.
     double now_s() const;
+    // Whether a callback or an update runs at present.
+    bool isInTurn() const;
 
-    // Counts from now_s(). A negative or not-a-number delay counts as 0; work due now runs in a later turn of the same moment.
+    // Counts from now_s(). A negative or not-a-number delay counts as 0, an infinite one never comes; work due now runs in a
+    // later turn of the same moment.
     std::shared_ptr<Timer> schedule(double delay_s, std::function<void()> callback);
-    // First fires one interval from now_s(). The interval must be positive; otherwise stops the program.
+    // First fires one interval from now_s(), then on the grid start + n × interval. After a stall of the clock it fires once, for
+    // the earliest point that was missed, and goes on with the first point that still lies ahead. The interval must be positive
+    // and finite; otherwise stops the program.
     std::shared_ptr<Timer> scheduleRepeating(double interval_s, std::function<void()> callback);
 
     // Updates run in the order of the first request of a turn; a request made during the updates is served in the same turn,
@@ -88,18 +45,29 @@ public:
 
     // When the next turn is due; absent when nothing waits.
     std::optional<double> nextDueTime_s() const;
-    // Runs every turn due up to the clock's time.
+    // Runs every turn due up to the clock's time as it is on entry. Inside a turn (a nested event loop of the host) it does
+    // nothing; the outer call goes on afterwards.
     void runDueTurns();
-    // Virtual clock only: moves through every turn due up to and including `time_s`, then stands there.
+    // Virtual clock only: moves through every turn due up to and including `time_s`, then stands there. The time must be finite.
+    // Stops the program inside a turn.
     void runUntil(double time_s);
-    // Runs the updates and work due at this very moment, without letting time pass: all of runUntil(now_s()).
+    // Runs the updates and work due at this very moment, without letting time pass: all of runUntil(now_s()). Stops the program
+    // inside a turn.
     void settle();
 
-    // Told whenever nextDueTime_s() may have become earlier; a backend re-arms its wake-up there.
+    // Told outside turns whenever nextDueTime_s() may have become earlier; a backend re-arms its wake-up there. Told at once when
+    // something waits already.
     void setWakeUpHandler(std::function<void()> handler);
 
 private:
     struct State;
+    void runTurnsUntil(double limit_s);
+    void runTurn(double moment_s);
+    void fire(const std::shared_ptr<Timer>& timer);
+    void rearmFiredTimers();
+    std::shared_ptr<Timer> enqueue(std::shared_ptr<Timer> timer);
+    void wakeUpIfEarlierThan(std::optional<double> previous_s);
+
     std::unique_ptr<State> m_state;
 };
 

@@ -1,0 +1,36 @@
+// Where the run loop's time comes from.
+#pragma once
+
+#include <cstdint>
+
+namespace runloop {
+
+// Tells the time that the loop runs on, in seconds. Never goes back.
+class Clock {
+public:
+    virtual ~Clock() = default;
+    virtual double now_s() const = 0;
+};
+
+// Starts at 0 and stands still until it is told to move.
+class VirtualClock final : public Clock {
+public:
+    double now_s() const override { return m_now_s; }
+    // A time that has passed already (or is not a number) changes nothing.
+    void advanceTo(double time_s);
+
+private:
+    double m_now_s = 0;
+};
+
+// Seconds since its creation.
+class RealClock final : public Clock {
+public:
+    RealClock();
+    double now_s() const override;
+
+private:
+    std::int64_t m_start_ns;
+};
+
+} // namespace runloop

@@ -1,0 +1,13 @@
+// What takes part in the update at the end of a turn.
+#pragma once
+
+namespace runloop {
+
+// Something that is brought up to date at the end of a turn, at most once a turn for each request.
+class UpdateClient {
+public:
+    virtual ~UpdateClient() = default;
+    virtual void update() = 0;
+};
+
+} // namespace runloop
