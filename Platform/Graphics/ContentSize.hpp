@@ -1,0 +1,30 @@
+// How large a person wants texts to be.
+#pragma once
+
+#include <cstdint>
+
+namespace graphics {
+
+enum class ContentSizeCategory : std::uint8_t {
+    extraSmall,
+    small,
+    medium,
+    large, // the normal size
+    extraLarge,
+    extraExtraLarge,
+    extraExtraExtraLarge,
+    accessibilityMedium,
+    accessibilityLarge,
+    accessibilityExtraLarge,
+    accessibilityExtraExtraLarge,
+    accessibilityExtraExtraExtraLarge,
+};
+inline constexpr int contentSizeCategoryCount = 12;
+
+// By how much a category makes texts larger than the normal size.
+constexpr double scaleFactor(ContentSizeCategory category) {
+    constexpr double bodySizes[contentSizeCategoryCount] = {14, 15, 16, 17, 19, 21, 23, 28, 33, 40, 47, 53};
+    return bodySizes[int(category)] / 17;
+}
+
+} // namespace graphics

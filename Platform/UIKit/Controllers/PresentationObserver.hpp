@@ -1,0 +1,17 @@
+// Told of what is presented and dismissed, when it is asked for.
+#pragma once
+
+#include "Platform/UIKit/Controllers/UIViewController.hpp"
+
+namespace uikit {
+
+class PresentationObserver {
+public:
+    virtual ~PresentationObserver() = default;
+
+    // `size` is the one that the controller will have.
+    virtual void willPresent(UIViewController& controller, UIViewController& content, UIModalPresentationStyle style, geometry::Size size) = 0;
+    virtual void willDismiss(UIViewController& controller, UIViewController& content) = 0;
+};
+
+} // namespace uikit

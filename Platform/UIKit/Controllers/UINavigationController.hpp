@@ -1,0 +1,37 @@
+// A bar with a title and a button above one controller's view.
+#pragma once
+
+#include "Platform/UIKit/Controllers/UIViewController.hpp"
+
+namespace uikit {
+
+class UINavigationBar;
+
+class UINavigationController : public UIViewController {
+    struct Creation {};
+
+public:
+    explicit UINavigationController(Creation) {}
+    static constexpr double barHeight = 56;
+
+    static std::shared_ptr<UINavigationController> create(std::shared_ptr<UIViewController> root);
+    std::string_view typeName() const override { return "UINavigationController"; }
+
+    UIViewController* topViewController() const { return children().empty() ? nullptr : children().back().get(); }
+    UIViewController& contentViewController() override;
+    // The bar's background; the content's begins below the bar.
+    void setBarBackgroundColor(const UIColor& color);
+
+    void viewDidLoad() override;
+    void viewDidLayoutSubviews() override;
+
+private:
+    friend class UIViewController;
+
+    void updateBar();
+
+    std::shared_ptr<UINavigationBar> m_bar;
+    UIColor m_barBackgroundColor = {"systemBackground", graphics::rgb(0xFFFFFF), graphics::rgb(0x000000)};
+};
+
+} // namespace uikit

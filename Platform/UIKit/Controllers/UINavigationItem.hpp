@@ -1,0 +1,16 @@
+// What a controller shows in a navigation bar.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "Platform/UIKit/Controls/UIBarButtonItem.hpp"
+
+namespace uikit {
+
+struct UINavigationItem {
+    std::string title; // empty: the controller's title
+    std::optional<UIBarButtonItem> rightBarButtonItem; // stands at the trailing end
+};
+
+} // namespace uikit

@@ -1,0 +1,139 @@
+// Rules over one view and what is in it: loading, appearing, containment and presentation.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "Platform/UIKit/Controllers/UIModalPresentationStyle.hpp"
+#include "Platform/UIKit/Controllers/UINavigationItem.hpp"
+#include "Platform/UIKit/Views/UIView.hpp"
+
+namespace uikit {
+
+class UINavigationController;
+
+// Made with std::make_shared, or with the static `create` of classes whose making needs a weak reference to the new controller. Parents own
+// children, presenters own what they present, a controller owns its view.
+class UIViewController : public UIResponder {
+public:
+    UIViewController() = default;
+    ~UIViewController() override;
+
+    std::string_view typeName() const override { return "UIViewController"; }
+
+    // --- View ---
+
+    // Loads the view on first use.
+    const std::shared_ptr<UIView>& view();
+    UIView* viewIfLoaded() const { return m_view.get(); }
+    bool isViewLoaded() const { return m_view != nullptr; }
+    UIResponder* nextResponder() const override;
+
+    // Makes the view and hands it to setView; a plain view unless overridden.
+    virtual void loadView();
+    virtual void viewDidLoad() {}
+    virtual void viewWillAppear(bool /*animated*/) {}
+    virtual void viewDidAppear(bool /*animated*/) {}
+    virtual void viewWillDisappear(bool /*animated*/) {}
+    virtual void viewDidDisappear(bool /*animated*/) {}
+    virtual void viewDidLayoutSubviews() {}
+    virtual void viewSafeAreaInsetsDidChange() {}
+
+    const std::string& title() const { return m_title; }
+    void setTitle(std::string title);
+    const UINavigationItem& navigationItem() const { return m_navigationItem; }
+    void setNavigationItem(UINavigationItem item);
+    void setRightBarButtonItem(UIBarButtonItem item);
+
+    // --- Traits ---
+
+    // The view's; before it is in a window, those of the place that the controller is made for, as far as that is known.
+    UITraitCollection traitCollection() const;
+    // Told of changes while the view is shown.
+    virtual void traitCollectionDidChange(const UITraitCollection& /*previous*/) {}
+
+    // --- Containment ---
+
+    UIViewController* parent() const { return m_parent; }
+    // In the order in which they were added.
+    const std::vector<std::shared_ptr<UIViewController>>& children() const { return m_children; }
+    // Takes the child from its former parent and tells it that it will move; telling it that it did (didMoveToParent) is the caller's. A
+    // child appears and disappears with its view, as far as this controller appears.
+    void addChild(const std::shared_ptr<UIViewController>& child);
+    // Tells the controller that it did move. Telling it before (willMoveToParent(nullptr)) is the caller's.
+    void removeFromParent();
+    virtual void willMoveToParent(UIViewController* /*parent*/) {}
+    virtual void didMoveToParent(UIViewController* /*parent*/) {}
+    // The nearest navigation controller around this one; null for none.
+    UINavigationController* navigationController() const;
+    // What a container shows in the first place: a navigation controller's top controller, otherwise the controller itself.
+    virtual UIViewController& contentViewController() { return *this; }
+
+    // --- Presentation ---
+
+    UIModalPresentationStyle modalPresentationStyle() const { return m_modalPresentationStyle; }
+    void setModalPresentationStyle(UIModalPresentationStyle style) { m_modalPresentationStyle = style; }
+    // Zero: none.
+    geometry::Size preferredContentSize() const { return m_preferredContentSize; }
+    void setPreferredContentSize(geometry::Size size) { m_preferredContentSize = size; }
+
+    // Shows `controller` over the window, on behalf of this controller's outermost parent, which must be in a window. Ignored with one
+    // log line when that parent presents already, or is in no window. While another presentation or dismissal is on its way, this one
+    // waits for it. `completion` runs after viewDidAppear.
+    void present(const std::shared_ptr<UIViewController>& controller, bool animated, std::function<void()> completion = {});
+    // Takes away what this controller or one of its parents presents, with all that stands on it; if they present nothing, takes away the
+    // presented one of them itself. Waits like `present`. Does nothing where nothing is presented.
+    void dismiss(bool animated, std::function<void()> completion = {});
+
+    // What this controller or one of its parents presents; null for none. Stays until it has gone.
+    UIViewController* presentedViewController() const;
+    // Who presents this controller or one of its parents; null for none.
+    UIViewController* presentingViewController() const;
+    bool isBeingPresented() const { return m_isBeingPresented; }
+    bool isBeingDismissed() const { return m_isBeingDismissed; }
+
+    // Whether the appearance calls say that the view can be seen.
+    bool isAppeared() const { return m_appearance == Appearance::appeared; }
+
+protected:
+    void setView(std::shared_ptr<UIView> view);
+
+private:
+    friend class UIView;
+    friend class UIWindow;
+    friend class PresentationStack;
+
+    enum class Appearance { disappeared, appearing, appeared, disappearing };
+
+    const UIViewController& outermostParent() const;
+    UIViewController& outermostParent();
+    UIWindow* window() const;
+    bool viewStandsIn(const UIViewController& parent) const;
+    // Begins and ends what the appearance calls announce; children whose views stand in this one's follow.
+    void beginAppearance(bool appearing, bool animated);
+    void endAppearance();
+    // Brings a child to where its parent is, after one of them moved.
+    void followParent();
+    void navigationItemChanged();
+    geometry::PhysicalInsets expectedSafeArea() const;
+
+    std::shared_ptr<UIView> m_view;
+    std::string m_title;
+    UINavigationItem m_navigationItem;
+
+    UIViewController* m_parent = nullptr;
+    std::vector<std::shared_ptr<UIViewController>> m_children;
+
+    std::shared_ptr<UIViewController> m_presented;
+    UIViewController* m_presenting = nullptr;
+    UIModalPresentationStyle m_modalPresentationStyle = UIModalPresentationStyle::automatic;
+    geometry::Size m_preferredContentSize;
+
+    Appearance m_appearance = Appearance::disappeared;
+    bool m_appearanceIsAnimated = false;
+    bool m_isBeingPresented = false;
+    bool m_isBeingDismissed = false;
+};
+
+} // namespace uikit

@@ -1,0 +1,82 @@
+// The outermost view: stands between a backend's window and the controllers that fill it.
+#pragma once
+
+#include <memory>
+
+#include "Platform/RunLoop/MainRunLoop.hpp"
+#include "Platform/UIKit/Controllers/PresentationObserver.hpp"
+#include "Platform/UIKit/Controllers/UIViewController.hpp"
+
+namespace uikit {
+
+class PresentationStack;
+class TouchRouter;
+
+// Layout and picture changes of one turn of the run loop are brought together in one update at the turn's end.
+class UIWindow : public UIView, public host::WindowContent, public runloop::UpdateClient {
+    struct Creation {};
+
+public:
+    explicit UIWindow(Creation);
+    static std::shared_ptr<UIWindow> create(geometry::Size size = {}, geometry::PhysicalInsets safeArea = {});
+    ~UIWindow() override;
+    std::string_view typeName() const override { return "UIWindow"; }
+
+    // Appears at once. Null takes the former one away, with all that is presented.
+    void setRootViewController(std::shared_ptr<UIViewController> controller);
+    UIViewController* rootViewController() const { return m_root.get(); }
+
+    // What the person sees, except horizontalSizeClass, which follows the width.
+    void setTraits(const UITraitCollection& traits);
+    const UITraitCollection& traits() const { return m_windowTraits; }
+    geometry::PhysicalInsets windowSafeArea() const { return m_safeArea; }
+
+    // The presented controller in front of all others; the root controller when nothing is presented; null without one.
+    UIViewController* frontMostViewController() const;
+    // Whether a presentation or dismissal is on its way or waits for its turn.
+    bool isTransitioning() const;
+    // Held weakly.
+    void setPresentationObserver(std::weak_ptr<PresentationObserver> observer);
+
+    // --- host::WindowContent ---
+    void setSize(geometry::Size size, geometry::PhysicalInsets safeArea) override;
+    void touch(const host::Touch& touch) override;
+    void scroll(geometry::Point location, geometry::Point delta) override;
+    // Tab moves the focus ring through the controls of the front-most presentation, activate taps the one in focus.
+    bool key(host::Key key) override;
+    void paint(graphics::DisplayList& list) override;
+    bool isAnimating() const override;
+    void setNeedsDisplayHandler(std::function<void()> handler) override;
+    // Of the front-most presentation, from its controller's view on.
+    accessibility::Node semanticTree() override;
+
+    void update() override;
+    UIWindow* window() const override { return const_cast<UIWindow*>(this); }
+    UITraitCollection traitsForSubviews() const override { return m_windowTraits; }
+
+protected:
+    void subtreeNeedsLayout() override;
+    void subtreeNeedsDisplay() override;
+
+private:
+    friend class UIViewController;
+
+    PresentationStack& presentations() { return *m_presentations; }
+    void traitsDidChange(const UITraitCollection& traits);
+    void requestUpdate();
+    std::vector<accessibility::Node> focusableControls();
+    void moveFocus(int step);
+    void paintFocusRing(graphics::PaintContext& context, const graphics::PaintState& state);
+
+    std::shared_ptr<UIViewController> m_root;
+    std::unique_ptr<PresentationStack> m_presentations;
+    std::unique_ptr<TouchRouter> m_touches;
+    UITraitCollection m_windowTraits;
+    geometry::PhysicalInsets m_safeArea;
+    std::function<void()> m_needsDisplayHandler;
+    bool m_needsDisplay = false;
+    bool m_updateIsRequested = false;
+    std::optional<std::size_t> m_focus; // index among the focusable controls
+};
+
+} // namespace uikit

@@ -1,0 +1,30 @@
+// A button whose content is given by its maker.
+#pragma once
+
+#include "Platform/UIKit/Controls/UIControl.hpp"
+
+namespace uikit {
+
+// Of the custom type: no title, tint or background of its own. Shows its image at its natural size in the centre, and its subviews,
+// which should not take touches. Answers a finger by dimming.
+class UIButton : public UIControl {
+public:
+    UIButton();
+    std::string_view typeName() const override { return "UIButton"; }
+
+    const UIImage& image() const { return m_image; }
+    void setImage(UIImage image);
+
+    // The image's size.
+    geometry::Size intrinsicContentSize() const override;
+
+protected:
+    void draw(graphics::PaintContext& context, const graphics::PaintState& state) const override;
+    void describe(accessibility::Node& node, const graphics::PaintState& state) const override;
+    double presentationAlpha() const override;
+
+private:
+    UIImage m_image;
+};
+
+} // namespace uikit

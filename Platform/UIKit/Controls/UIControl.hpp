@@ -1,0 +1,83 @@
+// Views that a person operates, and the actions that they send.
+#pragma once
+
+#include <functional>
+
+#include "Platform/UIKit/Views/UIView.hpp"
+
+namespace uikit {
+
+class UIControl : public UIView {
+public:
+    enum class Event { touchDown, touchDragEnter, touchDragExit, touchUpInside, touchUpOutside, touchCancel, valueChanged };
+
+    std::string_view typeName() const override { return "UIControl"; }
+
+    // Calls `action` on `target`, which is held weakly, whenever `event` happens; targets are told in the order in which they were added.
+    template <class Target>
+    void addTarget(const std::weak_ptr<Target>& target, void (Target::*action)(UIControl&), Event event) {
+        addTarget(target, [action](Target& receiver, UIControl& sender) { (receiver.*action)(sender); }, event);
+    }
+    template <class Target>
+    void addTarget(const std::weak_ptr<Target>& target, void (Target::*action)(), Event event) {
+        addTarget(target, [action](Target& receiver, UIControl&) { (receiver.*action)(); }, event);
+    }
+    template <class Target>
+    void addTarget(const std::weak_ptr<Target>& target, std::function<void(Target&, UIControl&)> action, Event event) {
+        Target* const address = target.lock().get();
+        addEntry({std::weak_ptr<void>(target), address, event, {}, [action = std::move(action), address](UIControl& sender) { action(*address, sender); }});
+    }
+    // Without a target: the action goes up the responder chain from here until somebody answers it.
+    void addTarget(std::nullptr_t, Selector action, Event event) { addEntry({{}, nullptr, event, action, {}}); }
+    // A closure of the control's own. It must not own the control.
+    void addAction(std::function<void(UIControl&)> action, Event event) { addEntry({{}, nullptr, event, {}, std::move(action)}); }
+    // Takes away all of the target's actions for the event.
+    void removeTarget(const void* target, Event event);
+
+    // Runs the actions of `event`. An action may change the list, and release the control.
+    void sendActions(Event event);
+
+    bool isEnabled() const { return m_isEnabled; }
+    void setEnabled(bool enabled);
+    // While a finger is down inside.
+    bool isHighlighted() const { return m_isHighlighted; }
+    bool isSelected() const { return m_isSelected; }
+    void setSelected(bool selected);
+    // From the finger's coming down to its lifting.
+    bool isTracking() const { return m_isTracking; }
+
+    // A disabled control takes touches and does nothing with them.
+    void touchesBegan(const UITouch& touch) override;
+    void touchesMoved(const UITouch& touch) override;
+    void touchesEnded(const UITouch& touch) override;
+    void touchesCancelled(const UITouch& touch) override;
+    UIView* hitTest(geometry::Point point) override;
+
+    // What assistive technology does instead of a tap; touchUpInside unless overridden.
+    virtual void activate() { sendActions(Event::touchUpInside); }
+
+protected:
+    // How far outside the bounds a finger may wander and still counts as inside.
+    static constexpr double trackingMargin = 70;
+
+    void setHighlighted(bool highlighted);
+    void describe(accessibility::Node& node, const graphics::PaintState& state) const override;
+
+private:
+    struct Entry {
+        std::weak_ptr<void> target;
+        const void* address = nullptr; // null: no target
+        Event event = Event::touchUpInside;
+        Selector selector;
+        std::function<void(UIControl&)> action;
+    };
+    void addEntry(Entry entry);
+
+    std::vector<Entry> m_entries;
+    bool m_isEnabled = true;
+    bool m_isHighlighted = false;
+    bool m_isSelected = false;
+    bool m_isTracking = false;
+};
+
+} // namespace uikit

@@ -1,0 +1,25 @@
+// The retained layer's names for what lower rooms supply, and its small enumerations.
+#pragma once
+
+#include "Platform/Graphics/AttributedString.hpp"
+#include "Platform/Graphics/Color.hpp"
+#include "Platform/Graphics/Font.hpp"
+#include "Platform/Graphics/Image.hpp"
+
+namespace uikit {
+
+using UIColor = graphics::Color;
+using UIFont = graphics::Font;
+using UIImage = graphics::ImageRef; // null: no image
+
+enum class Axis { horizontal, vertical };
+
+// Where an axis has no natural length.
+inline constexpr double noIntrinsicMetric = -1;
+
+using UILayoutPriority = double;
+inline constexpr UILayoutPriority layoutPriorityRequired = 1000;
+inline constexpr UILayoutPriority layoutPriorityHigh = 750;
+inline constexpr UILayoutPriority layoutPriorityLow = 250;
+
+} // namespace uikit

@@ -1,0 +1,21 @@
+// A finger on the way through the views.
+#pragma once
+
+#include "Platform/Host/WindowContent.hpp"
+
+namespace uikit {
+
+class UIView;
+
+struct UITouch {
+    host::TouchPhase phase = host::TouchPhase::began;
+    geometry::Point windowLocation;
+    geometry::Point startWindowLocation; // where the finger came down
+    double time_s = 0;
+
+    // The finger in the coordinates of `view`.
+    geometry::Point location(const UIView& view) const;
+    geometry::Point startLocation(const UIView& view) const;
+};
+
+} // namespace uikit

@@ -1,0 +1,238 @@
+// A rectangle on the screen: what it looks like, what is inside it, and how it is laid out.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Platform/Accessibility/Node.hpp"
+#include "Platform/Geometry/Transform.hpp"
+#include "Platform/Graphics/PaintContext.hpp"
+#include "Platform/UIKit/Views/UIKitTypes.hpp"
+#include "Platform/UIKit/Views/UIResponder.hpp"
+#include "Platform/UIKit/Views/UITraitCollection.hpp"
+
+namespace uikit {
+
+class NSLayoutConstraint;
+class UIViewController;
+class UIWindow;
+
+// Made with std::make_shared. A view owns its subviews; everything else that points to a view does so weakly.
+class UIView : public UIResponder {
+public:
+    UIView() = default;
+    explicit UIView(const geometry::Rect& frame);
+    ~UIView() override;
+
+    std::string_view typeName() const override { return "UIView"; }
+
+    // --- Hierarchy ---
+
+    UIView* superview() const { return m_superview; }
+    // Back to front.
+    const std::vector<std::shared_ptr<UIView>>& subviews() const { return m_subviews; }
+    // In front of all others. A view that stands somewhere else is moved. Adding a view to itself or to one inside it stops the program.
+    void addSubview(const std::shared_ptr<UIView>& view);
+    void insertSubview(const std::shared_ptr<UIView>& view, std::size_t index);
+    // `sibling` must be a subview; otherwise stops the program.
+    void insertSubviewAbove(const std::shared_ptr<UIView>& view, const UIView& sibling);
+    void insertSubviewBelow(const std::shared_ptr<UIView>& view, const UIView& sibling);
+    void removeFromSuperview();
+    // True for the view itself too.
+    bool isDescendantOf(const UIView& view) const;
+    // Null while the view is in no window.
+    virtual UIWindow* window() const;
+    // The controller whose root view this is; null for all others.
+    UIViewController* viewController() const { return m_viewController; }
+    UIResponder* nextResponder() const override;
+
+    virtual void didAddSubview(UIView&) {}
+    virtual void willRemoveSubview(UIView&) {}
+    virtual void didMoveToSuperview() {}
+    virtual void didMoveToWindow() {}
+
+    // --- Geometry ---
+
+    // In the superview's coordinates, before `transform`.
+    const geometry::Rect& frame() const { return m_frame; }
+    void setFrame(const geometry::Rect& frame);
+    // The view's own coordinates; the origin is not 0 in a scrolled view.
+    geometry::Rect bounds() const { return {m_boundsOrigin, m_frame.size}; }
+    void setBounds(const geometry::Rect& bounds);
+    void setBoundsOrigin(geometry::Point origin);
+    geometry::Point center() const { return m_frame.center(); }
+    void setCenter(geometry::Point center);
+    // About the centre. Moves what is painted and touched, not the layout.
+    const geometry::Transform& transform() const { return m_transform; }
+    void setTransform(const geometry::Transform& transform);
+
+    // Between this view's coordinates and those of `view`; null means the window's, or the outermost view's.
+    geometry::Point convertTo(geometry::Point point, const UIView* view) const;
+    geometry::Point convertFrom(geometry::Point point, const UIView* view) const;
+    geometry::Rect convertTo(const geometry::Rect& rect, const UIView* view) const;
+
+    // --- Layout ---
+
+    void setNeedsLayout();
+    // Lays out this view and what is inside it now, as far as it is due.
+    void layoutIfNeeded();
+    // Places the subviews. Runs after the pinned and the constrained ones have got their frames.
+    virtual void layoutSubviews() {}
+    bool needsLayout() const { return m_needsLayout; }
+
+    // Keeps the view at these distances from its superview's edges from the next layout on. Absent: the frame is left alone.
+    void fillSuperview(const geometry::EdgeInsets& insets = {}) { setSuperviewInsets(insets); }
+    void setSuperviewInsets(const std::optional<geometry::EdgeInsets>& insets);
+    const std::optional<geometry::EdgeInsets>& superviewInsets() const { return m_superviewInsets; }
+
+    // The natural size; noIntrinsicMetric where an axis has none.
+    virtual geometry::Size intrinsicContentSize() const { return {noIntrinsicMetric, noIntrinsicMetric}; }
+    // Tells whoever lays this view out that its natural size is another one now.
+    void invalidateIntrinsicContentSize();
+    virtual void subviewDidInvalidateIntrinsicContentSize(UIView&) {}
+    // The size that suits the view where it is offered `proposal`; its natural size, or where it has none the offer.
+    virtual geometry::Size sizeThatFits(const geometry::ProposedSize& proposal) const;
+
+    UILayoutPriority contentHuggingPriority(Axis axis) const { return m_hugging[std::size_t(axis)]; }
+    void setContentHuggingPriority(UILayoutPriority priority, Axis axis);
+    UILayoutPriority contentCompressionResistancePriority(Axis axis) const { return m_compressionResistance[std::size_t(axis)]; }
+    void setContentCompressionResistancePriority(UILayoutPriority priority, Axis axis);
+
+    // Whether the frame stands as it was set. Set to false to let constraints decide.
+    bool translatesAutoresizingMaskIntoConstraints() const { return m_translatesAutoresizingMask; }
+    void setTranslatesAutoresizingMaskIntoConstraints(bool translates);
+    // The constraints that this view holds, in the order in which they were added.
+    const std::vector<std::shared_ptr<NSLayoutConstraint>>& constraints() const { return m_constraints; }
+
+    // --- Traits and safe area ---
+
+    // The window's traits as they arrive here; before the view is in a window, those of the place that it is made for.
+    UITraitCollection traitCollection() const;
+    // Told of changes while the view is shown, not of the first traits.
+    virtual void traitCollectionDidChange(const UITraitCollection& previous);
+    // What a subview inherits.
+    virtual UITraitCollection traitsForSubviews() const { return traitCollection(); }
+    bool isRightToLeft() const { return traitCollection().layoutDirection == geometry::LayoutDirection::rightToLeft; }
+
+    // How much of each edge is under the window's unsafe edges. Known before the view is in the window, when its controller is.
+    geometry::PhysicalInsets safeAreaInsets() const;
+    // The view's coordinates without the unsafe edges.
+    geometry::Rect safeAreaRect() const;
+    virtual void safeAreaInsetsDidChange() {}
+
+    // --- Appearance ---
+
+    const std::optional<UIColor>& backgroundColor() const { return m_backgroundColor; }
+    void setBackgroundColor(const std::optional<UIColor>& color);
+    double alpha() const { return m_alpha; }
+    void setAlpha(double alpha);
+    bool isHidden() const { return m_isHidden; }
+    void setHidden(bool hidden);
+    bool clipsToBounds() const { return m_clipsToBounds; }
+    void setClipsToBounds(bool clips);
+    // Of the background, and of the clip where there is one.
+    double cornerRadius() const { return m_cornerRadius; }
+    void setCornerRadius(double radius);
+    // The superview's, up to the first one that is set; absent when none is.
+    std::optional<UIColor> tintColor() const;
+    void setTintColor(const std::optional<UIColor>& color);
+
+    // Says that the picture is another one now.
+    void setNeedsDisplay();
+    // Paints the view and what is inside it. `state` is the superview's.
+    void paint(graphics::PaintContext& context, const graphics::PaintState& state) const;
+    // True when the view paints every point of `rect`, in its own coordinates, so that nothing behind it can be seen.
+    virtual bool covers(const geometry::Rect& rect) const;
+    // Whether the picture changes by itself, in this view or inside it.
+    virtual bool isAnimating() const;
+
+    // --- Touches ---
+
+    bool isUserInteractionEnabled() const { return m_isUserInteractionEnabled; }
+    void setUserInteractionEnabled(bool enabled);
+    // The front-most view at `point`, in this view's coordinates, that takes touches; null for none.
+    virtual UIView* hitTest(geometry::Point point);
+    virtual bool pointInside(geometry::Point point) const { return bounds().contains(point); }
+    // Asked, from the touched view outwards, for the first touch and for each of its moves: true takes the touch away from the view that
+    // has it, which is told that it was cancelled.
+    virtual bool takesOverTouch(const UITouch&) { return false; }
+    // A wheel: moves what the view shows by `delta` and returns true, or returns false to let the superview try.
+    virtual bool scrollBy(geometry::Point location, geometry::Point delta);
+    // Scrolls by as little as makes `rect`, in this view's coordinates, visible in all scroll views around it, at once.
+    virtual void scrollRectToVisible(const geometry::Rect& rect);
+
+    // --- Accessibility ---
+
+    std::string accessibilityIdentifier;
+    std::string accessibilityLabel;
+    accessibility::Traits accessibilityTraits = accessibility::Traits::none;
+    virtual std::string accessibilityValue() const { return m_accessibilityValue; }
+    void setAccessibilityValue(std::string value) { m_accessibilityValue = std::move(value); }
+
+    // The view and what is inside it, as it stands now. `state` is the superview's.
+    accessibility::Node semanticNode(const graphics::PaintState& state) const;
+
+protected:
+    // Paints what is above the background and below the subviews, in the view's coordinates.
+    virtual void draw(graphics::PaintContext&, const graphics::PaintState&) const {}
+    virtual void paintSubviews(graphics::PaintContext& context, const graphics::PaintState& state) const;
+    // Adds what is particular to the class.
+    virtual void describe(accessibility::Node&, const graphics::PaintState&) const {}
+    virtual void appendSubviewNodes(std::vector<accessibility::Node>& nodes, const graphics::PaintState& state) const;
+    // A change of the coordinates that is seen only: painted, touched and described, but not laid out.
+    virtual geometry::Transform presentationTransform() const { return m_transform; }
+    // Likewise of the opacity.
+    virtual double presentationAlpha() const { return m_alpha; }
+    graphics::RGBA resolved(const UIColor& color) const { return color.resolved(traitCollection().userInterfaceStyle); }
+    // Asks for a layout pass of the window; the outermost view of a window does it.
+    virtual void subtreeNeedsLayout();
+    virtual void subtreeNeedsDisplay();
+
+private:
+    friend class UIViewController;
+    friend class UIWindow;
+    friend class NSLayoutConstraint;
+
+    void detach(std::size_t index);
+    void movedToWindow(UIWindow* window);
+    void adoptTraits(const UITraitCollection& traits);
+    void forgetTraits();
+    void adoptSafeArea();
+    void layOutPinnedSubviews();
+    void layOutTree();
+    geometry::Transform toSuperview() const;
+    graphics::PaintState contentState(const graphics::PaintState& state) const;
+
+    UIView* m_superview = nullptr;
+    std::vector<std::shared_ptr<UIView>> m_subviews;
+    UIViewController* m_viewController = nullptr;
+    UIWindow* m_window = nullptr;
+
+    geometry::Rect m_frame;
+    geometry::Point m_boundsOrigin;
+    geometry::Transform m_transform;
+    std::optional<geometry::EdgeInsets> m_superviewInsets;
+
+    bool m_needsLayout = true;
+    bool m_subtreeNeedsLayout = true;
+    bool m_translatesAutoresizingMask = true;
+    bool m_isHidden = false;
+    bool m_clipsToBounds = false;
+    bool m_isUserInteractionEnabled = true;
+
+    UILayoutPriority m_hugging[2] = {layoutPriorityLow, layoutPriorityLow};
+    UILayoutPriority m_compressionResistance[2] = {layoutPriorityHigh, layoutPriorityHigh};
+    std::vector<std::shared_ptr<NSLayoutConstraint>> m_constraints;
+
+    std::optional<UITraitCollection> m_traits; // while in a window
+    geometry::PhysicalInsets m_lastSafeArea;
+
+    std::optional<UIColor> m_backgroundColor;
+    std::optional<UIColor> m_tintColor;
+    double m_alpha = 1;
+    double m_cornerRadius = 0;
+    std::string m_accessibilityValue;
+};
+
+} // namespace uikit
