@@ -22,8 +22,8 @@ DefaultLogger& DefaultLogger::shared() {
     return logger;
 }
 
-void DefaultLogger::log(int severity, std::string_view message, std::string_view function, std::source_location location) {
-    const LogRecord record{severity, std::string(message), std::string(function), location.file_name(), location.line()};
+void DefaultLogger::log(int severity, std::string_view message, std::string_view function, SourceLocation location) {
+    const LogRecord record{severity, std::string(message), std::string(function), location.file, location.line};
     if (!m_sink) return writeToStandardError(record);
     // A copy, because the sink may replace itself.
     const Sink sink = m_sink;

@@ -2,9 +2,10 @@
 #pragma once
 
 #include <functional>
-#include <source_location>
 #include <string>
 #include <string_view>
+
+#include "Platform/Commons/SourceLocation.hpp"
 
 namespace commons {
 
@@ -25,7 +26,7 @@ public:
 
     // Hands the record to the sink at once, on the calling thread.
     void log(int severity, std::string_view message, std::string_view function,
-             std::source_location location = std::source_location::current());
+             SourceLocation location = SourceLocation::current());
 
     using Sink = std::function<void(const LogRecord&)>;
 
