@@ -6,7 +6,7 @@
 
 namespace combine {
 
-// Cancels its subscription when it is destroyed. Move-only; an empty token does nothing.
+// Cancels its subscription when it is destroyed or replaced. Move-only; an empty token does nothing.
 class AnyCancellable {
 public:
     AnyCancellable() = default;

@@ -1,16 +1,21 @@
 // A stream of values without memory.
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "Platform/Combine/AnyCancellable.hpp"
+#include "Platform/Combine/AnyPublisher.hpp"
 
 namespace combine {
 
-// Delivers synchronously, in the order of subscription. From inside a delivery a receiver may send, subscribe (the new
-// subscriber sees only later values), cancel anyone (a cancelled one gets nothing more, this value included) and destroy the subject.
+// Delivers synchronously, in the order of subscription. From inside a delivery a receiver may send (delivered at once, before the
+// rest of the outer value's receivers get theirs), subscribe (the new subscriber sees only later values), cancel anyone (a cancelled
+// one gets nothing more, this value included) and destroy the subject (the value under way still reaches everyone else).
 template <class Value>
 class PassthroughSubject {
 public:
@@ -20,23 +25,17 @@ public:
     PassthroughSubject(const PassthroughSubject&) = delete;
     PassthroughSubject& operator=(const PassthroughSubject&) = delete;
 
-    void send(const Value& value) const {
-        const auto list = m_list;
-        const std::size_t count = list->receivers.size();
-        ++list->deliveries;
-        for (std::size_t i = 0; i < count; ++i)
-            if (const auto receiver = list->receivers[i]; receiver && receiver->receive) receiver->receive(value);
-        if (--list->deliveries == 0) list->sweep();
-    }
+    // Sending does not allocate.
+    void send(const Value& value) const { List::deliver(m_list, value); }
 
-    [[nodiscard]] AnyCancellable sink(Receiver receiver) const {
-        auto entry = std::make_shared<Entry>(Entry{std::move(receiver)});
-        m_list->receivers.push_back(entry);
-        return AnyCancellable{[entry = std::weak_ptr(entry), list = std::weak_ptr(m_list)] {
-            const auto held = entry.lock();
-            if (!held) return;
-            held->isCancelled = true;
-            if (const auto alive = list.lock()) alive->cancelled(held);
+    // The subscription lasts as long as the token or the subject, whichever ends first.
+    [[nodiscard]] AnyCancellable sink(Receiver receiver) const { return List::subscribe(m_list, std::move(receiver)); }
+
+    // Does not keep the subject alive; subscribing after the subject's end delivers nothing.
+    AnyPublisher<Value> eraseToAnyPublisher() const {
+        return AnyPublisher<Value>{[list = std::weak_ptr(m_list)](Receiver receiver) {
+            const auto living = list.lock();
+            return living ? List::subscribe(living, std::move(receiver)) : AnyCancellable{};
         }};
     }
 
@@ -45,13 +44,50 @@ private:
         Receiver receive;
         bool isCancelled = false;
     };
-    struct List {
-        std::vector<std::shared_ptr<Entry>> receivers;
-        int deliveries = 0;
+    using EntryPointer = std::shared_ptr<Entry>;
 
-        void cancelled(const std::shared_ptr<Entry>&);
-        void sweep();
+    // Shared, so that it outlives its subject while a delivery is under way.
+    struct List {
+        std::vector<EntryPointer> entries;
+        int deliveries = 0; // nested ones included
+        bool hasCancelledEntries = false;
+
+        static AnyCancellable subscribe(const std::shared_ptr<List>& list, Receiver receiver) {
+            auto entry = std::make_shared<Entry>(Entry{std::move(receiver)});
+            list->entries.push_back(entry);
+            return AnyCancellable{[entry = std::weak_ptr(entry), list = std::weak_ptr(list)] {
+                const auto living = entry.lock();
+                if (!living) return;
+                living->isCancelled = true;
+                if (const auto owner = list.lock()) owner->removeCancelled();
+            }};
+        }
+
+        static void deliver(std::shared_ptr<List> list, const Value& value) {
+            // Those who subscribe from now on stand behind this count; nobody is taken out while it is in use.
+            const std::size_t count = list->entries.size();
+            ++list->deliveries;
+            for (std::size_t i = 0; i < count; ++i) {
+                // A copy, because a new subscriber may make the list move.
+                const EntryPointer entry = list->entries[i];
+                if (!entry->isCancelled && entry->receive) entry->receive(value);
+            }
+            --list->deliveries;
+            if (list->hasCancelledEntries) list->removeCancelled();
+        }
+
+        // Receivers are let go only after the list is in order again: what they hold may cancel and subscribe when it goes.
+        void removeCancelled() {
+            hasCancelledEntries = deliveries > 0;
+            if (deliveries > 0) return;
+            std::vector<EntryPointer> cancelled;
+            const auto end = std::stable_partition(entries.begin(), entries.end(),
+                                                   [](const EntryPointer& entry) { return !entry->isCancelled; });
+            cancelled.assign(std::move_iterator(end), std::move_iterator(entries.end()));
+            entries.erase(end, entries.end());
+        }
     };
+
     std::shared_ptr<List> m_list;
 };
 

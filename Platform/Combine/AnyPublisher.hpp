@@ -1,0 +1,30 @@
+// A stream of values whose source is hidden.
+#pragma once
+
+#include <functional>
+#include <utility>
+
+#include "Platform/Combine/AnyCancellable.hpp"
+
+namespace combine {
+
+// Wraps the way to subscribe. A default one never delivers.
+template <class Value>
+class AnyPublisher {
+public:
+    using Receiver = std::function<void(const Value&)>;
+    using Subscribe = std::function<AnyCancellable(Receiver)>;
+
+    AnyPublisher() = default;
+    explicit AnyPublisher(Subscribe subscribe) : m_subscribe(std::move(subscribe)) {}
+
+    // The subscription lasts as long as the token.
+    [[nodiscard]] AnyCancellable sink(Receiver receiver) const {
+        return m_subscribe ? m_subscribe(std::move(receiver)) : AnyCancellable{};
+    }
+
+private:
+    Subscribe m_subscribe;
+};
+
+} // namespace combine
