@@ -1,0 +1,36 @@
+#include "Platform/Foundation/ResourceFolder.hpp"
+
+#include <system_error>
+#include <utility>
+
+namespace foundation {
+
+namespace {
+
+std::filesystem::path& resourceRoot() {
+    static std::filesystem::path root;
+    return root;
+}
+
+std::filesystem::path programFolder() {
+    std::error_code error;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+    return error ? std::filesystem::path{} : program.parent_path();
+}
+
+} // namespace
+
+std::filesystem::path resourceFolder(std::string_view name, const std::filesystem::path& builtFrom,
+                                     const std::filesystem::path& installedTo) {
+    const std::filesystem::path shared = programFolder().parent_path() / "share" / "proupsells" / name;
+    for (const auto& candidate : {resourceRoot().empty() ? std::filesystem::path{} : resourceRoot() / name, shared, builtFrom,
+                                  installedTo.empty() ? installedTo : installedTo / name}) {
+        std::error_code error;
+        if (!candidate.empty() && std::filesystem::is_directory(candidate, error)) return candidate;
+    }
+    return builtFrom;
+}
+
+void setResourceRoot(std::filesystem::path folder) { resourceRoot() = std::move(folder); }
+
+} // namespace foundation

@@ -1,0 +1,35 @@
+// Reading and writing UTF-8.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace foundation {
+
+// Stands for what is no character.
+inline constexpr char32_t replacementCharacter = U'\uFFFD';
+
+// One step of decoding. `length` is in bytes, at least 1; what is not well-formed counts as a replacement character per maximal
+// ill-formed part, as every other decoder does it.
+struct DecodedCharacter {
+    char32_t value = 0;
+    std::size_t length = 1;
+    bool isValid = true;
+};
+
+// The character that begins at `offset`, which must be below the text's length.
+DecodedCharacter decodeUtf8(std::string_view text, std::size_t offset);
+
+// Adds one character; a surrogate or a value beyond U+10FFFF becomes a replacement character.
+void appendUtf8(std::string& text, char32_t character);
+
+// Where the first ill-formed part begins, in bytes; absent in valid UTF-8.
+std::optional<std::size_t> firstInvalidUtf8(std::string_view text);
+inline bool isValidUtf8(std::string_view text) { return !firstInvalidUtf8(text); }
+
+// The text with a replacement character for every ill-formed part.
+std::string repairedUtf8(std::string_view text);
+
+} // namespace foundation
