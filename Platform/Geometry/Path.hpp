@@ -18,6 +18,10 @@ public:
     void lineTo(Point p);
     void cubicTo(Point control1, Point control2, Point end);
     void close();
+    // Keeps the memory.
+    void clear();
+    // Maps every point.
+    void transform(const Transform& transform);
 
     static Path rectangle(const Rect& rect);
     static Path ellipse(const Rect& rect);

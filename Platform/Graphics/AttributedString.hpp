@@ -38,8 +38,10 @@ struct AttributedRun {
 class AttributedString {
 public:
     AttributedString() = default;
+    // No run at all for an empty text.
     AttributedString(std::string text, TextAttributes attributes);
 
+    // Neighbouring runs of equal attributes become one. The paragraph style is the other's where this text has none.
     void append(const AttributedString& other);
     const std::vector<AttributedRun>& runs() const { return m_runs; }
     // All runs' texts, one after the other.

@@ -24,12 +24,12 @@ enum class CommandKind : std::uint8_t {
     strokeRoundedRectangle, // likewise, lineWidth, centred on the frame's edge
     fillEllipse,          // frame, color
     strokeEllipse,        // frame, lineWidth, centred on the edge
-    fillPath,             // path, color
-    strokePath,           // path, lineWidth, color
+    fillPath,             // path, color; frame is the path's bounds
+    strokePath,           // path, lineWidth, color; likewise; round joins and ends
     image,                // frame, image, scheme; color is the tint of a tinted image
     bitmap,               // frame, bitmap
-    text,                 // frame.origin is the baseline's left end, text, firstCluster, endCluster, color
-    shadow,               // of a filled frame: color, blurRadius; frame is already offset
+    text,                 // frame.origin is the baseline's left end, frame.size the line box's; text, firstCluster, endCluster, color
+    shadow,               // of a filled frame: color, blurRadius; frame is already offset; fades out within twice the blur radius
 };
 
 // Every command stands for itself: its clip, opacity and transform are complete, so two lists can be compared one by one.
@@ -58,13 +58,24 @@ class DisplayList {
 public:
     std::vector<Command> commands;
     std::vector<geometry::Transform> transforms;
-    std::vector<geometry::Path> paths;
+    std::vector<geometry::Path> paths; // in window points; past those in use, spare ones may follow
     std::vector<ImageRef> images;
     std::vector<std::shared_ptr<const Bitmap>> bitmaps;
     std::vector<std::shared_ptr<const ShapedText>> texts;
 
     // Empties the list and keeps its memory.
     void clear();
+
+    // Each adds a resource, unless the one added last is the same, and returns its index.
+    std::int32_t addTransform(const geometry::Transform& transform);
+    std::int32_t addImage(const ImageRef& image);
+    std::int32_t addBitmap(const std::shared_ptr<const Bitmap>& bitmap);
+    std::int32_t addText(const std::shared_ptr<const ShapedText>& text);
+    // Copies the path, moved by `offset`, into a spare one.
+    std::int32_t addPath(const geometry::Path& path, geometry::Point offset);
+
+private:
+    std::size_t m_pathCount = 0;
 };
 
 // Whether a command of one list paints exactly what a command of another does.

@@ -47,6 +47,10 @@ public:
     void shadow(const PaintState&, const geometry::Rect&, double blurRadius, geometry::Point offset, RGBA);
 
 private:
+    // Null where nothing of `touched` can be seen.
+    Command* add(const PaintState& state, CommandKind kind, const geometry::Rect& frame, const geometry::Rect& touched);
+    geometry::Point windowOffset(const PaintState& state) const;
+
     DisplayList& m_list;
 };
 

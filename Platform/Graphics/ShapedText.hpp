@@ -14,7 +14,7 @@ enum class LineBreak : std::uint8_t { none, allowed, mandatory };
 
 // A user-perceived character.
 struct Cluster {
-    std::uint32_t textOffset = 0; // bytes
+    std::uint32_t textOffset = 0; // bytes, counted through all runs' texts
     std::uint32_t textLength = 0; // bytes
     double advance = 0;           // points, letter spacing included
     std::uint16_t run = 0;        // index of its styled run

@@ -16,7 +16,7 @@ struct TextFragment {
     std::uint32_t endCluster = 0;
     std::uint16_t run = 0;
     bool isRightToLeft = false;
-    double x = 0;     // of its left edge, from the line's left edge
+    double x = 0;     // of its left edge, from the line's left edge (where a right-to-left line has its ellipsis)
     double width = 0;
 
     bool operator==(const TextFragment&) const = default;
@@ -52,10 +52,13 @@ struct TextLayout {
     std::vector<TextFragment> fragments;
     geometry::Size size; // the widest line's width, the lines' heights and the spacing between them
     bool isTruncated = false;
+    double lineSpacing = 0; // as requested, between two lines
+    geometry::LayoutDirection direction = geometry::LayoutDirection::leftToRight; // as requested
 };
 
 // Greedy wrapping at the allowed breaks; a word wider than the line is broken between clusters. An empty text has one line of
-// no width and its first run's height. Keeps the vectors' memory of `result`.
+// no width and its first run's height; one that ends in a line feed has an empty last line. The last line of a cut text is filled
+// with as much of the text as leaves room for the ellipsis. Keeps the vectors' memory of `result`.
 void layOutText(const ShapedText& text, const TextLayoutRequest& request, TextLayout& result);
 
 } // namespace graphics
