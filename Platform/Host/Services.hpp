@@ -18,7 +18,7 @@ struct Services {
     std::shared_ptr<const foundation::LocaleServices> localeServices; // null: the built-in ones
 };
 
-// Installs services for as long as it lives; the newest installation counts.
+// Installs services for as long as it lives; the newest installation counts. Main thread only.
 class Installation {
 public:
     explicit Installation(Services services);
@@ -27,6 +27,9 @@ public:
 
     // The newest installation's services. Stops the program when there is none.
     static const Services& current();
+    static bool exists();
+    // The newest installation's text shaper. Stops the program when there is none.
+    static TextShaper& textShaper();
 
 private:
     Services m_services;

@@ -1,0 +1,50 @@
+#include "Platform/Host/Services.hpp"
+
+#include <utility>
+
+#include "Platform/Commons/FatalError.hpp"
+#include "Platform/Host/TextCache.hpp"
+
+namespace host {
+
+namespace {
+
+Installation* newest = nullptr;
+
+} // namespace
+
+Installation::Installation(Services services)
+    : m_services(std::move(services)), m_previous(newest),
+      m_previousLocale(foundation::LocaleServices::setCurrent(m_services.localeServices)) {
+    newest = this;
+    TextCache::shared().clear();
+}
+
+Installation::~Installation() {
+    // Shaped texts hold a backend's fonts, which must not outlive the backend.
+    TextCache::shared().clear();
+    if (newest == this) {
+        newest = m_previous;
+        foundation::LocaleServices::setCurrent(m_previousLocale);
+        return;
+    }
+    Installation* above = newest;
+    while (above->m_previous != this) above = above->m_previous;
+    above->m_previous = m_previous;
+    above->m_previousLocale = m_previousLocale;
+}
+
+const Services& Installation::current() {
+    if (!newest) commons::fatalError("No services are installed: create a host::Installation before the first view");
+    return newest->m_services;
+}
+
+bool Installation::exists() { return newest != nullptr; }
+
+TextShaper& Installation::textShaper() {
+    TextShaper* shaper = current().textShaper.get();
+    if (!shaper) commons::fatalError("No text shaper is installed: host::Services::textShaper is null, and a text is to be measured");
+    return *shaper;
+}
+
+} // namespace host
