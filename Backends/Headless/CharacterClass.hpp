@@ -1,0 +1,27 @@
+// What the fixed-metrics shaper knows about characters, by Unicode block.
+#pragma once
+
+namespace headless {
+
+// Ends a line and takes no room: line feed, carriage return, U+0085, U+2028, U+2029 and their like.
+bool isParagraphEnd(char32_t character);
+// Blanks at which a line may break; no-break spaces are not among them.
+bool isBreakingSpace(char32_t character);
+// Hyphens and dashes after which a line may break.
+bool isHyphen(char32_t character);
+bool isDigit(char32_t character);
+// A Han, kana or Hangul character: a line may break before and after it.
+bool isIdeograph(char32_t character);
+// Punctuation that does not begin a line, or does not end one.
+bool isClosing(char32_t character);
+bool isOpening(char32_t character);
+// Letters of scripts written from right to left.
+bool isHebrewLetter(char32_t character);
+bool isArabicLetter(char32_t character);
+bool isArabicDigit(char32_t character);
+// Letters of scripts written from left to right.
+bool isLeftToRightLetter(char32_t character);
+// Stands by a number without being one: a sign of currency, per cent, degree.
+bool isNumberTerminator(char32_t character);
+
+} // namespace headless
