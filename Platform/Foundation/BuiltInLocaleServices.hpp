@@ -1,0 +1,19 @@
+// The locale services that need no library.
+#pragma once
+
+#include "Platform/Foundation/LocaleServices.hpp"
+
+namespace foundation {
+
+// English and ASCII; see LocaleServices.
+class BuiltInLocaleServices final : public LocaleServices {
+public:
+    std::optional<std::string> percentText(double fraction, int maximumFractionDigits, const Locale& locale) const override;
+    std::string upperCased(std::string_view text, const Locale& locale) const override;
+    std::string titleCased(std::string_view text, const Locale& locale) const override;
+    std::size_t graphemeCount(std::string_view text) const override;
+    std::vector<std::size_t> graphemeEnds(std::string_view text) const override;
+    geometry::LayoutDirection layoutDirection(const Locale& locale) const override;
+};
+
+} // namespace foundation

@@ -1,0 +1,40 @@
+// What a backend knows about languages.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Platform/Geometry/Geometry.hpp"
+
+namespace foundation {
+
+class Locale;
+
+// Locale data that the standard library does not have. A backend supplies it; the built-in one formats and changes case as in
+// English with ASCII letters, takes every code point for a user-perceived character (CR LF for one), and knows which languages and
+// scripts run from right to left. Texts are UTF-8; what is ill-formed in them does no harm.
+class LocaleServices {
+public:
+    virtual ~LocaleServices() = default;
+
+    // 0.45 becomes "45%" in English, rounded half to even to at most `maximumFractionDigits`; absent when it cannot be formatted.
+    virtual std::optional<std::string> percentText(double fraction, int maximumFractionDigits, const Locale& locale) const = 0;
+    virtual std::string upperCased(std::string_view text, const Locale& locale) const = 0;
+    // Each word's first letter upper, the rest lower.
+    virtual std::string titleCased(std::string_view text, const Locale& locale) const = 0;
+    // User-perceived characters.
+    virtual std::size_t graphemeCount(std::string_view text) const = 0;
+    // Byte offsets at which a user-perceived character ends, ascending; the last one is the text's length.
+    virtual std::vector<std::size_t> graphemeEnds(std::string_view text) const = 0;
+    virtual geometry::LayoutDirection layoutDirection(const Locale& locale) const = 0;
+
+    static const LocaleServices& current();
+    // Null restores the built-in services. Returns the previous ones (null for the built-in ones).
+    static std::shared_ptr<const LocaleServices> setCurrent(std::shared_ptr<const LocaleServices> services);
+};
+
+} // namespace foundation
