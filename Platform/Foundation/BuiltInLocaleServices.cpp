@@ -4,6 +4,7 @@
 #include <cmath>
 #include <initializer_list>
 
+#include "Platform/Foundation/Ascii.hpp"
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/Foundation/PercentText.hpp"
 #include "Platform/Foundation/Utf8.hpp"
@@ -12,18 +13,9 @@ namespace foundation {
 
 namespace {
 
-// The C functions follow the process's locale; these do not.
-char upper(char letter) { return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter; }
-char lower(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter; }
-
 bool isInWord(char c) {
     const bool isAscii = static_cast<unsigned char>(c) < 0x80;
-    return !isAscii || (c >= '0' && c <= '9') || lower(c) != upper(c) || c == '\'';
-}
-
-std::string lowerCased(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(), lower);
-    return text;
+    return !isAscii || (c >= '0' && c <= '9') || asciiLower(c) != asciiUpper(c) || c == '\'';
 }
 
 bool contains(std::initializer_list<std::string_view> list, std::string_view item) {
@@ -47,7 +39,7 @@ std::optional<std::string> BuiltInLocaleServices::percentText(double fraction, i
 
 std::string BuiltInLocaleServices::upperCased(std::string_view text, const Locale&) const {
     std::string result(text);
-    std::transform(result.begin(), result.end(), result.begin(), upper);
+    std::transform(result.begin(), result.end(), result.begin(), asciiUpper);
     return result;
 }
 
@@ -55,7 +47,7 @@ std::string BuiltInLocaleServices::titleCased(std::string_view text, const Local
     std::string result(text);
     bool isInsideWord = false;
     for (char& c : result) {
-        c = isInsideWord ? lower(c) : upper(c);
+        c = isInsideWord ? asciiLower(c) : asciiUpper(c);
         isInsideWord = isInWord(c);
     }
     return result;
@@ -79,9 +71,9 @@ geometry::LayoutDirection BuiltInLocaleServices::layoutDirection(const Locale& l
     };
     const auto& chain = locale.languageChain();
     if (chain.empty()) return geometry::LayoutDirection::leftToRight;
-    const std::string language = lowerCased(chain.back());
+    const std::string language = asciiLowerCased(chain.back());
     // A script says more than the language: Punjabi runs either way. It is the only part of four letters.
-    const std::string parts = lowerCased(chain.front()) + "-";
+    const std::string parts = asciiLowerCased(chain.front()) + "-";
     for (std::size_t begin = 0, end; (end = parts.find('-', begin)) != std::string::npos; begin = end + 1)
         if (begin > 0 && end - begin == 4 && std::none_of(parts.begin() + begin, parts.begin() + end, [](char c) { return c <= '9'; }))
             return directionIf(contains({"arab", "hebr", "syrc", "thaa", "nkoo", "adlm", "aran", "rohg", "mand", "samr"},

@@ -11,22 +11,25 @@ namespace foundation {
 
 class Bundle {
 public:
-    // An absent folder is an empty bundle.
+    // An absent folder, like an empty path, is an empty bundle.
     explicit Bundle(std::filesystem::path folder);
     ~Bundle();
     Bundle(const Bundle&) = delete;
+    Bundle& operator=(const Bundle&) = delete;
 
     const std::filesystem::path& folder() const { return m_folder; }
 
-    // The file `name`.`extension` in the bundle's folder or one folder below it, if there is one.
+    // The file `name`.`extension` in the bundle's folder or one folder below it (by name), if there is one. An empty extension means `name`.
     std::optional<std::filesystem::path> pathForResource(std::string_view name, std::string_view extension) const;
 
     // The translation of `key` from <language>.lproj/Localizable.strings, by the current locale's language chain; the key itself
-    // when there is none. Tables are read once; a broken one costs one log line and counts as empty.
+    // when there is none. Folder names match in any case, with "-" or "_". Tables are read once; a broken one costs one log line and
+    // counts as empty. Main thread only.
     const std::string& localizedString(const std::string& key) const;
 
-    // The host application's bundle: where texts come from.
+    // The host application's bundle: where texts come from. Empty until it is set.
     static const Bundle& main();
+    // Texts and bundles handed out before are no longer valid.
     static void setMain(std::filesystem::path folder);
 
 private:

@@ -1,0 +1,17 @@
+// Case of ASCII letters; the C functions would follow the process's locale.
+#pragma once
+
+#include <algorithm>
+#include <string>
+
+namespace foundation {
+
+constexpr char asciiUpper(char letter) { return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter; }
+constexpr char asciiLower(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter; }
+
+inline std::string asciiLowerCased(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(), asciiLower);
+    return text;
+}
+
+} // namespace foundation

@@ -1,0 +1,146 @@
+#include "Platform/Foundation/Bundle.hpp"
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+#include <system_error>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/Foundation/Ascii.hpp"
+#include "Platform/Foundation/Locale.hpp"
+#include "Platform/Foundation/StringsFile.hpp"
+#include "Platform/RunLoop/MainActor.hpp"
+
+namespace foundation {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view languageFolderExtension = ".lproj";
+
+// Sorted by name, because folders are listed in no particular order. Empty when the folder cannot be read.
+std::vector<fs::path> subfolders(const fs::path& folder) {
+    std::vector<fs::path> found;
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+        std::error_code ignored;
+        if (entry->is_directory(ignored)) found.push_back(entry->path());
+    }
+    std::sort(found.begin(), found.end());
+    return found;
+}
+
+bool isFile(const fs::path& path) {
+    std::error_code ignored;
+    return fs::is_regular_file(path, ignored);
+}
+
+std::string normalised(std::string_view name) {
+    std::string result = asciiLowerCased(std::string(name));
+    std::replace(result.begin(), result.end(), '_', '-');
+    return result;
+}
+
+// Absent when it is no file or cannot be read to its end.
+std::optional<std::string> readFile(const fs::path& path) {
+    std::error_code error;
+    if (!fs::is_regular_file(path, error)) return std::nullopt;
+    const auto size = fs::file_size(path, error);
+    std::ifstream stream(path, std::ios::binary);
+    if (error || !stream) return std::nullopt;
+    std::string bytes(size, '\0');
+    if (!stream.read(bytes.data(), static_cast<std::streamsize>(size))) return std::nullopt;
+    return bytes;
+}
+
+void logUnusable(const std::string& place, std::string_view reason) {
+    commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity,
+                                         place + ": " + std::string(reason) + "; none of its translations are used",
+                                         "Bundle.localizedString");
+}
+
+// Empty when there is no such file. One that is there and cannot be used costs a log line.
+StringsFile::Texts readTexts(const fs::path& path) {
+    std::error_code ignored;
+    if (!fs::exists(path, ignored)) return {};
+    const auto bytes = readFile(path);
+    if (!bytes) {
+        logUnusable(path.string(), "the file cannot be read");
+        return {};
+    }
+    StringsFile file = StringsFile::parse(*bytes);
+    if (file.error) logUnusable(path.string() + ":" + std::to_string(file.error->line), file.error->message);
+    return std::move(file.texts);
+}
+
+} // namespace
+
+struct Bundle::Tables {
+    explicit Tables(const fs::path& folder) {
+        if (folder.empty()) return;
+        for (const fs::path& subfolder : subfolders(folder)) {
+            const std::string name = normalised(subfolder.filename().string());
+            if (!name.ends_with(languageFolderExtension)) continue;
+            folders.emplace(name.substr(0, name.size() - languageFolderExtension.size()), subfolder);
+        }
+    }
+
+    const StringsFile::Texts& forLanguage(const std::string& language) {
+        const auto known = byLanguage.find(language);
+        if (known != byLanguage.end()) return known->second;
+        const auto folder = folders.find(normalised(language));
+        return byLanguage
+            .emplace(language, folder == folders.end() ? StringsFile::Texts{} : readTexts(folder->second / "Localizable.strings"))
+            .first->second;
+    }
+
+    std::map<std::string, fs::path> folders; // by normalised language
+    std::unordered_map<std::string, StringsFile::Texts> byLanguage; // as locales spell it; nothing moves once it is in
+};
+
+Bundle::Bundle(fs::path folder) : m_folder(std::move(folder)), m_tables(std::make_unique<Tables>(m_folder)) {}
+
+Bundle::~Bundle() = default;
+
+std::optional<fs::path> Bundle::pathForResource(std::string_view name, std::string_view extension) const {
+    if (m_folder.empty() || name.empty()) return std::nullopt;
+    std::string fileName(name);
+    if (!extension.empty()) fileName.append(".").append(extension);
+    if (isFile(m_folder / fileName)) return m_folder / fileName;
+    for (const fs::path& subfolder : subfolders(m_folder))
+        if (isFile(subfolder / fileName)) return subfolder / fileName;
+    return std::nullopt;
+}
+
+const std::string& Bundle::localizedString(const std::string& key) const {
+    runloop::MainActor::assertIsolated();
+    for (const std::string& language : Locale::current().languageChain()) {
+        const StringsFile::Texts& texts = m_tables->forLanguage(language);
+        if (const auto text = texts.find(key); text != texts.end()) return text->second;
+    }
+    return key;
+}
+
+namespace {
+
+std::unique_ptr<const Bundle>& mainBundle() {
+    static auto bundle = std::make_unique<const Bundle>(fs::path{});
+    return bundle;
+}
+
+} // namespace
+
+const Bundle& Bundle::main() { return *mainBundle(); }
+
+void Bundle::setMain(fs::path folder) {
+    runloop::MainActor::assertIsolated();
+    mainBundle() = std::make_unique<const Bundle>(std::move(folder));
+}
+
+std::string localizedString(const std::string& key, std::string_view) { return Bundle::main().localizedString(key); }
+
+} // namespace foundation
