@@ -1,0 +1,123 @@
+#include "Backends/Icu/IcuLocaleServices.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <unicode/brkiter.h>
+#include <unicode/bytestream.h>
+#include <unicode/casemap.h>
+#include <unicode/locid.h>
+#include <unicode/numberformatter.h>
+#include <unicode/utext.h>
+
+#include "Platform/Commons/FatalError.hpp"
+#include "Platform/Foundation/Locale.hpp"
+
+namespace icubackend {
+
+namespace {
+
+icu::StringPiece piece(std::string_view text) { return {text.data(), static_cast<int32_t>(text.size())}; }
+
+icu::number::LocalizedNumberFormatter percentFormatter(const foundation::Locale& locale, int maximumFractionDigits) {
+    return icu::number::NumberFormatter::withLocale(icu::Locale(locale.identifier().c_str()))
+        .unit(icu::NoUnit::percent())
+        .scale(icu::number::Scale::powerOfTen(2))
+        .precision(icu::number::Precision::maxFraction(maximumFractionDigits))
+        .roundingMode(UNUM_ROUND_HALFEVEN);
+}
+
+// Between ASCII characters there is always a boundary, except inside CR LF.
+bool isEveryByteOneGrapheme(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80 && c != '\r'; });
+}
+
+} // namespace
+
+struct IcuLocaleServices::Cache {
+    std::unique_ptr<icu::BreakIterator> graphemes;
+    UText text = UTEXT_INITIALIZER;
+
+    std::string wordsLocale;
+    std::unique_ptr<icu::BreakIterator> words;
+
+    std::string percentLocale;
+    int percentFractionDigits = -1;
+    icu::number::LocalizedNumberFormatter percent;
+
+    ~Cache() { utext_close(&text); }
+
+    template <class Visit>
+    void forEachGraphemeEnd(std::string_view bytes, Visit visit) {
+        UErrorCode status = U_ZERO_ERROR;
+        utext_openUTF8(&text, bytes.data(), static_cast<std::int64_t>(bytes.size()), &status);
+        graphemes->setText(&text, status);
+        if (U_FAILURE(status)) commons::fatalError("ICU cannot look for characters in a text");
+        graphemes->first();
+        for (auto end = graphemes->next(); end != icu::BreakIterator::DONE; end = graphemes->next())
+            visit(static_cast<std::size_t>(end));
+    }
+};
+
+IcuLocaleServices::IcuLocaleServices() : m_cache(std::make_unique<Cache>()) {
+    UErrorCode status = U_ZERO_ERROR;
+    m_cache->graphemes.reset(icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+    if (U_FAILURE(status)) commons::fatalError(std::string("ICU's data is missing: ") + u_errorName(status));
+}
+
+IcuLocaleServices::~IcuLocaleServices() = default;
+
+std::optional<std::string> IcuLocaleServices::percentText(double fraction, int maximumFractionDigits,
+                                                          const foundation::Locale& locale) const {
+    if (!std::isfinite(fraction)) return std::nullopt;
+    const int digits = std::clamp(maximumFractionDigits, 0, 340);
+    if (m_cache->percentLocale != locale.identifier() || m_cache->percentFractionDigits != digits) {
+        m_cache->percent = percentFormatter(locale, digits);
+        m_cache->percentLocale = locale.identifier();
+        m_cache->percentFractionDigits = digits;
+    }
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::UnicodeString formatted = m_cache->percent.formatDouble(fraction, status).toString(status);
+    if (U_FAILURE(status)) return std::nullopt;
+    std::string text;
+    return formatted.toUTF8String(text);
+}
+
+std::string IcuLocaleServices::upperCased(std::string_view text, const foundation::Locale& locale) const {
+    std::string result;
+    icu::StringByteSink<std::string> sink(&result, static_cast<int32_t>(text.size()));
+    UErrorCode status = U_ZERO_ERROR;
+    icu::CaseMap::utf8ToUpper(locale.identifier().c_str(), 0, piece(text), sink, nullptr, status);
+    return U_SUCCESS(status) ? result : std::string(text);
+}
+
+std::string IcuLocaleServices::titleCased(std::string_view text, const foundation::Locale& locale) const {
+    UErrorCode status = U_ZERO_ERROR;
+    if (!m_cache->words || m_cache->wordsLocale != locale.identifier()) {
+        m_cache->words.reset(icu::BreakIterator::createWordInstance(icu::Locale(locale.identifier().c_str()), status));
+        m_cache->wordsLocale = locale.identifier();
+    }
+    std::string result;
+    icu::StringByteSink<std::string> sink(&result, static_cast<int32_t>(text.size()));
+    icu::CaseMap::utf8ToTitle(locale.identifier().c_str(), 0, m_cache->words.get(), piece(text), sink, nullptr, status);
+    return U_SUCCESS(status) ? result : std::string(text);
+}
+
+std::size_t IcuLocaleServices::graphemeCount(std::string_view text) const {
+    if (isEveryByteOneGrapheme(text)) return text.size();
+    std::size_t count = 0;
+    m_cache->forEachGraphemeEnd(text, [&](std::size_t) { ++count; });
+    return count;
+}
+
+std::vector<std::size_t> IcuLocaleServices::graphemeEnds(std::string_view text) const {
+    std::vector<std::size_t> ends;
+    m_cache->forEachGraphemeEnd(text, [&](std::size_t end) { ends.push_back(end); });
+    return ends;
+}
+
+geometry::LayoutDirection IcuLocaleServices::layoutDirection(const foundation::Locale& locale) const {
+    return icu::Locale(locale.identifier().c_str()).isRightToLeft() ? geometry::LayoutDirection::rightToLeft
+                                                                    : geometry::LayoutDirection::leftToRight;
+}
+
+} // namespace icubackend
