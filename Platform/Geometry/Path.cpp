@@ -25,9 +25,9 @@ HalfCorner halfCorner(double reach) {
     // An eighth of a circle: its control points lie 4/3·tan(π/16) along the tangents.
     constexpr double circularControl1 = 0.7347821607;
     constexpr Point circularControl2{0.4804349, 0.1053515};
-    // The three points on the side make the curvature start from 0; the second one is placed so that the curvature reaches
-    // 1/radius at the diagonal, where the two halves then meet smoothly, whatever room either has.
-    constexpr double continuousControl1 = 0.9497474683;
+    // The three points on the side make the curvature start from 0. The second one is placed so that the curvature, once it
+    // has grown beyond the arc's, stays about even: at the diagonal it is 1.14/radius, nowhere more than 1.21/radius.
+    constexpr double continuousControl1 = 1.0;
     constexpr Point continuousControl2{2 * diagonalPoint, 0};
 
     const double share = (reach - 1) / (continuousReach - 1);

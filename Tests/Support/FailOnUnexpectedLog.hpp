@@ -1,0 +1,17 @@
+// Include this once in a test program: a log record that no test took then fails the test that caused it.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "Backends/Headless/TestBed.hpp"
+
+namespace tests {
+
+inline const bool failsOnUnexpectedLog = [] {
+    headless::TestBed::setUnexpectedLogHandler([](const commons::LogRecord& record) {
+        ADD_FAILURE() << "Unexpected log record: " << record.message << "\nlogged by " << record.function;
+    });
+    return true;
+}();
+
+} // namespace tests
