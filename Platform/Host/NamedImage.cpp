@@ -1,0 +1,43 @@
+#include "Platform/Host/NamedImage.hpp"
+
+#include <map>
+#include <tuple>
+
+#include "Platform/Commons/FatalError.hpp"
+#include "Platform/Host/Services.hpp"
+
+namespace host {
+
+namespace {
+
+[[noreturn]] void failToFind(const std::string& name, const foundation::Bundle& bundle) {
+    commons::fatalError("There is no image \"" + name + "\" in " + bundle.folder().string());
+}
+
+graphics::ImageRef readImage(const std::string& name, const foundation::Bundle& bundle, graphics::RenderingMode renderingMode) {
+    const auto file = bundle.pathForResource(name, "svg");
+    if (!file) failToFind(name, bundle);
+    const auto& decoder = Installation::current().imageDecoder;
+    const auto size = decoder ? decoder->naturalSize(*file) : std::nullopt;
+    if (!size) failToFind(name, bundle);
+
+    auto image = std::make_shared<graphics::Image>();
+    image->name = name;
+    image->size = *size;
+    image->file = *file;
+    image->darkFile = bundle.pathForResource(name + "~dark", "svg");
+    image->renderingMode = renderingMode;
+    return image;
+}
+
+} // namespace
+
+graphics::ImageRef namedImage(const std::string& name, const foundation::Bundle& bundle, graphics::RenderingMode renderingMode) {
+    using Key = std::tuple<std::string, std::string, graphics::RenderingMode>;
+    static std::map<Key, graphics::ImageRef> images;
+    graphics::ImageRef& image = images[{bundle.folder().string(), name, renderingMode}];
+    if (!image) image = readImage(name, bundle, renderingMode);
+    return image;
+}
+
+} // namespace host

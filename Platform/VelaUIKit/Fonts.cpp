@@ -1,0 +1,31 @@
+#include "Platform/VelaUIKit/Fonts.hpp"
+
+#include <array>
+#include <string>
+
+#include "Platform/Commons/FatalError.hpp"
+
+namespace velauikit {
+
+graphics::Font velaDefaultFont(FontOption option, double size) {
+    static const std::array<const graphics::FontFace*, 3> faces{&graphics::registerFontFace("Vela-Regular", "Inter", 400),
+                                                                &graphics::registerFontFace("Vela-Medium", "Inter", 500),
+                                                                &graphics::registerFontFace("Vela-Bold", "Inter", 700)};
+    const auto number = static_cast<std::size_t>(option);
+    if (number >= faces.size()) commons::fatalError("The default font has no weight option " + std::to_string(number));
+    return {.face = faces[number], .size = size, .name = "velaDefaultFont", .weightOption = static_cast<int>(number)};
+}
+
+graphics::Font brandFont(std::string_view name, double size) {
+    const graphics::FontFace* face = graphics::findFontFace(name);
+    if (!face) commons::fatalError("The font " + std::string(name) + " is not registered");
+    return {.face = face, .size = size, .name = face->name};
+}
+
+void FontRegistrar::registerBundledFonts() {
+    static const auto registered = std::array{&graphics::registerFontFace("Quenby-Bold", "Sora", 700),
+                                              &graphics::registerFontFace("Quenby-Semibold", "Sora", 600)};
+    (void)registered;
+}
+
+} // namespace velauikit

@@ -1,0 +1,14 @@
+// What is being sold.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace proupsells {
+
+enum class Entitlement : std::uint8_t { velaPRO };
+
+// As analytics know it: "VELA_PRO".
+const std::string& analyticsValue(Entitlement entitlement);
+
+} // namespace proupsells

@@ -1,0 +1,20 @@
+// A sales screen that can show a promotion's comparison prices.
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace proupsells {
+
+// An absent price shows no comparison.
+class PromotionalPricingUpsell {
+public:
+    virtual ~PromotionalPricingUpsell() = default;
+
+    virtual std::optional<std::string> annualSubscriptionPriceForComparisonWithPromotionalPrice() const = 0;
+    virtual void setAnnualSubscriptionPriceForComparisonWithPromotionalPrice(std::optional<std::string> price) = 0;
+    virtual std::optional<std::string> monthlySubscriptionPriceForComparisonWithPromotionalPrice() const = 0;
+    virtual void setMonthlySubscriptionPriceForComparisonWithPromotionalPrice(std::optional<std::string> price) = 0;
+};
+
+} // namespace proupsells

@@ -1,0 +1,48 @@
+// Where the user came from.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <variant>
+
+namespace proupsells {
+
+struct Referrer {
+    // What the user tapped there.
+    struct ElementID {
+        struct Int {
+            std::int64_t value = 0;
+            bool operator==(const Int&) const = default;
+        };
+        struct Uuid {
+            std::string value;
+            bool operator==(const Uuid&) const = default;
+        };
+
+        std::variant<Int, Uuid> value;
+
+        // "int(5)" or "uuid(\"A1\")", with the text's quotes, backslashes and control characters escaped.
+        std::string description() const;
+
+        bool operator==(const ElementID&) const = default;
+    };
+
+    std::string name;
+    std::optional<ElementID> elementID;
+
+    // A text alone is a name without an element.
+    Referrer(const char* name) : name(name) {}
+    Referrer(std::string name) : name(std::move(name)) {}
+    Referrer(std::string name, std::optional<std::int64_t> elementID);
+    Referrer(std::string name, std::int64_t elementID);
+    // Always an `ElementID::Uuid`, whatever the text looks like.
+    Referrer(std::string name, std::string elementID);
+
+    // The name, and without a blank between its parts the element: "Home - elementIDint(5)".
+    std::string description() const;
+
+    bool operator==(const Referrer&) const = default;
+};
+
+} // namespace proupsells

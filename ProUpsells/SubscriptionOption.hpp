@@ -1,0 +1,77 @@
+// One purchasable product, as the host describes it.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <variant>
+
+namespace proupsells {
+
+// All prices are texts that the host has already formatted in the store's currency; nothing is checked.
+class SubscriptionOption {
+public:
+    // The kind of plan and its price texts. The order of the kinds is their case index.
+    struct SubscriptionType {
+        struct Monthly {
+            std::string price;
+            std::optional<std::string> introductoryPrice;
+            // The length of the introductory offer as a text; absent when there is none.
+            std::optional<std::string> introductoryPeriodLength;
+
+            bool operator==(const Monthly&) const = default;
+        };
+        struct Yearly {
+            std::string price;
+            // The yearly price spread across twelve months.
+            std::string monthlyEffectivePrice;
+            std::optional<std::string> introductoryPrice;
+            std::optional<std::string> introductoryPeriodLength;
+
+            bool operator==(const Yearly&) const = default;
+        };
+        // Paid once.
+        struct Lifetime {
+            std::string price;
+
+            bool operator==(const Lifetime&) const = default;
+        };
+
+        std::variant<Monthly, Yearly, Lifetime> plan;
+
+        SubscriptionType(Monthly monthly) : plan(std::move(monthly)) {}
+        SubscriptionType(Yearly yearly) : plan(std::move(yearly)) {}
+        SubscriptionType(Lifetime lifetime) : plan(std::move(lifetime)) {}
+
+        bool operator==(const SubscriptionType&) const = default;
+    };
+
+    SubscriptionOption(std::string SKU, SubscriptionType type, bool hasUsedFreeTrial);
+
+    // The store product identifier.
+    const std::string& SKU() const { return m_SKU; }
+    const SubscriptionType& type() const { return m_type; }
+    // True when the introductory free trial has already been consumed and must not be offered again.
+    bool hasUsedFreeTrial() const { return m_hasUsedFreeTrial; }
+
+    const std::string& price() const;
+    // Both are absent for a lifetime plan.
+    const std::optional<std::string>& introductoryPrice() const;
+    const std::optional<std::string>& introductoryPeriodLength() const;
+    // Of a yearly plan; the empty text for the other kinds. Meant for the module's own texts.
+    const std::string& monthlyEffectivePrice() const;
+
+    bool isMonthly() const { return std::holds_alternative<SubscriptionType::Monthly>(m_type.plan); }
+    bool isYearly() const { return std::holds_alternative<SubscriptionType::Yearly>(m_type.plan); }
+    bool isLifetime() const { return std::holds_alternative<SubscriptionType::Lifetime>(m_type.plan); }
+    // The same kind of plan, whatever its prices.
+    bool isSameSubscriptionCategory(const SubscriptionOption& other) const;
+
+    bool operator==(const SubscriptionOption&) const = default;
+
+private:
+    std::string m_SKU;
+    SubscriptionType m_type;
+    bool m_hasUsedFreeTrial;
+};
+
+} // namespace proupsells

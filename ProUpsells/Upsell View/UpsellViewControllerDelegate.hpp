@@ -1,0 +1,25 @@
+// Told of every tap on the paywall.
+#pragma once
+
+#include "ProUpsells/SubscriptionOption.hpp"
+
+namespace proupsells {
+
+class UpsellViewController;
+
+// Always held weakly.
+class UpsellViewControllerDelegate {
+public:
+    virtual ~UpsellViewControllerDelegate() = default;
+
+    virtual void upsellViewControllerDidContinueWith(UpsellViewController& sender, const SubscriptionOption& option) = 0;
+    // The paywall dismisses itself afterwards.
+    virtual void upsellViewControllerDidTapCancel(UpsellViewController& sender) = 0;
+    virtual void upsellViewControllerDidTapRestoreButton(UpsellViewController& sender) = 0;
+    virtual void upsellViewControllerDidTapWhatIsProButton(UpsellViewController& sender) = 0;
+    virtual void upsellViewControllerDidTapPrivacyPolicyButton(UpsellViewController& sender) = 0;
+    virtual void upsellViewControllerDidTapTermsOfServiceButton(UpsellViewController& sender) = 0;
+    virtual void upsellViewControllerDidTapComparePlans(UpsellViewController& sender) = 0;
+};
+
+} // namespace proupsells

@@ -1,0 +1,63 @@
+// What the paywall shows, and the stream of taps that it sends back.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "Platform/Combine/ObservableObject.hpp"
+#include "Platform/Combine/PassthroughSubject.hpp"
+#include "ProUpsells/SubscriptionOption.hpp"
+
+namespace proupsells {
+
+// Main thread only. Each write of a field is announced before it takes effect.
+class UpsellViewModel final : public combine::ObservableObject {
+public:
+    // One tap on the paywall.
+    struct TapEvent {
+        struct Purchase {
+            SubscriptionOption option; // as it was at the moment of the tap
+            bool operator==(const Purchase&) const = default;
+        };
+        struct Cancel {
+            bool operator==(const Cancel&) const = default;
+        };
+        struct RestorePurchases {
+            bool operator==(const RestorePurchases&) const = default;
+        };
+        struct WhatIsPro {
+            bool operator==(const WhatIsPro&) const = default;
+        };
+        struct PrivacyPolicy {
+            bool operator==(const PrivacyPolicy&) const = default;
+        };
+        struct TermsOfService {
+            bool operator==(const TermsOfService&) const = default;
+        };
+        struct ComparePlans {
+            bool operator==(const ComparePlans&) const = default;
+        };
+        using Kind = std::variant<Purchase, Cancel, RestorePurchases, WhatIsPro, PrivacyPolicy, TermsOfService, ComparePlans>;
+
+        Kind kind;
+
+        bool operator==(const TapEvent&) const = default;
+    };
+
+    // The plans in display order.
+    combine::Published<std::vector<SubscriptionOption>> options{*this};
+    // Prices shown struck through before a plan's subtitle; absent when no promotion is on.
+    combine::Published<std::optional<std::string>> annualSubscriptionPriceForComparisonWithPromotionalPrice{*this};
+    combine::Published<std::optional<std::string>> monthlySubscriptionPriceForComparisonWithPromotionalPrice{*this};
+
+    // Every tap, once, delivered at once. Keeps nothing for later subscribers.
+    combine::PassthroughSubject<TapEvent> tapEventOccurred;
+
+    // The first plan of its kind in display order; null when there is none.
+    const SubscriptionOption* yearlyOption() const;
+    const SubscriptionOption* monthlyOption() const;
+};
+
+} // namespace proupsells

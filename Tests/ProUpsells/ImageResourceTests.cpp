@@ -1,0 +1,54 @@
+#include "ProUpsells/ImageResource.hpp"
+
+#include <gmock/gmock.h>
+
+#include "Backends/Headless/TestBed.hpp"
+#include "ProUpsells/ColorResource.hpp"
+#include "ProUpsells/ResourceBundleClass.hpp"
+
+namespace proupsells::testing {
+namespace {
+
+TEST(ImageResource, IsEqualByNameAndBundle) {
+    const ImageResource one{"a", &ResourceBundleClass::bundle()};
+    const ImageResource same{"a", &ResourceBundleClass::bundle()};
+
+    EXPECT_EQ(one, same);
+    EXPECT_EQ(std::hash<ImageResource>{}(one), std::hash<ImageResource>{}(same));
+    EXPECT_NE(one, (ImageResource{"b", &ResourceBundleClass::bundle()}));
+    EXPECT_NE(one, (ImageResource{"a", &foundation::Bundle::main()}));
+}
+
+TEST(ColorResource, IsEqualByNameAndBundle) {
+    const ColorResource one{"a", &ResourceBundleClass::bundle()};
+    const ColorResource same{"a", &ResourceBundleClass::bundle()};
+
+    EXPECT_EQ(one, same);
+    EXPECT_EQ(std::hash<ColorResource>{}(one), std::hash<ColorResource>{}(same));
+    EXPECT_NE(one, (ColorResource{"b", &ResourceBundleClass::bundle()}));
+}
+
+TEST(ImageResource, StandsInTheOneBundle) {
+    EXPECT_EQ(&ResourceBundleClass::bundle(), &ResourceBundleClass::bundle());
+    EXPECT_EQ(ImageResource::paywallHeaderA().bundle, &ResourceBundleClass::bundle());
+    EXPECT_EQ(&ImageResource::termsGradient(), &ImageResource::termsGradient());
+}
+
+TEST(ImageResource, SpellsItsNamesAsTheAssetsAreStored) {
+    EXPECT_EQ(ImageResource::buttonArrowRight().name, "Button_Arrow_Right");
+    EXPECT_EQ(ImageResource::layoutCollections().name, "Layout collections_");
+    EXPECT_EQ(ImageResource::shapesStorePageShelfImage().name, "Shapes_StorePageShelfImage");
+    EXPECT_EQ(ImageResource::iCloudStorePageShelfImage().name, "iCloud_StorePageShelfImage");
+    EXPECT_EQ(ImageResource::fonts0StorePageShelfImage().name, "Fonts0_StorePageShelfImage");
+    EXPECT_EQ(ImageResource::pdfs0StorePageShelfImage().name, "PDFs0_StorePageShelfImage");
+    EXPECT_EQ(ImageResource::videoSectionImagesStorePageShelfImage().name, "videoSectionImages_StorePageShelfImage");
+}
+
+TEST(ImageResourceDeathTest, StopsTheProgramWhereThereIsNoSuchAsset) {
+    headless::TestBed bed;
+
+    EXPECT_DEATH((void)image(ImageResource{"NotInTheCatalogue", &ResourceBundleClass::bundle()}), "no image \"NotInTheCatalogue\"");
+}
+
+} // namespace
+} // namespace proupsells::testing
