@@ -79,6 +79,8 @@ struct Node {
     bool isControl = false;
     // Of controls: does what a tap at the control's centre does. Empty when it is disabled.
     std::function<void()> activate;
+    // Of adjustable controls: one step up (1) or down (-1). Empty for others and when it is disabled.
+    std::function<void(int step)> adjust;
     // Scrolls whatever scroll views are around the node by as little as makes its centre reachable, at once. Empty outside scroll views.
     std::function<void()> reveal;
     std::vector<Node> children;

@@ -90,7 +90,9 @@ public:
     UIViewController* presentedViewController() const;
     // Who presents this controller or one of its parents; null for none.
     UIViewController* presentingViewController() const;
+    // From the call of `present` until the controller has appeared.
     bool isBeingPresented() const { return m_isBeingPresented; }
+    // From the call of `dismiss` until the controller has disappeared.
     bool isBeingDismissed() const { return m_isBeingDismissed; }
 
     // Whether the appearance calls say that the view can be seen.
@@ -98,6 +100,8 @@ public:
 
 protected:
     void setView(std::shared_ptr<UIView> view);
+    // What of this controller's unsafe edges its children's views reach under.
+    virtual geometry::PhysicalInsets safeAreaForChildren(const geometry::PhysicalInsets& own) const { return own; }
 
 private:
     friend class UIView;
@@ -109,14 +113,19 @@ private:
     const UIViewController& outermostParent() const;
     UIViewController& outermostParent();
     UIWindow* window() const;
+    std::shared_ptr<UIWindow> windowForPresenting() const;
     bool viewStandsIn(const UIViewController& parent) const;
     // Begins and ends what the appearance calls announce; children whose views stand in this one's follow.
     void beginAppearance(bool appearing, bool animated);
     void endAppearance();
+    void followedByChildren();
     // Brings a child to where its parent is, after one of them moved.
     void followParent();
     void navigationItemChanged();
+    // The place that the controller is made for, while its view is in no window.
+    UITraitCollection expectedTraits() const;
     geometry::PhysicalInsets expectedSafeArea() const;
+    geometry::Rect expectedFrame(const UIWindow& window) const;
 
     std::shared_ptr<UIView> m_view;
     std::string m_title;
@@ -126,7 +135,7 @@ private:
     std::vector<std::shared_ptr<UIViewController>> m_children;
 
     std::shared_ptr<UIViewController> m_presented;
-    UIViewController* m_presenting = nullptr;
+    std::weak_ptr<UIViewController> m_presenting;
     UIModalPresentationStyle m_modalPresentationStyle = UIModalPresentationStyle::automatic;
     geometry::Size m_preferredContentSize;
 
@@ -134,6 +143,7 @@ private:
     bool m_appearanceIsAnimated = false;
     bool m_isBeingPresented = false;
     bool m_isBeingDismissed = false;
+    std::weak_ptr<UIWindow> m_expectedWindow; // of the root controller and of presented ones
 };
 
 } // namespace uikit

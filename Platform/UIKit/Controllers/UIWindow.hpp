@@ -53,6 +53,7 @@ public:
     void update() override;
     UIWindow* window() const override { return const_cast<UIWindow*>(this); }
     UITraitCollection traitsForSubviews() const override { return m_windowTraits; }
+    void layoutSubviews() override;
 
 protected:
     void subtreeNeedsLayout() override;
@@ -60,13 +61,19 @@ protected:
 
 private:
     friend class UIViewController;
+    friend class PresentationStack;
+    friend class UIView;
 
     PresentationStack& presentations() { return *m_presentations; }
-    void traitsDidChange(const UITraitCollection& traits);
+    // The finger that is down, if any, has nobody any more.
+    void cancelTouch();
+    void adoptWindowTraits(UITraitCollection traits);
     void requestUpdate();
+    graphics::PaintState windowState() const;
     std::vector<accessibility::Node> focusableControls();
-    void moveFocus(int step);
-    void paintFocusRing(graphics::PaintContext& context, const graphics::PaintState& state);
+    bool moveFocus(int step);
+    bool useFocused(host::Key key);
+    void paintFocusRing(graphics::PaintContext& context);
 
     std::shared_ptr<UIViewController> m_root;
     std::unique_ptr<PresentationStack> m_presentations;
@@ -76,7 +83,8 @@ private:
     std::function<void()> m_needsDisplayHandler;
     bool m_needsDisplay = false;
     bool m_updateIsRequested = false;
-    std::optional<std::size_t> m_focus; // index among the focusable controls
+    bool m_isUpdating = false;
+    std::optional<std::size_t> m_focus; // index among the focusable controls; absent until a key is used
 };
 
 } // namespace uikit

@@ -51,7 +51,6 @@ public:
     void touchesMoved(const UITouch& touch) override;
     void touchesEnded(const UITouch& touch) override;
     void touchesCancelled(const UITouch& touch) override;
-    UIView* hitTest(geometry::Point point) override;
 
     // What assistive technology does instead of a tap; touchUpInside unless overridden.
     virtual void activate() { sendActions(Event::touchUpInside); }

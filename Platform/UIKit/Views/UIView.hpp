@@ -111,6 +111,8 @@ public:
     UITraitCollection traitCollection() const;
     // Told of changes while the view is shown, not of the first traits.
     virtual void traitCollectionDidChange(const UITraitCollection& previous);
+    // Stands in for what the superview hands down; absent again: inherits.
+    void setOverrideTraitCollection(const std::optional<UITraitCollection>& traits);
     // What a subview inherits.
     virtual UITraitCollection traitsForSubviews() const { return traitCollection(); }
     bool isRightToLeft() const { return traitCollection().layoutDirection == geometry::LayoutDirection::rightToLeft; }
@@ -157,6 +159,8 @@ public:
     // Asked, from the touched view outwards, for the first touch and for each of its moves: true takes the touch away from the view that
     // has it, which is told that it was cancelled.
     virtual bool takesOverTouch(const UITouch&) { return false; }
+    // Whether scrollRectToVisible moves something here.
+    virtual bool scrollsItsContent() const { return false; }
     // A wheel: moves what the view shows by `delta` and returns true, or returns false to let the superview try.
     virtual bool scrollBy(geometry::Point location, geometry::Point delta);
     // Scrolls by as little as makes `rect`, in this view's coordinates, visible in all scroll views around it, at once.
@@ -180,7 +184,7 @@ protected:
     // Adds what is particular to the class.
     virtual void describe(accessibility::Node&, const graphics::PaintState&) const {}
     virtual void appendSubviewNodes(std::vector<accessibility::Node>& nodes, const graphics::PaintState& state) const;
-    // A change of the coordinates that is seen only: painted, touched and described, but not laid out.
+    // A change of the coordinates that is seen only: painted and described, but neither laid out nor touched.
     virtual geometry::Transform presentationTransform() const { return m_transform; }
     // Likewise of the opacity.
     virtual double presentationAlpha() const { return m_alpha; }
@@ -194,15 +198,20 @@ private:
     friend class UIWindow;
     friend class NSLayoutConstraint;
 
-    void detach(std::size_t index);
+    void insert(const std::shared_ptr<UIView>& view, std::size_t index);
+    std::size_t indexOf(const UIView& subview) const;
+    std::vector<std::shared_ptr<UIViewController>> outermostControllers();
     void movedToWindow(UIWindow* window);
-    void adoptTraits(const UITraitCollection& traits);
-    void forgetTraits();
-    void adoptSafeArea();
+    void adoptTraits(const UITraitCollection& inherited);
+    void noticeSafeArea();
+    void setTreeNeedsLayout();
     void layOutPinnedSubviews();
     void layOutTree();
     geometry::Transform toSuperview() const;
+    geometry::Transform toOutermost() const;
     graphics::PaintState contentState(const graphics::PaintState& state) const;
+    void describeTransform(accessibility::Node& node) const;
+    void describeReveal(accessibility::Node& node) const;
 
     UIView* m_superview = nullptr;
     std::vector<std::shared_ptr<UIView>> m_subviews;
@@ -225,7 +234,8 @@ private:
     UILayoutPriority m_compressionResistance[2] = {layoutPriorityHigh, layoutPriorityHigh};
     std::vector<std::shared_ptr<NSLayoutConstraint>> m_constraints;
 
-    std::optional<UITraitCollection> m_traits; // while in a window
+    std::optional<UITraitCollection> m_traits; // absent until the view has been in a window
+    std::optional<UITraitCollection> m_overrideTraits;
     geometry::PhysicalInsets m_lastSafeArea;
 
     std::optional<UIColor> m_backgroundColor;

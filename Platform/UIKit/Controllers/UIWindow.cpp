@@ -1,0 +1,162 @@
+#include "Platform/UIKit/Controllers/UIWindow.hpp"
+
+#include "Platform/UIKit/Controllers/PresentationStack.hpp"
+#include "Platform/UIKit/Controllers/TouchRouter.hpp"
+
+namespace uikit {
+
+UIWindow::UIWindow(Creation)
+    : m_presentations(std::make_unique<PresentationStack>(*this)), m_touches(std::make_unique<TouchRouter>(*this)) {
+    m_window = this;
+    m_traits = m_windowTraits;
+}
+
+UIWindow::~UIWindow() {
+    // Views that outlive the window must not find it any more.
+    for (const auto& subview : subviews()) subview->movedToWindow(nullptr);
+}
+
+std::shared_ptr<UIWindow> UIWindow::create(geometry::Size size, geometry::PhysicalInsets safeArea) {
+    auto window = std::make_shared<UIWindow>(Creation{});
+    window->setSize(size, safeArea);
+    return window;
+}
+
+void UIWindow::setRootViewController(std::shared_ptr<UIViewController> controller) {
+    m_presentations->removeAll();
+    cancelTouch();
+    if (const auto former = std::exchange(m_root, nullptr)) {
+        former->beginAppearance(false, false);
+        former->view()->removeFromSuperview();
+        former->endAppearance();
+        former->m_expectedWindow.reset();
+    }
+    m_root = controller;
+    if (!controller) return;
+    controller->m_expectedWindow = weakReference(*this);
+    const auto root = controller->view();
+    if (m_root != controller) return; // replaced while it loaded
+    controller->beginAppearance(true, false);
+    insertSubview(root, 0);
+    layoutIfNeeded();
+    controller->endAppearance();
+}
+
+void UIWindow::layoutSubviews() {
+    for (const auto& subview : subviews()) subview->setFrame(bounds());
+}
+
+// --- What the person sees ---
+
+void UIWindow::setTraits(const UITraitCollection& traits) { adoptWindowTraits(traits); }
+
+void UIWindow::adoptWindowTraits(UITraitCollection traits) {
+    traits.horizontalSizeClass = frame().width() < regularWidth ? UIUserInterfaceSizeClass::compact : UIUserInterfaceSizeClass::regular;
+    m_windowTraits = traits;
+    const auto kept = strongReference(*this);
+    m_traits = traits;
+    setNeedsLayout();
+    setNeedsDisplay();
+    const auto all = subviews();
+    for (const auto& subview : all)
+        if (subview->superview() == this) subview->adoptTraits(traits);
+}
+
+void UIWindow::setSize(geometry::Size size, geometry::PhysicalInsets safeArea) {
+    const bool unsafeEdgesChange = m_safeArea != safeArea;
+    m_safeArea = safeArea;
+    setFrame({{}, size});
+    adoptWindowTraits(m_windowTraits);
+    if (unsafeEdgesChange) setTreeNeedsLayout();
+}
+
+UIViewController* UIWindow::frontMostViewController() const {
+    UIViewController* const presented = m_presentations->frontMost();
+    return presented ? presented : m_root.get();
+}
+
+bool UIWindow::isTransitioning() const { return m_presentations->isTransitioning(); }
+
+void UIWindow::setPresentationObserver(std::weak_ptr<PresentationObserver> observer) { m_presentations->setObserver(std::move(observer)); }
+
+// --- Updates ---
+
+void UIWindow::subtreeNeedsLayout() { requestUpdate(); }
+
+void UIWindow::subtreeNeedsDisplay() {
+    m_needsDisplay = true;
+    requestUpdate();
+}
+
+void UIWindow::requestUpdate() {
+    if (m_updateIsRequested || m_isUpdating || !runloop::MainRunLoop::exists()) return;
+    const auto self = weakReference(*this);
+    if (self.expired()) return; // still being made; setSize follows
+    m_updateIsRequested = true;
+    runloop::MainRunLoop::main().requestUpdate(self);
+}
+
+void UIWindow::update() {
+    const auto kept = strongReference(*this);
+    m_updateIsRequested = false;
+    m_isUpdating = true;
+    layoutIfNeeded();
+    m_isUpdating = false;
+    if (!std::exchange(m_needsDisplay, false)) return;
+    if (const auto handler = m_needsDisplayHandler) handler();
+}
+
+void UIWindow::setNeedsDisplayHandler(std::function<void()> handler) { m_needsDisplayHandler = std::move(handler); }
+
+graphics::PaintState UIWindow::windowState() const {
+    graphics::PaintState state;
+    state.clip = {{}, frame().size};
+    state.scheme = m_windowTraits.userInterfaceStyle;
+    return state;
+}
+
+void UIWindow::paint(graphics::DisplayList& list) {
+    m_isUpdating = true; // a layout that is due now is part of this picture and asks for no other
+    layoutIfNeeded();
+    m_isUpdating = false;
+    list.clear();
+    graphics::PaintContext context(list);
+    const graphics::PaintState state = windowState();
+    const auto& layers = subviews();
+    std::size_t first = layers.empty() ? 0 : layers.size() - 1;
+    while (first > 0 && !layers[first]->covers(bounds())) --first;
+    for (std::size_t i = first; i < layers.size(); ++i) layers[i]->paint(context, state);
+    paintFocusRing(context);
+}
+
+bool UIWindow::isAnimating() const { return UIView::isAnimating(); }
+
+accessibility::Node UIWindow::semanticTree() {
+    layoutIfNeeded();
+    if (const UIPresentationView* front = m_presentations->frontMostView()) return front->contentNode(windowState());
+    if (m_root && m_root->viewIfLoaded()) return m_root->viewIfLoaded()->semanticNode(windowState());
+    return semanticNode(windowState());
+}
+
+// --- Input ---
+
+void UIWindow::touch(const host::Touch& touch) {
+    const auto kept = strongReference(*this);
+    if (touch.phase == host::TouchPhase::began) {
+        if (isTransitioning()) return cancelTouch();
+        m_focus.reset();
+        layoutIfNeeded();
+    }
+    m_touches->touch(touch);
+}
+
+void UIWindow::cancelTouch() { m_touches->cancel(); }
+
+void UIWindow::scroll(geometry::Point location, geometry::Point delta) {
+    if (isTransitioning()) return;
+    const auto kept = strongReference(*this);
+    layoutIfNeeded();
+    if (UIView* hit = hitTest(location)) hit->scrollBy(hit->convertFrom(location, nullptr), delta);
+}
+
+} // namespace uikit

@@ -1,0 +1,112 @@
+// What views look like, and what they say about themselves.
+#include <cmath>
+#include <numbers>
+
+#include "Platform/UIKit/Controllers/UIWindow.hpp"
+
+namespace uikit {
+
+void UIView::setNeedsDisplay() {
+    if (m_window) m_window->subtreeNeedsDisplay();
+}
+
+void UIView::subtreeNeedsDisplay() {}
+
+graphics::PaintState UIView::contentState(const graphics::PaintState& state) const {
+    const geometry::Transform transform = presentationTransform();
+    graphics::PaintState inside = transform.isIdentity() ? state : state.transformedBy(transform.about(center()));
+    inside = inside.movedBy(m_frame.origin - m_boundsOrigin);
+    const double alpha = m_isHidden ? 0 : presentationAlpha();
+    if (alpha != 1) inside = inside.fadedBy(alpha);
+    if (m_clipsToBounds) inside = inside.clippedTo(bounds(), m_cornerRadius);
+    inside.scheme = traitCollection().userInterfaceStyle;
+    return inside;
+}
+
+void UIView::paint(graphics::PaintContext& context, const graphics::PaintState& state) const {
+    if (m_isHidden) return;
+    const graphics::PaintState inside = contentState(state);
+    if (inside.opacity <= 0 || (m_clipsToBounds && inside.hides(bounds()))) return;
+    if (m_backgroundColor) {
+        const graphics::RGBA color = m_backgroundColor->resolved(inside.scheme);
+        if (m_cornerRadius > 0)
+            context.fillRoundedRectangle(inside, bounds(), m_cornerRadius, geometry::CornerStyle::circular, color);
+        else
+            context.fillRectangle(inside, bounds(), color);
+    }
+    draw(context, inside);
+    paintSubviews(context, inside);
+}
+
+void UIView::paintSubviews(graphics::PaintContext& context, const graphics::PaintState& state) const {
+    for (const auto& subview : m_subviews) subview->paint(context, state);
+}
+
+bool UIView::covers(const geometry::Rect& rect) const {
+    if (m_isHidden || presentationAlpha() < 1 || !presentationTransform().isIdentity()) return false;
+    const geometry::Rect all = bounds();
+    const bool isInside = rect.minX() >= all.minX() && rect.minY() >= all.minY() && rect.maxX() <= all.maxX() && rect.maxY() <= all.maxY();
+    const bool fillsBounds = m_backgroundColor && resolved(*m_backgroundColor).alpha == 255 && m_cornerRadius == 0;
+    if (isInside && fillsBounds) return true;
+    if (m_clipsToBounds && (!isInside || m_cornerRadius > 0)) return false;
+    for (const auto& subview : m_subviews)
+        if (subview->m_transform.isIdentity() && subview->covers(rect.offsetBy(subview->m_boundsOrigin - subview->m_frame.origin))) return true;
+    return false;
+}
+
+bool UIView::isAnimating() const {
+    if (m_isHidden) return false;
+    for (const auto& subview : m_subviews)
+        if (subview->isAnimating()) return true;
+    return false;
+}
+
+accessibility::Node UIView::semanticNode(const graphics::PaintState& state) const {
+    const graphics::PaintState inside = contentState(state);
+    accessibility::Node node;
+    node.type = typeName();
+    node.frame = inside.toWindow(bounds());
+    node.isOnScreen = inside.opacity > 0 && !inside.hides(bounds());
+    node.identifier = accessibilityIdentifier;
+    node.label = accessibilityLabel;
+    node.value = accessibilityValue();
+    node.traits = accessibilityTraits;
+    node.opacity = inside.opacity;
+    if (m_clipsToBounds) node.clip = node.frame;
+    if (m_backgroundColor) {
+        node.shape = accessibility::ShapeInfo{std::string(m_backgroundColor->name), {}, {}, {}};
+        if (m_cornerRadius > 0) node.shape->cornerRadius = m_cornerRadius;
+    }
+    describeTransform(node);
+    describeReveal(node);
+    describe(node, inside);
+    appendSubviewNodes(node.children, inside);
+    return node;
+}
+
+void UIView::describeTransform(accessibility::Node& node) const {
+    const geometry::Transform transform = presentationTransform();
+    if (transform.isTranslation()) return;
+    node.scale = std::hypot(transform.a, transform.b);
+    node.rotation_degrees = std::atan2(transform.b, transform.a) * 180 / std::numbers::pi;
+}
+
+void UIView::describeReveal(accessibility::Node& node) const {
+    for (const UIView* ancestor = m_superview; ancestor; ancestor = ancestor->m_superview) {
+        if (!ancestor->scrollsItsContent()) continue;
+        node.reveal = [view = std::weak_ptr<const UIResponder>(weak_from_this())] {
+            const auto held = std::const_pointer_cast<UIResponder>(view.lock());
+            if (!held) return;
+            auto& self = static_cast<UIView&>(*held);
+            self.scrollRectToVisible({self.bounds().center(), {1, 1}});
+        };
+        return;
+    }
+}
+
+void UIView::appendSubviewNodes(std::vector<accessibility::Node>& nodes, const graphics::PaintState& state) const {
+    nodes.reserve(nodes.size() + m_subviews.size());
+    for (const auto& subview : m_subviews) nodes.push_back(subview->semanticNode(state));
+}
+
+} // namespace uikit
