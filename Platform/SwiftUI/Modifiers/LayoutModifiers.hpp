@@ -1,0 +1,118 @@
+// Modifiers that change sizes and places.
+#pragma once
+
+#include <optional>
+
+#include "Platform/Graphics/Color.hpp"
+#include "Platform/SwiftUI/Layout/Alignment.hpp"
+#include "Platform/SwiftUI/Tree/View.hpp"
+
+namespace swiftui {
+
+struct PaddingModifier {
+    geometry::EdgeInsets insets;
+
+    View modified(View content) &&;
+    bool operator==(const PaddingModifier&) const = default;
+};
+
+// Room around the view. Negative lengths make it count for less than it shows.
+PaddingModifier padding(double length = defaultPadding);
+PaddingModifier padding(Edge edges, double length = defaultPadding);
+PaddingModifier padding(const geometry::EdgeInsets& insets);
+
+// Lengths that are absent leave that dimension to the view. Fixed lengths come before flexible ones.
+struct FrameOptions {
+    std::optional<double> width;
+    std::optional<double> height;
+    std::optional<double> minWidth;
+    std::optional<double> idealWidth;
+    std::optional<double> maxWidth; // geometry::infinity fills
+    std::optional<double> minHeight;
+    std::optional<double> idealHeight;
+    std::optional<double> maxHeight;
+    Alignment alignment = Alignment::center;
+
+    bool operator==(const FrameOptions&) const = default;
+};
+
+struct FrameModifier {
+    FrameOptions options;
+
+    View modified(View content) &&;
+    bool operator==(const FrameModifier&) const = default;
+};
+
+inline FrameModifier frame(const FrameOptions& options) { return {options}; }
+FrameModifier frame(double width, double height, Alignment alignment = Alignment::center);
+
+struct FixedSizeModifier {
+    bool horizontal = true;
+    bool vertical = true;
+
+    View modified(View content) &&;
+    bool operator==(const FixedSizeModifier&) const = default;
+};
+
+// Held at its ideal size, whatever it is offered.
+inline FixedSizeModifier fixedSize(bool horizontal = true, bool vertical = true) { return {horizontal, vertical}; }
+
+enum class ContentMode : std::uint8_t { fit, fill };
+
+struct AspectRatioModifier {
+    std::optional<double> ratio; // width by height; absent: the view's own
+    ContentMode contentMode = ContentMode::fit;
+
+    View modified(View content) &&;
+    bool operator==(const AspectRatioModifier&) const = default;
+};
+
+inline AspectRatioModifier aspectRatio(ContentMode contentMode) { return {std::nullopt, contentMode}; }
+inline AspectRatioModifier aspectRatio(double ratio, ContentMode contentMode) { return {ratio, contentMode}; }
+
+struct LayoutPriorityModifier {
+    double priority = 0;
+
+    View modified(View content) &&;
+    bool operator==(const LayoutPriorityModifier&) const = default;
+};
+
+// Views of higher priority get their room first.
+inline LayoutPriorityModifier layoutPriority(double priority) { return {priority}; }
+
+struct OffsetModifier {
+    geometry::Point offset; // x follows the layout direction
+
+    View modified(View content) &&;
+    bool operator==(const OffsetModifier&) const = default;
+};
+
+// Shown elsewhere, laid out as if it were not.
+inline OffsetModifier offset(double x, double y) { return {{x, y}}; }
+
+struct IgnoresSafeAreaModifier {
+    Edge edges = Edge::all;
+
+    View modified(View content) &&;
+    bool operator==(const IgnoresSafeAreaModifier&) const = default;
+};
+
+// Reaches the window's edge where it touches the safe area's.
+inline IgnoresSafeAreaModifier ignoresSafeArea(Edge edges = Edge::all) { return {edges}; }
+
+// A second view behind or in front of the first, which alone decides on the size; the second gets that size offered.
+struct LayerModifier {
+    View layer;
+    Alignment alignment = Alignment::center;
+    bool isBehind = false;
+    Edge ignoredSafeArea = Edge::none;
+
+    View modified(View content) &&;
+};
+
+inline LayerModifier overlay(View layer, Alignment alignment = Alignment::center) { return {layer, alignment, false}; }
+inline LayerModifier background(View layer, Alignment alignment = Alignment::center) { return {layer, alignment, true}; }
+// A colour behind the view, reaching the window's edges along the safe areas.
+LayerModifier background(const graphics::Color& color, Edge ignoredSafeArea = Edge::all);
+
+} // namespace swiftui

@@ -1,0 +1,20 @@
+// Everything that views are written with.
+#pragma once
+
+#include "Platform/SwiftUI/Animation/AnyTransition.hpp"
+#include "Platform/SwiftUI/Animation/Transaction.hpp"
+#include "Platform/SwiftUI/Layout/Alignment.hpp"
+#include "Platform/SwiftUI/Modifiers/AccessibilityModifiers.hpp"
+#include "Platform/SwiftUI/Modifiers/AnimationModifier.hpp"
+#include "Platform/SwiftUI/Modifiers/EffectModifiers.hpp"
+#include "Platform/SwiftUI/Modifiers/EnvironmentModifiers.hpp"
+#include "Platform/SwiftUI/Modifiers/LayoutModifiers.hpp"
+#include "Platform/SwiftUI/Modifiers/LifecycleModifiers.hpp"
+#include "Platform/SwiftUI/Tree/BuildContext.hpp"
+#include "Platform/SwiftUI/Tree/View.hpp"
+#include "Platform/SwiftUI/Views/ForEach.hpp"
+#include "Platform/SwiftUI/Views/GeometryReader.hpp"
+#include "Platform/SwiftUI/Views/Image.hpp"
+#include "Platform/SwiftUI/Views/Shapes.hpp"
+#include "Platform/SwiftUI/Views/Stacks.hpp"
+#include "Platform/SwiftUI/Views/Text.hpp"

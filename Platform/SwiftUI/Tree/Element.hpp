@@ -1,0 +1,34 @@
+// A view value on its way to its node.
+#pragma once
+
+#include <memory>
+
+#include "Platform/SwiftUI/Tree/Key.hpp"
+#include "Platform/SwiftUI/Tree/TypeKey.hpp"
+
+namespace swiftui {
+
+class Node;
+struct UpdatePass;
+
+// Lives in the frame arena. Elements of one type meet nodes of one type.
+class Element {
+public:
+    explicit Element(TypeKey type) : m_type(type) {}
+    virtual ~Element() = default;
+    Element(const Element&) = delete;
+
+    TypeKey type() const { return m_type; }
+    virtual std::unique_ptr<Node> makeNode() = 0;
+    // Hands the value to the node: called once, on a new node or on the one of the last build.
+    virtual void update(Node& node, UpdatePass& pass) = 0;
+
+    Key key;
+
+private:
+    friend class ElementArena;
+    TypeKey m_type;
+    Element* m_older = nullptr;
+};
+
+} // namespace swiftui

@@ -1,0 +1,73 @@
+// What a view inherits from the views around it.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Platform/Combine/ObservableObject.hpp"
+#include "Platform/Geometry/Geometry.hpp"
+#include "Platform/Graphics/AttributedString.hpp"
+#include "Platform/Graphics/Color.hpp"
+#include "Platform/Graphics/ContentSize.hpp"
+#include "Platform/Graphics/Font.hpp"
+#include "Platform/SwiftUI/Tree/TypeKey.hpp"
+
+namespace swiftui {
+
+// Base of what a button looks like; see ButtonStyle.hpp among the views.
+class ButtonStyle;
+
+enum class SizeClass : std::uint8_t { compact, regular };
+enum class TextCase : std::uint8_t { asWritten, uppercase };
+
+// Models by their types. Shared by all environments that add none.
+struct EnvironmentObjects {
+    struct Entry {
+        TypeKey type;
+        std::shared_ptr<combine::ObservableObject> object;
+    };
+    std::vector<Entry> entries;
+
+    const std::shared_ptr<combine::ObservableObject>* find(TypeKey type) const;
+};
+
+// Copied only where something in it is overridden.
+struct EnvironmentValues {
+    graphics::ColorScheme colorScheme = graphics::ColorScheme::light;
+    geometry::LayoutDirection layoutDirection = geometry::LayoutDirection::leftToRight;
+    graphics::ContentSizeCategory contentSize = graphics::ContentSizeCategory::large;
+    SizeClass horizontalSizeClass = SizeClass::compact;
+    bool reduceMotion = false;
+    bool isEnabled = true;
+    double displayScale = 2;
+    std::string localeIdentifier = "en_US";
+    geometry::PhysicalInsets safeAreaInsets; // of the host's window
+
+    graphics::Font font{.size = 17, .name = "body"};
+    graphics::Color foregroundStyle{"primary", graphics::rgb(0x000000), graphics::rgb(0xFFFFFF)};
+    graphics::TextAlignment multilineTextAlignment = graphics::TextAlignment::leading;
+    TextCase textCase = TextCase::asWritten;
+    std::optional<int> lineLimit;
+    double lineSpacing = 0;
+    double minimumScaleFactor = 1;
+
+    std::shared_ptr<const ButtonStyle> buttonStyle; // null: the automatic one
+    std::shared_ptr<const EnvironmentObjects> objects;
+
+    // Differs between any two contents that differ; a node compares it to see whether its environment is still the same.
+    std::uint64_t version = 0;
+
+    bool isRightToLeft() const { return layoutDirection == geometry::LayoutDirection::rightToLeft; }
+    // The font as large as it is shown here.
+    graphics::Font scaled(graphics::Font font) const;
+    // Equal in everything but the version.
+    bool hasSameContent(const EnvironmentValues& other) const;
+    // Takes the content over, with a new version where it differs.
+    void adopt(const EnvironmentValues& other);
+    static std::uint64_t nextVersion();
+};
+
+} // namespace swiftui

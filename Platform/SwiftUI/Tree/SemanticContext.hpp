@@ -1,0 +1,39 @@
+// How nodes write themselves into the semantic tree.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Platform/Accessibility/Node.hpp"
+#include "Platform/Graphics/PaintContext.hpp"
+
+namespace swiftui {
+
+// What modifiers say about the first structural node inside them.
+struct SemanticAttributes {
+    std::string identifier;
+    std::string label;
+    std::string value;
+    accessibility::Traits traits = accessibility::Traits::none;
+    bool isHidden = false;
+    std::optional<geometry::Rect> frame;           // in window points; the identified frame
+    bool frameIsIdentifieds = false;               // set with an identifier, so that no label replaces it
+    std::optional<double> scale;
+    std::optional<double> rotation_degrees;
+    std::optional<geometry::Rect> clip;
+};
+
+struct SemanticContext {
+    geometry::Rect window; // what can be seen at all, in window points
+    double now_s = 0;
+    // Consumed by the next structural node.
+    SemanticAttributes pending;
+    // Scrolls the scroll views around the current place; see accessibility::Node::reveal. Scroll views replace it for their content.
+    std::function<void(const geometry::Rect& inWindow)> reveal;
+
+    // A node of the type with the pending attributes, which are empty afterwards.
+    accessibility::Node makeNode(std::string_view type, const graphics::PaintState& state, const geometry::Rect& frame);
+};
+
+} // namespace swiftui

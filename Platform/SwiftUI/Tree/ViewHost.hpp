@@ -1,0 +1,165 @@
+// Keeps a declarative tree alive and shows it somewhere.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "Platform/Accessibility/Node.hpp"
+#include "Platform/Graphics/DisplayList.hpp"
+#include "Platform/Graphics/PaintContext.hpp"
+#include "Platform/Host/WindowContent.hpp"
+#include "Platform/RunLoop/MainRunLoop.hpp"
+#include "Platform/SwiftUI/Tree/BuildContext.hpp"
+#include "Platform/SwiftUI/Tree/EnvironmentValues.hpp"
+#include "Platform/SwiftUI/Tree/TouchDispatcher.hpp"
+#include "Platform/SwiftUI/Tree/View.hpp"
+
+namespace swiftui {
+
+class RootNode;
+class PostLayoutObserver;
+
+// All changes of a turn of the run loop become one update at its end. Nothing is built before the first size, sizeThatFits or update.
+class ViewHost final : public runloop::UpdateClient, public std::enable_shared_from_this<ViewHost> {
+public:
+    // `root` is called at every update; what it returns is compared with what is on screen.
+    static std::shared_ptr<ViewHost> create(std::function<View()> root);
+    template <class Value>
+        requires(CompositeView<Value> || PrimitiveView<Value>)
+    static std::shared_ptr<ViewHost> create(Value value) {
+        return create([value = std::move(value)]() -> View { return Value(value); });
+    }
+    ~ViewHost() override;
+
+    // --- What and where
+    void setRoot(std::function<View()> root);
+    // In points; the insets are those of the own rectangle. The content is laid out in what the insets leave.
+    void setSize(geometry::Size size, geometry::PhysicalInsets safeArea = {});
+    geometry::Size size() const { return m_size; }
+    const geometry::PhysicalInsets& safeArea() const { return m_environment.safeAreaInsets; }
+    // What the whole tree inherits; its safe-area insets are ignored, setSize gives them.
+    void setEnvironment(const EnvironmentValues& environment);
+    const EnvironmentValues& environment() const { return m_environment; }
+    // While invisible nothing appears; the change is told to onAppear and onDisappear.
+    void setVisible(bool isVisible);
+    bool isVisible() const { return m_isVisible; }
+
+    // --- Bringing up to date
+    // The root and everything that has changed is built again at the end of the turn.
+    void setNeedsUpdate();
+    // Builds, lays out and tells change handlers until nothing is left to do. Does nothing inside itself.
+    void update() override;
+    bool needsUpdate() const { return m_needsBuild || m_needsLayout; }
+    // The content's size for a proposal, safe areas not counted; brings it up to date first.
+    geometry::Size sizeThatFits(const geometry::ProposedSize& proposal);
+    // Forgets every cached size, evaluates every body and lays everything out again in the next update.
+    void dropCaches();
+
+    // --- Showing
+    // Writes the picture at now_s(). `state.origin` is where the host's top left corner stands in the window.
+    void paint(graphics::PaintContext& context, const graphics::PaintState& state);
+    // The picture alone, with the corner at (0, 0): the list of the last call where nothing has changed or moves since.
+    const graphics::DisplayList& displayList();
+    // One tree for each outermost view, in window points; `window` is what can be seen at all.
+    std::vector<accessibility::Node> semanticNodes(const graphics::PaintState& state, const geometry::Rect& window,
+                                                   std::function<void(const geometry::Rect&)> reveal = {});
+    // The semantic tree with the host's corner at (0, 0) and its rectangle as window.
+    accessibility::Node semanticTree();
+    bool isAnimating() const;
+    // Told when the picture has changed, once until the next painting.
+    void setNeedsDisplayHandler(std::function<void()> handler) { m_needsDisplayHandler = std::move(handler); }
+    // Told after an update in which the content's sizes may have changed.
+    void setLayoutHandler(std::function<void()> handler) { m_layoutHandler = std::move(handler); }
+
+    // --- Input, in the host's coordinates
+    // Whether the touch that began here belongs to something inside; moved, ended and cancelled touches follow the one that began.
+    bool touch(const host::Touch& touch) { return m_touches.touch(touch); }
+    bool hits(geometry::Point location);
+    bool scroll(geometry::Point location, geometry::Point delta) { return m_touches.scroll(location, delta); }
+    TouchDispatcher& touches() { return m_touches; }
+
+    // --- For nodes
+    double now_s() const { return runloop::MainRunLoop::main().now_s(); }
+    void setNeedsDisplay();
+    // The picture moves by itself until then.
+    void noteAnimation(double end_s);
+    // Its `afterLayout` is called once, after the layout of the update under way or, outside updates, of the next one.
+    void addPostLayoutObserver(PostLayoutObserver& observer);
+    // Views may have come on screen or left it without a new layout: a scroll view moved. Told to onAppear and onDisappear in the
+    // update that follows.
+    void setNeedsAppearanceUpdate();
+    Node* rootNode() const;
+    // The animation by which frames change in the layout under way; null outside layouts and for changes that are not animated.
+    const motion::Animation* layoutAnimation() const { return m_layoutAnimation; }
+    void setLayoutAnimation(const motion::Animation* animation) { m_layoutAnimation = animation; }
+
+private:
+    friend class Node;
+    friend class CompositeNode;
+    friend class PostLayoutObserver;
+    friend class AppearanceObserver;
+
+    explicit ViewHost(std::function<View()> root);
+    void requestUpdate();
+    void build();
+    void layOutContent();
+    bool runObservers();
+    bool updateAppearances();
+    void nodeGone(Node& node);
+
+    std::function<View()> m_root;
+    std::unique_ptr<RootNode> m_rootNode;
+    EnvironmentValues m_environment;
+    geometry::Size m_size;
+    TouchDispatcher m_touches{*this};
+    graphics::DisplayList m_displayList;
+    std::function<void()> m_needsDisplayHandler;
+    std::function<void()> m_layoutHandler;
+    std::vector<PostLayoutObserver*> m_observers;
+    std::vector<PostLayoutObserver*> m_runningObservers;
+    std::vector<class AppearanceObserver*> m_appearances;
+    std::optional<motion::Animation> m_updateAnimation; // of the changes since the last layout
+    const motion::Animation* m_layoutAnimation = nullptr;
+    double m_animatingUntil_s = -1e300;
+    bool m_hasSize = false;
+    bool m_isVisible = true;
+    bool m_isUpdating = false;
+    bool m_needsBuild = true;
+    bool m_needsLayout = true;
+    bool m_needsDisplay = true;
+    bool m_hasToldDisplay = false;
+    bool m_needsAppearanceUpdate = true;
+    bool m_hasUpdateRequest = false;
+};
+
+// Something that waits for a layout to end: change and appearance handlers.
+class PostLayoutObserver {
+public:
+    virtual ~PostLayoutObserver();
+    virtual void afterLayout() = 0;
+
+protected:
+    // Where it is known, so that it is not called after its end.
+    ViewHost* m_observedHost = nullptr;
+    friend class ViewHost;
+};
+
+// Something that is told when it comes on screen and when it leaves it.
+class AppearanceObserver {
+public:
+    virtual ~AppearanceObserver();
+    virtual void appearanceChanged(bool isOnScreen) = 0;
+    virtual Node& observedNode() = 0;
+
+protected:
+    // From its first update on, in the order of the tree.
+    void observeAppearance(ViewHost& host);
+
+private:
+    friend class ViewHost;
+    ViewHost* m_appearanceHost = nullptr;
+    bool m_hasAppeared = false;
+};
+
+} // namespace swiftui

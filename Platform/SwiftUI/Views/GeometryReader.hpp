@@ -1,0 +1,23 @@
+// A view that depends on the room that it gets.
+#pragma once
+
+#include "Platform/Geometry/Geometry.hpp"
+#include "Platform/SwiftUI/Tree/Callback.hpp"
+#include "Platform/SwiftUI/Tree/View.hpp"
+
+namespace swiftui {
+
+struct GeometryProxy {
+    geometry::Size size;                // without safe areas
+    geometry::EdgeInsets safeAreaInsets; // of those that the reader touches
+};
+
+// Takes all that it is offered and puts its content at its top leading corner. The content is made when the size is known, again
+// when it changes, and whenever the view around is built: it must not capture Views.
+struct GeometryReader {
+    Callback<View(const GeometryProxy&)> content;
+
+    Element* makeElement() &&;
+};
+
+} // namespace swiftui

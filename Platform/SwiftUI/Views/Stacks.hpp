@@ -1,0 +1,56 @@
+// Views in a row, in a column or on top of each other.
+#pragma once
+
+#include <optional>
+
+#include "Platform/SwiftUI/Layout/Alignment.hpp"
+#include "Platform/SwiftUI/Tree/View.hpp"
+
+namespace swiftui {
+
+// From the leading to the trailing edge. The room is shared out to the least flexible view first.
+struct HStack {
+    VerticalAlignment alignment = VerticalAlignment::center;
+    double spacing = defaultSpacing; // between any two views
+    ViewList content;
+
+    Element* makeElement() &&;
+};
+
+// From top to bottom.
+struct VStack {
+    HorizontalAlignment alignment = HorizontalAlignment::center;
+    double spacing = defaultSpacing; // between any two views
+    ViewList content;
+
+    Element* makeElement() &&;
+};
+
+// From back to front; as large as the largest view.
+struct ZStack {
+    Alignment alignment = Alignment::center;
+    ViewList content;
+
+    Element* makeElement() &&;
+};
+
+// Takes the room that the other views of its stack leave; both ways outside stacks.
+struct Spacer {
+    double minLength = defaultSpacing;
+
+    Element* makeElement() &&;
+};
+
+// Views without a layout of their own: the container around lays them out. Alone, they make a column.
+struct Group {
+    ViewList content;
+
+    Element* makeElement() &&;
+};
+
+// Nothing, like an absent branch.
+struct EmptyView {
+    Element* makeElement() && { return nullptr; }
+};
+
+} // namespace swiftui
