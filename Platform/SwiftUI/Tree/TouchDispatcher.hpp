@@ -11,8 +11,9 @@ namespace swiftui {
 class GestureHandler;
 class Node;
 class ViewHost;
+struct TouchEvent;
 
-// One touch at a time. See GestureHandler for the rules.
+// One touch at a time: another one that begins meanwhile is ignored. See GestureHandler for the rules.
 class TouchDispatcher {
 public:
     explicit TouchDispatcher(ViewHost& host) : m_host(host) {}
@@ -20,12 +21,13 @@ public:
 
     // Whether a handler has the touch.
     bool touch(const host::Touch& touch);
+    // The innermost handler that the movement means something to gets it.
     bool scroll(geometry::Point location, geometry::Point delta);
     // Takes the touch away from whoever has it.
     void cancel();
     // The handler that has the touch; null when none has.
     GestureHandler* activeHandler() const { return m_active; }
-    // The node, and with it its handler, goes away.
+    // The node, and with it its handler, goes away. The touch stays with the handlers around it, who may still claim it.
     void nodeGone(Node& node);
 
 private:
@@ -34,14 +36,21 @@ private:
         GestureHandler* handler = nullptr;
     };
 
+    Node* hitTest(geometry::Point location) const;
     void collectHandlers(Node* hit);
+    TouchEvent eventAt(geometry::Point location) const;
+    GestureHandler* interceptor(const TouchEvent& event) const;
     bool begin(const host::Touch& touch);
-    void offerToOuterHandlers(const struct TouchEvent& event);
+    void move(const host::Touch& touch);
+    void offerToOthers(const TouchEvent& event);
+    // Ends the touch and tells who had it.
+    GestureHandler* release();
 
     ViewHost& m_host;
-    std::vector<Candidate> m_candidates; // deepest first
+    std::vector<Candidate> m_candidates; // deepest first; empty between touches
     GestureHandler* m_active = nullptr;
     geometry::Point m_start;
+    geometry::Point m_location;
 };
 
 } // namespace swiftui

@@ -1,0 +1,123 @@
+#include "Platform/SwiftUI/Tree/TouchDispatcher.hpp"
+
+#include <algorithm>
+
+#include "Platform/SwiftUI/Tree/GestureHandler.hpp"
+#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ViewHost.hpp"
+
+namespace swiftui {
+
+bool TouchDispatcher::touch(const host::Touch& touch) {
+    // What a handler does may let go of everything around it.
+    const std::shared_ptr<ViewHost> alive = m_host.shared_from_this();
+    if (touch.phase == host::TouchPhase::began) return begin(touch);
+    if (m_candidates.empty()) return false;
+
+    const bool wasActive = m_active != nullptr;
+    if (touch.phase == host::TouchPhase::cancelled) {
+        cancel();
+        return wasActive;
+    }
+    // A finger that lifts somewhere else has moved there first.
+    if (touch.phase == host::TouchPhase::moved || !(touch.location == m_location)) move(touch);
+    if (touch.phase == host::TouchPhase::ended) {
+        const TouchEvent event = eventAt(touch.location);
+        if (GestureHandler* handler = release()) handler->touchEnded(event);
+    }
+    return wasActive;
+}
+
+bool TouchDispatcher::begin(const host::Touch& touch) {
+    if (m_active) return true;
+    m_start = m_location = touch.location;
+    collectHandlers(hitTest(touch.location));
+    const TouchEvent event = eventAt(touch.location);
+    if (GestureHandler* handler = interceptor(event)) {
+        m_active = handler;
+        handler->touchBegan(event);
+        return true;
+    }
+    for (std::size_t index = 0; index < m_candidates.size() && !m_active; ++index) {
+        GestureHandler* handler = m_candidates[index].handler;
+        if (handler->touchBegan(event)) m_active = handler;
+    }
+    if (!m_active) m_candidates.clear();
+    return m_active != nullptr;
+}
+
+// All of them stop, the innermost takes the touch.
+GestureHandler* TouchDispatcher::interceptor(const TouchEvent& event) const {
+    GestureHandler* innermost = nullptr;
+    for (std::size_t index = m_candidates.size(); index-- > 0;) {
+        GestureHandler* handler = m_candidates[index].handler;
+        if (handler->interceptsTouch(event)) innermost = handler;
+    }
+    return innermost;
+}
+
+void TouchDispatcher::move(const host::Touch& touch) {
+    m_location = touch.location;
+    const TouchEvent event = eventAt(touch.location);
+    if (m_active) m_active->touchMoved(event);
+    if (!m_active || !m_active->holdsTouch()) offerToOthers(event);
+}
+
+void TouchDispatcher::offerToOthers(const TouchEvent& event) {
+    for (std::size_t index = 0; index < m_candidates.size(); ++index) {
+        GestureHandler* claimer = m_candidates[index].handler;
+        if (claimer == m_active || !claimer->claims(event)) continue;
+        GestureHandler* before = m_active;
+        m_active = claimer;
+        if (before) before->touchCancelled();
+        TouchEvent atStart = event;
+        atStart.location = event.start;
+        if (m_active) m_active->touchBegan(atStart);
+        if (m_active) m_active->touchMoved(event);
+        return;
+    }
+}
+
+bool TouchDispatcher::scroll(geometry::Point location, geometry::Point delta) {
+    const std::shared_ptr<ViewHost> alive = m_host.shared_from_this();
+    for (Node* node = hitTest(location); node; node = node->parent()) {
+        GestureHandler* handler = node->gestureHandler();
+        if (handler && handler->scrolled(delta)) return true;
+    }
+    return false;
+}
+
+void TouchDispatcher::cancel() {
+    if (GestureHandler* handler = release()) handler->touchCancelled();
+}
+
+GestureHandler* TouchDispatcher::release() {
+    GestureHandler* handler = m_active;
+    m_active = nullptr;
+    m_candidates.clear();
+    return handler;
+}
+
+void TouchDispatcher::nodeGone(Node& node) {
+    const auto gone =
+        std::find_if(m_candidates.begin(), m_candidates.end(), [&](const Candidate& one) { return one.node == &node; });
+    if (gone == m_candidates.end()) return;
+    if (gone->handler == m_active) m_active = nullptr;
+    m_candidates.erase(gone);
+}
+
+Node* TouchDispatcher::hitTest(geometry::Point location) const {
+    Node* root = m_host.rootNode();
+    return root ? root->hitTest(location, graphics::PaintState{}, m_host.now_s()) : nullptr;
+}
+
+void TouchDispatcher::collectHandlers(Node* hit) {
+    m_candidates.clear();
+    for (Node* node = hit; node; node = node->parent()) {
+        if (GestureHandler* handler = node->gestureHandler()) m_candidates.push_back({node, handler});
+    }
+}
+
+TouchEvent TouchDispatcher::eventAt(geometry::Point location) const { return {location, m_start, m_host.now_s()}; }
+
+} // namespace swiftui
