@@ -19,11 +19,14 @@ public:
 
     UIViewController* topViewController() const { return children().empty() ? nullptr : children().back().get(); }
     UIViewController& contentViewController() override;
-    // The bar's background; the content's begins below the bar.
+    // Behind the bar, and behind content that has no background of its own.
     void setBarBackgroundColor(const UIColor& color);
 
     void viewDidLoad() override;
     void viewDidLayoutSubviews() override;
+
+protected:
+    geometry::PhysicalInsets safeAreaForChildren(const geometry::PhysicalInsets& own) const override;
 
 private:
     friend class UIViewController;

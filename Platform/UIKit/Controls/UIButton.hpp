@@ -9,7 +9,6 @@ namespace uikit {
 // which should not take touches. Answers a finger by dimming.
 class UIButton : public UIControl {
 public:
-    UIButton();
     std::string_view typeName() const override { return "UIButton"; }
 
     const UIImage& image() const { return m_image; }

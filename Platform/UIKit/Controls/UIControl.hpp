@@ -25,7 +25,8 @@ public:
     template <class Target>
     void addTarget(const std::weak_ptr<Target>& target, std::function<void(Target&, UIControl&)> action, Event event) {
         Target* const address = target.lock().get();
-        addEntry({std::weak_ptr<void>(target), address, event, {}, [action = std::move(action), address](UIControl& sender) { action(*address, sender); }});
+        addEntry({std::weak_ptr<void>(target), address, event, {},
+                  [action = std::move(action), address](UIControl& sender) { action(*address, sender); }});
     }
     // Without a target: the action goes up the responder chain from here until somebody answers it.
     void addTarget(std::nullptr_t, Selector action, Event event) { addEntry({{}, nullptr, event, action, {}}); }
@@ -60,6 +61,7 @@ protected:
     static constexpr double trackingMargin = 70;
 
     void setHighlighted(bool highlighted);
+    bool isInside(const UITouch& touch) const;
     void describe(accessibility::Node& node, const graphics::PaintState& state) const override;
 
 private:

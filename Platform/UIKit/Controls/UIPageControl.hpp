@@ -10,7 +10,8 @@ class UIPageControl : public UIControl {
 public:
     enum class BackgroundStyle { automatic, prominent, minimal };
 
-    UIPageControl();
+    static constexpr double cellWidth = 10;
+
     std::string_view typeName() const override { return "UIPageControl"; }
 
     int numberOfPages() const { return m_numberOfPages; }
@@ -26,8 +27,8 @@ public:
     void touchesEnded(const UITouch& touch) override;
     // "page 2 of 4"
     std::string accessibilityValue() const override;
-    // Goes to the next page.
-    void activate() override { goToPage(m_currentPage + 1); }
+    // What a tap at the centre does.
+    void activate() override { goToPage(pageAt(bounds().midX())); }
 
     // The centre of a page's dot, in the control's coordinates.
     geometry::Point dotCenter(int page) const;
@@ -38,7 +39,7 @@ protected:
 
 private:
     int pageAt(double x) const;
-    // Sends valueChanged when the page becomes another one.
+    // Kept within the pages. Sends valueChanged when the page becomes another one.
     void goToPage(int page);
 
     int m_numberOfPages = 0;

@@ -1,0 +1,157 @@
+#include "Platform/UIKit/Views/UILabel.hpp"
+
+#include "Platform/Foundation/Locale.hpp"
+#include "Platform/Host/TextCache.hpp"
+
+namespace uikit {
+
+namespace {
+
+std::string_view language() { return foundation::Locale::current().languageChain().front(); }
+
+std::string_view nameOf(const UIFont& font) {
+    if (!font.name.empty()) return font.name;
+    return font.face ? std::string_view(font.face->name) : std::string_view("system");
+}
+
+} // namespace
+
+UILabel::UILabel() {
+    constexpr UILayoutPriority hugging = 251; // before plain views
+    constexpr double defaultSize = 17;
+    setContentHuggingPriority(hugging, Axis::horizontal);
+    setContentHuggingPriority(hugging, Axis::vertical);
+    setUserInteractionEnabled(false);
+    m_attributes.font.size = defaultSize;
+    m_attributes.color = {"label", graphics::rgb(0x000000), graphics::rgb(0xFFFFFF)};
+    contentDidChange();
+}
+
+// --- Content ---
+
+void UILabel::setText(std::string text) {
+    m_isPlain = true;
+    m_content = graphics::AttributedString(std::move(text), m_attributes);
+    contentDidChange();
+}
+
+void UILabel::setAttributedText(graphics::AttributedString text) {
+    m_isPlain = false;
+    m_content = std::move(text);
+    if (m_content.paragraphStyle) m_alignment = m_content.paragraphStyle->alignment;
+    contentDidChange();
+}
+
+void UILabel::setFont(const UIFont& font) {
+    m_attributes.font = font;
+    restylePlainText();
+}
+
+void UILabel::setTextColor(const UIColor& color) {
+    m_attributes.color = color;
+    restylePlainText();
+}
+
+void UILabel::restylePlainText() {
+    if (m_isPlain) setText(text());
+}
+
+void UILabel::setTextAlignment(graphics::TextAlignment alignment) {
+    m_alignment = alignment;
+    setNeedsDisplay();
+}
+
+void UILabel::setNumberOfLines(int count) {
+    m_numberOfLines = std::max(0, count);
+    invalidateIntrinsicContentSize();
+}
+
+void UILabel::setPreferredMaxLayoutWidth(double width) {
+    if (m_preferredMaxLayoutWidth == width) return;
+    m_preferredMaxLayoutWidth = width;
+    invalidateIntrinsicContentSize();
+}
+
+void UILabel::contentDidChange() {
+    m_runs.clear();
+    for (const graphics::AttributedRun& run : m_content.runs()) m_runs.push_back({run.text, run.attributes.font, run.attributes.kern});
+    if (m_runs.empty()) m_runs.push_back({{}, m_attributes.font, 0});
+    invalidateIntrinsicContentSize();
+    setNeedsDisplay();
+}
+
+void UILabel::traitCollectionDidChange(const UITraitCollection& previous) {
+    UIView::traitCollectionDidChange(previous);
+    if (previous.layoutDirection != direction()) invalidateIntrinsicContentSize();
+}
+
+// --- Measures ---
+
+const UIFont& UILabel::firstFont() const { return m_runs.front().font; }
+
+const std::shared_ptr<const graphics::ShapedText>& UILabel::shapedText() const {
+    return host::TextCache::shared().shaped(m_runs, language(), direction());
+}
+
+std::shared_ptr<const graphics::ShapedText> UILabel::ellipsis() const {
+    return host::TextCache::shared().ellipsis(firstFont(), language(), direction());
+}
+
+graphics::TextLayout UILabel::laidOut(const geometry::ProposedSize& proposal) const {
+    graphics::TextLayoutRequest request;
+    request.width = proposal.width;
+    request.height = proposal.height;
+    if (m_numberOfLines > 0) request.lineLimit = m_numberOfLines;
+    if (m_content.paragraphStyle) request.lineSpacing = m_content.paragraphStyle->lineSpacing;
+    request.direction = direction();
+    request.ellipsisWidth = host::totalAdvance(*ellipsis());
+    graphics::TextLayout layout;
+    graphics::layOutText(*shapedText(), request, layout);
+    return layout;
+}
+
+geometry::Size UILabel::intrinsicContentSize() const {
+    const bool wraps = m_numberOfLines != 1 && m_preferredMaxLayoutWidth > 0;
+    if (m_content.isEmpty()) return {0, 0};
+    return laidOut({wraps ? std::optional(m_preferredMaxLayoutWidth) : std::nullopt, std::nullopt}).size;
+}
+
+geometry::Size UILabel::sizeThatFits(const geometry::ProposedSize& proposal) const {
+    if (m_content.isEmpty()) return {0, 0};
+    return laidOut(proposal).size;
+}
+
+// --- Picture ---
+
+void UILabel::draw(graphics::PaintContext& context, const graphics::PaintState& state) const {
+    if (m_content.isEmpty()) return;
+    const graphics::TextLayout layout = laidOut(bounds().size);
+    std::vector<graphics::TextRunPaint> paints;
+    for (const graphics::AttributedRun& run : m_content.runs())
+        paints.push_back({run.attributes.color.resolved(state.scheme), run.attributes.isStruckThrough});
+    const auto text = shapedText();
+    const double top = bounds().midY() - layout.size.height / 2;
+    graphics::paintTextLayout(context, state, layout, text, ellipsis(), {{bounds().minX(), top}, {bounds().width(), layout.size.height}}, m_alignment,
+                              paints);
+}
+
+void UILabel::describe(accessibility::Node& node, const graphics::PaintState&) const {
+    node.traits = node.traits | accessibility::Traits::staticText;
+    const graphics::TextLayout layout = laidOut(bounds().size);
+    const graphics::TextAttributes first = m_content.isEmpty() ? m_attributes : m_content.runs().front().attributes;
+    accessibility::TextInfo info;
+    info.text = m_content.text();
+    info.font = nameOf(first.font);
+    info.size = first.font.size;
+    info.weight = first.font.weightOption;
+    info.color = first.color.name;
+    info.lineCount = m_content.isEmpty() ? 0 : int(layout.lines.size());
+    info.isTruncated = layout.isTruncated;
+    if (m_content.runs().size() > 1)
+        for (const graphics::AttributedRun& run : m_content.runs())
+            info.runs.push_back({run.text, std::string(nameOf(run.attributes.font)), run.attributes.font.size, run.attributes.font.weightOption,
+                                 std::string(run.attributes.color.name), run.attributes.isStruckThrough});
+    node.text = std::move(info);
+}
+
+} // namespace uikit

@@ -1,0 +1,129 @@
+#include "Platform/UIKit/Views/UIStackView.hpp"
+
+namespace uikit {
+
+void UIStackView::addArrangedSubview(const std::shared_ptr<UIView>& view) {
+    const auto kept = view;
+    addSubview(kept);
+    m_arranged.push_back(kept);
+    invalidateIntrinsicContentSize();
+}
+
+void UIStackView::removeArrangedSubview(UIView& view) {
+    if (view.superview() == this) view.removeFromSuperview();
+}
+
+void UIStackView::willRemoveSubview(UIView& view) {
+    std::erase_if(m_arranged, [&](const auto& arranged) { return arranged.get() == &view; });
+    invalidateIntrinsicContentSize();
+}
+
+void UIStackView::subviewDidInvalidateIntrinsicContentSize(UIView&) { invalidateIntrinsicContentSize(); }
+
+void UIStackView::setAxis(Axis axis) {
+    m_axis = axis;
+    invalidateIntrinsicContentSize();
+}
+
+void UIStackView::setSpacing(double spacing) {
+    m_spacing = spacing;
+    invalidateIntrinsicContentSize();
+}
+
+void UIStackView::setDistribution(Distribution distribution) {
+    m_distribution = distribution;
+    invalidateIntrinsicContentSize();
+}
+
+void UIStackView::setAlignment(Alignment alignment) {
+    m_alignment = alignment;
+    setNeedsLayout();
+}
+
+// --- Measures ---
+
+std::vector<UIView*> UIStackView::shown() const {
+    std::vector<UIView*> views;
+    for (const auto& view : m_arranged)
+        if (!view->isHidden()) views.push_back(view.get());
+    return views;
+}
+
+geometry::Size UIStackView::naturalSize(const UIView& view, std::optional<double> across) const {
+    const geometry::ProposedSize proposal =
+        m_axis == Axis::horizontal ? geometry::ProposedSize{std::nullopt, across} : geometry::ProposedSize{across, std::nullopt};
+    return view.sizeThatFits(proposal);
+}
+
+geometry::Size UIStackView::intrinsicContentSize() const { return sizeThatFits({}); }
+
+geometry::Size UIStackView::sizeThatFits(const geometry::ProposedSize& proposal) const {
+    const auto views = shown();
+    const std::optional<double> offered = m_axis == Axis::horizontal ? proposal.height : proposal.width;
+    double along = m_spacing * double(views.empty() ? 0 : views.size() - 1), across = 0, longest = 0;
+    for (const UIView* view : views) {
+        // Across, a view's own need counts: what is offered would be taken as a need by views without a natural size.
+        const geometry::Size natural = naturalSize(*view, offered), own = naturalSize(*view, std::nullopt);
+        along += alongOf(natural);
+        longest = std::max(longest, alongOf(natural));
+        across = std::max(across, offered ? std::min(acrossOf(own), *offered) : acrossOf(own));
+    }
+    if (m_distribution == Distribution::fillEqually && !views.empty())
+        along = double(views.size()) * longest + m_spacing * double(views.size() - 1);
+    return m_axis == Axis::horizontal ? geometry::Size{along, across} : geometry::Size{across, along};
+}
+
+std::vector<double> UIStackView::lengths(const std::vector<UIView*>& views, double room, double across) const {
+    if (m_distribution == Distribution::fillEqually) return std::vector<double>(views.size(), std::max(0.0, room / double(views.size())));
+    std::vector<double> lengths;
+    double left = room;
+    for (const UIView* view : views) {
+        lengths.push_back(alongOf(naturalSize(*view, across)));
+        left -= lengths.back();
+    }
+    if (left > 0) {
+        std::size_t loosest = 0;
+        for (std::size_t i = 1; i < views.size(); ++i)
+            if (views[i]->contentHuggingPriority(m_axis) < views[loosest]->contentHuggingPriority(m_axis)) loosest = i;
+        lengths[loosest] += left;
+    }
+    std::vector<bool> isEmptied(views.size());
+    while (left < 0) {
+        std::optional<std::size_t> weakest; // of equals the last one yields first
+        for (std::size_t i = 0; i < views.size(); ++i)
+            if (!isEmptied[i] && (!weakest || views[i]->contentCompressionResistancePriority(m_axis) <=
+                                                  views[*weakest]->contentCompressionResistancePriority(m_axis)))
+                weakest = i;
+        if (!weakest) break;
+        isEmptied[*weakest] = true;
+        const double taken = std::min(lengths[*weakest], -left);
+        lengths[*weakest] -= taken;
+        left += taken;
+    }
+    return lengths;
+}
+
+void UIStackView::layoutSubviews() {
+    const auto views = shown();
+    if (views.empty()) return;
+    const geometry::Rect all = bounds();
+    const double across = acrossOf(all.size);
+    const double room = alongOf(all.size) - m_spacing * double(views.size() - 1);
+    const std::vector<double> lengths = this->lengths(views, room, across);
+    double position = 0;
+    for (std::size_t i = 0; i < views.size(); ++i) {
+        const double thickness = m_alignment == Alignment::fill ? across : std::min(across, acrossOf(naturalSize(*views[i], std::nullopt)));
+        const double free = across - thickness;
+        double offset = m_alignment == Alignment::center ? free / 2 : m_alignment == Alignment::trailing ? free : 0;
+        if (m_axis == Axis::horizontal) {
+            const double x = isRightToLeft() ? all.maxX() - position - lengths[i] : all.minX() + position;
+            views[i]->setFrame({{x, all.minY() + offset}, {lengths[i], thickness}});
+        } else {
+            if (isRightToLeft()) offset = free - offset;
+            views[i]->setFrame({{all.minX() + offset, all.minY() + position}, {thickness, lengths[i]}});
+        }
+        position += lengths[i] + m_spacing;
+    }
+}
+
+} // namespace uikit

@@ -1,0 +1,55 @@
+// Views in a row or a column, placed by arithmetic.
+#pragma once
+
+#include "Platform/UIKit/Views/UIView.hpp"
+
+namespace uikit {
+
+// Hidden views take no room. A row begins at the leading edge.
+class UIStackView : public UIView {
+public:
+    enum class Distribution {
+        fill,        // natural lengths; what is left over goes to the view that hugs least, what is missing is taken from the one that resists least
+        fillEqually, // all of the same length
+    };
+    enum class Alignment { fill, leading, center, trailing }; // across; leading is a row's top
+
+    explicit UIStackView(Axis axis = Axis::horizontal) : m_axis(axis) {}
+    std::string_view typeName() const override { return "UIStackView"; }
+
+    const std::vector<std::shared_ptr<UIView>>& arrangedSubviews() const { return m_arranged; }
+    void addArrangedSubview(const std::shared_ptr<UIView>& view);
+    // Takes it out of the row, and out of the stack.
+    void removeArrangedSubview(UIView& view);
+
+    Axis axis() const { return m_axis; }
+    void setAxis(Axis axis);
+    double spacing() const { return m_spacing; }
+    void setSpacing(double spacing);
+    Distribution distribution() const { return m_distribution; }
+    void setDistribution(Distribution distribution);
+    Alignment alignment() const { return m_alignment; }
+    void setAlignment(Alignment alignment);
+
+    geometry::Size intrinsicContentSize() const override;
+    geometry::Size sizeThatFits(const geometry::ProposedSize& proposal) const override;
+    void layoutSubviews() override;
+    void willRemoveSubview(UIView& view) override;
+    void subviewDidInvalidateIntrinsicContentSize(UIView& view) override;
+
+private:
+    std::vector<UIView*> shown() const;
+    // A view's natural size where `across` points are offered across the stack.
+    geometry::Size naturalSize(const UIView& view, std::optional<double> across) const;
+    std::vector<double> lengths(const std::vector<UIView*>& views, double room, double across) const;
+    double alongOf(geometry::Size size) const { return m_axis == Axis::horizontal ? size.width : size.height; }
+    double acrossOf(geometry::Size size) const { return m_axis == Axis::horizontal ? size.height : size.width; }
+
+    std::vector<std::shared_ptr<UIView>> m_arranged;
+    Axis m_axis;
+    double m_spacing = 0;
+    Distribution m_distribution = Distribution::fill;
+    Alignment m_alignment = Alignment::fill;
+};
+
+} // namespace uikit
