@@ -1,0 +1,26 @@
+// The seam between the program and the plug-in that brings FFmpeg: the plug-in is loaded when the first clip is wanted.
+#pragma once
+
+#include "Platform/Host/ClipDecoder.hpp"
+
+namespace ffmpegbackend {
+
+// How a decoder behaves when it is asked for a frame that it does not have yet.
+enum class Pace {
+    realTime, // answers with what it has, and catches up in the background
+    exact,    // waits for the frame
+};
+
+// What the plug-in needs of the program, so that it links none of its libraries.
+struct PluginHost {
+    Pace pace = Pace::realTime;
+    // Takes one line of complaint. May be called on any thread.
+    void (*complain)(const char* message) = nullptr;
+};
+
+// The plug-in's one function. The caller owns the decoder.
+using MakeClipDecoder = host::ClipDecoder* (*)(const PluginHost&);
+inline constexpr const char* makeClipDecoderSymbol = "proupsellsMakeClipDecoder";
+inline constexpr const char* pluginFileName = "proupsells-clips.so";
+
+} // namespace ffmpegbackend
