@@ -1,0 +1,32 @@
+// The program's arguments.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <variant>
+
+#include "Apps/ProUpsellsHost/Device.hpp"
+#include "Apps/ProUpsellsHost/ShowCommand.hpp"
+
+namespace proupsellshost {
+
+struct RunArguments {
+    std::filesystem::path scenario;
+    std::filesystem::path folder; // of snapshots
+};
+
+struct ShowArguments {
+    std::optional<std::filesystem::path> offers; // absent: the sample offers
+    Device device;
+    StartScreen start = StartScreen::paywall;
+};
+
+// Only help was asked for, and has been printed.
+struct HelpShown {};
+
+using Arguments = std::variant<RunArguments, ShowArguments, HelpShown>;
+
+// Throws InputError with "command line" in the place of a file.
+Arguments readCommandLine(int count, const char* const* arguments);
+
+} // namespace proupsellshost

@@ -1,0 +1,39 @@
+// The device that the host program plays: window, appearance, language.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Apps/ProUpsellsHost/JsonCursor.hpp"
+#include "Platform/Geometry/Geometry.hpp"
+#include "Platform/Graphics/Color.hpp"
+#include "Platform/Graphics/ContentSize.hpp"
+
+namespace proupsellshost {
+
+enum class DirectionChoice { automatic, leftToRight, rightToLeft };
+enum class FontChoice { bundled, fixed };
+
+struct Device {
+    geometry::Size size{375, 800}; // points
+    double scale = 2;              // pixels a point
+    graphics::ColorScheme appearance = graphics::ColorScheme::light;
+    std::string locale = "en_US";
+    DirectionChoice layoutDirection = DirectionChoice::automatic;
+    graphics::ContentSizeCategory textSize = graphics::ContentSizeCategory::large;
+    bool reduceMotion = false;
+    geometry::PhysicalInsets safeArea;
+    std::filesystem::path strings; // the folder of the host's translations; empty for none
+    FontChoice fonts = FontChoice::bundled;
+};
+
+// Whether the key is one of a device's.
+bool isDeviceKey(std::string_view key);
+// Reads one key of a device; `folder` is what a relative path in it is relative to.
+void readDeviceKey(Device& device, std::string_view key, const JsonCursor& value, const std::filesystem::path& folder);
+// Reads an object of device keys.
+Device readDevice(const JsonCursor& object, const std::filesystem::path& folder);
+
+} // namespace proupsellshost

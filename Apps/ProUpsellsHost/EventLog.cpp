@@ -1,0 +1,18 @@
+#include "Apps/ProUpsellsHost/EventLog.hpp"
+
+#include <ostream>
+
+#include "Apps/ProUpsellsHost/Numbers.hpp"
+#include "Platform/RunLoop/MainRunLoop.hpp"
+
+namespace proupsellshost {
+
+void EventLog::write(std::string_view event, const Json& details) {
+    Json line;
+    line["time"] = toJson(runloop::MainRunLoop::main().now_s());
+    line["event"] = event;
+    for (const auto& [key, value] : details.items()) line[key] = value;
+    m_stream << line.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n' << std::flush;
+}
+
+} // namespace proupsellshost

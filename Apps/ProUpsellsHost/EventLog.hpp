@@ -1,0 +1,23 @@
+// The lines that the program writes for every call that the module makes.
+#pragma once
+
+#include <iosfwd>
+#include <string_view>
+
+#include "Apps/ProUpsellsHost/JsonFile.hpp"
+
+namespace proupsellshost {
+
+// One JSON object a line, written when the call is made.
+class EventLog {
+public:
+    explicit EventLog(std::ostream& stream) : m_stream(stream) {}
+
+    // Adds "time" (the main run loop's) and "event" before the keys of `details`.
+    void write(std::string_view event, const Json& details);
+
+private:
+    std::ostream& m_stream;
+};
+
+} // namespace proupsellshost

@@ -1,0 +1,114 @@
+#include "Apps/ProUpsellsHost/HostSession.hpp"
+
+#include "Apps/ProUpsellsHost/HostViewController.hpp"
+#include "Backends/Headless/FixedTextShaper.hpp"
+#include "Backends/Icu/IcuLocaleServices.hpp"
+#include "Backends/Qt/QtImageDecoder.hpp"
+#include "Backends/Qt/QtTextShaper.hpp"
+#include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/Foundation/Bundle.hpp"
+#include "ProUpsells/Upsell View/UpsellViewController.hpp"
+#include "ProUpsells/VelaProStorePageViewController.hpp"
+
+namespace proupsellshost {
+
+using proupsells::UpsellViewModel;
+
+HostSession::HostSession(Offers offers, const Device& device, HostParts parts, std::shared_ptr<EventLog> log)
+    : m_device(device), m_log(std::move(log)) {
+    commons::DefaultLogger::shared().setSink([log = m_log](const commons::LogRecord& record) {
+        log->write("log", {{"severity", record.severity}, {"message", record.message}, {"function", record.function}});
+    });
+    installServices();
+
+    m_window = uikit::UIWindow::create(device.size, device.safeArea);
+    m_window->setTraits(traits());
+    m_observer = std::make_shared<LedgerObserver>(m_log);
+    m_window->setPresentationObserver(m_observer);
+    m_window->setRootViewController(std::make_shared<HostViewController>());
+
+    proupsells::VelaProStorePageViewController::shouldMentioniCloudSync = offers.shouldMentioniCloudSync;
+    m_entry = proupsells::VelaProUpsellViewController::create(std::move(offers.options), offers.variant, std::move(offers.referrer),
+                                                              offers.entitlement, offers.showLoginOnSuccess);
+    if (parts.tracker) m_tracker = std::make_shared<LedgerTracker>(m_log);
+    if (parts.delegate) m_delegate = std::make_shared<LedgerDelegate>(m_log);
+    m_entry->setTracker(m_tracker);
+    m_entry->setDelegate(m_delegate);
+    m_entry->setAnnualSubscriptionPriceForComparisonWithPromotionalPrice(offers.annualSubscriptionPriceForComparisonWithPromotionalPrice);
+    m_entry->setMonthlySubscriptionPriceForComparisonWithPromotionalPrice(offers.monthlySubscriptionPriceForComparisonWithPromotionalPrice);
+}
+
+HostSession::~HostSession() {
+    m_window->setRootViewController(nullptr);
+    commons::DefaultLogger::shared().setSink({});
+}
+
+void HostSession::installServices() {
+    foundation::Locale::setCurrent(foundation::Locale{m_device.locale});
+    foundation::Bundle::setMain(m_device.strings);
+    host::Services services;
+    if (m_device.fonts == FontChoice::fixed) services.textShaper = std::make_shared<headless::FixedTextShaper>();
+    else services.textShaper = std::make_shared<qtbackend::QtTextShaper>();
+    services.imageDecoder = std::make_shared<qtbackend::QtImageDecoder>();
+    services.localeServices = std::make_shared<icubackend::IcuLocaleServices>();
+    m_services.reset();
+    m_services = std::make_unique<host::Installation>(std::move(services));
+}
+
+uikit::UITraitCollection HostSession::traits() const {
+    uikit::UITraitCollection traits;
+    traits.userInterfaceStyle = m_device.appearance;
+    traits.displayScale = m_device.scale;
+    traits.preferredContentSizeCategory = m_device.textSize;
+    traits.reduceMotion = m_device.reduceMotion;
+    switch (m_device.layoutDirection) {
+    case DirectionChoice::automatic:
+        traits.layoutDirection = foundation::LocaleServices::current().layoutDirection(foundation::Locale::current());
+        break;
+    case DirectionChoice::leftToRight: traits.layoutDirection = geometry::LayoutDirection::leftToRight; break;
+    case DirectionChoice::rightToLeft: traits.layoutDirection = geometry::LayoutDirection::rightToLeft; break;
+    }
+    return traits;
+}
+
+bool HostSession::isShowing() const { return m_entry->presentingViewController() != nullptr; }
+
+void HostSession::present() { m_window->rootViewController()->present(m_entry, true); }
+
+void HostSession::setDevice(const Device& device) {
+    const bool needsServices = device.locale != m_device.locale || device.strings != m_device.strings || device.fonts != m_device.fonts;
+    m_device = device;
+    if (needsServices) installServices();
+    m_window->setSize(device.size, device.safeArea);
+    m_window->setTraits(traits());
+}
+
+void HostSession::set(const SetStep& step) {
+    if (step.options) m_entry->setOptions(*step.options);
+    if (step.annualPrice) m_entry->setAnnualSubscriptionPriceForComparisonWithPromotionalPrice(*step.annualPrice);
+    if (step.monthlyPrice) m_entry->setMonthlySubscriptionPriceForComparisonWithPromotionalPrice(*step.monthlyPrice);
+    if (step.shouldMentioniCloudSync) proupsells::VelaProStorePageViewController::shouldMentioniCloudSync = *step.shouldMentioniCloudSync;
+    if (step.device) setDevice(*step.device);
+}
+
+void HostSession::send(SentEvent event) {
+    const auto& children = m_entry->children();
+    const auto paywall = children.empty() ? nullptr : std::dynamic_pointer_cast<proupsells::UpsellViewController>(children.front());
+    if (!paywall) return;
+    const auto& stream = paywall->upsellViewModel()->tapEventOccurred;
+    switch (event) {
+    case SentEvent::cancel: return stream.send({UpsellViewModel::TapEvent::Cancel{}});
+    case SentEvent::restorePurchases: return stream.send({UpsellViewModel::TapEvent::RestorePurchases{}});
+    case SentEvent::whatIsPro: return stream.send({UpsellViewModel::TapEvent::WhatIsPro{}});
+    case SentEvent::privacyPolicy: return stream.send({UpsellViewModel::TapEvent::PrivacyPolicy{}});
+    case SentEvent::termsOfService: return stream.send({UpsellViewModel::TapEvent::TermsOfService{}});
+    case SentEvent::comparePlans: return stream.send({UpsellViewModel::TapEvent::ComparePlans{}});
+    }
+}
+
+void HostSession::release(HostPart part) {
+    if (part == HostPart::delegate) m_delegate.reset();
+    else m_tracker.reset();
+}
+
+} // namespace proupsellshost

@@ -1,0 +1,54 @@
+// The application around the module: a window with a host screen, over which the entry controller is presented.
+#pragma once
+
+#include <memory>
+
+#include "Apps/ProUpsellsHost/Device.hpp"
+#include "Apps/ProUpsellsHost/HostLedger.hpp"
+#include "Apps/ProUpsellsHost/Offers.hpp"
+#include "Apps/ProUpsellsHost/Scenario.hpp"
+#include "Platform/Host/Services.hpp"
+#include "Platform/UIKit/Controllers/UIWindow.hpp"
+
+namespace proupsellshost {
+
+struct HostParts {
+    bool tracker = true;
+    bool delegate = true;
+};
+
+// Needs a main run loop and a Qt application.
+class HostSession {
+public:
+    HostSession(Offers offers, const Device& device, HostParts parts, std::shared_ptr<EventLog> log);
+    ~HostSession();
+
+    uikit::UIWindow& window() { return *m_window; }
+    const Device& device() const { return m_device; }
+    proupsells::VelaProUpsellViewController& entryController() { return *m_entry; }
+    // False once the entry controller has been dismissed.
+    bool isShowing() const;
+
+    // Presents the entry controller, animated.
+    void present();
+    void setDevice(const Device& device);
+    void set(const SetStep& step);
+    // Sends one of the paywall's tap events, as if a control had.
+    void send(SentEvent event);
+    void release(HostPart part);
+
+private:
+    void installServices();
+    uikit::UITraitCollection traits() const;
+
+    Device m_device;
+    std::shared_ptr<EventLog> m_log;
+    std::unique_ptr<host::Installation> m_services;
+    std::shared_ptr<LedgerDelegate> m_delegate;
+    std::shared_ptr<LedgerTracker> m_tracker;
+    std::shared_ptr<LedgerObserver> m_observer;
+    std::shared_ptr<uikit::UIWindow> m_window;
+    std::shared_ptr<proupsells::VelaProUpsellViewController> m_entry;
+};
+
+} // namespace proupsellshost

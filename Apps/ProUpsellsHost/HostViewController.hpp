@@ -1,0 +1,14 @@
+// The host's own screen, which the paywall covers.
+#pragma once
+
+#include "Platform/UIKit/Controllers/UIViewController.hpp"
+
+namespace proupsellshost {
+
+class HostViewController final : public uikit::UIViewController {
+public:
+    std::string_view typeName() const override { return "HostViewController"; }
+    void viewDidLoad() override;
+};
+
+} // namespace proupsellshost

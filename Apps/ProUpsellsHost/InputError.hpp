@@ -1,0 +1,22 @@
+// What the program says of input that it cannot use.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace proupsellshost {
+
+// One line: FILE: POINTER: what is wrong, what was expected. Caught in main(), exit status 2.
+class InputError : public std::runtime_error {
+public:
+    // `pointer` is a JSON pointer, empty for the whole file.
+    InputError(const std::string& file, const std::string& pointer, const std::string& complaint);
+};
+
+// The same, followed by a list on lines of its own.
+class InputErrorWithList : public std::runtime_error {
+public:
+    InputErrorWithList(const InputError& error, const std::string& list) : std::runtime_error(error.what() + list) {}
+};
+
+} // namespace proupsellshost

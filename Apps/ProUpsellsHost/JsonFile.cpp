@@ -1,0 +1,183 @@
+#include "Apps/ProUpsellsHost/JsonFile.hpp"
+
+#include <fstream>
+#include <set>
+#include <sstream>
+#include <vector>
+
+#include "Apps/ProUpsellsHost/InputError.hpp"
+
+namespace proupsellshost {
+
+namespace {
+
+constexpr std::size_t maximumDepth = 100;
+
+std::string escapedToken(const std::string& key) {
+    std::string result;
+    for (const char c : key) {
+        if (c == '~') result += "~0";
+        else if (c == '/') result += "~1";
+        else result += c;
+    }
+    return result;
+}
+
+// Builds the value and knows at every moment where it is; stops at the first thing that is wrong.
+class Builder : public nlohmann::json_sax<Json> {
+public:
+    explicit Builder(std::string file) : m_file(std::move(file)) {}
+
+    Json result;
+
+    bool null() override { return add(nullptr); }
+    bool boolean(bool value) override { return add(value); }
+    bool number_integer(number_integer_t value) override { return add(value); }
+    bool number_unsigned(number_unsigned_t value) override { return add(value); }
+    bool number_float(number_float_t value, const string_t&) override { return add(value); }
+    bool string(string_t& value) override { return add(std::move(value)); }
+    bool binary(binary_t&) override { return false; }
+
+    bool start_object(std::size_t) override { return enter(Json::object()); }
+    bool end_object() override { return leave(); }
+    bool start_array(std::size_t) override { return enter(Json::array()); }
+    bool end_array() override { return leave(); }
+
+    bool key(string_t& value) override {
+        Level& level = m_levels.back();
+        if (!level.keys.insert(value).second) {
+            level.key = value;
+            fail("the key \"" + value + "\" stands here twice, expected every key once");
+        }
+        level.key = value;
+        return true;
+    }
+
+    bool parse_error(std::size_t position, const std::string& token, const nlohmann::json::exception& error) override {
+        constexpr int numberOverflow = 406; // nlohmann-json's documented number of the error
+        if (error.id == numberOverflow) fail("the number " + token + " is out of range, expected a smaller one");
+        m_errorPosition = position;
+        return false;
+    }
+
+    std::size_t errorPosition() const { return m_errorPosition; }
+
+    std::string pointer() const {
+        std::string result;
+        for (const Level& level : m_levels) {
+            if (level.value->is_array()) result += "/" + std::to_string(level.value->size());
+            else if (!level.key.empty() || !level.keys.empty()) result += "/" + escapedToken(level.key);
+        }
+        return result;
+    }
+
+private:
+    struct Level {
+        Json* value;
+        std::string key;
+        std::set<std::string> keys;
+    };
+
+    [[noreturn]] void fail(const std::string& complaint) const { throw InputError(m_file, pointer(), complaint); }
+
+    Json* place(Json value) {
+        if (m_levels.empty()) {
+            result = std::move(value);
+            return &result;
+        }
+        Level& level = m_levels.back();
+        if (level.value->is_array()) {
+            level.value->push_back(std::move(value));
+            return &level.value->back();
+        }
+        return &level.value->get_ref<Json::object_t&>().emplace_back(level.key, std::move(value)).second;
+    }
+
+    bool add(Json value) {
+        place(std::move(value));
+        return true;
+    }
+
+    bool enter(Json value) {
+        if (m_levels.size() == maximumDepth) fail("nested too deeply, expected at most 100 levels");
+        // The container's address holds: its parent grows only after the container has been left.
+        Json* placed = place(std::move(value));
+        m_levels.push_back({placed, {}, {}});
+        return true;
+    }
+
+    bool leave() {
+        m_levels.pop_back();
+        return true;
+    }
+
+    std::string m_file;
+    std::vector<Level> m_levels;
+    std::size_t m_errorPosition = 0;
+};
+
+std::string readBytes(const std::filesystem::path& file) {
+    std::error_code error;
+    const auto status = std::filesystem::status(file, error);
+    if (error || !std::filesystem::exists(status)) throw InputError(file.string(), "", "there is no such file, expected a JSON file");
+    if (std::filesystem::is_directory(status)) throw InputError(file.string(), "", "this is a folder, expected a JSON file");
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream) throw InputError(file.string(), "", "the file cannot be read, expected a readable JSON file");
+
+    std::string bytes;
+    char chunk[65536];
+    while (stream.read(chunk, sizeof chunk) || stream.gcount() > 0) {
+        bytes.append(chunk, static_cast<std::size_t>(stream.gcount()));
+        if (bytes.size() > maximumFileSize) throw InputError(file.string(), "", "the file is larger than 64 MB, expected a smaller one");
+    }
+    if (stream.bad()) throw InputError(file.string(), "", "the file cannot be read, expected a readable JSON file");
+    if (bytes.empty()) throw InputError(file.string(), "", "the file is empty, expected a JSON object");
+    return bytes;
+}
+
+// The byte offset of the first byte that is not UTF-8; npos when there is none.
+std::size_t firstInvalidByte(const std::string& text) {
+    const auto byte = [&](std::size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0u; };
+    for (std::size_t i = 0; i < text.size();) {
+        const unsigned lead = byte(i);
+        const int length = lead < 0x80 ? 1 : lead >= 0xC2 && lead < 0xE0 ? 2 : lead >= 0xE0 && lead < 0xF0 ? 3 : lead >= 0xF0 && lead < 0xF5 ? 4 : 0;
+        if (length == 0) return i;
+        for (int k = 1; k < length; ++k)
+            if ((byte(i + k) & 0xC0) != 0x80) return i;
+        const unsigned second = byte(i + 1);
+        const bool isOverlong = (lead == 0xE0 && second < 0xA0) || (lead == 0xF0 && second < 0x90);
+        const bool isOutside = (lead == 0xED && second >= 0xA0) || (lead == 0xF4 && second >= 0x90);
+        if (isOverlong || isOutside) return i;
+        i += static_cast<std::size_t>(length);
+    }
+    return std::string::npos;
+}
+
+std::string lineAndColumn(const std::string& text, std::size_t offset) {
+    std::size_t line = 1, column = 1;
+    for (std::size_t i = 0; i < offset && i < text.size(); ++i) {
+        ++column;
+        if (text[i] == '\n') {
+            ++line;
+            column = 1;
+        }
+    }
+    return "line " + std::to_string(line) + ", column " + std::to_string(column);
+}
+
+} // namespace
+
+Json readJsonFile(const std::filesystem::path& file) {
+    const std::string bytes = readBytes(file);
+    if (const std::size_t offset = firstInvalidByte(bytes); offset != std::string::npos)
+        throw InputError(file.string(), "", "invalid UTF-8 at " + lineAndColumn(bytes, offset) + ", expected UTF-8");
+
+    Builder builder(file.string());
+    if (!Json::sax_parse(bytes, &builder)) {
+        const std::size_t offset = builder.errorPosition() > 0 ? builder.errorPosition() - 1 : 0;
+        throw InputError(file.string(), builder.pointer(), "malformed JSON at " + lineAndColumn(bytes, offset) + ", expected well-formed JSON");
+    }
+    return std::move(builder.result);
+}
+
+} // namespace proupsellshost

@@ -1,0 +1,100 @@
+#include "Apps/ProUpsellsHost/Offers.hpp"
+
+namespace proupsellshost {
+
+using proupsells::SubscriptionOption;
+using proupsells::Referrer;
+
+namespace {
+
+std::optional<std::string> optionalText(const JsonCursor& object, std::string_view key) {
+    const auto value = object.optional(key);
+    return value ? std::optional(value->text()) : std::nullopt;
+}
+
+bool optionalBoolean(const JsonCursor& object, std::string_view key, bool fallback) {
+    return object.has(key) ? object.at(key).boolean() : fallback;
+}
+
+SubscriptionOption readOption(const JsonCursor& option) {
+    option.keys(); // an object, before its type is asked for
+    const std::size_t type = option.at("type").oneOf({"monthly", "yearly", "lifetime"});
+    if (type == 0) option.expectObject({"SKU", "type", "price", "introductoryPrice", "introductoryPeriodLength", "hasUsedFreeTrial"});
+    if (type == 1)
+        option.expectObject({"SKU", "type", "price", "monthlyEffectivePrice", "introductoryPrice", "introductoryPeriodLength", "hasUsedFreeTrial"});
+    if (type == 2) option.expectObject({"SKU", "type", "price", "hasUsedFreeTrial"});
+
+    const std::string sku = option.at("SKU").text();
+    const std::string price = option.at("price").text();
+    const bool hasUsedFreeTrial = option.optional("hasUsedFreeTrial") ? option.at("hasUsedFreeTrial").boolean() : false;
+    if (type == 2) return {sku, SubscriptionOption::SubscriptionType::Lifetime{price}, hasUsedFreeTrial};
+
+    const auto introductoryPrice = optionalText(option, "introductoryPrice");
+    const auto introductoryPeriodLength = optionalText(option, "introductoryPeriodLength");
+    if (type == 0)
+        return {sku, SubscriptionOption::SubscriptionType::Monthly{price, introductoryPrice, introductoryPeriodLength}, hasUsedFreeTrial};
+    const std::string monthlyEffectivePrice = option.at("monthlyEffectivePrice").text();
+    return {sku, SubscriptionOption::SubscriptionType::Yearly{price, monthlyEffectivePrice, introductoryPrice, introductoryPeriodLength},
+            hasUsedFreeTrial};
+}
+
+Referrer readReferrer(const JsonCursor& value) {
+    if (value.isText()) return Referrer{value.text()};
+    if (!value.isObject()) value.fail("neither a text nor an object stands here, expected one of them");
+    value.expectObject({"name", "elementID"});
+    const std::string name = value.at("name").text();
+    const auto element = value.optional("elementID");
+    if (!element) return Referrer{name};
+    if (element->isText()) return Referrer{name, element->text()};
+    if (!element->isNumber()) element->fail("neither a whole number nor a text stands here, expected one of them");
+    return Referrer{name, element->wholeNumber()};
+}
+
+Json orNull(const std::optional<std::string>& text) { return text ? Json(*text) : Json(nullptr); }
+
+} // namespace
+
+std::vector<SubscriptionOption> readOptions(const JsonCursor& array) {
+    std::vector<SubscriptionOption> result;
+    for (const JsonCursor& option : array.elements()) result.push_back(readOption(option));
+    return result;
+}
+
+Offers readOffers(const JsonCursor& object) {
+    object.expectObject({"options", "referrer", "variant", "entitlement", "showLoginOnSuccess",
+                         "annualSubscriptionPriceForComparisonWithPromotionalPrice",
+                         "monthlySubscriptionPriceForComparisonWithPromotionalPrice", "shouldMentioniCloudSync"});
+    Offers offers;
+    offers.options = readOptions(object.at("options"));
+    if (const auto referrer = object.optional("referrer")) offers.referrer = readReferrer(*referrer);
+    if (object.has("variant")) object.at("variant").oneOf({"comparisonPaywall"});
+    if (object.has("entitlement")) object.at("entitlement").oneOf({"velaPRO"});
+    offers.showLoginOnSuccess = optionalBoolean(object, "showLoginOnSuccess", true);
+    offers.annualSubscriptionPriceForComparisonWithPromotionalPrice =
+        optionalText(object, "annualSubscriptionPriceForComparisonWithPromotionalPrice");
+    offers.monthlySubscriptionPriceForComparisonWithPromotionalPrice =
+        optionalText(object, "monthlySubscriptionPriceForComparisonWithPromotionalPrice");
+    offers.shouldMentioniCloudSync = optionalBoolean(object, "shouldMentioniCloudSync", false);
+    return offers;
+}
+
+Offers readOffersFile(const std::filesystem::path& file) {
+    const Json value = readJsonFile(file);
+    return readOffers(JsonCursor{value, file.string()});
+}
+
+Json toJson(const SubscriptionOption& option) {
+    Json result;
+    result["SKU"] = option.SKU();
+    result["type"] = option.isMonthly() ? "monthly" : option.isYearly() ? "yearly" : "lifetime";
+    result["price"] = option.price();
+    if (option.isYearly()) result["monthlyEffectivePrice"] = option.monthlyEffectivePrice();
+    if (!option.isLifetime()) {
+        result["introductoryPrice"] = orNull(option.introductoryPrice());
+        result["introductoryPeriodLength"] = orNull(option.introductoryPeriodLength());
+    }
+    result["hasUsedFreeTrial"] = option.hasUsedFreeTrial();
+    return result;
+}
+
+} // namespace proupsellshost

@@ -1,0 +1,33 @@
+// What the host sells and why it was asked: the offers file.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Apps/ProUpsellsHost/JsonCursor.hpp"
+#include "ProUpsells/SubscriptionOption.hpp"
+#include "ProUpsells/VelaProUpsellViewController.hpp"
+
+namespace proupsellshost {
+
+struct Offers {
+    std::vector<proupsells::SubscriptionOption> options;
+    proupsells::Referrer referrer{"proupsells"};
+    proupsells::VelaProUpsellViewController::Variant variant = proupsells::VelaProUpsellViewController::Variant::comparisonPaywall;
+    proupsells::Entitlement entitlement = proupsells::Entitlement::velaPRO;
+    bool showLoginOnSuccess = true;
+    std::optional<std::string> annualSubscriptionPriceForComparisonWithPromotionalPrice;
+    std::optional<std::string> monthlySubscriptionPriceForComparisonWithPromotionalPrice;
+    bool shouldMentioniCloudSync = false;
+};
+
+std::vector<proupsells::SubscriptionOption> readOptions(const JsonCursor& array);
+Offers readOffers(const JsonCursor& object);
+Offers readOffersFile(const std::filesystem::path& file);
+
+// An option with every key that its type has, absent ones as null.
+Json toJson(const proupsells::SubscriptionOption& option);
+
+} // namespace proupsellshost

@@ -1,0 +1,86 @@
+// A script for a headless run, checked whole before anything is shown.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "Apps/ProUpsellsHost/Device.hpp"
+#include "Apps/ProUpsellsHost/Offers.hpp"
+
+namespace proupsellshost {
+
+// What a step taps: a control by identifier, a control by its label or shown text, or a point.
+struct TapIdentifier {
+    std::string identifier;
+};
+struct TapText {
+    std::string text;
+};
+using TapTarget = std::variant<TapIdentifier, TapText, geometry::Point>;
+
+struct TapStep {
+    TapTarget target;
+};
+struct DragStep {
+    geometry::Point from, to;
+    double duration_s = 0;
+};
+struct PressStep {
+    geometry::Point at;
+    double duration_s = 0;
+};
+struct WaitStep {
+    double duration_s = 0;
+};
+
+enum class SentEvent { cancel, restorePurchases, whatIsPro, privacyPolicy, termsOfService, comparePlans };
+struct SendStep {
+    SentEvent event;
+};
+
+// Only what is there is set.
+struct SetStep {
+    std::optional<std::vector<proupsells::SubscriptionOption>> options;
+    std::optional<std::optional<std::string>> annualPrice;
+    std::optional<std::optional<std::string>> monthlyPrice;
+    std::optional<bool> shouldMentioniCloudSync;
+    std::optional<Device> device; // the whole device as it is from this step on
+};
+
+enum class HostPart { delegate, tracker };
+struct ReleaseStep {
+    HostPart part;
+};
+struct DumpStep {};
+struct SnapshotStep {
+    std::string file;
+};
+
+// Absent members are not looked at.
+struct ExpectStep {
+    std::string identifier;
+    bool isAbsent = false;
+    std::optional<std::string> label, value, text;
+    std::optional<bool> onScreen;
+    std::optional<std::vector<std::string>> traits;
+    std::optional<geometry::Rect> frame;
+};
+
+using Step = std::variant<TapStep, DragStep, PressStep, WaitStep, SendStep, SetStep, ReleaseStep, DumpStep, SnapshotStep, ExpectStep>;
+
+struct Scenario {
+    std::filesystem::path file;
+    Offers offers;
+    Device device;
+    bool hasTracker = true;
+    bool hasDelegate = true;
+    std::vector<Step> steps;
+};
+
+// Throws InputError.
+Scenario readScenario(const std::filesystem::path& file);
+
+} // namespace proupsellshost

@@ -1,0 +1,49 @@
+// Plays a scenario on the virtual clock.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+
+#include "Apps/ProUpsellsHost/Driver.hpp"
+#include "Apps/ProUpsellsHost/EventLog.hpp"
+#include "Apps/ProUpsellsHost/HostSession.hpp"
+#include "Apps/ProUpsellsHost/Scenario.hpp"
+
+namespace proupsellshost {
+
+class ScenarioRunner {
+public:
+    // Snapshots go to `folder`, which is made when the first one is taken.
+    ScenarioRunner(const Scenario& scenario, runloop::MainRunLoop& loop, HostSession& session, std::shared_ptr<EventLog> log,
+                   std::filesystem::path folder);
+
+    // Presents the entry controller and runs the steps. Returns whether every expectation held; each that did not is one line on standard
+    // error. Throws InputError for a step that cannot be done.
+    bool run();
+
+private:
+    void perform(const TapStep&);
+    void perform(const DragStep&);
+    void perform(const PressStep&);
+    void perform(const WaitStep&);
+    void perform(const SendStep&);
+    void perform(const SetStep&);
+    void perform(const ReleaseStep&);
+    void perform(const DumpStep&);
+    void perform(const SnapshotStep&);
+    void perform(const ExpectStep&);
+
+    geometry::Point pointOf(const TapTarget& target);
+    [[noreturn]] void failTap(const std::string& complaint, const accessibility::Node& root) const;
+    std::string stepPointer() const;
+
+    const Scenario& m_scenario;
+    HostSession& m_session;
+    std::shared_ptr<EventLog> m_log;
+    std::filesystem::path m_folder;
+    Driver m_driver;
+    std::size_t m_step = 0;
+    bool m_allHeld = true;
+};
+
+} // namespace proupsellshost

@@ -1,0 +1,18 @@
+// The semantic tree as JSON.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Apps/ProUpsellsHost/JsonFile.hpp"
+#include "Platform/Accessibility/Node.hpp"
+
+namespace proupsellshost {
+
+// A node with all its children; keys that say nothing are left out.
+Json toJson(const accessibility::Node& node);
+
+// "button", "selected" and so on, in a fixed order.
+std::vector<std::string> traitNames(accessibility::Traits traits);
+
+} // namespace proupsellshost
