@@ -153,6 +153,8 @@ public:
     virtual double firstBaseline(const geometry::ProposedSize& proposal);
     // The axis along which spacers inside stretch; absent where the node has no say.
     virtual std::optional<Axis> stackAxis() const { return std::nullopt; }
+    // Stretches to take the room that is left over, and is nothing by itself.
+    virtual bool isSpacer() const { return false; }
     // The nodes that a container lays out: children, seen through groups and loops, absent ones left out.
     void collectLayoutChildren(std::vector<Node*>& result) const;
 
