@@ -78,6 +78,13 @@ Deceleration::Deceleration(double offset, double velocity, ScrollRange range) {
     }
 }
 
+Deceleration Deceleration::settling(double offset, double velocity, double end) {
+    // The fastest that the spring takes without swinging through.
+    const double limit = springFrequency * (end - offset);
+    const double kept = limit >= 0 ? std::min(velocity, limit) : std::max(velocity, limit);
+    return {offset, offset == end ? 0 : kept, {end, end}};
+}
+
 // From outside the range. Where the flick inwards is faster than the spring, the axis passes the range's end instead of settling
 // on it and coasts from there.
 void Deceleration::comeBackTo(double end, ScrollRange range) {

@@ -29,6 +29,9 @@ public:
     // `velocity` in points a second, of the offset. Values that are not finite count as the range's start and as no speed.
     Deceleration(double offset, double velocity, ScrollRange range);
 
+    // To `end` and no further, however fast: a finger that has turned a page.
+    static Deceleration settling(double offset, double velocity, double end);
+
     double offsetAt(double elapsed_s) const;
     // Points a second; 0 from duration_s() on.
     double velocityAt(double elapsed_s) const;

@@ -194,6 +194,24 @@ TEST(Deceleration, InARangeWithoutLengthAlwaysComesBack) {
     EXPECT_EQ((Deceleration{0, -2500, {0, -80}}.target()), 0);
 }
 
+TEST(Deceleration, SettlingNeverPassesItsEnd) {
+    for (unsigned seed = 0; seed < 500; ++seed) {
+        SCOPED_TRACE(seed);
+        const RandomFlick start{seed};
+        const Deceleration page = Deceleration::settling(start.offset, start.velocity, 375);
+        const double side = start.offset < 375 ? -1 : 1;
+        for (double time_s = 0; time_s < page.duration_s(); time_s += 0.01) ASSERT_GE((page.offsetAt(time_s) - 375) * side, -1e-9);
+        ASSERT_EQ(page.target(), 375);
+        ASSERT_NEAR(page.offsetAt(0), start.offset, 1e-9);
+    }
+}
+
+TEST(Deceleration, SettlingKeepsTheFingersSpeedWhereItCan) {
+    EXPECT_NEAR(Deceleration::settling(100, 500, 375).velocityAt(0), 500, 1e-9);
+    EXPECT_NEAR(Deceleration::settling(100, -500, 375).velocityAt(0), -500, 1e-9);
+    EXPECT_EQ(Deceleration::settling(375, 500, 375).duration_s(), 0);
+}
+
 TEST(Deceleration, TakesNothingThatIsNoNumber) {
     const double nothing = std::numeric_limits<double>::quiet_NaN();
     const Deceleration lost{nothing, 100, hundreds}, still{200, nothing, hundreds};
