@@ -1,12 +1,18 @@
 #include "Platform/SwiftUI/Tree/TouchDispatcher.hpp"
 
-#include <algorithm>
-
 #include "Platform/SwiftUI/Tree/GestureHandler.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
 namespace swiftui {
+namespace {
+
+bool isInside(const Node* node, const Node& outer) {
+    while (node && node != &outer) node = node->parent();
+    return node != nullptr;
+}
+
+} // namespace
 
 bool TouchDispatcher::touch(const host::Touch& touch) {
     // What a handler does may let go of everything around it.
@@ -46,14 +52,12 @@ bool TouchDispatcher::begin(const host::Touch& touch) {
     return m_active != nullptr;
 }
 
-// All of them stop, the innermost takes the touch.
 GestureHandler* TouchDispatcher::interceptor(const TouchEvent& event) const {
-    GestureHandler* innermost = nullptr;
     for (std::size_t index = m_candidates.size(); index-- > 0;) {
         GestureHandler* handler = m_candidates[index].handler;
-        if (handler->interceptsTouch(event)) innermost = handler;
+        if (handler->interceptsTouch(event)) return handler;
     }
-    return innermost;
+    return nullptr;
 }
 
 void TouchDispatcher::move(const host::Touch& touch) {
@@ -99,11 +103,11 @@ GestureHandler* TouchDispatcher::release() {
 }
 
 void TouchDispatcher::nodeGone(Node& node) {
-    const auto gone =
-        std::find_if(m_candidates.begin(), m_candidates.end(), [&](const Candidate& one) { return one.node == &node; });
-    if (gone == m_candidates.end()) return;
-    if (gone->handler == m_active) m_active = nullptr;
-    m_candidates.erase(gone);
+    std::erase_if(m_candidates, [&](const Candidate& candidate) {
+        const bool isGone = isInside(candidate.node, node);
+        if (isGone && candidate.handler == m_active) m_active = nullptr;
+        return isGone;
+    });
 }
 
 Node* TouchDispatcher::hitTest(geometry::Point location) const {
