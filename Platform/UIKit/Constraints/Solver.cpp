@@ -1,0 +1,250 @@
+#include "Platform/UIKit/Constraints/Solver.hpp"
+
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <map>
+#include <optional>
+
+#include "Platform/Commons/FatalError.hpp"
+#include "Platform/UIKit/Constraints/Row.hpp"
+
+namespace uikit::constraints {
+
+namespace {
+
+enum class SymbolKind : std::uint8_t {
+    variable, // the caller's; unrestricted
+    slack,    // what an inequality has to spare; not negative
+    error,    // what a constraint that is not required falls short by; not negative
+    dummy,    // marks a required equation; always 0
+};
+
+} // namespace
+
+// Basic symbols have a row that says what they equal; all others are 0. Every restricted basic symbol's constant is not negative, and
+// no row of a restricted symbol holds a variable of the caller's.
+struct Solver::Tableau {
+    std::vector<SymbolKind> kinds;
+    std::vector<Symbol> symbolOfVariable;
+    std::map<Symbol, Row> rows;
+    // The sum of the errors of each priority, the highest first, written in symbols that are not basic.
+    std::map<double, Row, std::greater<>> objectives;
+
+    Symbol makeSymbol(SymbolKind kind) {
+        kinds.push_back(kind);
+        return static_cast<Symbol>(kinds.size() - 1);
+    }
+
+    bool isRestricted(Symbol symbol) const { return kinds[symbol] != SymbolKind::variable; }
+
+    void substituteEverywhere(Symbol symbol, const Row& row) {
+        for (auto& [basic, other] : rows) other.substitute(symbol, row);
+        for (auto& [priority, objective] : objectives) objective.substitute(symbol, row);
+    }
+
+    // Puts `add` of a symbol, basic or not, into a row.
+    void addTo(Row& row, Symbol symbol, double coefficient) const {
+        if (const auto basic = rows.find(symbol); basic != rows.end()) row.add(basic->second, coefficient);
+        else row.add(symbol, coefficient);
+    }
+
+    struct NewRow {
+        Row row; // equals 0
+        std::optional<Symbol> marker;
+        std::optional<Symbol> otherMarker;
+    };
+
+    NewRow makeRow(const LinearConstraint& constraint) {
+        NewRow result;
+        result.row.constant = constraint.constant;
+        for (const Term& term : constraint.terms) addTo(result.row, symbolOfVariable[term.variable], term.coefficient);
+        const bool isRequired = constraint.priority >= LinearConstraint::required;
+
+        if (constraint.relation == Relation::equal) {
+            if (isRequired) {
+                result.marker = makeSymbol(SymbolKind::dummy);
+                result.row.add(*result.marker, 1);
+                return result;
+            }
+            result.marker = addError(result.row, -1, constraint.priority);
+            result.otherMarker = addError(result.row, 1, constraint.priority);
+            return result;
+        }
+        const double sign = constraint.relation == Relation::lessThanOrEqual ? 1 : -1;
+        result.marker = makeSymbol(SymbolKind::slack);
+        result.row.add(*result.marker, sign);
+        if (!isRequired) result.otherMarker = addError(result.row, -sign, constraint.priority);
+        return result;
+    }
+
+    Symbol addError(Row& row, double coefficient, double priority) {
+        const Symbol error = makeSymbol(SymbolKind::error);
+        row.add(error, coefficient);
+        objectives[priority].add(error, 1);
+        return error;
+    }
+
+    // A symbol that may become basic right away: a variable, or a new restricted symbol that then comes out not negative.
+    std::optional<Symbol> subjectOf(const NewRow& added) const {
+        for (const Row::Cell& cell : added.row.cells())
+            if (!isRestricted(cell.symbol)) return cell.symbol;
+        for (const auto& marker : {added.marker, added.otherMarker}) {
+            if (!marker || kinds[*marker] == SymbolKind::dummy) continue;
+            const double coefficient = added.row.coefficientOf(*marker);
+            if (coefficient != 0 && -added.row.constant / coefficient >= 0) return marker;
+        }
+        return std::nullopt;
+    }
+
+    bool holdsOnlyDummies(const Row& row) const {
+        for (const Row::Cell& cell : row.cells())
+            if (kinds[cell.symbol] != SymbolKind::dummy) return false;
+        return true;
+    }
+
+    void makeBasic(Symbol symbol, Row row) {
+        row.solveFor(symbol);
+        substituteEverywhere(symbol, row);
+        rows.emplace(symbol, std::move(row));
+    }
+
+    // The basic restricted symbol that is the first to reach 0 when `entering` grows; absent when none does.
+    std::optional<Symbol> leavingFor(Symbol entering) const {
+        std::optional<Symbol> leaving;
+        double smallest = std::numeric_limits<double>::infinity();
+        for (const auto& [basic, row] : rows) {
+            if (!isRestricted(basic)) continue;
+            const double coefficient = row.coefficientOf(entering);
+            if (coefficient >= 0) continue;
+            const double ratio = -row.constant / coefficient;
+            // Among equals the smallest number leaves: with the same rule for who enters, no cycle is possible (Bland).
+            if (ratio < smallest - rowTolerance) {
+                smallest = ratio;
+                leaving = basic;
+            }
+        }
+        return leaving;
+    }
+
+    void pivot(Symbol entering, Symbol leaving) {
+        Row row = std::move(rows.at(leaving));
+        rows.erase(leaving);
+        row.add(leaving, -1);
+        makeBasic(entering, std::move(row));
+    }
+
+    // The lowest-numbered symbol whose growth lessens what the objective says.
+    template <class IsBetter>
+    void optimize(const IsBetter& findEntering) {
+        while (const std::optional<Symbol> entering = findEntering()) {
+            const auto leaving = leavingFor(*entering);
+            if (!leaving) commons::fatalError("The layout's constraints have no bounds");
+            pivot(*entering, *leaving);
+        }
+    }
+
+    std::optional<Symbol> enteringOf(const Row& objective) const {
+        for (const Row::Cell& cell : objective.cells())
+            if (kinds[cell.symbol] != SymbolKind::dummy && cell.coefficient < -rowTolerance) return cell.symbol;
+        return std::nullopt;
+    }
+
+    // A symbol may enter when the first priority that it matters to gains by it.
+    std::optional<Symbol> enteringOfAll() const {
+        std::optional<Symbol> best;
+        for (auto objective = objectives.begin(); objective != objectives.end(); ++objective) {
+            for (const Row::Cell& cell : objective->second.cells()) {
+                if (best && cell.symbol >= *best) break;
+                if (kinds[cell.symbol] == SymbolKind::dummy || cell.coefficient >= -rowTolerance) continue;
+                if (!mattersBefore(objective, cell.symbol)) best = cell.symbol;
+            }
+        }
+        return best;
+    }
+
+    template <class Iterator>
+    bool mattersBefore(Iterator end, Symbol symbol) const {
+        for (auto objective = objectives.begin(); objective != end; ++objective)
+            if (objective->second.coefficientOf(symbol) != 0) return true;
+        return false;
+    }
+
+    // Makes room for a row of which no symbol can become basic at once, by way of an artificial symbol that is driven to 0.
+    bool addByArtificialSymbol(Row row) {
+        if (row.constant < 0) row.scale(-1);
+        const Symbol artificial = makeSymbol(SymbolKind::slack);
+        Row objective = row;
+        rows.emplace(artificial, std::move(row));
+        for (;;) {
+            const auto entering = enteringOf(objective);
+            if (!entering) break;
+            const auto leaving = leavingFor(*entering);
+            if (!leaving) break;
+            pivot(*entering, *leaving);
+            objective.substitute(*entering, rows.at(*entering));
+        }
+        if (std::abs(objective.constant) > 1e-7) return false;
+
+        if (const auto basic = rows.find(artificial); basic != rows.end()) {
+            const Row remaining = basic->second;
+            std::optional<Symbol> entering;
+            for (const Row::Cell& cell : remaining.cells())
+                if (kinds[cell.symbol] != SymbolKind::dummy) {
+                    entering = cell.symbol;
+                    break;
+                }
+            if (entering) pivot(*entering, artificial);
+            else rows.erase(basic);
+        }
+        for (auto& [basic, other] : rows) other.remove(artificial);
+        for (auto& [priority, other] : objectives) other.remove(artificial);
+        return true;
+    }
+
+    bool add(const LinearConstraint& constraint) {
+        NewRow added = makeRow(constraint);
+        if (const auto subject = subjectOf(added)) {
+            makeBasic(*subject, std::move(added.row));
+            return true;
+        }
+        if (holdsOnlyDummies(added.row)) {
+            if (std::abs(added.row.constant) > 1e-7) return false;
+            added.row.constant = 0;
+            makeBasic(*added.marker, std::move(added.row));
+            return true;
+        }
+        Tableau before = *this;
+        if (addByArtificialSymbol(std::move(added.row))) return true;
+        *this = std::move(before);
+        return false;
+    }
+};
+
+Solver::Solver() : m_tableau(std::make_unique<Tableau>()) {}
+Solver::~Solver() = default;
+Solver::Solver(Solver&&) noexcept = default;
+Solver& Solver::operator=(Solver&&) noexcept = default;
+
+Variable Solver::makeVariable() {
+    m_tableau->symbolOfVariable.push_back(m_tableau->makeSymbol(SymbolKind::variable));
+    return static_cast<Variable>(m_tableau->symbolOfVariable.size() - 1);
+}
+
+bool Solver::add(const LinearConstraint& constraint) {
+    if (!std::isfinite(constraint.constant)) return false;
+    for (const Term& term : constraint.terms)
+        if (!std::isfinite(term.coefficient)) return false;
+    return m_tableau->add(constraint);
+}
+
+void Solver::solve() {
+    m_tableau->optimize([this] { return m_tableau->enteringOfAll(); });
+}
+
+double Solver::value(Variable variable) const {
+    const auto row = m_tableau->rows.find(m_tableau->symbolOfVariable[variable]);
+    return row == m_tableau->rows.end() ? 0 : row->second.constant;
+}
+
+} // namespace uikit::constraints
