@@ -10,6 +10,7 @@ import icons
 import logo
 import paywall_headers
 import promotion
+import shelf_strips
 
 ROOT = Path(__file__).resolve().parents[2]
 MODULE_IMAGES = ROOT / "ProUpsells" / "Resources" / "Images"
@@ -20,6 +21,7 @@ FAMILIES = {
     "icons": lambda: icons.make(MODULE_IMAGES, DESIGN_SYSTEM_IMAGES),
     "logo": lambda: logo.make(DESIGN_SYSTEM_IMAGES),
     "promotion": lambda: promotion.make(MODULE_IMAGES),
+    "shelves": lambda: shelf_strips.make(MODULE_IMAGES),
 }
 
 

@@ -19,19 +19,25 @@ from kit.type_outlines import text_path, text_width
 
 WIDTH, HEIGHT = 600, 254
 CENTER = WIDTH / 2
+BLEED = 2
+
+
+def bleed():
+    """The whole picture and a little more, so that no scale leaves a half-covered row of pixels at its edge."""
+    return Path.rect(-BLEED, -BLEED, WIDTH + 2 * BLEED, HEIGHT + 2 * BLEED)
 
 
 def scrim(c, ink, top=104, strength=0.98):
     """The calm dark foot under the title: an eased fade, solid where the text stands."""
     eased = ((0, 0), (0.12, 0.03), (0.26, 0.14), (0.4, 0.36), (0.52, 0.6), (0.64, 0.79), (0.76, 0.91), (0.88, 0.97), (1, 1))
     foot = 198
-    c.fill(Path.rect(0, top, WIDTH, HEIGHT - top), linear((0, top), (0, foot), *[(offset, ink, strength * share) for offset, share in eased]))
+    c.fill(Path.rect(-BLEED, top, WIDTH + 2 * BLEED, HEIGHT + BLEED - top), linear((0, top), (0, foot), *[(offset, ink, strength * share) for offset, share in eased]))
 
 
 def deepen(c, dark):
     """The dark variant: the same picture in evening light."""
     if dark:
-        c.fill(Path.rect(0, 0, WIDTH, HEIGHT), linear((0, 0), (0, HEIGHT), (0, "#08161A", 0.20), (1, "#08161A", 0.08)))
+        c.fill(bleed(), linear((0, 0), (0, HEIGHT), (0, "#08161A", 0.20), (1, "#08161A", 0.08)))
 
 
 # A: a wall of layouts
@@ -65,11 +71,11 @@ def wall(c):
 
 def header_a(dark):
     c = Canvas(WIDTH, HEIGHT)
-    c.fill(Path.rect(0, 0, WIDTH, HEIGHT), linear((0, 0), (WIDTH, HEIGHT), "#F8F0E3", "#E6D5BB"))
+    c.fill(bleed(), linear((0, 0), (WIDTH, HEIGHT), "#F8F0E3", "#E6D5BB"))
     c.document.drawn_height = 188
     wall(c)
     c.document.drawn_height = HEIGHT
-    c.fill(Path.rect(0, 0, WIDTH, HEIGHT), linear((0, 0), (WIDTH * 0.7, HEIGHT), (0, "#FFF6E6", 0.34), (0.5, "#FFF6E6", 0.0), (1, "#1A2A2C", 0.22)))
+    c.fill(bleed(), linear((0, 0), (WIDTH * 0.7, HEIGHT), (0, "#FFF6E6", 0.34), (0.5, "#FFF6E6", 0.0), (1, "#1A2A2C", 0.22)))
     deepen(c, dark)
     scrim(c, "#071B1E", 86)
     with c.placed(CENTER - 46, 20, 5) as hero:
@@ -143,7 +149,7 @@ def shape_tile(c, x, y, width, height):
 
 def header_b(dark):
     c = Canvas(WIDTH, HEIGHT)
-    c.fill(Path.rect(0, 0, WIDTH, HEIGHT), linear((0, 0), (WIDTH * 0.8, HEIGHT), "#14605D", "#0A3A3D", "#07242A"))
+    c.fill(bleed(), linear((0, 0), (WIDTH * 0.8, HEIGHT), "#14605D", "#0A3A3D", "#07242A"))
     top, middle, foot = 14, 88, 168
     photo_tile(c, "foliage", -16, top, 124, middle - 8 - top)
     shape_tile(c, -16, middle, 124, foot - middle)
@@ -218,7 +224,7 @@ def plant(c, x, mouth):
 
 
 def room(c):
-    c.fill(Path.rect(0, 0, CENTER, HEIGHT), linear((0, 0), (CENTER, HEIGHT * 0.8), "#FBDDB8", "#F0B288"))
+    c.fill(Path.rect(-BLEED, -BLEED, CENTER + BLEED, HEIGHT + 2 * BLEED), linear((0, 0), (CENTER, HEIGHT * 0.8), "#FBDDB8", "#F0B288"))
     for left in (52, 122):
         c.fill(Path.polygon([(left, -4), (left + 60, -4), (left + 122, 140), (left + 62, 140)]),
                linear((left, 0), (left + 100, 140), (0, "#FFF7E8", 0.7), (1, "#FFF7E8", 0.15)))
@@ -238,7 +244,7 @@ def room(c):
 
 
 def checkerboard(c, left):
-    c.fill(Path.rect(left, 0, WIDTH - left, HEIGHT), "#FFFFFF")
+    c.fill(Path.rect(left, -BLEED, WIDTH + BLEED - left, HEIGHT + 2 * BLEED), "#FFFFFF")
     cell, squares = 12, Path()
     for row in range(int(HEIGHT / cell) + 1):
         for column in range(int((WIDTH - left) / cell) + 1):
@@ -357,7 +363,7 @@ def chart(c, x, y, width, height):
 
 def header_d(dark):
     c = Canvas(WIDTH, HEIGHT)
-    c.fill(Path.rect(0, 0, WIDTH, HEIGHT), linear((0, 0), (WIDTH * 0.75, HEIGHT), "#BFE3FA", "#79BDEB", "#3F8DC6"))
+    c.fill(bleed(), linear((0, 0), (WIDTH * 0.75, HEIGHT), "#BFE3FA", "#79BDEB", "#3F8DC6"))
     for left, width in ((-40, 120), (120, 70), (330, 150), (520, 60)):
         c.fill(Path.polygon([(left, -4), (left + width, -4), (left + width + 150, HEIGHT), (left + 150, HEIGHT)]),
                linear((0, 0), (0, 190), (0, "#FFFFFF", 0.30), (1, "#FFFFFF", 0)))

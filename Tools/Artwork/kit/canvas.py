@@ -8,6 +8,7 @@ import math
 from contextlib import contextmanager
 from dataclasses import dataclass
 
+from shapely.affinity import translate
 from shapely.geometry import LineString, MultiPolygon, Polygon, box
 from shapely.ops import unary_union
 
@@ -274,9 +275,7 @@ class Canvas:
         scale = self.transform.scale_at(path.points()[0])
         dx, dy = length * scale * math.cos(math.radians(degrees)), length * scale * math.sin(math.radians(degrees))
         area = to_polygon(outline, 0.1)
-        moved = to_polygon(outline.moved(dx, dy), 0.1)
-        hulls = [part.union(other).convex_hull for part, other in zip(polygons(area), polygons(moved))]
-        swept = from_polygon_coarse(unary_union(hulls))
+        swept = from_polygon_coarse(sweep(area, dx, dy))
         left, top, right, bottom = area.bounds
         middle = ((left + right) / 2, (top + bottom) / 2)
         # The fade begins inside the object, so that its far edge still stands in shade.
@@ -286,6 +285,17 @@ class Canvas:
         start = (middle[0] + ux * reach * 0.35, middle[1] + uy * reach * 0.35)
         end = (middle[0] + ux * (reach + length * scale), middle[1] + uy * (reach + length * scale))
         device.fill(swept, linear(start, end, (0, color, opacity * self.opacity), (0.5, color, opacity * self.opacity * 0.42), (1, color, 0.0)))
+
+
+def sweep(area, dx, dy):
+    """Everything that an area passes over on its way."""
+    moved = translate(area, dx, dy)
+    pieces = [area, moved]
+    for part in polygons(area):
+        ring = list(part.exterior.simplify(0.08).coords)
+        for (x0, y0), (x1, y1) in zip(ring, ring[1:]):
+            pieces.append(Polygon([(x0, y0), (x1, y1), (x1 + dx, y1 + dy), (x0 + dx, y0 + dy)]).buffer(0.02, join_style=2))
+    return unary_union(pieces)
 
 
 def polygons(area):
