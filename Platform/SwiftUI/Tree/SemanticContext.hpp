@@ -1,6 +1,7 @@
 // How nodes write themselves into the semantic tree.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -22,6 +23,8 @@ struct SemanticAttributes {
     std::optional<double> scale;
     std::optional<double> rotation_degrees;
     std::optional<geometry::Rect> clip;
+    bool isControl = false;         // a tap on it does something
+    std::function<void()> activate; // see accessibility::Node
 };
 
 struct SemanticContext {
