@@ -88,7 +88,7 @@ std::string nameOf(const Node& node) {
 
 std::vector<const Node*> controlsNamed(const Node& root, std::string_view name) {
     std::vector<const Node*> found;
-    addControlsNamed(root, name, found);
+    if (!name.empty()) addControlsNamed(root, name, found);
     return found;
 }
 

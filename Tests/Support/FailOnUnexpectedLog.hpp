@@ -1,4 +1,4 @@
-// Include this once in a test program: a log record that no test took then fails the test that caused it.
+// Include this in a test program: a log record that no test took then fails the test that caused it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -7,10 +7,14 @@
 
 namespace tests {
 
-inline const bool failsOnUnexpectedLog = [] {
+inline void failOnUnexpectedLog() {
     headless::TestBed::setUnexpectedLogHandler([](const commons::LogRecord& record) {
         ADD_FAILURE() << "Unexpected log record: " << record.message << "\nlogged by " << record.function;
     });
+}
+
+inline const bool failsOnUnexpectedLog = [] {
+    failOnUnexpectedLog();
     return true;
 }();
 
