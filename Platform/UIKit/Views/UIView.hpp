@@ -189,9 +189,10 @@ protected:
     // Likewise of the opacity.
     virtual double presentationAlpha() const { return m_alpha; }
     graphics::RGBA resolved(const UIColor& color) const { return color.resolved(traitCollection().userInterfaceStyle); }
-    // Asks for a layout pass of the window; the outermost view of a window does it.
-    virtual void subtreeNeedsLayout();
-    virtual void subtreeNeedsDisplay();
+    // Told to the outermost view: something inside waits for a layout pass.
+    virtual void subtreeNeedsLayout() {}
+    // Told to every view around the one whose picture has changed, and to itself.
+    virtual void subtreeNeedsDisplay() {}
 
 private:
     friend class UIViewController;

@@ -17,8 +17,6 @@ void UIView::setNeedsLayout() {
     outermost->subtreeNeedsLayout();
 }
 
-void UIView::subtreeNeedsLayout() {}
-
 void UIView::layoutIfNeeded() {
     const auto kept = strongReference(*this);
     for (int pass = 0; pass < layoutPassLimit && (m_needsLayout || m_subtreeNeedsLayout); ++pass) layOutTree();

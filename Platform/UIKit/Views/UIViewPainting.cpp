@@ -7,10 +7,8 @@
 namespace uikit {
 
 void UIView::setNeedsDisplay() {
-    if (m_window) m_window->subtreeNeedsDisplay();
+    for (UIView* view = this; view; view = view->m_superview) view->subtreeNeedsDisplay();
 }
-
-void UIView::subtreeNeedsDisplay() {}
 
 graphics::PaintState UIView::contentState(const graphics::PaintState& state) const {
     const geometry::Transform transform = presentationTransform();

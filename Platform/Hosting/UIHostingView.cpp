@@ -1,0 +1,142 @@
+#include "Platform/Hosting/UIHostingView.hpp"
+
+#include <unordered_map>
+
+#include "Platform/Foundation/Locale.hpp"
+#include "Platform/Hosting/RepresentableStage.hpp"
+#include "Platform/Hosting/Traits.hpp"
+
+namespace hosting {
+
+namespace {
+
+std::unordered_map<const swiftui::ViewHost*, UIHostingView*>& showingViews() {
+    static std::unordered_map<const swiftui::ViewHost*, UIHostingView*> views;
+    return views;
+}
+
+} // namespace
+
+UIHostingView::UIHostingView(Creation, std::shared_ptr<swiftui::ViewHost> host) : m_host(std::move(host)) {
+    showingViews()[m_host.get()] = this;
+    m_host->setVisible(false);
+}
+
+std::shared_ptr<UIHostingView> UIHostingView::create(std::function<swiftui::View()> root) {
+    auto view = std::make_shared<UIHostingView>(Creation{}, swiftui::ViewHost::create(std::move(root)));
+    const auto self = std::weak_ptr(view);
+    view->m_host->setNeedsDisplayHandler([self] {
+        if (const auto held = self.lock()) held->setNeedsDisplay();
+    });
+    // Only constraints ask for the natural size; a view that is given its frame keeps it whatever the content wants.
+    view->m_host->setLayoutHandler([self] {
+        if (const auto held = self.lock(); held && !held->translatesAutoresizingMaskIntoConstraints()) held->invalidateIntrinsicContentSize();
+    });
+    return view;
+}
+
+UIHostingView::~UIHostingView() {
+    m_host->setNeedsDisplayHandler({});
+    m_host->setLayoutHandler({});
+    showingViews().erase(m_host.get());
+}
+
+UIHostingView* UIHostingView::showing(const swiftui::ViewHost& host) {
+    const auto found = showingViews().find(&host);
+    return found == showingViews().end() ? nullptr : found->second;
+}
+
+// --- What the tree is told ---
+
+void UIHostingView::adoptEnvironment() {
+    swiftui::EnvironmentValues environment = m_host->environment();
+    hosting::adoptTraits(environment, traitCollection());
+    environment.localeIdentifier = foundation::Locale::current().identifier();
+    if (!environment.hasSameContent(m_host->environment())) m_host->setEnvironment(environment);
+}
+
+// The environment comes before the size, with which the tree is first built.
+void UIHostingView::layoutSubviews() {
+    adoptEnvironment();
+    m_host->setSize(bounds().size, safeAreaInsets());
+    if (m_host->needsUpdate()) m_host->update();
+}
+
+void UIHostingView::traitCollectionDidChange(const uikit::UITraitCollection& previous) {
+    UIView::traitCollectionDidChange(previous);
+    adoptEnvironment();
+}
+
+void UIHostingView::didMoveToWindow() {
+    if (window()) adoptEnvironment();
+    updateVisibility();
+}
+
+void UIHostingView::setShown(bool isShown) {
+    m_isShown = isShown;
+    updateVisibility();
+}
+
+// Leaving is told at once: there may be no later turn for this tree.
+void UIHostingView::updateVisibility() {
+    const bool isVisible = m_isShown && window();
+    if (isVisible == m_host->isVisible()) return;
+    m_host->setVisible(isVisible);
+    if (!isVisible) m_host->update();
+}
+
+geometry::Size UIHostingView::intrinsicContentSize() const { return m_host->sizeThatFits({}); }
+
+geometry::Size UIHostingView::sizeThatFits(const geometry::ProposedSize& proposal) const { return m_host->sizeThatFits(proposal); }
+
+// --- Touches ---
+
+uikit::UIView* UIHostingView::hitTest(geometry::Point point) {
+    const bool takesTouches = !isHidden() && isUserInteractionEnabled() && alpha() > 0 && pointInside(point);
+    return takesTouches ? this : nullptr;
+}
+
+bool UIHostingView::forward(const uikit::UITouch& touch) {
+    const auto kept = m_host;
+    if (kept->needsUpdate()) kept->update();
+    return kept->touch({touch.phase, touch.location(*this), touch.time_s});
+}
+
+void UIHostingView::touchesBegan(const uikit::UITouch& touch) {
+    const auto kept = uikit::strongReference(*this);
+    if (!forward(touch)) UIView::touchesBegan(touch);
+}
+
+void UIHostingView::touchesMoved(const uikit::UITouch& touch) { forward(touch); }
+
+void UIHostingView::touchesEnded(const uikit::UITouch& touch) { forward(touch); }
+
+void UIHostingView::touchesCancelled(const uikit::UITouch& touch) { forward(touch); }
+
+bool UIHostingView::scrollBy(geometry::Point location, geometry::Point delta) {
+    return m_host->scroll(location, delta) || UIView::scrollBy(location, delta);
+}
+
+// --- Picture and semantics ---
+
+bool UIHostingView::isAnimating() const { return !isHidden() && (m_host->isAnimating() || UIView::isAnimating()); }
+
+void UIHostingView::paintSubviews(graphics::PaintContext& context, const graphics::PaintState& state) const {
+    if (m_host->needsUpdate()) m_host->update();
+    m_host->paint(context, state);
+    for (const auto& subview : subviews())
+        if (!dynamic_cast<const RepresentableStage*>(subview.get())) subview->paint(context, state);
+}
+
+void UIHostingView::appendSubviewNodes(std::vector<accessibility::Node>& nodes, const graphics::PaintState& state) const {
+    if (m_host->needsUpdate()) m_host->update();
+    const auto reveal = [self = uikit::weakReference(const_cast<UIHostingView&>(*this))](const geometry::Rect& inWindow) {
+        const auto held = self.lock();
+        if (held) held->scrollRectToVisible({held->convertFrom(inWindow.origin, nullptr), inWindow.size});
+    };
+    for (accessibility::Node& node : m_host->semanticNodes(state, state.clip, reveal)) nodes.push_back(std::move(node));
+    for (const auto& subview : subviews())
+        if (!dynamic_cast<const RepresentableStage*>(subview.get())) nodes.push_back(subview->semanticNode(state));
+}
+
+} // namespace hosting
