@@ -14,7 +14,7 @@ enum class Pace {
 // What the plug-in needs of the program, so that it links none of its libraries.
 struct PluginHost {
     Pace pace = Pace::realTime;
-    // Takes one line of complaint. May be called on any thread.
+    // Takes one line of complaint; called on the thread that asks for frames.
     void (*complain)(const char* message) = nullptr;
 };
 

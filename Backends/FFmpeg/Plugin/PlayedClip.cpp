@@ -50,7 +50,12 @@ host::ClipFrame PlayedClip::frameAt(double time_s) {
     };
 
     for (;;) {
-        if (m_state == State::unplayable) return {};
+        if (m_state == State::unplayable) {
+            const std::string complaint = std::exchange(m_complaint, {});
+            guard.unlock();
+            if (!complaint.empty() && m_host.complain) m_host.complain(complaint.c_str());
+            return {};
+        }
         if (m_state == State::open) {
             if (const auto due = dueFrame(momentOf())) {
                 m_lastShown = *due;
@@ -89,12 +94,13 @@ void PlayedClip::openFile() {
             complaint = "no picture in it can be decoded";
         }
     }
-    if (!m_video && isThere && m_host.complain)
-        m_host.complain(("The clip \"" + m_file.filename().string() + "\" cannot be played: " + complaint).c_str());
 
     const std::lock_guard guard(m_lock);
     m_state = m_video ? State::open : State::unplayable;
-    if (!m_video) return;
+    if (!m_video) {
+        if (isThere) m_complaint = "The clip \"" + m_file.filename().string() + "\" cannot be played: " + complaint;
+        return;
+    }
     m_duration_s = m_video->duration_s();
     first.time_s = 0;
     m_window.push_back(std::move(first));

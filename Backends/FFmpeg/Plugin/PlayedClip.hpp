@@ -5,6 +5,7 @@
 #include <deque>
 #include <mutex>
 #include <optional>
+#include <string>
 
 #include "Backends/FFmpeg/ClipPlugin.hpp"
 #include "Backends/FFmpeg/Plugin/VideoFile.hpp"
@@ -49,6 +50,7 @@ private:
     mutable std::mutex m_lock;
     std::condition_variable m_changed;
     State m_state = State::unopened;
+    std::string m_complaint; // to be made by the thread that asks for frames
     double m_duration_s = 0;
     double m_wanted_s = 0;             // in [0, duration)
     std::deque<host::ClipFrame> m_window; // ascending times
