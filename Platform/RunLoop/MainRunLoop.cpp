@@ -181,19 +181,7 @@ void MainRunLoop::fire(const std::shared_ptr<Timer>& timer) {
 void MainRunLoop::rearmFiredTimers() {
     for (auto& timer : m_state->fired) {
         if (!timer->isValid()) continue;
-        const auto gridPoint_s = [&](std::uint64_t tick) {
-            // Multiplied, not summed up: the grid does not drift.
-            return timer->m_start_s + static_cast<double>(tick) * timer->m_interval_s;
-        };
-        ++timer->m_tick;
-        const double clock_s = m_state->clock->now_s();
-        if (gridPoint_s(timer->m_tick) < clock_s) {
-            // Capped where a double no longer counts every tick.
-            const double ticksUntilNow = std::min(std::floor((clock_s - timer->m_start_s) / timer->m_interval_s), 0x1p53);
-            timer->m_tick = std::max(timer->m_tick, static_cast<std::uint64_t>(ticksUntilNow));
-            if (gridPoint_s(timer->m_tick) < clock_s) ++timer->m_tick;
-        }
-        timer->m_due_s = gridPoint_s(timer->m_tick);
+        timer->advanceOnGrid(m_state->clock->now_s());
         m_state->work.push(std::move(timer));
     }
     m_state->fired.clear();

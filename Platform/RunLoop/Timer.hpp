@@ -17,6 +17,10 @@ public:
 private:
     friend class MainRunLoop;
     friend class WorkQueue;
+
+    // Moves a repeating timer to its next grid point, or to the first one that a stalled clock has not passed.
+    void advanceOnGrid(double clock_s);
+
     std::function<void()> m_callback;
     double m_due_s = 0;
     double m_start_s = 0;
