@@ -47,7 +47,8 @@ bool isClosing(char32_t c) {
 }
 
 bool isOpening(char32_t c) {
-    return isOneOf(c, U"$([{\u00A1\u00AB\u00BF\u2018\u201C\u20AC\u00A5\u00A3\u3008\u300A\u300C\u300E\u3010\u3014\uFF08\uFF3B\uFF5B\uFF62");
+    return isOneOf(
+        c, U"$([{\u00A1\u00AB\u00BF\u2018\u201C\u20AC\u00A5\u00A3\u3008\u300A\u300C\u300E\u3010\u3014\uFF08\uFF3B\uFF5B\uFF62");
 }
 
 bool isHebrewLetter(char32_t c) { return isRightToLeftBlock(c) && !isArabicLetter(c) && !isArabicDigit(c); }

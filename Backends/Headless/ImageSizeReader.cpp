@@ -59,7 +59,8 @@ std::optional<std::string_view> rootTag(std::string_view text) {
 
 std::string_view takeName(std::string_view& text) {
     std::size_t length = 0;
-    while (length < text.size() && !isBlank(text[length]) && text[length] != '=' && text[length] != '>' && text[length] != '/') ++length;
+    while (length < text.size() && !isBlank(text[length]) && text[length] != '=' && text[length] != '>' && text[length] != '/')
+        ++length;
     const std::string_view name = text.substr(0, length);
     text.remove_prefix(length);
     return name;

@@ -33,7 +33,8 @@ TestBed::TestBed(host::Services services, std::string localeIdentifier)
     : m_previousLocale(foundation::Locale::current()),
       m_loop(std::make_unique<runloop::MainRunLoop>(std::make_shared<runloop::VirtualClock>())),
       m_installation(std::make_unique<host::Installation>(completed(std::move(services)))) {
-    m_previousSink = commons::DefaultLogger::shared().setSink([this](const commons::LogRecord& record) { m_logRecords.push_back(record); });
+    m_previousSink =
+        commons::DefaultLogger::shared().setSink([this](const commons::LogRecord& record) { m_logRecords.push_back(record); });
     foundation::Locale::setCurrent(foundation::Locale(std::move(localeIdentifier)));
 }
 

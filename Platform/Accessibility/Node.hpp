@@ -12,7 +12,15 @@
 namespace accessibility {
 
 enum class Traits : std::uint16_t {
-    none = 0, button = 1, selected = 2, disabled = 4, header = 8, image = 16, staticText = 32, adjustable = 64, link = 128,
+    none = 0,
+    button = 1,
+    selected = 2,
+    disabled = 4,
+    header = 8,
+    image = 16,
+    staticText = 32,
+    adjustable = 64,
+    link = 128,
 };
 constexpr Traits operator|(Traits a, Traits b) { return Traits(std::uint16_t(a) | std::uint16_t(b)); }
 constexpr bool contains(Traits all, Traits one) { return (std::uint16_t(all) & std::uint16_t(one)) == std::uint16_t(one); }
@@ -81,7 +89,8 @@ struct Node {
     std::function<void()> activate;
     // Of adjustable controls: one step up (1) or down (-1). Empty for others and when it is disabled.
     std::function<void(int step)> adjust;
-    // Scrolls whatever scroll views are around the node by as little as makes its centre reachable, at once. Empty outside scroll views.
+    // Scrolls whatever scroll views are around the node by as little as makes its centre reachable, at once. Empty outside scroll
+    // views.
     std::function<void()> reveal;
     std::vector<Node> children;
 };

@@ -10,10 +10,10 @@ constexpr double quarterArcControl = 0.5522847498307936;
 // Half a corner, from the straight side to the corner's diagonal, in units of the radius: how far along the side and how
 // deep across it each point lies, counted from the rectangle's corner.
 struct HalfCorner {
-    double start;        // on the side
-    double control1;     // on the side
-    Point control2;      // along, across
-    double diagonal;     // along and across
+    double start;    // on the side
+    double control1; // on the side
+    Point control2;  // along, across
+    double diagonal; // along and across
 };
 
 // Halfway round, every corner touches the circle of its radius.
@@ -32,8 +32,10 @@ HalfCorner halfCorner(double reach) {
 
     const double share = (reach - 1) / (continuousReach - 1);
     const auto between = [share](double circular, double continuous) { return circular + share * (continuous - circular); };
-    return {reach, between(circularControl1, continuousControl1),
-            {between(circularControl2.x, continuousControl2.x), between(circularControl2.y, continuousControl2.y)}, diagonalPoint};
+    return {reach,
+            between(circularControl1, continuousControl1),
+            {between(circularControl2.x, continuousControl2.x), between(circularControl2.y, continuousControl2.y)},
+            diagonalPoint};
 }
 
 // Walks clockwise round a rectangle's corners, with lengths counted from the corner along the side that leads to it and
@@ -99,7 +101,8 @@ Path Path::rectangle(const Rect& rect) {
 Path Path::ellipse(const Rect& rect) {
     const Point center = rect.center();
     const double dx = rect.width() / 2 * quarterArcControl, dy = rect.height() / 2 * quarterArcControl;
-    const Point top{center.x, rect.minY()}, right{rect.maxX(), center.y}, bottom{center.x, rect.maxY()}, left{rect.minX(), center.y};
+    const Point top{center.x, rect.minY()}, right{rect.maxX(), center.y}, bottom{center.x, rect.maxY()},
+        left{rect.minX(), center.y};
     Path path;
     path.moveTo(top);
     path.cubicTo({top.x + dx, top.y}, {right.x, right.y - dy}, right);

@@ -181,8 +181,9 @@ private:
         auto& runEnds = m_workspace.runEnds;
         runEnds.clear();
         for (std::size_t index = 0; index < matches.size(); ++index) {
-            const auto place = std::lower_bound(runEnds.begin(), runEnds.end(), matches[index].after,
-                                                [&](std::int32_t end, std::uint32_t after) { return matches[std::size_t(end)].after < after; });
+            const auto place =
+                std::lower_bound(runEnds.begin(), runEnds.end(), matches[index].after,
+                                 [&](std::int32_t end, std::uint32_t after) { return matches[std::size_t(end)].after < after; });
             matches[index].previous = place == runEnds.begin() ? -1 : *(place - 1);
             if (place == runEnds.end()) {
                 runEnds.push_back(std::int32_t(index));

@@ -19,17 +19,17 @@ struct Bitmap {
 };
 
 enum class CommandKind : std::uint8_t {
-    fillRectangle,        // frame, color
-    fillRoundedRectangle, // frame, cornerRadius, cornerStyle, color
+    fillRectangle,          // frame, color
+    fillRoundedRectangle,   // frame, cornerRadius, cornerStyle, color
     strokeRoundedRectangle, // likewise, lineWidth, centred on the frame's edge
-    fillEllipse,          // frame, color
-    strokeEllipse,        // frame, lineWidth, centred on the edge
-    fillPath,             // path, color; frame is the path's bounds
-    strokePath,           // path, lineWidth, color; likewise; round joins and ends
-    image,                // frame, image, scheme; color is the tint of a tinted image
-    bitmap,               // frame, bitmap
-    text,                 // frame.origin is the baseline's left end, frame.size the line box's; text, firstCluster, endCluster, color
-    shadow,               // of a filled frame: color, blurRadius; frame is already offset; fades out within twice the blur radius
+    fillEllipse,            // frame, color
+    strokeEllipse,          // frame, lineWidth, centred on the edge
+    fillPath,               // path, color; frame is the path's bounds
+    strokePath,             // path, lineWidth, color; likewise; round joins and ends
+    image,                  // frame, image, scheme; color is the tint of a tinted image
+    bitmap,                 // frame, bitmap
+    text,   // frame.origin is the baseline's left end, frame.size the line box's; text, firstCluster, endCluster, color
+    shadow, // of a filled frame: color, blurRadius; frame is already offset; fades out within twice the blur radius
 };
 
 // Every command stands for itself: its clip, opacity and transform are complete, so two lists can be compared one by one.

@@ -8,7 +8,7 @@ namespace graphics {
 
 // What is in force at a place of a tree. Cheap to copy; a parent hands a changed copy to its children.
 struct PaintState {
-    geometry::Point origin;   // of the current coordinates, in window points before `transform`
+    geometry::Point origin;                        // of the current coordinates, in window points before `transform`
     geometry::Rect clip{{-1e9, -1e9}, {2e9, 2e9}}; // in window points
     geometry::Rect roundedClip;
     double clipRadius = 0;
@@ -33,7 +33,8 @@ public:
 
     void fillRectangle(const PaintState&, const geometry::Rect&, RGBA);
     void fillRoundedRectangle(const PaintState&, const geometry::Rect&, double radius, geometry::CornerStyle, RGBA);
-    void strokeRoundedRectangle(const PaintState&, const geometry::Rect&, double radius, geometry::CornerStyle, double lineWidth, RGBA);
+    void strokeRoundedRectangle(const PaintState&, const geometry::Rect&, double radius, geometry::CornerStyle, double lineWidth,
+                                RGBA);
     void fillEllipse(const PaintState&, const geometry::Rect&, RGBA);
     void strokeEllipse(const PaintState&, const geometry::Rect&, double lineWidth, RGBA);
     void fillPath(const PaintState&, const geometry::Path&, RGBA);

@@ -20,7 +20,7 @@ struct Cluster {
     std::uint16_t run = 0;        // index of its styled run
     std::uint8_t bidiLevel = 0;   // odd: right to left
     LineBreak breakAfter = LineBreak::none;
-    bool isWhitespace = false;    // takes no room at a line's end; a line feed has no advance at all
+    bool isWhitespace = false; // takes no room at a line's end; a line feed has no advance at all
 };
 
 struct StyledRun {

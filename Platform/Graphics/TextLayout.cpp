@@ -43,9 +43,7 @@ private:
     void reorderFragments(std::uint32_t first, std::uint32_t end);
     std::uint8_t levelOf(const TextFragment& fragment) const { return m_text.clusters[fragment.firstCluster].bidiLevel; }
     std::uint16_t runAt(std::uint32_t cluster) const;
-    bool breaksMandatorilyAfter(std::uint32_t cluster) const {
-        return m_text.clusters[cluster].breakAfter == LineBreak::mandatory;
-    }
+    bool breaksMandatorilyAfter(std::uint32_t cluster) const { return m_text.clusters[cluster].breakAfter == LineBreak::mandatory; }
 
     const ShapedText& m_text;
     const TextLayoutRequest& m_request;

@@ -16,7 +16,7 @@ struct TextFragment {
     std::uint32_t endCluster = 0;
     std::uint16_t run = 0;
     bool isRightToLeft = false;
-    double x = 0;     // of its left edge, from the line's left edge (where a right-to-left line has its ellipsis)
+    double x = 0; // of its left edge, from the line's left edge (where a right-to-left line has its ellipsis)
     double width = 0;
 
     bool operator==(const TextFragment&) const = default;
@@ -44,7 +44,7 @@ struct TextLayoutRequest {
     std::optional<int> lineLimit;
     double lineSpacing = 0;
     geometry::LayoutDirection direction = geometry::LayoutDirection::leftToRight;
-    double ellipsisWidth = 0;     // of "…" in the text's font; used when something is cut
+    double ellipsisWidth = 0; // of "…" in the text's font; used when something is cut
 };
 
 struct TextLayout {
@@ -52,7 +52,7 @@ struct TextLayout {
     std::vector<TextFragment> fragments;
     geometry::Size size; // the widest line's width, the lines' heights and the spacing between them
     bool isTruncated = false;
-    double lineSpacing = 0; // as requested, between two lines
+    double lineSpacing = 0;                                                       // as requested, between two lines
     geometry::LayoutDirection direction = geometry::LayoutDirection::leftToRight; // as requested
 };
 

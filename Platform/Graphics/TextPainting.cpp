@@ -35,7 +35,8 @@ private:
         const double ascent = fragment.run < m_text->metrics.size() ? m_text->metrics[fragment.run].ascent : 0;
         const double size = fragment.run < m_text->runs.size() ? m_text->runs[fragment.run].font.size : 0;
         const double thickness = size / 16;
-        m_context.fillRectangle(m_state, {{baseline.x, baseline.y - 0.3 * ascent - thickness / 2}, {fragment.width, thickness}}, color);
+        m_context.fillRectangle(m_state, {{baseline.x, baseline.y - 0.3 * ascent - thickness / 2}, {fragment.width, thickness}},
+                                color);
     }
 
     void paintEllipsis(const TextLine& line, Point topLeft, const std::shared_ptr<const ShapedText>& ellipsis) {
@@ -65,8 +66,8 @@ double lineOffset(double boxWidth, double lineWidth, TextAlignment alignment, La
 }
 
 void paintTextLayout(PaintContext& context, const PaintState& state, const TextLayout& layout,
-                     const std::shared_ptr<const ShapedText>& text, const std::shared_ptr<const ShapedText>& ellipsis, const Rect& box,
-                     TextAlignment alignment, std::span<const TextRunPaint> paints) {
+                     const std::shared_ptr<const ShapedText>& text, const std::shared_ptr<const ShapedText>& ellipsis,
+                     const Rect& box, TextAlignment alignment, std::span<const TextRunPaint> paints) {
     if (!text || paints.empty()) return;
     LinePainter painter(context, state, layout, text, paints);
     double y = box.minY();

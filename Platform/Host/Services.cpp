@@ -43,7 +43,8 @@ bool Installation::exists() { return newest != nullptr; }
 
 TextShaper& Installation::textShaper() {
     TextShaper* shaper = current().textShaper.get();
-    if (!shaper) commons::fatalError("No text shaper is installed: host::Services::textShaper is null, and a text is to be measured");
+    if (!shaper)
+        commons::fatalError("No text shaper is installed: host::Services::textShaper is null, and a text is to be measured");
     return *shaper;
 }
 

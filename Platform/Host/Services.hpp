@@ -14,7 +14,7 @@ class ClipDecoder;
 struct Services {
     std::shared_ptr<TextShaper> textShaper;
     std::shared_ptr<ImageDecoder> imageDecoder;
-    std::shared_ptr<ClipDecoder> clipDecoder; // null: clips stay empty
+    std::shared_ptr<ClipDecoder> clipDecoder;                         // null: clips stay empty
     std::shared_ptr<const foundation::LocaleServices> localeServices; // null: the built-in ones
 };
 

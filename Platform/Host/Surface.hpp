@@ -9,8 +9,8 @@ class Surface {
 public:
     virtual ~Surface() = default;
 
-    // Shows the list on `size` points at `scale` pixels a point, over white. Repaints only what differs from the list shown before at
-    // the same size and scale.
+    // Shows the list on `size` points at `scale` pixels a point, over white. Repaints only what differs from the list shown before
+    // at the same size and scale.
     virtual void present(const graphics::DisplayList& list, geometry::Size size, double scale) = 0;
 };
 

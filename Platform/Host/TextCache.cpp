@@ -14,7 +14,7 @@ using graphics::StyledRun;
 namespace {
 
 std::size_t hashOf(std::span<const StyledRun> runs, std::string_view language, LayoutDirection direction) {
-    std::size_t hash = std::hash<std::string_view>{}(language) * 2 + std::size_t(direction);
+    std::size_t hash = std::hash<std::string_view>{}(language)*2 + std::size_t(direction);
     const auto mix = [&hash](std::size_t value) { hash ^= value + 0x9E3779B97F4A7C15 + (hash << 6) + (hash >> 2); };
     for (const StyledRun& run : runs) {
         mix(std::hash<std::string_view>{}(run.text));

@@ -17,7 +17,7 @@ public:
     // Shapes the runs as one text. `language` is a tag such as "de-AT" and steers line breaks and glyph forms; `direction` is the
     // paragraph's. At least one run; its text may be empty.
     virtual std::shared_ptr<const graphics::ShapedText> shape(std::span<const graphics::StyledRun> runs, std::string_view language,
-                                                             geometry::LayoutDirection direction) = 0;
+                                                              geometry::LayoutDirection direction) = 0;
 };
 
 } // namespace host

@@ -17,7 +17,10 @@ Node textNode(std::string text) {
 }
 
 Node button(std::string identifier, std::vector<Node> children, std::string label = {}) {
-    return {.type = "Button", .identifier = std::move(identifier), .label = std::move(label), .isControl = true,
+    return {.type = "Button",
+            .identifier = std::move(identifier),
+            .label = std::move(label),
+            .isControl = true,
             .children = std::move(children)};
 }
 
@@ -30,13 +33,14 @@ std::vector<std::string> identifiersOf(const std::vector<const Node*>& nodes) {
 const Node& screen() {
     static const Node root{
         .type = "Screen",
-        .children = {
-            textNode("Yearly"),
-            button("plan.yearly", {textNode("Yearly"), textNode("$99.99")}),
-            button("close", {{.type = "Image", .image = "closeIcon"}}),
-            button("terms", {textNode("Terms")}, "Terms of Service"),
-            {.type = "Row", .children = {button("nested", {button("inner", {textNode("Inner")})})}},
-        },
+        .children =
+            {
+                textNode("Yearly"),
+                button("plan.yearly", {textNode("Yearly"), textNode("$99.99")}),
+                button("close", {{.type = "Image", .image = "closeIcon"}}),
+                button("terms", {textNode("Terms")}, "Terms of Service"),
+                {.type = "Row", .children = {button("nested", {button("inner", {textNode("Inner")})})}},
+            },
     };
     return root;
 }

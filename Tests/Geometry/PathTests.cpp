@@ -26,7 +26,8 @@ struct Cubic {
     double curvatureAt(double t) const {
         const double u = 1 - t;
         const Point d1 = control1 - start, d2 = control2 - control1, d3 = end - control2;
-        const Point velocity{3 * (u * u * d1.x + 2 * u * t * d2.x + t * t * d3.x), 3 * (u * u * d1.y + 2 * u * t * d2.y + t * t * d3.y)};
+        const Point velocity{3 * (u * u * d1.x + 2 * u * t * d2.x + t * t * d3.x),
+                             3 * (u * u * d1.y + 2 * u * t * d2.y + t * t * d3.y)};
         const Point e1 = d2 - d1, e2 = d3 - d2;
         const Point acceleration{6 * (u * e1.x + t * e2.x), 6 * (u * e1.y + t * e2.y)};
         const double cross = velocity.x * acceleration.y - velocity.y * acceleration.x;

@@ -27,9 +27,7 @@ TEST(Rect, WithoutAreaIsEmptyAndAddsNothingToAUnion) {
     EXPECT_EQ(flat.united(rect), rect);
 }
 
-TEST(Rect, TouchingAtAnEdgeIsNoIntersection) {
-    EXPECT_FALSE((Rect{{0, 0}, {4, 4}}).intersects({{4, 0}, {4, 4}}));
-}
+TEST(Rect, TouchingAtAnEdgeIsNoIntersection) { EXPECT_FALSE((Rect{{0, 0}, {4, 4}}).intersects({{4, 0}, {4, 4}})); }
 
 TEST(ProposedSize, ReplacesOnlyAbsentLengths) {
     EXPECT_EQ((ProposedSize{std::nullopt, 20.0}.orReplacing({10, 10})), (Size{10, 20}));

@@ -152,7 +152,8 @@ TEST(PaintsTheSame, TakesAnotherFrameOfAClipForAnotherPicture) {
 TEST(PaintsTheSame, ComparesTransformsByValue) {
     const auto turned = [](double angle_rad) {
         DisplayList list;
-        PaintContext(list).fillRectangle(PaintState{}.transformedBy(geometry::Transform::rotation(angle_rad)), {{0, 0}, {10, 10}}, {});
+        PaintContext(list).fillRectangle(PaintState{}.transformedBy(geometry::Transform::rotation(angle_rad)), {{0, 0}, {10, 10}},
+                                         {});
         return list;
     };
     const DisplayList before = turned(1), same = turned(1), other = turned(1 + 1e-9);

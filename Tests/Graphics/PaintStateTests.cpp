@@ -38,7 +38,8 @@ TEST(PaintState, MovesInsideScaledCoordinates) {
 }
 
 TEST(PaintState, AppliesTheInnermostTransformFirst) {
-    const PaintState state = PaintState{}.transformedBy(Transform::scaling(2, 1)).transformedBy(Transform::rotation(std::numbers::pi / 2));
+    const PaintState state =
+        PaintState{}.transformedBy(Transform::scaling(2, 1)).transformedBy(Transform::rotation(std::numbers::pi / 2));
 
     expectNear(state.toWindow({{0, 0}, {10, 1}}), {{-2, 0}, {2, 10}});
 }
@@ -51,7 +52,8 @@ TEST(PaintState, TreatsATranslationAsAMove) {
 }
 
 TEST(PaintState, ClipsToWhatEveryClipContains) {
-    const PaintState state = PaintState{}.movedBy({10, 10}).clippedTo({{0, 0}, {20, 20}}).movedBy({10, 0}).clippedTo({{0, 0}, {20, 5}});
+    const PaintState state =
+        PaintState{}.movedBy({10, 10}).clippedTo({{0, 0}, {20, 20}}).movedBy({10, 0}).clippedTo({{0, 0}, {20, 5}});
 
     EXPECT_EQ(state.clip, (Rect{{20, 10}, {10, 5}}));
 }

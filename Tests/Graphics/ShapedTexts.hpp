@@ -12,9 +12,7 @@ namespace graphics {
 using ShapedTextPointer = std::shared_ptr<const ShapedText>;
 
 // At size 10 a character is 5 wide and a line 12.5 high.
-inline StyledRun styled(std::string text, double size = 10, double kern = 0) {
-    return {std::move(text), Font{.size = size}, kern};
-}
+inline StyledRun styled(std::string text, double size = 10, double kern = 0) { return {std::move(text), Font{.size = size}, kern}; }
 
 inline ShapedTextPointer shaped(const std::vector<StyledRun>& runs,
                                 geometry::LayoutDirection direction = geometry::LayoutDirection::leftToRight) {

@@ -26,8 +26,10 @@ std::vector<StyledRun> someRuns() {
 LayoutDirection someDirection() { return *rc::gen::element(LayoutDirection::leftToRight, LayoutDirection::rightToLeft); }
 
 TextLayoutRequest someRequest(LayoutDirection direction) {
-    TextLayoutRequest request{.width = *rc::gen::inRange(0, 1500) / 10.0, .lineSpacing = *rc::gen::element(0.0, 3.0),
-                              .direction = direction, .ellipsisWidth = 5};
+    TextLayoutRequest request{.width = *rc::gen::inRange(0, 1500) / 10.0,
+                              .lineSpacing = *rc::gen::element(0.0, 3.0),
+                              .direction = direction,
+                              .ellipsisWidth = 5};
     if (*rc::gen::inRange(0, 2) == 1) request.lineLimit = *rc::gen::inRange(1, 4);
     if (*rc::gen::inRange(0, 3) == 1) request.height = *rc::gen::inRange(0, 100);
     return request;
@@ -151,8 +153,8 @@ RC_GTEST_PROP(VisualOrder, EqualsTurningEveryLevelRound, ()) {
     ShapedText text;
     text.runs = {styled(""), styled("")};
     text.metrics = {{10, 2}, {10, 2}};
-    for (const auto& [level, run] : *rc::gen::container<std::vector<std::pair<int, int>>>(
-             rc::gen::pair(rc::gen::inRange(0, 5), rc::gen::inRange(0, 2)))) {
+    for (const auto& [level, run] :
+         *rc::gen::container<std::vector<std::pair<int, int>>>(rc::gen::pair(rc::gen::inRange(0, 5), rc::gen::inRange(0, 2)))) {
         Cluster& cluster = text.clusters.emplace_back();
         cluster.advance = 5;
         cluster.bidiLevel = std::uint8_t(level);

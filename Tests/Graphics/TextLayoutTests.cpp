@@ -29,23 +29,33 @@ TEST_P(Wrapping, BreaksGreedilyAtTheAllowedPlaces) {
 
 INSTANTIATE_TEST_SUITE_P(
     Texts, Wrapping,
-    ::testing::Values(WrapCase{"FitsExactly", "one two", 7, {"one two"}}, WrapCase{"OneCharacterTooNarrow", "one two", 6, {"one", "two"}},
-                      WrapCase{"BlanksHangAtTheEnd", "one   two", 3, {"one", "two"}},
-                      WrapCase{"BlanksBetweenWordsCount", "a  b c", 4, {"a  b", "c"}},
-                      WrapCase{"LeadingBlanksStay", "  one two", 5, {"  one", "two"}},
-                      WrapCase{"TrailingBlanksNeedNoLine", "one   ", 3, {"one"}},
-                      WrapCase{"OnlyBlanks", "   ", 1, {""}},
-                      WrapCase{"LongWordIsCut", "abcdefgh", 3, {"abc", "def", "gh"}},
-                      WrapCase{"LongWordStartsOnItsOwnLine", "x abcdefgh", 4, {"x", "abcd", "efgh"}},
-                      WrapCase{"RestOfALongWordSharesItsLine", "abcdef g", 4, {"abcd", "ef g"}},
-                      WrapCase{"NoRoomAtAll", "ab c", 0, {"a", "b", "c"}}, WrapCase{"LineFeed", "a\nb", 10, {"a", "b"}},
-                      WrapCase{"EmptyLine", "a\n\nb", 10, {"a", "", "b"}}, WrapCase{"LineFeedAtTheEnd", "a\n", 10, {"a", ""}},
-                      WrapCase{"OnlyALineFeed", "\n", 10, {"", ""}}, WrapCase{"CarriageReturnAndLineFeedAreOne", "a\r\nb", 10, {"a", "b"}},
-                      WrapCase{"LineSeparator", "a\xE2\x80\xA8" "b\xE2\x80\xA9" "c", 10, {"a", "b", "c"}},
-                      WrapCase{"LineFeedAfterAFullLine", "abc\ndef", 3, {"abc", "def"}},
-                      WrapCase{"BlankBeforeALineFeed", "a \nb", 1, {"a", "b"}},
-                      WrapCase{"Hyphen", "well-known", 6, {"well-", "known"}},
-                      WrapCase{"NoBreakSpace", "a\u00A0" "b c", 3, {"a\u00A0" "b", "c"}}, WrapCase{"Empty", "", 10, {""}}),
+    ::testing::Values(
+        WrapCase{"FitsExactly", "one two", 7, {"one two"}}, WrapCase{"OneCharacterTooNarrow", "one two", 6, {"one", "two"}},
+        WrapCase{"BlanksHangAtTheEnd", "one   two", 3, {"one", "two"}},
+        WrapCase{"BlanksBetweenWordsCount", "a  b c", 4, {"a  b", "c"}},
+        WrapCase{"LeadingBlanksStay", "  one two", 5, {"  one", "two"}}, WrapCase{"TrailingBlanksNeedNoLine", "one   ", 3, {"one"}},
+        WrapCase{"OnlyBlanks", "   ", 1, {""}}, WrapCase{"LongWordIsCut", "abcdefgh", 3, {"abc", "def", "gh"}},
+        WrapCase{"LongWordStartsOnItsOwnLine", "x abcdefgh", 4, {"x", "abcd", "efgh"}},
+        WrapCase{"RestOfALongWordSharesItsLine", "abcdef g", 4, {"abcd", "ef g"}},
+        WrapCase{"NoRoomAtAll", "ab c", 0, {"a", "b", "c"}}, WrapCase{"LineFeed", "a\nb", 10, {"a", "b"}},
+        WrapCase{"EmptyLine", "a\n\nb", 10, {"a", "", "b"}}, WrapCase{"LineFeedAtTheEnd", "a\n", 10, {"a", ""}},
+        WrapCase{"OnlyALineFeed", "\n", 10, {"", ""}}, WrapCase{"CarriageReturnAndLineFeedAreOne", "a\r\nb", 10, {"a", "b"}},
+        WrapCase{"LineSeparator",
+                 "a\xE2\x80\xA8"
+                 "b\xE2\x80\xA9"
+                 "c",
+                 10,
+                 {"a", "b", "c"}},
+        WrapCase{"LineFeedAfterAFullLine", "abc\ndef", 3, {"abc", "def"}}, WrapCase{"BlankBeforeALineFeed", "a \nb", 1, {"a", "b"}},
+        WrapCase{"Hyphen", "well-known", 6, {"well-", "known"}},
+        WrapCase{"NoBreakSpace",
+                 "a\u00A0"
+                 "b c",
+                 3,
+                 {"a\u00A0"
+                  "b",
+                  "c"}},
+        WrapCase{"Empty", "", 10, {""}}),
     [](const auto& info) { return info.param.name; });
 
 TEST(TextLayout, IsNeverWrappedWithoutAWidth) {
@@ -117,26 +127,18 @@ TextLayoutRequest cutAfter(int lineLimit, double characters) {
     return {.width = characters * 5, .lineLimit = lineLimit, .ellipsisWidth = 5};
 }
 
-TEST(Truncation, EndsTheLastLineInAnEllipsis) {
-    EXPECT_EQ(linesOf("one two three", cutAfter(2, 5)), (Lines{"one", "two…"}));
-}
+TEST(Truncation, EndsTheLastLineInAnEllipsis) { EXPECT_EQ(linesOf("one two three", cutAfter(2, 5)), (Lines{"one", "two…"})); }
 
-TEST(Truncation, FillsTheLastLineUpToItsEnd) {
-    EXPECT_EQ(linesOf("one wonderful day", cutAfter(1, 8)), (Lines{"one won…"}));
-}
+TEST(Truncation, FillsTheLastLineUpToItsEnd) { EXPECT_EQ(linesOf("one wonderful day", cutAfter(1, 8)), (Lines{"one won…"})); }
 
-TEST(Truncation, DropsBlanksBeforeTheEllipsis) {
-    EXPECT_EQ(linesOf("one   wonderful day", cutAfter(1, 6)), (Lines{"one…"}));
-}
+TEST(Truncation, DropsBlanksBeforeTheEllipsis) { EXPECT_EQ(linesOf("one   wonderful day", cutAfter(1, 6)), (Lines{"one…"})); }
 
 TEST(Truncation, ShowsTheEllipsisAloneWhereNothingElseFits) {
     EXPECT_EQ(linesOf("wonderful", cutAfter(1, 1)), (Lines{"…"}));
     EXPECT_EQ(linesOf("wonderful", cutAfter(1, 0)), (Lines{"…"}));
 }
 
-TEST(Truncation, DoesNotFillALineBeyondItsLineFeed) {
-    EXPECT_EQ(linesOf("one\ntwo", cutAfter(1, 20)), (Lines{"one…"}));
-}
+TEST(Truncation, DoesNotFillALineBeyondItsLineFeed) { EXPECT_EQ(linesOf("one\ntwo", cutAfter(1, 20)), (Lines{"one…"})); }
 
 TEST(Truncation, CutsAnUnwrappedTextAtItsLineFeed) {
     EXPECT_EQ(linesOf("one\ntwo", {.lineLimit = 1, .ellipsisWidth = 5}), (Lines{"one…"}));

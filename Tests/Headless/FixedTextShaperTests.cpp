@@ -15,7 +15,8 @@ using graphics::ShapedText;
 using graphics::StyledRun;
 using ::testing::ElementsAre;
 
-std::shared_ptr<const ShapedText> shape(const std::vector<StyledRun>& runs, LayoutDirection direction = LayoutDirection::leftToRight) {
+std::shared_ptr<const ShapedText> shape(const std::vector<StyledRun>& runs,
+                                        LayoutDirection direction = LayoutDirection::leftToRight) {
     return FixedTextShaper().shape(runs, "en", direction);
 }
 
@@ -152,7 +153,8 @@ TEST(BidiLevels, GiveNeutralsTheirSurroundingsDirection) {
 
 TEST(BidiLevels, KeepAPriceTogether) {
     EXPECT_EQ(rightToLeftLevels("רק $99.99 לשנה"), "11122222211111");
-    EXPECT_EQ(rightToLeftLevels("1,234.50 ₪"), "222222221" "1");
+    EXPECT_EQ(rightToLeftLevels("1,234.50 ₪"), "222222221"
+                                               "1");
     EXPECT_EQ(rightToLeftLevels("45%"), "222");
 }
 

@@ -49,14 +49,13 @@ TEST(SvgSize, IsAbsentWhereItMakesNoSense) {
     for (const std::string_view contents :
          {"", "   ", "svg", "<svg", "<svg>", "<!-- <svg width='1' height='1'>", "<!DOCTYPE svg [", "<svg width='0' height='5'>",
           "<svg width='-1' height='5'>", "<svg width='5'>", "<svg width='2em' height='2em'>", "<svg width='nan' height='inf'>",
-          "<svg width=2 height=3>", "<svg width='2", "<svg viewBox='0 0 40'>", "<svg viewBox='0 0 0 30'>", "<svg viewBox='a b c d'>"}) {
+          "<svg width=2 height=3>", "<svg width='2", "<svg viewBox='0 0 40'>", "<svg viewBox='0 0 0 30'>",
+          "<svg viewBox='a b c d'>"}) {
         EXPECT_EQ(svgSize(contents), std::nullopt) << contents;
     }
 }
 
-std::string pngHeader(std::string widthAndHeight) {
-    return std::string("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16) + widthAndHeight;
-}
+std::string pngHeader(std::string widthAndHeight) { return std::string("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16) + widthAndHeight; }
 
 TEST(PngSize, IsTheHeaders) { EXPECT_EQ(pngSize(pngHeader({"\0\0\1\2\0\0\0\xFF", 8})), (Size{258, 255})); }
 
@@ -81,8 +80,9 @@ TEST(ImageSizeReader, ReadsFiles) {
 
 RC_GTEST_PROP(SvgSizeInvariants, SurvivesWhateverItIsGivenAndNeverAnswersWithASizeOfNothing, ()) {
     std::string contents = "<svg";
-    for (const auto& piece : *rc::gen::container<std::vector<std::string>>(rc::gen::element<std::string>(
-             " ", "width", "height", "viewBox", "=", "\"", "'", "1", "-2", "e9999", ">", "/", "<", "<!--", "?>", "[", "]", ",", "px"))) {
+    for (const auto& piece : *rc::gen::container<std::vector<std::string>>(
+             rc::gen::element<std::string>(" ", "width", "height", "viewBox", "=", "\"", "'", "1", "-2", "e9999", ">", "/", "<",
+                                           "<!--", "?>", "[", "]", ",", "px"))) {
         contents += piece;
     }
     const auto size = svgSize(contents);

@@ -11,7 +11,9 @@ using commons::DefaultLogger;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-void logSomething(std::string_view message) { DefaultLogger::shared().log(DefaultLogger::errorSeverity, message, "logSomething()"); }
+void logSomething(std::string_view message) {
+    DefaultLogger::shared().log(DefaultLogger::errorSeverity, message, "logSomething()");
+}
 
 // Collects unexpected records instead of failing, as long as it lives.
 class UnexpectedLogs {
