@@ -17,7 +17,9 @@ void ScrollAxis::setRange(motion::ScrollRange range, double viewportLength, doub
 
 double ScrollAxis::offsetAt(double now_s) const { return m_flick ? m_flick->path.offsetAt(now_s - m_flick->start_s) : m_offset; }
 
-bool ScrollAxis::isCoastingAt(double now_s) const { return m_flick && now_s - m_flick->start_s < m_flick->path.duration_s(); }
+bool ScrollAxis::isCoastingAt(double now_s) const { return now_s < end_s(); }
+
+double ScrollAxis::end_s() const { return m_flick ? m_flick->start_s + m_flick->path.duration_s() : -1e300; }
 
 void ScrollAxis::beginTracking(double finger, double now_s) {
     stop(now_s);

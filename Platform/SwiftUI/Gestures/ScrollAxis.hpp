@@ -19,6 +19,8 @@ public:
     bool isTracking() const { return m_isTracking; }
     // Whether it moves by itself.
     bool isCoastingAt(double now_s) const;
+    // When it comes to rest by itself; in the past where nothing moves.
+    double end_s() const;
 
     // The finger takes hold of the content where it is shown at this moment. `finger` is its place along the axis.
     void beginTracking(double finger, double now_s);

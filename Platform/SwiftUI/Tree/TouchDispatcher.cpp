@@ -37,7 +37,7 @@ bool TouchDispatcher::touch(const host::Touch& touch) {
 bool TouchDispatcher::begin(const host::Touch& touch) {
     if (m_active) return true;
     m_start = m_location = touch.location;
-    collectHandlers(hitTest(touch.location));
+    collectHandlers(m_host.nodeAt(touch.location));
     const TouchEvent event = eventAt(touch.location);
     if (GestureHandler* handler = interceptor(event)) {
         m_active = handler;
@@ -84,7 +84,7 @@ void TouchDispatcher::offerToOthers(const TouchEvent& event) {
 
 bool TouchDispatcher::scroll(geometry::Point location, geometry::Point delta) {
     const std::shared_ptr<ViewHost> alive = m_host.shared_from_this();
-    for (Node* node = hitTest(location); node; node = node->parent()) {
+    for (Node* node = m_host.nodeAt(location); node; node = node->parent()) {
         GestureHandler* handler = node->gestureHandler();
         if (handler && handler->scrolled(delta)) return true;
     }
@@ -102,17 +102,12 @@ GestureHandler* TouchDispatcher::release() {
     return handler;
 }
 
-void TouchDispatcher::nodeGone(Node& node) {
+void TouchDispatcher::nodeGone(const Node& node) {
     std::erase_if(m_candidates, [&](const Candidate& candidate) {
         const bool isGone = isInside(candidate.node, node);
         if (isGone && candidate.handler == m_active) m_active = nullptr;
         return isGone;
     });
-}
-
-Node* TouchDispatcher::hitTest(geometry::Point location) const {
-    Node* root = m_host.rootNode();
-    return root ? root->hitTest(location, graphics::PaintState{}, m_host.now_s()) : nullptr;
 }
 
 void TouchDispatcher::collectHandlers(Node* hit) {

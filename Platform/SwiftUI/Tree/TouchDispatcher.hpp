@@ -28,7 +28,7 @@ public:
     // The handler that has the touch; null when none has.
     GestureHandler* activeHandler() const { return m_active; }
     // The node goes away with everything inside, handlers included. The touch stays with the handlers around it, who may still claim it.
-    void nodeGone(Node& node);
+    void nodeGone(const Node& node);
 
 private:
     struct Candidate {
@@ -36,7 +36,6 @@ private:
         GestureHandler* handler = nullptr;
     };
 
-    Node* hitTest(geometry::Point location) const;
     void collectHandlers(Node* hit);
     TouchEvent eventAt(geometry::Point location) const;
     GestureHandler* interceptor(const TouchEvent& event) const;

@@ -1,0 +1,29 @@
+#include "Platform/SwiftUI/Gestures/TapTarget.hpp"
+
+#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ViewHost.hpp"
+
+namespace swiftui {
+
+TapTarget::~TapTarget() = default;
+
+void TapTarget::adopt(Node& node, Action action) {
+    m_node = &node;
+    m_action = std::move(action);
+}
+
+void TapTarget::act() const {
+    const std::shared_ptr<ViewHost> alive = m_node->host().shared_from_this();
+    // A copy, since the node and its action may go before the call ends.
+    const Action action = m_action;
+    if (action) action();
+}
+
+std::function<void()> TapTarget::activation() const {
+    if (!m_self) m_self = std::make_shared<const TapTarget*>(this);
+    return [target = std::weak_ptr(m_self)] {
+        if (const auto living = target.lock()) (*living)->act();
+    };
+}
+
+} // namespace swiftui

@@ -1,0 +1,31 @@
+// Something with an action, for fingers and for those who act without one.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "Platform/SwiftUI/Tree/Callback.hpp"
+
+namespace swiftui {
+
+class Node;
+
+// Part of a node.
+class TapTarget {
+public:
+    ~TapTarget();
+
+    void adopt(Node& node, Action action);
+    // Runs the newest action, which may do anything: take the node out of the tree, or let go of everything.
+    void act() const;
+    // The same from outside, at any later time; does nothing once the node is gone.
+    std::function<void()> activation() const;
+
+private:
+    Node* m_node = nullptr;
+    Action m_action;
+    // Points here for as long as the target lives; made when it is first asked for.
+    mutable std::shared_ptr<const TapTarget*> m_self;
+};
+
+} // namespace swiftui

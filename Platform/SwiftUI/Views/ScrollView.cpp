@@ -1,0 +1,327 @@
+#include "Platform/SwiftUI/Views/ScrollView.hpp"
+
+#include <algorithm>
+
+#include "Platform/RunLoop/MainRunLoop.hpp"
+#include "Platform/SwiftUI/Gestures/DragRecognizer.hpp"
+#include "Platform/SwiftUI/Gestures/ScrollAxis.hpp"
+#include "Platform/SwiftUI/Gestures/ScrollIndicator.hpp"
+#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/SemanticContext.hpp"
+#include "Platform/SwiftUI/Tree/ViewHost.hpp"
+#include "Platform/SwiftUI/Views/Stacks.hpp"
+
+namespace swiftui {
+namespace {
+
+// Views learn that they come on screen this often while content moves by itself.
+constexpr double step_s = 1.0 / 60;
+constexpr double indicatorThickness = 3;
+constexpr double indicatorInset = 3;
+
+View contentOf(const ScrollView& view) {
+    if (view.content.size() == 1) return view.content[0];
+    if (view.axis == Axis::horizontal) return HStack{.content = view.content};
+    return VStack{.content = view.content};
+}
+
+class ScrollViewNode final : public Node, public GestureHandler {
+public:
+    ~ScrollViewNode() override { stopStepping(); }
+
+    void adopt(ScrollView&& view, UpdatePass& pass) {
+        if (view.axis != m_axis) invalidateLayout();
+        if (view.showsIndicators != m_showsIndicators) setNeedsDisplay();
+        m_axis = view.axis;
+        m_showsIndicators = view.showsIndicators;
+        updateChild(0, contentOf(view), pass);
+    }
+
+    LengthRange lengthRange(Axis axis, std::optional<double> crossProposal) override {
+        if (axis == m_axis) return {0, geometry::infinity};
+        return Node::lengthRange(axis, crossProposal);
+    }
+    geometry::Point contentTranslation(double now_s) const override {
+        const double offset = shownOffset(now_s);
+        if (m_axis == Axis::vertical) return {0, -offset};
+        return {isMirrored() ? offset : -offset, 0};
+    }
+    std::optional<geometry::Rect> viewport() const override { return bounds(); }
+    void applyEffects(graphics::PaintState& state, double) const override { state = state.clippedTo(bounds()); }
+
+    // --- Touches
+    GestureHandler* gestureHandler() override { return this; }
+    bool interceptsTouch(const TouchEvent& event) override {
+        m_isHeld = m_offset.isCoastingAt(event.time_s);
+        return m_isHeld;
+    }
+    bool touchBegan(const TouchEvent& event) override {
+        if (m_isHeld) beginDragging(fingerAt(event.location), event.time_s);
+        return true;
+    }
+    void touchMoved(const TouchEvent& event) override;
+    void touchEnded(const TouchEvent& event) override;
+    void touchCancelled() override;
+    bool claims(const TouchEvent& event) override {
+        m_isHeld = false;
+        return dragOrigin(m_axis, event).has_value();
+    }
+    bool holdsTouch() const override { return m_offset.isTracking(); }
+    bool scrolled(geometry::Point delta) override;
+
+    void appendSemantics(SemanticContext& context, const graphics::PaintState& parentState,
+                         std::vector<accessibility::Node>& result) override;
+
+protected:
+    geometry::Size measure(const geometry::ProposedSize& proposal) override;
+    void layOut(const geometry::ProposedSize& proposal, geometry::Size size) override;
+    void paintOverlay(graphics::PaintContext& context, const graphics::PaintState& state, double now_s) override;
+    bool isHittable() const override { return true; }
+    std::string_view semanticType() const override { return "ScrollView"; }
+    void describe(accessibility::Node& node, const graphics::PaintState& state, double now_s) const override;
+
+private:
+    // The part of the tree that a semantic tree showed, for those who reveal something in it later.
+    struct Sight {
+        geometry::Rect viewportInWindow;
+        double offset = 0;
+        double pointsPerWindowPoint = 1;
+    };
+
+    bool isMirrored() const { return m_axis == Axis::horizontal && environment().isRightToLeft(); }
+    geometry::Rect bounds() const { return {{}, frame().size}; }
+    double length() const { return m_axis == Axis::vertical ? frame().height() : frame().width(); }
+    double contentLength() const { return m_axis == Axis::vertical ? m_contentSize.height : m_contentSize.width; }
+    double shownOffset(double now_s) const { return m_offset.offsetAt(now_s) + m_correction.valueAt(now_s); }
+    // Grows as the content is pulled towards its start.
+    double fingerAt(geometry::Point location) const { return isMirrored() ? -location.x : along(m_axis, location); }
+    geometry::ProposedSize contentProposal(std::optional<double> cross) const {
+        return m_axis == Axis::vertical ? geometry::ProposedSize{cross, std::nullopt} : geometry::ProposedSize{std::nullopt, cross};
+    }
+
+    geometry::PhysicalInsets coveredSafeArea() const;
+    void adoptRange(double now_s);
+    void beginDragging(double finger, double now_s);
+    void coast();
+    void stopStepping();
+    void step();
+    void noteMoved();
+    ScrollIndicator::Track indicatorTrack(double now_s) const;
+    geometry::Point revealed(const geometry::Rect& inWindow, const Sight& sight);
+
+    Axis m_axis = Axis::vertical;
+    bool m_showsIndicators = true;
+    geometry::Size m_contentSize;
+    geometry::PhysicalInsets m_insets;
+    ScrollAxis m_offset;
+    // What is left of a movement that a change of the content has caused, while that change is animated.
+    Animated<double> m_correction{0};
+    bool m_isHeld = false; // the next touch takes hold at once
+    bool m_hasRange = false;
+    ScrollIndicator m_indicator;
+    std::shared_ptr<runloop::Timer> m_stepping;
+    std::shared_ptr<ScrollViewNode*> m_self; // made for those who reveal things
+};
+
+// --- Layout
+
+geometry::Size ScrollViewNode::measure(const geometry::ProposedSize& proposal) {
+    if (m_axis == Axis::vertical) {
+        const geometry::Size content = onlyChild() ? onlyChild()->sizeThatFits(contentProposal(proposal.width)) : geometry::Size{};
+        return {content.width, proposal.height.value_or(content.height)};
+    }
+    const geometry::Size content = onlyChild() ? onlyChild()->sizeThatFits(contentProposal(proposal.height)) : geometry::Size{};
+    return {proposal.width.value_or(content.width), content.height};
+}
+
+void ScrollViewNode::layOut(const geometry::ProposedSize& proposal, geometry::Size size) {
+    setDependsOnPosition();
+    const bool isVertical = m_axis == Axis::vertical;
+    // What was measured with: a content that asks for more than it is offered stays as it is.
+    const geometry::ProposedSize offered = contentProposal(isVertical ? proposal.width : proposal.height);
+    m_contentSize = onlyChild() ? onlyChild()->sizeThatFits(offered) : geometry::Size{};
+    if (onlyChild()) {
+        const geometry::Point origin = isVertical ? geometry::Point{(size.width - m_contentSize.width) / 2, 0}
+                                                  : geometry::Point{0, (size.height - m_contentSize.height) / 2};
+        placeChild(*onlyChild(), origin, offered);
+    }
+    m_insets = coveredSafeArea();
+    adoptRange(host().now_s());
+}
+
+// By how much the view reaches over the edges of the safe area, in the direction in which it scrolls.
+geometry::PhysicalInsets ScrollViewNode::coveredSafeArea() const {
+    geometry::Point origin = frame().origin;
+    for (const Node* outer = parent(); outer; outer = outer->parent()) origin = origin + outer->frame().origin;
+    const geometry::PhysicalInsets& safe = host().safeArea();
+    const geometry::Size window = host().size();
+    const auto covered = [](double inset, double reach) { return std::clamp(reach, 0.0, std::max(0.0, inset)); };
+    if (m_axis == Axis::vertical) {
+        const double bottom = origin.y + frame().height() - (window.height - safe.bottom);
+        return {.top = covered(safe.top, safe.top - origin.y), .bottom = covered(safe.bottom, bottom)};
+    }
+    const double right = origin.x + frame().width() - (window.width - safe.right);
+    return {.left = covered(safe.left, safe.left - origin.x), .right = covered(safe.right, right)};
+}
+
+void ScrollViewNode::adoptRange(double now_s) {
+    const double start = m_axis == Axis::vertical ? m_insets.top : isMirrored() ? m_insets.right : m_insets.left;
+    const double end = m_insets.top + m_insets.bottom + m_insets.left + m_insets.right - start;
+    const motion::ScrollRange range{-start, std::max(-start, contentLength() + end - length())};
+    const double before = shownOffset(now_s);
+    const bool wasAtStart = !m_hasRange || m_offset.offsetAt(now_s) == m_offset.range().minimum;
+    m_offset.setRange(range, length(), now_s);
+    if (wasAtStart && !m_offset.isTracking() && !m_offset.isCoastingAt(now_s)) m_offset.moveTo(range.minimum);
+    const double after = m_offset.offsetAt(now_s);
+    if (m_hasRange && before != after + m_correction.valueAt(now_s)) {
+        m_correction = Animated<double>(before - after);
+        m_correction.set(0, host().layoutAnimation(), now_s);
+        if (m_correction.isAnimatingAt(now_s)) host().noteAnimation(m_correction.end_s());
+    }
+    m_hasRange = true;
+    if (m_offset.isCoastingAt(now_s)) coast();
+}
+
+// --- Touches
+
+void ScrollViewNode::beginDragging(double finger, double now_s) {
+    stopStepping();
+    m_offset.beginTracking(finger, now_s);
+    m_indicator.show(geometry::infinity);
+    setNeedsDisplay();
+}
+
+void ScrollViewNode::touchMoved(const TouchEvent& event) {
+    if (!m_offset.isTracking()) {
+        if (const auto origin = dragOrigin(m_axis, event)) beginDragging(isMirrored() ? -*origin : *origin, event.time_s);
+    }
+    if (!m_offset.isTracking()) return;
+    m_offset.track(fingerAt(event.location), event.time_s);
+    noteMoved();
+}
+
+void ScrollViewNode::touchEnded(const TouchEvent& event) {
+    m_isHeld = false;
+    if (!m_offset.isTracking()) return;
+    m_offset.endTracking(event.time_s);
+    coast();
+}
+
+void ScrollViewNode::touchCancelled() {
+    m_isHeld = false;
+    if (!m_offset.isTracking()) return;
+    m_offset.cancelTracking(host().now_s());
+    coast();
+}
+
+bool ScrollViewNode::scrolled(geometry::Point delta) {
+    const double now_s = host().now_s(), before = m_offset.offsetAt(now_s);
+    const double wanted = m_offset.range().clamped(before + (isMirrored() ? -delta.x : along(m_axis, delta)));
+    if (m_offset.isTracking() || wanted == before) return false;
+    m_offset.moveTo(wanted);
+    coast();
+    noteMoved();
+    return true;
+}
+
+// Goes on by itself, or rests where nothing moves.
+void ScrollViewNode::coast() {
+    const double now_s = host().now_s(), end_s = std::max(now_s, m_offset.end_s());
+    m_indicator.show(end_s);
+    host().noteAnimation(m_indicator.end_s());
+    setNeedsDisplay();
+    if (!m_offset.isCoastingAt(now_s)) return stopStepping();
+    if (!m_stepping) m_stepping = runloop::MainRunLoop::main().scheduleRepeating(step_s, [this] { step(); });
+}
+
+void ScrollViewNode::step() {
+    noteMoved();
+    if (!m_offset.isCoastingAt(host().now_s())) stopStepping();
+}
+
+void ScrollViewNode::stopStepping() {
+    if (m_stepping) m_stepping->invalidate();
+    m_stepping = nullptr;
+}
+
+void ScrollViewNode::noteMoved() {
+    setNeedsDisplay();
+    host().setNeedsAppearanceUpdate();
+}
+
+// --- Picture
+
+ScrollIndicator::Track ScrollViewNode::indicatorTrack(double now_s) const {
+    ScrollIndicator::Track track{.axis = m_axis, .scheme = environment().colorScheme};
+    const double inset = indicatorInset, breadth = indicatorThickness;
+    const geometry::Rect room{{inset + m_insets.left, inset + m_insets.top},
+                              {frame().width() - m_insets.left - m_insets.right - 2 * inset,
+                               frame().height() - m_insets.top - m_insets.bottom - 2 * inset}};
+    const motion::ScrollRange range = m_offset.range();
+    const double trailing = environment().isRightToLeft() ? room.minX() : room.maxX() - breadth;
+    track.rect = m_axis == Axis::vertical ? geometry::Rect{{trailing, room.minY()}, {breadth, room.height()}}
+                                          : geometry::Rect{{room.minX(), room.maxY() - breadth}, {room.width(), breadth}};
+    track.contentLength = contentLength();
+    track.viewportLength = contentLength() - (range.maximum - range.minimum);
+    track.offset = shownOffset(now_s) - range.minimum;
+    if (isMirrored()) track.offset = range.maximum - range.minimum - track.offset;
+    return track;
+}
+
+void ScrollViewNode::paintOverlay(graphics::PaintContext& context, const graphics::PaintState& state, double now_s) {
+    if (m_showsIndicators) m_indicator.paint(context, state, indicatorTrack(now_s), now_s);
+}
+
+// --- Semantics
+
+void ScrollViewNode::describe(accessibility::Node& node, const graphics::PaintState&, double now_s) const {
+    const double offset = shownOffset(now_s);
+    const double fromLeft = isMirrored() ? m_contentSize.width - frame().width() - offset : offset;
+    node.scroll = accessibility::ScrollInfo{
+        .contentOffset = m_axis == Axis::vertical ? geometry::Point{0, offset} : geometry::Point{fromLeft, 0},
+        .contentSize = m_contentSize,
+        .contentInset = m_insets,
+    };
+}
+
+void ScrollViewNode::appendSemantics(SemanticContext& context, const graphics::PaintState& parentState,
+                                     std::vector<accessibility::Node>& result) {
+    if (!m_self) m_self = std::make_shared<ScrollViewNode*>(this);
+    const geometry::Rect place = parentState.toWindow(presentationFrame(context.now_s));
+    const double shown = m_axis == Axis::vertical ? place.height() : place.width();
+    const Sight sight{place, shownOffset(context.now_s), shown > 0 ? length() / shown : 1};
+    const auto outer = context.reveal;
+    context.reveal = [self = std::weak_ptr(m_self), sight, outer](const geometry::Rect& inWindow) {
+        geometry::Point moved;
+        if (const auto node = self.lock()) moved = (*node)->revealed(inWindow, sight);
+        if (outer) outer(inWindow.offsetBy(moved));
+    };
+    Node::appendSemantics(context, parentState, result);
+    context.reveal = outer;
+}
+
+// Moves by as little as brings the rectangle's centre into the viewport; returns by how much that has moved the rectangle in the
+// window since the sight.
+geometry::Point ScrollViewNode::revealed(const geometry::Rect& inWindow, const Sight& sight) {
+    const geometry::Point centre = inWindow.center() - sight.viewportInWindow.origin;
+    const double fromStart = isMirrored() ? sight.viewportInWindow.width() - centre.x : along(m_axis, centre);
+    const double inContent = fromStart * sight.pointsPerWindowPoint + sight.offset;
+    const double now_s = host().now_s(), offset = m_offset.offsetAt(now_s);
+    // A point's room at the far edge, which is no longer part of the viewport.
+    const double wanted = inContent < offset ? inContent : inContent < offset + length() ? offset : inContent - length() + 1;
+    if (wanted != offset) {
+        m_offset.moveTo(wanted);
+        m_correction = Animated<double>(0);
+        coast();
+        noteMoved();
+    }
+    const double moved = (sight.offset - m_offset.offsetAt(now_s)) / sight.pointsPerWindowPoint;
+    if (m_axis == Axis::vertical) return {0, moved};
+    return {isMirrored() ? -moved : moved, 0};
+}
+
+} // namespace
+
+Element* ScrollView::makeElement() && { return newElement<ScrollViewNode>(std::move(*this)); }
+
+} // namespace swiftui

@@ -1,0 +1,189 @@
+#include "Platform/SwiftUI/Views/TabView.hpp"
+
+#include <algorithm>
+
+#include "Platform/RunLoop/MainRunLoop.hpp"
+#include "Platform/SwiftUI/Animation/Transaction.hpp"
+#include "Platform/SwiftUI/Gestures/DragRecognizer.hpp"
+#include "Platform/SwiftUI/Gestures/PagePosition.hpp"
+#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ViewHost.hpp"
+
+namespace swiftui {
+namespace {
+
+class TagNode final : public ModifierNode {
+public:
+    void adopt(TagModifier&& modifier, UpdatePass&) { m_tag = modifier.tag; }
+    int tag() const { return m_tag; }
+
+private:
+    int m_tag = 0;
+};
+
+// The tag written behind a page, which may itself be a view made of others.
+const TagNode* tagOf(const Node* node) {
+    while (node) {
+        if (const auto* tagged = dynamic_cast<const TagNode*>(node)) return tagged;
+        node = node->children().size() == 1 ? node->onlyChild() : nullptr;
+    }
+    return nullptr;
+}
+
+class TabViewNode final : public Node, public GestureHandler {
+public:
+    ~TabViewNode() override { stopWaiting(); }
+
+    void adopt(TabView&& view, UpdatePass& pass);
+
+    LengthRange lengthRange(Axis, std::optional<double>) override { return {0, geometry::infinity}; }
+    geometry::Point contentTranslation(double now_s) const override {
+        const double shift = m_position.positionAt(now_s) * frame().width();
+        return {environment().isRightToLeft() ? shift : -shift, 0};
+    }
+    std::optional<geometry::Rect> viewport() const override { return bounds(); }
+    void applyEffects(graphics::PaintState& state, double) const override { state = state.clippedTo(bounds()); }
+
+    // --- Touches
+    GestureHandler* gestureHandler() override { return m_pages.size() > 1 ? this : nullptr; }
+    bool interceptsTouch(const TouchEvent& event) override {
+        m_isHeld = m_position.isMovingAt(event.time_s);
+        return m_isHeld;
+    }
+    bool touchBegan(const TouchEvent& event) override {
+        if (m_isHeld) beginDragging(fingerAt(event.location.x), event.time_s);
+        return true;
+    }
+    void touchMoved(const TouchEvent& event) override;
+    void touchEnded(const TouchEvent& event) override;
+    void touchCancelled() override { letGo(host().now_s()); }
+    bool claims(const TouchEvent& event) override {
+        m_isHeld = false;
+        return dragOrigin(Axis::horizontal, event).has_value();
+    }
+    bool holdsTouch() const override { return m_position.isTracking(); }
+
+protected:
+    geometry::Size measure(const geometry::ProposedSize& proposal) override;
+    void layOut(const geometry::ProposedSize& proposal, geometry::Size size) override;
+    bool isHittable() const override { return true; }
+    std::string_view semanticType() const override { return "TabView"; }
+
+private:
+    geometry::Rect bounds() const { return {{}, frame().size}; }
+    double fingerAt(double x) const { return environment().isRightToLeft() ? -x : x; }
+    // The page of the selection; the one shown so far where no page has it.
+    int selectedPage() const;
+    int tagOfPage(int page) const;
+    void beginDragging(double finger, double now_s);
+    void letGo(double now_s);
+    void noteMoving();
+    void stopWaiting();
+
+    std::optional<Binding<int>> m_selection;
+    std::vector<Node*> m_pages;
+    PagePosition m_position;
+    bool m_isHeld = false; // the next touch takes hold at once
+    std::shared_ptr<runloop::Timer> m_arrival;
+};
+
+void TabViewNode::adopt(TabView&& view, UpdatePass& pass) {
+    const bool isFirst = isNew();
+    m_selection.emplace(std::move(view.selection));
+    updateChildren(view.content, pass);
+    m_pages.clear();
+    collectLayoutChildren(m_pages);
+    m_position.setPages(int(m_pages.size()), frame().width(), pass.now_s);
+    const int page = selectedPage();
+    if (!isFirst && page == m_position.target()) return;
+    m_position.turnTo(page, isFirst ? nullptr : pass.animation, pass.now_s);
+    noteMoving();
+}
+
+int TabViewNode::selectedPage() const {
+    const int selected = m_selection->get();
+    for (int page = 0; page < int(m_pages.size()); ++page)
+        if (tagOfPage(page) == selected) return page;
+    return m_position.target();
+}
+
+int TabViewNode::tagOfPage(int page) const {
+    const TagNode* tagged = tagOf(m_pages[std::size_t(page)]);
+    return tagged ? tagged->tag() : page;
+}
+
+// --- Layout
+
+geometry::Size TabViewNode::measure(const geometry::ProposedSize& proposal) {
+    geometry::Size ideal;
+    if (!proposal.width || !proposal.height) {
+        for (Node* page : m_pages) {
+            const geometry::Size size = page->sizeThatFits(proposal);
+            ideal = {std::max(ideal.width, size.width), std::max(ideal.height, size.height)};
+        }
+    }
+    return proposal.orReplacing(ideal);
+}
+
+void TabViewNode::layOut(const geometry::ProposedSize&, geometry::Size size) {
+    m_position.setPages(int(m_pages.size()), size.width, host().now_s());
+    for (std::size_t page = 0; page < m_pages.size(); ++page) {
+        const geometry::Size shown = m_pages[page]->sizeThatFits(size);
+        placeChild(*m_pages[page], {size.width * double(page) + (size.width - shown.width) / 2, (size.height - shown.height) / 2}, size);
+    }
+    settleTransparentChildren(size);
+}
+
+// --- Touches
+
+void TabViewNode::beginDragging(double finger, double now_s) {
+    stopWaiting();
+    m_position.beginTracking(finger, now_s);
+    setNeedsDisplay();
+}
+
+void TabViewNode::touchMoved(const TouchEvent& event) {
+    if (!m_position.isTracking()) {
+        if (const auto origin = dragOrigin(Axis::horizontal, event)) beginDragging(fingerAt(*origin), event.time_s);
+    }
+    if (!m_position.isTracking()) return;
+    m_position.track(fingerAt(event.location.x), event.time_s);
+    setNeedsDisplay();
+    host().setNeedsAppearanceUpdate();
+}
+
+void TabViewNode::touchEnded(const TouchEvent& event) { letGo(event.time_s); }
+
+void TabViewNode::letGo(double now_s) {
+    m_isHeld = false;
+    if (!m_position.isTracking()) return;
+    const int page = m_position.pageForLift(now_s);
+    const Binding<int> selection = *m_selection;
+    if (selection.get() != tagOfPage(page)) withAnimation([&] { selection.set(tagOfPage(page)); });
+    // Whoever owns the selection may have chosen otherwise.
+    m_position.settle(selectedPage(), now_s);
+    noteMoving();
+}
+
+void TabViewNode::noteMoving() {
+    setNeedsDisplay();
+    host().setNeedsAppearanceUpdate();
+    stopWaiting();
+    const double now_s = host().now_s();
+    if (!m_position.isMovingAt(now_s)) return;
+    host().noteAnimation(m_position.end_s());
+    m_arrival = runloop::MainRunLoop::main().schedule(m_position.end_s() - now_s, [this] { host().setNeedsAppearanceUpdate(); });
+}
+
+void TabViewNode::stopWaiting() {
+    if (m_arrival) m_arrival->invalidate();
+    m_arrival = nullptr;
+}
+
+} // namespace
+
+Element* TabView::makeElement() && { return newElement<TabViewNode>(std::move(*this)); }
+
+View TagModifier::modified(View content) && { return newModifier<TagNode>(std::move(*this), content); }
+
+} // namespace swiftui
