@@ -20,10 +20,11 @@ const FontFace& registerFontFace(std::string_view name, std::string_view family,
 const FontFace* findFontFace(std::string_view name);
 
 struct Font {
-    const FontFace* face = nullptr; // null means the system's default face
-    double size = 0;                // points
-    std::string_view name;          // the design system's name of the font or text style; lives as long as the process
-    std::optional<int> weightOption; // the default font's weight option
+    const FontFace* face = nullptr;    // null means the system's default face
+    double size = 0;                   // points
+    std::string_view name;             // the design system's name of the font or text style; lives as long as the process
+    std::optional<int> weightOption;   // the default font's weight option
+    bool scalesWithContentSize = true; // follows the size of texts that the person has chosen
 
     bool operator==(const Font&) const = default;
 };

@@ -35,14 +35,14 @@ public:
     // When the target is reached; in the past when nothing moves.
     double end_s() const { return m_end_s; }
 
-    // `animation` null: at once.
+    // `animation` null: at once. The target that is there already changes nothing, also while it is being moved to.
     void set(Value target, const motion::Animation* animation, double now_s) {
+        if (target == m_to) return;
         if (!animation) {
             m_to = std::move(target);
             m_end_s = atRest;
             return;
         }
-        if (target == m_to) return;
         m_from = valueAt(now_s);
         m_to = std::move(target);
         m_animation = *animation;

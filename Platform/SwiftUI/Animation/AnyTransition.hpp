@@ -17,17 +17,18 @@ namespace swiftui {
 struct TransitionEffect {
     double opacity = 1;
     double scale = 1;
-    geometry::Point offset; // x from the left
+    geometry::Point offset; // x follows the layout direction
     std::optional<Shape> clip;
 };
 
 // What happens between absent and present. Has an effect for each `presence` from 0 (absent) to 1 (present).
 class AnyTransition {
 public:
-    using Effect = void (*)(const Shape* active, const Shape* identity, Edge edge, geometry::Size size, double presence, TransitionEffect&);
+    struct Part;
+    using Effect = void (*)(const Part& part, geometry::Size size, double presence, TransitionEffect& effect);
 
     // Comes and goes at once.
-    static AnyTransition identity() { return {}; }
+    static AnyTransition identity();
     static AnyTransition opacity();
     static AnyTransition scale();
     // From and to the edge, by the view's own size.
@@ -59,8 +60,8 @@ public:
         std::optional<motion::Animation> animation;
 
         void apply(double presence, geometry::Size size, TransitionEffect& effect) const;
-        // Whether nothing but opacity changes, so that it stays when motion is to be reduced.
-        bool onlyFades() const;
+        // Whether opacity is part of it, which stays when motion is to be reduced.
+        bool fades() const;
     };
     const Way& insertion() const { return m_ways->insertion; }
     const Way& removal() const { return m_ways->removal; }

@@ -22,11 +22,13 @@ public:
 
     bool isAbsent() const override { return !onlyChild() || onlyChild()->isAbsent(); }
     bool isTransparent() const override { return onlyChild() && onlyChild()->isTransparent(); }
+    bool sharesStackAxis() const override { return true; }
     double layoutPriority() const override { return onlyChild() ? onlyChild()->layoutPriority() : 0; }
     double firstBaseline(const geometry::ProposedSize& proposal) override;
     LengthRange lengthRange(Axis axis, std::optional<double> crossProposal) override;
 
 protected:
+    bool passesTransitionsOn() const override { return true; }
     virtual View evaluate(BuildContext& context) = 0;
     geometry::Size measure(const geometry::ProposedSize& proposal) override;
     void layOut(const geometry::ProposedSize& proposal, geometry::Size size) override;
@@ -40,6 +42,7 @@ private:
     };
 
     void observe(combine::ObservableObject& object);
+    void own(StateSlotBase& state) { state.m_owner = this; }
 
     std::vector<std::shared_ptr<StateSlotBase>> m_states;
     std::vector<Observation> m_observations;

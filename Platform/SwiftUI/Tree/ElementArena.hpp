@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -27,6 +28,7 @@ public:
     }
     // Room for trivially destructible things.
     void* allocate(std::size_t size, std::size_t alignment);
+    std::string_view copy(std::string_view text);
 
     // Changes whenever everything in the arena has been destroyed.
     unsigned generation() const { return m_generation; }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -22,6 +23,7 @@ struct Key {
     Key(const std::string& value) : text(value), kind(2) {}
 
     bool isNone() const { return kind == 0; }
+    std::size_t hash() const { return std::hash<std::string_view>{}(text) ^ std::hash<std::int64_t>{}(number); }
     bool operator==(const Key&) const = default;
 };
 

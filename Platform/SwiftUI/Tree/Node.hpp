@@ -153,6 +153,8 @@ public:
     virtual double firstBaseline(const geometry::ProposedSize& proposal);
     // The axis along which spacers inside stretch; absent where the node has no say.
     virtual std::optional<Axis> stackAxis() const { return std::nullopt; }
+    // Whether spacers inside may look further out for it: modifiers, groups and composites, but not layered stacks.
+    virtual bool sharesStackAxis() const { return isTransparent(); }
     // Stretches to take the room that is left over, and is nothing by itself.
     virtual bool isSpacer() const { return false; }
     // The nodes that a container lays out: children, seen through groups and loops, absent ones left out.
@@ -182,6 +184,8 @@ protected:
     virtual void paintOverlay(graphics::PaintContext&, const graphics::PaintState&, double now_s);
     // By how much the picture may reach past the frame on any side, children not counted.
     virtual double paintOutset() const { return 0; }
+    // Where the picture may be, given where it would be without the node's effects.
+    virtual geometry::Rect effectBounds(const geometry::Rect& bounds) const { return bounds; }
     // Whether the own frame stops touches (texts, images, filled shapes do; containers do not).
     virtual bool isHittable() const { return false; }
     // False: touches pass through everything inside.
@@ -195,10 +199,15 @@ protected:
     virtual void addAttributes(SemanticContext& context, const graphics::PaintState& state) const;
     // The slot that pending attributes and first baselines belong to, where children stand around a primary one.
     virtual std::size_t primarySlot() const { return 0; }
+    // The transition that the node is; and whether the only child's count as the node's own.
+    virtual TransitionNode* asTransition() { return nullptr; }
+    virtual bool passesTransitionsOn() const { return false; }
     // The node has come to a place where safe areas or the window's edges count.
     void setDependsOnPosition();
 
     // --- For subclasses to work with
+    // The semantic nodes of what is inside; `state` is the node's own, effects included.
+    void appendChildSemantics(SemanticContext& context, const graphics::PaintState& state, std::vector<accessibility::Node>& result);
     void updateChildren(const ViewList& views, UpdatePass& pass);
     void updateChild(std::size_t slot, const View& view, UpdatePass& pass);
     // By key: moved children keep their nodes. Keys that occur twice are told apart by their order.
@@ -207,14 +216,23 @@ protected:
     void placeChild(Node& child, geometry::Point leadingOrigin, const geometry::ProposedSize& proposal);
     // The same for nodes that stand under transparent ones. `width` is what x is mirrored in.
     void placeAt(Node& child, geometry::Point leadingOrigin, geometry::Size childSize, const geometry::ProposedSize& proposal);
+    // The first measuring since something inside has changed.
+    bool isFirstMeasure() const { return m_sizeCount == 0; }
+    // Gives the transparent and absent children the whole size, once those inside them have been placed.
+    void settleTransparentChildren(geometry::Size size);
+    // Whether a state or an observed object has changed, here or inside.
+    bool mustBuild() const { return m_mustBuild; }
     // Whether anything inherited differs from the last update.
     bool environmentChanged() const { return m_environmentChanged; }
+    // Slots in front come first in the list: backgrounds.
+    void setPaintsInReverse(bool paintsInReverse) { m_paintsInReverse = paintsInReverse; }
     // Calls `function(Node&)` for children and leaving nodes, back to front.
     template <class Function>
     void forEachPainted(Function&& function) const;
 
 private:
     friend class CompositeNode;
+    friend class RootNode;
     friend class TransitionNode;
     friend class ViewHost;
     template <class NodeType, class Value>
@@ -248,7 +266,10 @@ private:
     void animateFrameTo(const geometry::Rect& target);
     void updatePaintBounds();
     Node* firstHandlerNode();
-    bool hasLayoutChanged(const geometry::ProposedSize& proposal, geometry::Size size) const;
+    void removeLeaving(Node* node);
+    // Every size asked before, here and inside.
+    void dropSizes();
+    bool hasLeft() const;
 
     Node* m_parent = nullptr;
     ViewHost* m_host = nullptr;
@@ -269,28 +290,32 @@ private:
     StoredKey m_key;
     std::optional<motion::Animation> m_buildAnimation; // of the changes that made it need a build
 
+    unsigned m_invalidation = 0; // the host's layout count at which it and everything further out was told to be laid out again
+
     bool m_isNew = true;
     bool m_environmentChanged = true;
     bool m_needsBuild = false;
+    bool m_mustBuild = false; // during its update: something here or inside has changed
     bool m_hasDirtyDescendant = false;
     bool m_needsLayout = true;
     bool m_hasBeenPlaced = false;
+    bool m_paintsInReverse = false;
+    bool m_isLeaving = false; // it has left the tree, though it may still be seen
     bool m_dependsOnPosition = false; // itself or something inside
 };
 
 template <class Function>
 void Node::forEachPainted(Function&& function) const {
-    if (!m_leaving || m_leaving->empty()) {
-        for (const auto& child : m_children)
-            if (child) function(*child);
-        return;
-    }
-    // A leaving node stands right behind what took its slot.
-    for (std::size_t slot = 0; slot < m_children.size(); ++slot) {
-        for (const Leaving& leaving : *m_leaving)
-            if (leaving.slot == slot) function(*leaving.node);
+    const bool someLeave = m_leaving && !m_leaving->empty();
+    for (std::size_t i = 0; i < m_children.size(); ++i) {
+        const std::size_t slot = m_paintsInReverse ? m_children.size() - 1 - i : i;
+        // A leaving node stands right behind what took its slot.
+        if (someLeave)
+            for (const Leaving& leaving : *m_leaving)
+                if (leaving.slot == slot) function(*leaving.node);
         if (m_children[slot]) function(*m_children[slot]);
     }
+    if (!someLeave) return;
     for (const Leaving& leaving : *m_leaving)
         if (leaving.slot >= m_children.size()) function(*leaving.node);
 }
@@ -301,7 +326,10 @@ public:
     bool isAbsent() const override { return !onlyChild() || onlyChild()->isAbsent(); }
     double layoutPriority() const override { return onlyChild() ? onlyChild()->layoutPriority() : 0; }
     double firstBaseline(const geometry::ProposedSize& proposal) override;
+    // The child's: a modifier that changes sizes overrides it, if only with Node's.
     LengthRange lengthRange(Axis axis, std::optional<double> crossProposal) override;
+    bool passesTransitionsOn() const override { return true; }
+    bool sharesStackAxis() const override { return true; }
 
     // Updates the child; a modifier that changes the environment overrides it.
     virtual void adoptContent(const View& content, UpdatePass& pass) { updateChild(0, content, pass); }

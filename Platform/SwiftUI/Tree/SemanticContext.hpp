@@ -19,7 +19,7 @@ struct SemanticAttributes {
     accessibility::Traits traits = accessibility::Traits::none;
     bool isHidden = false;
     std::optional<geometry::Rect> frame;           // in window points; the identified frame
-    bool frameIsIdentifieds = false;               // set with an identifier, so that no label replaces it
+    bool isFrameIdentified = false;                // set with an identifier, so that no label replaces it
     std::optional<double> scale;
     std::optional<double> rotation_degrees;
     std::optional<geometry::Rect> clip;

@@ -67,6 +67,14 @@ public:
         requires(!std::same_as<std::remove_cvref_t<Value>, ViewList> && std::convertible_to<Value, View>)
     ViewList(Value&& view) : ViewList({View(std::forward<Value>(view))}) {}
 
+    // Views that are in the arena already.
+    static ViewList adopting(const View* views, std::size_t count) {
+        ViewList list;
+        list.m_views = views;
+        list.m_count = count;
+        return list;
+    }
+
     const View* begin() const { return m_views; }
     const View* end() const { return m_views + m_count; }
     std::size_t size() const { return m_count; }

@@ -17,8 +17,9 @@
 
 namespace swiftui {
 
-class RootNode;
+class AppearanceObserver;
 class PostLayoutObserver;
+class RootNode;
 
 // All changes of a turn of the run loop become one update at its end. Nothing is built before the first size, sizeThatFits or update.
 class ViewHost final : public runloop::UpdateClient, public std::enable_shared_from_this<ViewHost> {
@@ -78,6 +79,8 @@ public:
     bool hits(geometry::Point location);
     bool scroll(geometry::Point location, geometry::Point delta) { return m_touches.scroll(location, delta); }
     TouchDispatcher& touches() { return m_touches; }
+    // What a touch at the place would hit; null for nothing. Brings the tree up to date.
+    Node* nodeAt(geometry::Point location);
 
     // --- For nodes
     double now_s() const { return runloop::MainRunLoop::main().now_s(); }
@@ -99,14 +102,21 @@ private:
     friend class CompositeNode;
     friend class PostLayoutObserver;
     friend class AppearanceObserver;
+    friend class TouchDispatcher;
 
     explicit ViewHost(std::function<View()> root);
     void requestUpdate();
+    void bringUpToDate();
     void build();
     void layOutContent();
     bool runObservers();
     bool updateAppearances();
-    void nodeGone(Node& node);
+    // The node has left the tree; it is destroyed when the handlers of this update have run.
+    void departed(std::unique_ptr<Node> node);
+    // The node has left the tree and can still be seen.
+    void noteLeaving(const Node&) { m_needsAppearanceUpdate = true; }
+    void setNeedsLayout();
+    bool isOnScreen(const Node& node) const;
 
     std::function<View()> m_root;
     std::unique_ptr<RootNode> m_rootNode;
@@ -118,10 +128,14 @@ private:
     std::function<void()> m_layoutHandler;
     std::vector<PostLayoutObserver*> m_observers;
     std::vector<PostLayoutObserver*> m_runningObservers;
-    std::vector<class AppearanceObserver*> m_appearances;
+    std::vector<AppearanceObserver*> m_appearances;
+    std::vector<AppearanceObserver*> m_changedAppearances;
+    std::vector<std::unique_ptr<Node>> m_departed;
     std::optional<motion::Animation> m_updateAnimation; // of the changes since the last layout
     const motion::Animation* m_layoutAnimation = nullptr;
     double m_animatingUntil_s = -1e300;
+    double m_paintedAt_s = -1e300;
+    unsigned m_layoutCount = 1;
     bool m_hasSize = false;
     bool m_isVisible = true;
     bool m_isUpdating = false;
@@ -130,7 +144,9 @@ private:
     bool m_needsDisplay = true;
     bool m_hasToldDisplay = false;
     bool m_needsAppearanceUpdate = true;
-    bool m_hasUpdateRequest = false;
+    bool m_hasResized = false;
+    bool m_listIsOwn = false; // m_displayList is what has been painted last
+    bool m_hasPositionChanged = false; // of something around the node being placed
 };
 
 // Something that waits for a layout to end: change and appearance handlers.

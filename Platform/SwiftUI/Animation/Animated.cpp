@@ -1,0 +1,25 @@
+#include "Platform/SwiftUI/Animation/Animated.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace swiftui {
+
+namespace {
+
+std::uint8_t mixed(std::uint8_t from, std::uint8_t to, double progress) {
+    return std::uint8_t(std::clamp(std::lround(interpolated(double(from), double(to), progress)), 0L, 255L));
+}
+
+graphics::RGBA mixed(graphics::RGBA from, graphics::RGBA to, double progress) {
+    return {mixed(from.red, to.red, progress), mixed(from.green, to.green, progress), mixed(from.blue, to.blue, progress),
+            mixed(from.alpha, to.alpha, progress)};
+}
+
+} // namespace
+
+graphics::Color interpolated(const graphics::Color& from, const graphics::Color& to, double progress) {
+    return {to.name, mixed(from.light, to.light, progress), mixed(from.dark, to.dark, progress)};
+}
+
+} // namespace swiftui

@@ -1,0 +1,41 @@
+#include "Platform/SwiftUI/Modifiers/AccessibilityModifiers.hpp"
+
+#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/SemanticContext.hpp"
+
+namespace swiftui {
+
+namespace {
+
+class AccessibilityNode final : public ModifierNode {
+public:
+    void adopt(AccessibilityModifier&& modifier, UpdatePass&) {
+        if (!(modifier == m_modifier)) m_modifier = std::move(modifier);
+    }
+
+protected:
+    void addAttributes(SemanticContext& context, const graphics::PaintState& state) const override {
+        SemanticAttributes& pending = context.pending;
+        const geometry::Rect inWindow = state.toWindow({{}, presentationFrame(context.now_s).size});
+        const bool identifies = !m_modifier.identifier.empty() && pending.identifier.empty();
+        // Further out has been before: it stays, unless its frame goes with less than an identifier.
+        if (!pending.frame || (identifies && !pending.isFrameIdentified)) {
+            pending.frame = inWindow;
+            pending.isFrameIdentified = identifies;
+        }
+        if (identifies) pending.identifier = m_modifier.identifier;
+        if (pending.label.empty()) pending.label = m_modifier.label;
+        if (pending.value.empty()) pending.value = m_modifier.value;
+        pending.traits = pending.traits | m_modifier.traits;
+        if (m_modifier.isHidden) pending.isHidden = true;
+    }
+
+private:
+    AccessibilityModifier m_modifier;
+};
+
+} // namespace
+
+View AccessibilityModifier::modified(View content) && { return newModifier<AccessibilityNode>(std::move(*this), content); }
+
+} // namespace swiftui

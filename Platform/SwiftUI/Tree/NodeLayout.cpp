@@ -1,0 +1,157 @@
+// Sizes and places.
+#include <cmath>
+
+#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ViewHost.hpp"
+
+namespace swiftui {
+
+using geometry::Point;
+using geometry::ProposedSize;
+using geometry::Rect;
+using geometry::Size;
+
+namespace {
+
+// Whatever a measure makes of odd input, nothing around it has to cope with.
+double soundLength(double length, const std::optional<double>& proposed) {
+    if (!(length > 0)) return 0;
+    if (std::isinf(length) && !(proposed && std::isinf(*proposed))) return 0;
+    return length;
+}
+
+double finiteLength(double length) { return std::isfinite(length) ? length : 0; }
+
+// An infinite room is a room of unknown size when it comes to placing something in it.
+ProposedSize finiteProposal(ProposedSize proposal) {
+    if (proposal.width && !std::isfinite(*proposal.width)) proposal.width.reset();
+    if (proposal.height && !std::isfinite(*proposal.height)) proposal.height.reset();
+    return proposal;
+}
+
+} // namespace
+
+Size Node::sizeThatFits(const ProposedSize& proposal) {
+    for (std::uint8_t i = 0; i < m_sizeCount; ++i)
+        if (m_sizes[i].proposal == proposal) return m_sizes[i].size;
+    Size size = measure(proposal);
+    size = {soundLength(size.width, proposal.width), soundLength(size.height, proposal.height)};
+    constexpr std::uint8_t capacity = std::size(decltype(m_sizes){});
+    if (m_sizeCount == 0) m_nextSize = 0;
+    m_sizes[m_nextSize] = {proposal, size};
+    m_nextSize = std::uint8_t((m_nextSize + 1) % capacity);
+    if (m_sizeCount < capacity) ++m_sizeCount;
+    return size;
+}
+
+void Node::place(Point origin, const ProposedSize& proposed) {
+    const ProposedSize proposal = finiteProposal(proposed);
+    const Size fitting = sizeThatFits(proposal);
+    const Rect target{{finiteLength(origin.x), finiteLength(origin.y)}, {finiteLength(fitting.width), finiteLength(fitting.height)}};
+    const bool hasMoved = m_frame.origin != target.origin || !m_hasBeenPlaced;
+    const bool isOutdated = m_needsLayout || !m_hasBeenPlaced || m_frame.size != target.size || m_placedProposal != proposal ||
+                            (m_dependsOnPosition && (hasMoved || m_host->m_hasPositionChanged));
+    if (!(m_frame == target)) animateFrameTo(target);
+    m_frame = target;
+    if (!isOutdated) return;
+
+    m_hasBeenPlaced = true;
+    m_placedProposal = proposal;
+    const bool hadPositionChanged = std::exchange(m_host->m_hasPositionChanged, m_host->m_hasPositionChanged || hasMoved);
+    layOut(proposal, target.size);
+    m_host->m_hasPositionChanged = hadPositionChanged;
+    m_needsLayout = false;
+    updatePaintBounds();
+}
+
+void Node::animateFrameTo(const Rect& target) {
+    const motion::Animation* animation = m_host->m_layoutAnimation;
+    if (!animation || !m_hasBeenPlaced || environment().reduceMotion) {
+        m_frameAnimation.reset();
+        return;
+    }
+    const double now_s = m_host->now_s();
+    if (!m_frameAnimation) m_frameAnimation = std::make_unique<Animated<Rect>>(m_frame);
+    m_frameAnimation->set(target, animation, now_s);
+    m_host->noteAnimation(m_frameAnimation->end_s());
+}
+
+void Node::moveTo(Point origin) {
+    m_frame.origin = origin;
+    m_frameAnimation.reset();
+}
+
+Rect Node::presentationFrame(double now_s) const { return m_frameAnimation ? m_frameAnimation->valueAt(now_s) : m_frame; }
+
+Rect Node::frameInHost(double now_s) const {
+    Rect rect = presentationFrame(now_s);
+    for (const Node* outer = m_parent; outer; outer = outer->m_parent)
+        rect = rect.offsetBy(outer->presentationFrame(now_s).origin + outer->contentTranslation(now_s));
+    return rect;
+}
+
+LengthRange Node::lengthRange(Axis axis, std::optional<double> cross) {
+    if (axis == Axis::horizontal)
+        return {sizeThatFits({0.0, cross}).width, sizeThatFits({geometry::infinity, cross}).width};
+    return {sizeThatFits({cross, 0.0}).height, sizeThatFits({cross, geometry::infinity}).height};
+}
+
+double Node::firstBaseline(const ProposedSize& proposal) { return sizeThatFits(proposal).height; }
+
+Size Node::measure(const ProposedSize& proposal) {
+    Size result;
+    for (const auto& child : m_children) {
+        if (!child || child->isAbsent()) continue;
+        const Size size = child->sizeThatFits(proposal);
+        result = {std::max(result.width, size.width), std::max(result.height, size.height)};
+    }
+    return result;
+}
+
+void Node::layOut(const ProposedSize& proposal, Size) {
+    for (const auto& child : m_children)
+        if (child && !child->isAbsent()) placeChild(*child, {}, proposal);
+}
+
+void Node::placeChild(Node& child, Point leadingOrigin, const ProposedSize& proposal) {
+    placeAt(child, leadingOrigin, environment().isRightToLeft() ? child.sizeThatFits(finiteProposal(proposal)) : Size{}, proposal);
+}
+
+void Node::placeAt(Node& child, Point leadingOrigin, Size childSize, const ProposedSize& proposal) {
+    if (environment().isRightToLeft()) leadingOrigin.x = m_frame.size.width - leadingOrigin.x - childSize.width;
+    child.place(leadingOrigin, proposal);
+}
+
+void Node::settleTransparentChildren(Size size) {
+    for (const auto& child : m_children) {
+        if (!child || !child->isTransparent() || child->isAbsent()) continue;
+        child->m_frame = {{}, size};
+        child->m_frameAnimation.reset();
+        child->m_hasBeenPlaced = true;
+        child->m_needsLayout = false;
+        child->settleTransparentChildren(size);
+        child->updatePaintBounds();
+    }
+}
+
+void Node::updatePaintBounds() {
+    const double outset = paintOutset();
+    Rect bounds = Rect{{}, m_frame.size}.insetBy(-outset, -outset);
+    forEachPainted([&](const Node& child) { bounds = bounds.united(child.m_paintBounds.offsetBy(child.m_frame.origin)); });
+    m_paintBounds = effectBounds(bounds);
+}
+
+Size ModifierNode::measure(const ProposedSize& proposal) { return onlyChild() ? onlyChild()->sizeThatFits(proposal) : Size{}; }
+
+void ModifierNode::layOut(const ProposedSize& proposal, Size) {
+    if (!onlyChild() || onlyChild()->isAbsent()) return;
+    onlyChild()->place({}, proposal);
+}
+
+double ModifierNode::firstBaseline(const ProposedSize& proposal) { return onlyChild() ? onlyChild()->firstBaseline(proposal) : 0; }
+
+LengthRange ModifierNode::lengthRange(Axis axis, std::optional<double> cross) {
+    return onlyChild() ? onlyChild()->lengthRange(axis, cross) : LengthRange{};
+}
+
+} // namespace swiftui

@@ -1,0 +1,78 @@
+// The picture, and what is where in it.
+#include "Platform/SwiftUI/Tree/GestureHandler.hpp"
+#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ViewHost.hpp"
+
+namespace swiftui {
+
+using geometry::Point;
+using geometry::Rect;
+using graphics::PaintState;
+
+namespace {
+
+// Views fainter than this take no touches.
+constexpr double touchableOpacity = 0.01;
+
+// The state for a node's own coordinates, its effects included.
+PaintState stateInside(const Node& node, const PaintState& parentState, double now_s) {
+    PaintState state = parentState.movedBy(node.presentationFrame(now_s).origin);
+    state.scheme = node.environment().colorScheme;
+    node.applyEffects(state, now_s);
+    return state;
+}
+
+PaintState stateOfContent(const Node& node, const PaintState& state, double now_s) {
+    return state.movedBy(node.contentTranslation(now_s));
+}
+
+} // namespace
+
+void Node::paint(graphics::PaintContext& context, const PaintState& parentState, double now_s) {
+    // While things move they may be outside of where they will be in the end.
+    if (!m_host->isAnimating() && parentState.hides(m_paintBounds.offsetBy(m_frame.origin))) return;
+    const PaintState state = stateInside(*this, parentState, now_s);
+    if (!(state.opacity > 0)) return;
+    paintContent(context, state, now_s);
+    if (!m_children.empty() || m_leaving) {
+        const Point translation = contentTranslation(now_s);
+        if (translation == Point{}) {
+            forEachPainted([&](Node& child) { child.paint(context, state, now_s); });
+        } else {
+            const PaintState inner = state.movedBy(translation);
+            forEachPainted([&](Node& child) { child.paint(context, inner, now_s); });
+        }
+    }
+    paintOverlay(context, state, now_s);
+}
+
+void Node::applyEffects(PaintState&, double) const {}
+Point Node::contentTranslation(double) const { return {}; }
+void Node::paintContent(graphics::PaintContext&, const PaintState&, double) {}
+void Node::paintOverlay(graphics::PaintContext&, const PaintState&, double) {}
+
+Node* Node::hitTest(Point inWindow, const PaintState& parentState, double now_s) {
+    if (!allowsHitTesting()) return nullptr;
+    const PaintState state = stateInside(*this, parentState, now_s);
+    if (state.opacity < touchableOpacity || !state.clip.contains(inWindow)) return nullptr;
+    const PaintState inner = stateOfContent(*this, state, now_s);
+    for (std::size_t i = 0; i < m_children.size(); ++i) {
+        Node* child = m_children[m_paintsInReverse ? i : m_children.size() - 1 - i].get();
+        if (Node* hit = child ? child->hitTest(inWindow, inner, now_s) : nullptr) return hit;
+    }
+    const Point local = state.transform.inverted().apply(inWindow) - state.origin;
+    if (!Rect{{}, presentationFrame(now_s).size}.contains(local)) return nullptr;
+    if (isHittable() || gestureHandler()) return this;
+    return forwardsTouches() ? firstHandlerNode() : nullptr;
+}
+
+Node* Node::firstHandlerNode() {
+    if (!allowsHitTesting()) return nullptr;
+    if (gestureHandler()) return this;
+    for (const auto& child : m_children)
+        if (child)
+            if (Node* found = child->firstHandlerNode()) return found;
+    return nullptr;
+}
+
+} // namespace swiftui

@@ -1,0 +1,93 @@
+// The semantic tree.
+#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/SemanticContext.hpp"
+#include "Platform/SwiftUI/Tree/ViewHost.hpp"
+
+namespace swiftui {
+
+using geometry::Rect;
+using graphics::PaintState;
+
+namespace {
+
+// A view that is on its way out is still seen, but it is nobody's any more.
+void makeUnreachable(accessibility::Node& node) {
+    node.identifier.clear();
+    node.isControl = false;
+    node.activate = nullptr;
+    node.reveal = nullptr;
+    for (accessibility::Node& child : node.children) makeUnreachable(child);
+}
+
+Rect unionOfFrames(const std::vector<accessibility::Node>& nodes) {
+    Rect result;
+    for (const accessibility::Node& node : nodes) result = result.united(node.frame);
+    return result;
+}
+
+} // namespace
+
+accessibility::Node SemanticContext::makeNode(std::string_view type, const PaintState& state, const Rect& frame) {
+    SemanticAttributes attributes = std::move(pending);
+    pending = {};
+    accessibility::Node node;
+    node.type = type;
+    node.frame = attributes.frame.value_or(state.toWindow(frame));
+    node.isOnScreen = state.opacity > 0 && node.frame.intersection(state.clip).intersects(window);
+    node.identifier = std::move(attributes.identifier);
+    node.label = std::move(attributes.label);
+    node.value = std::move(attributes.value);
+    node.traits = attributes.traits;
+    node.opacity = state.opacity;
+    node.scale = attributes.scale;
+    node.rotation_degrees = attributes.rotation_degrees;
+    node.clip = attributes.clip;
+    if (reveal) node.reveal = [reveal = reveal, target = node.frame] { reveal(target); };
+    return node;
+}
+
+void Node::appendSemantics(SemanticContext& context, const PaintState& parentState, std::vector<accessibility::Node>& result) {
+    const double now_s = context.now_s;
+    const Rect frame = presentationFrame(now_s);
+    PaintState state = parentState.movedBy(frame.origin);
+    state.scheme = environment().colorScheme;
+    addAttributes(context, state);
+    if (context.pending.isHidden) {
+        context.pending = {};
+        return;
+    }
+    applyEffects(state, now_s);
+    const std::string_view type = semanticType();
+    if (type.empty()) {
+        appendChildSemantics(context, state, result);
+        context.pending = {};
+        return;
+    }
+    accessibility::Node node = context.makeNode(type, state, {{}, frame.size});
+    const bool takesFrameFromChildren = isTransparent();
+    describe(node, state, now_s);
+    appendChildSemantics(context, state, node.children);
+    context.pending = {};
+    if (takesFrameFromChildren) node.frame = unionOfFrames(node.children);
+    result.push_back(std::move(node));
+}
+
+void Node::appendChildSemantics(SemanticContext& context, const PaintState& state, std::vector<accessibility::Node>& result) {
+    const PaintState inner = state.movedBy(contentTranslation(context.now_s));
+    const Node* primary = primarySlot() < m_children.size() ? m_children[primarySlot()].get() : nullptr;
+    SemanticAttributes own = std::move(context.pending);
+    context.pending = {};
+    forEachPainted([&](Node& child) {
+        if (&child == primary) context.pending = std::move(own);
+        const std::size_t first = result.size();
+        child.appendSemantics(context, inner, result);
+        context.pending = {};
+        if (child.m_isLeaving)
+            for (std::size_t i = first; i < result.size(); ++i) makeUnreachable(result[i]);
+    });
+}
+
+void Node::describe(accessibility::Node&, const PaintState&, double) const {}
+void Node::addAttributes(SemanticContext&, const PaintState&) const {}
+
+} // namespace swiftui

@@ -1,0 +1,22 @@
+#include "Platform/SwiftUI/Tree/View.hpp"
+
+#include <algorithm>
+
+#include "Platform/Commons/FatalError.hpp"
+
+namespace swiftui {
+
+Element* View::element() const {
+    if (m_element && m_generation != ElementArena::current().generation())
+        commons::fatalError("A View was used after the build in which it was made");
+    return m_element;
+}
+
+ViewList::ViewList(const View* views, std::size_t count) : m_count(count) {
+    if (count == 0) return;
+    auto* copies = static_cast<View*>(ElementArena::current().allocate(count * sizeof(View), alignof(View)));
+    std::uninitialized_copy_n(views, count, copies);
+    m_views = copies;
+}
+
+} // namespace swiftui

@@ -1,0 +1,200 @@
+// How a host brings its tree up to date.
+#include <algorithm>
+#include <cmath>
+
+#include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/SwiftUI/Layout/Alignment.hpp"
+#include "Platform/SwiftUI/Tree/RootNode.hpp"
+#include "Platform/SwiftUI/Tree/ViewHost.hpp"
+
+namespace swiftui {
+
+using geometry::ProposedSize;
+using geometry::Rect;
+using geometry::Size;
+
+namespace {
+
+// Handlers that keep changing what they watch would never end.
+constexpr int maximumPassCount = 32;
+
+} // namespace
+
+void ViewHost::update() {
+    if (m_isUpdating) return;
+    bringUpToDate();
+    if (m_needsDisplay && !m_hasToldDisplay) {
+        m_hasToldDisplay = true;
+        if (m_needsDisplayHandler) m_needsDisplayHandler();
+    }
+}
+
+void ViewHost::bringUpToDate() {
+    if (!m_needsBuild && !m_needsLayout && !m_needsAppearanceUpdate && m_observers.empty()) return;
+    const auto self = weak_from_this().lock(); // a handler may let go of the host
+    m_isUpdating = true;
+    bool hasLaidOut = false;
+    int pass = 0;
+    for (; pass < maximumPassCount; ++pass) {
+        const ElementArena::Build scope;
+        if (m_needsBuild) build();
+        if (m_needsLayout && m_hasSize) {
+            layOutContent();
+            hasLaidOut = true;
+        }
+        const bool hasAppeared = updateAppearances();
+        const bool hasRun = runObservers();
+        m_departed.clear();
+        const bool isDone = !m_needsBuild && !(m_needsLayout && m_hasSize) && !m_needsAppearanceUpdate && m_observers.empty();
+        if (isDone || (!hasAppeared && !hasRun && !m_needsBuild && !m_needsLayout)) break;
+    }
+    m_updateAnimation.reset();
+    m_isUpdating = false;
+    if (pass == maximumPassCount)
+        commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity,
+                                             "Views keep changing in answer to their own changes; the rest is left for the next update",
+                                             "ViewHost.update()");
+    if (hasLaidOut && m_layoutHandler) m_layoutHandler();
+}
+
+void ViewHost::build() {
+    m_needsBuild = false;
+    UpdatePass pass{*this, &m_environment, nullptr, now_s()};
+    m_rootNode->build(m_root ? m_root() : View{}, pass);
+    m_needsAppearanceUpdate = true;
+}
+
+void ViewHost::layOutContent() {
+    m_needsLayout = false;
+    m_layoutAnimation = m_updateAnimation ? &*m_updateAnimation : nullptr;
+    m_hasPositionChanged = std::exchange(m_hasResized, false);
+    m_rootNode->layOutIn(m_size);
+    m_hasPositionChanged = false;
+    m_layoutAnimation = nullptr;
+    m_updateAnimation.reset();
+    ++m_layoutCount;
+    m_needsLayout = false; // geometry readers have built what they have laid out themselves
+    m_needsDisplay = true;
+    m_needsAppearanceUpdate = true;
+}
+
+void ViewHost::dropCaches() {
+    m_environment.version = EnvironmentValues::nextVersion();
+    m_rootNode->dropSizes();
+    m_needsBuild = true;
+    m_listIsOwn = false;
+    setNeedsLayout();
+}
+
+void ViewHost::addPostLayoutObserver(PostLayoutObserver& observer) {
+    observer.m_observedHost = this;
+    if (std::find(m_observers.begin(), m_observers.end(), &observer) == m_observers.end()) m_observers.push_back(&observer);
+    requestUpdate();
+}
+
+bool ViewHost::runObservers() {
+    if (m_observers.empty()) return false;
+    std::swap(m_observers, m_runningObservers);
+    // By index, because an observer that goes away leaves a null in its place.
+    for (std::size_t i = 0; i < m_runningObservers.size(); ++i)
+        if (m_runningObservers[i]) m_runningObservers[i]->afterLayout();
+    m_runningObservers.clear();
+    return true;
+}
+
+PostLayoutObserver::~PostLayoutObserver() {
+    if (!m_observedHost) return;
+    std::erase(m_observedHost->m_observers, this);
+    std::replace(m_observedHost->m_runningObservers.begin(), m_observedHost->m_runningObservers.end(), this,
+                 static_cast<PostLayoutObserver*>(nullptr));
+}
+
+void AppearanceObserver::observeAppearance(ViewHost& host) {
+    m_appearanceHost = &host;
+    host.m_appearances.push_back(this);
+}
+
+AppearanceObserver::~AppearanceObserver() {
+    if (!m_appearanceHost) return;
+    std::erase(m_appearanceHost->m_appearances, this);
+    auto& changed = m_appearanceHost->m_changedAppearances;
+    std::replace(changed.begin(), changed.end(), this, static_cast<AppearanceObserver*>(nullptr));
+}
+
+bool ViewHost::updateAppearances() {
+    m_needsAppearanceUpdate = false;
+    if (m_appearances.empty()) return false;
+    const auto changedTo = [this](bool shown) {
+        m_changedAppearances.clear();
+        for (AppearanceObserver* observer : m_appearances)
+            if (observer->m_hasAppeared != shown && (m_isVisible && m_hasSize && isOnScreen(observer->observedNode())) == shown)
+                m_changedAppearances.push_back(observer);
+        const bool hasChanged = !m_changedAppearances.empty();
+        for (std::size_t i = 0; i < m_changedAppearances.size(); ++i) {
+            AppearanceObserver* observer = m_changedAppearances[i];
+            if (!observer) continue;
+            observer->m_hasAppeared = shown;
+            observer->appearanceChanged(shown);
+        }
+        m_changedAppearances.clear();
+        return hasChanged;
+    };
+    const bool hasLeft = changedTo(false);
+    const bool hasCome = changedTo(true);
+    return hasLeft || hasCome;
+}
+
+bool ViewHost::isOnScreen(const Node& node) const {
+    if (node.hasLeft()) return false;
+    const double now = now_s();
+    Rect rect = node.frame();
+    for (const Node* outer = node.parent(); outer; outer = outer->parent()) {
+        rect = rect.offsetBy(outer->contentTranslation(now));
+        if (const auto viewport = outer->viewport()) {
+            // A view without height or width is on screen where it would stand.
+            const bool isInside = rect.minX() <= viewport->maxX() && rect.maxX() >= viewport->minX() &&
+                                  rect.minY() < viewport->maxY() && (rect.maxY() > viewport->minY() || rect.minY() >= viewport->minY());
+            if (!isInside) return false;
+        }
+        rect = rect.offsetBy(outer->frame().origin);
+    }
+    return true;
+}
+
+void ViewHost::departed(std::unique_ptr<Node> node) {
+    m_departed.push_back(std::move(node));
+    setNeedsDisplay();
+    setNeedsAppearanceUpdate();
+}
+
+RootNode::RootNode(ViewHost& host) {
+    m_host = &host;
+    m_environment = &host.environment();
+}
+
+void RootNode::build(const View& root, UpdatePass& pass) {
+    const std::optional<motion::Animation> animation = std::exchange(m_buildAnimation, std::nullopt);
+    m_needsBuild = false;
+    m_hasDirtyDescendant = false;
+    UpdatePass own = pass.with(animation ? &*animation : pass.animation);
+    updateChild(0, root, own);
+    m_isNew = false;
+}
+
+void RootNode::layOutIn(Size size) { place({}, ProposedSize(size)); }
+
+Size RootNode::measure(const ProposedSize& proposal) {
+    return onlyChild() && !onlyChild()->isAbsent() ? onlyChild()->sizeThatFits(proposal) : Size{};
+}
+
+void RootNode::layOut(const ProposedSize&, Size) {
+    m_frame.size = host().size();
+    if (!onlyChild() || onlyChild()->isAbsent()) return;
+    const geometry::PhysicalInsets& insets = host().safeArea();
+    const Size whole = host().size();
+    const Size safe{std::max(0.0, whole.width - insets.left - insets.right), std::max(0.0, whole.height - insets.top - insets.bottom)};
+    const geometry::Point origin = alignedOrigin(onlyChild()->sizeThatFits(safe), safe, Alignment::center);
+    onlyChild()->place(origin + geometry::Point{insets.left, insets.top}, safe);
+}
+
+} // namespace swiftui

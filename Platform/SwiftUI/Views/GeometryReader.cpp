@@ -1,0 +1,55 @@
+#include "Platform/SwiftUI/Views/GeometryReader.hpp"
+
+#include "Platform/SwiftUI/Layout/SafeArea.hpp"
+#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ViewHost.hpp"
+
+namespace swiftui {
+
+namespace {
+
+constexpr double idealLength = 10;
+
+class GeometryReaderNode final : public Node {
+public:
+    void adopt(GeometryReader&& reader, UpdatePass& pass) {
+        m_content = std::move(reader.content);
+        if (isNew()) setDependsOnPosition();
+        // With the size of the last layout; should it change in the next one, the content is made once more.
+        else if (m_isSized) build(pass);
+    }
+
+protected:
+    std::string_view semanticType() const override { return "GeometryReader"; }
+
+    geometry::Size measure(const geometry::ProposedSize& proposal) override {
+        return proposal.orReplacing({idealLength, idealLength});
+    }
+
+    LengthRange lengthRange(Axis, std::optional<double>) override { return {0, geometry::infinity}; }
+
+    void layOut(const geometry::ProposedSize&, geometry::Size size) override {
+        const geometry::EdgeInsets insets = touchedSafeArea(*this);
+        if (!m_isSized || m_proxy.size != size || m_proxy.safeAreaInsets != insets) {
+            m_isSized = true;
+            m_proxy = {size, insets};
+            const ElementArena::Build scope;
+            UpdatePass pass{host(), &environment(), host().layoutAnimation(), host().now_s()};
+            build(pass);
+        }
+        if (onlyChild() && !onlyChild()->isAbsent()) placeChild(*onlyChild(), {}, size);
+    }
+
+private:
+    void build(UpdatePass& pass) { updateChild(0, m_content ? m_content(m_proxy) : View{}, pass); }
+
+    Callback<View(const GeometryProxy&)> m_content;
+    GeometryProxy m_proxy;
+    bool m_isSized = false;
+};
+
+} // namespace
+
+Element* GeometryReader::makeElement() && { return newElement<GeometryReaderNode>(std::move(*this)); }
+
+} // namespace swiftui

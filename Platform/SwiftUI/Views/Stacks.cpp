@@ -1,0 +1,124 @@
+#include "Platform/SwiftUI/Views/Stacks.hpp"
+
+#include "Platform/SwiftUI/Layout/StackNode.hpp"
+
+namespace swiftui {
+
+using geometry::ProposedSize;
+using geometry::Size;
+
+namespace {
+
+class HStackNode final : public StackNode {
+public:
+    HStackNode() : StackNode(Axis::horizontal) {}
+
+    void adopt(HStack&& stack, UpdatePass& pass) {
+        const bool alignsBaselines = stack.alignment == VerticalAlignment::firstTextBaseline;
+        adoptLayout(stack.spacing, alignsBaselines ? std::nullopt : std::optional(fraction(stack.alignment)));
+        updateChildren(stack.content, pass);
+    }
+
+protected:
+    std::string_view semanticType() const override { return "HStack"; }
+};
+
+class VStackNode final : public StackNode {
+public:
+    VStackNode() : StackNode(Axis::vertical) {}
+
+    void adopt(VStack&& stack, UpdatePass& pass) {
+        adoptLayout(stack.spacing, fraction(stack.alignment));
+        updateChildren(stack.content, pass);
+    }
+
+protected:
+    std::string_view semanticType() const override { return "VStack"; }
+};
+
+class GroupNode final : public TransparentNode {
+public:
+    void adopt(Group&& group, UpdatePass& pass) { updateChildren(group.content, pass); }
+};
+
+class ZStackNode final : public Node {
+public:
+    void adopt(ZStack&& stack, UpdatePass& pass) {
+        if (!isNew() && stack.alignment != m_alignment) invalidateLayout();
+        m_alignment = stack.alignment;
+        updateChildren(stack.content, pass);
+    }
+
+protected:
+    std::string_view semanticType() const override { return "ZStack"; }
+
+    Size measure(const ProposedSize& proposal) override {
+        if (isFirstMeasure()) {
+            m_nodes.clear();
+            collectLayoutChildren(m_nodes);
+        }
+        Size result;
+        for (Node* node : m_nodes) {
+            const Size size = node->sizeThatFits(proposal);
+            result = {std::max(result.width, size.width), std::max(result.height, size.height)};
+        }
+        return result;
+    }
+
+    void layOut(const ProposedSize& proposal, Size size) override {
+        for (Node* node : m_nodes) {
+            const Size childSize = node->sizeThatFits(proposal);
+            placeAt(*node, alignedOrigin(childSize, size, m_alignment), childSize, proposal);
+        }
+        settleTransparentChildren(size);
+    }
+
+private:
+    Alignment m_alignment;
+    std::vector<Node*> m_nodes;
+};
+
+class SpacerNode final : public Node {
+public:
+    void adopt(Spacer&& spacer, UpdatePass&) {
+        if (!isNew() && spacer.minLength != m_minLength) invalidateLayout();
+        m_minLength = spacer.minLength;
+    }
+
+    LengthRange lengthRange(Axis axis, std::optional<double>) override {
+        const auto stretched = axisAround();
+        if (stretched && *stretched != axis) return {0, 0};
+        return {m_minLength, geometry::infinity};
+    }
+
+protected:
+    std::string_view semanticType() const override { return "Spacer"; }
+
+    Size measure(const ProposedSize& proposal) override {
+        const auto axis = axisAround();
+        const auto length = [this](const std::optional<double>& proposed) { return std::max(m_minLength, proposed.value_or(0)); };
+        return {axis == Axis::vertical ? 0 : length(proposal.width), axis == Axis::horizontal ? 0 : length(proposal.height)};
+    }
+
+private:
+    // Looked up every time: the stack around may be another one after a rebuild.
+    std::optional<Axis> axisAround() const {
+        for (const Node* outer = parent(); outer; outer = outer->parent()) {
+            if (const auto axis = outer->stackAxis()) return axis;
+            if (!outer->sharesStackAxis()) return std::nullopt;
+        }
+        return std::nullopt;
+    }
+
+    double m_minLength = defaultSpacing;
+};
+
+} // namespace
+
+Element* HStack::makeElement() && { return newElement<HStackNode>(std::move(*this)); }
+Element* VStack::makeElement() && { return newElement<VStackNode>(std::move(*this)); }
+Element* ZStack::makeElement() && { return newElement<ZStackNode>(std::move(*this)); }
+Element* Spacer::makeElement() && { return newElement<SpacerNode>(std::move(*this)); }
+Element* Group::makeElement() && { return newElement<GroupNode>(std::move(*this)); }
+
+} // namespace swiftui
