@@ -48,7 +48,8 @@ bool isAllowedBetween(char32_t before, char32_t current, char32_t next) {
     if (isBreakingSpace(next) || isParagraphEnd(next)) return false;
     if (isBreakingSpace(current) || current == 0x200B) return true;
     // A hyphen that begins a word, or stands before a number, is a sign.
-    if (isHyphen(current)) return before != 0 && !isBreakingSpace(before) && !isDigit(next) && !isClosing(next) && !isHyphen(next);
+    if (current == '-' && isDigit(next)) return false;
+    if (isHyphen(current)) return before != 0 && !isBreakingSpace(before) && !isClosing(next) && !isHyphen(next);
     if (!isIdeograph(current) && !isIdeograph(next)) return false;
     const auto mayTouchBreak = [](char32_t c) { return isIdeograph(c) || isLeftToRightLetter(c) || isDigit(c) || c >= 0x3000; };
     return mayTouchBreak(current) && mayTouchBreak(next) && !isOpening(current) && !isClosing(next);

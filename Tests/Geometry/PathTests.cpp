@@ -6,6 +6,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "Platform/Geometry/Path.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
 
 namespace geometry {
 namespace {

@@ -2,6 +2,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "Platform/Geometry/Geometry.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
 
 namespace geometry {
 namespace {

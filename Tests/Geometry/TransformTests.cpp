@@ -5,6 +5,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "Platform/Geometry/Transform.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
 
 namespace geometry {
 namespace {

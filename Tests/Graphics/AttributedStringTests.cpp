@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "Platform/Graphics/AttributedString.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
 
 namespace graphics {
 namespace {

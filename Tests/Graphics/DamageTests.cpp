@@ -6,6 +6,7 @@
 
 #include "Platform/Graphics/PaintContext.hpp"
 #include "Tests/Graphics/ShapedTexts.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
 
 namespace graphics {
 namespace {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "Platform/Graphics/Font.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
 
 namespace graphics {
 namespace {

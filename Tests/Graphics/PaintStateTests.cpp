@@ -4,6 +4,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "Platform/Graphics/PaintContext.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
 
 namespace graphics {
 namespace {

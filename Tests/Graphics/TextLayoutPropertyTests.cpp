@@ -4,6 +4,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "Tests/Graphics/ShapedTexts.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
 
 namespace graphics {
 namespace {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "Tests/Graphics/ShapedTexts.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
 
 namespace graphics {
 namespace {

@@ -3,6 +3,7 @@
 
 #include "Platform/Graphics/TextPainting.hpp"
 #include "Tests/Graphics/ShapedTexts.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
 
 namespace graphics {
 namespace {

@@ -4,6 +4,7 @@
 
 #include "Backends/Headless/FixedTextShaper.hpp"
 #include "Platform/Foundation/Locale.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
 
 namespace headless {
 namespace {
@@ -113,7 +114,7 @@ TEST(LineBreaks, AreNotAllowedAtNoBreakSpaces) { EXPECT_EQ(withBreaks("a\u00A0b\
 TEST(LineBreaks, AreAllowedAfterHyphensInsideWords) {
     EXPECT_EQ(withBreaks("well-known"), "well-|known");
     EXPECT_EQ(withBreaks("a – b—c"), "a |– |b—|c");
-    EXPECT_EQ(withBreaks("-20 -x 3-4"), "-20 |-x |3-4");
+    EXPECT_EQ(withBreaks("-20 -x 3-4 3–4"), "-20 |-x |3-4 |3–|4");
     EXPECT_EQ(withBreaks("a-)"), "a-)");
 }
 

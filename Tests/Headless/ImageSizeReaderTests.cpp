@@ -5,6 +5,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "Backends/Headless/ImageSizeReader.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
 
 namespace headless {
 namespace {

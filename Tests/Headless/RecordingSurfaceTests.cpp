@@ -3,6 +3,7 @@
 
 #include "Backends/Headless/RecordingSurface.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
 
 namespace headless {
 namespace {

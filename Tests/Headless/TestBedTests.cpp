@@ -3,6 +3,7 @@
 
 #include "Backends/Headless/TestBed.hpp"
 #include "Tests/Support/FailOnUnexpectedLog.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
 
 namespace headless {
 namespace {
