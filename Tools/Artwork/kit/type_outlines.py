@@ -5,6 +5,7 @@ import os
 
 from fontTools.pens.basePen import BasePen
 from fontTools.ttLib import TTFont
+from shapely.geometry import Polygon
 
 from .geometry import Path
 
@@ -118,11 +119,37 @@ class Face:
         if name not in self.outlines:
             pen = OutlinePen(self.glyph_set, self.units_per_em)
             self.glyph_set[name].draw(pen)
-            self.outlines[name] = pen.path
+            self.outlines[name] = without_overlaps(pen.path)
         return self.outlines[name]
 
     def advance(self, name):
         return self.glyph_set[name].width / self.units_per_em
+
+
+def without_overlaps(path):
+    """Some faces build a letter from overlapping strokes; the canvas fills by the even-odd rule, so those are joined first."""
+    tolerance = 0.0006
+    rings = [ring for ring in path.flattened(tolerance) if len(ring) >= 3]
+    if len(rings) < 2:
+        return path
+    areas = [sum(x0 * y1 - x1 * y0 for (x0, y0), (x1, y1) in zip(ring, ring[1:] + ring[:1])) for ring in rings]
+    solid_sign = max(areas, key=abs)
+    solid, holes, even_odd = Polygon(), Polygon(), Polygon()
+    for ring, area in zip(rings, areas):
+        shape = Polygon(ring).buffer(0)
+        even_odd = even_odd.symmetric_difference(shape)
+        if area * solid_sign > 0:
+            solid = solid.union(shape)
+        else:
+            holes = holes.union(shape)
+    filled = solid.difference(holes)
+    if abs(filled.area - even_odd.area) < 0.001 * filled.area:
+        return path
+    joined = Path()
+    for part in filled.geoms if hasattr(filled, "geoms") else [filled]:
+        for ring in [part.exterior, *part.interiors]:
+            joined += Path.polygon(list(ring.simplify(0.0004).coords)[:-1])
+    return joined
 
 
 @functools.lru_cache(maxsize=None)
