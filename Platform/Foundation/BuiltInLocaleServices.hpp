@@ -6,7 +6,7 @@
 namespace foundation {
 
 // English and ASCII; see LocaleServices.
-class BuiltInLocaleServices final : public LocaleServices {
+class BuiltInLocaleServices : public LocaleServices {
 public:
     std::optional<std::string> percentText(double fraction, int maximumFractionDigits, const Locale& locale) const override;
     std::string upperCased(std::string_view text, const Locale& locale) const override;

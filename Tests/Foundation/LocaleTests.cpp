@@ -1,0 +1,50 @@
+#include "Platform/Foundation/Locale.hpp"
+#include "Tests/Foundation/LocaleFixture.hpp"
+
+using foundation::Locale;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+TEST(LocaleIdentifier, HasUnderscoresBetweenItsParts) {
+    EXPECT_EQ(Locale("de-AT").identifier(), "de_AT");
+    EXPECT_EQ(Locale("zh-Hant_TW").identifier(), "zh_Hant_TW");
+}
+
+TEST(LocaleIdentifier, MeansTheSameWithEitherSign) {
+    EXPECT_EQ(Locale("de-AT"), Locale("de_AT"));
+    EXPECT_FALSE(Locale("de-AT") == Locale("de"));
+}
+
+TEST(LanguageChain, GoesFromTheMostExactToTheLanguage) {
+    EXPECT_THAT(Locale("de_AT").languageChain(), ElementsAre("de-AT", "de"));
+    EXPECT_THAT(Locale("en").languageChain(), ElementsAre("en"));
+    EXPECT_THAT(Locale("zh-Hant-TW").languageChain(), ElementsAre("zh-Hant-TW", "zh-Hant", "zh"));
+    EXPECT_THAT(Locale("ca_ES_VALENCIA").languageChain(), ElementsAre("ca-ES-VALENCIA", "ca-ES", "ca"));
+}
+
+TEST(LanguageChain, LeavesKeywordsAndCodesetsOut) {
+    EXPECT_THAT(Locale("de_DE@currency=EUR").languageChain(), ElementsAre("de-DE", "de"));
+    EXPECT_THAT(Locale("pt_BR.UTF-8").languageChain(), ElementsAre("pt-BR", "pt"));
+}
+
+TEST(LanguageChain, SurvivesOddIdentifiers) {
+    EXPECT_THAT(Locale("").languageChain(), IsEmpty());
+    EXPECT_THAT(Locale("@x").languageChain(), IsEmpty());
+    EXPECT_THAT(Locale("__").languageChain(), IsEmpty());
+    EXPECT_THAT(Locale("de__AT_").languageChain(), ElementsAre("de-AT", "de"));
+}
+
+using CurrentLocale = tests::LocaleFixture;
+
+TEST_F(CurrentLocale, IsAmericanEnglishUntilItIsSet) { EXPECT_EQ(Locale::current().identifier(), "en_US"); }
+
+TEST_F(CurrentLocale, IsTheOneThatWasSetLast) {
+    Locale::setCurrent(Locale("fr_FR"));
+    Locale::setCurrent(Locale("de_AT"));
+
+    EXPECT_EQ(Locale::current(), Locale("de_AT"));
+}
+
+} // namespace

@@ -1,0 +1,40 @@
+// Texts in UTF-16, as translators' tools write them.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "Platform/Foundation/Utf8.hpp"
+
+namespace tests {
+
+enum class ByteOrder { littleEndian, bigEndian };
+
+inline void appendUnit(std::string& bytes, char32_t unit, ByteOrder order) {
+    const char high = static_cast<char>(unit >> 8), low = static_cast<char>(unit & 0xFF);
+    bytes += order == ByteOrder::bigEndian ? std::string{high, low} : std::string{low, high};
+}
+
+// The valid UTF-8 text in UTF-16, without a byte order mark.
+inline std::string utf16(std::string_view text, ByteOrder order) {
+    std::string bytes;
+    for (std::size_t offset = 0; offset < text.size();) {
+        const foundation::DecodedCharacter character = foundation::decodeUtf8(text, offset);
+        offset += character.length;
+        if (character.value < 0x10000) {
+            appendUnit(bytes, character.value, order);
+        } else {
+            appendUnit(bytes, 0xD7C0 + (character.value >> 10), order);
+            appendUnit(bytes, 0xDC00 + (character.value & 0x3FF), order);
+        }
+    }
+    return bytes;
+}
+
+inline std::string byteOrderMark(ByteOrder order) {
+    std::string mark;
+    appendUnit(mark, 0xFEFF, order);
+    return mark;
+}
+
+} // namespace tests
