@@ -11,12 +11,24 @@
 
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/Foundation/Locale.hpp"
+#include "Platform/Foundation/Utf8.hpp"
 
 namespace icubackend {
 
 namespace {
 
-icu::StringPiece piece(std::string_view text) { return {text.data(), static_cast<int32_t>(text.size())}; }
+icu::StringPiece piece(std::string_view text) { return {text.data(), static_cast<std::int32_t>(text.size())}; }
+
+// The text after `change`, which ICU would let carry ill-formed parts through. As it was where ICU fails.
+template <class Change>
+std::string changed(std::string_view text, Change change) {
+    if (!foundation::isValidUtf8(text)) return changed(foundation::repairedUtf8(text), change);
+    std::string result;
+    icu::StringByteSink<std::string> sink(&result, static_cast<std::int32_t>(text.size()));
+    UErrorCode status = U_ZERO_ERROR;
+    change(piece(text), sink, status);
+    return U_SUCCESS(status) ? result : std::string(text);
+}
 
 icu::number::LocalizedNumberFormatter percentFormatter(const foundation::Locale& locale, int maximumFractionDigits) {
     return icu::number::NumberFormatter::withLocale(icu::Locale(locale.identifier().c_str()))
@@ -83,23 +95,19 @@ std::optional<std::string> IcuLocaleServices::percentText(double fraction, int m
 }
 
 std::string IcuLocaleServices::upperCased(std::string_view text, const foundation::Locale& locale) const {
-    std::string result;
-    icu::StringByteSink<std::string> sink(&result, static_cast<int32_t>(text.size()));
-    UErrorCode status = U_ZERO_ERROR;
-    icu::CaseMap::utf8ToUpper(locale.identifier().c_str(), 0, piece(text), sink, nullptr, status);
-    return U_SUCCESS(status) ? result : std::string(text);
+    return changed(text, [&](icu::StringPiece source, icu::ByteSink& sink, UErrorCode& status) {
+        icu::CaseMap::utf8ToUpper(locale.identifier().c_str(), 0, source, sink, nullptr, status);
+    });
 }
 
 std::string IcuLocaleServices::titleCased(std::string_view text, const foundation::Locale& locale) const {
-    UErrorCode status = U_ZERO_ERROR;
-    if (!m_cache->words || m_cache->wordsLocale != locale.identifier()) {
-        m_cache->words.reset(icu::BreakIterator::createWordInstance(icu::Locale(locale.identifier().c_str()), status));
-        m_cache->wordsLocale = locale.identifier();
-    }
-    std::string result;
-    icu::StringByteSink<std::string> sink(&result, static_cast<int32_t>(text.size()));
-    icu::CaseMap::utf8ToTitle(locale.identifier().c_str(), 0, m_cache->words.get(), piece(text), sink, nullptr, status);
-    return U_SUCCESS(status) ? result : std::string(text);
+    return changed(text, [&](icu::StringPiece source, icu::ByteSink& sink, UErrorCode& status) {
+        if (!m_cache->words || m_cache->wordsLocale != locale.identifier()) {
+            m_cache->words.reset(icu::BreakIterator::createWordInstance(icu::Locale(locale.identifier().c_str()), status));
+            m_cache->wordsLocale = locale.identifier();
+        }
+        icu::CaseMap::utf8ToTitle(locale.identifier().c_str(), 0, m_cache->words.get(), source, sink, nullptr, status);
+    });
 }
 
 std::size_t IcuLocaleServices::graphemeCount(std::string_view text) const {

@@ -17,6 +17,7 @@ public:
 
     // Absent for infinite numbers and not-a-number.
     std::optional<std::string> percentText(double fraction, int maximumFractionDigits, const foundation::Locale& locale) const override;
+    // Ill-formed parts become replacement characters, here and in titleCased().
     std::string upperCased(std::string_view text, const foundation::Locale& locale) const override;
     std::string titleCased(std::string_view text, const foundation::Locale& locale) const override;
     std::size_t graphemeCount(std::string_view text) const override;

@@ -1,0 +1,75 @@
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "Backends/Icu/IcuLocaleServices.hpp"
+#include "Platform/Foundation/BuiltInLocaleServices.hpp"
+#include "Platform/Foundation/Locale.hpp"
+#include "Platform/Foundation/Utf8.hpp"
+#include "Tests/Foundation/AnyText.hpp"
+
+using foundation::BuiltInLocaleServices;
+using foundation::Locale;
+using icubackend::IcuLocaleServices;
+
+namespace {
+
+const Locale english("en_US");
+
+std::string anyLocale() { return *rc::gen::element<std::string>("en_US", "tr_TR", "de", "el", "lt", "nl", "ar", "th", "az", ""); }
+
+RC_GTEST_PROP(IcuProperty, TakesAnyBytesForText, ()) {
+    static const IcuLocaleServices services;
+    const std::string bytes = *tests::anyBytes();
+    const Locale locale(anyLocale());
+
+    RC_ASSERT(foundation::isValidUtf8(services.upperCased(bytes, locale)));
+    RC_ASSERT(foundation::isValidUtf8(services.titleCased(bytes, locale)));
+}
+
+RC_GTEST_PROP(IcuProperty, CutsAnyBytesIntoCharactersThatMakeThemUp, ()) {
+    static const IcuLocaleServices services;
+    const std::string bytes = *tests::anyBytes();
+
+    const auto ends = services.graphemeEnds(bytes);
+
+    RC_ASSERT(ends.size() == services.graphemeCount(bytes));
+    RC_ASSERT(std::is_sorted(ends.begin(), ends.end()));
+    RC_ASSERT(std::adjacent_find(ends.begin(), ends.end()) == ends.end());
+    RC_ASSERT(ends.empty() == bytes.empty());
+    if (!ends.empty()) RC_ASSERT(ends.front() > 0 && ends.back() == bytes.size());
+}
+
+RC_GTEST_PROP(IcuProperty, NeverCutsInsideACodePoint, ()) {
+    static const IcuLocaleServices services;
+    const std::string text = *tests::anyText("e\r\n ");
+    const auto codePointEnds = BuiltInLocaleServices{}.graphemeEnds(text);
+
+    for (const std::size_t end : services.graphemeEnds(text))
+        RC_ASSERT(std::binary_search(codePointEnds.begin(), codePointEnds.end(), end));
+}
+
+RC_GTEST_PROP(IcuProperty, WritesEnglishPercentagesLikeTheBuiltInServices, ()) {
+    static const IcuLocaleServices services;
+    const double fraction = *rc::gen::oneOf(rc::gen::map(rc::gen::inRange(-100'000, 100'000), [](int n) { return n / 1000.0; }),
+                                            rc::gen::map(rc::gen::inRange(-100'000, 100'000), [](int n) { return n / 1e7; }),
+                                            rc::gen::arbitrary<double>());
+    RC_PRE(std::isfinite(fraction));
+    const int digits = *rc::gen::inRange(0, 6);
+
+    RC_ASSERT(services.percentText(fraction, digits, english) == BuiltInLocaleServices{}.percentText(fraction, digits, english));
+}
+
+RC_GTEST_PROP(IcuProperty, ChangesAsciiLikeTheBuiltInServices, ()) {
+    static const IcuLocaleServices services;
+    const std::string text = *rc::gen::container<std::string>(rc::gen::elementOf(std::string("abcxyzABCXYZ    (/)!")));
+
+    RC_ASSERT(services.upperCased(text, english) == BuiltInLocaleServices{}.upperCased(text, english));
+    RC_ASSERT(services.titleCased(text, english) == BuiltInLocaleServices{}.titleCased(text, english));
+    RC_ASSERT(services.graphemeEnds(text) == BuiltInLocaleServices{}.graphemeEnds(text));
+}
+
+} // namespace
