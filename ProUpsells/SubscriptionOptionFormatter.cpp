@@ -48,17 +48,33 @@ const std::optional<std::string>& comparisonPriceFor(const SubscriptionOption& o
                              : model.monthlySubscriptionPriceForComparisonWithPromotionalPrice.get();
 }
 
-} // namespace
-
-RadioPickerItem SubscriptionOptionFormatter::makePickerRow(const SubscriptionOption& option, const UpsellViewModel& model) {
-    runloop::MainActor::assertIsolated();
-    TitleAndSubtitle texts = titleAndSubtitle(option, comparisonPriceFor(option, model));
+RadioPickerItem pickerRow(const SubscriptionOption& option, const UpsellViewModel& model, std::optional<std::string> badge) {
+    auto texts = SubscriptionOptionFormatter::titleAndSubtitle(option, comparisonPriceFor(option, model));
     return {.id = option.SKU(),
             .title = std::move(texts.title),
             .subtitle = std::move(texts.subtitle),
             .trialLength = option.introductoryPeriodLength(),
             .hasUsedFreeTrial = option.hasUsedFreeTrial(),
-            .badge = badgeText(option, model)};
+            .badge = std::move(badge)};
+}
+
+} // namespace
+
+RadioPickerItem SubscriptionOptionFormatter::makePickerRow(const SubscriptionOption& option, const UpsellViewModel& model) {
+    runloop::MainActor::assertIsolated();
+    return pickerRow(option, model, badgeText(option, model));
+}
+
+std::vector<RadioPickerItem> SubscriptionOptionFormatter::makePickerRows(const UpsellViewModel& model) {
+    runloop::MainActor::assertIsolated();
+    // All yearly plans share one badge; finding the saving anew for each would make long lists slow.
+    const SubscriptionOption* yearly = model.yearlyOption();
+    const std::optional<std::string> yearlyBadge = yearly ? badgeText(*yearly, model) : std::nullopt;
+    std::vector<RadioPickerItem> rows;
+    rows.reserve(model.options->size());
+    for (const SubscriptionOption& option : model.options.get())
+        rows.push_back(pickerRow(option, model, option.isYearly() ? yearlyBadge : std::nullopt));
+    return rows;
 }
 
 SubscriptionOptionFormatter::TitleAndSubtitle

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "ProUpsells/RadioPickerItem.hpp"
 #include "ProUpsells/UpsellViewModel.hpp"
@@ -22,6 +23,8 @@ public:
 
     // Both stop the program off the main thread.
     static RadioPickerItem makePickerRow(const SubscriptionOption& option, const UpsellViewModel& model);
+    // One row for each of the model's options, in their order.
+    static std::vector<RadioPickerItem> makePickerRows(const UpsellViewModel& model);
     // Everything but a yearly plan is titled and worded as a monthly one, a lifetime plan too. The subtitle starts with the
     // comparison price, struck through, and always one blank.
     static TitleAndSubtitle titleAndSubtitle(const SubscriptionOption& option, const std::optional<std::string>& comparisonPrice);

@@ -8,6 +8,9 @@ namespace lumokit {
 using graphics::Color;
 using graphics::rgb;
 
+// The platform's own colour for texts.
+inline constexpr Color platformPrimary{"primary", rgb(0x000000), rgb(0xFFFFFF)};
+
 // What is read: texts and icons.
 namespace ContentColor {
 inline constexpr Color primary{"ContentColor.primary", rgb(0x15191C), rgb(0xF3F5F4)};

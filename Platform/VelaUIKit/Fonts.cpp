@@ -22,6 +22,16 @@ graphics::Font brandFont(std::string_view name, double size) {
     return {.face = face, .size = size, .name = face->name};
 }
 
+graphics::Font quenbyBold(double size) {
+    FontRegistrar::registerBundledFonts();
+    return brandFont("Quenby-Bold", size);
+}
+
+graphics::Font quenbySemibold(double size) {
+    FontRegistrar::registerBundledFonts();
+    return brandFont("Quenby-Semibold", size);
+}
+
 void FontRegistrar::registerBundledFonts() {
     static const auto registered = std::array{&graphics::registerFontFace("Quenby-Bold", "Sora", 700),
                                               &graphics::registerFontFace("Quenby-Semibold", "Sora", 600)};

@@ -16,6 +16,10 @@ graphics::Font velaDefaultFont(FontOption option, double size);
 // A registered brand font, "Quenby-Bold" for instance, at a size in points. Stops the program when no such face is registered.
 graphics::Font brandFont(std::string_view name, double size);
 
+// The brand fonts themselves, registered when first asked for.
+graphics::Font quenbyBold(double size);
+graphics::Font quenbySemibold(double size);
+
 class FontRegistrar {
 public:
     FontRegistrar() = delete;

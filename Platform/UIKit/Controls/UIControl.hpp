@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <type_traits>
 
 #include "Platform/UIKit/Views/UIView.hpp"
 
@@ -13,20 +14,20 @@ public:
 
     std::string_view typeName() const override { return "UIControl"; }
 
-    // Calls `action` on `target`, which is held weakly, whenever `event` happens; targets are told in the order in which they were added.
-    template <class Target>
-    void addTarget(const std::weak_ptr<Target>& target, void (Target::*action)(UIControl&), Event event) {
-        addTarget(target, [action](Target& receiver, UIControl& sender) { (receiver.*action)(sender); }, event);
-    }
-    template <class Target>
-    void addTarget(const std::weak_ptr<Target>& target, void (Target::*action)(), Event event) {
-        addTarget(target, [action](Target& receiver, UIControl&) { (receiver.*action)(); }, event);
-    }
-    template <class Target>
-    void addTarget(const std::weak_ptr<Target>& target, std::function<void(Target&, UIControl&)> action, Event event) {
+    // Calls `action` on `target`, which is held weakly, whenever `event` happens; targets are told in the order in which they were
+    // added. An action is a member function of the target, with the control as its argument or without one, or a function of both.
+    template <class Target, class Action>
+    requires(std::is_invocable_v<Action&, Target&, UIControl&> ||
+             std::is_invocable_v<Action&, Target&>) void addTarget(const std::weak_ptr<Target>& target, Action action,
+                                                                   Event event) {
         Target* const address = target.lock().get();
-        addEntry({std::weak_ptr<void>(target), address, event, {},
-                  [action = std::move(action), address](UIControl& sender) { action(*address, sender); }});
+        addEntry(
+            {std::weak_ptr<void>(target), address, event, {}, [action = std::move(action), address](UIControl& sender) mutable {
+                 if constexpr (std::is_invocable_v<Action&, Target&, UIControl&>)
+                     std::invoke(action, *address, sender);
+                 else
+                     std::invoke(action, *address);
+             }});
     }
     // Without a target: the action goes up the responder chain from here until somebody answers it.
     void addTarget(std::nullptr_t, Selector action, Event event) { addEntry({{}, nullptr, event, action, {}}); }

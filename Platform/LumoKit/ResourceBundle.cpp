@@ -1,0 +1,13 @@
+#include "Platform/LumoKit/ResourceBundle.hpp"
+
+#include "Platform/Foundation/ResourceFolder.hpp"
+
+namespace lumokit {
+
+const foundation::Bundle& resourceBundle() {
+    static const foundation::Bundle bundle{
+        foundation::resourceFolder("VelaUIKit", VELAUIKIT_SOURCE_RESOURCES, VELAUIKIT_INSTALLED_RESOURCES)};
+    return bundle;
+}
+
+} // namespace lumokit

@@ -1,0 +1,16 @@
+#include "Platform/VelaUIKit/EmptyStateView.hpp"
+
+#include <utility>
+
+#include "Platform/VelaUIKit/Colors.hpp"
+
+namespace velauikit {
+
+void EmptyStateView::configure(Configuration configuration) {
+    m_configuration = std::move(configuration);
+    setBackgroundColor(m_configuration.kind == Kind::none ? std::nullopt : std::optional(velaBackground));
+    accessibilityLabel = m_configuration.title.value_or("");
+    setNeedsDisplay();
+}
+
+} // namespace velauikit

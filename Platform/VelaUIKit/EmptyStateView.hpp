@@ -1,0 +1,32 @@
+// What stands where there is nothing to show yet.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "Platform/UIKit/Views/UIView.hpp"
+
+namespace velauikit {
+
+// Covers what is behind it with the page background.
+class EmptyStateView : public uikit::UIView {
+public:
+    enum class Kind { none = 0, message = 1, waiting = 2 };
+
+    struct Configuration {
+        Kind kind = Kind::none;
+        std::optional<std::string> title;
+        std::optional<std::string> message;
+        uikit::UIImage image; // null for none
+    };
+
+    std::string_view typeName() const override { return "EmptyStateView"; }
+
+    void configure(Configuration configuration);
+    const Configuration& configuration() const { return m_configuration; }
+
+private:
+    Configuration m_configuration;
+};
+
+} // namespace velauikit

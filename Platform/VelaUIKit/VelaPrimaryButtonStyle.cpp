@@ -1,0 +1,26 @@
+#include "Platform/VelaUIKit/VelaPrimaryButtonStyle.hpp"
+
+#include "Platform/SwiftUI/SwiftUI.hpp"
+#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/VelaUIKit/Fonts.hpp"
+
+namespace velauikit {
+
+using namespace swiftui;
+
+View VelaPrimaryButtonStyle::body(const ButtonStyleConfiguration& configuration, BuildContext& context) const {
+    const double disabledOpacity = context.environment().isEnabled ? 1 : 0.4;
+    const Shape plate = m_cornerRadius == geometry::infinity ? Capsule(geometry::CornerStyle::continuous)
+                                                             : RoundedRectangle(m_cornerRadius, geometry::CornerStyle::continuous);
+    return configuration.label | font(velaDefaultFont(FontOption::bold, 17)) | minimumScaleFactor(0.5) |
+           multilineTextAlignment(graphics::TextAlignment::center) | foregroundStyle(velaLightText) | padding(Edge::horizontal) |
+           frame({.maxWidth = geometry::infinity, .maxHeight = geometry::infinity}) | background(plate.fill(marwickContentAccent)) |
+           scaleEffect(configuration.isPressed ? 0.98 : 1) | opacity(configuration.isPressed ? 0.85 : disabledOpacity);
+}
+
+const std::shared_ptr<const ButtonStyle>& VelaPrimaryButtonStyle::rounded() {
+    static const std::shared_ptr<const ButtonStyle> style = std::make_shared<VelaPrimaryButtonStyle>(geometry::infinity);
+    return style;
+}
+
+} // namespace velauikit

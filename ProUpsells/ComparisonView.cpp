@@ -1,0 +1,101 @@
+#include "ProUpsells/ComparisonView.hpp"
+
+#include "Platform/Foundation/Bundle.hpp"
+#include "Platform/LumoKit/Colors.hpp"
+#include "Platform/LumoKit/TextStyle.hpp"
+#include "Platform/SwiftUI/SwiftUI.hpp"
+#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/VelaUIKit/VelaPrimaryButtonStyle.hpp"
+#include "ProUpsells/CategoryView.hpp"
+#include "ProUpsells/ComparisonColumnCapsule.hpp"
+
+namespace proupsells {
+
+using namespace swiftui;
+using foundation::localizedString;
+
+namespace {
+
+using Expanded = Binding<ExpandedCategories>;
+
+// A category that comes on screen is as open as the catalogue says; what the user did to it before is forgotten, deliberately.
+void seed(const Expanded& expanded, const FeatureCategory& category) {
+    ExpandedCategories changed = expanded.get();
+    changed.expandedCategories[category.name] = category.expanded;
+    withoutAnimation([&] { expanded.set(std::move(changed)); });
+}
+
+void toggle(const Expanded& expanded, const std::string& name) {
+    ExpandedCategories changed = expanded.get();
+    changed.expandedCategories[name] = !changed.isExpanded(name);
+    withAnimation([&] { expanded.set(std::move(changed)); });
+}
+
+} // namespace
+
+View ComparisonView::headerRow() const {
+    return HStack{.alignment = VerticalAlignment::bottom,
+                  .spacing = 16,
+                  .content =
+                      {
+                          Text{localizedString("Compare Plans",
+                                               "Title for screen where users can see a comparison between our Folio plans")} |
+                              lumokit::textStyle(lumokit::headingH2) | foregroundStyle(lumokit::ContentColor::primary) |
+                              accessibilityTraits(accessibility::Traits::header) |
+                              frame({.maxWidth = geometry::infinity, .alignment = Alignment::leading}),
+                          // The two capsules' line spacings differ, deliberately.
+                          ComparisonColumnCapsule{.heading = ComparisonCatalogue::freeHeading(),
+                                                  .fill = lumokit::ValidationColor::neutralSubdued,
+                                                  .textColor = lumokit::ValidationColor::neutralImportant,
+                                                  .lineSpacing = 8,
+                                                  .isSmall = requiresSmallCapsule},
+                          ComparisonColumnCapsule{.heading = ComparisonCatalogue::proHeading(),
+                                                  .fill = lumokit::BackgroundColor::level4,
+                                                  .textColor = lumokit::ContentColor::inverse,
+                                                  .lineSpacing = 2,
+                                                  .isSmall = requiresSmallCapsule},
+                      }} |
+           padding(Edge::bottom, 42) | padding(Edge::horizontal, 24);
+}
+
+View ComparisonView::category(std::size_t index, const Expanded& expanded) const {
+    const std::shared_ptr<const FeatureCategory> item(items, &(*items)[index]);
+    return CategoryView{item, expanded.get().isExpanded(item->name)} |
+           onTapGesture([expanded, item] { toggle(expanded, item->name); }) |
+           onAppear([expanded, item] { seed(expanded, *item); }) | accessibilityIdentifier("comparison.category." + item->name) |
+           accessibilityLabel(item->name);
+}
+
+View ComparisonView::categoryList(const Expanded& expanded) const {
+    std::vector<std::size_t> indices(items->size());
+    for (std::size_t index = 0; index < indices.size(); ++index) indices[index] = index;
+    return ScrollView{.content = VStack{.spacing = 0,
+                                        .content = ForEach(
+                                            indices, [&](std::size_t index) { return Key((*items)[index].name); },
+                                            [&](std::size_t index) { return category(index, expanded); })} |
+                                 padding(Edge::horizontal, 24)};
+}
+
+View ComparisonView::bottomBar() const {
+    const std::string title = localizedString("Choose Your Plan", "Button that a user clicks to go back to upsell page");
+    return Rectangle().fill(velauikit::velaBackground) | frame({.height = 80}) | shadow(graphics::Color::black, 0.1, 10, 4, -10) |
+           overlay(Button{.action =
+                              [this] {
+                                  const Action run = chooseYourPlanHandler;
+                                  run();
+                              },
+                          .label = Text{title}} |
+                       buttonStyle(velauikit::VelaPrimaryButtonStyle::rounded()) |
+                       accessibilityIdentifier("comparison.choosePlan") | accessibilityLabel(title) | padding(Edge::horizontal) |
+                       padding(Edge::top),
+                   Alignment::bottom);
+}
+
+View ComparisonView::body(BuildContext& context) const {
+    const auto expanded = context.state(ExpandedCategories{});
+    const bool reachesTheEdge = context.environment().safeAreaInsets.bottom == 0;
+    return VStack{.spacing = 0, .content = {headerRow(), categoryList(expanded), bottomBar()}} |
+           padding(Edge::bottom, reachesTheEdge ? 20 : 0) | background(velauikit::velaBackground);
+}
+
+} // namespace proupsells

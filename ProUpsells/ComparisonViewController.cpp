@@ -1,0 +1,34 @@
+#include "ProUpsells/ComparisonViewController.hpp"
+
+#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/VelaUIKit/HostingControllers.hpp"
+#include "Platform/VelaUIKit/Navigation.hpp"
+#include "ProUpsells/ComparisonView.hpp"
+
+namespace proupsells {
+
+void ComparisonViewController::viewDidLoad() {
+    UIViewController::viewDidLoad();
+    const auto weakSelf = uikit::weakReference(*this);
+
+    uikit::UIBarButtonItem closeButton =
+        velauikit::barButtonItem(velauikit::BarButtonStyle::close, weakSelf, &ComparisonViewController::dismissController);
+    closeButton.accessibilityIdentifier = "comparison.close";
+    setRightBarButtonItem(std::move(closeButton));
+
+    const auto hostingController = hosting::UIHostingController::create(ComparisonView{.chooseYourPlanHandler = [weakSelf] {
+        if (const auto self = weakSelf.lock()) self->chooseYourPlan();
+    }});
+    hostingController->view()->setBackgroundColor(velauikit::velaBackground);
+    velauikit::addHostingController(*this, hostingController);
+}
+
+void ComparisonViewController::chooseYourPlan() {
+    if (const auto delegate = m_delegate.lock()) delegate->comparisonViewControllerDidTapChooseYourPlan(*this);
+}
+
+void ComparisonViewController::dismissController() {
+    if (const auto delegate = m_delegate.lock()) delegate->comparisonViewControllerDidTapClose(*this);
+}
+
+} // namespace proupsells

@@ -1,0 +1,27 @@
+#include "ProUpsells/ContainerWithCloseButton.hpp"
+
+#include "Platform/Foundation/Bundle.hpp"
+#include "Platform/SwiftUI/SwiftUI.hpp"
+#include "Platform/VelaUIKit/VelaUIKitImage.hpp"
+
+namespace proupsells {
+
+using namespace swiftui;
+
+View ContainerWithCloseButton::body(BuildContext&) const {
+    return ZStack{.alignment = Alignment::topTrailing,
+                  .content = {
+                      contentView(),
+                      Button{.action =
+                                 [this] {
+                                     const Action run = closeButtonAction;
+                                     run();
+                                 },
+                             .label = Image{velauikit::VelaUIKitImage::inAppMessageCloseIcon()}} |
+                          buttonStyle(ButtonStyle::plain()) | padding(Edge::top | Edge::trailing, 18) | frame(44, 44) |
+                          contentShape() | accessibilityIdentifier("close") |
+                          accessibilityLabel(foundation::localizedString("Close")),
+                  }};
+}
+
+} // namespace proupsells

@@ -1,0 +1,29 @@
+#include "ProUpsells/CustomPageControl.hpp"
+
+namespace proupsells {
+
+std::shared_ptr<CustomPageControl::Coordinator> CustomPageControl::makeCoordinator() const {
+    return std::make_shared<Coordinator>(*this);
+}
+
+std::shared_ptr<uikit::UIPageControl> CustomPageControl::makeUIView(const Context& context) const {
+    auto pageControl = std::make_shared<uikit::UIPageControl>();
+    pageControl->setNumberOfPages(numberOfPages);
+    pageControl->setBackgroundStyle(uikit::UIPageControl::BackgroundStyle::minimal);
+    pageControl->accessibilityIdentifier = "carousel.pageControl";
+    pageControl->addTarget(std::weak_ptr(context.coordinator), &Coordinator::pageChanged, uikit::UIControl::Event::valueChanged);
+    return pageControl;
+}
+
+void CustomPageControl::updateUIView(uikit::UIPageControl& pageControl, const Context&) const {
+    pageControl.setNumberOfPages(numberOfPages);
+    pageControl.setCurrentPage(currentPage.get());
+}
+
+void CustomPageControl::Coordinator::pageChanged(uikit::UIControl& sender) {
+    m_parent.currentPage.set(static_cast<uikit::UIPageControl&>(sender).currentPage());
+}
+
+swiftui::Element* CustomPageControl::makeElement() && { return hosting::newRepresentable(std::move(*this)); }
+
+} // namespace proupsells

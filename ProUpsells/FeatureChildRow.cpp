@@ -1,0 +1,33 @@
+#include "ProUpsells/FeatureChildRow.hpp"
+
+#include "Platform/LumoKit/TextStyle.hpp"
+#include "Platform/SwiftUI/SwiftUI.hpp"
+#include "ProUpsells/CheckIcon.hpp"
+#include "ProUpsells/ComparisonCatalogue.hpp"
+#include "ProUpsells/FreeUsageLimitIndicator.hpp"
+
+namespace proupsells {
+
+using namespace swiftui;
+
+View FeatureChildRow::freeCell() const {
+    if (feature.distribution.isFree()) return CheckIcon{} | accessibilityLabel(ComparisonCatalogue::freeHeading());
+    if (const auto* limit = feature.distribution.limit()) return FreeUsageLimitIndicator{limit->count};
+    return View{};
+}
+
+View FeatureChildRow::body(BuildContext&) const {
+    return HStack{.spacing = 16,
+                  .content =
+                      {
+                          Text{feature.name} |
+                              lumokit::textStyle(lumokit::TextStyle::based(lumokit::PlatformTextStyle::subheadline, 15, 15)) |
+                              fixedSize(false, true),
+                          Spacer{},
+                          HStack{.spacing = 40,
+                                 .content = {freeCell(), CheckIcon{} | accessibilityLabel(ComparisonCatalogue::proHeading())}},
+                      }} |
+           padding(Edge::vertical, 12.8) | padding(Edge::leading, 16) | frame({.minHeight = 40});
+}
+
+} // namespace proupsells

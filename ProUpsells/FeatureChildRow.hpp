@@ -1,0 +1,19 @@
+// One feature: its name, and a cell for each plan.
+#pragma once
+
+#include "Platform/SwiftUI/Tree/BuildContext.hpp"
+#include "ProUpsells/Feature.hpp"
+
+namespace proupsells {
+
+struct FeatureChildRow {
+    Feature feature;
+
+    swiftui::View body(swiftui::BuildContext& context) const;
+    bool operator==(const FeatureChildRow&) const = default;
+
+private:
+    swiftui::View freeCell() const;
+};
+
+} // namespace proupsells

@@ -1,0 +1,22 @@
+#include "ProUpsells/FreeTrialCapsule.hpp"
+
+#include "Platform/Foundation/Bundle.hpp"
+#include "Platform/LumoKit/Colors.hpp"
+#include "Platform/LumoKit/TextStyle.hpp"
+#include "Platform/SwiftUI/Modifiers/LayoutModifiers.hpp"
+#include "Platform/SwiftUI/Views/Shapes.hpp"
+#include "Platform/SwiftUI/Views/Text.hpp"
+
+namespace proupsells {
+
+using namespace swiftui;
+using lumokit::DecorativeColor::tealBackground;
+using lumokit::DecorativeColor::tealProminent;
+
+View FreeTrialCapsule::body(BuildContext&) const {
+    return Text{foundation::localizedString("7 Day Free Trial", "Label stating that there will be a free trial")} |
+           lumokit::textStyle(lumokit::labelCapsSmall) | padding(6) |
+           background(Capsule(geometry::CornerStyle::continuous).fill(tealBackground)) | foregroundStyle(tealProminent);
+}
+
+} // namespace proupsells

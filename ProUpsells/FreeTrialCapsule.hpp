@@ -1,0 +1,13 @@
+// Says that a plan starts with a free trial.
+#pragma once
+
+#include "Platform/SwiftUI/Tree/BuildContext.hpp"
+
+namespace proupsells {
+
+struct FreeTrialCapsule {
+    swiftui::View body(swiftui::BuildContext& context) const;
+    bool operator==(const FreeTrialCapsule&) const = default;
+};
+
+} // namespace proupsells

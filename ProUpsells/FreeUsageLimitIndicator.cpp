@@ -1,0 +1,20 @@
+#include "ProUpsells/FreeUsageLimitIndicator.hpp"
+
+#include "Platform/LumoKit/Colors.hpp"
+#include "Platform/LumoKit/TextStyle.hpp"
+#include "Platform/SwiftUI/SwiftUI.hpp"
+#include "ProUpsells/ComparisonCatalogue.hpp"
+
+namespace proupsells {
+
+using namespace swiftui;
+using lumokit::DecorativeColor::tealBackground;
+using lumokit::DecorativeColor::tealProminent;
+
+View FreeUsageLimitIndicator::body(BuildContext&) const {
+    return Text{ComparisonCatalogue::freeUsageText(count)} | lumokit::textStyle(lumokit::labelCapsSmall) |
+           foregroundStyle(tealProminent) | padding(6) |
+           background(Capsule(geometry::CornerStyle::continuous).fill(tealBackground));
+}
+
+} // namespace proupsells

@@ -1,0 +1,27 @@
+#include "ProUpsells/InfoButton.hpp"
+
+#include "Platform/LumoKit/Colors.hpp"
+#include "Platform/SwiftUI/SwiftUI.hpp"
+#include "Platform/VelaUIKit/Fonts.hpp"
+
+namespace proupsells {
+
+using namespace swiftui;
+
+View InfoButton::body(BuildContext&) const {
+    return Button{.action =
+                      [this] {
+                          const Action run = action;
+                          run();
+                      },
+                  .label = HStack{.spacing = 2,
+                                  .content =
+                                      {
+                                          Text{text} | font(velauikit::quenbyBold(14)) |
+                                              foregroundStyle(lumokit::ContentColor::secondary),
+                                          image ? Image{image} : View{},
+                                      }}} |
+           accessibilityIdentifier(identifier) | accessibilityLabel(text.plain());
+}
+
+} // namespace proupsells

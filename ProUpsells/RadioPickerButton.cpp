@@ -1,0 +1,74 @@
+#include "ProUpsells/RadioPickerButton.hpp"
+
+#include "Platform/LumoKit/Colors.hpp"
+#include "Platform/LumoKit/TextStyle.hpp"
+#include "Platform/SwiftUI/SwiftUI.hpp"
+#include "Platform/VelaUIKit/Colors.hpp"
+#include "ProUpsells/FreeTrialCapsule.hpp"
+#include "ProUpsells/RadioPickerButtonBadge.hpp"
+#include "ProUpsells/RadioPickerSelectionIndicator.hpp"
+
+namespace proupsells {
+
+using namespace swiftui;
+using accessibility::Traits;
+using lumokit::ContentColor::primary;
+
+View RadioPickerButton::titleRow() const {
+    return HStack{.spacing = 8,
+                  .content = {
+                      Text{item.title} | lumokit::textStyle(lumokit::bodyLarge) |
+                          multilineTextAlignment(graphics::TextAlignment::leading) | foregroundStyle(primary),
+                      item.offersTrial() ? FreeTrialCapsule{} | accessibilityLabel("Free Trial Capsule") |
+                                               accessibilityIdentifier("trial." + item.id)
+                                         : View{},
+                  }};
+}
+
+View RadioPickerButton::card() const {
+    return HStack{.spacing = 8,
+                  .content =
+                      {
+                          VStack{.alignment = HorizontalAlignment::leading,
+                                 .spacing = 8,
+                                 .content = {titleRow(), Text{item.subtitle} | foregroundStyle(velauikit::velaSecondaryLabel)}},
+                          Spacer{},
+                          RadioPickerSelectionIndicator{selected} | accessibilityLabel("Selection Indicator"),
+                      }} |
+           padding(Edge::horizontal, 14) | padding(Edge::vertical, 16) |
+           frame({.maxWidth = geometry::infinity, .minHeight = 90, .alignment = Alignment::leading}) |
+           background(RoundedRectangle(cornerRadius).fill(velauikit::velaSecondaryAppBackground)) | contentShape();
+}
+
+// Always there and only shown or hidden, so that a change of the selection moves nothing.
+View RadioPickerButton::selectedBorder() const {
+    return RoundedRectangle(cornerRadius, geometry::CornerStyle::continuous).stroke(2) | opacity(selected ? 1 : 0) |
+           allowsHitTesting(false);
+}
+
+// The frame is only 1 high, so that the badge's centre stands on the card's top edge.
+View RadioPickerButton::badge() const {
+    if (!item.badge) return View{};
+    return RadioPickerButtonBadge{*item.badge} | accessibilityIdentifier("badge." + item.id) | padding(16) | fixedSize() |
+           frame({.height = 1}) | allowsHitTesting(false);
+}
+
+std::string RadioPickerButton::spokenLabel() const {
+    const std::string price = item.subtitle.text();
+    const auto start = price.find_first_not_of(' ');
+    return start == std::string::npos ? item.title : item.title + ", " + price.substr(start);
+}
+
+View RadioPickerButton::body(BuildContext&) const {
+    return Button{.action =
+                      [this] {
+                          const Action run = action;
+                          run();
+                      },
+                  .label = card()} |
+           buttonStyle(ButtonStyle::plain()) | accessibilityIdentifier("plan." + item.id) | accessibilityLabel(spokenLabel()) |
+           accessibilityTraits(selected ? Traits::selected : Traits::none) | overlay(selectedBorder()) |
+           overlay(badge(), Alignment::topTrailing);
+}
+
+} // namespace proupsells

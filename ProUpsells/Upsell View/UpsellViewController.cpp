@@ -1,0 +1,125 @@
+#include "ProUpsells/Upsell View/UpsellViewController.hpp"
+
+#include <algorithm>
+#include <utility>
+
+#include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/Commons/FatalError.hpp"
+#include "Platform/SwiftUI/Modifiers/EnvironmentModifiers.hpp"
+#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/VelaUIKit/HostingControllers.hpp"
+#include "ProUpsells/Upsell View/PreparedOptions.hpp"
+#include "ProUpsells/UpsellEnvironment.hpp"
+#include "ProUpsells/UpsellView.hpp"
+
+namespace proupsells {
+
+using TapEvent = UpsellViewModel::TapEvent;
+using Delegate = UpsellViewControllerDelegate;
+
+namespace {
+
+// One handler for each kind of event.
+template <class... Handlers>
+struct Overloaded : Handlers... {
+    using Handlers::operator()...;
+};
+template <class... Handlers>
+Overloaded(Handlers...) -> Overloaded<Handlers...>;
+
+bool canBeSold(const SubscriptionOption& option) { return option.isYearly() || option.isMonthly(); }
+
+} // namespace
+
+std::shared_ptr<UpsellViewController> UpsellViewController::create(const std::vector<SubscriptionOption>& subscriptionOptions,
+                                                                   Variant variant) {
+    auto controller = std::make_shared<UpsellViewController>(Creation{}, variant);
+    controller->start(subscriptionOptions);
+    return controller;
+}
+
+std::shared_ptr<UpsellViewController> UpsellViewController::create(const foundation::Coder&) {
+    commons::fatalError("init(coder:) has not been implemented");
+}
+
+UpsellViewController::UpsellViewController(Creation, Variant variant) : m_variant(variant) {}
+
+void UpsellViewController::start(const std::vector<SubscriptionOption>& subscriptionOptions) {
+    if (std::none_of(subscriptionOptions.begin(), subscriptionOptions.end(), canBeSold))
+        commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity,
+                                             "UpsellViewController - tried to init without monthly & yearly subscription option",
+                                             "init(subscriptionOptions:variant:)");
+    m_upsellViewModel->options = preparedOptions(subscriptionOptions);
+    m_upsellModelTapEventObserver =
+        m_upsellViewModel->tapEventOccurred.sink([weakSelf = uikit::weakReference(*this)](const auto& event) {
+            if (const auto self = weakSelf.lock()) self->handle(event);
+        });
+}
+
+void UpsellViewController::handle(const TapEvent& event) {
+    std::visit(Overloaded{
+                   [&](const TapEvent::Purchase& purchase) {
+                       if (const auto delegate = m_delegate.lock())
+                           delegate->upsellViewControllerDidContinueWith(*this, purchase.option);
+                   },
+                   [&](const TapEvent::Cancel&) { cancel(); },
+                   [&](const TapEvent::RestorePurchases&) { tell(&Delegate::upsellViewControllerDidTapRestoreButton); },
+                   [&](const TapEvent::WhatIsPro&) { tell(&Delegate::upsellViewControllerDidTapWhatIsProButton); },
+                   [&](const TapEvent::PrivacyPolicy&) { tell(&Delegate::upsellViewControllerDidTapPrivacyPolicyButton); },
+                   [&](const TapEvent::TermsOfService&) { tell(&Delegate::upsellViewControllerDidTapTermsOfServiceButton); },
+                   [&](const TapEvent::ComparePlans&) { tell(&Delegate::upsellViewControllerDidTapComparePlans); },
+               },
+               event.kind);
+}
+
+void UpsellViewController::cancel() {
+    tell(&Delegate::upsellViewControllerDidTapCancel);
+    dismiss(true);
+}
+
+void UpsellViewController::tell(void (Delegate::*operation)(UpsellViewController&)) {
+    if (const auto delegate = m_delegate.lock()) (delegate.get()->*operation)(*this);
+}
+
+void UpsellViewController::updateOptions(const std::vector<SubscriptionOption>& options) {
+    m_upsellViewModel->options = preparedOptions(options);
+}
+
+std::optional<std::string> UpsellViewController::annualSubscriptionPriceForComparisonWithPromotionalPrice() const {
+    return m_upsellViewModel->annualSubscriptionPriceForComparisonWithPromotionalPrice.get();
+}
+
+void UpsellViewController::setAnnualSubscriptionPriceForComparisonWithPromotionalPrice(std::optional<std::string> price) {
+    m_upsellViewModel->annualSubscriptionPriceForComparisonWithPromotionalPrice = std::move(price);
+}
+
+std::optional<std::string> UpsellViewController::monthlySubscriptionPriceForComparisonWithPromotionalPrice() const {
+    return m_upsellViewModel->monthlySubscriptionPriceForComparisonWithPromotionalPrice.get();
+}
+
+void UpsellViewController::setMonthlySubscriptionPriceForComparisonWithPromotionalPrice(std::optional<std::string> price) {
+    m_upsellViewModel->monthlySubscriptionPriceForComparisonWithPromotionalPrice = std::move(price);
+}
+
+void UpsellViewController::viewDidLoad() {
+    UIViewController::viewDidLoad();
+    view()->setBackgroundColor(velauikit::velaBackground);
+
+    const UpsellView paywall{.model = m_upsellViewModel};
+    const auto environment = std::make_shared<UpsellEnvironment>();
+    const auto hostingController = hosting::UIHostingController::create(std::function(
+        [paywall, environment]() -> swiftui::View { return UpsellView(paywall) | swiftui::environmentObject(environment); }));
+    velauikit::addHostingController(*this, hostingController);
+    hostingController->view()->setContentCompressionResistancePriority(uikit::layoutPriorityHigh, uikit::Axis::vertical);
+    hostingController->view()->setBackgroundColor(velauikit::velaBackground);
+}
+
+void UpsellViewController::viewWillAppear(bool animated) {
+    UIViewController::viewWillAppear(animated);
+    if (!imageDownloadTask) return;
+    m_emptyStateView->configure({.kind = velauikit::EmptyStateView::Kind(2)});
+    view()->addSubview(m_emptyStateView);
+    m_emptyStateView->fillSuperview();
+}
+
+} // namespace proupsells

@@ -1,0 +1,70 @@
+// Shows the paywall, and turns its taps into calls on a delegate.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "Platform/Combine/AnyCancellable.hpp"
+#include "Platform/Foundation/Coder.hpp"
+#include "Platform/UIKit/Controllers/UIViewController.hpp"
+#include "Platform/VelaUIKit/EmptyStateView.hpp"
+#include "ProUpsells/ProUpsellControllerType.hpp"
+#include "ProUpsells/PromotionalPricingUpsell.hpp"
+#include "ProUpsells/Upsell View/UpsellViewControllerDelegate.hpp"
+#include "ProUpsells/UpsellViewModel.hpp"
+
+namespace proupsells {
+
+// Main thread only.
+class UpsellViewController : public uikit::UIViewController, public ProUpsellControllerType, public PromotionalPricingUpsell {
+    struct Creation {};
+
+public:
+    // The one with the plan comparison and the header carousel.
+    enum class Variant : std::uint8_t { comparisonPaywall };
+
+    // Options with neither a yearly nor a monthly plan cost one log line and make an empty list.
+    static std::shared_ptr<UpsellViewController> create(const std::vector<SubscriptionOption>& subscriptionOptions,
+                                                        Variant variant);
+    // Stops the program: "init(coder:) has not been implemented".
+    [[noreturn]] static std::shared_ptr<UpsellViewController> create(const foundation::Coder& coder);
+
+    UpsellViewController(Creation, Variant variant);
+    std::string_view typeName() const override { return "UpsellViewController"; }
+
+    Variant variant() const { return m_variant; }
+    const std::shared_ptr<UpsellViewModel>& upsellViewModel() const { return m_upsellViewModel; }
+
+    std::shared_ptr<UpsellViewControllerDelegate> delegate() const { return m_delegate.lock(); }
+    void setDelegate(std::weak_ptr<UpsellViewControllerDelegate> delegate) { m_delegate = std::move(delegate); }
+
+    void updateOptions(const std::vector<SubscriptionOption>& options) override;
+    std::optional<std::string> annualSubscriptionPriceForComparisonWithPromotionalPrice() const override;
+    void setAnnualSubscriptionPriceForComparisonWithPromotionalPrice(std::optional<std::string> price) override;
+    std::optional<std::string> monthlySubscriptionPriceForComparisonWithPromotionalPrice() const override;
+    void setMonthlySubscriptionPriceForComparisonWithPromotionalPrice(std::optional<std::string> price) override;
+
+    // A personalised header image on its way; while it is present when the view appears, a placeholder covers the paywall. Nobody
+    // in the module sets it.
+    std::optional<combine::AnyCancellable> imageDownloadTask;
+
+    void viewDidLoad() override;
+    void viewWillAppear(bool animated) override;
+
+private:
+    void start(const std::vector<SubscriptionOption>& subscriptionOptions);
+    void handle(const UpsellViewModel::TapEvent& event);
+    void cancel();
+    // Calls the operation on the delegate, if there is one.
+    void tell(void (UpsellViewControllerDelegate::*operation)(UpsellViewController&));
+
+    Variant m_variant;
+    std::shared_ptr<UpsellViewModel> m_upsellViewModel = std::make_shared<UpsellViewModel>();
+    combine::AnyCancellable m_upsellModelTapEventObserver;
+    std::weak_ptr<UpsellViewControllerDelegate> m_delegate;
+    std::shared_ptr<velauikit::EmptyStateView> m_emptyStateView = std::make_shared<velauikit::EmptyStateView>();
+};
+
+} // namespace proupsells

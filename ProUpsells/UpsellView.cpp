@@ -1,0 +1,116 @@
+#include "ProUpsells/UpsellView.hpp"
+
+#include "Platform/Foundation/Bundle.hpp"
+#include "Platform/SwiftUI/SwiftUI.hpp"
+#include "Platform/VelaUIKit/Colors.hpp"
+#include "ProUpsells/CallToActionTexts.hpp"
+#include "ProUpsells/ComparePlansButton.hpp"
+#include "ProUpsells/ContainerWithCloseButton.hpp"
+#include "ProUpsells/DisclaimerBlock.hpp"
+#include "ProUpsells/HeaderCarousel.hpp"
+#include "ProUpsells/HeaderImage.hpp"
+#include "ProUpsells/ImageResource.hpp"
+#include "ProUpsells/ResizableImage.hpp"
+#include "ProUpsells/SubscribeButton.hpp"
+#include "ProUpsells/SubscriptionOptions.hpp"
+
+namespace proupsells {
+
+using namespace swiftui;
+using foundation::localizedString;
+using TapEvent = UpsellViewModel::TapEvent;
+
+namespace {
+
+// What the paywall's parts share.
+struct Paywall {
+    std::shared_ptr<UpsellEnvironment> upsellEnvironment;
+    std::shared_ptr<UpsellViewModel> model;
+    std::shared_ptr<const std::vector<Page>> pages;
+    Binding<int> selectedIndex;
+    bool isLight = true;
+
+    View screen(double height) const;
+    View scrollingColumn(bool isCompact) const;
+    View column(bool isCompact) const;
+    View logo() const;
+    View subscribeButton() const;
+    View disclaimer(bool isCompact) const;
+};
+
+View Paywall::logo() const { return HeaderImage{} | frame(208, 26) | padding(Edge::top, 5) | padding(Edge::bottom, 0); }
+
+View Paywall::subscribeButton() const {
+    // Without any plan there is nothing to read the words from, and nothing to buy.
+    if (model->options->empty()) return SubscribeButton{.text = localizedString("Subscribe Now"), .isEnabled = false};
+    return SubscribeButton{.text = CallToActionTexts::subscribeButtonTitle(selectedOption(*model, selectedIndex.get())),
+                           .action = [model = model, index = selectedIndex] {
+                               model->tapEventOccurred.send({TapEvent::Purchase{selectedOption(*model, index.get())}});
+                           }};
+}
+
+View Paywall::disclaimer(bool isCompact) const {
+    std::optional<std::string> payment;
+    if (!model->options->empty())
+        payment = CallToActionTexts::paymentDisclaimer(selectedOption(*model, selectedIndex.get()), *model);
+    return VStack{.content = DisclaimerBlock{.payment = std::move(payment), .isCompact = isCompact, .model = model}};
+}
+
+View Paywall::column(bool isCompact) const {
+    return VStack{.content =
+                      {
+                          HeaderCarousel{pages} | fixedSize(false, true),
+                          logo(),
+                          ComparePlansButton{
+                              .text = localizedString(
+                                  "Compare Plans: Free vs Pro",
+                                  "When tapped, directs a user to a list of differences between the free and pro plans"),
+                              .action = [model = model] { model->tapEventOccurred.send({TapEvent::ComparePlans{}}); }},
+                          SubscriptionOptions{upsellEnvironment, model, selectedIndex} | padding(Edge::bottom, isCompact ? 0 : 10) |
+                              padding(Edge::horizontal) | foregroundStyle(velauikit::marwickContentAccent),
+                          subscribeButton() | padding(Edge::bottom, isCompact ? 0 : 5),
+                          disclaimer(isCompact),
+                      }} |
+           padding(Edge::top, isCompact ? 0 : -10) | padding(Edge::bottom, 80);
+}
+
+View Paywall::scrollingColumn(bool isCompact) const {
+    return ScrollView{.content = column(isCompact)} |
+           overlay(ResizableImage{image(ImageResource::termsGradient()), ContentMode::fit} | opacity(isLight ? 1 : 0) |
+                       allowsHitTesting(false),
+                   Alignment::bottom) |
+           ignoresSafeArea(Edge::bottom);
+}
+
+View Paywall::screen(double height) const {
+    const bool isCompact = height < 700;
+    return ContainerWithCloseButton{.closeButtonAction = [model = model] { model->tapEventOccurred.send({TapEvent::Cancel{}}); },
+                                    .contentView = [paywall = *this, isCompact] { return paywall.scrollingColumn(isCompact); }};
+}
+
+Page page(const ImageResource& resource, const char* title) {
+    return {.image = image(resource),
+            .title = localizedString(title, "This is a feature that comes with a Folio Pro subscription")};
+}
+
+} // namespace
+
+std::shared_ptr<const std::vector<Page>> UpsellView::defaultCarouselPageList() {
+    return std::make_shared<const std::vector<Page>>(std::vector<Page>{
+        page(ImageResource::paywallHeaderA(), "Endless premium templates, updated daily."),
+        page(ImageResource::paywallHeaderB(), "Thousands of photos, videos, graphics and fonts."),
+        page(ImageResource::paywallHeaderC(), "Remove photo backgrounds with one tap."),
+        page(ImageResource::paywallHeaderD(), "Grow your business with Custom Domains and Link in Bio."),
+    });
+}
+
+View UpsellView::body(BuildContext& context) const {
+    const Paywall paywall{.upsellEnvironment = context.environmentObject<UpsellEnvironment>(),
+                          .model = context.observe(model),
+                          .pages = carouselPageList,
+                          .selectedIndex = context.state(0),
+                          .isLight = context.environment().colorScheme == graphics::ColorScheme::light};
+    return GeometryReader{[paywall](const GeometryProxy& proxy) { return paywall.screen(proxy.size.height); }};
+}
+
+} // namespace proupsells

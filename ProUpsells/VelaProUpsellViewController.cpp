@@ -1,0 +1,151 @@
+#include "ProUpsells/VelaProUpsellViewController.hpp"
+
+#include <utility>
+
+#include "Platform/Commons/FatalError.hpp"
+#include "Platform/VelaUIKit/Navigation.hpp"
+#include "ProUpsells/ComparisonViewController.hpp"
+#include "ProUpsells/PromotionalPricingUpsell.hpp"
+#include "ProUpsells/Upsell View/UpsellViewController.hpp"
+
+namespace proupsells {
+
+namespace {
+
+constexpr geometry::Size formSheetSize{375, 800};
+
+} // namespace
+
+const std::string& eventScreenTitle(VelaProUpsellViewController::Variant) {
+    static const std::string title = "ProUpsell Phase 2: with Comparison List and Carousel Sept24";
+    return title;
+}
+
+std::shared_ptr<VelaProUpsellViewController> VelaProUpsellViewController::create(std::vector<SubscriptionOption> options,
+                                                                                 Variant variant, Referrer referrer,
+                                                                                 Entitlement entitlement, bool showLoginOnSuccess) {
+    return std::make_shared<VelaProUpsellViewController>(Creation{}, std::move(options), variant, std::move(referrer), entitlement,
+                                                         showLoginOnSuccess);
+}
+
+std::shared_ptr<VelaProUpsellViewController> VelaProUpsellViewController::create(const foundation::Coder&) {
+    commons::fatalError("init(coder:) has not been implemented");
+}
+
+VelaProUpsellViewController::VelaProUpsellViewController(Creation, std::vector<SubscriptionOption> options, Variant variant,
+                                                         Referrer referrer, Entitlement entitlement, bool showLoginOnSuccess)
+    : m_referrer(std::move(referrer)), m_variant(variant), m_entitlement(entitlement), m_options(std::move(options)),
+      m_showLoginOnSuccess(showLoginOnSuccess) {
+    setModalPresentationStyle(uikit::UIModalPresentationStyle::formSheet);
+    setPreferredContentSize(formSheetSize);
+}
+
+void VelaProUpsellViewController::viewDidLoad() {
+    UIViewController::viewDidLoad();
+    setModalPresentationStyle(uikit::UIModalPresentationStyle::formSheet);
+    setPreferredContentSize(formSheetSize);
+    embedPaywall();
+    passOnAnnualComparisonPrice();
+    passOnMonthlyComparisonPrice();
+}
+
+void VelaProUpsellViewController::embedPaywall() {
+    const auto upsell = UpsellViewController::create(m_options, UpsellViewController::Variant::comparisonPaywall);
+    upsell->setDelegate(uikit::weakReference(*this));
+    addChild(upsell);
+    view()->addSubview(upsell->view());
+    upsell->view()->fillSuperview();
+    upsell->didMoveToParent(this);
+}
+
+ProUpsellControllerType* VelaProUpsellViewController::paywall() const {
+    return children().empty() ? nullptr : dynamic_cast<ProUpsellControllerType*>(children().front().get());
+}
+
+void VelaProUpsellViewController::passOnAnnualComparisonPrice() {
+    if (auto* upsell = dynamic_cast<PromotionalPricingUpsell*>(paywall()))
+        upsell->setAnnualSubscriptionPriceForComparisonWithPromotionalPrice(m_annualComparisonPrice);
+}
+
+void VelaProUpsellViewController::passOnMonthlyComparisonPrice() {
+    if (auto* upsell = dynamic_cast<PromotionalPricingUpsell*>(paywall()))
+        upsell->setMonthlySubscriptionPriceForComparisonWithPromotionalPrice(m_monthlyComparisonPrice);
+}
+
+void VelaProUpsellViewController::setOptions(std::vector<SubscriptionOption> options) {
+    m_options = std::move(options);
+    if (auto* upsell = paywall()) upsell->updateOptions(m_options);
+}
+
+void VelaProUpsellViewController::setAnnualSubscriptionPriceForComparisonWithPromotionalPrice(std::optional<std::string> price) {
+    m_annualComparisonPrice = std::move(price);
+    passOnAnnualComparisonPrice();
+}
+
+void VelaProUpsellViewController::setMonthlySubscriptionPriceForComparisonWithPromotionalPrice(std::optional<std::string> price) {
+    m_monthlyComparisonPrice = std::move(price);
+    passOnMonthlyComparisonPrice();
+}
+
+void VelaProUpsellViewController::viewDidAppear(bool animated) {
+    UIViewController::viewDidAppear(animated);
+    if (const auto tracker = m_tracker.lock())
+        tracker->trackUpsellViewed(m_referrer, eventScreenTitle(m_variant), analyticsValue(m_entitlement));
+}
+
+// Delegates may let go of this controller from inside a call, so each operation holds it until it has ended.
+
+void VelaProUpsellViewController::upsellViewControllerDidContinueWith(UpsellViewController&, const SubscriptionOption& option) {
+    const auto self = uikit::strongReference(*this);
+    if (const auto delegate = m_delegate.lock()) delegate->proUpsellViewControllerDidContinueWith(*this, option);
+    if (const auto tracker = m_tracker.lock())
+        tracker->trackSubscriptionOptionSelected(option, m_referrer, eventScreenTitle(m_variant));
+    if (const auto tracker = m_tracker.lock())
+        tracker->trackPurchaseTapped(option, m_referrer, eventScreenTitle(m_variant), analyticsValue(m_entitlement));
+}
+
+void VelaProUpsellViewController::upsellViewControllerDidTapCancel(UpsellViewController&) {
+    const auto self = uikit::strongReference(*this);
+    if (const auto tracker = m_tracker.lock())
+        tracker->trackUpsellDismissed(m_referrer, eventScreenTitle(m_variant), analyticsValue(m_entitlement));
+}
+
+void VelaProUpsellViewController::upsellViewControllerDidTapRestoreButton(UpsellViewController&) {
+    const auto self = uikit::strongReference(*this);
+    if (const auto delegate = m_delegate.lock()) delegate->proUpsellViewControllerDidTapRestore(*this);
+    if (const auto tracker = m_tracker.lock()) tracker->trackRestoreTapped(m_referrer, eventScreenTitle(m_variant));
+}
+
+void VelaProUpsellViewController::upsellViewControllerDidTapWhatIsProButton(UpsellViewController&) {}
+
+void VelaProUpsellViewController::upsellViewControllerDidTapPrivacyPolicyButton(UpsellViewController&) {
+    const auto self = uikit::strongReference(*this);
+    if (const auto delegate = m_delegate.lock()) delegate->proUpsellViewControllerDidTapPrivacyPolicy(*this);
+    if (const auto tracker = m_tracker.lock()) tracker->trackPrivacyPolicyTapped(m_referrer, eventScreenTitle(m_variant));
+}
+
+void VelaProUpsellViewController::upsellViewControllerDidTapTermsOfServiceButton(UpsellViewController&) {
+    const auto self = uikit::strongReference(*this);
+    if (const auto delegate = m_delegate.lock()) delegate->proUpsellViewControllerDidTapTermsOfService(*this);
+    if (const auto tracker = m_tracker.lock()) tracker->trackTermsOfServiceTapped(m_referrer, eventScreenTitle(m_variant));
+}
+
+void VelaProUpsellViewController::upsellViewControllerDidTapTermsOfService(UpsellViewController& sender) {
+    upsellViewControllerDidTapTermsOfServiceButton(sender);
+}
+
+void VelaProUpsellViewController::upsellViewControllerDidTapComparePlans(UpsellViewController&) {
+    const auto self = uikit::strongReference(*this);
+    const auto comparison = std::make_shared<ComparisonViewController>();
+    comparison->setDelegate(uikit::weakReference(*this));
+    present(velauikit::embedInNavController(comparison), true);
+    if (const auto tracker = m_tracker.lock()) tracker->trackComparePlansTapped(m_referrer, eventScreenTitle(m_variant));
+}
+
+void VelaProUpsellViewController::comparisonViewControllerDidTapChooseYourPlan(ComparisonViewController& sender) {
+    sender.dismiss(true);
+}
+
+void VelaProUpsellViewController::comparisonViewControllerDidTapClose(ComparisonViewController& sender) { sender.dismiss(true); }
+
+} // namespace proupsells

@@ -1,0 +1,110 @@
+// The module's front door: the host creates it, sets a tracker and a delegate, and presents it.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Platform/Foundation/Coder.hpp"
+#include "Platform/UIKit/Controllers/UIViewController.hpp"
+#include "ProUpsells/ComparisonViewControllerDelegate.hpp"
+#include "ProUpsells/Entitlement.hpp"
+#include "ProUpsells/PersonalizedInfo.hpp"
+#include "ProUpsells/ProUpsellControllerType.hpp"
+#include "ProUpsells/ProUpsellEventTracker.hpp"
+#include "ProUpsells/Promotion.hpp"
+#include "ProUpsells/Referrer.hpp"
+#include "ProUpsells/Upsell View/UpsellViewControllerDelegate.hpp"
+#include "ProUpsells/VelaProUpsellViewControllerDelegate.hpp"
+
+namespace proupsells {
+
+// Embeds the paywall, forwards each of its actions to the delegate and reports it to the tracker; both are held weakly, and a
+// missing one skips its call and nothing else. Main thread only.
+class VelaProUpsellViewController : public uikit::UIViewController,
+                                    public UpsellViewControllerDelegate,
+                                    public ComparisonViewControllerDelegate {
+    struct Creation {};
+
+public:
+    using Referrer = proupsells::Referrer;
+    using Entitlement = proupsells::Entitlement;
+    using Promotion = proupsells::Promotion;
+    using PersonalizedInfo = proupsells::PersonalizedInfo;
+    enum class Variant : std::uint8_t { comparisonPaywall };
+
+    static std::shared_ptr<VelaProUpsellViewController> create(std::vector<SubscriptionOption> options, Variant variant,
+                                                               Referrer referrer, Entitlement entitlement, bool showLoginOnSuccess);
+    // Stops the program: "init(coder:) has not been implemented".
+    [[noreturn]] static std::shared_ptr<VelaProUpsellViewController> create(const foundation::Coder& coder);
+
+    VelaProUpsellViewController(Creation, std::vector<SubscriptionOption> options, Variant variant, Referrer referrer,
+                                Entitlement entitlement, bool showLoginOnSuccess);
+    std::string_view typeName() const override { return "VelaProUpsellViewController"; }
+
+    const Referrer& referrer() const { return m_referrer; }
+    Variant variant() const { return m_variant; }
+    Entitlement entitlement() const { return m_entitlement; }
+
+    std::shared_ptr<ProUpsellEventTracker> tracker() const { return m_tracker.lock(); }
+    void setTracker(std::weak_ptr<ProUpsellEventTracker> tracker) { m_tracker = std::move(tracker); }
+    std::shared_ptr<VelaProUpsellViewControllerDelegate> delegate() const { return m_delegate.lock(); }
+    void setDelegate(std::weak_ptr<VelaProUpsellViewControllerDelegate> delegate) { m_delegate = std::move(delegate); }
+
+    // What is set after the view has loaded reaches the paywall at once.
+    const std::vector<SubscriptionOption>& options() const { return m_options; }
+    void setOptions(std::vector<SubscriptionOption> options);
+    // Absent: no promotion, nothing to compare with.
+    const std::optional<std::string>& annualSubscriptionPriceForComparisonWithPromotionalPrice() const {
+        return m_annualComparisonPrice;
+    }
+    void setAnnualSubscriptionPriceForComparisonWithPromotionalPrice(std::optional<std::string> price);
+    const std::optional<std::string>& monthlySubscriptionPriceForComparisonWithPromotionalPrice() const {
+        return m_monthlyComparisonPrice;
+    }
+    void setMonthlySubscriptionPriceForComparisonWithPromotionalPrice(std::optional<std::string> price);
+
+    // Carried for the host; nothing here acts on it.
+    bool showLoginOnSuccess() const { return m_showLoginOnSuccess; }
+    void setShowLoginOnSuccess(bool shows) { m_showLoginOnSuccess = shows; }
+
+    void viewDidLoad() override;
+    void viewDidAppear(bool animated) override;
+
+    void upsellViewControllerDidContinueWith(UpsellViewController& sender, const SubscriptionOption& option) override;
+    void upsellViewControllerDidTapCancel(UpsellViewController& sender) override;
+    void upsellViewControllerDidTapRestoreButton(UpsellViewController& sender) override;
+    void upsellViewControllerDidTapWhatIsProButton(UpsellViewController& sender) override;
+    void upsellViewControllerDidTapPrivacyPolicyButton(UpsellViewController& sender) override;
+    void upsellViewControllerDidTapTermsOfServiceButton(UpsellViewController& sender) override;
+    // Does what the operation with the longer name does.
+    void upsellViewControllerDidTapTermsOfService(UpsellViewController& sender);
+    void upsellViewControllerDidTapComparePlans(UpsellViewController& sender) override;
+
+    void comparisonViewControllerDidTapChooseYourPlan(ComparisonViewController& sender) override;
+    void comparisonViewControllerDidTapClose(ComparisonViewController& sender) override;
+
+private:
+    void embedPaywall();
+    // The embedded paywall, looked up anew each time; null before the view has loaded.
+    ProUpsellControllerType* paywall() const;
+    void passOnAnnualComparisonPrice();
+    void passOnMonthlyComparisonPrice();
+
+    Referrer m_referrer;
+    Variant m_variant;
+    Entitlement m_entitlement;
+    std::weak_ptr<ProUpsellEventTracker> m_tracker;
+    std::weak_ptr<VelaProUpsellViewControllerDelegate> m_delegate;
+    std::vector<SubscriptionOption> m_options;
+    std::optional<std::string> m_annualComparisonPrice;
+    std::optional<std::string> m_monthlyComparisonPrice;
+    bool m_showLoginOnSuccess = true;
+};
+
+// The screen's name in analytics.
+const std::string& eventScreenTitle(VelaProUpsellViewController::Variant variant);
+
+} // namespace proupsells
