@@ -6,7 +6,8 @@
 
 namespace hosting {
 
-// Tells the node of its view's changes. The hosting view leaves it out when it paints, since the declarative tree paints what is on it.
+// Tells the node of its view's changes. The hosting view leaves it out when it paints, since the declarative tree paints what is on
+// it.
 class RepresentableStage final : public uikit::UIView {
 public:
     explicit RepresentableStage(swiftui::Node& node) : m_node(&node) {}

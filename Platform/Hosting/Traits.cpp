@@ -8,8 +8,9 @@ void adoptTraits(swiftui::EnvironmentValues& environment, const uikit::UITraitCo
     environment.contentSize = traits.preferredContentSizeCategory;
     environment.displayScale = traits.displayScale;
     environment.reduceMotion = traits.reduceMotion;
-    environment.horizontalSizeClass = traits.horizontalSizeClass == uikit::UIUserInterfaceSizeClass::compact ? swiftui::SizeClass::compact
-                                                                                                            : swiftui::SizeClass::regular;
+    environment.horizontalSizeClass = traits.horizontalSizeClass == uikit::UIUserInterfaceSizeClass::compact
+                                          ? swiftui::SizeClass::compact
+                                          : swiftui::SizeClass::regular;
 }
 
 uikit::UITraitCollection traitsOf(const swiftui::EnvironmentValues& environment) {
@@ -19,8 +20,9 @@ uikit::UITraitCollection traitsOf(const swiftui::EnvironmentValues& environment)
     traits.preferredContentSizeCategory = environment.contentSize;
     traits.displayScale = environment.displayScale;
     traits.reduceMotion = environment.reduceMotion;
-    traits.horizontalSizeClass = environment.horizontalSizeClass == swiftui::SizeClass::compact ? uikit::UIUserInterfaceSizeClass::compact
-                                                                                                : uikit::UIUserInterfaceSizeClass::regular;
+    traits.horizontalSizeClass = environment.horizontalSizeClass == swiftui::SizeClass::compact
+                                     ? uikit::UIUserInterfaceSizeClass::compact
+                                     : uikit::UIUserInterfaceSizeClass::regular;
     return traits;
 }
 

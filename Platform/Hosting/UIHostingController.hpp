@@ -15,16 +15,15 @@ public:
     static std::shared_ptr<UIHostingController> create(std::function<swiftui::View()> root);
     // Shows `value`, which must be copyable.
     template <class Value>
-        requires(swiftui::CompositeView<Value> || swiftui::PrimitiveView<Value>)
-    static std::shared_ptr<UIHostingController> create(Value value) {
+    requires(swiftui::CompositeView<Value> ||
+             swiftui::PrimitiveView<Value>) static std::shared_ptr<UIHostingController> create(Value value) {
         return create(std::function<swiftui::View()>([value = std::move(value)]() -> swiftui::View { return Value(value); }));
     }
     std::string_view typeName() const override { return "UIHostingController"; }
 
     void setRootView(std::function<swiftui::View()> root);
     template <class Value>
-        requires(swiftui::CompositeView<Value> || swiftui::PrimitiveView<Value>)
-    void setRootView(Value value) {
+    requires(swiftui::CompositeView<Value> || swiftui::PrimitiveView<Value>) void setRootView(Value value) {
         setRootView(std::function<swiftui::View()>([value = std::move(value)]() -> swiftui::View { return Value(value); }));
     }
     // Loads the view on first use.

@@ -30,7 +30,8 @@ std::shared_ptr<UIHostingView> UIHostingView::create(std::function<swiftui::View
     });
     // Only constraints ask for the natural size; a view that is given its frame keeps it whatever the content wants.
     view->m_host->setLayoutHandler([self] {
-        if (const auto held = self.lock(); held && !held->translatesAutoresizingMaskIntoConstraints()) held->invalidateIntrinsicContentSize();
+        if (const auto held = self.lock(); held && !held->translatesAutoresizingMaskIntoConstraints())
+            held->invalidateIntrinsicContentSize();
     });
     return view;
 }

@@ -9,9 +9,9 @@
 
 namespace hosting {
 
-// Gives the tree its size, safe area, environment and touches, and shows its picture and its semantics. The tree counts as visible while
-// the view is in a window and nobody has said that it is not shown. Views of the retained layer inside the tree are subviews of this one;
-// the tree paints them where they stand.
+// Gives the tree its size, safe area, environment and touches, and shows its picture and its semantics. The tree counts as visible
+// while the view is in a window and nobody has said that it is not shown. Views of the retained layer inside the tree are subviews
+// of this one; the tree paints them where they stand.
 class UIHostingView : public uikit::UIView {
     struct Creation {};
 

@@ -13,9 +13,9 @@
 //         swiftui::Element* makeElement() && { return hosting::newRepresentable(std::move(*this)); }
 //     };
 //
-// The view is made once, when the value first comes into the tree, and brought up to date with every newer value. It is as large as its
-// natural size, or as it is offered where it has none; it inherits the environment of its place as traits; touches on it are its own until a
-// scroll view around it claims them.
+// The view is made once, when the value first comes into the tree, and brought up to date with every newer value. It is as large as
+// its natural size, or as it is offered where it has none; it inherits the environment of its place as traits; touches on it are
+// its own until a scroll view around it claims them.
 #pragma once
 
 #include "Platform/Hosting/RepresentableNode.hpp"
@@ -26,7 +26,9 @@ struct NoCoordinator {};
 
 namespace detail {
 template <class Value>
-concept HasCoordinator = requires(const Value& value) { value.makeCoordinator(); };
+concept HasCoordinator = requires(const Value& value) {
+    value.makeCoordinator();
+};
 
 template <class Value>
 struct CoordinatorOf {

@@ -10,7 +10,8 @@ public:
     virtual ~PresentationObserver() = default;
 
     // `size` is the one that the controller will have.
-    virtual void willPresent(UIViewController& controller, UIViewController& content, UIModalPresentationStyle style, geometry::Size size) = 0;
+    virtual void willPresent(UIViewController& controller, UIViewController& content, UIModalPresentationStyle style,
+                             geometry::Size size) = 0;
     virtual void willDismiss(UIViewController& controller, UIViewController& content) = 0;
 };
 

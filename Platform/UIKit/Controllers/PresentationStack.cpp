@@ -17,7 +17,8 @@ void PresentationStack::present(UIViewController& presenter, const std::shared_p
     kept->m_isBeingPresented = true;
     presenter.m_presented = kept;
     if (const auto observer = m_observer.lock())
-        observer->willPresent(*kept, kept->contentViewController(), kept->modalPresentationStyle(), kept->expectedFrame(m_window).size);
+        observer->willPresent(*kept, kept->contentViewController(), kept->modalPresentationStyle(),
+                              kept->expectedFrame(m_window).size);
     m_waiting.push_back({Kind::presentation, kept, weakReference(presenter), animated, std::move(completion)});
     runWaiting();
 }
@@ -68,7 +69,8 @@ bool PresentationStack::beginPresentation(const Operation& operation) {
     const auto presenter = operation.presenter.lock();
     if (!presenter || presenter->window() != &m_window) {
         commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity,
-                                             "UIViewController - the presenter of " + std::string(operation.controller->typeName()) +
+                                             "UIViewController - the presenter of " +
+                                                 std::string(operation.controller->typeName()) +
                                                  " is in no window; the presentation is ignored",
                                              "present(_:animated:completion:)");
         forget(*operation.controller);

@@ -4,14 +4,14 @@
 #include <deque>
 #include <utility>
 
+#include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Platform/UIKit/Controllers/PresentationObserver.hpp"
 #include "Platform/UIKit/Controllers/UIPresentationView.hpp"
-#include "Platform/RunLoop/MainRunLoop.hpp"
 
 namespace uikit {
 
-// One presentation or dismissal is on its way at a time; what is asked for meanwhile, from inside any callback too, waits for it. One that is
-// not animated is over before the next one begins, in the same turn.
+// One presentation or dismissal is on its way at a time; what is asked for meanwhile, from inside any callback too, waits for it.
+// One that is not animated is over before the next one begins, in the same turn.
 class PresentationStack {
 public:
     explicit PresentationStack(UIWindow& window) : m_window(window) {}
@@ -19,7 +19,8 @@ public:
     PresentationStack(const PresentationStack&) = delete;
 
     // `presenter` is an outermost parent.
-    void present(UIViewController& presenter, const std::shared_ptr<UIViewController>& controller, bool animated, std::function<void()> completion);
+    void present(UIViewController& presenter, const std::shared_ptr<UIViewController>& controller, bool animated,
+                 std::function<void()> completion);
     // `base` and all that stands on it.
     void dismiss(UIViewController& base, bool animated, std::function<void()> completion);
     // At once, and without whatever waits.
@@ -28,7 +29,9 @@ public:
     bool isTransitioning() const { return m_current || !m_waiting.empty(); }
     // Null when nothing is presented.
     UIViewController* frontMost() const { return m_presentations.empty() ? nullptr : m_presentations.back().controller.get(); }
-    const UIPresentationView* frontMostView() const { return m_presentations.empty() ? nullptr : m_presentations.back().view.get(); }
+    const UIPresentationView* frontMostView() const {
+        return m_presentations.empty() ? nullptr : m_presentations.back().view.get();
+    }
     void setObserver(std::weak_ptr<PresentationObserver> observer) { m_observer = std::move(observer); }
 
 private:

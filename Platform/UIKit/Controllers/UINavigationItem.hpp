@@ -9,7 +9,7 @@
 namespace uikit {
 
 struct UINavigationItem {
-    std::string title; // empty: the controller's title
+    std::string title;                                 // empty: the controller's title
     std::optional<UIBarButtonItem> rightBarButtonItem; // stands at the trailing end
 };
 

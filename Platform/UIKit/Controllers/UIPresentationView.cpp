@@ -9,7 +9,8 @@ class UIPresentationCard final : public UIView {
 public:
     static constexpr double cornerRadius = 12;
 
-    UIPresentationCard(const UIPresentationView& stage, std::shared_ptr<UIView> content) : m_stage(stage), m_content(std::move(content)) {
+    UIPresentationCard(const UIPresentationView& stage, std::shared_ptr<UIView> content)
+        : m_stage(stage), m_content(std::move(content)) {
         addSubview(m_content);
     }
     std::string_view typeName() const override { return "UIPresentationCard"; }
@@ -101,7 +102,7 @@ bool UIPresentationView::covers(const geometry::Rect& rect) const {
 
 void UIPresentationView::draw(graphics::PaintContext& context, const graphics::PaintState& state) const {
     constexpr double dimming = 0.4;
-    if (m_style == UIModalPresentationStyle::fullScreen) return;
+    if (m_style == UIModalPresentationStyle::fullScreen || covers(bounds())) return;
     context.fillRectangle(state.fadedBy(dimming * progress()), bounds(), UIColor::black.resolved(state.scheme));
 }
 

@@ -8,8 +8,8 @@ namespace uikit {
 
 class UIPresentationCard;
 
-// Fills the window. Its layout is the final one from the start; only the picture moves, as a function of time. Where motion is to be
-// reduced the card fades instead.
+// Fills the window. Its layout is the final one from the start; only the picture moves, as a function of time. Where motion is to
+// be reduced the card fades instead.
 class UIPresentationView final : public UIView {
 public:
     static constexpr motion::Animation transition{motion::TimingCurve::easeInOut(), 0.5, 0};

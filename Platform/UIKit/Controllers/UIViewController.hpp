@@ -13,8 +13,8 @@ namespace uikit {
 
 class UINavigationController;
 
-// Made with std::make_shared, or with the static `create` of classes whose making needs a weak reference to the new controller. Parents own
-// children, presenters own what they present, a controller owns its view.
+// Made with std::make_shared, or with the static `create` of classes whose making needs a weak reference to the new controller.
+// Parents own children, presenters own what they present, a controller owns its view.
 class UIViewController : public UIResponder {
 public:
     UIViewController() = default;
@@ -58,8 +58,8 @@ public:
     UIViewController* parent() const { return m_parent; }
     // In the order in which they were added.
     const std::vector<std::shared_ptr<UIViewController>>& children() const { return m_children; }
-    // Takes the child from its former parent and tells it that it will move; telling it that it did (didMoveToParent) is the caller's. A
-    // child appears and disappears with its view, as far as this controller appears.
+    // Takes the child from its former parent and tells it that it will move; telling it that it did (didMoveToParent) is the
+    // caller's. A child appears and disappears with its view, as far as this controller appears.
     void addChild(const std::shared_ptr<UIViewController>& child);
     // Tells the controller that it did move. Telling it before (willMoveToParent(nullptr)) is the caller's.
     void removeFromParent();
@@ -78,12 +78,12 @@ public:
     geometry::Size preferredContentSize() const { return m_preferredContentSize; }
     void setPreferredContentSize(geometry::Size size) { m_preferredContentSize = size; }
 
-    // Shows `controller` over the window, on behalf of this controller's outermost parent, which must be in a window. Ignored with one
-    // log line when that parent presents already, or is in no window. While another presentation or dismissal is on its way, this one
-    // waits for it. `completion` runs after viewDidAppear.
+    // Shows `controller` over the window, on behalf of this controller's outermost parent, which must be in a window. Ignored with
+    // one log line when that parent presents already, or is in no window. While another presentation or dismissal is on its way,
+    // this one waits for it. `completion` runs after viewDidAppear.
     void present(const std::shared_ptr<UIViewController>& controller, bool animated, std::function<void()> completion = {});
-    // Takes away what this controller or one of its parents presents, with all that stands on it; if they present nothing, takes away the
-    // presented one of them itself. Waits like `present`. Does nothing where nothing is presented.
+    // Takes away what this controller or one of its parents presents, with all that stands on it; if they present nothing, takes
+    // away the presented one of them itself. Waits like `present`. Does nothing where nothing is presented.
     void dismiss(bool animated, std::function<void()> completion = {});
 
     // What this controller or one of its parents presents; null for none. Stays until it has gone.

@@ -31,8 +31,8 @@ bool UIViewController::viewStandsIn(const UIViewController& parent) const {
     return m_view && parent.m_view && m_view->isDescendantOf(*parent.m_view);
 }
 
-// A parent is told before its children, when it begins as well as when it ends. A child whose view arrives while the parent is half-way is
-// brought half-way as well, and goes the rest of the way with it.
+// A parent is told before its children, when it begins as well as when it ends. A child whose view arrives while the parent is
+// half-way is brought half-way as well, and goes the rest of the way with it.
 void UIViewController::beginAppearance(bool appearing, bool animated) {
     const bool isShown = m_appearance == Appearance::appearing || m_appearance == Appearance::appeared;
     if (appearing == isShown) return;

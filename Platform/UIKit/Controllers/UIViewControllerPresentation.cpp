@@ -10,7 +10,8 @@ namespace {
 
 void logIgnored(const UIViewController& controller, std::string_view reason) {
     commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity,
-                                         "UIViewController - presenting " + std::string(controller.typeName()) + " is ignored: " + std::string(reason),
+                                         "UIViewController - presenting " + std::string(controller.typeName()) +
+                                             " is ignored: " + std::string(reason),
                                          "present(_:animated:completion:)");
 }
 
@@ -23,13 +24,15 @@ std::shared_ptr<UIWindow> UIViewController::windowForPresenting() const {
     return current ? strongReference(*current) : nullptr;
 }
 
-void UIViewController::present(const std::shared_ptr<UIViewController>& controller, bool animated, std::function<void()> completion) {
+void UIViewController::present(const std::shared_ptr<UIViewController>& controller, bool animated,
+                               std::function<void()> completion) {
     if (!controller) commons::fatalError("UIViewController: there is no controller to present");
     UIViewController& presenter = outermostParent();
     const auto window = presenter.windowForPresenting();
     if (!window) return logIgnored(*controller, "its presenter is in no window");
     if (presenter.m_presented && !presenter.m_presented->m_isBeingDismissed)
-        return logIgnored(*controller, std::string(presenter.typeName()) + " is presenting " + std::string(presenter.m_presented->typeName()));
+        return logIgnored(*controller,
+                          std::string(presenter.typeName()) + " is presenting " + std::string(presenter.m_presented->typeName()));
     if (controller->m_parent || !controller->m_presenting.expired() || controller->window())
         return logIgnored(*controller, "it is shown already");
     window->presentations().present(presenter, controller, animated, std::move(completion));
@@ -44,7 +47,8 @@ void UIViewController::dismiss(bool animated, std::function<void()> completion) 
         if (outermost.m_presenting.expired() || outermost.m_isBeingDismissed) return;
         presented = &outermost;
     }
-    if (const auto window = presented->m_expectedWindow.lock()) window->presentations().dismiss(*presented, animated, std::move(completion));
+    if (const auto window = presented->m_expectedWindow.lock())
+        window->presentations().dismiss(*presented, animated, std::move(completion));
 }
 
 UIViewController* UIViewController::presentedViewController() const {

@@ -51,7 +51,8 @@ void UIWindow::layoutSubviews() {
 void UIWindow::setTraits(const UITraitCollection& traits) { adoptWindowTraits(traits); }
 
 void UIWindow::adoptWindowTraits(UITraitCollection traits) {
-    traits.horizontalSizeClass = frame().width() < regularWidth ? UIUserInterfaceSizeClass::compact : UIUserInterfaceSizeClass::regular;
+    traits.horizontalSizeClass =
+        frame().width() < regularWidth ? UIUserInterfaceSizeClass::compact : UIUserInterfaceSizeClass::regular;
     m_windowTraits = traits;
     const auto kept = strongReference(*this);
     m_traits = traits;
@@ -77,7 +78,9 @@ UIViewController* UIWindow::frontMostViewController() const {
 
 bool UIWindow::isTransitioning() const { return m_presentations->isTransitioning(); }
 
-void UIWindow::setPresentationObserver(std::weak_ptr<PresentationObserver> observer) { m_presentations->setObserver(std::move(observer)); }
+void UIWindow::setPresentationObserver(std::weak_ptr<PresentationObserver> observer) {
+    m_presentations->setObserver(std::move(observer));
+}
 
 // --- Updates ---
 

@@ -71,8 +71,8 @@ void UIWindow::paintFocusRing(graphics::PaintContext& context) {
     constexpr UIColor ring{"focusRing", graphics::rgb(0x0A7C78), graphics::rgb(0x3CCBC1)};
     constexpr double distance = 2, width = 2, radius = 6;
     const graphics::PaintState state = windowState();
-    context.strokeRoundedRectangle(state, controls[*m_focus].frame.insetBy(-distance, -distance), radius, geometry::CornerStyle::continuous, width,
-                                   tintColor().value_or(ring).resolved(state.scheme));
+    context.strokeRoundedRectangle(state, controls[*m_focus].frame.insetBy(-distance, -distance), radius,
+                                   geometry::CornerStyle::continuous, width, tintColor().value_or(ring).resolved(state.scheme));
 }
 
 } // namespace uikit

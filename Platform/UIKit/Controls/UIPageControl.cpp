@@ -55,8 +55,8 @@ void UIPageControl::touchesEnded(const UITouch& touch) {
 
 std::string UIPageControl::accessibilityValue() const {
     if (m_numberOfPages == 0) return {};
-    const std::string& sentence =
-        foundation::localizedString("page %1$@ of %2$@", "Spoken value of a page indicator: the current page and the number of pages");
+    const std::string& sentence = foundation::localizedString(
+        "page %1$@ of %2$@", "Spoken value of a page indicator: the current page and the number of pages");
     return foundation::format(sentence, {std::to_string(m_currentPage + 1), std::to_string(m_numberOfPages)});
 }
 

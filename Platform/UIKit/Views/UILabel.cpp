@@ -74,7 +74,8 @@ void UILabel::setPreferredMaxLayoutWidth(double width) {
 
 void UILabel::contentDidChange() {
     m_runs.clear();
-    for (const graphics::AttributedRun& run : m_content.runs()) m_runs.push_back({run.text, run.attributes.font, run.attributes.kern});
+    for (const graphics::AttributedRun& run : m_content.runs())
+        m_runs.push_back({run.text, run.attributes.font, run.attributes.kern});
     if (m_runs.empty()) m_runs.push_back({{}, m_attributes.font, 0});
     invalidateIntrinsicContentSize();
     setNeedsDisplay();
@@ -131,8 +132,8 @@ void UILabel::draw(graphics::PaintContext& context, const graphics::PaintState& 
         paints.push_back({run.attributes.color.resolved(state.scheme), run.attributes.isStruckThrough});
     const auto text = shapedText();
     const double top = bounds().midY() - layout.size.height / 2;
-    graphics::paintTextLayout(context, state, layout, text, ellipsis(), {{bounds().minX(), top}, {bounds().width(), layout.size.height}}, m_alignment,
-                              paints);
+    graphics::paintTextLayout(context, state, layout, text, ellipsis(),
+                              {{bounds().minX(), top}, {bounds().width(), layout.size.height}}, m_alignment, paints);
 }
 
 void UILabel::describe(accessibility::Node& node, const graphics::PaintState&) const {
@@ -149,8 +150,9 @@ void UILabel::describe(accessibility::Node& node, const graphics::PaintState&) c
     info.isTruncated = layout.isTruncated;
     if (m_content.runs().size() > 1)
         for (const graphics::AttributedRun& run : m_content.runs())
-            info.runs.push_back({run.text, std::string(nameOf(run.attributes.font)), run.attributes.font.size, run.attributes.font.weightOption,
-                                 std::string(run.attributes.color.name), run.attributes.isStruckThrough});
+            info.runs.push_back({run.text, std::string(nameOf(run.attributes.font)), run.attributes.font.size,
+                                 run.attributes.font.weightOption, std::string(run.attributes.color.name),
+                                 run.attributes.isStruckThrough});
     node.text = std::move(info);
 }
 

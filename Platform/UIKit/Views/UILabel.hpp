@@ -7,7 +7,8 @@
 
 namespace uikit {
 
-// Plain text in one font and colour, or attributed text. Stands vertically centred in its bounds; what does not fit is cut with "…".
+// Plain text in one font and colour, or attributed text. Stands vertically centred in its bounds; what does not fit is cut with
+// "…".
 class UILabel : public UIView {
 public:
     UILabel();

@@ -40,8 +40,8 @@ public:
     virtual void touchesCancelled(const UITouch& touch);
 };
 
-// A weak reference of the static type, for closures that must not keep `responder` alive. Empty for one without a shared owner, which
-// includes every object whose constructor is still running.
+// A weak reference of the static type, for closures that must not keep `responder` alive. Empty for one without a shared owner,
+// which includes every object whose constructor is still running.
 template <class Responder>
 std::weak_ptr<Responder> weakReference(Responder& responder) {
     return std::static_pointer_cast<Responder>(responder.weak_from_this().lock());

@@ -74,7 +74,8 @@ geometry::Size UIStackView::sizeThatFits(const geometry::ProposedSize& proposal)
 }
 
 std::vector<double> UIStackView::lengths(const std::vector<UIView*>& views, double room, double across) const {
-    if (m_distribution == Distribution::fillEqually) return std::vector<double>(views.size(), std::max(0.0, room / double(views.size())));
+    if (m_distribution == Distribution::fillEqually)
+        return std::vector<double>(views.size(), std::max(0.0, room / double(views.size())));
     std::vector<double> lengths;
     double left = room;
     for (const UIView* view : views) {
@@ -112,7 +113,8 @@ void UIStackView::layoutSubviews() {
     const std::vector<double> lengths = this->lengths(views, room, across);
     double position = 0;
     for (std::size_t i = 0; i < views.size(); ++i) {
-        const double thickness = m_alignment == Alignment::fill ? across : std::min(across, acrossOf(naturalSize(*views[i], std::nullopt)));
+        const double thickness =
+            m_alignment == Alignment::fill ? across : std::min(across, acrossOf(naturalSize(*views[i], std::nullopt)));
         const double free = across - thickness;
         double offset = m_alignment == Alignment::center ? free / 2 : m_alignment == Alignment::trailing ? free : 0;
         if (m_axis == Axis::horizontal) {

@@ -9,7 +9,8 @@ namespace uikit {
 class UIStackView : public UIView {
 public:
     enum class Distribution {
-        fill,        // natural lengths; what is left over goes to the view that hugs least, what is missing is taken from the one that resists least
+        fill, // natural lengths; what is left over goes to the view that hugs least, what is missing is taken from the one that
+              // resists least
         fillEqually, // all of the same length
     };
     enum class Alignment { fill, leading, center, trailing }; // across; leading is a row's top

@@ -21,7 +21,9 @@ struct UITraitCollection {
     UIUserInterfaceSizeClass horizontalSizeClass = UIUserInterfaceSizeClass::compact;
 
     // Whether colours may resolve to other values.
-    bool hasDifferentColorAppearance(const UITraitCollection& other) const { return userInterfaceStyle != other.userInterfaceStyle; }
+    bool hasDifferentColorAppearance(const UITraitCollection& other) const {
+        return userInterfaceStyle != other.userInterfaceStyle;
+    }
     bool operator==(const UITraitCollection&) const = default;
 };
 

@@ -32,7 +32,8 @@ public:
     UIView* superview() const { return m_superview; }
     // Back to front.
     const std::vector<std::shared_ptr<UIView>>& subviews() const { return m_subviews; }
-    // In front of all others. A view that stands somewhere else is moved. Adding a view to itself or to one inside it stops the program.
+    // In front of all others. A view that stands somewhere else is moved. Adding a view to itself or to one inside it stops the
+    // program.
     void addSubview(const std::shared_ptr<UIView>& view);
     void insertSubview(const std::shared_ptr<UIView>& view, std::size_t index);
     // `sibling` must be a subview; otherwise stops the program.
@@ -156,8 +157,8 @@ public:
     // The front-most view at `point`, in this view's coordinates, that takes touches; null for none.
     virtual UIView* hitTest(geometry::Point point);
     virtual bool pointInside(geometry::Point point) const { return bounds().contains(point); }
-    // Asked, from the touched view outwards, for the first touch and for each of its moves: true takes the touch away from the view that
-    // has it, which is told that it was cancelled.
+    // Asked, from the touched view outwards, for the first touch and for each of its moves: true takes the touch away from the view
+    // that has it, which is told that it was cancelled.
     virtual bool takesOverTouch(const UITouch&) { return false; }
     // Whether scrollRectToVisible moves something here.
     virtual bool scrollsItsContent() const { return false; }

@@ -1,6 +1,6 @@
 // Where views stand, and which of them is at a point.
-#include "Platform/UIKit/Views/UIView.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
+#include "Platform/UIKit/Views/UIView.hpp"
 
 namespace uikit {
 

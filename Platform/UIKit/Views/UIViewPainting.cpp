@@ -43,12 +43,14 @@ void UIView::paintSubviews(graphics::PaintContext& context, const graphics::Pain
 bool UIView::covers(const geometry::Rect& rect) const {
     if (m_isHidden || presentationAlpha() < 1 || !presentationTransform().isIdentity()) return false;
     const geometry::Rect all = bounds();
-    const bool isInside = rect.minX() >= all.minX() && rect.minY() >= all.minY() && rect.maxX() <= all.maxX() && rect.maxY() <= all.maxY();
+    const bool isInside =
+        rect.minX() >= all.minX() && rect.minY() >= all.minY() && rect.maxX() <= all.maxX() && rect.maxY() <= all.maxY();
     const bool fillsBounds = m_backgroundColor && resolved(*m_backgroundColor).alpha == 255 && m_cornerRadius == 0;
     if (isInside && fillsBounds) return true;
     if (m_clipsToBounds && (!isInside || m_cornerRadius > 0)) return false;
     for (const auto& subview : m_subviews)
-        if (subview->m_transform.isIdentity() && subview->covers(rect.offsetBy(subview->m_boundsOrigin - subview->m_frame.origin))) return true;
+        if (subview->m_transform.isIdentity() && subview->covers(rect.offsetBy(subview->m_boundsOrigin - subview->m_frame.origin)))
+            return true;
     return false;
 }
 

@@ -1,0 +1,287 @@
+#include "Tests/UIKit/Screen.hpp"
+
+#include "Platform/Motion/TimingCurve.hpp"
+
+namespace uikit {
+namespace {
+
+using geometry::Point;
+using geometry::Rect;
+using geometry::Size;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// --- Frames ---
+
+struct FrameCase {
+    UIModalPresentationStyle style;
+    Size window;
+    Rect frame;
+};
+
+TEST(PresentationFrame, FillsNarrowWindowsAndStandsInWideOnes) {
+    using enum UIModalPresentationStyle;
+    const std::vector<FrameCase> cases = {
+        {formSheet, {320, 568}, {{0, 0}, {320, 568}}},          {formSheet, {375, 667}, {{0, 0}, {375, 667}}},
+        {formSheet, {375, 800}, {{0, 0}, {375, 800}}},          {formSheet, {414, 896}, {{0, 0}, {414, 896}}},
+        {formSheet, {599.9, 900}, {{0, 0}, {599.9, 900}}},      {formSheet, {600, 900}, {{112.5, 50}, {375, 800}}},
+        {formSheet, {744, 1133}, {{184.5, 166.5}, {375, 800}}}, {formSheet, {1133, 744}, {{379, 0}, {375, 744}}},
+        {pageSheet, {375, 800}, {{0, 0}, {375, 800}}},          {automatic, {599.9, 800}, {{0, 0}, {599.9, 800}}},
+        {automatic, {600, 800}, {{0, 20}, {600, 780}}},         {pageSheet, {744, 1133}, {{20, 20}, {704, 1113}}},
+        {pageSheet, {1133, 744}, {{214.5, 20}, {704, 724}}},    {fullScreen, {1133, 744}, {{0, 0}, {1133, 744}}},
+    };
+    for (const FrameCase& one : cases) {
+        SCOPED_TRACE(testing::Message() << presentationStyleName(one.style) << " in " << one.window.width << " x "
+                                        << one.window.height);
+        EXPECT_EQ(presentationFrame(one.style, {375, 800}, one.window), one.frame);
+    }
+}
+
+TEST(PresentationFrame, FormSheetsWithoutAPreferredSizeHaveOneAllTheSame) {
+    EXPECT_EQ(presentationFrame(UIModalPresentationStyle::formSheet, {}, {1000, 1000}), (Rect{{230, 190}, {540, 620}}));
+}
+
+// --- The course of a presentation ---
+
+class PresentationTest : public ScreenTest {
+protected:
+    PresentationTest() {
+        root = showRoot();
+        sheet = controller("sheet");
+        sheet->setModalPresentationStyle(UIModalPresentationStyle::formSheet);
+        sheet->setPreferredContentSize({375, 800});
+    }
+    // The vertical place of the presented view, as it is seen now.
+    double seenTop() { return window->semanticTree().frame.minY(); }
+
+    std::shared_ptr<RecordingController> root, sheet;
+};
+
+TEST_F(PresentationTest, AnAnimatedPresentationAppearsAtItsEnd) {
+    bool isComplete = false;
+
+    root->present(sheet, true, [&] { isComplete = true; });
+
+    EXPECT_THAT(takeCalls(), ElementsAre("sheet.didLoad", "sheet.willAppear"));
+    EXPECT_TRUE(window->isTransitioning());
+    EXPECT_TRUE(sheet->isBeingPresented());
+    bed.runUntil(transition_s - 0.001);
+    EXPECT_THAT(takeCalls(), IsEmpty());
+    EXPECT_FALSE(isComplete);
+    bed.runUntil(transition_s);
+    EXPECT_THAT(takeCalls(), ElementsAre("sheet.didAppear"));
+    EXPECT_TRUE(isComplete);
+    EXPECT_FALSE(window->isTransitioning());
+    EXPECT_FALSE(sheet->isBeingPresented());
+    EXPECT_EQ(root->presentedViewController(), sheet.get());
+    EXPECT_EQ(sheet->presentingViewController(), root.get());
+    EXPECT_EQ(window->frontMostViewController(), sheet.get());
+}
+
+TEST_F(PresentationTest, AnUnanimatedPresentationIsOverWhenTheCallReturns) {
+    root->present(sheet, false, [&] { calls.push_back("complete"); });
+
+    EXPECT_THAT(takeCalls(), ElementsAre("sheet.didLoad", "sheet.willAppear", "sheet.didAppear", "complete"));
+
+    sheet->dismiss(false, [&] { calls.push_back("complete"); });
+
+    EXPECT_THAT(takeCalls(), ElementsAre("sheet.willDisappear", "sheet.didDisappear", "complete"));
+    EXPECT_EQ(window->frontMostViewController(), root.get());
+    EXPECT_EQ(root->presentedViewController(), nullptr);
+    EXPECT_EQ(sheet->presentingViewController(), nullptr);
+}
+
+TEST_F(PresentationTest, SlidesInByTheCurve) {
+    root->present(sheet, true);
+
+    EXPECT_NEAR(seenTop(), 800, 1e-9);
+    bed.runUntil(0.125);
+    EXPECT_NEAR(seenTop(), 800 * (1 - motion::TimingCurve::easeInOut().valueAt(0.25)), 1e-9);
+    bed.runUntil(0.25);
+    EXPECT_NEAR(seenTop(), 400, 1e-6);
+    bed.runUntil(0.5);
+    EXPECT_EQ(seenTop(), 0);
+}
+
+TEST_F(PresentationTest, SlidesOutAndIsGone) {
+    root->present(sheet, false);
+    takeCalls();
+
+    sheet->dismiss(true);
+
+    EXPECT_THAT(takeCalls(), ElementsAre("sheet.willDisappear"));
+    EXPECT_TRUE(sheet->isBeingDismissed());
+    bed.runUntil(0.25);
+    EXPECT_NEAR(seenTop(), 400, 1e-6);
+    bed.runUntil(0.5);
+    EXPECT_THAT(takeCalls(), ElementsAre("sheet.didDisappear"));
+    EXPECT_FALSE(sheet->isBeingDismissed());
+    EXPECT_EQ(window->subviews().size(), 1u);
+}
+
+TEST_F(PresentationTest, FadesWhereMotionIsToBeReduced) {
+    window->setTraits({.reduceMotion = true});
+    root->present(sheet, true);
+    bed.runUntil(0.25);
+
+    const accessibility::Node tree = window->semanticTree();
+
+    EXPECT_EQ(tree.frame.minY(), 0);
+    EXPECT_NEAR(tree.opacity, 0.5, 1e-6);
+}
+
+TEST_F(PresentationTest, AnimatesOnlyUntilItsEnd) {
+    EXPECT_FALSE(window->isAnimating());
+    root->present(sheet, true);
+    EXPECT_TRUE(window->isAnimating());
+    bed.runUntil(transition_s);
+    EXPECT_FALSE(window->isAnimating());
+}
+
+TEST_F(PresentationTest, ASheetTellsThePresenterNothingAndAFullScreenOneDoes) {
+    root->present(sheet, false);
+    sheet->dismiss(false);
+    for (const std::string& call : takeCalls()) EXPECT_EQ(call.substr(0, 5), "sheet");
+
+    const auto full = controller("full");
+    full->setModalPresentationStyle(UIModalPresentationStyle::fullScreen);
+    root->present(full, true);
+    bed.runFor(transition_s);
+    EXPECT_THAT(takeCalls(),
+                ElementsAre("full.didLoad", "root.willDisappear", "full.willAppear", "full.didAppear", "root.didDisappear"));
+
+    full->dismiss(true);
+    bed.runFor(transition_s);
+    EXPECT_THAT(takeCalls(), ElementsAre("full.willDisappear", "root.willAppear", "root.didAppear", "full.didDisappear"));
+}
+
+TEST_F(PresentationTest, ThePresentersTimersGoOn) {
+    int ticks = 0;
+    const auto timer = bed.loop().scheduleRepeating(0.25, [&] { ++ticks; });
+    root->present(sheet, true);
+
+    bed.runUntil(1);
+
+    EXPECT_EQ(ticks, 4);
+    timer->invalidate();
+}
+
+TEST_F(PresentationTest, PresentingAgainAndAgainLeavesNothingBehind) {
+    std::weak_ptr<UIViewController> last;
+    for (int round = 0; round < 1000; ++round) {
+        auto next = controller("next");
+        last = next;
+        root->present(next, true);
+        bed.runFor(transition_s);
+        next->dismiss(true);
+        bed.runFor(transition_s);
+    }
+
+    EXPECT_TRUE(last.expired());
+    EXPECT_EQ(window->subviews().size(), 1u);
+    EXPECT_FALSE(bed.loop().nextDueTime_s().has_value());
+}
+
+// --- Place, picture and touches ---
+
+TEST_F(PresentationTest, AFormSheetStandsInTheMiddleOfALargeWindow) {
+    window->setSize({744, 1133}, {24, 0, 20, 0});
+
+    root->present(sheet, false);
+
+    EXPECT_EQ(window->semanticTree().frame, (Rect{{184.5, 166.5}, {375, 800}}));
+    EXPECT_EQ(sheet->view()->safeAreaInsets(), geometry::PhysicalInsets{});
+    EXPECT_EQ(sheet->traitCollection().horizontalSizeClass, UIUserInterfaceSizeClass::compact);
+    EXPECT_EQ(root->traitCollection().horizontalSizeClass, UIUserInterfaceSizeClass::regular);
+}
+
+TEST_F(PresentationTest, APresentedViewKnowsItsSafeAreaAndTraitsBeforeItLoads) {
+    window->setSize({375, 800}, {20, 0, 34, 0});
+    window->setTraits({.userInterfaceStyle = graphics::ColorScheme::dark});
+    geometry::PhysicalInsets safeArea;
+    UITraitCollection traits;
+    sheet->onDidLoad = [&] {
+        safeArea = sheet->view()->safeAreaInsets();
+        traits = sheet->traitCollection();
+    };
+
+    root->present(sheet, true);
+
+    EXPECT_EQ(safeArea, (geometry::PhysicalInsets{20, 0, 34, 0}));
+    EXPECT_EQ(traits.userInterfaceStyle, graphics::ColorScheme::dark);
+    EXPECT_EQ(sheet->view()->safeAreaInsets(), safeArea);
+}
+
+TEST_F(PresentationTest, AResizedWindowMovesTheSheet) {
+    root->present(sheet, false);
+    window->setSize({744, 1133}, {});
+    EXPECT_EQ(window->semanticTree().frame, (Rect{{184.5, 166.5}, {375, 800}}));
+    window->setSize({320, 568}, {});
+    EXPECT_EQ(window->semanticTree().frame, (Rect{{0, 0}, {320, 568}}));
+}
+
+TEST_F(PresentationTest, WhatIsFullyCoveredIsNotPainted) {
+    constexpr UIColor paper{"paper", graphics::rgb(0xFFFFFF), graphics::rgb(0x000000)};
+    root->view()->setBackgroundColor(UIColor::black);
+    sheet->view()->setBackgroundColor(paper);
+
+    root->present(sheet, true);
+    bed.runUntil(0.25);
+    EXPECT_EQ(painted().commands.size(), 3u); // the host, the dimming, the sheet
+    bed.runUntil(0.5);
+    EXPECT_EQ(painted().commands.size(), 1u);
+
+    window->setSize({744, 1133}, {});
+    const auto list = painted();
+    ASSERT_EQ(list.commands.size(), 3u);
+    EXPECT_FLOAT_EQ(list.commands[1].opacity, 0.4f);
+    EXPECT_EQ(list.commands[2].clipRadius, 12);
+}
+
+TEST_F(PresentationTest, ASeeThroughSheetLeavesThePresenterInThePicture) {
+    root->view()->setBackgroundColor(UIColor::black);
+
+    root->present(sheet, false);
+
+    EXPECT_EQ(painted().commands.size(), 2u); // the host and the dimming
+}
+
+class TouchedView : public UIView {
+public:
+    void touchesBegan(const UITouch&) override { ++touches; }
+    void touchesCancelled(const UITouch&) override { ++cancellations; }
+    int touches = 0, cancellations = 0;
+};
+
+TEST_F(PresentationTest, CoveredControllersGetNoTouches) {
+    window->setSize({744, 1133}, {});
+    const auto below = std::make_shared<TouchedView>(), above = std::make_shared<TouchedView>();
+    below->fillSuperview();
+    above->fillSuperview();
+    root->view()->addSubview(below);
+    sheet->view()->addSubview(above);
+    root->present(sheet, true);
+
+    tap({372, 500}); // still on its way
+    bed.runUntil(transition_s);
+    tap({372, 500});
+    tap({5, 5}); // beside the sheet
+
+    EXPECT_EQ(below->touches, 0);
+    EXPECT_EQ(above->touches, 1);
+}
+
+TEST_F(PresentationTest, AFingerThatIsDownLosesItsViewToAPresentation) {
+    const auto below = std::make_shared<TouchedView>();
+    below->fillSuperview();
+    root->view()->addSubview(below);
+    window->layoutIfNeeded();
+    touch(host::TouchPhase::began, {10, 10});
+
+    root->present(sheet, true);
+
+    EXPECT_EQ(below->cancellations, 1);
+}
+
+} // namespace
+} // namespace uikit
