@@ -1,6 +1,6 @@
 """Small single-purpose shapes: template icons (black, tinted where they are shown), the close discs and the terms fade."""
 
-from shapely.geometry import LineString, Polygon
+from shapely.geometry import LineString
 from shapely.ops import unary_union
 
 from kit.canvas import Canvas, from_polygon, linear

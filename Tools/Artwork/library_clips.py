@@ -6,11 +6,10 @@ import random
 from kit.canvas import linear, radial
 from kit.clip_writer import Clip
 from kit.geometry import Path
-from kit.motion import ease, ease_in, ease_out, span, swing, there_and_back
-from kit.palette import CORAL, CORAL_DEEP, INK, SKY, SUN, SUN_DEEP, TEAL, TEAL_DEEP, TEAL_LIGHT, VIOLET, VIOLET_DEEP, darker, lighter, mix
+from kit.motion import ease, ease_out, span, swing, there_and_back
+from kit.palette import TEAL_DEEP, darker, lighter, mix
 from kit.photos import blade
 from kit.stickers import STICKERS
-from kit.templates import fruit_slice
 from kit.type_outlines import fitted_size, text_path, text_width
 
 W, H = 94, 167
@@ -31,6 +30,7 @@ def waves(c, y, amplitude, wavelength, shift, paint, opacity=1.0):
 
 
 # Kinetic type in the manner of the nineties: a block of letters that looks around
+
 
 def squiggle(c, x, y, color):
     c.stroke(Path.smooth([(x, y), (x + 4, y - 4), (x + 8, y), (x + 12, y - 4), (x + 16, y)], tension=0.7), color, 2.2)
@@ -64,13 +64,24 @@ def nineties(c, phase):
 
 # Confetti
 
+
 def confetti(c, phase):
     backdrop(c, "#FF8E74", "#EE4F41")
     generator = random.Random(42)
     pieces = []
     for _ in range(58):
-        pieces.append((generator.uniform(0, W), generator.random(), generator.choice((1, 1, 2)), generator.choice((1, -1, 2)), generator.uniform(3, 8),
-                       generator.uniform(2.6, 4.6), generator.choice(("#FFC655", "#FFFFFF", "#3CCBC1", "#6D5BD0", "#7CC4F2", "#FFE3A8")), generator.random()))
+        pieces.append(
+            (
+                generator.uniform(0, W),
+                generator.random(),
+                generator.choice((1, 1, 2)),
+                generator.choice((1, -1, 2)),
+                generator.uniform(3, 8),
+                generator.uniform(2.6, 4.6),
+                generator.choice(("#FFC655", "#FFFFFF", "#3CCBC1", "#6D5BD0", "#7CC4F2", "#FFE3A8")),
+                generator.random(),
+            )
+        )
     size = fitted_size("Hooray", "cherry", 76)
 
     def fall(drawn):
@@ -90,6 +101,7 @@ def confetti(c, phase):
 
 # A lipstick that turns itself out
 
+
 def lipstick(c, phase):
     backdrop(c, "#FFE0D8", "#FFB3A6")
     # The loop opens on the lipstick turned out, so that a still of its start shows the thing.
@@ -97,7 +109,7 @@ def lipstick(c, phase):
     c.fill(Path.polygon([(-10, -5), (34, -5), (W + 16, H + 5), (46, H + 5)]), "#FFFFFF", 0.3)
     smear = Path.smooth([(-12, 74), (22, 64), (50, 76), (78, 62), (108, 70)], tension=0.7)
     points = smear.flattened(0.05)[0]
-    shown = points[:max(2, int(len(points) * ease(span(out, 0.1, 1))))]
+    shown = points[: max(2, int(len(points) * ease(span(out, 0.1, 1))))]
     if out > 0.12:
         c.stroke(Path.polyline(shown), "#E5443F", 17, 0.9)
         c.stroke(Path.polyline([(x, y - 3.6) for x, y in shown]), "#FF7A6B", 3.4, 0.75)
@@ -109,12 +121,19 @@ def lipstick(c, phase):
     c.fill(Path.polygon([(x + 14, 168), (x + 14, mouth), (W + 10, mouth + 44), (W + 10, 175)]), "#8E2A22", 0.16)
     c.fill(bullet, linear((x - 11, 0), (x + 11, 0), "#FF7A6B", "#E5443F", "#B8242B"))
     twist = 4 * swing(out / 2)
-    c.fill(Path.rounded(x - 13, mouth - 2, 26, 18, 1.6), linear((x - 13, 0), (x + 13, 0), (0, "#FFE9B0"), (0.3 + twist / 40, "#FFF8E0"), (0.6, "#E0A94A"), (1, "#B97C26")))
-    c.fill(Path.rounded(x - 17, mouth + 14, 34, 44, 3), linear((x - 17, 0), (x + 17, 0), (0, "#3A434A"), (0.25, "#56616A"), (1, "#15191C")))
+    c.fill(
+        Path.rounded(x - 13, mouth - 2, 26, 18, 1.6),
+        linear((x - 13, 0), (x + 13, 0), (0, "#FFE9B0"), (0.3 + twist / 40, "#FFF8E0"), (0.6, "#E0A94A"), (1, "#B97C26")),
+    )
+    c.fill(
+        Path.rounded(x - 17, mouth + 14, 34, 44, 3),
+        linear((x - 17, 0), (x + 17, 0), (0, "#3A434A"), (0.25, "#56616A"), (1, "#15191C")),
+    )
     c.fill(Path.rect(x - 17, mouth + 20, 34, 2.4), "#FFD98B")
 
 
 # Film night: a leader counting down between two perforated edges
+
 
 def film(c, phase):
     backdrop(c, "#1A2025", "#0C1013")
@@ -144,6 +163,7 @@ def film(c, phase):
 
 # A seed that becomes a flower
 
+
 def grow(c, phase):
     backdrop(c, "#FFF4D9", "#CDEBDD", end=(0, H))
     # The loop opens on the flower in bloom.
@@ -156,13 +176,21 @@ def grow(c, phase):
     if up > 0.02:
         bend = [(x, foot), (x + 3, foot - (foot - top) * 0.35), (x - 2 + sway * 0.5, foot - (foot - top) * 0.7), (x + sway, top)]
         c.stroke(Path.smooth(bend), "#1C8A79", 3.2)
-        for at, side, length, tone in ((0.22, -1, 30, "#2A9C86"), (0.34, 1, 32, "#1C8A79"), (0.54, -1, 25, "#3BB39A"), (0.66, 1, 23, "#2A9C86")):
+        for at, side, length, tone in (
+            (0.22, -1, 30, "#2A9C86"),
+            (0.34, 1, 32, "#1C8A79"),
+            (0.54, -1, 25, "#3BB39A"),
+            (0.66, 1, 23, "#2A9C86"),
+        ):
             open_ = ease_out(span(up, at, min(1, at + 0.4)))
             if open_ > 0.03:
                 y = foot - (foot - top) * at
                 angle = -90 + side * (22 + 42 * open_) + sway
                 lx = x + sway * at * 0.5 + 1.5 * math.sin(at * 9)
-                c.fill(blade(lx, y, length * open_, length * 0.46 * open_, angle), linear((lx, y), (lx + side * length, y - length * 0.6), darker(tone, 0.18), lighter(tone, 0.22)))
+                c.fill(
+                    blade(lx, y, length * open_, length * 0.46 * open_, angle),
+                    linear((lx, y), (lx + side * length, y - length * 0.6), darker(tone, 0.18), lighter(tone, 0.22)),
+                )
         bloom = ease_out(span(up, 0.62, 1))
         if bloom > 0.02:
             with c.placed(x + sway, top, 40 * bloom + sway * 2, 16.5 * bloom) as flower:
@@ -175,6 +203,7 @@ def grow(c, phase):
 
 
 # Odd socks on a line
+
 
 def sock(c, x, y, degrees, body, stripe, toe):
     with c.placed(x, y, degrees, 0.98) as place:
@@ -202,10 +231,14 @@ def socks(c, phase):
 
 # A cup of tea from above, its motto going round
 
+
 def teaspin(c, phase):
     backdrop(c, "#F3E8D5", "#DCC7A2")
     cx, cy = W / 2, 70
-    c.fill(Path.ellipse(cx + 6, cy + 8, 33), radial((cx + 6, cy + 8), 33, (0, "#5C4326", 0.5), (0.75, "#5C4326", 0.28), (1, "#5C4326", 0)))
+    c.fill(
+        Path.ellipse(cx + 6, cy + 8, 33),
+        radial((cx + 6, cy + 8), 33, (0, "#5C4326", 0.5), (0.75, "#5C4326", 0.28), (1, "#5C4326", 0)),
+    )
     c.fill(Path.ellipse(cx, cy, 31), linear((cx - 25, cy - 25), (cx + 25, cy + 25), "#FFFFFF", "#D9E2DE"))
     with c.placed(cx, cy, 38) as grip:
         grip.fill(Path.rounded(16, -4, 15, 8, 4), linear((0, -4), (0, 4), "#FF8A6E", "#D94B3D"))
@@ -228,13 +261,22 @@ def teaspin(c, phase):
 
 # A pineapple among its drifting slices
 
+
 def pineapple_ring(c, x, y, radius, degrees):
     with c.placed(x, y, degrees) as slice_:
         slice_.fill(Path.scalloped(0, 0, radius, 12, 0.05), linear((-radius, -radius), (radius, radius), "#FFD75E", "#F2A51F"))
         slice_.fill(Path.ellipse(0, 0, radius * 0.84), "#FFE58C")
         for i in range(10):
-            slice_.stroke(Path.polyline([(radius * 0.42 * math.cos(i * math.pi / 5), radius * 0.42 * math.sin(i * math.pi / 5)),
-                                         (radius * 0.72 * math.cos(i * math.pi / 5), radius * 0.72 * math.sin(i * math.pi / 5))]), "#F2B43A", radius * 0.08)
+            slice_.stroke(
+                Path.polyline(
+                    [
+                        (radius * 0.42 * math.cos(i * math.pi / 5), radius * 0.42 * math.sin(i * math.pi / 5)),
+                        (radius * 0.72 * math.cos(i * math.pi / 5), radius * 0.72 * math.sin(i * math.pi / 5)),
+                    ]
+                ),
+                "#F2B43A",
+                radius * 0.08,
+            )
         slice_.fill(Path.ellipse(0, 0, radius * 0.27), "#F06A5E")
 
 
@@ -258,6 +300,7 @@ def pineapple(c, phase):
 
 # A sale tag on its string
 
+
 def sale_tag(c, phase):
     backdrop(c, "#4FA8E8", "#1C4FA8")
     size = fitted_size("SALE", "bebas", 62)
@@ -270,7 +313,9 @@ def sale_tag(c, phase):
     with c.placed(W / 2, -10, 9 * swing(phase), 0.96) as swung:
         swung.stroke(Path.polyline([(0, 0), (0, 58)]), "#FFFFFF", 1.1, 0.9)
         outline = Path().move(-8, 50).line(8, 50).line(26, 68).cubic(27.4, 69.4, 28, 71, 28, 73).line(28, 132)
-        outline.cubic(28, 135.4, 25.4, 138, 22, 138).line(-22, 138).cubic(-25.4, 138, -28, 135.4, -28, 132).line(-28, 73).cubic(-28, 71, -27.4, 69.4, -26, 68).close()
+        outline.cubic(28, 135.4, 25.4, 138, 22, 138).line(-22, 138).cubic(-25.4, 138, -28, 135.4, -28, 132).line(-28, 73).cubic(
+            -28, 71, -27.4, 69.4, -26, 68
+        ).close()
         swung.fill(outline.moved(5, 6), "#0A2458", 0.28)
         swung.fill(outline, linear((-28, 50), (28, 138), "#FFDC82", "#FFB53E"))
         swung.fill(Path.ellipse(0, 61, 4), "#2B68BE")
@@ -281,6 +326,7 @@ def sale_tag(c, phase):
 
 
 # Sun, sea and a small boat
+
 
 def summer(c, phase):
     backdrop(c, "#FFE9B8", "#FFC48A", end=(0, H))
@@ -295,14 +341,18 @@ def summer(c, phase):
     with c.placed(30 + 3 * swing(phase), 105 + 1.8 * swing(phase, 1, 0.2), 4 * swing(phase, 1, 0.1)) as boat:
         boat.fill(Path.polygon([(1, -30), (1, -4), (20, -4)]), "#FFFFFF")
         boat.fill(Path.polygon([(-1.4, -26), (-1.4, -4), (-13, -4)]), "#FFE0D4")
-        hull = Path().move(-17, -1).line(22, -1).cubic(19, 6, 14, 8.5, 8, 8.5).line(-7, 8.5).cubic(-12, 8.5, -15, 5, -17, -1).close()
+        hull = (
+            Path().move(-17, -1).line(22, -1).cubic(19, 6, 14, 8.5, 8, 8.5).line(-7, 8.5).cubic(-12, 8.5, -15, 5, -17, -1).close()
+        )
         boat.fill(hull, linear((-17, -1), (22, 8), "#FF8A6E", "#C93F33"))
     waves(c, 111, 2.8, 47, 0.4 + phase, linear((0, 106), (0, 140), "#1FA29C", "#0F8583"))
     waves(c, 126, 3.0, 47, 0.1 - phase, linear((0, 122), (0, 155), "#0F8583", "#0A6A6E"))
     waves(c, 143, 3.0, 47, 0.7 + phase, linear((0, 138), (0, H), "#0A6A6E", "#074F58"))
-    x, size = 0, fitted_size("Summer", "lobster", 76)
+    size = fitted_size("Summer", "lobster", 76)
     for i, letter in enumerate("Summer"):
-        c.text(letter, "lobster", size, 9 + text_width("Summer"[:i], "lobster", size), 38 + 2.2 * swing(phase, 1, -i * 0.11), "#D9432F")
+        c.text(
+            letter, "lobster", size, 9 + text_width("Summer"[:i], "lobster", size), 38 + 2.2 * swing(phase, 1, -i * 0.11), "#D9432F"
+        )
 
 
 LIBRARY = (

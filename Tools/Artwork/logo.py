@@ -25,8 +25,10 @@ def mark(c, x, y, size, bright, deep):
         first, last = (high, low) if i % 2 == 0 else (low, high)
         left, right = x + i * width, x + (i + 1) * width
         tones = bright if i % 2 == 1 else deep
-        c.fill(panel(left + (0.18 if i else 0), first, right - (0.18 if i < 3 else 0), last, tall),
-               linear((left, y), (right, y + size), *tones))
+        c.fill(
+            panel(left + (0.18 if i else 0), first, right - (0.18 if i < 3 else 0), last, tall),
+            linear((left, y), (right, y + size), *tones),
+        )
 
 
 def with_pro_badge(dark):

@@ -16,13 +16,13 @@ import logo
 import paywall_headers
 import promotion
 import shelf_clips
+import shelf_scenes
 import shelf_strips
 
 ROOT = Path(__file__).resolve().parents[2]
 MODULE_IMAGES = ROOT / "ProUpsells" / "Resources" / "Images"
 MODULE_CLIPS = ROOT / "ProUpsells" / "Resources" / "Clips"
 DESIGN_SYSTEM_IMAGES = ROOT / "Platform" / "VelaUIKit" / "Resources" / "Images"
-
 
 
 def write_clips(clips):
@@ -35,7 +35,8 @@ FAMILIES = {
     "icons": lambda: icons.make(MODULE_IMAGES, DESIGN_SYSTEM_IMAGES),
     "logo": lambda: logo.make(DESIGN_SYSTEM_IMAGES),
     "promotion": lambda: promotion.make(MODULE_IMAGES),
-    "shelves": lambda: shelf_strips.make(MODULE_IMAGES),
+    "strips": lambda: shelf_strips.make(MODULE_IMAGES),
+    "scenes": lambda: shelf_scenes.make(MODULE_IMAGES),
     "library-clips": lambda: write_clips(library_clips.LIBRARY),
     "shelf-clips": lambda: write_clips(shelf_clips.SHELF),
 }

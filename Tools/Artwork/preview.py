@@ -29,7 +29,8 @@ def render(source, scale=2.0, background="#FFFFFF", part=None):
 if __name__ == "__main__":
     arguments = sys.argv[1:]
     part = tuple(float(value) for value in arguments[4].split(",")) if len(arguments) > 4 else None
-    image, milliseconds = render(arguments[0], float(arguments[2]) if len(arguments) > 2 else 2.0,
-                                 arguments[3] if len(arguments) > 3 else "#FFFFFF", part)
+    image, milliseconds = render(
+        arguments[0], float(arguments[2]) if len(arguments) > 2 else 2.0, arguments[3] if len(arguments) > 3 else "#FFFFFF", part
+    )
     image.save(arguments[1])
     print(f"{arguments[1]}: {image.width()} x {image.height()} pixels, {milliseconds:.1f} ms")

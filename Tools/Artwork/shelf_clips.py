@@ -6,7 +6,7 @@ from dataclasses import dataclass
 
 from shapely.geometry import LineString
 
-from kit.canvas import Canvas, from_polygon, linear
+from kit.canvas import from_polygon, linear
 from kit.clip_writer import Clip
 from kit.geometry import Path
 from kit.motion import ease, span
@@ -21,15 +21,15 @@ WIDTH = 343
 @dataclass(frozen=True)
 class Surroundings:
     page: str
-    blank: str      # an empty card or tile
-    slot: str       # an empty place on it
+    blank: str  # an empty card or tile
+    slot: str  # an empty place on it
     shadow: float
-    guide: str      # the selection frame
+    guide: str  # the selection frame
 
 
 LIGHT = Surroundings("#FFFFFF", "#EEF0EE", "#D5DBDA", 0.15, TEAL)
-# The page is #0F1315; video colours come back one darker, so the clip starts one lighter.
-DARK = Surroundings("#101416", "#20272B", "#343D42", 0.0, TEAL_LIGHT)
+# The page is #0F1315; video colours come back a step darker, so the clip starts a step lighter.
+DARK = Surroundings("#101516", "#20272B", "#343D42", 0.0, TEAL_LIGHT)
 
 
 def page_ground(c, height, around):
@@ -51,15 +51,19 @@ class Template:
     headline: str
     face: str
     button: str
-    photo: tuple        # left, top, width, height
+    photo: tuple  # left, top, width, height
     headline_top: float
     text_top: float
     button_top: float
 
 
 TEMPLATES = (
-    Template(("#FFF6E9", "#FBE3CB"), "#5A2B1B", "#E8593F", "arches", "Casa Sol", "didot", "Book a stay", (8, 8, 91, 70), 84, 107, 122),
-    Template(("#2B2F78", "#191B4D"), "#FFFFFF", "#FFC655", "city", "Open late", "sora-bold", "Reserve", (8, 46, 91, 66), 10, 33, 120),
+    Template(
+        ("#FFF6E9", "#FBE3CB"), "#5A2B1B", "#E8593F", "arches", "Casa Sol", "didot", "Book a stay", (8, 8, 91, 70), 84, 107, 122
+    ),
+    Template(
+        ("#2B2F78", "#191B4D"), "#FFFFFF", "#FFC655", "city", "Open late", "sora-bold", "Reserve", (8, 46, 91, 66), 10, 33, 120
+    ),
 )
 
 
@@ -128,14 +132,20 @@ def fill_text(c, template, done):
     if button > 0.01:
         with c.placed(35, template.button_top + 7.5, 0, 0.9 + 0.1 * button, button) as place:
             place.fill(Path.rounded(-26, -7.5, 52, 15, 7.5), template.accent)
-            place.text(template.button, "inter-semibold", 6.8, 0, 2.5, "#FFFFFF" if template.ink != "#FFFFFF" else "#1B1D4F", "center")
+            place.text(
+                template.button, "inter-semibold", 6.8, 0, 2.5, "#FFFFFF" if template.ink != "#FFFFFF" else "#1B1D4F", "center"
+            )
 
 
 def guide(c, template, done, around):
     """The editor's frame, gliding from one part to the next."""
     left, top, width, height = template.photo
-    stations = ((left, top, width, height), (7, template.headline_top, 93, 20), (7, template.text_top - 3.5, 93, 15),
-                (7, template.button_top - 2, 56, 19))
+    stations = (
+        (left, top, width, height),
+        (7, template.headline_top, 93, 20),
+        (7, template.text_top - 3.5, 93, 15),
+        (7, template.button_top - 2, 56, 19),
+    )
     arrivals = (0.10, 0.38, 0.62, 0.80)
     frame = stations[0]
     for station, at in zip(stations[1:], arrivals[1:]):

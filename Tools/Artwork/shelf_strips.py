@@ -1,22 +1,35 @@
-"""The pictures of the store page's shelves.
+"""The drifting strips of the store page's shelves.
 
 A strip is repeated 21 times with 16 between the copies, so its tiles stand 16 apart as well and differ from one another."""
 
 import math
 
-from shapely.geometry import LineString, Point
+from shapely.geometry import LineString
 
 from kit.canvas import Canvas, from_polygon, linear, to_polygon
-from kit.geometry import Path, Transform
-from kit.palette import (CORAL, CORAL_DEEP, CORAL_PALE, INK, MIST, PAPER, SAND, SKY, SKY_DEEP, SKY_PALE, SUN, SUN_DEEP, SUN_PALE, TEAL,
-                         TEAL_DEEP, TEAL_LIGHT, TEAL_PALE, VIOLET, VIOLET_DEEP, VIOLET_PALE, darker, lighter, mix)
-from kit.photos import SCENES, blade, photo
+from kit.geometry import Path
+from kit.palette import (
+    CORAL,
+    INK,
+    NIGHT_PAGE,
+    SKY,
+    SKY_DEEP,
+    SUN,
+    SUN_DEEP,
+    TEAL,
+    TEAL_LIGHT,
+    VIOLET,
+    VIOLET_DEEP,
+    darker,
+    lighter,
+    mix,
+)
+from kit.photos import SCENES, photo
 from kit.stickers import STICKERS, sticker
-from kit.templates import fitted, fruit_slice, lines
-from kit.type_outlines import fitted_size, text_path, text_width
+from kit.templates import lines
+from kit.type_outlines import fitted_size, text_path
 
 GAP = 16
-NIGHT_PAGE = "#0F1315"
 
 
 def ground(tone, dark):
@@ -41,13 +54,18 @@ class Row:
 
 # Shapes under the hand of their editor
 
+
 def guide_color(dark):
     return TEAL_LIGHT if dark else TEAL
 
 
 def handle(c, x, y, size=6.4, round_=False, dark=False):
     outline = Path.ellipse(x, y, size / 2) if round_ else Path.rounded(x - size / 2, y - size / 2, size, size, 1.5)
-    grown = Path.ellipse(x, y, size / 2 + 1.3) if round_ else Path.rounded(x - size / 2 - 1.3, y - size / 2 - 1.3, size + 2.6, size + 2.6, 2.4)
+    grown = (
+        Path.ellipse(x, y, size / 2 + 1.3)
+        if round_
+        else Path.rounded(x - size / 2 - 1.3, y - size / 2 - 1.3, size + 2.6, size + 2.6, 2.4)
+    )
     c.fill(grown, guide_color(dark))
     c.fill(outline, "#FFFFFF")
 
@@ -106,7 +124,12 @@ def shape_corners(c, x, w, h, dark):
     c.long_shadow(path, 20, 50, "#5A3A08", 0.16)
     c.fill(path, linear((left, top), (left + width, top + height), "#FFDD86", "#F8B03B"))
     outline_frame(c, left, top, left + width, top + height, dark)
-    for px, py in ((left + 18, top + 18), (left + width - 18, top + 18), (left + width - 18, top + height - 18), (left + 18, top + height - 18)):
+    for px, py in (
+        (left + 18, top + 18),
+        (left + width - 18, top + 18),
+        (left + width - 18, top + height - 18),
+        (left + 18, top + height - 18),
+    ):
         handle(c, px, py, 5.4, True, dark)
     slider(c, left, h - 23, width, 0.62, SUN_DEEP, dark)
 
@@ -168,12 +191,36 @@ def shapes(dark):
 # Layout collections: three themes, each in several pages
 
 THEMES = (
-    {"paper": ("#F7F1E4", "#EADFC8"), "ink": "#123F3B", "accent": "#0A7C78", "second": "#E08A5B", "face": "didot", "caps": "inter-medium",
-     "words": ("Garden", "notes", "Grow slowly."), "photos": ("foliage", "still_life")},
-    {"paper": ("#232A63", "#171B45"), "ink": "#FFFFFF", "accent": "#FFC655", "second": "#7C86EE", "face": "sora-bold", "caps": "inter-medium",
-     "words": ("After", "dark", "Lights on."), "photos": ("city", "dusk")},
-    {"paper": ("#FFDCCB", "#FFBFA6"), "ink": "#5A1F2B", "accent": "#F2604A", "second": "#FFF3E4", "face": "spartan-black", "caps": "inter-semibold",
-     "words": ("Sun", "club", "Come along!"), "photos": ("surf", "poppy")},
+    {
+        "paper": ("#F7F1E4", "#EADFC8"),
+        "ink": "#123F3B",
+        "accent": "#0A7C78",
+        "second": "#E08A5B",
+        "face": "didot",
+        "caps": "inter-medium",
+        "words": ("Garden", "notes", "Grow slowly."),
+        "photos": ("foliage", "still_life"),
+    },
+    {
+        "paper": ("#232A63", "#171B45"),
+        "ink": "#FFFFFF",
+        "accent": "#FFC655",
+        "second": "#7C86EE",
+        "face": "sora-bold",
+        "caps": "inter-medium",
+        "words": ("After", "dark", "Lights on."),
+        "photos": ("city", "dusk"),
+    },
+    {
+        "paper": ("#FFDCCB", "#FFBFA6"),
+        "ink": "#5A1F2B",
+        "accent": "#F2604A",
+        "second": "#FFF3E4",
+        "face": "spartan-black",
+        "caps": "inter-semibold",
+        "words": ("Sun", "club", "Come along!"),
+        "photos": ("surf", "poppy"),
+    },
 )
 
 
@@ -185,7 +232,10 @@ def cover_page(c, theme, w, h):
     """The theme's name and its emblem."""
     paper(c, theme, w, h)
     first, second, _ = theme["words"]
-    c.fill(Path.ellipse(w * 0.92, h * 0.96, h * 0.42), linear((w * 0.5, h * 0.5), (w, h), lighter(theme["accent"], 0.16), theme["accent"]))
+    c.fill(
+        Path.ellipse(w * 0.92, h * 0.96, h * 0.42),
+        linear((w * 0.5, h * 0.5), (w, h), lighter(theme["accent"], 0.16), theme["accent"]),
+    )
     c.fill(Path.ellipse(w * 0.92, h * 0.96, h * 0.26), theme["second"])
     size = min(fitted_size(first, theme["face"], w - 22), 29)
     c.text(first, theme["face"], size, 10, 14 + size * 0.74, theme["ink"])
@@ -284,7 +334,18 @@ def graphics(dark):
 
 # Photos of the library
 
-LIBRARY = (("lake", 140), ("portrait", 74), ("arches", 104), ("surf", 93), ("city", 128), ("poppy", 84), ("road", 150), ("coffee", 93), ("dusk", 132), ("foliage", 80))
+LIBRARY = (
+    ("lake", 140),
+    ("portrait", 74),
+    ("arches", 104),
+    ("surf", 93),
+    ("city", 128),
+    ("poppy", 84),
+    ("road", 150),
+    ("coffee", 93),
+    ("dusk", 132),
+    ("foliage", 80),
+)
 
 
 def photo_library(dark):
@@ -294,187 +355,7 @@ def photo_library(dark):
     return row.canvas
 
 
-# PDF: a print sheet with its marks, and what else comes off the press
-
-def crop_marks(c, left, top, right, bottom, ink):
-    """Two hairlines at each corner, clear of the trim."""
-    for x, side in ((left, -1), (right, 1)):
-        for y, end in ((top, -1), (bottom, 1)):
-            c.fill(Path.rect(x - 0.4, y + (5 if end > 0 else -15), 0.8, 10), ink)
-            c.fill(Path.rect(x + (5 if side > 0 else -15), y - 0.4, 10, 0.8), ink)
-
-
-def registration(c, x, y, ink):
-    c.fill(Path.ring(x, y, 3.6, 2.9), ink)
-    c.fill(Path.rect(x - 5.4, y - 0.35, 10.8, 0.7), ink)
-    c.fill(Path.rect(x - 0.35, y - 5.4, 0.7, 10.8), ink)
-
-
-def print_sheet(c, x, y, width, height):
-    sheet = Path.rounded(x, y, width, height, 2.5)
-    c.long_shadow(sheet, 30, 50, INK, 0.16)
-    c.soft_shadow(sheet, 2, 4, 7, INK, 0.13, 6)
-    c.fill(sheet, linear((x, y), (x + width, y + height), "#FFFFFF", "#F4F2EC"))
-    ink, margin = "#23292D", 21
-    left, top, right, bottom = x + margin, y + margin, x + width - margin, y + height - margin
-    with c.clipped(Path.rect(left - 3, top - 3, right - left + 6, bottom - top + 6)) as bleed:
-        with bleed.placed(left - 3, top - 3) as poster:
-            poster_art(poster, right - left + 6, bottom - top + 6)
-    crop_marks(c, left, top, right, bottom, ink)
-    registration(c, x + width / 2, y + 9.5, ink)
-    registration(c, x + 9.5, y + height / 2, ink)
-    registration(c, x + width - 9.5, y + height / 2, ink)
-    for i, tone in enumerate(("#12A5DC", "#E2247F", "#FFD400", "#1B1B1B", "#B9BEC1")):
-        c.fill(Path.rect(x + width / 2 - 25 + i * 10, y + height - 13, 9, 7), tone)
-
-
-def poster_art(c, w, h):
-    c.fill(Path.rect(0, 0, w, h), linear((0, 0), (w, h), "#FF8A6B", "#F25A45"))
-    fruit_slice(c, w * 0.68, h * 0.77, w * 0.41, "#FFD95E", "#F3B32B", 12)
-    fruit_slice(c, w * 0.13, h * 0.86, w * 0.25, "#FF9C5F", "#E8562B", -10)
-    fitted(c, "FRESH", "bebas", 10, 10 + fitted_size("FRESH", "bebas", w - 20) * 0.72, w - 20, "#FFFFFF")
-    c.text("press days", "lobster", 17, 10.5, 66, "#FFF1DC")
-
-
-def business_card(c, x, y, degrees, face):
-    with c.placed(x, y, degrees) as card:
-        outline = Path.rounded(0, 0, 92, 54, 3)
-        card.long_shadow(outline, 20, 50 - degrees, INK, 0.18)
-        card.soft_shadow(outline, 1.5, 3, 5, INK, 0.13, 5)
-        if face == "front":
-            card.fill(outline, linear((0, 0), (92, 54), "#14938B", "#075553"))
-            with card.clipped(outline) as inside:
-                inside.fill(Path.scalloped(86, 4, 26, 8, 0.14), "#FFC655")
-            card.text("Ada Quill", "sora-semibold", 11, 9, 34, "#FFFFFF")
-            lines(card, 9, 40, (36,), "#FFFFFF", 0.7, 5, 2)
-        else:
-            card.fill(outline, linear((0, 0), (92, 54), "#FFFFFF", "#F1EEE6"))
-            card.fill(Path.scalloped(17, 18, 9, 8, 0.14), "#FF6F5B")
-            lines(card, 9, 35, (44, 34, 39), INK, 0.5, 5, 1.9)
-
-
-def letter(c, x, y, degrees):
-    with c.placed(x, y, degrees) as sheet:
-        outline = Path.rounded(0, 0, 96, 132, 2.5)
-        sheet.long_shadow(outline, 24, 50 - degrees, INK, 0.15)
-        sheet.soft_shadow(outline, 2, 4, 6, INK, 0.12, 5)
-        sheet.fill(outline, linear((0, 0), (96, 132), "#FFFFFF", "#F3F0E9"))
-        sheet.fill(Path.rect(0, 6, 4, 120), TEAL)
-        sheet.fill(Path.scalloped(19, 19, 7.5, 8, 0.14), SUN)
-        sheet.text("Quill & Co", "didot", 12.5, 31, 23.3, INK)
-        lines(sheet, 13, 42, (40,), INK, 0.6, 7, 2.2)
-        lines(sheet, 13, 54, (70, 66, 70, 58, 70, 68, 44), INK, 0.28, 7, 2.2)
-        sheet.text("Ada", "dancing", 16, 13, 119, TEAL_DEEP)
-
-
-def pdf_badge(c, x, y):
-    page_ = Path().move(x + 4, y).line(x + 26, y).line(x + 38, y + 12).line(x + 38, y + 46)
-    page_.cubic(x + 38, y + 48.4, x + 36.4, y + 50, x + 34, y + 50).line(x + 4, y + 50)
-    page_.cubic(x + 1.6, y + 50, x, y + 48.4, x, y + 46).line(x, y + 4).cubic(x, y + 1.6, x + 1.6, y, x + 4, y).close()
-    c.long_shadow(page_, 16, 50, "#3A0E08", 0.22)
-    c.fill(page_, linear((x, y), (x + 38, y + 50), "#FF8A74", "#EB5140"))
-    c.fill(Path.polygon([(x + 26, y), (x + 38, y + 12), (x + 26, y + 12)]), "#FFC9BD")
-    c.text("PDF", "sora-extrabold", 12.4, x + 19, y + 37, "#FFFFFF", "center", 0.02)
-
-
-def pdfs(dark):
-    c = Canvas(343, 217)
-    first, last = ("#1E2629", "#171D20") if dark else ("#F7F3EB", "#E9E1D2")
-    panel = Path.rounded(0, 0, 343, 217, 16)
-    c.fill(panel, linear((0, 0), (343, 217), first, last))
-    with c.clipped(panel) as desk:
-        letter(desk, 30, 46, -9)
-        print_sheet(desk, 104, 17, 140, 184)
-        business_card(desk, 229, 58, 8, "front")
-        business_card(desk, 214, 118, -5, "back")
-        pdf_badge(desk, 286, 148)
-    return c
-
-
-# Cloud: one document on three devices
-
-def device(c, x, y, width, height, radius, bezel, dark):
-    outline = Path.rounded(x, y, width, height, radius)
-    c.long_shadow(outline, 14, 52, INK, 0.16)
-    c.fill(outline, linear((x, y), (x + width, y + height), *(("#5B666C", "#363F44") if dark else ("#333C42", "#14191D"))))
-    return Path.rounded(x + bezel, y + bezel, width - 2 * bezel, height - 2 * bezel, max(1.5, radius - bezel))
-
-
-def shared_document(c, screen, dark):
-    """The poster that all three devices show, fitted to the screen it is on, in the editor's grey surroundings."""
-    left, top, right, bottom = screen.bounds()
-    w, h = right - left, bottom - top
-    with c.clipped(screen) as inside:
-        inside.fill(Path.rect(left, top, w, h), linear((left, top), (right, bottom), "#EEF1F0", "#DCE2E1"))
-        page_height = min(h - 13, (w - 10) * 1.32)
-        page_width = page_height / 1.32
-        x, y = left + (w - page_width) / 2, top + (h - page_height) / 2
-        frame = Path.rounded(x, y, page_width, page_height, page_width * 0.05)
-        inside.soft_shadow(frame, 1, 2, 3, INK, 0.2, 4)
-        with inside.placed(x, y) as place:
-            with place.clipped(Path.rounded(0, 0, page_width, page_height, page_width * 0.05)) as sheet:
-                swim_poster(sheet, page_width, page_height)
-        return x, y, page_width, page_height
-
-
-def swim_poster(c, w, h):
-    u = w / 90
-    c.fill(Path.rect(0, 0, w, h), linear((0, 0), (0, h), "#FFD48A", "#FFB37E"))
-    c.fill(Path.ellipse(w * 0.66, h * 0.40, 20 * u), linear((w * 0.4, h * 0.2), (w * 0.9, h * 0.6), "#FF8A6B", "#F2604A"))
-    for i, tone in enumerate(("#35B5AC", "#12918A", "#0B6E6E", "#0A5058")):
-        y = h * (0.56 + i * 0.115)
-        points = [(w * (-0.15 + k * 0.2), y + (4 * u if k % 2 else -4 * u) * (1 if i % 2 else -1)) for k in range(8)]
-        c.fill(Path.smooth(points, tension=0.72).line(w * 1.3, h * 1.1).line(-w * 0.2, h * 1.1).close(), tone)
-    c.text("Island", "sora-extrabold", 19 * u, 8 * u, 24 * u, "#0A4A50")
-    c.text("hours", "sora-extrabold", 19 * u, 8 * u, 43 * u, "#0A4A50")
-
-
-def editor_rails(c, screen, dark):
-    """Tool dots at the left of a wide screen, a panel at its right."""
-    left, top, right, bottom = screen.bounds()
-    with c.clipped(screen) as inside:
-        inside.fill(Path.rect(left, top, 15, bottom - top), "#FFFFFF")
-        for i in range(5):
-            inside.fill(Path.rounded(left + 4.5, top + 8 + i * 13, 6, 6, 2), TEAL if i == 1 else "#B4BEC1")
-        inside.fill(Path.rect(right - 42, top, 42, bottom - top), "#FFFFFF")
-        lines(inside, right - 36, top + 9, (20, 28), INK, 0.4, 6, 2.2)
-        for i, tone in enumerate(("#0A7C78", "#FF6F5B", "#FFC655")):
-            inside.fill(Path.rounded(right - 36 + i * 11, top + 24, 8.5, 8.5, 2.6), tone)
-        lines(inside, right - 36, top + 41, (30, 24, 28), INK, 0.22, 6.5, 2.2)
-
-
-def laptop(c, x, y, dark):
-    screen = device(c, x, y, 182, 116, 8, 4.5, dark)
-    shared_document(c, screen, dark)
-    editor_rails(c, screen, dark)
-    base = Path().move(x - 17, y + 116).line(x + 199, y + 116).cubic(x + 199, y + 122, x + 194, y + 124.5, x + 188, y + 124.5)
-    base.line(x - 6, y + 124.5).cubic(x - 12, y + 124.5, x - 17, y + 122, x - 17, y + 116).close()
-    c.fill(base, linear((0, y + 116), (0, y + 125), *(("#8B979D", "#5C676D") if dark else ("#D9DEDF", "#A9B2B5"))))
-    c.fill(Path.rounded(x + 73, y + 116, 36, 3.6, 1.8), INK, 0.22)
-
-
-def cloud(c, x, y, dark):
-    """The place where the document lives, safe; a ring of the page's colour sets it off from the devices."""
-    shape = to_polygon(Path.rounded(x - 30, y - 4, 60, 22, 11), 0.02)
-    for dx, dy, radius in ((-12, -4, 13), (7, -8, 17)):
-        shape = shape.union(Point(x + dx, y + dy).buffer(radius, 24))
-    c.fill(from_polygon(shape.buffer(4, 12)), NIGHT_PAGE if dark else "#FFFFFF")
-    c.fill(from_polygon(shape.buffer(2, 10).buffer(-2, 10)), linear((x - 28, y - 24), (x + 28, y + 18), "#27B3AA", "#0A7C78"))
-    c.fill(from_polygon(LineString([(x - 8, y + 2), (x - 2, y + 8), (x + 10, y - 5)]).buffer(2, 12)), "#FFFFFF")
-
-
-def cloud_devices(dark):
-    c = Canvas(343, 159)
-    laptop(c, 78, 22, dark)
-    shared_document(c, device(c, 16, 52, 76, 97, 8, 4, dark), dark)
-    shared_document(c, device(c, 270, 55, 48, 94, 10, 3, dark), dark)
-    cloud(c, 272, 29, dark)
-    return c
-
-
 STRIPS = {
-    "PDFs0_StorePageShelfImage": (pdfs, True),
-    "iCloud_StorePageShelfImage": (cloud_devices, True),
     "Shapes_StorePageShelfImage": (shapes, True),
     "Layout collections_": (layout_collections, False),
     "Fonts0_StorePageShelfImage": (fonts, False),

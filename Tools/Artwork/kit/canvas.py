@@ -20,6 +20,7 @@ from .type_outlines import text_path
 @dataclass(frozen=True)
 class Linear:
     """A gradient from one point to another. Stops are (offset, colour) or (offset, colour, opacity)."""
+
     start: tuple
     end: tuple
     stops: tuple
@@ -115,8 +116,10 @@ class Document:
         return f"url(#{name})"
 
     def svg(self):
-        lines = [f'<svg xmlns="http://www.w3.org/2000/svg" version="1.2" baseProfile="tiny" width="{number(self.width)}" '
-                 f'height="{number(self.height)}" viewBox="0 0 {number(self.width)} {number(self.height)}">']
+        lines = [
+            f'<svg xmlns="http://www.w3.org/2000/svg" version="1.2" baseProfile="tiny" width="{number(self.width)}" '
+            f'height="{number(self.height)}" viewBox="0 0 {number(self.width)} {number(self.height)}">'
+        ]
         if self.gradients:
             lines.append("<defs>")
             lines += [markup.replace("@", name, 1) for markup, name in self.gradients.items()]
@@ -157,8 +160,12 @@ class Canvas:
         self.opacity = opacity
 
     def derived(self, transform=None, clip=None, opacity=1.0):
-        return Canvas(document=self.document, transform=self.transform @ transform if transform else self.transform,
-                      clip=clip if clip is not None else self.clip, opacity=self.opacity * opacity)
+        return Canvas(
+            document=self.document,
+            transform=self.transform @ transform if transform else self.transform,
+            clip=clip if clip is not None else self.clip,
+            opacity=self.opacity * opacity,
+        )
 
     @contextmanager
     def placed(self, x, y, degrees=0.0, scale=1.0, opacity=1.0):
@@ -187,7 +194,8 @@ class Canvas:
         device_width = width * self.transform.scale_at(anchor)
         device = path.transformed(self.transform)
         if self.clip is None:
-            attributes = f'fill="none" stroke="{color}" stroke-width="{number(device_width)}" stroke-linecap="{cap}" stroke-linejoin="{join}"'
+            attributes = f'fill="none" stroke="{color}" stroke-width="{number(device_width)}"'
+            attributes += f' stroke-linecap="{cap}" stroke-linejoin="{join}"'
             alpha = opacity * self.opacity
             if alpha < 0.999:
                 attributes += f' stroke-opacity="{number(alpha)}"'
@@ -198,8 +206,9 @@ class Canvas:
         for run, ring in zip(device.subpaths(), device.flattened()):
             closed = run[-1][0] == "Z"
             lines.append(LineString(ring + ring[:1] if closed else ring))
-        area = unary_union([line.buffer(device_width / 2, 12, cap_style=styles[cap], join_style=1 if join == "round" else 2)
-                            for line in lines])
+        area = unary_union(
+            [line.buffer(device_width / 2, 12, cap_style=styles[cap], join_style=1 if join == "round" else 2) for line in lines]
+        )
         shape = from_polygon(area.intersection(self.clip))
         if shape.commands:
             self.emit(shape, self.paint_attributes(color, path, opacity * self.opacity))
@@ -243,8 +252,10 @@ class Canvas:
             stops += f'<stop offset="{number(offset)}" stop-color="{color}"{transparency}/>'
         if isinstance(paint, Linear):
             (x1, y1), (x2, y2) = paint.start, paint.end
-            return (f'<linearGradient {where} x1="{number(x1)}" y1="{number(y1)}" x2="{number(x2)}" y2="{number(y2)}">'
-                    f'{stops}</linearGradient>')
+            return (
+                f'<linearGradient {where} x1="{number(x1)}" y1="{number(y1)}" x2="{number(x2)}" y2="{number(y2)}">'
+                f"{stops}</linearGradient>"
+            )
         (cx, cy), radius = paint.center, paint.radius
         return f'<radialGradient {where} cx="{number(cx)}" cy="{number(cy)}" r="{number(radius)}">{stops}</radialGradient>'
 
@@ -280,11 +291,16 @@ class Canvas:
         middle = ((left + right) / 2, (top + bottom) / 2)
         # The fade begins inside the object, so that its far edge still stands in shade.
         device = Canvas(document=self.document, clip=self.clip)
-        reach = (abs(right - left) * abs(math.cos(math.radians(degrees))) + abs(bottom - top) * abs(math.sin(math.radians(degrees)))) / 2
+        reach = (
+            abs(right - left) * abs(math.cos(math.radians(degrees))) + abs(bottom - top) * abs(math.sin(math.radians(degrees)))
+        ) / 2
         ux, uy = math.cos(math.radians(degrees)), math.sin(math.radians(degrees))
         start = (middle[0] + ux * reach * 0.35, middle[1] + uy * reach * 0.35)
         end = (middle[0] + ux * (reach + length * scale), middle[1] + uy * (reach + length * scale))
-        device.fill(swept, linear(start, end, (0, color, opacity * self.opacity), (0.5, color, opacity * self.opacity * 0.42), (1, color, 0.0)))
+        device.fill(
+            swept,
+            linear(start, end, (0, color, opacity * self.opacity), (0.5, color, opacity * self.opacity * 0.42), (1, color, 0.0)),
+        )
 
 
 def sweep(area, dx, dy):

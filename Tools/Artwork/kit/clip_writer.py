@@ -16,6 +16,7 @@ FRAMES_PER_SECOND = 24
 @dataclass(frozen=True)
 class Clip:
     """A loop. The drawing gets a canvas of width x height points and a phase in [0, 1)."""
+
     name: str
     width: float
     height: float
@@ -38,14 +39,59 @@ class Clip:
     def write(self, folder):
         count = round(self.seconds * FRAMES_PER_SECOND)
         size = f"{round(self.width * 2)}x{round(self.height * 2)}"
-        command = ["ffmpeg", "-hide_banner", "-loglevel", "error", "-y",
-                   "-f", "rawvideo", "-pixel_format", "bgra", "-video_size", size, "-framerate", str(FRAMES_PER_SECOND), "-i", "-",
-                   "-vf", "scale=out_color_matrix=bt601:out_range=tv:flags=accurate_rnd+full_chroma_int,format=yuv420p",
-                   "-an", "-c:v", "libx264", "-profile:v", "high", "-preset", "veryslow", "-tune", "animation",
-                   "-crf", str(self.quality), "-threads", "1", "-g", "48", "-bf", "2",
-                   "-color_range", "tv", "-colorspace", "smpte170m", "-color_primaries", "bt709", "-color_trc", "iec61966-2-1",
-                   "-map_metadata", "-1", "-fflags", "+bitexact", "-flags:v", "+bitexact", "-movflags", "+faststart",
-                   f"{folder}/{self.name}.mp4"]
+        command = [
+            "ffmpeg",
+            "-hide_banner",
+            "-loglevel",
+            "error",
+            "-y",
+            "-f",
+            "rawvideo",
+            "-pixel_format",
+            "bgra",
+            "-video_size",
+            size,
+            "-framerate",
+            str(FRAMES_PER_SECOND),
+            "-i",
+            "-",
+            "-vf",
+            "scale=out_color_matrix=bt601:out_range=tv:flags=accurate_rnd+full_chroma_int,format=yuv420p",
+            "-an",
+            "-c:v",
+            "libx264",
+            "-profile:v",
+            "high",
+            "-preset",
+            "veryslow",
+            "-tune",
+            "animation",
+            "-crf",
+            str(self.quality),
+            "-threads",
+            "1",
+            "-g",
+            "48",
+            "-bf",
+            "2",
+            "-color_range",
+            "tv",
+            "-colorspace",
+            "smpte170m",
+            "-color_primaries",
+            "bt709",
+            "-color_trc",
+            "iec61966-2-1",
+            "-map_metadata",
+            "-1",
+            "-fflags",
+            "+bitexact",
+            "-flags:v",
+            "+bitexact",
+            "-movflags",
+            "+faststart",
+            f"{folder}/{self.name}.mp4",
+        ]
         encoder = subprocess.Popen(command, stdin=subprocess.PIPE)
         for index in range(count):
             image = self.frame(index / count)

@@ -152,8 +152,14 @@ class Path:
         for _ in range(count):
             x0, y0 = path.current()
             nx, ny = cx + radius * math.cos(angle + step), cy + radius * math.sin(angle + step)
-            path.cubic(x0 - k * radius * math.sin(angle), y0 + k * radius * math.cos(angle),
-                       nx + k * radius * math.sin(angle + step), ny - k * radius * math.cos(angle + step), nx, ny)
+            path.cubic(
+                x0 - k * radius * math.sin(angle),
+                y0 + k * radius * math.cos(angle),
+                nx + k * radius * math.sin(angle + step),
+                ny - k * radius * math.cos(angle + step),
+                nx,
+                ny,
+            )
             angle += step
         return path
 
@@ -170,8 +176,14 @@ class Path:
         for i in range(count if closed else count - 1):
             p0, p1, p2, p3 = at(i - 1), at(i), at(i + 1), at(i + 2)
             k = tension / 3 * 2
-            path.cubic(p1[0] + (p2[0] - p0[0]) * k / 2, p1[1] + (p2[1] - p0[1]) * k / 2,
-                       p2[0] - (p3[0] - p1[0]) * k / 2, p2[1] - (p3[1] - p1[1]) * k / 2, p2[0], p2[1])
+            path.cubic(
+                p1[0] + (p2[0] - p0[0]) * k / 2,
+                p1[1] + (p2[1] - p0[1]) * k / 2,
+                p2[0] - (p3[0] - p1[0]) * k / 2,
+                p2[1] - (p3[1] - p1[1]) * k / 2,
+                p2[0],
+                p2[1],
+            )
         return path.close() if closed else path
 
     @staticmethod
@@ -264,12 +276,14 @@ class Path:
 
 
 def flatten_cubic(p0, p1, p2, p3, tolerance):
-    bend = max(math.hypot(p0[0] - 2 * p1[0] + p2[0], p0[1] - 2 * p1[1] + p2[1]),
-               math.hypot(p1[0] - 2 * p2[0] + p3[0], p1[1] - 2 * p2[1] + p3[1]))
+    bend = max(
+        math.hypot(p0[0] - 2 * p1[0] + p2[0], p0[1] - 2 * p1[1] + p2[1]),
+        math.hypot(p1[0] - 2 * p2[0] + p3[0], p1[1] - 2 * p2[1] + p3[1]),
+    )
     count = max(1, min(48, math.ceil(math.sqrt(0.75 * bend / tolerance))))
     points = []
     for i in range(1, count + 1):
         t = i / count
-        a, b, c, d = (1 - t) ** 3, 3 * t * (1 - t) ** 2, 3 * t * t * (1 - t), t ** 3
+        a, b, c, d = (1 - t) ** 3, 3 * t * (1 - t) ** 2, 3 * t * t * (1 - t), t**3
         points.append((a * p0[0] + b * p1[0] + c * p2[0] + d * p3[0], a * p0[1] + b * p1[1] + c * p2[1] + d * p3[1]))
     return points

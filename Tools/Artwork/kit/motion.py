@@ -21,10 +21,6 @@ def ease_out(value):
     return 1 - (1 - value) ** 3
 
 
-def ease_in(value):
-    return value ** 3
-
-
 def there_and_back(phase, rise_end, fall_start, rise_start=0.0, fall_end=1.0):
     """Up to 1, held, and down again."""
     return ease(span(phase, rise_start, rise_end)) * (1 - ease(span(phase, fall_start, fall_end)))

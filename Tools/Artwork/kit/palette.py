@@ -24,11 +24,11 @@ VIOLET_PALE = "#E2DDF8"
 SKY = "#7CC4F2"
 SKY_DEEP = "#3C8FC9"
 SKY_PALE = "#DCEFFB"
-NIGHT = "#0B1B1F"
+NIGHT_PAGE = "#0F1315"
 
 
 def channels(color):
-    return tuple(int(color[i:i + 2], 16) for i in (1, 3, 5))
+    return tuple(int(color[i : i + 2], 16) for i in (1, 3, 5))
 
 
 def mix(first, second, share):

@@ -5,8 +5,7 @@ import random
 
 from .canvas import linear, radial
 from .geometry import Path, Transform
-from .palette import (CORAL, CORAL_DEEP, CORAL_PALE, INK, NIGHT, SAND, SAND_DEEP, SKY, SKY_DEEP, SKY_PALE, SUN, SUN_DEEP, SUN_PALE,
-                      TEAL, TEAL_DEEP, TEAL_LIGHT, TEAL_NIGHT, TEAL_PALE, VIOLET, VIOLET_DEEP, VIOLET_PALE, darker, lighter, mix)
+from .palette import CORAL, VIOLET, darker, lighter
 
 
 def ridge(width, height, points):
@@ -16,32 +15,66 @@ def ridge(width, height, points):
 
 
 def dusk(c, w, h):
-    c.fill(Path.rect(0, 0, w, h), linear((0, 0), (w * 0.25, h), (0, "#5B4BB8"), (0.38, "#E9776C"), (0.66, "#FFC67A"), (1, "#FFE3B0")))
+    c.fill(
+        Path.rect(0, 0, w, h), linear((0, 0), (w * 0.25, h), (0, "#5B4BB8"), (0.38, "#E9776C"), (0.66, "#FFC67A"), (1, "#FFE3B0"))
+    )
     r = min(w, h) * 0.15
-    c.fill(Path.ellipse(w * 0.63, h * 0.47, r * 2.6), radial((w * 0.63, h * 0.47), r * 2.6, (0, "#FFF3D0", 0.75), (1, "#FFE3A8", 0)))
+    c.fill(
+        Path.ellipse(w * 0.63, h * 0.47, r * 2.6), radial((w * 0.63, h * 0.47), r * 2.6, (0, "#FFF3D0", 0.75), (1, "#FFE3A8", 0))
+    )
     c.fill(Path.ellipse(w * 0.63, h * 0.47, r), linear((w * 0.5, h * 0.35), (w * 0.72, h * 0.6), "#FFF7E2", "#FFD98B"))
-    c.fill(ridge(w, h, [(-0.1, 0.60), (0.12, 0.50), (0.3, 0.575), (0.47, 0.53), (0.72, 0.61), (0.9, 0.52), (1.1, 0.58)]),
-           linear((0, h * 0.5), (0, h * 0.8), "#C0688C", "#8B559B"))
-    c.fill(ridge(w, h, [(-0.1, 0.69), (0.15, 0.66), (0.38, 0.72), (0.63, 0.63), (0.85, 0.70), (1.1, 0.65)]),
-           linear((0, h * 0.62), (0, h * 0.95), "#6E4A9A", "#47388A"))
-    c.fill(ridge(w, h, [(-0.1, 0.84), (0.2, 0.76), (0.5, 0.83), (0.8, 0.79), (1.1, 0.86)]),
-           linear((0, h * 0.76), (0, h), "#37306E", "#1C2148"))
+    c.fill(
+        ridge(w, h, [(-0.1, 0.60), (0.12, 0.50), (0.3, 0.575), (0.47, 0.53), (0.72, 0.61), (0.9, 0.52), (1.1, 0.58)]),
+        linear((0, h * 0.5), (0, h * 0.8), "#C0688C", "#8B559B"),
+    )
+    c.fill(
+        ridge(w, h, [(-0.1, 0.69), (0.15, 0.66), (0.38, 0.72), (0.63, 0.63), (0.85, 0.70), (1.1, 0.65)]),
+        linear((0, h * 0.62), (0, h * 0.95), "#6E4A9A", "#47388A"),
+    )
+    c.fill(
+        ridge(w, h, [(-0.1, 0.84), (0.2, 0.76), (0.5, 0.83), (0.8, 0.79), (1.1, 0.86)]),
+        linear((0, h * 0.76), (0, h), "#37306E", "#1C2148"),
+    )
 
 
 def lake(c, w, h):
     c.fill(Path.rect(0, 0, w, h), linear((0, 0), (0, h * 0.6), "#7CC4F2", "#DDF0F6", "#FDF1DC"))
-    c.fill(Path.polygon([(w * x, h * y) for x, y in [(-0.1, 0.6), (0.16, 0.30), (0.27, 0.41), (0.36, 0.33), (0.62, 0.6)]]),
-           linear((0, h * 0.3), (0, h * 0.62), "#9FB6D6", "#C9D6E2"))
+    c.fill(
+        Path.polygon([(w * x, h * y) for x, y in [(-0.1, 0.6), (0.16, 0.30), (0.27, 0.41), (0.36, 0.33), (0.62, 0.6)]]),
+        linear((0, h * 0.3), (0, h * 0.62), "#9FB6D6", "#C9D6E2"),
+    )
     peak = [(0.3, 0.6), (0.66, 0.16), (1.05, 0.6)]
     c.fill(Path.polygon([(w * x, h * y) for x, y in peak]), linear((w * 0.4, h * 0.2), (w * 0.9, h * 0.6), "#7A8FBC", "#5B7299"))
-    c.fill(Path.polygon([(w * x, h * y) for x, y in [(0.66, 0.16), (0.70, 0.32), (0.64, 0.40), (0.68, 0.6), (0.3, 0.6)]]),
-           linear((w * 0.4, h * 0.2), (w * 0.6, h * 0.6), "#C5D1E6", "#8FA5CB"))
-    c.fill(Path.polygon([(w * x, h * y) for x, y in [(0.66, 0.16), (0.754, 0.267), (0.72, 0.30), (0.70, 0.27), (0.675, 0.33), (0.64, 0.27), (0.61, 0.31), (0.573, 0.267)]]),
-           "#FFFFFF")
-    c.fill(ridge(w, h, [(-0.1, 0.55), (0.1, 0.50), (0.25, 0.565), (0.5, 0.575), (0.75, 0.545), (0.92, 0.50), (1.1, 0.54)]), "#2E6B6B")
+    c.fill(
+        Path.polygon([(w * x, h * y) for x, y in [(0.66, 0.16), (0.70, 0.32), (0.64, 0.40), (0.68, 0.6), (0.3, 0.6)]]),
+        linear((w * 0.4, h * 0.2), (w * 0.6, h * 0.6), "#C5D1E6", "#8FA5CB"),
+    )
+    c.fill(
+        Path.polygon(
+            [
+                (w * x, h * y)
+                for x, y in [
+                    (0.66, 0.16),
+                    (0.754, 0.267),
+                    (0.72, 0.30),
+                    (0.70, 0.27),
+                    (0.675, 0.33),
+                    (0.64, 0.27),
+                    (0.61, 0.31),
+                    (0.573, 0.267),
+                ]
+            ]
+        ),
+        "#FFFFFF",
+    )
+    c.fill(
+        ridge(w, h, [(-0.1, 0.55), (0.1, 0.50), (0.25, 0.565), (0.5, 0.575), (0.75, 0.545), (0.92, 0.50), (1.1, 0.54)]), "#2E6B6B"
+    )
     c.fill(Path.rect(0, h * 0.6, w, h * 0.42), linear((0, h * 0.6), (0, h), "#6FB7BE", "#2C7F88", "#14555E"))
     c.fill(Path.polygon([(w * x, h * y) for x, y in [(0.46, 0.6), (0.93, 0.6), (0.74, 0.78), (0.66, 0.84)]]), "#D9ECEC", 0.22)
-    for i, (x, y, length) in enumerate([(0.1, 0.7, 0.22), (0.52, 0.74, 0.3), (0.3, 0.82, 0.2), (0.66, 0.88, 0.26), (0.08, 0.92, 0.3)]):
+    for i, (x, y, length) in enumerate(
+        [(0.1, 0.7, 0.22), (0.52, 0.74, 0.3), (0.3, 0.82, 0.2), (0.66, 0.88, 0.26), (0.08, 0.92, 0.3)]
+    ):
         c.fill(Path.rounded(w * x, h * y, w * length, h * 0.012, h * 0.006), "#E9F6F3", 0.4)
 
 
@@ -54,7 +87,9 @@ def arches(c, w, h):
     def arch(x, width, top, fill):
         r = width / 2
         path = Path().move(x, floor).line(x, top + r)
-        path.cubic(x, top + r * 0.4477, x + r * 0.4477, top, x + r, top).cubic(x + r * 1.5523, top, x + width, top + r * 0.4477, x + width, top + r)
+        path.cubic(x, top + r * 0.4477, x + r * 0.4477, top, x + r, top).cubic(
+            x + r * 1.5523, top, x + width, top + r * 0.4477, x + width, top + r
+        )
         c.fill(path.line(x + width, floor).close(), fill)
 
     arch(w * 0.14, w * 0.46, h * 0.24, linear((w * 0.14, 0), (w * 0.6, 0), "#C97A58", "#E79E76"))
@@ -64,33 +99,23 @@ def arches(c, w, h):
     c.fill(Path.polygon([(w * 0.21, floor), (w * 0.60, floor), (w * 0.86, h), (w * 0.40, h)]), "#FFE3C2", 0.5)
 
 
-def leaf(x, y, length, width, degrees, bend=0.12):
-    """A pointed leaf growing from (x, y)."""
-    path = Path().move(0, 0)
-    path.cubic(length * 0.22, -width * 0.75, length * 0.7, -width * (0.62 - bend), length, length * bend)
-    path.cubic(length * 0.74, width * (0.55 + bend), length * 0.26, width * 0.66, 0, 0).close()
-    return path.transformed(Transform.translation(x, y) @ Transform.rotation(degrees))
-
-
-def palm_leaf(x, y, length, degrees, count=8, spread=62):
-    """A fan of slim leaflets along a stem."""
-    path = Path()
-    for i in range(count):
-        t = 0.25 + 0.75 * i / (count - 1)
-        size = length * (0.62 - 0.34 * abs(t - 0.55))
-        for side in (-1, 1):
-            path += leaf(length * t * 0.72, 0, size * 0.8, size * 0.13, side * (spread - 36 * t), 0.04 * side)
-    path += leaf(length * 0.7, 0, length * 0.38, length * 0.07, 0, 0)
-    return path.transformed(Transform.translation(x, y) @ Transform.rotation(degrees))
-
-
 def foliage(c, w, h):
     c.fill(Path.rect(0, 0, w, h), linear((0, 0), (w, h), "#CFE9DB", "#7DBFA9"))
     s = max(w, h)
-    for x, y, length, degrees, tone in [(1.05, 1.0, 0.95, -132, "#2F8F7C"), (-0.05, 0.55, 0.8, -28, "#0E6A60"), (0.2, 1.08, 0.9, -72, "#0A4F4B"),
-                                        (1.05, 0.05, 0.62, 152, "#54A98F")]:
-        c.fill(blade(w * x, h * y, s * length, s * length * 0.36, degrees), linear((w * x, h * y), (w * 0.4, h * 0.3), darker(tone, 0.2), lighter(tone, 0.16)))
-        tip = (w * x + s * length * 0.93 * math.cos(math.radians(degrees)), h * y + s * length * 0.93 * math.sin(math.radians(degrees)))
+    for x, y, length, degrees, tone in [
+        (1.05, 1.0, 0.95, -132, "#2F8F7C"),
+        (-0.05, 0.55, 0.8, -28, "#0E6A60"),
+        (0.2, 1.08, 0.9, -72, "#0A4F4B"),
+        (1.05, 0.05, 0.62, 152, "#54A98F"),
+    ]:
+        c.fill(
+            blade(w * x, h * y, s * length, s * length * 0.36, degrees),
+            linear((w * x, h * y), (w * 0.4, h * 0.3), darker(tone, 0.2), lighter(tone, 0.16)),
+        )
+        tip = (
+            w * x + s * length * 0.93 * math.cos(math.radians(degrees)),
+            h * y + s * length * 0.93 * math.sin(math.radians(degrees)),
+        )
         c.stroke(Path.polyline([(w * x, h * y), tip]), lighter(tone, 0.38), s * 0.008, 0.65)
 
 
@@ -108,7 +133,19 @@ def still_life(c, w, h):
     c.fill(Path.polygon([(w * 0.0, 0), (w * 0.62, 0), (w * 0.28, table), (0, table)]), "#FFF0E2", 0.4)
     m = min(w, h * 0.79)
     x = w * 0.42
-    c.fill(Path.polygon([(x - m * 0.1, table + m * 0.09), (x + m * 0.16, table + m * 0.09), (w * 1.05, table + m * 0.24), (w * 1.05, table + m * 0.32), (x, table + m * 0.14)]), "#3A1424", 0.3)
+    c.fill(
+        Path.polygon(
+            [
+                (x - m * 0.1, table + m * 0.09),
+                (x + m * 0.16, table + m * 0.09),
+                (w * 1.05, table + m * 0.24),
+                (w * 1.05, table + m * 0.32),
+                (x, table + m * 0.14),
+            ]
+        ),
+        "#3A1424",
+        0.3,
+    )
     vase = Path().move(x - m * 0.05, table - m * 0.40).line(x + m * 0.05, table - m * 0.40)
     vase.cubic(x + m * 0.045, table - m * 0.26, x + m * 0.18, table - m * 0.22, x + m * 0.17, table - m * 0.06)
     vase.cubic(x + m * 0.165, table + m * 0.06, x + m * 0.12, table + m * 0.11, x, table + m * 0.11)
@@ -117,7 +154,10 @@ def still_life(c, w, h):
     for degrees, length in ((-112, 0.36), (-82, 0.44), (-56, 0.38)):
         end = (x + m * length * math.cos(math.radians(degrees)), table - m * 0.38 + m * length * math.sin(math.radians(degrees)))
         c.stroke(Path.polyline([(x, table - m * 0.38), end]), "#4C7A5C", m * 0.014)
-        c.fill(Path.scalloped(end[0], end[1], m * 0.085, 6, 0.16, degrees), linear((end[0] - m * 0.08, end[1] - m * 0.08), (end[0] + m * 0.08, end[1] + m * 0.08), "#FFF4DE", "#FFC655"))
+        c.fill(
+            Path.scalloped(end[0], end[1], m * 0.085, 6, 0.16, degrees),
+            linear((end[0] - m * 0.08, end[1] - m * 0.08), (end[0] + m * 0.08, end[1] + m * 0.08), "#FFF4DE", "#FFC655"),
+        )
         c.fill(Path.ellipse(end[0], end[1], m * 0.028), "#D9793A")
     c.fill(vase, linear((x - m * 0.18, 0), (x + m * 0.18, 0), "#3FA39C", "#0A6C69", "#07504F"))
     ox, oy = x + m * 0.34, table + m * 0.03
@@ -128,14 +168,26 @@ def coffee(c, w, h):
     c.fill(Path.rect(0, 0, w, h), linear((0, 0), (w, h), "#EFE3D0", "#D9C3A3"))
     m = min(w, h)
     x, y = w * 0.54, h * 0.52
-    c.fill(Path.ellipse(x + m * 0.09, y + m * 0.11, m * 0.39), radial((x + m * 0.09, y + m * 0.11), m * 0.39, (0, "#5C4326", 0.5), (0.7, "#5C4326", 0.3), (1, "#5C4326", 0)))
+    c.fill(
+        Path.ellipse(x + m * 0.09, y + m * 0.11, m * 0.39),
+        radial((x + m * 0.09, y + m * 0.11), m * 0.39, (0, "#5C4326", 0.5), (0.7, "#5C4326", 0.3), (1, "#5C4326", 0)),
+    )
     c.fill(Path.ellipse(x, y, m * 0.37), linear((x - m * 0.3, y - m * 0.3), (x + m * 0.3, y + m * 0.3), "#FFFFFF", "#DDE6E2"))
     c.fill(Path.ellipse(x, y, m * 0.27), linear((x - m * 0.2, y - m * 0.2), (x + m * 0.2, y + m * 0.2), "#D6DEDA", "#F7FAF8"))
     with c.placed(x, y, 40) as handle:
-        handle.fill(Path.rounded(m * 0.18, -m * 0.045, m * 0.2, m * 0.09, m * 0.045), linear((0, -m * 0.05), (0, m * 0.05), "#17867F", "#0A5F5C"))
+        handle.fill(
+            Path.rounded(m * 0.18, -m * 0.045, m * 0.2, m * 0.09, m * 0.045),
+            linear((0, -m * 0.05), (0, m * 0.05), "#17867F", "#0A5F5C"),
+        )
     c.fill(Path.ellipse(x, y, m * 0.225), linear((x - m * 0.2, y - m * 0.2), (x + m * 0.2, y + m * 0.2), "#19958D", "#0A5F5C"))
     c.fill(Path.ellipse(x, y, m * 0.19), linear((x - m * 0.15, y - m * 0.15), (x + m * 0.15, y + m * 0.15), "#5A3220", "#9A6238"))
-    heart = Path().move(0, m * 0.1).cubic(-m * 0.16, 0, -m * 0.1, -m * 0.12, 0, -m * 0.045).cubic(m * 0.1, -m * 0.12, m * 0.16, 0, 0, m * 0.1).close()
+    heart = (
+        Path()
+        .move(0, m * 0.1)
+        .cubic(-m * 0.16, 0, -m * 0.1, -m * 0.12, 0, -m * 0.045)
+        .cubic(m * 0.1, -m * 0.12, m * 0.16, 0, 0, m * 0.1)
+        .close()
+    )
     with c.placed(x, y, -24) as foam:
         foam.fill(heart, linear((0, -m * 0.1), (0, m * 0.1), "#FFF3DD", "#EBC898"))
 
@@ -149,12 +201,24 @@ def city(c, w, h):
         for _ in range(steps + 4):
             width = generator.uniform(0.10, 0.18)
             top = generator.uniform(low, high)
-            c.fill(Path.rounded(w * x, h * top, w * width, h * (1.1 - top), min(w, h) * 0.012), linear((0, h * top), (0, h), tone, darker(tone, 0.4)))
+            c.fill(
+                Path.rounded(w * x, h * top, w * width, h * (1.1 - top), min(w, h) * 0.012),
+                linear((0, h * top), (0, h), tone, darker(tone, 0.4)),
+            )
             if tone == "#231F4F":
                 for row in range(5):
                     for column in range(2):
                         if generator.random() < 0.5:
-                            c.fill(Path.rect(w * (x + width * (0.24 + 0.36 * column)), h * (top + 0.05 + row * 0.075), w * width * 0.18, h * 0.03), "#FFD27F", 0.9)
+                            c.fill(
+                                Path.rect(
+                                    w * (x + width * (0.24 + 0.36 * column)),
+                                    h * (top + 0.05 + row * 0.075),
+                                    w * width * 0.18,
+                                    h * 0.03,
+                                ),
+                                "#FFD27F",
+                                0.9,
+                            )
             x += width + generator.uniform(0.0, 0.02)
 
 
@@ -163,20 +227,35 @@ def portrait(c, w, h):
     m = min(w, h * 0.8)
     x, base = w * 0.5, h * 1.0
     c.fill(Path.ellipse(x, h * 0.46, m * 0.52), "#FFE3A6", 0.55)
-    body = Path().move(x - m * 0.46, base + 2).cubic(x - m * 0.45, base - m * 0.28, x - m * 0.2, base - m * 0.36, x, base - m * 0.36)
+    body = (
+        Path().move(x - m * 0.46, base + 2).cubic(x - m * 0.45, base - m * 0.28, x - m * 0.2, base - m * 0.36, x, base - m * 0.36)
+    )
     body.cubic(x + m * 0.2, base - m * 0.36, x + m * 0.45, base - m * 0.28, x + m * 0.46, base + 2).close()
     c.fill(Path.ellipse(x + m * 0.015, base - m * 0.68, m * 0.235, m * 0.27), "#2A1B2E")
     c.fill(body, linear((x - m * 0.4, base - m * 0.3), (x + m * 0.4, base), "#1B8F88", "#085553"))
     c.fill(Path.rounded(x - m * 0.08, base - m * 0.52, m * 0.16, m * 0.24, m * 0.08), "#B9694B")
     c.fill(Path.ellipse(x, base - m * 0.63, m * 0.165, m * 0.2), linear((x - m * 0.15, 0), (x + m * 0.17, 0), "#E9A27C", "#CC7B59"))
-    hair = Path().move(x - m * 0.2, base - m * 0.60).cubic(x - m * 0.2, base - m * 0.9, x + m * 0.17, base - m * 0.92, x + m * 0.2, base - m * 0.62)
-    hair.cubic(x + m * 0.12, base - m * 0.70, x + m * 0.02, base - m * 0.74, x - m * 0.04, base - m * 0.78).cubic(x - m * 0.08, base - m * 0.72, x - m * 0.15, base - m * 0.68, x - m * 0.2, base - m * 0.60).close()
+    hair = (
+        Path()
+        .move(x - m * 0.2, base - m * 0.60)
+        .cubic(x - m * 0.2, base - m * 0.9, x + m * 0.17, base - m * 0.92, x + m * 0.2, base - m * 0.62)
+    )
+    hair.cubic(x + m * 0.12, base - m * 0.70, x + m * 0.02, base - m * 0.74, x - m * 0.04, base - m * 0.78).cubic(
+        x - m * 0.08, base - m * 0.72, x - m * 0.15, base - m * 0.68, x - m * 0.2, base - m * 0.60
+    ).close()
     c.fill(hair, "#2A1B2E")
 
 
 def surf(c, w, h):
     c.fill(Path.rect(0, 0, w, h), linear((0, 0), (w, h), "#F6E2BD", "#E8C790"))
-    for shift, tone, alpha in ((0.0, "#FFFFFF", 0.95), (0.045, "#BFE9E2", 1), (0.12, "#5CC5BE", 1), (0.25, "#1A9A98", 1), (0.42, "#0B6F78", 1), (0.62, "#0A4F60", 1)):
+    for shift, tone, alpha in (
+        (0.0, "#FFFFFF", 0.95),
+        (0.045, "#BFE9E2", 1),
+        (0.12, "#5CC5BE", 1),
+        (0.25, "#1A9A98", 1),
+        (0.42, "#0B6F78", 1),
+        (0.62, "#0A4F60", 1),
+    ):
         points = []
         for i in range(-1, 10):
             t = i / 8
@@ -206,7 +285,10 @@ def poppy(c, w, h):
         c.stroke(Path().move(cx, cy).quadratic(cx + m * stem / 100, h * 0.8, cx + m * stem / 60, h * 1.05), "#2F7B62", m * 0.026)
         for k, turn in enumerate((200, 320, 80)):
             px, py = cx + m * r * 0.42 * math.cos(math.radians(turn)), cy + m * r * 0.42 * math.sin(math.radians(turn))
-            c.fill(Path.blob(px, py, m * r * 0.72, (1, 1.08, 0.96, 1.06, 0.98, 1.05), turn), linear((px - m * r, py - m * r), (px + m * r, py + m * r), "#FF8F73", "#E5443C"))
+            c.fill(
+                Path.blob(px, py, m * r * 0.72, (1, 1.08, 0.96, 1.06, 0.98, 1.05), turn),
+                linear((px - m * r, py - m * r), (px + m * r, py + m * r), "#FF8F73", "#E5443C"),
+            )
         c.fill(Path.ellipse(cx, cy, m * r * 0.26), "#2B1A2B")
         c.fill(Path.ellipse(cx - m * r * 0.05, cy - m * r * 0.05, m * r * 0.1), "#FFC655")
 
@@ -214,16 +296,43 @@ def poppy(c, w, h):
 def road(c, w, h):
     c.fill(Path.rect(0, 0, w, h), linear((0, 0), (0, h * 0.55), "#F9D9A8", "#FBEBD2"))
     c.fill(Path.ellipse(w * 0.5, h * 0.46, min(w, h) * 0.16), "#FF8A6B")
-    c.fill(ridge(w, h, [(-0.1, 0.48), (0.2, 0.40), (0.4, 0.47), (0.65, 0.42), (0.85, 0.36), (1.1, 0.46)]), linear((0, h * 0.4), (0, h * 0.6), "#D98A73", "#BB6A62"))
+    c.fill(
+        ridge(w, h, [(-0.1, 0.48), (0.2, 0.40), (0.4, 0.47), (0.65, 0.42), (0.85, 0.36), (1.1, 0.46)]),
+        linear((0, h * 0.4), (0, h * 0.6), "#D98A73", "#BB6A62"),
+    )
     c.fill(Path.rect(0, h * 0.53, w, h * 0.5), linear((0, h * 0.53), (0, h), "#C98159", "#8E4C45"))
-    c.fill(Path.polygon([(w * 0.485, h * 0.53), (w * 0.515, h * 0.53), (w * 0.86, h), (w * 0.14, h)]), linear((0, h * 0.53), (0, h), "#5B4657", "#2F2839"))
+    c.fill(
+        Path.polygon([(w * 0.485, h * 0.53), (w * 0.515, h * 0.53), (w * 0.86, h), (w * 0.14, h)]),
+        linear((0, h * 0.53), (0, h), "#5B4657", "#2F2839"),
+    )
     for t0, t1 in ((0.02, 0.08), (0.16, 0.30), (0.46, 0.72), (0.9, 1.2)):
         y0, y1 = h * (0.53 + 0.47 * t0), h * (0.53 + 0.47 * t1)
-        c.fill(Path.polygon([(w * (0.5 - 0.012 * t0), y0), (w * (0.5 + 0.012 * t0), y0), (w * (0.5 + 0.014 * t1), y1), (w * (0.5 - 0.014 * t1), y1)]), "#FFE3A8")
+        c.fill(
+            Path.polygon(
+                [
+                    (w * (0.5 - 0.012 * t0), y0),
+                    (w * (0.5 + 0.012 * t0), y0),
+                    (w * (0.5 + 0.014 * t1), y1),
+                    (w * (0.5 - 0.014 * t1), y1),
+                ]
+            ),
+            "#FFE3A8",
+        )
 
 
-SCENES = {"dusk": dusk, "lake": lake, "arches": arches, "foliage": foliage, "still_life": still_life, "coffee": coffee, "city": city,
-          "portrait": portrait, "surf": surf, "poppy": poppy, "road": road}
+SCENES = {
+    "dusk": dusk,
+    "lake": lake,
+    "arches": arches,
+    "foliage": foliage,
+    "still_life": still_life,
+    "coffee": coffee,
+    "city": city,
+    "portrait": portrait,
+    "surf": surf,
+    "poppy": poppy,
+    "road": road,
+}
 
 
 def photo(c, scene, x, y, width, height, radius=0.0):

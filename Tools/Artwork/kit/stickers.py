@@ -2,12 +2,12 @@
 
 import math
 
+from shapely.geometry import LineString
 from shapely.ops import unary_union
 
 from .canvas import Canvas, from_polygon, linear, radial, to_polygon
-from .geometry import Path, Transform
-from .palette import CORAL, CORAL_DEEP, INK, SKY, SKY_DEEP, SUN, SUN_DEEP, TEAL, TEAL_DEEP, TEAL_LIGHT, VIOLET, VIOLET_DEEP, darker, lighter
-from .type_outlines import text_path
+from .geometry import Path
+from .palette import INK, SUN
 
 
 def diagonal(radius, first, second):
@@ -37,7 +37,9 @@ def daisy(c):
 
 def heart(c):
     path = Path().move(0, 0.88).cubic(-0.42, 0.58, -1.0, 0.18, -1.0, -0.32).cubic(-1.0, -0.68, -0.74, -0.88, -0.48, -0.88)
-    path.cubic(-0.26, -0.88, -0.1, -0.76, 0, -0.58).cubic(0.1, -0.76, 0.26, -0.88, 0.48, -0.88).cubic(0.74, -0.88, 1.0, -0.68, 1.0, -0.32)
+    path.cubic(-0.26, -0.88, -0.1, -0.76, 0, -0.58).cubic(0.1, -0.76, 0.26, -0.88, 0.48, -0.88).cubic(
+        0.74, -0.88, 1.0, -0.68, 1.0, -0.32
+    )
     path.cubic(1.0, 0.18, 0.42, 0.58, 0, 0.88).close()
     c.fill(path, diagonal(0.8, "#8C7BE6", "#5341B6"))
     c.stroke(Path.arc(-0.46, -0.36, 0.28, 180, 268), "#FFFFFF", 0.12, 0.75)
@@ -52,12 +54,16 @@ def rainbow(c):
     for radius, tone in ((1.0, "#FF7A62"), (0.78, "#FFC655"), (0.56, "#3CB7AE"), (0.34, "#FFFFFF")):
         path = Path().move(-radius, 0.46).line(-radius, 0.3)
         path.cubic(-radius, 0.3 - radius * 0.5523 * 1.06, -radius * 0.5523, 0.3 - radius * 1.06, 0, 0.3 - radius * 1.06)
-        path.cubic(radius * 0.5523, 0.3 - radius * 1.06, radius, 0.3 - radius * 0.5523 * 1.06, radius, 0.3).line(radius, 0.46).close()
+        path.cubic(radius * 0.5523, 0.3 - radius * 1.06, radius, 0.3 - radius * 0.5523 * 1.06, radius, 0.3).line(
+            radius, 0.46
+        ).close()
         c.fill(path, tone)
 
 
 def bubble(c):
-    shape = to_polygon(Path.rounded(-1.1, -0.8, 2.2, 1.3, 0.5)).union(to_polygon(Path.polygon([(-0.5, 0.3), (-0.62, 0.95), (0.12, 0.42)])))
+    shape = to_polygon(Path.rounded(-1.1, -0.8, 2.2, 1.3, 0.5)).union(
+        to_polygon(Path.polygon([(-0.5, 0.3), (-0.62, 0.95), (0.12, 0.42)]))
+    )
     c.fill(from_polygon(shape), diagonal(0.9, "#149089", "#085E5B"))
     c.text("hello!", "kaushan", 0.78, 0.0, 0.1, "#FFFFFF", "center")
 
@@ -100,9 +106,23 @@ def tag(c):
 
 
 def mushroom(c):
-    stem = Path().move(-0.28, 0.1).cubic(-0.22, 0.5, -0.4, 0.9, -0.3, 0.95).line(0.3, 0.95).cubic(0.4, 0.9, 0.22, 0.5, 0.28, 0.1).close()
+    stem = (
+        Path()
+        .move(-0.28, 0.1)
+        .cubic(-0.22, 0.5, -0.4, 0.9, -0.3, 0.95)
+        .line(0.3, 0.95)
+        .cubic(0.4, 0.9, 0.22, 0.5, 0.28, 0.1)
+        .close()
+    )
     c.fill(stem, linear((-0.3, 0), (0.35, 0), "#FFF6E4", "#E5D3B4"))
-    cap = Path().move(-1.0, 0.2).cubic(-1.0, -0.55, -0.5, -0.95, 0, -0.95).cubic(0.5, -0.95, 1.0, -0.55, 1.0, 0.2).cubic(0.6, 0.36, -0.6, 0.36, -1.0, 0.2).close()
+    cap = (
+        Path()
+        .move(-1.0, 0.2)
+        .cubic(-1.0, -0.55, -0.5, -0.95, 0, -0.95)
+        .cubic(0.5, -0.95, 1.0, -0.55, 1.0, 0.2)
+        .cubic(0.6, 0.36, -0.6, 0.36, -1.0, 0.2)
+        .close()
+    )
     c.fill(cap, diagonal(0.8, "#FF8068", "#E2463C"))
     for x, y, r in ((-0.45, -0.25, 0.17), (0.15, -0.52, 0.2), (0.55, -0.05, 0.14), (-0.05, 0.02, 0.11)):
         c.fill(Path.ellipse(x, y, r), "#FFF3E3")
@@ -113,8 +133,20 @@ def sunburst(c):
     c.text("yay", "lobster", 0.84, 0, 0.25, "#FFFFFF", "center")
 
 
-STICKERS = {"lemon": lemon, "daisy": daisy, "heart": heart, "bolt": bolt, "rainbow": rainbow, "bubble": bubble, "star": star,
-            "cherries": cherries, "eye": eye, "tag": tag, "mushroom": mushroom, "sunburst": sunburst}
+STICKERS = {
+    "lemon": lemon,
+    "daisy": daisy,
+    "heart": heart,
+    "bolt": bolt,
+    "rainbow": rainbow,
+    "bubble": bubble,
+    "star": star,
+    "cherries": cherries,
+    "eye": eye,
+    "tag": tag,
+    "mushroom": mushroom,
+    "sunburst": sunburst,
+}
 
 
 def silhouette(draw):
@@ -126,7 +158,6 @@ def silhouette(draw):
             areas.append(to_polygon(path, 0.004).buffer(0))
 
         def stroke(self, path, color, width, opacity=1.0, cap="round", join="round"):
-            from shapely.geometry import LineString
             for ring in path.flattened(0.01):
                 areas.append(LineString(ring).buffer(width / 2, 10))
 

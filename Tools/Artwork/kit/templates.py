@@ -4,13 +4,11 @@ Lengths are laid out on a page 90 wide and scaled to the width; the height is fr
 
 import math
 
-from .canvas import linear, radial
-from .geometry import Path, Transform
-from .palette import (CORAL, CORAL_DEEP, CORAL_PALE, INK, MIST, NIGHT, PAPER, SAND, SAND_DEEP, SKY, SKY_DEEP, SKY_PALE, SUN, SUN_DEEP,
-                      SUN_PALE, TEAL, TEAL_DEEP, TEAL_LIGHT, TEAL_NIGHT, TEAL_PALE, VIOLET, VIOLET_DEEP, VIOLET_PALE, WARM_PAPER, darker,
-                      lighter, mix)
-from .photos import SCENES, blade, leaf, photo
-from .type_outlines import fitted_size, text_width
+from .canvas import linear
+from .geometry import Path
+from .palette import CORAL, CORAL_DEEP, INK, SUN, SUN_DEEP, TEAL_LIGHT, VIOLET, VIOLET_DEEP, WARM_PAPER, darker, lighter
+from .photos import SCENES, blade, photo
+from .type_outlines import fitted_size
 
 
 def fitted(c, text, face, x, y, width, paint, align="left", tracking=0.0, opacity=1.0):
@@ -64,7 +62,12 @@ def slow_story(c, w, h):
     c.fill(Path.rounded(9 * u, 57 * u, 20 * u, 1.2 * u, 0.6 * u), "#FFFFFF", 0.9)
     lines(c, 9 * u, h - 17 * u, (40 * u, 29 * u), "#FFFFFF", 0.85, 5 * u, 1.8 * u)
     c.stroke(Path.ellipse(w - 15 * u, h - 14 * u, 6 * u), "#FFFFFF", 1 * u, 0.9)
-    c.stroke(Path.polyline([(w - 17 * u, h - 16.4 * u), (w - 13.4 * u, h - 14 * u), (w - 17 * u, h - 11.6 * u)]), "#FFFFFF", 1.1 * u, 0.95)
+    c.stroke(
+        Path.polyline([(w - 17 * u, h - 16.4 * u), (w - 13.4 * u, h - 14 * u), (w - 17 * u, h - 11.6 * u)]),
+        "#FFFFFF",
+        1.1 * u,
+        0.95,
+    )
 
 
 def menu(c, w, h):
@@ -72,7 +75,10 @@ def menu(c, w, h):
     c.fill(Path.rect(0, 0, w, h), linear((0, 0), (w, h), "#FCF7EC", "#F2E7D3"))
     c.stroke(Path.rounded(4.5 * u, 4.5 * u, w - 9 * u, h - 9 * u, 3 * u), "#0A5F5C", 0.7 * u, 0.75)
     for turn, side in ((-150, -1), (-120, -1), (-60, 1), (-30, 1)):
-        c.fill(blade(w / 2, 18.5 * u, 9.5 * u, 4.4 * u, turn), linear((w / 2, 19 * u), (w / 2 + side * 8 * u, 10 * u), "#0A5F5C", "#3BA096"))
+        c.fill(
+            blade(w / 2, 18.5 * u, 9.5 * u, 4.4 * u, turn),
+            linear((w / 2, 19 * u), (w / 2 + side * 8 * u, 10 * u), "#0A5F5C", "#3BA096"),
+        )
     c.fill(Path.ellipse(w / 2, 18.8 * u, 2.2 * u), SUN_DEEP)
     c.text("Oat & Ember", "didot", 12.4 * u, w / 2, 33.5 * u, "#1F2A2A", "center")
     c.text("SUPPER", "inter-medium", 3.6 * u, w / 2, 40.5 * u, CORAL_DEEP, "center", 0.28)
@@ -90,11 +96,22 @@ def invitation(c, w, h):
     r = 33 * u
     top, foot = h * 0.10, h * 0.92
     arch = Path().move(w / 2 - r, foot).line(w / 2 - r, top + r)
-    arch.cubic(w / 2 - r, top + r * 0.4477, w / 2 - r * 0.5523, top, w / 2, top).cubic(w / 2 + r * 0.5523, top, w / 2 + r, top + r * 0.4477, w / 2 + r, top + r)
+    arch.cubic(w / 2 - r, top + r * 0.4477, w / 2 - r * 0.5523, top, w / 2, top).cubic(
+        w / 2 + r * 0.5523, top, w / 2 + r, top + r * 0.4477, w / 2 + r, top + r
+    )
     c.fill(arch.line(w / 2 + r, foot).close(), linear((0, top), (w, foot), "#FFFDFA", "#F6EFFA"))
-    for x, y, length, turn, tone in ((0.5 * w - 30 * u, foot, 34, -78, VIOLET), (0.5 * w - 35 * u, foot, 27, -104, "#9C8BE6"), (0.5 * w - 22 * u, foot, 22, -50, "#8470DA"),
-                                     (0.5 * w + 32 * u, foot, 32, -104, "#E58B86"), (0.5 * w + 36 * u, foot, 23, -76, CORAL), (0.5 * w + 22 * u, foot, 20, -132, "#F4B39B")):
-        c.fill(blade(x, y, length * u, length * 0.3 * u, turn), linear((x, y), (x, y - length * u), darker(tone, 0.22), lighter(tone, 0.12)))
+    for x, y, length, turn, tone in (
+        (0.5 * w - 30 * u, foot, 34, -78, VIOLET),
+        (0.5 * w - 35 * u, foot, 27, -104, "#9C8BE6"),
+        (0.5 * w - 22 * u, foot, 22, -50, "#8470DA"),
+        (0.5 * w + 32 * u, foot, 32, -104, "#E58B86"),
+        (0.5 * w + 36 * u, foot, 23, -76, CORAL),
+        (0.5 * w + 22 * u, foot, 20, -132, "#F4B39B"),
+    ):
+        c.fill(
+            blade(x, y, length * u, length * 0.3 * u, turn),
+            linear((x, y), (x, y - length * u), darker(tone, 0.22), lighter(tone, 0.12)),
+        )
     c.text("Please join us", "garamond-italic", 6.6 * u, w / 2, h * 0.30, "#4B3E86", "center")
     c.text("Ines", "dancing", 20 * u, w / 2, h * 0.46, VIOLET_DEEP, "center")
     c.text("& Theo", "dancing", 20 * u, w / 2, h * 0.60, VIOLET_DEEP, "center")
@@ -117,7 +134,6 @@ def market(c, w, h):
     c.fill(Path.rect(0, 0, w, h), linear((0, 0), (w, h), "#FFE9B8", "#FFD37A"))
     for i, word in enumerate(("Sunday", "Market")):
         fitted(c, word, "spartan-black", 8 * u, (24 + i * 19.5) * u, 74 * u if word == "Market" else 74 * u, "#0B4F4D")
-    x, y = w * 0.60, h * 0.72
     fruit_slice(c, w * 0.26, h * 0.80, 21 * u, "#FF8A55", "#F36B3B", 12)
     fruit_slice(c, w * 0.76, h * 0.68, 25 * u, "#FFD95E", "#F3B32B", -8)
     c.fill(blade(w * 0.42, h * 0.66, 21 * u, 10 * u, -118), linear((w * 0.42, h * 0.66), (w * 0.34, h * 0.5), "#0B6A5F", "#43A58C"))
@@ -232,7 +248,11 @@ def gig(c, w, h):
     c.fill(Path.rect(0, 0, w, h), linear((0, 0), (w, h), "#15191C", "#23303A"))
     for i in range(5):
         r = (38 - i * 7.2) * u
-        path = Path().move(w * 0.5 - r, h * 0.47).cubic(w * 0.5 - r, h * 0.47 + r * 0.5523, w * 0.5 - r * 0.5523, h * 0.47 + r, w * 0.5, h * 0.47 + r)
+        path = (
+            Path()
+            .move(w * 0.5 - r, h * 0.47)
+            .cubic(w * 0.5 - r, h * 0.47 + r * 0.5523, w * 0.5 - r * 0.5523, h * 0.47 + r, w * 0.5, h * 0.47 + r)
+        )
         path.cubic(w * 0.5 + r * 0.5523, h * 0.47 + r, w * 0.5 + r, h * 0.47 + r * 0.5523, w * 0.5 + r, h * 0.47).close()
         c.fill(path, (CORAL, SUN, TEAL_LIGHT, VIOLET, "#15191C")[i])
     fitted(c, "LOW TIDE", "bebas", 8 * u, h * 0.47 - 7 * u, 74 * u, "#FFFFFF")
@@ -240,9 +260,24 @@ def gig(c, w, h):
     c.text("9 PM", "inter-bold", 5.4 * u, w - 8.4 * u, h - 9 * u, SUN, "right")
 
 
-PAGES = {"sale": sale, "slow_story": slow_story, "menu": menu, "invitation": invitation, "quote": quote, "market": market,
-         "night_swim": night_swim, "collage": collage, "studio": studio, "recipe": recipe, "breathe": breathe, "hiring": hiring,
-         "travel": travel, "podcast": podcast, "lake_story": lake_story, "gig": gig}
+PAGES = {
+    "sale": sale,
+    "slow_story": slow_story,
+    "menu": menu,
+    "invitation": invitation,
+    "quote": quote,
+    "market": market,
+    "night_swim": night_swim,
+    "collage": collage,
+    "studio": studio,
+    "recipe": recipe,
+    "breathe": breathe,
+    "hiring": hiring,
+    "travel": travel,
+    "podcast": podcast,
+    "lake_story": lake_story,
+    "gig": gig,
+}
 
 
 def page(c, name, x, y, width, height, radius=5.0):

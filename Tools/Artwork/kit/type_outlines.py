@@ -90,8 +90,14 @@ class Face:
         if "GPOS" not in self.font:
             return
         table = self.font["GPOS"].table
-        indices = sorted({index for record in table.FeatureList.FeatureRecord if record.FeatureTag == "kern"
-                          for index in record.Feature.LookupListIndex})
+        indices = sorted(
+            {
+                index
+                for record in table.FeatureList.FeatureRecord
+                if record.FeatureTag == "kern"
+                for index in record.Feature.LookupListIndex
+            }
+        )
         for index in indices:
             for subtable in table.LookupList.Lookup[index].SubTable:
                 subtable = getattr(subtable, "ExtSubTable", subtable)

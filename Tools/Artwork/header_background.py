@@ -1,0 +1,162 @@
+"""The third header picture: one plant, half in its room, half cut out by a tap."""
+
+import math
+
+from shapely.affinity import translate
+from shapely.geometry import box
+
+from kit.canvas import Canvas, from_polygon, linear
+from kit.geometry import Path
+from kit.palette import SUN_DEEP, TEAL, TEAL_LIGHT, VIOLET, darker, lighter
+from kit.photos import photo
+from kit.stickers import silhouette
+from paywall_stage import BLEED, CENTER, HEIGHT, WIDTH, deepen, scrim
+
+
+def curved_leaf(c, base, bend, tip, width, tone):
+    """A leaf along a curved rib. The half that faces the light, up and to the left, is the brighter one."""
+    rib, left, right = [], [], []
+    steps = 9
+    for i in range(steps + 1):
+        t = i / steps
+        x = (1 - t) ** 2 * base[0] + 2 * t * (1 - t) * bend[0] + t * t * tip[0]
+        y = (1 - t) ** 2 * base[1] + 2 * t * (1 - t) * bend[1] + t * t * tip[1]
+        dx = 2 * (1 - t) * (bend[0] - base[0]) + 2 * t * (tip[0] - bend[0])
+        dy = 2 * (1 - t) * (bend[1] - base[1]) + 2 * t * (tip[1] - bend[1])
+        length = math.hypot(dx, dy)
+        reach = width / 2 * math.sin(math.pi * t**0.86) ** 0.82 if 0 < t < 1 else 0
+        rib.append((x, y))
+        left.append((x + dy / length * reach, y - dx / length * reach))
+        right.append((x - dy / length * reach, y + dx / length * reach))
+    halves = [
+        Path(Path.smooth(side).commands + [("L", rib[-1])] + Path.smooth(rib[::-1]).commands[1:]).close() for side in (left, right)
+    ]
+    left_is_lit = sum(x + y for x, y in left) < sum(x + y for x, y in right)
+    for half, lit in zip(halves, (left_is_lit, not left_is_lit)):
+        first, last = (tone, lighter(tone, 0.30)) if lit else (darker(tone, 0.34), darker(tone, 0.06))
+        c.fill(half, linear(base, tip, first, last))
+    c.stroke(Path.smooth(rib[:-1]), lighter(tone, 0.48), 0.9, 0.75)
+
+
+LEAVES = (
+    # From the middle of the pot's mouth: the foot of the stem, where the leaf begins, its bend, its tip; then width and tone.
+    # The back comes first.
+    ((-1, 0), (-4, -36), (-16, -78), (-5, -103), 29, "#126E64"),
+    ((2, 0), (12, -30), (44, -66), (44, -95), 30, "#0F655D"),
+    ((-3, 0), (-15, -26), (-52, -56), (-58, -84), 31, "#15766A"),
+    ((4, 0), (22, -18), (62, -34), (84, -58), 29, "#187D70"),
+    ((-4, 0), (-24, -14), (-66, -28), (-92, -48), 28, "#1C8877"),
+    ((1, 0), (5, -26), (24, -58), (16, -82), 27, "#209180"),
+    ((-1, 0), (-7, -16), (-32, -44), (-29, -70), 25, "#279B87"),
+    ((5, 0), (20, -6), (54, -16), (73, -12), 22, "#2BA18C"),
+    ((-5, 0), (-20, -4), (-52, -14), (-74, -6), 22, "#31A891"),
+    ((2, 0), (9, -8), (34, -32), (45, -44), 21, "#3BB39A"),
+    ((-1, 0), (-5, -6), (-18, -28), (-12, -46), 19, "#4ABFA5"),
+)
+
+
+def plant(c, x, mouth):
+    """Leaves in a coral pot on a wooden stand; the mouth of the pot is centred at (x, mouth)."""
+    wood = linear((x - 26, 0), (x + 26, 0), "#C98F58", "#8E5A34")
+    for side in (-1, 1):
+        c.fill(
+            Path.polygon(
+                [
+                    (x + side * 17, mouth + 30),
+                    (x + side * 21.5, mouth + 30),
+                    (x + side * 26, mouth + 64),
+                    (x + side * 22.6, mouth + 64),
+                ]
+            ),
+            wood,
+        )
+    c.fill(Path.rounded(x - 22, mouth + 47, 44, 4.4, 2.2), wood)
+    for foot, base, bend, tip, width, tone in LEAVES:
+        foot, base, bend, tip = ((x + px * 0.95, mouth + py * 0.95) for px, py in (foot, base, bend, tip))
+        c.stroke(Path.polyline([foot, base]), darker(tone, 0.12), 2.2)
+        curved_leaf(c, base, bend, tip, width, tone)
+    pot = Path().move(x - 25, mouth).line(x + 25, mouth).cubic(x + 24, mouth + 22, x + 21, mouth + 40, x + 17, mouth + 47)
+    pot.cubic(x + 15, mouth + 50.5, x - 15, mouth + 50.5, x - 17, mouth + 47).cubic(
+        x - 21, mouth + 40, x - 24, mouth + 22, x - 25, mouth
+    ).close()
+    c.fill(pot, linear((x - 25, 0), (x + 25, 0), (0, "#FF9A80"), (0.35, "#FB6F58"), (1, "#C9402F")))
+    c.fill(
+        Path.rounded(x - 28, mouth - 4, 56, 12, 4.5),
+        linear((x - 28, 0), (x + 28, 0), (0, "#FFAF97"), (0.4, "#FF7F68"), (1, "#D54C3B")),
+    )
+
+
+def room(c):
+    c.fill(
+        Path.rect(-BLEED, -BLEED, CENTER + BLEED, HEIGHT + 2 * BLEED), linear((0, 0), (CENTER, HEIGHT * 0.8), "#FBDDB8", "#F0B288")
+    )
+    for left in (52, 122):
+        c.fill(
+            Path.polygon([(left, -4), (left + 60, -4), (left + 122, 140), (left + 62, 140)]),
+            linear((left, 0), (left + 100, 140), (0, "#FFF7E8", 0.7), (1, "#FFF7E8", 0.15)),
+        )
+    frame = Path.rounded(128, 28, 56, 70, 3)
+    c.long_shadow(frame, 18, 50, "#7A3F1E", 0.30)
+    c.fill(frame, linear((128, 28), (184, 98), "#9C6238", "#6E4023"))
+    c.fill(Path.rect(131.5, 31.5, 49, 63), "#FFF9EF")
+    photo(c, "dusk", 138, 38.5, 36, 49, 1)
+    shelf = Path.rounded(4, 110, 98, 5, 2)
+    c.long_shadow(shelf, 12, 60, "#7A3F1E", 0.24)
+    c.fill(shelf, linear((4, 110), (102, 115), "#A86C3C", "#7E4B29"))
+    for x, width, height, tone, turn in (
+        (14, 9, 42, TEAL, 0),
+        (24, 11, 36, VIOLET, 0),
+        (36, 8, 46, SUN_DEEP, 0),
+        (45, 12, 38, "#E8694F", 0),
+        (64, 9, 40, "#3C8FC9", -9),
+    ):
+        with c.placed(x, 110, turn) as book:
+            book.fill(
+                Path.rounded(0, -height, width, height, 1.6), linear((0, 0), (width, 0), lighter(tone, 0.14), darker(tone, 0.12))
+            )
+            book.fill(Path.rect(0, -height + 6, width, 1.6), "#FFF4DC", 0.7)
+    c.fill(Path.rect(0, 164, CENTER, 90), linear((0, 164), (0, HEIGHT), "#A9633A", "#6B3A22"))
+
+
+def checkerboard(c, left):
+    c.fill(Path.rect(left, -BLEED, WIDTH + BLEED - left, HEIGHT + 2 * BLEED), "#FFFFFF")
+    cell, squares = 12, Path()
+    for row in range(int(HEIGHT / cell) + 1):
+        for column in range(int((WIDTH - left) / cell) + 1):
+            if (row + column) % 2:
+                squares += Path.rect(left + column * cell, row * cell, cell, min(cell, HEIGHT - row * cell))
+    c.fill(squares, "#DCE3E5")
+
+
+def ripple(c, x, y):
+    """A tap: rings running out from a fingertip."""
+    for radius, width, opacity in ((38, 1.2, 0.35), (27, 1.8, 0.6), (17, 2.4, 0.95)):
+        c.stroke(Path.ellipse(x, y, radius), "#FFFFFF", width, opacity)
+    c.fill(Path.ellipse(x + 1, y + 2.5, 10.6), "#06302F", 0.3)
+    c.fill(Path.ellipse(x, y, 10), "#FFFFFF")
+    c.fill(Path.ellipse(x, y, 6.2), linear((x - 6, y - 6), (x + 6, y + 6), "#14A39B", TEAL))
+
+
+def header_c(dark):
+    c = Canvas(WIDTH, HEIGHT)
+    room(c)
+    checkerboard(c, CENTER)
+    deepen(c, dark)
+    scrim(c, "#071A1C", 104)
+    mouth = 114
+    area = silhouette(lambda pen: plant(pen, CENTER, mouth))
+    half = box(CENTER, -10, WIDTH, HEIGHT)
+    with c.clipped(Path.rect(-50, -10, CENTER + 50, HEIGHT + 10)) as left:
+        left.fill(
+            from_polygon(translate(area, 9, 10)),
+            linear((CENTER - 90, 20), (CENTER, 150), (0, "#6B2F14", 0.30), (1, "#6B2F14", 0.14)),
+        )
+    c.fill(from_polygon(area.buffer(4.2, 8).intersection(half)), TEAL_LIGHT)
+    c.fill(from_polygon(area.buffer(2.6, 8).intersection(half)), "#FFFFFF")
+    plant(c, CENTER, mouth)
+    c.fill(
+        Path.rect(CENTER - 1, 0, 2, HEIGHT),
+        linear((0, 0), (0, HEIGHT), (0, "#FFFFFF", 1), (0.7, "#FFFFFF", 0.95), (1, "#FFFFFF", 0)),
+    )
+    ripple(c, CENTER, 78)
+    return c
