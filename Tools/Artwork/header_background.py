@@ -64,8 +64,8 @@ def plant(c, x, mouth):
                 [
                     (x + side * 17, mouth + 30),
                     (x + side * 21.5, mouth + 30),
-                    (x + side * 26, mouth + 64),
-                    (x + side * 22.6, mouth + 64),
+                    (x + side * 26, mouth + 58),
+                    (x + side * 22.6, mouth + 58),
                 ]
             ),
             wood,
@@ -156,7 +156,7 @@ def header_c(dark):
     plant(c, CENTER, mouth)
     c.fill(
         Path.rect(CENTER - 1, 0, 2, HEIGHT),
-        linear((0, 0), (0, HEIGHT), (0, "#FFFFFF", 1), (0.7, "#FFFFFF", 0.95), (1, "#FFFFFF", 0)),
+        linear((0, 0), (0, HEIGHT), (0, "#FFFFFF", 1), (0.55, "#FFFFFF", 0.95), (0.71, "#FFFFFF", 0)),
     )
     ripple(c, CENTER, 78)
     return c
