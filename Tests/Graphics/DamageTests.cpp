@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 
 #include <gmock/gmock.h>
@@ -77,6 +78,22 @@ TEST(Damage, IsWhatChangesItsPlaceInTheOrder) {
     EXPECT_THAT(damage, ElementsAre(a.rect));
 }
 
+TEST(Damage, IsWhereATextChangesBetweenOtherChanges) {
+    const Rect lineBox{{0, 200}, {15, 10}};
+    const auto listWith = [&](std::uint8_t shade, const ShapedTextPointer& text) {
+        DisplayList list;
+        PaintContext context(list);
+        context.fillRectangle({}, a.rect, {shade, 0, 0});
+        context.text({}, {0, 208}, lineBox, text, 0, 3, {});
+        context.fillRectangle({}, d.rect, {shade, 0, 0});
+        return list;
+    };
+
+    const std::vector<Rect> damage = damageBetween(listWith(1, shaped("one")), listWith(2, shaped("two")));
+
+    EXPECT_TRUE(std::any_of(damage.begin(), damage.end(), [&](const Rect& rect) { return rect.intersects(lineBox); }));
+}
+
 TEST(Damage, JoinsRectanglesThatOverlap) {
     const Tile under{{{0, 0}, {20, 10}}, 1}, over{{{10, 0}, {20, 10}}, 2};
 
@@ -94,6 +111,38 @@ TEST(Damage, StaysAFewRectanglesHoweverMuchChanges) {
 }
 
 // Comparing by value: the same picture may be written with other indices and other objects.
+
+struct Change {
+    const char* name;
+    void (*apply)(Command&);
+};
+
+class EveryField : public ::testing::TestWithParam<Change> {};
+
+TEST_P(EveryField, MakesADifference) {
+    const DisplayList before = listOf({a});
+    DisplayList after = before;
+    EXPECT_TRUE(paintsTheSame(before, before.commands[0], after, after.commands[0]));
+
+    GetParam().apply(after.commands[0]);
+
+    EXPECT_FALSE(paintsTheSame(before, before.commands[0], after, after.commands[0]));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    PaintsTheSame, EveryField,
+    ::testing::Values(
+        Change{"Kind", [](Command& c) { c.kind = CommandKind::fillEllipse; }},
+        Change{"CornerStyle", [](Command& c) { c.cornerStyle = geometry::CornerStyle::continuous; }},
+        Change{"Scheme", [](Command& c) { c.scheme = ColorScheme::dark; }}, Change{"Color", [](Command& c) { c.color.blue ^= 1; }},
+        Change{"Opacity", [](Command& c) { c.opacity = 0.5f; }}, Change{"Frame", [](Command& c) { c.frame.size.height += 0.25; }},
+        Change{"Bounds", [](Command& c) { c.bounds.size.width += 0.25; }},
+        Change{"Clip", [](Command& c) { c.clip.origin.x += 0.25; }}, Change{"CornerRadius", [](Command& c) { c.cornerRadius = 1; }},
+        Change{"LineWidth", [](Command& c) { c.lineWidth = 1; }}, Change{"BlurRadius", [](Command& c) { c.blurRadius = 1; }},
+        Change{"ClipRadius", [](Command& c) { c.clipRadius = 1; }},
+        Change{"RoundedClip", [](Command& c) { c.roundedClip.size.width = 1; }},
+        Change{"FirstCluster", [](Command& c) { c.firstCluster = 1; }}, Change{"EndCluster", [](Command& c) { c.endCluster = 1; }}),
+    [](const auto& info) { return info.param.name; });
 
 TEST(PaintsTheSame, WhateverTheResourcesIndices) {
     DisplayList before, after;

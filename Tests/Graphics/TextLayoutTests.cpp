@@ -63,6 +63,11 @@ TEST(TextLayout, IsNeverWrappedWithoutAWidth) {
     EXPECT_EQ(linesOf(std::string(1000, 'x') + " y", {}), (Lines{std::string(1000, 'x') + " y"}));
 }
 
+TEST(TextLayout, ForgivesARoundingErrorInTheWidth) {
+    EXPECT_EQ(linesOf("one two", {.width = 35 - 1e-7}), (Lines{"one two"}));
+    EXPECT_EQ(linesOf("one two", {.width = 35 - 1e-5}), (Lines{"one", "two"}));
+}
+
 TEST(TextLayout, TakesTheWidestLinesWidthAndEveryLinesHeight) {
     const TextLayout layout = laidOut(*shaped("one three"), {.width = 25});
 
@@ -175,14 +180,28 @@ TEST(Truncation, CutsLinesThatDoNotFitTheHeight) {
     EXPECT_EQ(linesOf("one two", justEnough), (Lines{"one", "two"}));
 }
 
+TEST(Truncation, CountsTheSpacingBetweenAllLines) {
+    TextLayoutRequest request{.width = 5, .height = 3 * 12.5 + 2 * 5, .lineSpacing = 5, .ellipsisWidth = 5};
+    EXPECT_EQ(linesOf("a b c", request), (Lines{"a", "b", "c"}));
+
+    *request.height -= 0.1;
+    EXPECT_EQ(linesOf("a b c", request).size(), 2u);
+}
+
 TEST(Truncation, NeverMakesTheLastLineTaller) {
     const auto text = shaped({styled("aa bb ", 10), styled("CCC", 40)});
-    const TextLayout layout = laidOut(*text, {.width = 100, .height = 20, .ellipsisWidth = 5});
 
-    EXPECT_EQ(layout.lines[0].height, 50); // the text's first line has the tall run in it
-    const TextLayout narrow = laidOut(*text, {.width = 40, .height = 20, .ellipsisWidth = 5});
-    EXPECT_EQ(linesOf(*text, narrow), (Lines{"aa bb…"}));
-    EXPECT_EQ(narrow.size.height, 12.5);
+    // A large letter would have room beside the ellipsis.
+    const TextLayout layout = laidOut(*text, {.width = 60, .height = 20, .ellipsisWidth = 5});
+
+    EXPECT_EQ(linesOf(*text, layout), (Lines{"aa bb…"}));
+    EXPECT_EQ(layout.size.height, 12.5);
+}
+
+TEST(Truncation, KeepsAFirstLineThatIsTallerThanTheHeight) {
+    const auto text = shaped({styled("aa bb ", 10), styled("CCC", 40)});
+
+    EXPECT_EQ(laidOut(*text, {.width = 100, .height = 20, .ellipsisWidth = 5}).size.height, 50);
 }
 
 TEST(Truncation, StylesTheEllipsisLikeTheTextBeforeIt) {
