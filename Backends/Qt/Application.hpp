@@ -1,0 +1,40 @@
+// Qt's application object, set up for a host program.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+class QGuiApplication;
+
+namespace qtbackend {
+
+struct ApplicationOptions {
+    std::string name = "ProUpsells";
+    bool isHeadless = false;     // no display is asked for; pictures can still be made
+    std::optional<double> scale; // pixels a point; the display's own where absent
+};
+
+// One a process, before fonts, pictures or windows are used.
+class Application {
+public:
+    explicit Application(const ApplicationOptions& options = {});
+    ~Application();
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    // Whether a window could be shown: a platform was named, or a display is there. To be asked before the application is made.
+    static bool hasDisplay();
+
+    // Handles events until quit() or until the last window is closed. Returns the exit status.
+    int run();
+    static void quit(int exitStatus = 0);
+
+private:
+    std::string m_name;
+    int m_argumentCount = 1;
+    char* m_arguments[2];
+    std::unique_ptr<QGuiApplication> m_application;
+};
+
+} // namespace qtbackend

@@ -1,0 +1,48 @@
+#include "Backends/Qt/Blending.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace qtbackend {
+
+namespace {
+
+Pixel over(Pixel top, Pixel below) { return top + scaled(below, 255u - alphaOf(top)); }
+
+} // namespace
+
+std::uint8_t opacityFactor(float opacity) {
+    return opacity >= 1 ? 255 : opacity > 0 ? std::uint8_t(std::lround(opacity * 255)) : 0;
+}
+
+Pixel premultiplied(graphics::RGBA color, std::uint8_t opacity) {
+    const std::uint8_t alpha = scaledByte(color.alpha, opacity);
+    const Pixel opaque = 0xFF000000u | Pixel(color.red) << 16 | Pixel(color.green) << 8 | color.blue;
+    return scaled(opaque, alpha);
+}
+
+void blendColor(Pixel* to, std::size_t count, Pixel color, std::uint8_t coverage) {
+    const Pixel top = coverage == 255 ? color : scaled(color, coverage);
+    const std::uint32_t rest = 255u - alphaOf(top);
+    if (rest == 0) {
+        std::fill_n(to, count, top);
+    } else if (rest < 255) {
+        for (std::size_t index = 0; index < count; ++index) to[index] = top + scaled(to[index], rest);
+    }
+}
+
+void blendColor(Pixel* to, std::size_t count, Pixel color, const std::uint8_t* coverages) {
+    for (std::size_t index = 0; index < count; ++index)
+        if (coverages[index] != 0) to[index] = over(scaled(color, coverages[index]), to[index]);
+}
+
+void blendPixels(Pixel* to, std::size_t count, const Pixel* from, std::uint8_t opacity) {
+    if (opacity == 255) {
+        for (std::size_t index = 0; index < count; ++index) to[index] = over(from[index], to[index]);
+    } else {
+        for (std::size_t index = 0; index < count; ++index) to[index] = over(scaled(from[index], opacity), to[index]);
+    }
+}
+
+} // namespace qtbackend

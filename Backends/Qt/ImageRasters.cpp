@@ -1,0 +1,125 @@
+#include "Backends/Qt/ImageRasters.hpp"
+
+#include <QPainter>
+#include <functional>
+#include <string_view>
+
+#include "Backends/Qt/Blending.hpp"
+#include "Backends/Qt/ImageFile.hpp"
+#include "Platform/Commons/DefaultLogger.hpp"
+
+namespace qtbackend {
+
+namespace {
+
+constexpr std::size_t imageCacheBytes = 64 << 20;
+
+bool isOpaque(const QImage& image) {
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* row = reinterpret_cast<const Pixel*>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            if (alphaOf(row[x]) != 255) return false;
+    }
+    return true;
+}
+
+std::shared_ptr<const CoverageMask> coverageOf(const QImage& image) {
+    auto mask = std::make_shared<CoverageMask>();
+    std::vector<std::uint8_t> coverages(std::size_t(image.width()));
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* row = reinterpret_cast<const Pixel*>(image.constScanLine(y));
+        for (std::size_t x = 0; x < coverages.size(); ++x) coverages[x] = alphaOf(row[x]);
+        mask->appendRow(coverages);
+    }
+    return mask;
+}
+
+std::size_t byteCountOf(const ImageRaster& raster) {
+    return std::size_t(raster.pixels.sizeInBytes()) + (raster.coverage ? raster.coverage->byteCount() : 0) + sizeof(ImageRaster);
+}
+
+} // namespace
+
+std::size_t ImageRasters::Key::Hash::operator()(const Key& key) const {
+    return key.source ^
+           (std::size_t(key.width) * 0x9E3779B97F4A7C15u + std::size_t(key.height) * 0xC2B2AE3D27D4EB4Fu + key.isTinted);
+}
+
+ImageRasters::ImageRasters() : m_entries(imageCacheBytes) {}
+
+const ImageRaster& ImageRasters::image(const graphics::Image& image, graphics::ColorScheme scheme, QSize size) {
+    const std::filesystem::path& file = image.fileFor(scheme);
+    const bool isTinted = image.renderingMode == graphics::RenderingMode::tinted;
+    const Key key{std::hash<std::basic_string_view<std::filesystem::path::value_type>>()(file.native()), size.width(),
+                  size.height(), isTinted};
+    const Entry* known = m_entries.find(key);
+    if (known && known->file == file) return known->raster;
+    if (!known) return insert(key, {load(file, size, isTinted), file, nullptr});
+    // Another file of the same hash.
+    m_unshared = load(file, size, isTinted);
+    return m_unshared;
+}
+
+ImageRaster ImageRasters::load(const std::filesystem::path& file, QSize size, bool isTinted) {
+    ImageRaster raster;
+    raster.pixels = readImage(file, size);
+    if (raster.pixels.isNull()) {
+        if (m_reportedFiles.insert(file.string()).second)
+            commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity,
+                                                 "The image " + file.string() + " cannot be read", "ImageRasters::load");
+        return raster;
+    }
+    if (isTinted)
+        raster.coverage = coverageOf(raster.pixels);
+    else
+        raster.isOpaque = isOpaque(raster.pixels);
+    return raster;
+}
+
+const ImageRaster& ImageRasters::bitmap(const std::shared_ptr<const graphics::Bitmap>& bitmap, QSize size) {
+    const Key key{std::hash<const void*>()(bitmap.get()), size.width(), size.height(), false};
+    const Entry* known = m_entries.find(key);
+    if (known && known->bitmap == bitmap) return known->raster;
+
+    ImageRaster raster;
+    const bool isWhole = bitmap->width > 0 && bitmap->height > 0 &&
+                         bitmap->pixels.size() == std::size_t(bitmap->width) * std::size_t(bitmap->height);
+    if (isWhole && !size.isEmpty()) {
+        const QImage original(reinterpret_cast<const uchar*>(bitmap->pixels.data()), bitmap->width, bitmap->height,
+                              bitmap->width * 4, QImage::Format_ARGB32_Premultiplied);
+        raster.pixels = original.size() == size ? original.copy()
+                                                : original.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                                      .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        raster.isOpaque = isOpaque(raster.pixels);
+    }
+    if (!known) return insert(key, {std::move(raster), {}, bitmap});
+    m_unshared = std::move(raster);
+    return m_unshared;
+}
+
+const ImageRaster& ImageRasters::insert(const Key& key, Entry entry) {
+    const std::size_t byteCount = byteCountOf(entry.raster) + (entry.bitmap ? entry.bitmap->pixels.size() * sizeof(Pixel) : 0);
+    return m_entries.insert(key, std::move(entry), byteCount).raster;
+}
+
+ImageRaster ImageRasters::transformed(const ImageRaster& raster, const geometry::Rect& frame, const geometry::Transform& toPixels,
+                                      const PixelRect& window) {
+    const PixelRect pixels = touchedPixels(toPixels.apply(frame)).intersection(window);
+    if (raster.pixels.isNull() || pixels.isEmpty()) return {};
+    ImageRaster result;
+    result.x = pixels.left;
+    result.y = pixels.top;
+    result.pixels = QImage(pixels.width(), pixels.height(), QImage::Format_ARGB32_Premultiplied);
+    result.pixels.fill(Qt::transparent);
+    QPainter painter(&result.pixels);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setTransform(
+        QTransform(toPixels.a, toPixels.b, toPixels.c, toPixels.d, toPixels.tx - pixels.left, toPixels.ty - pixels.top));
+    painter.drawImage(QRectF(frame.minX(), frame.minY(), frame.width(), frame.height()), raster.pixels);
+    painter.end();
+    if (raster.coverage) result.coverage = coverageOf(result.pixels);
+    return result;
+}
+
+} // namespace qtbackend

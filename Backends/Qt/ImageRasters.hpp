@@ -1,0 +1,61 @@
+// Pictures at the sizes in pixels at which they are shown.
+#pragma once
+
+#include <QImage>
+#include <filesystem>
+#include <memory>
+#include <unordered_set>
+
+#include "Backends/Qt/CoverageMask.hpp"
+#include "Backends/Qt/LruCache.hpp"
+#include "Backends/Qt/PixelRect.hpp"
+#include "Platform/Geometry/Transform.hpp"
+#include "Platform/Graphics/DisplayList.hpp"
+
+namespace qtbackend {
+
+struct ImageRaster {
+    QImage pixels; // premultiplied; null when the picture cannot be read
+    bool isOpaque = false;
+    std::shared_ptr<const CoverageMask> coverage; // of a tinted picture: where the tint goes
+    int x = 0, y = 0;                             // where it stands, of one that was transformed
+};
+
+class ImageRasters {
+public:
+    ImageRasters();
+
+    // A file that cannot be read is reported once and has null pixels. Good until the next call.
+    const ImageRaster& image(const graphics::Image& image, graphics::ColorScheme scheme, QSize size);
+    const ImageRaster& bitmap(const std::shared_ptr<const graphics::Bitmap>& bitmap, QSize size);
+
+    // Turned, or scaled by a passing animation: the picture that covers `frame`, as it is mapped to pixels, inside of `window`.
+    ImageRaster transformed(const ImageRaster& raster, const geometry::Rect& frame, const geometry::Transform& toPixels,
+                            const PixelRect& window);
+
+private:
+    struct Key {
+        std::size_t source; // hash of a file name, or an address
+        int width, height;
+        bool isTinted;
+
+        bool operator==(const Key&) const = default;
+        struct Hash {
+            std::size_t operator()(const Key& key) const;
+        };
+    };
+    struct Entry {
+        ImageRaster raster;
+        std::filesystem::path file;
+        std::shared_ptr<const graphics::Bitmap> bitmap; // kept so that its address stays its own
+    };
+
+    ImageRaster load(const std::filesystem::path& file, QSize size, bool isTinted);
+    const ImageRaster& insert(const Key& key, Entry entry);
+
+    LruCache<Key, Entry> m_entries;
+    std::unordered_set<std::string> m_reportedFiles;
+    ImageRaster m_unshared;
+};
+
+} // namespace qtbackend

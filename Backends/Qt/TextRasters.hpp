@@ -1,0 +1,73 @@
+// Fragments of shaped text as masks, made once for each size and place between pixels.
+#pragma once
+
+#include <QImage>
+#include <array>
+#include <memory>
+#include <unordered_map>
+
+#include "Backends/Qt/Blending.hpp"
+#include "Backends/Qt/CoverageRasterizer.hpp"
+#include "Backends/Qt/LruCache.hpp"
+#include "Backends/Qt/PlacedMask.hpp"
+#include "Backends/Qt/QtShapedText.hpp"
+#include "Backends/Qt/QtTextShaper.hpp"
+
+namespace qtbackend {
+
+// A mask to be painted in the text's colour; or, where there is emoji, the finished picture.
+struct TextRaster {
+    PlacedMask mask;
+    QImage picture; // premultiplied; stands at the mask's place
+};
+
+// Neighbouring clusters of one run and one direction.
+struct FragmentRange {
+    std::uint32_t first = 0;
+    std::uint32_t end = 0;
+};
+
+class TextRasters {
+public:
+    TextRasters();
+
+    // `baseline` is the fragment's left end, in the lengths that `toPixels` maps. Upright text stands on whole rows of pixels.
+    TextRaster raster(const QtShapedText& text, FragmentRange range, geometry::Point baseline, const geometry::Transform& toPixels,
+                      Pixel color);
+
+    // The text itself, or, where another shaper made it, our glyphs on its clusters' places.
+    std::shared_ptr<const QtShapedText> withGlyphs(const std::shared_ptr<const graphics::ShapedText>& text);
+
+private:
+    struct Key {
+        std::uint64_t text;
+        FragmentRange range;
+        std::array<double, 4> linear;
+        int phaseX, phaseY; // quarters of a pixel
+        Pixel color;        // of a picture
+
+        bool operator==(const Key& other) const;
+        struct Hash {
+            std::size_t operator()(const Key& key) const;
+        };
+    };
+    struct Entry {
+        std::shared_ptr<const CoverageMask> mask;
+        QImage picture;
+        int x, y; // from the baseline's pixel
+    };
+    struct ForeignText {
+        std::weak_ptr<const graphics::ShapedText> original;
+        std::shared_ptr<const QtShapedText> ours;
+    };
+
+    Entry make(const QtShapedText& text, FragmentRange range, const geometry::Transform& toPixels, Pixel color);
+    std::shared_ptr<const QtShapedText> translate(const graphics::ShapedText& text);
+
+    LruCache<Key, Entry> m_entries;
+    CoverageRasterizer m_rasterizer;
+    std::unordered_map<const graphics::ShapedText*, ForeignText> m_foreignTexts;
+    QtTextShaper m_shaper;
+};
+
+} // namespace qtbackend
