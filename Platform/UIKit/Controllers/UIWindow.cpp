@@ -118,10 +118,12 @@ graphics::PaintState UIWindow::windowState() const {
     return state;
 }
 
+// What becomes due while the picture is made is part of it and asks for no other.
 void UIWindow::paint(graphics::DisplayList& list) {
-    m_isUpdating = true; // a layout that is due now is part of this picture and asks for no other
+    const auto kept = strongReference(*this);
+    m_isUpdating = true;
+    ++m_paintCount;
     layoutIfNeeded();
-    m_isUpdating = false;
     list.clear();
     graphics::PaintContext context(list);
     const graphics::PaintState state = windowState();
@@ -130,6 +132,8 @@ void UIWindow::paint(graphics::DisplayList& list) {
     while (first > 0 && !layers[first]->covers(bounds())) --first;
     for (std::size_t i = first; i < layers.size(); ++i) layers[i]->paint(context, state);
     paintFocusRing(context);
+    m_isUpdating = false;
+    m_needsDisplay = false;
 }
 
 bool UIWindow::isAnimating() const { return UIView::isAnimating(); }

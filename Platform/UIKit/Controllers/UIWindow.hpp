@@ -1,6 +1,7 @@
 // The outermost view: stands between a backend's window and the controllers that fill it.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 
 #include "Platform/RunLoop/MainRunLoop.hpp"
@@ -46,6 +47,8 @@ public:
     bool key(host::Key key) override;
     void paint(graphics::DisplayList& list) override;
     bool isAnimating() const override;
+    // How often `paint` was called, with a call that is running.
+    std::uint64_t paintCount() const { return m_paintCount; }
     void setNeedsDisplayHandler(std::function<void()> handler) override;
     // Of the front-most presentation, from its controller's view on.
     accessibility::Node semanticTree() override;
@@ -81,6 +84,7 @@ private:
     UITraitCollection m_windowTraits;
     geometry::PhysicalInsets m_safeArea;
     std::function<void()> m_needsDisplayHandler;
+    std::uint64_t m_paintCount = 0;
     bool m_needsDisplay = false;
     bool m_updateIsRequested = false;
     bool m_isUpdating = false;

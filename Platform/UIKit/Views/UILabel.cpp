@@ -63,6 +63,7 @@ void UILabel::setTextAlignment(graphics::TextAlignment alignment) {
 
 void UILabel::setNumberOfLines(int count) {
     m_numberOfLines = std::max(0, count);
+    m_drawn.reset();
     invalidateIntrinsicContentSize();
 }
 
@@ -73,6 +74,7 @@ void UILabel::setPreferredMaxLayoutWidth(double width) {
 }
 
 void UILabel::contentDidChange() {
+    m_drawn.reset();
     m_runs.clear();
     for (const graphics::AttributedRun& run : m_content.runs())
         m_runs.push_back({run.text, run.attributes.font, run.attributes.kern});
@@ -124,16 +126,23 @@ geometry::Size UILabel::sizeThatFits(const geometry::ProposedSize& proposal) con
 
 // --- Picture ---
 
-void UILabel::draw(graphics::PaintContext& context, const graphics::PaintState& state) const {
-    if (m_content.isEmpty()) return;
-    const graphics::TextLayout layout = laidOut(bounds().size);
-    std::vector<graphics::TextRunPaint> paints;
+const UILabel::Drawn& UILabel::drawn(graphics::ColorScheme scheme) const {
+    const bool isCurrent = m_drawn && m_drawn->size == bounds().size && m_drawn->direction == direction() &&
+                           m_drawn->scheme == scheme && m_drawn->language == language();
+    if (isCurrent) return *m_drawn;
+    Drawn drawn{bounds().size, direction(), scheme, std::string(language()), laidOut(bounds().size), shapedText(), ellipsis(), {}};
     for (const graphics::AttributedRun& run : m_content.runs())
-        paints.push_back({run.attributes.color.resolved(state.scheme), run.attributes.isStruckThrough});
-    const auto text = shapedText();
-    const double top = bounds().midY() - layout.size.height / 2;
-    graphics::paintTextLayout(context, state, layout, text, ellipsis(),
-                              {{bounds().minX(), top}, {bounds().width(), layout.size.height}}, m_alignment, paints);
+        drawn.paints.push_back({run.attributes.color.resolved(scheme), run.attributes.isStruckThrough});
+    m_drawn = std::move(drawn);
+    return *m_drawn;
+}
+
+void UILabel::draw(graphics::PaintContext& context, const graphics::PaintState& state) const {
+    if (m_content.isEmpty() || state.hides(bounds())) return;
+    const Drawn& drawn = this->drawn(state.scheme);
+    const double height = drawn.layout.size.height;
+    const geometry::Rect box{{bounds().minX(), bounds().midY() - height / 2}, {bounds().width(), height}};
+    graphics::paintTextLayout(context, state, drawn.layout, drawn.text, drawn.ellipsis, box, m_alignment, drawn.paints);
 }
 
 void UILabel::describe(accessibility::Node& node, const graphics::PaintState&) const {

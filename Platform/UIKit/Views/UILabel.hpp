@@ -43,12 +43,24 @@ protected:
     void describe(accessibility::Node& node, const graphics::PaintState& state) const override;
 
 private:
+    // What is painted, kept until the text, its room or the way of reading changes.
+    struct Drawn {
+        geometry::Size size;
+        geometry::LayoutDirection direction;
+        graphics::ColorScheme scheme;
+        std::string language;
+        graphics::TextLayout layout;
+        std::shared_ptr<const graphics::ShapedText> text, ellipsis;
+        std::vector<graphics::TextRunPaint> paints;
+    };
+
     void contentDidChange();
     void restylePlainText();
     const std::shared_ptr<const graphics::ShapedText>& shapedText() const;
     std::shared_ptr<const graphics::ShapedText> ellipsis() const;
     graphics::TextLayout laidOut(const geometry::ProposedSize& proposal) const;
     const UIFont& firstFont() const;
+    const Drawn& drawn(graphics::ColorScheme scheme) const;
     geometry::LayoutDirection direction() const { return traitCollection().layoutDirection; }
 
     graphics::AttributedString m_content;
@@ -58,6 +70,7 @@ private:
     bool m_isPlain = true;
     int m_numberOfLines = 1;
     double m_preferredMaxLayoutWidth = 0;
+    mutable std::optional<Drawn> m_drawn;
 };
 
 } // namespace uikit
