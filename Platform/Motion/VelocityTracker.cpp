@@ -15,8 +15,8 @@ constexpr double sampleInterval_s = 0.005;
 void VelocityTracker::reset() { m_count = 0; }
 
 void VelocityTracker::add(double time_s, double position) {
-    const bool replacesNewest = m_count >= 2 && time_s - m_times_s[m_count - 2] < sampleInterval_s;
-    if (replacesNewest) {
+    const bool isSameMoment = m_count >= 1 && time_s <= m_times_s[m_count - 1];
+    if (isSameMoment || (m_count >= 2 && time_s - m_times_s[m_count - 2] < sampleInterval_s)) {
         --m_count;
     } else if (m_count == capacity) {
         std::copy(m_times_s + 1, m_times_s + capacity, m_times_s);

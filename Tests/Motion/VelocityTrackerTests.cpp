@@ -46,6 +46,15 @@ TEST(VelocityTracker, TakesNoSpeedFromALeapInNoTime) {
     EXPECT_EQ(tracker.velocityAt(1), 0);
 }
 
+TEST(VelocityTracker, TakesTheLastOfSeveralPlacesOfOneMoment) {
+    VelocityTracker tracker;
+    tracker.add(1, 0);
+    tracker.add(1, 10);
+    tracker.add(1.05, 20);
+
+    EXPECT_NEAR(tracker.velocityAt(1.05), 200, 1e-9);
+}
+
 TEST(VelocityTracker, LooksPastTheTremblingOfAFastDevice) {
     VelocityTracker tracker;
     for (int millisecond = 0; millisecond <= 100; ++millisecond) {

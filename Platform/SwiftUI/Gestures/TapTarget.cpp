@@ -13,8 +13,8 @@ void TapTarget::adopt(Node& node, Action action) {
 }
 
 void TapTarget::act() const {
-    const std::shared_ptr<ViewHost> alive = m_node->host().shared_from_this();
-    // A copy, since the node and its action may go before the call ends.
+    const ViewHost::Hold hold(m_node->host());
+    // A copy, since an update during the call replaces it.
     const Action action = m_action;
     if (action) action();
 }

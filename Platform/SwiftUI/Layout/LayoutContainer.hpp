@@ -45,6 +45,7 @@ namespace detail {
 class LayoutContainerNode : public Node {
 public:
     std::optional<Axis> stackAxis() const override { return Axis::horizontal; }
+    bool squeezesSpacers() const override { return true; }
 
 protected:
     virtual geometry::Size sizeByRule(const geometry::ProposedSize&, const LayoutSubviews&) const = 0;

@@ -23,6 +23,7 @@ public:
     bool isAbsent() const override { return !onlyChild() || onlyChild()->isAbsent(); }
     bool isTransparent() const override { return onlyChild() && onlyChild()->isTransparent(); }
     bool sharesStackAxis() const override { return true; }
+    bool isSpacer() const override { return onlyChild() && onlyChild()->isSpacer(); }
     double layoutPriority() const override { return onlyChild() ? onlyChild()->layoutPriority() : 0; }
     double firstBaseline(const geometry::ProposedSize& proposal) override;
     LengthRange lengthRange(Axis axis, std::optional<double> crossProposal) override;

@@ -157,6 +157,8 @@ public:
     virtual bool sharesStackAxis() const { return isTransparent(); }
     // Stretches to take the room that is left over, and is nothing by itself.
     virtual bool isSpacer() const { return false; }
+    // Whether spacers inside take what they are given, be it less than their minimum.
+    virtual bool squeezesSpacers() const { return false; }
     // The nodes that a container lays out: children, seen through groups and loops, absent ones left out.
     void collectLayoutChildren(std::vector<Node*>& result) const;
 
@@ -294,6 +296,7 @@ private:
 
     bool m_isNew = true;
     bool m_environmentChanged = true;
+    bool m_isRightToLeft = false;
     bool m_needsBuild = false;
     bool m_mustBuild = false; // during its update: something here or inside has changed
     bool m_hasDirtyDescendant = false;
@@ -324,6 +327,7 @@ void Node::forEachPainted(Function&& function) const {
 class ModifierNode : public Node {
 public:
     bool isAbsent() const override { return !onlyChild() || onlyChild()->isAbsent(); }
+    bool isSpacer() const override { return onlyChild() && onlyChild()->isSpacer(); }
     double layoutPriority() const override { return onlyChild() ? onlyChild()->layoutPriority() : 0; }
     double firstBaseline(const geometry::ProposedSize& proposal) override;
     // The child's: a modifier that changes sizes overrides it, if only with Node's.

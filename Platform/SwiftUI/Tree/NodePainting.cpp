@@ -30,7 +30,7 @@ PaintState stateOfContent(const Node& node, const PaintState& state, double now_
 
 void Node::paint(graphics::PaintContext& context, const PaintState& parentState, double now_s) {
     // While things move they may be outside of where they will be in the end.
-    if (!m_host->isAnimating() && parentState.hides(m_paintBounds.offsetBy(m_frame.origin))) return;
+    if (!m_host->isMoving() && parentState.hides(m_paintBounds.offsetBy(m_frame.origin))) return;
     const PaintState state = stateInside(*this, parentState, now_s);
     if (!(state.opacity > 0)) return;
     paintContent(context, state, now_s);

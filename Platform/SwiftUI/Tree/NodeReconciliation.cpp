@@ -51,6 +51,9 @@ void Node::updateNode(Node& node, Element& element, UpdatePass& pass) {
     node.m_environmentChanged = node.m_isNew || node.m_environmentVersion != pass.environment->version;
     node.m_environmentVersion = pass.environment->version;
     node.m_environment = pass.environment;
+    // Everything stands the other way round then.
+    const bool wasRightToLeft = std::exchange(node.m_isRightToLeft, pass.environment->isRightToLeft());
+    if (!node.m_isNew && wasRightToLeft != node.m_isRightToLeft) node.invalidateLayout();
     node.m_mustBuild = node.m_needsBuild || node.m_hasDirtyDescendant;
     node.m_needsBuild = false;
     node.m_hasDirtyDescendant = false;

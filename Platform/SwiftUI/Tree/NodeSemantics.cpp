@@ -42,6 +42,8 @@ accessibility::Node SemanticContext::makeNode(std::string_view type, const Paint
     node.scale = attributes.scale;
     node.rotation_degrees = attributes.rotation_degrees;
     node.clip = attributes.clip;
+    node.isControl = attributes.isControl;
+    node.activate = std::move(attributes.activate);
     if (reveal) node.reveal = [reveal = reveal, target = node.frame] { reveal(target); };
     return node;
 }

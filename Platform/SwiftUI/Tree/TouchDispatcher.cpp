@@ -15,8 +15,7 @@ bool isInside(const Node* node, const Node& outer) {
 } // namespace
 
 bool TouchDispatcher::touch(const host::Touch& touch) {
-    // What a handler does may let go of everything around it.
-    const std::shared_ptr<ViewHost> alive = m_host.shared_from_this();
+    const ViewHost::Hold hold(m_host);
     if (touch.phase == host::TouchPhase::began) return begin(touch);
     if (m_candidates.empty()) return false;
 
@@ -83,7 +82,7 @@ void TouchDispatcher::offerToOthers(const TouchEvent& event) {
 }
 
 bool TouchDispatcher::scroll(geometry::Point location, geometry::Point delta) {
-    const std::shared_ptr<ViewHost> alive = m_host.shared_from_this();
+    const ViewHost::Hold hold(m_host);
     for (Node* node = m_host.nodeAt(location); node; node = node->parent()) {
         GestureHandler* handler = node->gestureHandler();
         if (handler && handler->scrolled(delta)) return true;

@@ -92,12 +92,24 @@ void ViewHost::setNeedsDisplay() {
     if (m_needsDisplayHandler) m_needsDisplayHandler();
 }
 
+ViewHost::Hold::Hold(ViewHost& host) : m_host(host.shared_from_this()) { ++m_host->m_holdCount; }
+
+ViewHost::Hold::~Hold() {
+    if (--m_host->m_holdCount == 0 && !m_host->m_isUpdating) m_host->m_departed.clear();
+}
+
 void ViewHost::noteAnimation(double end_s) {
+    if (end_s > m_movingUntil_s) m_movingUntil_s = end_s;
+    noteScrolling(end_s);
+}
+
+void ViewHost::noteScrolling(double end_s) {
     if (end_s > m_animatingUntil_s) m_animatingUntil_s = end_s;
     if (end_s > now_s()) setNeedsDisplay();
 }
 
 bool ViewHost::isAnimating() const { return now_s() < m_animatingUntil_s; }
+bool ViewHost::isMoving() const { return now_s() < m_movingUntil_s; }
 
 Size ViewHost::sizeThatFits(const ProposedSize& proposal) {
     if (!m_isUpdating) bringUpToDate();

@@ -87,6 +87,10 @@ public:
     void setNeedsDisplay();
     // The picture moves by itself until then.
     void noteAnimation(double end_s);
+    // The same, where everything stays inside the places that it has been laid out in: content that is scrolled.
+    void noteScrolling(double end_s);
+    // Whether views may be seen outside their places.
+    bool isMoving() const;
     // Its `afterLayout` is called once, after the layout of the update under way or, outside updates, of the next one.
     void addPostLayoutObserver(PostLayoutObserver& observer);
     // Views may have come on screen or left it without a new layout: a scroll view moved. Told to onAppear and onDisappear in the
@@ -96,6 +100,17 @@ public:
     // The animation by which frames change in the layout under way; null outside layouts and for changes that are not animated.
     const motion::Animation* layoutAnimation() const { return m_layoutAnimation; }
     void setLayoutAnimation(const motion::Animation* animation) { m_layoutAnimation = animation; }
+
+    // While it lives the host stays alive, and so do nodes that leave the tree: for calls to actions, which may do anything.
+    class Hold {
+    public:
+        explicit Hold(ViewHost& host);
+        ~Hold();
+        Hold(const Hold&) = delete;
+
+    private:
+        std::shared_ptr<ViewHost> m_host;
+    };
 
 private:
     friend class Node;
@@ -134,8 +149,10 @@ private:
     std::optional<motion::Animation> m_updateAnimation; // of the changes since the last layout
     const motion::Animation* m_layoutAnimation = nullptr;
     double m_animatingUntil_s = -1e300;
+    double m_movingUntil_s = -1e300;
     double m_paintedAt_s = -1e300;
     unsigned m_layoutCount = 1;
+    int m_holdCount = 0;
     bool m_hasSize = false;
     bool m_isVisible = true;
     bool m_isUpdating = false;

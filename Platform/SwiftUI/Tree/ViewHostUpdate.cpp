@@ -44,7 +44,7 @@ void ViewHost::bringUpToDate() {
         }
         const bool hasAppeared = updateAppearances();
         const bool hasRun = runObservers();
-        m_departed.clear();
+        if (m_holdCount == 0) m_departed.clear();
         const bool isDone = !m_needsBuild && !(m_needsLayout && m_hasSize) && !m_needsAppearanceUpdate && m_observers.empty();
         if (isDone || (!hasAppeared && !hasRun && !m_needsBuild && !m_needsLayout)) break;
     }

@@ -85,6 +85,9 @@ public:
         m_minLength = spacer.minLength;
     }
 
+    bool isSpacer() const override { return true; }
+    // Everything else is served first; a spacer gets what is left over its minimum.
+    double layoutPriority() const override { return -geometry::infinity; }
     LengthRange lengthRange(Axis axis, std::optional<double>) override {
         const auto stretched = axisAround();
         if (stretched && *stretched != axis) return {0, 0};
@@ -95,19 +98,25 @@ protected:
     std::string_view semanticType() const override { return "Spacer"; }
 
     Size measure(const ProposedSize& proposal) override {
-        const auto axis = axisAround();
-        const auto length = [this](const std::optional<double>& proposed) { return std::max(m_minLength, proposed.value_or(0)); };
+        const Node* container = containerAround();
+        const auto axis = container ? container->stackAxis() : std::nullopt;
+        const double minimum = container && container->squeezesSpacers() ? 0 : m_minLength;
+        const auto length = [minimum](const std::optional<double>& proposed) { return std::max(minimum, proposed.value_or(0)); };
         return {axis == Axis::vertical ? 0 : length(proposal.width), axis == Axis::horizontal ? 0 : length(proposal.height)};
     }
 
 private:
     // Looked up every time: the stack around may be another one after a rebuild.
-    std::optional<Axis> axisAround() const {
+    const Node* containerAround() const {
         for (const Node* outer = parent(); outer; outer = outer->parent()) {
-            if (const auto axis = outer->stackAxis()) return axis;
-            if (!outer->sharesStackAxis()) return std::nullopt;
+            if (outer->stackAxis()) return outer;
+            if (!outer->sharesStackAxis()) return nullptr;
         }
-        return std::nullopt;
+        return nullptr;
+    }
+    std::optional<Axis> axisAround() const {
+        const Node* container = containerAround();
+        return container ? container->stackAxis() : std::nullopt;
     }
 
     double m_minLength = defaultSpacing;

@@ -171,7 +171,7 @@ void TabViewNode::noteMoving() {
     stopWaiting();
     const double now_s = host().now_s();
     if (!m_position.isMovingAt(now_s)) return;
-    host().noteAnimation(m_position.end_s());
+    host().noteScrolling(m_position.end_s());
     m_arrival = runloop::MainRunLoop::main().schedule(m_position.end_s() - now_s, [this] { host().setNeedsAppearanceUpdate(); });
 }
 

@@ -1,0 +1,11 @@
+#include "Platform/VelaUIKit/FlowLayout.hpp"
+
+#include "Platform/VelaUIKit/FlowArrangement.hpp"
+
+namespace velauikit {
+
+swiftui::Element* FlowLayout::makeElement() && {
+    return swiftui::LayoutContainer<FlowArrangement>{.rule = {.spacing = spacing}, .content = content}.makeElement();
+}
+
+} // namespace velauikit
