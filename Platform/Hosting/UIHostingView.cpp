@@ -39,6 +39,9 @@ std::shared_ptr<UIHostingView> UIHostingView::create(std::function<swiftui::View
 UIHostingView::~UIHostingView() {
     m_host->setNeedsDisplayHandler({});
     m_host->setLayoutHandler({});
+    // The tree, which goes next, must not look for its places here any more.
+    const auto places = subviews();
+    for (const auto& place : places) place->removeFromSuperview();
     showingViews().erase(m_host.get());
 }
 
@@ -99,7 +102,6 @@ uikit::UIView* UIHostingView::hitTest(geometry::Point point) {
 
 bool UIHostingView::forward(const uikit::UITouch& touch) {
     const auto kept = m_host;
-    if (kept->needsUpdate()) kept->update();
     return kept->touch({touch.phase, touch.location(*this), touch.time_s});
 }
 
@@ -123,14 +125,12 @@ bool UIHostingView::scrollBy(geometry::Point location, geometry::Point delta) {
 bool UIHostingView::isAnimating() const { return !isHidden() && (m_host->isAnimating() || UIView::isAnimating()); }
 
 void UIHostingView::paintSubviews(graphics::PaintContext& context, const graphics::PaintState& state) const {
-    if (m_host->needsUpdate()) m_host->update();
     m_host->paint(context, state);
     for (const auto& subview : subviews())
         if (!dynamic_cast<const RepresentableStage*>(subview.get())) subview->paint(context, state);
 }
 
 void UIHostingView::appendSubviewNodes(std::vector<accessibility::Node>& nodes, const graphics::PaintState& state) const {
-    if (m_host->needsUpdate()) m_host->update();
     const auto reveal = [self = uikit::weakReference(const_cast<UIHostingView&>(*this))](const geometry::Rect& inWindow) {
         const auto held = self.lock();
         if (held) held->scrollRectToVisible({held->convertFrom(inWindow.origin, nullptr), inWindow.size});
