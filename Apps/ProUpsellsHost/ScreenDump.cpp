@@ -82,7 +82,7 @@ Json toJson(const Node& node) {
     if (node.scroll) addScroll(result, *node.scroll);
     if (node.clipView) {
         result["clipName"] = node.clipView->name;
-        result["clipTime"] = toJson(node.clipView->time_s);
+        if (node.clipView->time_s) result["clipTime"] = toJson(*node.clipView->time_s);
     }
     if (!node.children.empty()) {
         Json& children = result["children"] = Json::array();

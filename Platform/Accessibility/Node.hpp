@@ -62,7 +62,7 @@ struct ScrollInfo {
 
 struct ClipInfo {
     std::string name;
-    double time_s = 0;
+    std::optional<double> time_s; // of the picture in the clip; absent while none is shown
 };
 
 // A view and what is inside it, front-most last. Frames are in window points, after every transform.

@@ -1,0 +1,41 @@
+#include "Platform/VelaUIKit/ClipPlayback.hpp"
+
+#include <utility>
+#include <vector>
+
+#include "Platform/Host/Services.hpp"
+#include "Platform/RunLoop/MainRunLoop.hpp"
+
+namespace velauikit {
+
+std::shared_ptr<ClipPlayback> ClipPlayback::of(const std::filesystem::path& file) {
+    static std::vector<std::weak_ptr<ClipPlayback>> all;
+    std::erase_if(all, [](const auto& playback) { return playback.expired(); });
+    for (const auto& playback : all)
+        if (auto shared = playback.lock(); shared->file() == file) return shared;
+    auto begun = std::make_shared<ClipPlayback>(Creation{}, file);
+    all.push_back(begun);
+    return begun;
+}
+
+ClipPlayback::ClipPlayback(Creation, std::filesystem::path file)
+    : m_file(std::move(file)), m_start_s(runloop::MainRunLoop::main().now_s()) {}
+
+void ClipPlayback::open() {
+    m_hasOpened = true;
+    const auto decoder = host::Installation::current().clipDecoder;
+    if (decoder) m_clip = decoder->open(m_file);
+    m_isPlayable = m_clip != nullptr;
+}
+
+host::ClipFrame ClipPlayback::currentFrame() {
+    if (!m_hasOpened) open();
+    if (!m_clip) return {};
+    // A decoder complains of a broken file when it is asked for a picture, so an unplayable clip is asked once more.
+    const bool isPlayable = m_clip->isPlayable();
+    host::ClipFrame frame = m_clip->frameAt(runloop::MainRunLoop::main().now_s() - m_start_s);
+    m_isPlayable = isPlayable;
+    return frame;
+}
+
+} // namespace velauikit

@@ -1,0 +1,37 @@
+// A file as it plays for everybody who shows it.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+
+#include "Platform/Host/ClipDecoder.hpp"
+
+namespace velauikit {
+
+// All views of a file share one, so they show the same picture and the file is decoded once. The file is opened when its first
+// picture is wanted.
+class ClipPlayback {
+    struct Creation {};
+
+public:
+    // Begins now; the one that has begun already as long as somebody holds it. Main thread only.
+    static std::shared_ptr<ClipPlayback> of(const std::filesystem::path& file);
+    ClipPlayback(Creation, std::filesystem::path file);
+
+    const std::filesystem::path& file() const { return m_file; }
+    // The picture due at the main run loop's time; none when there is none yet, or none at all.
+    host::ClipFrame currentFrame();
+    // False once there will never be a picture.
+    bool isPlayable() const { return m_isPlayable; }
+
+private:
+    void open();
+
+    std::filesystem::path m_file;
+    double m_start_s;
+    std::shared_ptr<host::Clip> m_clip;
+    bool m_hasOpened = false;
+    bool m_isPlayable = true;
+};
+
+} // namespace velauikit

@@ -1,0 +1,56 @@
+#include "Platform/VelaUIKit/VideoView.hpp"
+
+#include <algorithm>
+#include <utility>
+
+#include "Platform/UIKit/Controllers/UIWindow.hpp"
+
+namespace velauikit {
+
+VideoView::VideoView() { setUserInteractionEnabled(false); }
+
+void VideoView::setFile(std::optional<std::filesystem::path> file) {
+    if (m_file == file) return;
+    m_file = std::move(file);
+    updatePlayback();
+}
+
+void VideoView::play() {
+    if (std::exchange(m_isPlaying, true)) return;
+    updatePlayback();
+}
+
+void VideoView::updatePlayback() {
+    m_playback = m_isPlaying && m_file ? ClipPlayback::of(*m_file) : nullptr;
+    setNeedsDisplay();
+}
+
+bool VideoView::isAnimating() const {
+    if (UIView::isAnimating()) return true;
+    return m_playback && m_playback->isPlayable() && window() && m_lastPaint == window()->paintCount();
+}
+
+geometry::Rect VideoView::pictureFrame(const graphics::Bitmap& picture) const {
+    const geometry::Rect all = bounds();
+    const double wide = all.width() / picture.width, high = all.height() / picture.height;
+    const double scale = clipsToBounds() ? std::max(wide, high) : std::min(wide, high);
+    const geometry::Size size{picture.width * scale, picture.height * scale};
+    return {{all.midX() - size.width / 2, all.midY() - size.height / 2}, size};
+}
+
+void VideoView::draw(graphics::PaintContext& context, const graphics::PaintState& state) const {
+    if (!m_playback || state.hides(bounds())) return;
+    if (window()) m_lastPaint = window()->paintCount();
+    const host::ClipFrame frame = m_playback->currentFrame();
+    if (frame.picture && frame.picture->width > 0 && frame.picture->height > 0)
+        context.bitmap(state, pictureFrame(*frame.picture), frame.picture);
+}
+
+void VideoView::describe(accessibility::Node& node, const graphics::PaintState&) const {
+    if (!m_file) return;
+    node.clipView = accessibility::ClipInfo{m_file->stem().string(), {}};
+    if (!m_playback || !node.isOnScreen) return;
+    if (const host::ClipFrame frame = m_playback->currentFrame(); frame.picture) node.clipView->time_s = frame.time_s;
+}
+
+} // namespace velauikit
