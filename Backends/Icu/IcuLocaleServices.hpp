@@ -7,16 +7,17 @@
 
 namespace icubackend {
 
-// Knows every language that ICU knows; an unknown locale is treated as ICU's root locale. Main thread only: it keeps what is costly to
-// make (the formatter and the word breaks of the locale used last, the iterator over user-perceived characters). Creating it stops the
-// program when ICU's data is missing.
+// Knows every language that ICU knows; an unknown locale is treated as ICU's root locale. Main thread only: it keeps what is costly
+// to make (the formatter and the word breaks of the locale used last, the iterator over user-perceived characters). Creating it
+// stops the program when ICU's data is missing.
 class IcuLocaleServices final : public foundation::LocaleServices {
 public:
     IcuLocaleServices();
     ~IcuLocaleServices() override;
 
     // Absent for infinite numbers and not-a-number.
-    std::optional<std::string> percentText(double fraction, int maximumFractionDigits, const foundation::Locale& locale) const override;
+    std::optional<std::string> percentText(double fraction, int maximumFractionDigits,
+                                           const foundation::Locale& locale) const override;
     // Ill-formed parts become replacement characters, here and in titleCased().
     std::string upperCased(std::string_view text, const foundation::Locale& locale) const override;
     std::string titleCased(std::string_view text, const foundation::Locale& locale) const override;

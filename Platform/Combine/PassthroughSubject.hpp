@@ -1,7 +1,6 @@
 // A stream of values without memory.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -14,8 +13,8 @@
 namespace combine {
 
 // Delivers synchronously, in the order of subscription. From inside a delivery a receiver may send (delivered at once, before the
-// rest of the outer value's receivers get theirs), subscribe (the new subscriber sees only later values), cancel anyone (a cancelled
-// one gets nothing more, this value included) and destroy the subject (the value under way still reaches everyone else).
+// rest of the outer value's receivers get theirs), subscribe (the new subscriber sees only later values), cancel anyone (a
+// cancelled one gets nothing more, this value included) and destroy the subject (the value under way still reaches everyone else).
 template <class Value>
 class PassthroughSubject {
 public:
@@ -81,10 +80,10 @@ private:
             hasCancelledEntries = deliveries > 0;
             if (deliveries > 0) return;
             std::vector<EntryPointer> cancelled;
-            const auto end = std::stable_partition(entries.begin(), entries.end(),
-                                                   [](const EntryPointer& entry) { return !entry->isCancelled; });
-            cancelled.assign(std::move_iterator(end), std::move_iterator(entries.end()));
-            entries.erase(end, entries.end());
+            std::erase_if(entries, [&](const EntryPointer& entry) {
+                if (entry->isCancelled) cancelled.push_back(entry);
+                return entry->isCancelled;
+            });
         }
     };
 

@@ -75,10 +75,12 @@ geometry::LayoutDirection BuiltInLocaleServices::layoutDirection(const Locale& l
     // A script says more than the language: Punjabi runs either way. It is the only part of four letters.
     const std::string parts = asciiLowerCased(chain.front()) + "-";
     for (std::size_t begin = 0, end; (end = parts.find('-', begin)) != std::string::npos; begin = end + 1)
-        if (begin > 0 && end - begin == 4 && std::none_of(parts.begin() + begin, parts.begin() + end, [](char c) { return c <= '9'; }))
+        if (begin > 0 && end - begin == 4 &&
+            std::none_of(parts.begin() + begin, parts.begin() + end, [](char c) { return c <= '9'; }))
             return directionIf(contains({"arab", "hebr", "syrc", "thaa", "nkoo", "adlm", "aran", "rohg", "mand", "samr"},
                                         std::string_view(parts).substr(begin, 4)));
-    return directionIf(contains({"ar", "he", "iw", "fa", "ur", "yi", "ps", "sd", "ug", "dv", "ckb", "prs", "syr", "nqo"}, language));
+    return directionIf(
+        contains({"ar", "he", "iw", "fa", "ur", "yi", "ps", "sd", "ug", "dv", "ckb", "prs", "syr", "nqo"}, language));
 }
 
 } // namespace foundation

@@ -98,7 +98,7 @@ struct Bundle::Tables {
             .first->second;
     }
 
-    std::map<std::string, fs::path> folders; // by normalised language
+    std::map<std::string, fs::path> folders;                        // by normalised language
     std::unordered_map<std::string, StringsFile::Texts> byLanguage; // as locales spell it; nothing moves once it is in
 };
 

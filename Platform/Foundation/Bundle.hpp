@@ -19,12 +19,13 @@ public:
 
     const std::filesystem::path& folder() const { return m_folder; }
 
-    // The file `name`.`extension` in the bundle's folder or one folder below it (by name), if there is one. An empty extension means `name`.
+    // The file `name`.`extension` in the bundle's folder or one folder below it (by name), if there is one. An empty extension
+    // means `name`.
     std::optional<std::filesystem::path> pathForResource(std::string_view name, std::string_view extension) const;
 
     // The translation of `key` from <language>.lproj/Localizable.strings, by the current locale's language chain; the key itself
-    // when there is none. Folder names match in any case, with "-" or "_". Tables are read once; a broken one costs one log line and
-    // counts as empty. Main thread only.
+    // when there is none. Folder names match in any case, with "-" or "_". Tables are read once; a broken one costs one log line
+    // and counts as empty. Main thread only.
     const std::string& localizedString(const std::string& key) const;
 
     // The host application's bundle: where texts come from. Empty until it is set.

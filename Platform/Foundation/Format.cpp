@@ -29,7 +29,9 @@ std::optional<NumberedPlaceholder> numberedPlaceholder(std::string_view text) {
 } // namespace
 
 std::string format(std::string_view text, std::initializer_list<std::string_view> arguments) {
-    const auto argument = [&](std::size_t index) { return index < arguments.size() ? arguments.begin()[index] : std::string_view{}; };
+    const auto argument = [&](std::size_t index) {
+        return index < arguments.size() ? arguments.begin()[index] : std::string_view{};
+    };
     std::string result;
     result.reserve(text.size() + 16 * arguments.size());
     std::size_t next = 0;

@@ -15,8 +15,8 @@ public:
 
     // As given, with "_" between its parts.
     const std::string& identifier() const { return m_identifier; }
-    // Where texts are looked for, most exact first: "de-AT", "de". A script part stays with its language: "zh-Hant-TW", "zh-Hant", "zh".
-    // What follows "@" or "." in the identifier does not count; empty for an empty identifier.
+    // Where texts are looked for, most exact first: "de-AT", "de". A script part stays with its language: "zh-Hant-TW", "zh-Hant",
+    // "zh". What follows "@" or "." in the identifier does not count; empty for an empty identifier.
     const std::vector<std::string>& languageChain() const { return m_languageChain; }
 
     // The locale that texts and formats follow from now on; "en_US" until it is set.

@@ -172,8 +172,7 @@ private:
 
 StringsFile StringsFile::parse(std::string_view bytes) {
     const DecodedText decoded = decodeText(bytes);
-    if (!decoded.isComplete)
-        return {{}, Error{lineAt(decoded.text, decoded.text.size()), "expected valid UTF-8 or UTF-16"}};
+    if (!decoded.isComplete) return {{}, Error{lineAt(decoded.text, decoded.text.size()), "expected valid UTF-8 or UTF-16"}};
     StringsFile file;
     Parser parser(decoded.text);
     if (!parser.parseAll(file.texts)) file = {{}, parser.takeError()};

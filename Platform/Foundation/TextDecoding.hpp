@@ -12,7 +12,8 @@ struct DecodedText {
     bool isComplete = true; // false: `text` ends before the first bytes that are no character
 };
 
-// Takes UTF-16 for what begins with its byte order mark, or with one ASCII character in it, and all else for UTF-8 with or without a mark.
+// Takes UTF-16 for what begins with its byte order mark, or with one ASCII character in it, and all else for UTF-8 with or without
+// a mark.
 DecodedText decodeText(std::string_view bytes);
 
 } // namespace foundation

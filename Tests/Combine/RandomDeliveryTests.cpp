@@ -64,7 +64,7 @@ private:
     std::mt19937 m_random;
     combine::PassthroughSubject<int> m_subject;
     std::map<int, combine::AnyCancellable> m_tokens;
-    std::set<int> m_living; // receivers are numbered in the order of subscription
+    std::set<int> m_living;                                       // receivers are numbered in the order of subscription
     std::map<int, std::set<int>> m_expectedReceivers, m_received; // by value
     int m_lastReceiver = 0, m_lastValue = 0, m_depth = 0;
 };

@@ -18,7 +18,9 @@ namespace {
 
 class BuiltInServices : public tests::LocaleFixture {
 protected:
-    std::string percent(double fraction, int digits = 0) const { return services.percentText(fraction, digits, english).value_or("absent"); }
+    std::string percent(double fraction, int digits = 0) const {
+        return services.percentText(fraction, digits, english).value_or("absent");
+    }
 
     const LocaleServices& services = LocaleServices::current();
     const Locale english{"en_US"};
@@ -60,7 +62,8 @@ TEST_F(BuiltInServices, WriteAsManyFractionDigitsAsTheyMayAndMust) {
 }
 
 TEST_F(BuiltInServices, CannotWriteWhatIsNoNumber) {
-    for (const double number : {HUGE_VAL, -HUGE_VAL, std::nan("")}) EXPECT_EQ(services.percentText(number, 0, english), std::nullopt);
+    for (const double number : {HUGE_VAL, -HUGE_VAL, std::nan("")})
+        EXPECT_EQ(services.percentText(number, 0, english), std::nullopt);
 }
 
 TEST_F(BuiltInServices, WriteTheLargestAndTheSmallestNumber) {

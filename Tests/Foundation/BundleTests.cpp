@@ -91,13 +91,15 @@ TEST_F(Localized, MayBeEmptyOnPurpose) {
 TEST_F(Localized, ReadsUtf16) {
     using tests::ByteOrder;
     const std::string german = "\"Annually\" = \"J\u00E4hrlich\";";
-    folder.write("de.lproj/Localizable.strings", tests::byteOrderMark(ByteOrder::littleEndian) + tests::utf16(german, ByteOrder::littleEndian));
+    folder.write("de.lproj/Localizable.strings",
+                 tests::byteOrderMark(ByteOrder::littleEndian) + tests::utf16(german, ByteOrder::littleEndian));
 
     EXPECT_EQ(lookUp("Annually", "de"), "J\u00E4hrlich");
 }
 
 TEST_F(Localized, CostsOneLogLineForABrokenTable) {
-    folder.write("de-AT.lproj/Localizable.strings", "/* Titles */\n\"Monthly\" = \"Monatlich\"\n\"Annually\" = \"J\u00E4hrlich\";\n");
+    folder.write("de-AT.lproj/Localizable.strings",
+                 "/* Titles */\n\"Monthly\" = \"Monatlich\"\n\"Annually\" = \"J\u00E4hrlich\";\n");
     folder.write("de.lproj/Localizable.strings", "Monthly = Monatlich;");
 
     EXPECT_EQ(lookUp("Monthly", "de_AT"), "Monatlich"); // from the next table

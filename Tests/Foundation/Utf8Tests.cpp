@@ -72,7 +72,8 @@ INSTANTIATE_TEST_SUITE_P(Table, Utf8Repair,
                                          Repair{"CutShortByAnother", "\xF0\x9F\x98\xC3\xA9", "?\xC3\xA9"},
                                          Repair{"OverlongSlash", "\xC0\xAF", "??"}, Repair{"OverlongThree", "\xE0\x80\xAF", "???"},
                                          Repair{"OverlongFour", "\xF0\x80\x80\xAF", "????"},
-                                         Repair{"Surrogate", "\xED\xA0\x80", "???"}, Repair{"BeyondUnicode", "\xF4\x90\x80\x80", "????"},
+                                         Repair{"Surrogate", "\xED\xA0\x80", "???"},
+                                         Repair{"BeyondUnicode", "\xF4\x90\x80\x80", "????"},
                                          Repair{"NeverALead", "\xF5\xFE\xFF", "???"}),
                          [](const auto& info) { return std::string(info.param.name); });
 

@@ -57,7 +57,8 @@ TEST_F(Icu, ChangesFormatWithTheLocaleAndTheDigits) {
 }
 
 TEST_F(Icu, CannotWriteWhatIsNoNumber) {
-    for (const double number : {HUGE_VAL, -HUGE_VAL, std::nan("")}) EXPECT_EQ(services.percentText(number, 0, Locale("en")), std::nullopt);
+    for (const double number : {HUGE_VAL, -HUGE_VAL, std::nan("")})
+        EXPECT_EQ(services.percentText(number, 0, Locale("en")), std::nullopt);
 }
 
 TEST_F(Icu, TreatsUnknownLocalesAsTheRoot) {
@@ -111,7 +112,8 @@ TEST_P(IcuCluster, IsOneCharacterBetweenTwoOthers) {
 
 INSTANTIATE_TEST_SUITE_P(Table, IcuCluster,
                          testing::Values(Cluster{"CombiningAccent", "e\u0301"}, Cluster{"TwoAccents", "e\u0301\u0323"},
-                                         Cluster{"Flag", "\U0001F1E6\U0001F1F9"}, Cluster{"Family", "\U0001F468\u200D\U0001F469\u200D\U0001F467"},
+                                         Cluster{"Flag", "\U0001F1E6\U0001F1F9"},
+                                         Cluster{"Family", "\U0001F468\u200D\U0001F469\u200D\U0001F467"},
                                          Cluster{"SkinTone", "\U0001F44D\U0001F3FD"}, Cluster{"Keycap", "1\uFE0F\u20E3"},
                                          Cluster{"HangulSyllable", "\u1112\u1161\u11AB"}, Cluster{"LineEnd", "\r\n"},
                                          Cluster{"DevanagariVowel", "\u0915\u093F"}, Cluster{"BrokenByte", "\xFF"},

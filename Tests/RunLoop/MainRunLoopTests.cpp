@@ -41,9 +41,7 @@ TEST(MainRunLoop, ExistsAsLongAsOneLives) {
     EXPECT_FALSE(MainRunLoop::exists());
 }
 
-TEST(MainRunLoopDeathTest, StopsTheProgramWhenThereIsNone) {
-    EXPECT_DEATH(MainRunLoop::main(), "^There is no main run loop\n$");
-}
+TEST(MainRunLoopDeathTest, StopsTheProgramWhenThereIsNone) { EXPECT_DEATH(MainRunLoop::main(), "^There is no main run loop\n$"); }
 
 TEST(MainRunLoopDeathTest, StopsTheProgramWithoutAClock) { EXPECT_DEATH(MainRunLoop{nullptr}, "needs a clock"); }
 

@@ -34,7 +34,9 @@ public:
         for (std::size_t i = 0; i < clientCount; ++i) m_clients.push_back(std::make_shared<Client>(*this, i));
     }
     double now_s() const override { return m_loop.now_s(); }
-    void schedule(double delay_s, std::function<void()> work) override { m_timers.push_back(m_loop.schedule(delay_s, std::move(work))); }
+    void schedule(double delay_s, std::function<void()> work) override {
+        m_timers.push_back(m_loop.schedule(delay_s, std::move(work)));
+    }
     void scheduleRepeating(double interval_s, std::function<void()> work) override {
         m_timers.push_back(m_loop.scheduleRepeating(interval_s, std::move(work)));
     }

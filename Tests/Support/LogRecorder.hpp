@@ -12,7 +12,9 @@ namespace tests {
 class LogRecorder {
 public:
     LogRecorder()
-        : m_previous(commons::DefaultLogger::shared().setSink([this](const commons::LogRecord& record) { m_records.push_back(record); })) {}
+        : m_previous(
+              commons::DefaultLogger::shared().setSink([this](const commons::LogRecord& record) { m_records.push_back(record); })) {
+    }
     ~LogRecorder() { commons::DefaultLogger::shared().setSink(std::move(m_previous)); }
     LogRecorder(const LogRecorder&) = delete;
 
