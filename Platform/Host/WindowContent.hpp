@@ -25,7 +25,7 @@ public:
 
     virtual void setSize(geometry::Size size, geometry::PhysicalInsets safeArea) = 0;
     virtual void touch(const Touch& touch) = 0;
-    // A wheel or trackpad: moves the scroll view under `location` by `delta` points.
+    // A wheel or trackpad: moves the scroll view under `location` by `delta` points; a positive y shows what is further down.
     virtual void scroll(geometry::Point location, geometry::Point delta) = 0;
     // Returns whether the key meant something.
     virtual bool key(Key key) = 0;

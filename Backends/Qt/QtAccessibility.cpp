@@ -1,0 +1,159 @@
+#include "Backends/Qt/QtAccessibility.hpp"
+
+#include <QAccessibleObject>
+#include <QWindow>
+#include <algorithm>
+
+#include "Backends/Qt/AccessibleElement.hpp"
+
+namespace qtbackend {
+
+using accessibility::Node;
+
+namespace {
+
+class AccessibleWindow final : public QAccessibleObject {
+public:
+    explicit AccessibleWindow(QtAccessibility& owner) : QAccessibleObject(&owner.window()), m_owner(&owner) {}
+
+    void detach() { m_owner = nullptr; }
+
+    QWindow* window() const override { return m_owner ? &m_owner->window() : nullptr; }
+    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(qApp); }
+    QAccessibleInterface* child(int index) const override {
+        if (!m_owner || index < 0 || index >= childCount()) return nullptr;
+        return m_owner->elements()[std::size_t(index)];
+    }
+    int childCount() const override { return m_owner ? int(m_owner->elements().size()) : 0; }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        if (!m_owner) return -1;
+        const auto& elements = m_owner->elements();
+        const auto found = std::find(elements.begin(), elements.end(), child);
+        return found == elements.end() ? -1 : int(found - elements.begin());
+    }
+    // The front-most one, which comes last.
+    QAccessibleInterface* childAt(int x, int y) const override {
+        for (int index = childCount() - 1; index >= 0; --index)
+            if (child(index)->rect().contains(x, y)) return child(index);
+        return nullptr;
+    }
+    QString text(QAccessible::Text text) const override {
+        return m_owner && text == QAccessible::Name ? m_owner->window().title() : QString();
+    }
+    QRect rect() const override {
+        return m_owner ? QRect(m_owner->window().mapToGlobal(QPoint(0, 0)), m_owner->window().size()) : QRect();
+    }
+    QAccessible::Role role() const override { return QAccessible::Window; }
+    QAccessible::State state() const override {
+        QAccessible::State state;
+        state.active = m_owner && m_owner->window().isActive();
+        state.invisible = !m_owner || !m_owner->window().isVisible();
+        return state;
+    }
+
+private:
+    QtAccessibility* m_owner;
+};
+
+std::string joinedTexts(const Node& node) {
+    std::string joined = node.text ? node.text->text : std::string();
+    for (const Node& child : node.children) {
+        const std::string text = joinedTexts(child);
+        if (!joined.empty() && !text.empty()) joined += ", ";
+        joined += text;
+    }
+    return joined;
+}
+
+// Texts, images with a label, and controls; what is inside of a control belongs to it.
+void collect(const Node& node, std::vector<Node>& result) {
+    const bool canBeReached = node.opacity > 0 && (node.isOnScreen || node.reveal);
+    const bool isElement = node.isControl || node.text || !node.label.empty();
+    if (isElement && canBeReached) {
+        Node element = node;
+        element.children.clear();
+        if (element.label.empty()) element.label = joinedTexts(node);
+        if (!element.label.empty() || element.isControl) result.push_back(std::move(element));
+        if (node.isControl) return;
+    }
+    for (const Node& child : node.children) collect(child, result);
+}
+
+bool isSameElement(const Node& a, const Node& b) {
+    return a.type == b.type && a.identifier == b.identifier && (!a.identifier.empty() || a.label == b.label);
+}
+
+void forget(AccessibleElement* element) {
+    element->detach();
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(element));
+}
+
+} // namespace
+
+QtAccessibility::QtAccessibility(QWindow& window, host::WindowContent& content, AccessibilityListener listener)
+    : m_window(window), m_content(content), m_listener(std::move(listener)) {}
+
+QtAccessibility::~QtAccessibility() {
+    for (AccessibleElement* element : m_elements) forget(element);
+    if (!m_root) return;
+    static_cast<AccessibleWindow*>(m_root)->detach();
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(m_root));
+}
+
+QAccessibleInterface* QtAccessibility::root() {
+    if (!m_root) {
+        m_root = new AccessibleWindow(*this);
+        QAccessible::registerAccessibleInterface(m_root);
+    }
+    return m_root;
+}
+
+const std::vector<AccessibleElement*>& QtAccessibility::elements() {
+    if (!m_isRead) {
+        m_isRead = true;
+        std::vector<Node> nodes;
+        collect(m_content.semanticTree(), nodes);
+        adopt(std::move(nodes));
+    }
+    return m_elements;
+}
+
+void QtAccessibility::update() {
+    if (!m_listener.isThere()) {
+        m_isRead = false;
+        return;
+    }
+    if (!m_root) return;
+    m_isRead = true;
+    std::vector<Node> nodes;
+    collect(m_content.semanticTree(), nodes);
+    adopt(std::move(nodes));
+}
+
+// What is still there keeps its object, so that a screen reader keeps its place.
+void QtAccessibility::adopt(std::vector<Node> nodes) {
+    std::vector<AccessibleElement*> former = std::exchange(m_elements, {});
+    const std::vector<AccessibleElement*> formerOrder = former;
+    std::vector<std::pair<AccessibleElement*, Node>> kept;
+    for (Node& node : nodes) {
+        const auto found =
+            std::find_if(former.begin(), former.end(), [&](const AccessibleElement* e) { return isSameElement(e->node(), node); });
+        if (found == former.end()) {
+            auto* element = new AccessibleElement(*this, std::move(node));
+            QAccessible::registerAccessibleInterface(element);
+            m_elements.push_back(element);
+            continue;
+        }
+        m_elements.push_back(*found);
+        kept.emplace_back(*found, std::move(node));
+        former.erase(found);
+    }
+    for (AccessibleElement* element : former) forget(element);
+    for (auto& [element, node] : kept) element->become(std::move(node));
+    if (m_elements != formerOrder) {
+        QAccessibleEvent event(root(), QAccessible::ObjectReorder);
+        tell(event);
+    }
+}
+
+} // namespace qtbackend

@@ -1,0 +1,25 @@
+// Runs the main run loop's work from Qt's event loop.
+#pragma once
+
+#include <QTimer>
+
+#include "Platform/RunLoop/MainRunLoop.hpp"
+
+namespace qtbackend {
+
+// Sleeps until the next turn is due: between turns it costs nothing. Needs a QGuiApplication; the loop must live longer.
+class QtRunLoopDriver {
+public:
+    explicit QtRunLoopDriver(runloop::MainRunLoop& loop);
+    ~QtRunLoopDriver();
+    QtRunLoopDriver(const QtRunLoopDriver&) = delete;
+    QtRunLoopDriver& operator=(const QtRunLoopDriver&) = delete;
+
+private:
+    void arm();
+
+    runloop::MainRunLoop& m_loop;
+    QTimer m_timer;
+};
+
+} // namespace qtbackend

@@ -1,0 +1,248 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointingDevice>
+#include <QWheelEvent>
+
+#include "Backends/Qt/QtRunLoopDriver.hpp"
+#include "Backends/Qt/QtWindow.hpp"
+#include "Platform/Graphics/PaintContext.hpp"
+#include "Tests/Qt/Canvas.hpp"
+#include "Tests/Qt/Events.hpp"
+
+using geometry::Point;
+using host::Key;
+using host::TouchPhase;
+using qtbackend::PixelRect;
+using qttests::handleEventsUntil;
+using testing::ElementsAre;
+using testing::Field;
+using testing::IsEmpty;
+
+namespace {
+
+// A red square that moves right when it is touched.
+class FakeContent : public host::WindowContent {
+public:
+    void setSize(geometry::Size newSize, geometry::PhysicalInsets insets) override {
+        size = newSize;
+        safeArea = insets;
+        changed();
+    }
+    void touch(const host::Touch& touch) override {
+        touches.push_back(touch);
+        if (touch.phase != TouchPhase::ended) return;
+        x += 20;
+        changed();
+    }
+    void scroll(Point location, Point delta) override { scrolls.emplace_back(location, delta); }
+    bool key(Key key) override {
+        keys.push_back(key);
+        return true;
+    }
+    void paint(graphics::DisplayList& list) override {
+        ++paintCount;
+        list.clear();
+        graphics::PaintContext context(list);
+        context.fillRectangle({}, {{0, 0}, size}, qttests::white);
+        context.fillRectangle({}, {{x, 10}, {10, 10}}, qttests::red);
+        if (animatedFrames > 0) context.fillRectangle({}, {{0, double(animatedFrames--)}, {1, 1}}, qttests::blue);
+    }
+    bool isAnimating() const override { return animatedFrames > 0; }
+    void setNeedsDisplayHandler(std::function<void()> newHandler) override { handler = std::move(newHandler); }
+    accessibility::Node semanticTree() override { return tree; }
+
+    void changed() {
+        if (handler) handler();
+    }
+
+    geometry::Size size;
+    geometry::PhysicalInsets safeArea;
+    std::vector<host::Touch> touches;
+    std::vector<std::pair<Point, Point>> scrolls;
+    std::vector<Key> keys;
+    double x = 10;
+    int paintCount = 0;
+    int animatedFrames = 0;
+    std::function<void()> handler;
+    accessibility::Node tree;
+};
+
+class QtWindowTest : public testing::Test {
+protected:
+    QtWindowTest() {
+        window.show();
+        isShown = handleEventsUntil([this] { return window.frameCount() > 0; });
+        settle();
+    }
+
+    // Waits until the window has nothing more to show.
+    void settle() {
+        for (int before = -1; before != content->paintCount;) {
+            before = content->paintCount;
+            bool isLate = false;
+            QTimer::singleShot(30, [&] { isLate = true; });
+            handleEventsUntil([&] { return isLate; });
+        }
+    }
+
+    void mouse(QEvent::Type type, QPointF at, Qt::MouseButton button = Qt::LeftButton) {
+        QMouseEvent event(type, at, window.mapToGlobal(at), button, type == QEvent::MouseButtonRelease ? Qt::NoButton : button, {});
+        QCoreApplication::sendEvent(&window, &event);
+    }
+    void press(int key) {
+        QKeyEvent event(QEvent::KeyPress, key, {});
+        QCoreApplication::sendEvent(&window, &event);
+    }
+    std::vector<TouchPhase> phases() const {
+        std::vector<TouchPhase> phases;
+        for (const host::Touch& touch : content->touches) phases.push_back(touch.phase);
+        return phases;
+    }
+
+    runloop::MainRunLoop loop{std::make_shared<runloop::RealClock>()};
+    qtbackend::QtRunLoopDriver driver{loop};
+    std::shared_ptr<FakeContent> content = std::make_shared<FakeContent>();
+    qtbackend::QtWindow window{content, {.title = "Test", .size = {100, 80}, .safeArea = {1, 2, 3, 4}}};
+    bool isShown = false;
+};
+
+} // namespace
+
+TEST_F(QtWindowTest, ShowsItsContentAtItsSize) {
+    ASSERT_TRUE(isShown);
+
+    EXPECT_EQ(content->size, (geometry::Size{100, 80}));
+    EXPECT_EQ(content->safeArea, (geometry::PhysicalInsets{1, 2, 3, 4}));
+    const double scale = window.devicePixelRatio();
+    EXPECT_EQ(window.surface().image().size(), QSize(int(100 * scale), int(80 * scale)));
+    EXPECT_EQ(window.surface().image().pixel(int(15 * scale), int(15 * scale)) & 0xFFFFFF, 0xFF0000u);
+}
+
+TEST_F(QtWindowTest, TurnsAClickIntoATouch) {
+    mouse(QEvent::MouseButtonPress, {12, 34});
+    mouse(QEvent::MouseMove, {14, 35});
+    mouse(QEvent::MouseButtonRelease, {15.5, 36});
+
+    EXPECT_THAT(phases(), ElementsAre(TouchPhase::began, TouchPhase::moved, TouchPhase::ended));
+    EXPECT_EQ(content->touches[0].location, (Point{12, 34}));
+    EXPECT_EQ(content->touches[2].location, (Point{15.5, 36}));
+    EXPECT_NEAR(content->touches[2].time_s, loop.now_s(), 5);
+}
+
+TEST_F(QtWindowTest, IgnoresTheMouseWhileItsButtonIsUpAndItsOtherButtons) {
+    mouse(QEvent::MouseMove, {14, 35});
+    mouse(QEvent::MouseButtonPress, {14, 35}, Qt::RightButton);
+    mouse(QEvent::MouseButtonRelease, {14, 35}, Qt::RightButton);
+
+    EXPECT_THAT(content->touches, IsEmpty());
+}
+
+TEST_F(QtWindowTest, FollowsTheFirstFingerOnly) {
+    QPointingDevice device("screen", 1, QInputDevice::DeviceType::TouchScreen, QPointingDevice::PointerType::Finger,
+                           QInputDevice::Capability::Position, 5, 0);
+    const auto send = [&](QEvent::Type type, QEventPoint::State first, QEventPoint::State second) {
+        const auto point = [](int id, QEventPoint::State state, QPointF at) { return QEventPoint(id, state, at, at); };
+        QTouchEvent event(type, &device, {}, {point(7, first, {10, 20}), point(8, second, {50, 60})});
+        QCoreApplication::sendEvent(&window, &event);
+    };
+    send(QEvent::TouchBegin, QEventPoint::Pressed, QEventPoint::Pressed);
+    send(QEvent::TouchUpdate, QEventPoint::Updated, QEventPoint::Updated);
+    send(QEvent::TouchEnd, QEventPoint::Released, QEventPoint::Released);
+
+    EXPECT_THAT(phases(), ElementsAre(TouchPhase::began, TouchPhase::moved, TouchPhase::ended));
+}
+
+TEST_F(QtWindowTest, CancelsATouchWhenItIsHidden) {
+    mouse(QEvent::MouseButtonPress, {12, 34});
+    window.hide();
+
+    EXPECT_THAT(phases(), ElementsAre(TouchPhase::began, TouchPhase::cancelled));
+}
+
+TEST_F(QtWindowTest, ScrollsDownWhenTheWheelIsTurnedTowardsThePerson) {
+    QWheelEvent notch({20, 30}, window.mapToGlobal(QPointF(20, 30)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&window, &notch);
+    QWheelEvent trackpad({20, 30}, window.mapToGlobal(QPointF(20, 30)), {3, 5}, {0, 40}, {}, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&window, &trackpad);
+
+    EXPECT_THAT(content->scrolls, ElementsAre(std::pair(Point{20, 30}, Point{0, 60}), std::pair(Point{20, 30}, Point{-3, -5})));
+}
+
+TEST_F(QtWindowTest, HandsOnTheKeysThatMeanSomething) {
+    for (const int key : {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Space, Qt::Key_Up, Qt::Key_Down,
+                          Qt::Key_Left, Qt::Key_Right, Qt::Key_A})
+        press(key);
+
+    EXPECT_THAT(content->keys, ElementsAre(Key::escape, Key::tab, Key::backTab, Key::activate, Key::activate, Key::up, Key::down,
+                                           Key::left, Key::right));
+}
+
+TEST_F(QtWindowTest, PaintsNothingWhileNothingChanges) {
+    const int paints = content->paintCount, frames = window.frameCount();
+    settle();
+
+    EXPECT_EQ(content->paintCount, paints);
+    EXPECT_EQ(window.frameCount(), frames);
+}
+
+TEST_F(QtWindowTest, RepaintsWhatATouchHasChanged) {
+    const int frames = window.frameCount();
+    mouse(QEvent::MouseButtonPress, {12, 34});
+    mouse(QEvent::MouseButtonRelease, {12, 34});
+
+    ASSERT_TRUE(handleEventsUntil([&] { return window.frameCount() > frames; }));
+
+    const int scale = int(window.devicePixelRatio());
+    EXPECT_THAT(window.surface().lastDamage(),
+                testing::UnorderedElementsAre(PixelRect{10 * scale, 10 * scale, 20 * scale, 20 * scale},
+                                              PixelRect{30 * scale, 10 * scale, 40 * scale, 20 * scale}));
+}
+
+TEST_F(QtWindowTest, ShowsNoFrameForAChangeThatCannotBeSeen) {
+    const int paints = content->paintCount, frames = window.frameCount();
+    content->changed();
+
+    ASSERT_TRUE(handleEventsUntil([&] { return content->paintCount > paints; }));
+
+    EXPECT_EQ(window.frameCount(), frames);
+}
+
+TEST_F(QtWindowTest, ShowsFramesWhileTheContentIsAnimating) {
+    const int frames = window.frameCount();
+    content->animatedFrames = 5;
+    content->changed();
+
+    ASSERT_TRUE(handleEventsUntil([&] { return content->animatedFrames == 0; }));
+    settle();
+
+    EXPECT_EQ(window.frameCount(), frames + 5);
+}
+
+TEST_F(QtWindowTest, TellsItsContentOfANewSize) {
+    window.resize(120, 90);
+    ASSERT_TRUE(handleEventsUntil([&] { return content->size == geometry::Size{120, 90}; }));
+    settle();
+
+    EXPECT_EQ(window.surface().image().width(), int(120 * window.devicePixelRatio()));
+    window.setSafeArea({9, 0, 0, 0});
+    EXPECT_EQ(content->safeArea.top, 9);
+}
+
+TEST_F(QtWindowTest, ReportsThatItWasClosed) {
+    int closings = 0;
+    window.setCloseHandler([&] { ++closings; });
+    window.close();
+
+    EXPECT_EQ(closings, 1);
+}
+
+TEST_F(QtWindowTest, LetsGoOfItsContent) {
+    const auto second = std::make_shared<FakeContent>();
+    { const qtbackend::QtWindow other(second, {}); }
+
+    EXPECT_FALSE(second->handler);
+    EXPECT_EQ(second.use_count(), 1);
+}
