@@ -1,6 +1,14 @@
 #include "Platform/SwiftUI/Gestures/ScrollAxis.hpp"
 
+#include <algorithm>
+
 namespace swiftui {
+namespace {
+
+// Faster fingers do not throw content any further. Points a second.
+constexpr double fastestFlick = 8000;
+
+} // namespace
 
 void ScrollAxis::setRange(motion::ScrollRange range, double viewportLength, double now_s) {
     if (range == m_range && viewportLength == m_viewportLength) return;
@@ -39,7 +47,7 @@ void ScrollAxis::track(double finger, double now_s) {
 void ScrollAxis::endTracking(double now_s) {
     if (!m_isTracking) return;
     m_isTracking = false;
-    coast(m_offset, m_speed.velocityAt(now_s), now_s);
+    coast(m_offset, std::clamp(m_speed.velocityAt(now_s), -fastestFlick, fastestFlick), now_s);
 }
 
 void ScrollAxis::cancelTracking(double now_s) {
