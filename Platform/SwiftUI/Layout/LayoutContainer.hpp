@@ -34,11 +34,11 @@ struct SubviewPlace {
 // A rule: how large the container is for a proposal, and where its views stand in a size. `places` has an entry for each view.
 template <class Rule>
 concept LayoutRule = std::equality_comparable<Rule> &&
-                     requires(const Rule& rule, const geometry::ProposedSize& proposal, geometry::Size size,
-                              const LayoutSubviews& subviews, std::vector<SubviewPlace>& places) {
-                         { rule.sizeThatFits(proposal, subviews) } -> std::same_as<geometry::Size>;
-                         rule.placeSubviews(size, proposal, subviews, places);
-                     };
+    requires(const Rule& rule, const geometry::ProposedSize& proposal, geometry::Size size, const LayoutSubviews& subviews,
+             std::vector<SubviewPlace>& places) {
+    { rule.sizeThatFits(proposal, subviews) } -> std::same_as<geometry::Size>;
+    rule.placeSubviews(size, proposal, subviews, places);
+};
 
 namespace detail {
 
@@ -49,7 +49,8 @@ public:
 
 protected:
     virtual geometry::Size sizeByRule(const geometry::ProposedSize&, const LayoutSubviews&) const = 0;
-    virtual void placeByRule(geometry::Size, const geometry::ProposedSize&, const LayoutSubviews&, std::vector<SubviewPlace>&) const = 0;
+    virtual void placeByRule(geometry::Size, const geometry::ProposedSize&, const LayoutSubviews&,
+                             std::vector<SubviewPlace>&) const = 0;
 
     geometry::Size measure(const geometry::ProposedSize& proposal) override;
     void layOut(const geometry::ProposedSize& proposal, geometry::Size size) override;

@@ -175,6 +175,8 @@ View PaddingModifier::modified(View content) && { return newModifier<PaddingNode
 View FixedSizeModifier::modified(View content) && { return newModifier<FixedSizeNode>(std::move(*this), content); }
 View AspectRatioModifier::modified(View content) && { return newModifier<AspectRatioNode>(std::move(*this), content); }
 View LayoutPriorityModifier::modified(View content) && { return newModifier<LayoutPriorityNode>(std::move(*this), content); }
+OffsetModifier offset(double x, double y) { return {{std::isfinite(x) ? x : 0, std::isfinite(y) ? y : 0}}; }
+
 View OffsetModifier::modified(View content) && { return newModifier<OffsetNode>(std::move(*this), content); }
 View IgnoresSafeAreaModifier::modified(View content) && { return newModifier<IgnoresSafeAreaNode>(std::move(*this), content); }
 

@@ -88,7 +88,7 @@ struct OffsetModifier {
 };
 
 // Shown elsewhere, laid out as if it were not.
-inline OffsetModifier offset(double x, double y) { return {{x, y}}; }
+OffsetModifier offset(double x, double y);
 
 struct IgnoresSafeAreaModifier {
     Edge edges = Edge::all;

@@ -11,7 +11,8 @@ struct TapGestureModifier {
 
     View modified(View content) &&;
 };
-// Acts when a finger comes down anywhere in the frame, save on a control inside, and lifts without having moved. Not while disabled.
+// Acts when a finger comes down anywhere in the frame, save on a control inside, and lifts without having moved. Not while
+// disabled.
 inline TapGestureModifier onTapGesture(Action action) { return {std::move(action)}; }
 
 } // namespace swiftui

@@ -22,8 +22,8 @@ class GestureHandler {
 public:
     virtual ~GestureHandler() = default;
 
-    // Asked before anything else, from the outside inwards, of the handlers around the place where a touch comes down. The first that
-    // says true has the touch, and nothing inside it learns of it: a scroll view that is still moving. touchBegan follows.
+    // Asked before anything else, from the outside inwards, of the handlers around the place where a touch comes down. The first
+    // that says true has the touch, and nothing inside it learns of it: a scroll view that is still moving. touchBegan follows.
     virtual bool interceptsTouch(const TouchEvent&) { return false; }
     virtual bool touchBegan(const TouchEvent& event) = 0;
     virtual void touchMoved(const TouchEvent&) {}

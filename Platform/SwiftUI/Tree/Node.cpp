@@ -30,7 +30,7 @@ void Node::setNeedsBuild() {
             outer->m_hasDirtyDescendant = true;
     }
     if (const auto& animation = Transaction::currentAnimation()) m_buildAnimation = animation;
-    m_host->setNeedsUpdate();
+    m_host->setNeedsBuild();
 }
 
 void Node::invalidateLayout() {

@@ -380,7 +380,10 @@ Element* newElement(Value&& value) {
 }
 template <class NodeType, class Value>
 View newModifier(Value&& value, const View& content) {
-    return View(ElementArena::current().make<ModifierElement<NodeType, std::remove_cvref_t<Value>>>(std::move(value), content));
+    Element* element = ElementArena::current().make<ModifierElement<NodeType, std::remove_cvref_t<Value>>>(std::move(value), content);
+    // A modified view is who the view inside is, so that a transition behind an id() sees it come and go.
+    if (const Element* inside = content.element()) element->key = inside->key;
+    return View(element);
 }
 
 } // namespace swiftui

@@ -135,7 +135,7 @@ void Node::settleTransparentChildren(Size size) {
 }
 
 void Node::updatePaintBounds() {
-    const double outset = paintOutset();
+    const double outset = finiteLength(paintOutset());
     Rect bounds = Rect{{}, m_frame.size}.insetBy(-outset, -outset);
     forEachPainted([&](const Node& child) { bounds = bounds.united(child.m_paintBounds.offsetBy(child.m_frame.origin)); });
     m_paintBounds = effectBounds(bounds);

@@ -27,7 +27,8 @@ public:
     void cancel();
     // The handler that has the touch; null when none has.
     GestureHandler* activeHandler() const { return m_active; }
-    // The node goes away with everything inside, handlers included. The touch stays with the handlers around it, who may still claim it.
+    // The node goes away with everything inside, handlers included. The touch stays with the handlers around it, who may still
+    // claim it.
     void nodeGone(const Node& node);
 
 private:

@@ -65,6 +65,11 @@ void ViewHost::setVisible(bool isVisible) {
 }
 
 void ViewHost::setNeedsUpdate() {
+    if (const auto& animation = Transaction::currentAnimation()) m_rootAnimation = animation;
+    setNeedsBuild();
+}
+
+void ViewHost::setNeedsBuild() {
     m_needsBuild = true;
     if (const auto& animation = Transaction::currentAnimation()) m_updateAnimation = animation;
     requestUpdate();

@@ -121,6 +121,8 @@ private:
 
     explicit ViewHost(std::function<View()> root);
     void requestUpdate();
+    // For changes inside: only what has changed is shown by the animation in force.
+    void setNeedsBuild();
     void bringUpToDate();
     void build();
     void layOutContent();
@@ -146,6 +148,7 @@ private:
     std::vector<AppearanceObserver*> m_appearances;
     std::vector<AppearanceObserver*> m_changedAppearances;
     std::vector<std::unique_ptr<Node>> m_departed;
+    std::optional<motion::Animation> m_rootAnimation;   // of changes to what the root gives
     std::optional<motion::Animation> m_updateAnimation; // of the changes since the last layout
     const motion::Animation* m_layoutAnimation = nullptr;
     double m_animatingUntil_s = -1e300;

@@ -18,6 +18,11 @@ namespace {
 // Handlers that keep changing what they watch would never end.
 constexpr int maximumPassCount = 32;
 
+// A view without length is on screen where it would stand.
+bool isPartlyInside(double start, double end, double windowStart, double windowEnd) {
+    return start < windowEnd && (end > windowStart || (end == start && start == windowStart));
+}
+
 } // namespace
 
 void ViewHost::update() {
@@ -59,7 +64,8 @@ void ViewHost::bringUpToDate() {
 
 void ViewHost::build() {
     m_needsBuild = false;
-    UpdatePass pass{*this, &m_environment, nullptr, now_s()};
+    const std::optional<motion::Animation> animation = std::exchange(m_rootAnimation, std::nullopt);
+    UpdatePass pass{*this, &m_environment, animation ? &*animation : nullptr, now_s()};
     m_rootNode->build(m_root ? m_root() : View{}, pass);
     m_needsAppearanceUpdate = true;
 }
@@ -151,10 +157,9 @@ bool ViewHost::isOnScreen(const Node& node) const {
     for (const Node* outer = node.parent(); outer; outer = outer->parent()) {
         rect = rect.offsetBy(outer->contentTranslation(now));
         if (const auto viewport = outer->viewport()) {
-            // A view without height or width is on screen where it would stand.
-            const bool isInside = rect.minX() <= viewport->maxX() && rect.maxX() >= viewport->minX() &&
-                                  rect.minY() < viewport->maxY() && (rect.maxY() > viewport->minY() || rect.minY() >= viewport->minY());
-            if (!isInside) return false;
+            if (!isPartlyInside(rect.minX(), rect.maxX(), viewport->minX(), viewport->maxX()) ||
+                !isPartlyInside(rect.minY(), rect.maxY(), viewport->minY(), viewport->maxY()))
+                return false;
         }
         rect = rect.offsetBy(outer->frame().origin);
     }

@@ -1,6 +1,7 @@
 #include "Platform/SwiftUI/Views/Shapes.hpp"
 
 #include <algorithm>
+#include <cmath>
 
 namespace swiftui {
 
@@ -23,7 +24,7 @@ Shape Shape::fill(graphics::Color color) const {
 Shape Shape::stroke(double lineWidth) const {
     Shape result = *this;
     result.m_isStroked = true;
-    result.m_lineWidth = lineWidth;
+    result.m_lineWidth = std::isfinite(lineWidth) ? lineWidth : 0;
     result.m_color.reset();
     return result;
 }
@@ -36,7 +37,7 @@ Shape Shape::stroke(graphics::Color color, double lineWidth) const {
 
 Shape Shape::inset(double by) const {
     Shape result = *this;
-    result.m_inset += by;
+    if (std::isfinite(by)) result.m_inset += by;
     return result;
 }
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "Platform/Foundation/Locale.hpp"
 #include "Platform/Graphics/TextPainting.hpp"
 #include "Platform/Host/TextCache.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
@@ -23,6 +22,14 @@ constexpr double tolerance = 0.005;
 // In how many steps a text shrinks to its minimum scale.
 constexpr double scaleStep = 0.05;
 
+// A text as it is laid out in some room.
+struct Lines {
+    TextLayout layout;
+    std::shared_ptr<const graphics::ShapedText> shaped;
+    std::shared_ptr<const graphics::ShapedText> ellipsis; // null where nothing can be cut
+    std::optional<ProposedSize> room;                     // absent: out of date
+};
+
 class TextNode final : public Node {
 public:
     void adopt(Text&& text, UpdatePass& pass);
@@ -32,8 +39,8 @@ public:
         return Node::lengthRange(axis, cross);
     }
     double firstBaseline(const ProposedSize& proposal) override {
-        layOutFor(proposal);
-        return m_layout.lines.empty() ? 0 : m_layout.lines.front().ascent;
+        measureIn(roomFor(proposal));
+        return m_measured.layout.lines.empty() ? 0 : m_measured.layout.lines.front().ascent;
     }
 
 protected:
@@ -41,32 +48,30 @@ protected:
     bool isHittable() const override { return true; }
     double paintOutset() const override { return m_style.font.size / 4; } // glyphs lean out of their lines
     Size measure(const ProposedSize& proposal) override;
-    void layOut(const ProposedSize& proposal, Size) override { layOutFor(proposal); }
+    void layOut(const ProposedSize& proposal, Size size) override;
     void paintContent(graphics::PaintContext& context, const graphics::PaintState& state, double now_s) override;
     void describe(accessibility::Node& node, const graphics::PaintState& state, double now_s) const override;
 
 private:
-    void shape(double scale);
     const Size& idealSize();
-    // Whether the text needs no wrapping and no cutting in the room.
-    bool fits(const ProposedSize& proposal);
-    void layOutFor(const ProposedSize& proposal);
-    void layOutAtScale(double scale, const ProposedSize& proposal);
-    void forgetShape();
+    // The proposal, or no limits at all where the text needs no wrapping and no cutting in it.
+    ProposedSize roomFor(const ProposedSize& proposal);
+    void measureIn(const ProposedSize& room);
+    void measureAtScale(double scale, const ProposedSize& room);
+    void forgetLines();
 
     Text m_text{std::string()};
     TextStyle m_style;
     Animated<graphics::Color> m_color;
-
-    std::vector<graphics::StyledRun> m_runs; // as shaped last
-    std::shared_ptr<const graphics::ShapedText> m_shaped;
-    std::shared_ptr<const graphics::ShapedText> m_ellipsis; // at the shown scale; made when something is cut
-    double m_shapedScale = 0;
     std::optional<Size> m_idealSize;
     int m_idealLineCount = 0;
     bool m_idealIsCut = false; // by the line limit alone
-    TextLayout m_layout;
-    std::optional<ProposedSize> m_layoutProposal; // what m_layout is for
+
+    // A stack measures its views in rooms that they do not get, so what is shown is kept apart from what was measured last.
+    Lines m_measured;
+    Lines m_shown;
+    std::vector<graphics::StyledRun> m_runs; // as shaped last
+    double m_shapedScale = 0;                // of m_runs and m_measured.shaped; 0: none yet
     std::vector<graphics::TextRunPaint> m_paints;
 };
 
@@ -77,7 +82,7 @@ void TextNode::adopt(Text&& text, UpdatePass& pass) {
     TextStyle style = TextStyle::of(m_text, environment());
     if (isOtherText || !(style == m_style)) {
         m_style = std::move(style);
-        forgetShape();
+        forgetLines();
         if (!isNew()) invalidateLayout();
     }
     m_color.set(environment().foregroundStyle, isNew() ? nullptr : pass.animation, pass.now_s);
@@ -86,72 +91,79 @@ void TextNode::adopt(Text&& text, UpdatePass& pass) {
     setNeedsDisplay();
 }
 
-void TextNode::forgetShape() {
-    m_shaped = nullptr;
-    m_ellipsis = nullptr;
+void TextNode::forgetLines() {
+    m_measured.shaped = nullptr;
+    m_measured.room.reset();
+    m_shown.room.reset();
     m_shapedScale = 0;
     m_idealSize.reset();
-    m_layoutProposal.reset();
-}
-
-void TextNode::shape(double scale) {
-    if (m_shaped && m_shapedScale == scale) return;
-    m_style.makeRuns(m_text, environment(), scale, m_runs);
-    m_shaped = host::TextCache::shared().shaped(m_runs, m_style.language, m_style.direction);
-    m_ellipsis = nullptr;
-    m_shapedScale = scale;
 }
 
 const Size& TextNode::idealSize() {
     if (!m_idealSize) {
-        layOutAtScale(1, {});
-        m_layoutProposal.reset();
-        m_idealSize = m_layout.size;
-        m_idealLineCount = int(m_layout.lines.size());
-        m_idealIsCut = m_layout.isTruncated;
+        measureAtScale(1, {});
+        m_measured.room.emplace();
+        m_idealSize = m_measured.layout.size;
+        m_idealLineCount = int(m_measured.layout.lines.size());
+        m_idealIsCut = m_measured.layout.isTruncated;
     }
     return *m_idealSize;
 }
 
-bool TextNode::fits(const ProposedSize& proposal) {
+ProposedSize TextNode::roomFor(const ProposedSize& proposal) {
     const Size& ideal = idealSize();
-    return !m_idealIsCut && (!proposal.width || *proposal.width + tolerance >= ideal.width) &&
-           (!proposal.height || m_idealLineCount <= 1 || *proposal.height + tolerance >= ideal.height);
+    const bool fits = !m_idealIsCut && (!proposal.width || *proposal.width + tolerance >= ideal.width) &&
+                      (!proposal.height || m_idealLineCount <= 1 || *proposal.height + tolerance >= ideal.height);
+    return fits ? ProposedSize{} : proposal;
 }
 
 Size TextNode::measure(const ProposedSize& proposal) {
-    if (fits(proposal)) return *m_idealSize;
-    layOutFor(proposal);
-    return m_layout.size;
+    const ProposedSize room = roomFor(proposal);
+    if (room == ProposedSize{} && !m_idealIsCut) return *m_idealSize;
+    measureIn(room);
+    return m_measured.layout.size;
 }
 
-void TextNode::layOutFor(const ProposedSize& proposal) {
-    const ProposedSize room = fits(proposal) ? ProposedSize{} : proposal;
-    if (m_layoutProposal == room) return;
-    layOutAtScale(1, room);
-    for (double scale = 1 - scaleStep; m_layout.isTruncated && scale >= m_style.minimumScaleFactor - 1e-9; scale -= scaleStep)
-        layOutAtScale(scale, room);
-    m_layoutProposal = room;
+void TextNode::layOut(const ProposedSize& proposal, Size) {
+    const ProposedSize room = roomFor(proposal);
+    if (m_shown.room == room) return;
+    measureIn(room);
+    std::swap(m_shown, m_measured);
+    m_measured.room.reset();
+    m_shapedScale = 0;
 }
 
-void TextNode::layOutAtScale(double scale, const ProposedSize& proposal) {
-    shape(scale);
+void TextNode::measureIn(const ProposedSize& room) {
+    if (m_measured.room == room) return;
+    measureAtScale(1, room);
+    for (double scale = 1 - scaleStep; m_measured.layout.isTruncated && scale >= m_style.minimumScaleFactor - 1e-9; scale -= scaleStep)
+        measureAtScale(scale, room);
+    m_measured.room = room;
+}
+
+void TextNode::measureAtScale(double scale, const ProposedSize& room) {
+    host::TextCache& cache = host::TextCache::shared();
+    if (m_shapedScale != scale || !m_measured.shaped) {
+        m_style.makeRuns(m_text, environment(), scale, m_runs);
+        m_measured.shaped = cache.shaped(m_runs, m_style.language, m_style.direction);
+        m_measured.ellipsis = nullptr;
+        m_shapedScale = scale;
+    }
     graphics::TextLayoutRequest request;
-    if (proposal.width && std::isfinite(*proposal.width)) request.width = *proposal.width + tolerance;
-    if (proposal.height && std::isfinite(*proposal.height)) request.height = *proposal.height + tolerance;
+    if (room.width && std::isfinite(*room.width)) request.width = *room.width + tolerance;
+    if (room.height && std::isfinite(*room.height)) request.height = *room.height + tolerance;
     request.lineLimit = m_style.lineLimit;
     request.lineSpacing = m_style.lineSpacing;
     request.direction = m_style.direction;
-    if (request.width || request.height || request.lineLimit) {
-        if (!m_ellipsis)
-            m_ellipsis = host::TextCache::shared().ellipsis(m_runs.front().font, m_style.language, m_style.direction);
-        request.ellipsisWidth = host::totalAdvance(*m_ellipsis);
+    if (request.height || request.lineLimit) {
+        if (!m_measured.ellipsis) m_measured.ellipsis = cache.ellipsis(m_runs.front().font, m_style.language, m_style.direction);
+        request.ellipsisWidth = host::totalAdvance(*m_measured.ellipsis);
     }
-    graphics::layOutText(*m_shaped, request, m_layout);
+    graphics::layOutText(*m_measured.shaped, request, m_measured.layout);
 }
 
 void TextNode::paintContent(graphics::PaintContext& context, const graphics::PaintState& state, double now_s) {
-    if (!m_shaped) return;
+    if (!m_shown.shaped) return;
     const graphics::ColorScheme scheme = environment().colorScheme;
     const graphics::Color inherited = m_color.valueAt(now_s);
     m_paints.clear();
@@ -160,23 +172,26 @@ void TextNode::paintContent(graphics::PaintContext& context, const graphics::Pai
         const graphics::Color& color = run.attributes.color.name.empty() ? inherited : run.attributes.color;
         m_paints.push_back({color.resolved(scheme), run.attributes.isStruckThrough});
     }
-    graphics::paintTextLayout(context, state, m_layout, m_shaped, m_ellipsis, {{}, presentationFrame(now_s).size}, m_style.alignment,
-                              m_paints);
+    graphics::paintTextLayout(context, state, m_shown.layout, m_shown.shaped, m_shown.ellipsis, {{}, presentationFrame(now_s).size},
+                              m_style.alignment, m_paints);
 }
 
 void TextNode::describe(accessibility::Node& node, const graphics::PaintState&, double) const {
     accessibility::TextInfo info;
     info.text = m_text.isAttributed() ? m_text.attributed().text() : m_text.plain();
-    info.lineCount = int(m_layout.lines.size());
-    info.isTruncated = m_layout.isTruncated;
+    info.lineCount = int(m_shown.layout.lines.size());
+    info.isTruncated = m_shown.layout.isTruncated;
+    const auto fontOf = [this](std::size_t run) {
+        return m_shown.shaped && run < m_shown.shaped->runs.size() ? m_shown.shaped->runs[run].font : m_style.font;
+    };
     for (std::size_t i = 0; m_text.isAttributed() && i < m_text.attributed().runs().size(); ++i) {
         const graphics::AttributedRun& run = m_text.attributed().runs()[i];
-        const graphics::Font font = i < m_runs.size() ? m_runs[i].font : run.attributes.font;
+        const graphics::Font font = fontOf(i);
         const graphics::Color& color = run.attributes.color.name.empty() ? m_color.target() : run.attributes.color;
         info.runs.push_back({run.text, std::string(font.name), font.size, font.weightOption, std::string(color.name),
                              run.attributes.isStruckThrough});
     }
-    const graphics::Font font = m_runs.empty() ? m_style.font : m_runs.front().font;
+    const graphics::Font font = fontOf(0);
     info.font = std::string(font.name);
     info.size = font.size;
     info.weight = font.weightOption;

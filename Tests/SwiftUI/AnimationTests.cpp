@@ -1,0 +1,323 @@
+// What moves, fades and grows, and where it is at which time.
+#include "Tests/SwiftUI/Screen.hpp"
+
+namespace swiftui::tests {
+namespace {
+
+using testing::ElementsAre;
+
+constexpr motion::Animation linear(double duration_s, double delay_s = 0) {
+    return {motion::TimingCurve::linear(), duration_s, delay_s};
+}
+
+class Animating : public testing::Test {
+protected:
+    bool isOn = false;
+    std::unique_ptr<Screen> screen;
+
+    void show(std::function<View()> root) { screen = std::make_unique<Screen>(std::move(root), Size{100, 100}); }
+    void change(std::optional<motion::Animation> animation) {
+        const Transaction::Scope scope(animation);
+        isOn = !isOn;
+        screen->host().setNeedsUpdate();
+        screen->settle();
+    }
+    // The values at 0, 25, 50, 75 and 100 % of a second.
+    template <class Read>
+    std::vector<double> sampled(Read read) {
+        std::vector<double> values{read()};
+        for (int i = 0; i < 4; ++i) {
+            screen->runFor(0.25);
+            values.push_back(read());
+        }
+        return values;
+    }
+};
+
+TEST_F(Animating, FramesMoveFromWhereTheyAreSeen) {
+    show([&] { return block("box", 10, 10) | frame({.width = 100, .height = 10, .alignment = isOn ? Alignment::trailing : Alignment::leading}); });
+
+    withAnimation(linear(1), [&] { isOn = true; screen->host().setNeedsUpdate(); });
+    screen->settle();
+
+    EXPECT_THAT(sampled([&] { return screen->frame("box").minX(); }), ElementsAre(0, 22.5, 45, 67.5, 90));
+    EXPECT_FALSE(screen->host().isAnimating());
+}
+
+TEST_F(Animating, SizesGrow) {
+    show([&] { return block("box", isOn ? 50 : 10, 10) | frame({.width = 100, .alignment = Alignment::leading}); });
+
+    change(linear(1));
+
+    EXPECT_THAT(sampled([&] { return screen->frame("box").width(); }), ElementsAre(10, 20, 30, 40, 50));
+}
+
+TEST_F(Animating, WithoutAnAnimationTheyJump) {
+    show([&] { return block("box", isOn ? 50 : 10, 10); });
+
+    change(std::nullopt);
+
+    EXPECT_EQ(screen->frame("box").width(), 50);
+    EXPECT_FALSE(screen->host().isAnimating());
+}
+
+TEST_F(Animating, ReducedMotionJumpsButFades) {
+    show([&] { return block("box", isOn ? 50 : 10, 10) | opacity(isOn ? 0 : 1); });
+    EnvironmentValues values = screen->host().environment();
+    values.reduceMotion = true;
+    screen->host().setEnvironment(values);
+    screen->settle();
+
+    change(linear(1));
+    screen->runFor(0.5);
+
+    EXPECT_EQ(screen->frame("box").width(), 50);
+    EXPECT_EQ(screen->node("box").opacity, 0.5);
+}
+
+TEST_F(Animating, OpacityScaleAndRotationAreFunctionsOfTime) {
+    show([&] {
+        return block("box", 10, 10) | opacity(isOn ? 0 : 1) | scaleEffect(isOn ? 2 : 1) | rotationEffect(isOn ? 90 : -90);
+    });
+
+    change(linear(1));
+    screen->runFor(0.25);
+
+    const auto node = screen->node("box");
+    EXPECT_DOUBLE_EQ(node.opacity, 0.75);
+    EXPECT_DOUBLE_EQ(node.scale.value(), 1.25);
+    EXPECT_DOUBLE_EQ(node.rotation_degrees.value(), -45);
+}
+
+TEST_F(Animating, ColoursMixAtTheTimeOfPainting) {
+    const graphics::Color from{"from", graphics::rgb(0x000000), graphics::rgb(0x000000)};
+    const graphics::Color to{"to", graphics::rgb(0x6496C8), graphics::rgb(0x6496C8)};
+    show([&] { return ColorView{isOn ? to : from}; });
+
+    change(linear(1));
+    screen->runFor(0.5);
+
+    EXPECT_EQ(screen->host().displayList().commands.front().color, graphics::rgb(0x324B64));
+}
+
+TEST_F(Animating, AChangeOnTheWayStartsFromWhatIsSeen) {
+    show([&] { return block("box", 10, 10) | opacity(isOn ? 0 : 1); });
+
+    change(linear(1));
+    screen->runFor(0.5);
+    change(linear(1));
+
+    EXPECT_THAT(sampled([&] { return screen->node("box").opacity; }), ElementsAre(0.5, 0.625, 0.75, 0.875, 1));
+}
+
+TEST_F(Animating, AnotherUpdateOnTheWayDoesNotDisturb) {
+    show([&] { return block("box", isOn ? 50 : 10, 10) | opacity(isOn ? 0 : 1) | frame({.width = 100, .alignment = Alignment::leading}); });
+
+    change(linear(1));
+    screen->runFor(0.5);
+    screen->host().setNeedsUpdate();
+    screen->settle();
+
+    EXPECT_EQ(screen->node("box").opacity, 0.5);
+    EXPECT_EQ(screen->frame("box").width(), 30);
+}
+
+TEST_F(Animating, ADelayHoldsTheOldValue) {
+    show([&] { return block("box", 10, 10) | opacity(isOn ? 0 : 1); });
+
+    change(linear(0.5, 0.5));
+
+    EXPECT_THAT(sampled([&] { return screen->node("box").opacity; }), ElementsAre(1, 1, 1, 0.5, 0));
+}
+
+TEST_F(Animating, TheAnimationModifierAnimatesWhenItsValueChanges) {
+    int value = 0;
+    show([&] { return block("box", isOn ? 50 : 10, 10) | opacity(isOn ? 0 : 1) | animation(linear(1), value); });
+
+    isOn = true;
+    ++value;
+    screen->host().setNeedsUpdate();
+    screen->settle();
+    screen->runFor(0.5);
+    EXPECT_EQ(screen->node("box").opacity, 0.5);
+    EXPECT_EQ(screen->frame("box").width(), 30);
+
+    isOn = false;
+    screen->host().setNeedsUpdate();
+    screen->settle();
+    EXPECT_EQ(screen->node("box").opacity, 1);
+}
+
+TEST_F(Animating, AppearanceSwitchesAtOnce) {
+    const graphics::Color ink{"ink", graphics::rgb(0x000000), graphics::rgb(0xFFFFFF)};
+    show([&] { return ColorView{ink}; });
+    EnvironmentValues dark = screen->host().environment();
+    dark.colorScheme = graphics::ColorScheme::dark;
+
+    withAnimation(linear(1), [&] { screen->host().setEnvironment(dark); });
+    screen->settle();
+
+    EXPECT_EQ(screen->host().displayList().commands.front().color, ink.dark);
+}
+
+// --- Transitions
+
+class Transitions : public Animating {
+protected:
+    void showBranch(AnyTransition how) {
+        show([this, how] {
+            return VStack{.content = {isOn ? block("branch", 10, 40) | transition(how) : View{}, block("other", 10, 10)}} |
+                   frame({.width = 100, .height = 100, .alignment = Alignment::topLeading});
+        });
+    }
+    // Of the first view, which has no identifier while it leaves.
+    accessibility::Node branch() {
+        accessibility::Node root = screen->tree();
+        return root.children.size() > 1 ? root.children.front() : accessibility::Node{};
+    }
+};
+
+TEST_F(Transitions, AreNotShownAtTheFirstBuild) {
+    isOn = true;
+    showBranch(AnyTransition::opacity().animation(linear(1)));
+
+    EXPECT_EQ(screen->node("branch").opacity, 1);
+}
+
+TEST_F(Transitions, FadeInAndOut) {
+    showBranch(AnyTransition::opacity());
+
+    change(linear(1));
+    EXPECT_THAT(sampled([&] { return branch().opacity; }), ElementsAre(0, 0.25, 0.5, 0.75, 1));
+
+    change(linear(1));
+    EXPECT_THAT(sampled([&] { return branch().opacity; }), ElementsAre(1, 0.75, 0.5, 0.25, 1));
+    EXPECT_TRUE(branch().type.empty());
+}
+
+TEST_F(Transitions, WithoutAnAnimationViewsComeAndGoAtOnce) {
+    showBranch(AnyTransition::opacity());
+
+    change(std::nullopt);
+    EXPECT_EQ(branch().opacity, 1);
+    change(std::nullopt);
+    EXPECT_TRUE(branch().type.empty());
+}
+
+TEST_F(Transitions, ALeavingViewKeepsItsPlaceAndTakesNoTouches) {
+    show([this] {
+        return ZStack{.alignment = Alignment::topLeading,
+                      .content = {isOn ? block("branch", 100, 60) | transition(AnyTransition::opacity()) : View{}}} |
+               frame({.width = 100, .height = 100, .alignment = Alignment::topLeading});
+    });
+    change(std::nullopt);
+    ASSERT_TRUE(screen->host().hits({50, 50}));
+
+    change(linear(1));
+    screen->runFor(0.5);
+
+    EXPECT_FALSE(screen->host().hits({50, 50}));
+    ASSERT_EQ(screen->host().displayList().commands.size(), 1u);
+    EXPECT_EQ(screen->host().displayList().commands.front().frame, rect(0, 0, 100, 60));
+    EXPECT_FLOAT_EQ(screen->host().displayList().commands.front().opacity, 0.5f);
+}
+
+TEST_F(Transitions, TurnBackHalfWay) {
+    showBranch(AnyTransition::opacity());
+    change(std::nullopt);
+
+    change(linear(1));
+    screen->runFor(0.5);
+    change(linear(1));
+
+    EXPECT_THAT(sampled([&] { return screen->node("branch").opacity; }), ElementsAre(0.5, 0.625, 0.75, 0.875, 1));
+}
+
+TEST_F(Transitions, HaveTheirOwnAnimations) {
+    showBranch(AnyTransition::asymmetric(AnyTransition::opacity().animation(linear(0.5, 0.25)),
+                                         AnyTransition::opacity().animation(linear(0.25))));
+
+    change(std::nullopt);
+    EXPECT_THAT(sampled([&] { return branch().opacity; }), ElementsAre(0, 0, 0.5, 1, 1));
+
+    change(linear(1));
+    screen->runFor(0.125);
+    EXPECT_EQ(branch().opacity, 0.5);
+    screen->runFor(0.125);
+    EXPECT_TRUE(branch().type.empty());
+}
+
+TEST_F(Transitions, AnotherIdLeavesAndEntersAtOnce) {
+    show([this] { return Text{isOn ? "new" : "old"} | id(isOn ? 1 : 0) | transition(AnyTransition::opacity()) | padding(); });
+
+    change(linear(1));
+    screen->runFor(0.25);
+
+    EXPECT_EQ(screen->text("old").opacity, 0.75);
+    EXPECT_EQ(screen->text("new").opacity, 0.25);
+}
+
+struct Curtain {
+    Shape shape;
+};
+geometry::Path curtainPath(const Rect& rect, double share) {
+    return geometry::Path::rectangle({rect.origin, {rect.width(), rect.height() * share}});
+}
+
+TEST_F(Transitions, JoinAClipWithAFade) {
+    const auto at = [](double share) { return Curtain{Shape(CustomShape{.path = curtainPath, .animatableData = share})}; };
+    showBranch(AnyTransition::modifier(at(0), at(1)).combined(AnyTransition::opacity()));
+
+    change(linear(1));
+    const auto heights = sampled([&] { return branch().clip.value_or(Rect{{}, {0, 40}}).height(); });
+
+    EXPECT_THAT(heights, ElementsAre(0, 10, 20, 30, 40));
+}
+
+TEST_F(Transitions, MoveFromAnEdge) {
+    showBranch(AnyTransition::move(Edge::top));
+    change(std::nullopt);
+
+    change(linear(1));
+
+    EXPECT_THAT(sampled([&] { return branch().frame.minY(); }), ElementsAre(0, -10, -20, -30, 0));
+    EXPECT_TRUE(branch().type.empty());
+}
+
+TEST_F(Transitions, SubtreesInsideAnInsertedViewDoNotMoveByThemselves) {
+    show([this] { return isOn ? VStack{.content = {block("inner", 10, 10) | transition(AnyTransition::opacity())}} : View{}; });
+
+    change(linear(1));
+
+    EXPECT_EQ(screen->node("inner").opacity, 1);
+}
+
+TEST_F(Transitions, EndTheirTimersWithTheTree) {
+    showBranch(AnyTransition::opacity());
+    change(std::nullopt);
+    change(linear(1));
+
+    screen->host().setRoot([] { return View{}; });
+    screen->settle();
+
+    screen->runFor(2);
+    EXPECT_FALSE(screen->bed().loop().nextDueTime_s().has_value());
+}
+
+TEST_F(Transitions, ReducedMotionKeepsOnlyTheFade) {
+    showBranch(AnyTransition::move(Edge::top).combined(AnyTransition::opacity()));
+    EnvironmentValues values = screen->host().environment();
+    values.reduceMotion = true;
+    screen->host().setEnvironment(values);
+    screen->settle();
+
+    change(linear(1));
+    const double start = branch().frame.minY();
+    screen->runFor(0.5);
+
+    EXPECT_EQ(branch().opacity, 0.5);
+    EXPECT_EQ(branch().frame.minY(), start);
+}
+
+} // namespace
+} // namespace swiftui::tests

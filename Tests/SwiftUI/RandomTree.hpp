@@ -1,0 +1,113 @@
+// Trees of views made from bytes: what property tests and the fuzzer feed to the layout.
+#pragma once
+
+#include <cstdint>
+#include <limits>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "Platform/SwiftUI/SwiftUI.hpp"
+
+namespace swiftui::tests {
+
+// Reads decisions from bytes; when they run out, everything is 0.
+class Decisions {
+public:
+    explicit Decisions(std::span<const std::uint8_t> bytes) : m_bytes(bytes) {}
+
+    int below(int limit) { return limit > 0 ? int(next()) % limit : 0; }
+    bool maybe() { return below(2) == 1; }
+    // Mostly sensible lengths, and some that no view should be given.
+    double length() {
+        static constexpr double odd[] = {-20, 0, 0.1, 1e7, geometry::infinity, -geometry::infinity,
+                                         std::numeric_limits<double>::quiet_NaN(), 1e-9};
+        const int choice = below(16);
+        return choice < 8 ? below(120) : choice < 14 ? below(256) / 3.0 : odd[below(8)];
+    }
+    std::optional<double> maybeLength() { return maybe() ? std::optional(length()) : std::nullopt; }
+
+private:
+    std::uint8_t next() { return m_position < m_bytes.size() ? m_bytes[m_position++] : 0; }
+
+    std::span<const std::uint8_t> m_bytes;
+    std::size_t m_position = 0;
+};
+
+class RandomTree {
+public:
+    explicit RandomTree(std::span<const std::uint8_t> bytes) : m_decisions(bytes) {}
+
+    View make() { return view(0); }
+
+private:
+    static constexpr int maximumDepth = 6;
+    static constexpr int maximumViews = 80;
+
+    View view(int depth) {
+        View result = base(depth);
+        for (int count = m_decisions.below(3); count > 0; --count) result = modified(result);
+        return result;
+    }
+
+    View base(int depth) {
+        if (++m_count > maximumViews || depth >= maximumDepth) return leaf();
+        switch (m_decisions.below(9)) {
+        case 0: return HStack{.alignment = VerticalAlignment(m_decisions.below(4)), .spacing = m_decisions.length(), .content = views(depth)};
+        case 1: return VStack{.alignment = HorizontalAlignment(m_decisions.below(3)), .spacing = m_decisions.length(), .content = views(depth)};
+        case 2: return HStack{.content = views(depth)};
+        case 3: return VStack{.content = views(depth)};
+        case 4: return ZStack{.alignment = alignment(), .content = views(depth)};
+        case 5: return Group{.content = views(depth)};
+        case 6: return ForEach(m_decisions.below(4), [&](int) { return view(depth + 1); });
+        default: return leaf();
+        }
+    }
+
+    View leaf() {
+        static constexpr const char* words[] = {"", "word", "two words", "a long text that wraps onto several lines\nand more", "\u05d0\u05d1\u05d2"};
+        switch (m_decisions.below(7)) {
+        case 0: return View{};
+        case 1: return Text{words[m_decisions.below(5)]};
+        case 2: return Spacer{.minLength = m_decisions.length()};
+        case 3: return ColorView{graphics::Color::black};
+        case 4: return Shape(Shape::Kind(m_decisions.below(5)), 6).stroke(m_decisions.length());
+        case 5: return Circle().inset(m_decisions.length());
+        default: return ColorView{graphics::Color::white} | frame({.width = m_decisions.maybeLength(), .height = m_decisions.maybeLength()});
+        }
+    }
+
+    View modified(const View& content) {
+        switch (m_decisions.below(12)) {
+        case 0: return content | padding(Edge(m_decisions.below(16)), m_decisions.length());
+        case 1: return content | frame(frameOptions());
+        case 2: return content | fixedSize(m_decisions.maybe(), m_decisions.maybe());
+        case 3: return content | overlay(leaf(), alignment());
+        case 4: return content | background(leaf(), alignment());
+        case 5: return content | aspectRatio(m_decisions.length(), m_decisions.maybe() ? ContentMode::fit : ContentMode::fill);
+        case 6: return content | layoutPriority(m_decisions.below(3));
+        case 7: return content | offset(m_decisions.length(), m_decisions.length());
+        case 8: return content | layoutDirection(geometry::LayoutDirection(m_decisions.below(2)));
+        case 9: return content | ignoresSafeArea(Edge(m_decisions.below(16)));
+        case 10: return content | scaleEffect(m_decisions.below(5) / 2.0) | opacity(m_decisions.below(3) / 2.0);
+        default: return content | clipped();
+        }
+    }
+
+    ViewList views(int depth) {
+        std::vector<View> result;
+        for (int count = m_decisions.below(5); count > 0; --count) result.push_back(view(depth + 1));
+        return result;
+    }
+    Alignment alignment() { return {HorizontalAlignment(m_decisions.below(3)), VerticalAlignment(m_decisions.below(3))}; }
+    FrameOptions frameOptions() {
+        return {.minWidth = m_decisions.maybeLength(), .idealWidth = m_decisions.maybeLength(), .maxWidth = m_decisions.maybeLength(),
+                .minHeight = m_decisions.maybeLength(), .idealHeight = m_decisions.maybeLength(),
+                .maxHeight = m_decisions.maybeLength(), .alignment = alignment()};
+    }
+
+    Decisions m_decisions;
+    int m_count = 0;
+};
+
+} // namespace swiftui::tests

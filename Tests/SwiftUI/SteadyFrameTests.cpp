@@ -1,0 +1,59 @@
+// What a frame costs in which nothing has changed: no memory.
+#include "Tests/SwiftUI/SampleScreen.hpp"
+#include "Tests/SwiftUI/Screen.hpp"
+#include "Tests/Support/AllocationCounter.hpp"
+
+namespace swiftui::tests {
+namespace {
+
+using ::tests::allocationsDuring;
+
+class SteadyFrame : public testing::Test {
+protected:
+    Screen screen{[] { return SampleScreen{}; }, {375, 800}, {0, 0, 34, 0}};
+
+    void frame() {
+        screen.host().update();
+        screen.host().displayList();
+    }
+    void SetUp() override {
+        for (int i = 0; i < 3; ++i) {
+            screen.host().dropCaches();
+            frame();
+        }
+    }
+};
+
+TEST_F(SteadyFrame, AllocatesNothingWhenNothingHasChanged) {
+    screen.host().setNeedsUpdate();
+
+    EXPECT_EQ(allocationsDuring([&] { frame(); }), 0u);
+}
+
+TEST_F(SteadyFrame, AllocatesNothingWhenEverythingIsPaintedAgain) {
+    screen.host().setNeedsDisplay();
+
+    EXPECT_EQ(allocationsDuring([&] { frame(); }), 0u);
+}
+
+TEST_F(SteadyFrame, AllocatesNothingForLayoutAlone) {
+    const Size sizes[] = {{375, 700}, {375, 800}};
+    for (const Size size : {sizes[0], sizes[1]}) {
+        screen.host().setSize(size, {0, 0, 34, 0});
+        frame();
+    }
+    screen.host().setSize(sizes[0], {0, 0, 34, 0});
+
+    EXPECT_EQ(allocationsDuring([&] { frame(); }), 0u);
+}
+
+TEST_F(SteadyFrame, AllocatesNothingWhileThingsMove) {
+    screen.host().noteAnimation(screen.host().now_s() + 1);
+    frame();
+    screen.runFor(0.5);
+
+    EXPECT_EQ(allocationsDuring([&] { frame(); }), 0u);
+}
+
+} // namespace
+} // namespace swiftui::tests
