@@ -139,7 +139,8 @@ TEST(Button, DisabledUnderTheFingerDoesNotAct) {
 
 TEST(Button, DisabledKeepsTheTouchFromWhatIsAround) {
     int taps = 0;
-    TouchScreen screen{[&] { return buttonInTheMiddle([] {}) | disabled(true) | onTapGesture([&taps] { ++taps; }) | disabled(false); }};
+    TouchScreen screen{
+        [&] { return buttonInTheMiddle([] {}) | disabled(true) | onTapGesture([&taps] { ++taps; }) | disabled(false); }};
 
     screen.tap(middle);
 
@@ -300,7 +301,8 @@ TEST(ButtonStyle, KeepsTheLabelsStateWhenThePressComesAndGoes) {
             return box(100, 50, "state" + std::to_string(builds.get())) | onAppear([builds] { builds.set(builds.get() + 1); });
         }
     };
-    TouchScreen screen{[&] { return Button{.action = [] {}, .label = Counter{}} | buttonStyle(std::make_shared<ShrinkingStyle>()); }};
+    TouchScreen screen{
+        [&] { return Button{.action = [] {}, .label = Counter{}} | buttonStyle(std::make_shared<ShrinkingStyle>()); }};
 
     screen.down(middle);
     screen.up(middle);

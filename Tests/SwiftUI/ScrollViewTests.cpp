@@ -15,8 +15,8 @@ namespace {
 // Ten rows of 100 in a window of 400.
 View rows(int count = 10) {
     return ScrollView{.content = {VStack{.spacing = 0, .content = {ForEach(count, [](int row) {
-                                             return box(300, 100, "row" + std::to_string(row));
-                                         })}}}};
+                                                           return box(300, 100, "row" + std::to_string(row));
+                                                       })}}}};
 }
 
 struct Rows {
@@ -175,9 +175,8 @@ TEST(ScrollView, LeavesNothingRunningAtRest) {
 
 TEST(ScrollView, StopsUnderAFingerWhichTapsNothing) {
     int taps = 0;
-    TouchScreen screen{[&] {
-        return ScrollView{.content = {Button{.action = [&taps] { ++taps; }, .label = box(300, 5000, "tall")}}};
-    }};
+    TouchScreen screen{
+        [&] { return ScrollView{.content = {Button{.action = [&taps] { ++taps; }, .label = box(300, 5000, "tall")}}}; }};
     screen.drag({150, 380}, {150, 280}, 0.1);
     screen.wait(0.1);
     const double moving = screen.offset().y;
@@ -303,12 +302,11 @@ TEST(ScrollViewTouches, SurviveTheControlThatTheyBeganOn) {
 
 TEST(ScrollViewTouches, AcrossGoToTheStripInside) {
     TouchScreen screen{[] {
-        return ScrollView{.content = {VStack{
-                              .spacing = 0,
-                              .content = {ScrollView{.axis = Axis::horizontal,
-                                                     .content = {box(1000, 100, "strip")}} |
-                                              frame(300, 100) | accessibilityIdentifier("stripView"),
-                                          box(300, 900, "rest")}}}};
+        return ScrollView{
+            .content = {VStack{.spacing = 0,
+                               .content = {ScrollView{.axis = Axis::horizontal, .content = {box(1000, 100, "strip")}} |
+                                               frame(300, 100) | accessibilityIdentifier("stripView"),
+                                           box(300, 900, "rest")}}}};
     }};
 
     screen.pull({200, 50}, {150, 45}, 0.2);
@@ -491,7 +489,8 @@ TEST(ScrollView, ShowsWhatIsInItsViewportOnly) {
 struct WatchedRows {
     std::vector<std::string> events;
     TouchScreen screen{[this] {
-        return ScrollView{.content = {VStack{.spacing = 0, .content = {ForEach(10, [this](int row) {
+        return ScrollView{
+            .content = {VStack{.spacing = 0, .content = {ForEach(10, [this](int row) {
                                                  return box(300, 100, "row" + std::to_string(row)) |
                                                         onAppear([this, row] { events.push_back("+" + std::to_string(row)); }) |
                                                         onDisappear([this, row] { events.push_back("-" + std::to_string(row)); });
@@ -564,12 +563,13 @@ TEST(ScrollView, RevealsFromAnOldTreeToo) {
 TEST(ScrollView, RevealsThroughScrollViewsAround) {
     TouchScreen screen{[] {
         return ScrollView{
-            .content = {VStack{.spacing = 0,
-                               .content = {box(300, 1000, "above"), ScrollView{.axis = Axis::horizontal,
-                                                                               .content = {HStack{.spacing = 0,
-                                                                                                  .content = {box(700, 100, "left"),
-                                                                                                              box(100, 100, "right")}}}} |
-                                                                        frame(300, 100)}}}};
+            .content = {VStack{
+                .spacing = 0,
+                .content = {
+                    box(300, 1000, "above"),
+                    ScrollView{.axis = Axis::horizontal,
+                               .content = {HStack{.spacing = 0, .content = {box(700, 100, "left"), box(100, 100, "right")}}}} |
+                        frame(300, 100)}}}};
     }};
 
     screen.find("right").reveal();
@@ -594,8 +594,9 @@ TEST(ScrollView, RevealsNothingOnceItIsGone) {
 
 View strip() {
     return ScrollView{.axis = Axis::horizontal, .content = {HStack{.spacing = 0, .content = {ForEach(10, [](int tile) {
-                                                                       return box(100, 80, "tile" + std::to_string(tile));
-                                                                   })}}}};
+                                                                                     return box(100, 80,
+                                                                                                "tile" + std::to_string(tile));
+                                                                                 })}}}};
 }
 
 TEST(ScrollView, ScrollsSidewaysToo) {
@@ -657,7 +658,8 @@ TEST(ScrollIndicator, StaysAwayWhereItIsNotWantedOrNotNeeded) {
 
 TEST(ScrollIndicator, StandsWhereTheContentStands) {
     using swiftui::ScrollIndicator;
-    ScrollIndicator::Track track{.axis = Axis::vertical, .rect = {{294, 3}, {3, 394}}, .viewportLength = 400, .contentLength = 1600};
+    ScrollIndicator::Track track{
+        .axis = Axis::vertical, .rect = {{294, 3}, {3, 394}}, .viewportLength = 400, .contentLength = 1600};
     EXPECT_EQ(ScrollIndicator::bar(track).minY(), 3);
     EXPECT_NEAR(ScrollIndicator::bar(track).height(), 394 / 4.0, 1e-9);
 
@@ -698,9 +700,7 @@ TEST(ScrollView, SettlesInItsRangeAfterAnythingThatAFingerDoes) {
             case 4: screen.up(at); break;
             case 5: screen.host().scroll(at, {0, y(random) - 200}); break;
             case 6: screen.drag(at, {x(random), y(random)}, pause(random)); break;
-            default:
-                count = 1 + int(random() % 20);
-                screen.rebuild();
+            default: count = 1 + int(random() % 20); screen.rebuild();
             }
             screen.wait(pause(random));
             ASSERT_TRUE(std::isfinite(screen.offset().y));

@@ -27,10 +27,12 @@ struct Pager {
                                        writes.push_back(page);
                                        if (!isRefused) state.set(page);
                                    });
-        return TabView{.selection = watched, .content = {ForEach(count, [](int page) {
-                                                              return ColorView{graphics::Color::black} |
-                                                                     accessibilityIdentifier("page" + std::to_string(page));
-                                                          })}} |
+        return TabView{.selection = watched,
+                       .content = {ForEach(count,
+                                           [](int page) {
+                                               return ColorView{graphics::Color::black} |
+                                                      accessibilityIdentifier("page" + std::to_string(page));
+                                           })}} |
                frame({.height = 200}) | accessibilityIdentifier("pager");
     }
 };
@@ -321,9 +323,8 @@ TEST(TabViewSwipe, ChangesTheSelectionWithAnAnimation) {
     struct Witness {
         View body(BuildContext& context) const {
             const Binding<int> page = context.state<int>(0);
-            return ZStack{.content = {TabView{.selection = page, .content = {ForEach(3, [](int) {
-                                                                           return ColorView{graphics::Color::black};
-                                                                       })}},
+            return ZStack{.content = {TabView{.selection = page,
+                                              .content = {ForEach(3, [](int) { return ColorView{graphics::Color::black}; })}},
                                       box(10, 10, "witness") | opacity(page.get() == 0 ? 1 : 0) | allowsHitTesting(false)}};
         }
     };
@@ -357,8 +358,9 @@ TEST(TabViewSwipe, LeavesDragsAlongToTheScrollViewAround) {
 TEST(TabViewSwipe, LeavesTapsToControlsOnThePages) {
     int taps = 0;
     TouchScreen screen{[&taps] {
-        return TabView{.selection = Binding<int>::constant(0),
-                       .content = {Button{.action = [&taps] { ++taps; }, .label = box(100, 100, "button")}, box(100, 100, "other")}};
+        return TabView{
+            .selection = Binding<int>::constant(0),
+            .content = {Button{.action = [&taps] { ++taps; }, .label = box(100, 100, "button")}, box(100, 100, "other")}};
     }};
 
     screen.tap({150, 200});
@@ -391,8 +393,9 @@ TEST(TabViewRightToLeft, RunsTheOtherWay) {
 TEST(TabView, SelectsByTag) {
     int selected = 7;
     TouchScreen screen{[&selected] {
-        return TabView{.selection = Binding<int>([&selected] { return selected; }, [&selected](const int& tag) { selected = tag; }),
-                       .content = {box(300, 400, "three") | tag(3), box(300, 400, "seven") | tag(7), box(300, 400, "nine") | tag(9)}};
+        return TabView{
+            .selection = Binding<int>([&selected] { return selected; }, [&selected](const int& tag) { selected = tag; }),
+            .content = {box(300, 400, "three") | tag(3), box(300, 400, "seven") | tag(7), box(300, 400, "nine") | tag(9)}};
     }};
     EXPECT_TRUE(screen.isOnScreen("seven"));
 

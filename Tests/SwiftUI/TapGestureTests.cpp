@@ -17,7 +17,7 @@ TEST(TapGesture, AnswersAnywhereInTheFrame) {
     int taps = 0;
     TouchScreen screen{[&] { return tappable(taps); }};
 
-    screen.tap(middle); // between the two
+    screen.tap(middle);     // between the two
     screen.tap({102, 248}); // beside the smaller one
 
     EXPECT_EQ(taps, 2);
@@ -35,7 +35,8 @@ TEST(TapGesture, DoesNotAnswerOutsideTheFrame) {
 TEST(TapGesture, LeavesAControlInsideItsTouch) {
     int taps = 0, presses = 0;
     TouchScreen screen{[&] {
-        return VStack{.content = {box(100, 50, "top"), Button{.action = [&presses] { ++presses; }, .label = box(100, 50, "button")}}} |
+        return VStack{
+                   .content = {box(100, 50, "top"), Button{.action = [&presses] { ++presses; }, .label = box(100, 50, "button")}}} |
                onTapGesture([&taps] { ++taps; });
     }};
 

@@ -18,7 +18,8 @@ namespace tests {
 
 class TouchScreen {
 public:
-    explicit TouchScreen(std::function<swiftui::View()> root, geometry::Size size = {300, 400}, geometry::PhysicalInsets safeArea = {})
+    explicit TouchScreen(std::function<swiftui::View()> root, geometry::Size size = {300, 400},
+                         geometry::PhysicalInsets safeArea = {})
         : m_host(swiftui::ViewHost::create(std::move(root))) {
         m_host->setSize(size, safeArea);
         settle();
@@ -103,7 +104,8 @@ private:
 
 // A view of a fixed size that can be found again and that touches do not go through.
 inline swiftui::View box(double width, double height, const std::string& identifier) {
-    return swiftui::ColorView{graphics::Color::black} | swiftui::frame(width, height) | swiftui::accessibilityIdentifier(identifier);
+    return swiftui::ColorView{graphics::Color::black} | swiftui::frame(width, height) |
+           swiftui::accessibilityIdentifier(identifier);
 }
 
 } // namespace tests

@@ -29,9 +29,7 @@ double PagePosition::positionAt(double now_s) const {
     return m_slide.valueAt(now_s);
 }
 
-double PagePosition::end_s() const {
-    return m_settling ? m_settling->start_s + m_settling->path.duration_s() : m_slide.end_s();
-}
+double PagePosition::end_s() const { return m_settling ? m_settling->start_s + m_settling->path.duration_s() : m_slide.end_s(); }
 
 void PagePosition::turnTo(int page, const motion::Animation* animation, double now_s) {
     m_target = existing(page);

@@ -30,7 +30,8 @@ geometry::Rect ScrollIndicator::bar(const Track& track) {
     return {{track.rect.minX(), track.rect.minY() + start}, {track.rect.width(), length}};
 }
 
-void ScrollIndicator::paint(graphics::PaintContext& context, const graphics::PaintState& state, const Track& track, double now_s) const {
+void ScrollIndicator::paint(graphics::PaintContext& context, const graphics::PaintState& state, const Track& track,
+                            double now_s) const {
     const double opacity = opacityAt(now_s);
     const geometry::Rect rect = bar(track);
     if (opacity <= 0 || rect.isEmpty()) return;

@@ -72,9 +72,7 @@ protected:
     }
 
 private:
-    bool holds(geometry::Point location) const {
-        return frameInHost(host().now_s()).insetBy(-slack, -slack).contains(location);
-    }
+    bool holds(geometry::Point location) const { return frameInHost(host().now_s()).insetBy(-slack, -slack).contains(location); }
     void setPressed(bool isPressed) {
         if (isPressed == m_isPressed) return;
         m_isPressed = isPressed;

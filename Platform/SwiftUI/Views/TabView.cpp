@@ -129,7 +129,8 @@ void TabViewNode::layOut(const geometry::ProposedSize&, geometry::Size size) {
     m_position.setPages(int(m_pages.size()), size.width, host().now_s());
     for (std::size_t page = 0; page < m_pages.size(); ++page) {
         const geometry::Size shown = m_pages[page]->sizeThatFits(size);
-        placeChild(*m_pages[page], {size.width * double(page) + (size.width - shown.width) / 2, (size.height - shown.height) / 2}, size);
+        placeChild(*m_pages[page], {size.width * double(page) + (size.width - shown.width) / 2, (size.height - shown.height) / 2},
+                   size);
     }
     settleTransparentChildren(size);
 }
