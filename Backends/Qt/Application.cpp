@@ -2,6 +2,8 @@
 
 #include <QGuiApplication>
 #include <cstring>
+#include <filesystem>
+#include <string>
 
 #include "Platform/Commons/FatalError.hpp"
 
@@ -14,6 +16,23 @@ bool isNotice(const QMessageLogContext& context, const QString& message) {
     return message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")) ||
            message.trimmed().startsWith(QLatin1String("OpenType support missing for")) ||
            (context.category && std::strncmp(context.category, "qt.svg", 6) == 0);
+}
+
+// A server on this machine listens at a file; one elsewhere is taken at its word.
+bool hasXServer() {
+    const std::string display = qgetenv("DISPLAY").toStdString();
+    const std::size_t colon = display.rfind(':');
+    if (colon == std::string::npos) return false;
+    if (colon > 0 && display.substr(0, colon) != "unix") return true;
+    const std::string number = display.substr(colon + 1, display.find('.', colon) - colon - 1);
+    return std::filesystem::exists("/tmp/.X11-unix/X" + number);
+}
+
+bool hasWaylandServer() {
+    const std::filesystem::path socket = qgetenv("WAYLAND_DISPLAY").toStdString();
+    if (socket.empty()) return false;
+    // An absolute name replaces the folder.
+    return std::filesystem::exists(qgetenv("XDG_RUNTIME_DIR").toStdString() / socket);
 }
 
 QtMessageHandler previousHandler = nullptr;
@@ -45,8 +64,10 @@ Application::~Application() {
 }
 
 bool Application::hasDisplay() {
-    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM").split(';').front().split(':').front();
+    if (platform == "offscreen" || platform.startsWith("minimal")) return false;
+    const bool needsServer = platform.isEmpty() || platform == "xcb" || platform.startsWith("wayland");
+    return !needsServer || hasXServer() || hasWaylandServer();
 }
 
 int Application::run() { return QGuiApplication::exec(); }

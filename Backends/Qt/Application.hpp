@@ -23,7 +23,8 @@ public:
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
 
-    // Whether a window could be shown: a platform was named, or a display is there. To be asked before the application is made.
+    // Whether there is a display that a window could be shown on, as far as can be told without asking it. May be asked before the
+    // application is made.
     static bool hasDisplay();
 
     // Handles events until quit() or until the last window is closed. Returns the exit status.

@@ -51,9 +51,9 @@ void CoverageRasterizer::addCubic(Point from, Point control1, Point control2, Po
     constexpr double tolerance_px = 0.008;
     constexpr double mostSteps = 200;
     const Point bend1 = from - control1 - (control1 - control2), bend2 = control1 - control2 - (control2 - to);
-    const double bend = std::max(std::hypot(bend1.x, bend1.y), std::hypot(bend2.x, bend2.y));
+    const double bend = std::sqrt(std::max(bend1.x * bend1.x + bend1.y * bend1.y, bend2.x * bend2.x + bend2.y * bend2.y));
     // A chord of an n-th of the curve strays from it by at most 6·bend / (8·n²).
-    const double wanted = std::ceil(std::sqrt(0.75 * bend / tolerance_px));
+    const double wanted = std::sqrt(0.75 * bend / tolerance_px) + 1;
     const int steps = wanted >= 1 ? int(std::min(wanted, mostSteps)) : 1;
     Point previous = from;
     for (int step = 1; step < steps; ++step) {
@@ -101,7 +101,9 @@ void CoverageRasterizer::addInRow(int y, double fromX, double toX, double height
 void CoverageRasterizer::addInside(int y, double left, double right, double height) {
     float* row = m_cells.data() + std::size_t(y) * std::size_t(m_width + 2);
     RowExtent& extent = m_extents[std::size_t(y)];
-    const int first = int(left), last = std::max(first, int(std::ceil(right)) - 1);
+    const int first = int(left);
+    int last = int(right);
+    if (last > first && last == right) --last; // the right edge itself is outside
     extent.first = std::min(extent.first, first);
     extent.end = std::max(extent.end, last + 2);
     if (first == last) {

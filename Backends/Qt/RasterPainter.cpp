@@ -21,7 +21,6 @@ namespace {
 constexpr double largestShape_px = 2048;
 constexpr std::uint32_t longestTextPiece = 256; // clusters
 
-Pixel* rowOf(QImage& image, int y) { return reinterpret_cast<Pixel*>(image.bits() + qsizetype(y) * image.bytesPerLine()); }
 const Pixel* rowOf(const QImage& image, int y) { return reinterpret_cast<const Pixel*>(image.constScanLine(y)); }
 
 // Calls paintRow(y, left, right, coverage) for the rows of an area, cut by a rounded clip where there is one.
@@ -60,11 +59,14 @@ const Resource* resourceOf(const std::vector<Resource>& resources, const Command
 
 // One call of paint().
 struct RasterPainter::Job {
-    QImage& target;
+    Pixel* pixels;
+    std::ptrdiff_t pixelsPerRow;
     const graphics::DisplayList& list;
     const double scale;
     const PixelRect region;
     const PixelRect window;
+
+    Pixel* row(int y) const { return pixels + y * pixelsPerRow; }
 };
 
 // One command, in pixels.
@@ -86,7 +88,7 @@ struct RasterPainter::Item {
 
     void paintColor(Job& job, const PixelRect& extent, Pixel color) const {
         paintRows(extent, [&](int y, int left, int right, std::uint8_t coverage) {
-            blendColor(rowOf(job.target, y) + left, std::size_t(right - left), color, coverage);
+            blendColor(job.row(y) + left, std::size_t(right - left), color, coverage);
         });
     }
 
@@ -94,7 +96,7 @@ struct RasterPainter::Item {
         if (!mask.mask || mask.mask->isEmpty()) return;
         const PixelRect extent{job.window.left, mask.top(), job.window.right, mask.bottom()};
         paintRows(extent, [&](int y, int left, int right, std::uint8_t coverage) {
-            Pixel* row = rowOf(job.target, y);
+            Pixel* row = job.row(y);
             const Pixel covered = coverage == 255 ? color : scaled(color, coverage);
             mask.visitRow(y, left, right, [&](int from, int to, const std::uint8_t* coverages, std::uint8_t shared) {
                 if (coverages)
@@ -110,7 +112,7 @@ struct RasterPainter::Item {
         paintRows(extent, [&](int rowY, int left, int right, std::uint8_t coverage) {
             const Pixel* from = rowOf(image, rowY - y) + (left - x);
             const std::uint8_t factor = scaledByte(opacity, coverage);
-            Pixel* to = rowOf(job.target, rowY) + left;
+            Pixel* to = job.row(rowY) + left;
             if (isOpaque && factor == 255)
                 std::memcpy(to, from, std::size_t(right - left) * sizeof(Pixel));
             else
@@ -142,7 +144,10 @@ bool hides(const Command& command, double scale, const PixelRect& region) {
 } // namespace
 
 void RasterPainter::paint(QImage& target, const graphics::DisplayList& list, double scale, std::span<const PixelRect> regions) {
+    auto* pixels = reinterpret_cast<Pixel*>(target.bits());
+    const std::ptrdiff_t pixelsPerRow = target.bytesPerLine() / std::ptrdiff_t(sizeof(Pixel));
     for (const PixelRect& region : regions) {
+        Job job{pixels, pixelsPerRow, list, scale, region, {0, 0, target.width(), target.height()}};
         // Where a command hides all that is before it, neither that nor the white ground is painted.
         std::size_t first = list.commands.size();
         while (first > 0 && !hides(list.commands[first - 1], scale, region)) --first;
@@ -150,9 +155,8 @@ void RasterPainter::paint(QImage& target, const graphics::DisplayList& list, dou
             --first;
         } else {
             for (int y = region.top; y < region.bottom; ++y)
-                std::fill_n(rowOf(target, y) + region.left, region.width(), Pixel(0xFFFFFFFF));
+                std::fill_n(job.row(y) + region.left, region.width(), Pixel(0xFFFFFFFF));
         }
-        Job job{target, list, scale, region, {0, 0, target.width(), target.height()}};
         for (; first < list.commands.size(); ++first) paintCommand(job, list.commands[first]);
     }
 }
