@@ -22,8 +22,8 @@ enum class SymbolKind : std::uint8_t {
 
 } // namespace
 
-// Basic symbols have a row that says what they equal; all others are 0. Every restricted basic symbol's constant is not negative, and
-// no row of a restricted symbol holds a variable of the caller's.
+// Basic symbols have a row that says what they equal; all others are 0. Every restricted basic symbol's constant is not negative,
+// and no row of a restricted symbol holds a variable of the caller's.
 struct Solver::Tableau {
     std::vector<SymbolKind> kinds;
     std::vector<Symbol> symbolOfVariable;
@@ -45,8 +45,10 @@ struct Solver::Tableau {
 
     // Puts `add` of a symbol, basic or not, into a row.
     void addTo(Row& row, Symbol symbol, double coefficient) const {
-        if (const auto basic = rows.find(symbol); basic != rows.end()) row.add(basic->second, coefficient);
-        else row.add(symbol, coefficient);
+        if (const auto basic = rows.find(symbol); basic != rows.end())
+            row.add(basic->second, coefficient);
+        else
+            row.add(symbol, coefficient);
     }
 
     struct NewRow {
@@ -194,8 +196,10 @@ struct Solver::Tableau {
                     entering = cell.symbol;
                     break;
                 }
-            if (entering) pivot(*entering, artificial);
-            else rows.erase(basic);
+            if (entering)
+                pivot(*entering, artificial);
+            else
+                rows.erase(basic);
         }
         for (auto& [basic, other] : rows) other.remove(artificial);
         for (auto& [priority, other] : objectives) other.remove(artificial);

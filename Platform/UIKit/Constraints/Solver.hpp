@@ -1,8 +1,8 @@
 // A solver for linear constraints with priorities: the arithmetic under Auto Layout.
 //
 // The method is the incremental simplex of the Cassowary papers (Badros, Borning, Stuckey: "The Cassowary linear arithmetic
-// constraint solving algorithm", ACM TOCHI 8(4), 2001), with one difference: priorities are compared lexicographically instead of being
-// weighted, so a constraint of a higher priority beats any number of a lower one.
+// constraint solving algorithm", ACM TOCHI 8(4), 2001), with one difference: priorities are compared lexicographically instead of
+// being weighted, so a constraint of a higher priority beats any number of a lower one.
 #pragma once
 
 #include <cstdint>
@@ -19,6 +19,8 @@ using Variable = std::uint32_t;
 struct Term {
     Variable variable = 0;
     double coefficient = 1;
+
+    bool operator==(const Term&) const = default;
 };
 
 // Terms + constant, held against 0.
@@ -29,6 +31,8 @@ struct LinearConstraint {
     double priority = 1000; // from 1000 on: required
 
     static constexpr double required = 1000;
+
+    bool operator==(const LinearConstraint&) const = default;
 };
 
 class Solver {
@@ -40,12 +44,12 @@ public:
 
     Variable makeVariable();
 
-    // False when a required constraint cannot hold beside the required ones before it (it is left out then), or when a coefficient is not
-    // finite. Constraints of lower priority are always taken.
+    // False when a required constraint cannot hold beside the required ones before it (it is left out then), or when a coefficient
+    // is not finite. Constraints of lower priority are always taken.
     bool add(const LinearConstraint& constraint);
 
-    // Finds values that keep every required constraint and, priority by priority from the highest down, the sum of the absolute errors as
-    // small as it can be.
+    // Finds values that keep every required constraint and, priority by priority from the highest down, the sum of the absolute
+    // errors as small as it can be.
     void solve();
     // As of the last solve(); 0 for a variable in no constraint.
     double value(Variable variable) const;

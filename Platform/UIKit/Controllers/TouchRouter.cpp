@@ -44,6 +44,7 @@ void TouchRouter::begin(const UITouch& touch) {
 }
 
 UIView* TouchRouter::newOwner(UIView& target, const UITouch& touch) const {
+    if (target.keepsTouch()) return nullptr;
     for (UIView* around = target.superview(); around && &target != &m_root; around = around->superview()) {
         if (around->takesOverTouch(touch)) return around;
         if (around == &m_root) break;

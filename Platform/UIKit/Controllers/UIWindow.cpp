@@ -2,6 +2,7 @@
 
 #include "Platform/UIKit/Controllers/PresentationStack.hpp"
 #include "Platform/UIKit/Controllers/TouchRouter.hpp"
+#include "Platform/UIKit/Views/UIScrollView.hpp"
 
 namespace uikit {
 
@@ -118,27 +119,37 @@ graphics::PaintState UIWindow::windowState() const {
     return state;
 }
 
+// What is fully covered costs nothing.
+std::size_t UIWindow::firstVisibleLayer() const {
+    std::size_t first = subviews().empty() ? 0 : subviews().size() - 1;
+    while (first > 0 && !subviews()[first]->covers(bounds())) --first;
+    return first;
+}
+
 // What becomes due while the picture is made is part of it and asks for no other.
 void UIWindow::paint(graphics::DisplayList& list) {
     const auto kept = strongReference(*this);
     m_isUpdating = true;
     ++m_paintCount;
+    UIScrollView::followTime();
     layoutIfNeeded();
     list.clear();
     graphics::PaintContext context(list);
     const graphics::PaintState state = windowState();
-    const auto& layers = subviews();
-    std::size_t first = layers.empty() ? 0 : layers.size() - 1;
-    while (first > 0 && !layers[first]->covers(bounds())) --first;
-    for (std::size_t i = first; i < layers.size(); ++i) layers[i]->paint(context, state);
+    for (std::size_t i = firstVisibleLayer(); i < subviews().size(); ++i) subviews()[i]->paint(context, state);
     paintFocusRing(context);
     m_isUpdating = false;
     m_needsDisplay = false;
 }
 
-bool UIWindow::isAnimating() const { return UIView::isAnimating(); }
+bool UIWindow::isAnimating() const {
+    for (std::size_t i = firstVisibleLayer(); i < subviews().size(); ++i)
+        if (subviews()[i]->isAnimating()) return true;
+    return false;
+}
 
 accessibility::Node UIWindow::semanticTree() {
+    UIScrollView::followTime();
     layoutIfNeeded();
     if (const UIPresentationView* front = m_presentations->frontMostView()) return front->contentNode(windowState());
     if (m_root && m_root->viewIfLoaded()) return m_root->viewIfLoaded()->semanticNode(windowState());
@@ -152,6 +163,7 @@ void UIWindow::touch(const host::Touch& touch) {
     if (touch.phase == host::TouchPhase::began) {
         if (isTransitioning()) return cancelTouch();
         m_focus.reset();
+        UIScrollView::followTime();
         layoutIfNeeded();
     }
     m_touches->touch(touch);
@@ -162,6 +174,7 @@ void UIWindow::cancelTouch() { m_touches->cancel(); }
 void UIWindow::scroll(geometry::Point location, geometry::Point delta) {
     if (isTransitioning()) return;
     const auto kept = strongReference(*this);
+    UIScrollView::followTime();
     layoutIfNeeded();
     if (UIView* hit = hitTest(location)) hit->scrollBy(hit->convertFrom(location, nullptr), delta);
 }

@@ -119,6 +119,12 @@ geometry::Size UILabel::intrinsicContentSize() const {
     return laidOut({wraps ? std::optional(m_preferredMaxLayoutWidth) : std::nullopt, std::nullopt}).size;
 }
 
+geometry::Size UILabel::naturalSizeFor(geometry::Size given) const {
+    const geometry::Size natural = intrinsicContentSize();
+    if (m_numberOfLines == 1 || m_preferredMaxLayoutWidth > 0 || given.width >= natural.width) return natural;
+    return sizeThatFits({given.width, std::nullopt});
+}
+
 geometry::Size UILabel::sizeThatFits(const geometry::ProposedSize& proposal) const {
     if (m_content.isEmpty()) return {0, 0};
     return laidOut(proposal).size;

@@ -36,6 +36,8 @@ public:
     geometry::Size intrinsicContentSize() const override;
     // The text's size when it is wrapped at the proposed width and cut at the proposed height.
     geometry::Size sizeThatFits(const geometry::ProposedSize& proposal) const override;
+    // Where the label may have several lines and has no preferred width of its own: wrapped at the given one.
+    geometry::Size naturalSizeFor(geometry::Size given) const override;
     void traitCollectionDidChange(const UITraitCollection& previous) override;
 
 protected:

@@ -49,10 +49,16 @@ std::vector<UIView*> UIStackView::shown() const {
     return views;
 }
 
-geometry::Size UIStackView::naturalSize(const UIView& view, std::optional<double> across) const {
+bool UIStackView::arranges(const UIView& subview) const {
+    for (const auto& arranged : m_arranged)
+        if (arranged.get() == &subview) return true;
+    return false;
+}
+
+geometry::Size UIStackView::naturalSize(UIView& view, std::optional<double> across) const {
     const geometry::ProposedSize proposal =
         m_axis == Axis::horizontal ? geometry::ProposedSize{std::nullopt, across} : geometry::ProposedSize{across, std::nullopt};
-    return view.sizeThatFits(proposal);
+    return view.isSizedByConstraints() ? view.systemLayoutSizeFitting(proposal) : view.sizeThatFits(proposal);
 }
 
 geometry::Size UIStackView::intrinsicContentSize() const { return sizeThatFits({}); }
@@ -61,7 +67,7 @@ geometry::Size UIStackView::sizeThatFits(const geometry::ProposedSize& proposal)
     const auto views = shown();
     const std::optional<double> offered = m_axis == Axis::horizontal ? proposal.height : proposal.width;
     double along = m_spacing * double(views.empty() ? 0 : views.size() - 1), across = 0, longest = 0;
-    for (const UIView* view : views) {
+    for (UIView* view : views) {
         // Across, a view's own need counts: what is offered would be taken as a need by views without a natural size.
         const geometry::Size natural = naturalSize(*view, offered), own = naturalSize(*view, std::nullopt);
         along += alongOf(natural);
@@ -73,12 +79,39 @@ geometry::Size UIStackView::sizeThatFits(const geometry::ProposedSize& proposal)
     return m_axis == Axis::horizontal ? geometry::Size{along, across} : geometry::Size{across, along};
 }
 
+geometry::Size UIStackView::naturalSizeFor(geometry::Size given) const {
+    const geometry::Size natural = intrinsicContentSize();
+    if (m_axis == Axis::horizontal) return {sizeThatFits({std::nullopt, given.height}).width, natural.height};
+    return {natural.width, sizeThatFits({given.width, std::nullopt}).height};
+}
+
+template <class PriorityOf>
+UILayoutPriority UIStackView::decidingPriority(Axis axis, UILayoutPriority own, PriorityOf priorityOf) const {
+    if (axis != m_axis && m_alignment != Alignment::fill) return own;
+    std::optional<UILayoutPriority> deciding;
+    for (const UIView* view : shown()) {
+        const UILayoutPriority priority = priorityOf(*view);
+        if (!deciding || (axis == m_axis ? priority < *deciding : priority > *deciding)) deciding = priority;
+    }
+    return deciding.value_or(own);
+}
+
+UILayoutPriority UIStackView::effectiveHuggingPriority(Axis axis) const {
+    return decidingPriority(axis, contentHuggingPriority(axis),
+                            [&](const UIView& view) { return view.effectiveHuggingPriority(axis); });
+}
+
+UILayoutPriority UIStackView::effectiveCompressionResistancePriority(Axis axis) const {
+    return decidingPriority(axis, contentCompressionResistancePriority(axis),
+                            [&](const UIView& view) { return view.effectiveCompressionResistancePriority(axis); });
+}
+
 std::vector<double> UIStackView::lengths(const std::vector<UIView*>& views, double room, double across) const {
     if (m_distribution == Distribution::fillEqually)
         return std::vector<double>(views.size(), std::max(0.0, room / double(views.size())));
     std::vector<double> lengths;
     double left = room;
-    for (const UIView* view : views) {
+    for (UIView* view : views) {
         lengths.push_back(alongOf(naturalSize(*view, across)));
         left -= lengths.back();
     }

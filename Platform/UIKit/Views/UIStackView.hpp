@@ -5,7 +5,8 @@
 
 namespace uikit {
 
-// Hidden views take no room. A row begins at the leading edge.
+// Hidden views take no room. A row begins at the leading edge. Constraints on an arranged view's own size, and inside it, count for
+// its natural size; constraints between arranged views do not.
 class UIStackView : public UIView {
 public:
     enum class Distribution {
@@ -34,6 +35,13 @@ public:
 
     geometry::Size intrinsicContentSize() const override;
     geometry::Size sizeThatFits(const geometry::ProposedSize& proposal) const override;
+    // Along the stack, what the views need at the given length across it; across it, what they need by themselves.
+    geometry::Size naturalSizeFor(geometry::Size given) const override;
+    // Along the stack the arranged view that yields most readily decides; across it the one that yields least, where all of them
+    // are as thick as the stack.
+    UILayoutPriority effectiveHuggingPriority(Axis axis) const override;
+    UILayoutPriority effectiveCompressionResistancePriority(Axis axis) const override;
+    bool arranges(const UIView& subview) const override;
     void layoutSubviews() override;
     void willRemoveSubview(UIView& view) override;
     void subviewDidInvalidateIntrinsicContentSize(UIView& view) override;
@@ -41,7 +49,9 @@ public:
 private:
     std::vector<UIView*> shown() const;
     // A view's natural size where `across` points are offered across the stack.
-    geometry::Size naturalSize(const UIView& view, std::optional<double> across) const;
+    geometry::Size naturalSize(UIView& view, std::optional<double> across) const;
+    template <class PriorityOf>
+    UILayoutPriority decidingPriority(Axis axis, UILayoutPriority own, PriorityOf priorityOf) const;
     std::vector<double> lengths(const std::vector<UIView*>& views, double room, double across) const;
     double alongOf(geometry::Size size) const { return m_axis == Axis::horizontal ? size.width : size.height; }
     double acrossOf(geometry::Size size) const { return m_axis == Axis::horizontal ? size.height : size.width; }

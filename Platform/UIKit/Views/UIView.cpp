@@ -41,6 +41,7 @@ void UIView::insert(const std::shared_ptr<UIView>& view, std::size_t index) {
     m_subviews.insert(m_subviews.begin() + std::ptrdiff_t(std::min(index, m_subviews.size())), kept);
     kept->m_superview = this;
     didAddSubview(*kept);
+    kept->constraintInputDidChange();
     kept->movedToWindow(m_window);
     kept->didMoveToSuperview();
     setNeedsLayout();
@@ -59,6 +60,8 @@ void UIView::removeFromSuperview() {
     UIView& former = *m_superview;
     former.willRemoveSubview(*this);
     former.m_subviews.erase(former.m_subviews.begin() + std::ptrdiff_t(former.indexOf(*this)));
+    former.constraintInputDidChange();
+    for (UIView* around = &former; around; around = around->m_superview) around->endConstraintsAcross(*this);
     m_superview = nullptr;
     former.setNeedsLayout();
     former.setNeedsDisplay();
@@ -137,11 +140,13 @@ void UIView::adoptTraits(const UITraitCollection& inherited) {
         if (subview->m_superview == this && subview->m_window) subview->adoptTraits(traitsForSubviews());
 }
 
-geometry::PhysicalInsets UIView::safeAreaInsets() const {
+geometry::PhysicalInsets UIView::safeAreaInsets() const { return safeAreaInsetsOf(bounds()); }
+
+geometry::PhysicalInsets UIView::safeAreaInsetsOf(const geometry::Rect& rect) const {
     if (!m_window) return m_viewController ? m_viewController->expectedSafeArea() : geometry::PhysicalInsets{};
     const geometry::PhysicalInsets unsafe = m_window->windowSafeArea();
     const geometry::Size size = m_window->frame().size;
-    const geometry::Rect here = convertTo(bounds(), m_window);
+    const geometry::Rect here = convertTo(rect, m_window);
     const auto covered = [](double overlap, double inset) { return std::clamp(overlap, 0.0, inset); };
     return {covered(unsafe.top - here.minY(), unsafe.top), covered(unsafe.left - here.minX(), unsafe.left),
             covered(here.maxY() - (size.height - unsafe.bottom), unsafe.bottom),

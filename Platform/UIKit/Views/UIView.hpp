@@ -8,12 +8,15 @@
 #include "Platform/Accessibility/Node.hpp"
 #include "Platform/Geometry/Transform.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
+#include "Platform/UIKit/Constraints/NSLayoutAnchor.hpp"
 #include "Platform/UIKit/Views/UIKitTypes.hpp"
 #include "Platform/UIKit/Views/UIResponder.hpp"
 #include "Platform/UIKit/Views/UITraitCollection.hpp"
 
 namespace uikit {
 
+class LayoutProblem;
+class LayoutSystem;
 class NSLayoutConstraint;
 class UIViewController;
 class UIWindow;
@@ -95,16 +98,43 @@ public:
     // The size that suits the view where it is offered `proposal`; its natural size, or where it has none the offer.
     virtual geometry::Size sizeThatFits(const geometry::ProposedSize& proposal) const;
 
+    // The natural size of a view that layout makes as large as `given`: texts wrap.
+    virtual geometry::Size naturalSizeFor(geometry::Size given) const;
+
     UILayoutPriority contentHuggingPriority(Axis axis) const { return m_hugging[std::size_t(axis)]; }
     void setContentHuggingPriority(UILayoutPriority priority, Axis axis);
     UILayoutPriority contentCompressionResistancePriority(Axis axis) const { return m_compressionResistance[std::size_t(axis)]; }
     void setContentCompressionResistancePriority(UILayoutPriority priority, Axis axis);
+    // What constraints keep the natural size with: the view's own priorities, or those of what decides about its size.
+    virtual UILayoutPriority effectiveHuggingPriority(Axis axis) const { return contentHuggingPriority(axis); }
+    virtual UILayoutPriority effectiveCompressionResistancePriority(Axis axis) const {
+        return contentCompressionResistancePriority(axis);
+    }
 
     // Whether the frame stands as it was set. Set to false to let constraints decide.
     bool translatesAutoresizingMaskIntoConstraints() const { return m_translatesAutoresizingMask; }
     void setTranslatesAutoresizingMaskIntoConstraints(bool translates);
     // The constraints that this view holds, in the order in which they were added.
     const std::vector<std::shared_ptr<NSLayoutConstraint>>& constraints() const { return m_constraints; }
+
+    NSLayoutXAxisAnchor leadingAnchor() { return anchors().leadingAnchor(); }
+    NSLayoutXAxisAnchor trailingAnchor() { return anchors().trailingAnchor(); }
+    NSLayoutXAxisAnchor leftAnchor() { return anchors().leftAnchor(); }
+    NSLayoutXAxisAnchor rightAnchor() { return anchors().rightAnchor(); }
+    NSLayoutXAxisAnchor centerXAnchor() { return anchors().centerXAnchor(); }
+    NSLayoutYAxisAnchor topAnchor() { return anchors().topAnchor(); }
+    NSLayoutYAxisAnchor bottomAnchor() { return anchors().bottomAnchor(); }
+    NSLayoutYAxisAnchor centerYAnchor() { return anchors().centerYAnchor(); }
+    NSLayoutDimension widthAnchor() { return anchors().widthAnchor(); }
+    NSLayoutDimension heightAnchor() { return anchors().heightAnchor(); }
+    // The view without the window's unsafe edges.
+    UILayoutGuide safeAreaLayoutGuide() { return {layoutItem(), true}; }
+    // The size that the view's constraints and those inside it ask for, with given lengths kept and absent ones as small as can be.
+    geometry::Size systemLayoutSizeFitting(const geometry::ProposedSize& proposal);
+    // Whether the view has constraints of its own, or subviews that constraints place.
+    bool isSizedByConstraints() const { return !m_constraints.empty() || hasConstrainedSubviews(); }
+    // Whether the view places this subview in its layoutSubviews, whatever constraints say.
+    virtual bool arranges(const UIView& /*subview*/) const { return false; }
 
     // --- Traits and safe area ---
 
@@ -160,6 +190,8 @@ public:
     // Asked, from the touched view outwards, for the first touch and for each of its moves: true takes the touch away from the view
     // that has it, which is told that it was cancelled.
     virtual bool takesOverTouch(const UITouch&) { return false; }
+    // Whether the views around must leave the touch that this view has alone.
+    virtual bool keepsTouch() const { return false; }
     // Whether scrollRectToVisible moves something here.
     virtual bool scrollsItsContent() const { return false; }
     // A wheel: moves what the view shows by `delta` and returns true, or returns false to let the superview try.
@@ -190,6 +222,8 @@ protected:
     // Likewise of the opacity.
     virtual double presentationAlpha() const { return m_alpha; }
     graphics::RGBA resolved(const UIColor& color) const { return color.resolved(traitCollection().userInterfaceStyle); }
+    // After every change of the frame.
+    virtual void frameDidChange(const geometry::Rect& /*previous*/) {}
     // Told to the outermost view: something inside waits for a layout pass.
     virtual void subtreeNeedsLayout() {}
     // Told to every view around the one whose picture has changed, and to itself.
@@ -199,6 +233,8 @@ private:
     friend class UIViewController;
     friend class UIWindow;
     friend class NSLayoutConstraint;
+    friend class LayoutProblem;
+    friend class LayoutSystem;
 
     void insert(const std::shared_ptr<UIView>& view, std::size_t index);
     std::size_t indexOf(const UIView& subview) const;
@@ -206,9 +242,25 @@ private:
     void movedToWindow(UIWindow* window);
     void adoptTraits(const UITraitCollection& inherited);
     void noticeSafeArea();
+    // Of a rectangle in the view's coordinates.
+    geometry::PhysicalInsets safeAreaInsetsOf(const geometry::Rect& rect) const;
     void setTreeNeedsLayout();
     void layOutPinnedSubviews();
+    void layOutConstrainedSubviews();
     void layOutTree();
+    // --- Of constraints ---
+    const std::shared_ptr<LayoutItem>& layoutItem() { return m_layoutItem.itemOf(*this); }
+    LayoutAnchors anchors() { return {layoutItem(), false}; }
+    bool hasConstrainedSubviews() const;
+    // Whether the frame comes from the same system of constraints as the superview's subviews do.
+    bool isPlacedByConstraints() const;
+    // The view whose size is given and inside which constraints place this one; the view itself where none do.
+    UIView& layoutRoot();
+    // A constraint in the system around has changed, or something that it depends on.
+    void layoutSystemDidChange();
+    // The same, told by a view that constraints place, or whose frame they refer to.
+    void constraintInputDidChange();
+    void endConstraintsAcross(const UIView& leaving);
     geometry::Transform toSuperview() const;
     geometry::Transform toOutermost() const;
     graphics::PaintState contentState(const graphics::PaintState& state) const;
@@ -235,6 +287,8 @@ private:
     UILayoutPriority m_hugging[2] = {layoutPriorityLow, layoutPriorityLow};
     UILayoutPriority m_compressionResistance[2] = {layoutPriorityHigh, layoutPriorityHigh};
     std::vector<std::shared_ptr<NSLayoutConstraint>> m_constraints;
+    LayoutItemOwner m_layoutItem;
+    std::shared_ptr<LayoutSystem> m_layoutSystem; // of a layout root, as of its last layout
 
     std::optional<UITraitCollection> m_traits; // absent until the view has been in a window
     std::optional<UITraitCollection> m_overrideTraits;

@@ -6,10 +6,12 @@ namespace uikit {
 
 void UIView::setFrame(const geometry::Rect& frame) {
     if (m_frame == frame) return;
-    const bool isResized = m_frame.size != frame.size;
+    const geometry::Rect previous = m_frame;
     m_frame = frame;
-    if (isResized) setNeedsLayout();
+    if (previous.size != frame.size) setNeedsLayout();
+    if (m_layoutItem.exists() && !isPlacedByConstraints()) constraintInputDidChange();
     setNeedsDisplay();
+    frameDidChange(previous);
 }
 
 void UIView::setBounds(const geometry::Rect& bounds) {

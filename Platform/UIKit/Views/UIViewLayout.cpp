@@ -19,6 +19,8 @@ void UIView::setNeedsLayout() {
 
 void UIView::layoutIfNeeded() {
     const auto kept = strongReference(*this);
+    // Where constraints place this view, its size is known only after the layout of the view that they stand in.
+    if (UIView& root = layoutRoot(); &root != this && root.m_needsLayout) root.layoutIfNeeded();
     for (int pass = 0; pass < layoutPassLimit && (m_needsLayout || m_subtreeNeedsLayout); ++pass) layOutTree();
 }
 
@@ -27,6 +29,7 @@ void UIView::layOutTree() {
         m_needsLayout = false;
         noticeSafeArea();
         layOutPinnedSubviews();
+        layOutConstrainedSubviews();
         layoutSubviews();
         if (m_viewController) {
             const auto controller = strongReference(*m_viewController);
@@ -63,11 +66,13 @@ void UIView::setTreeNeedsLayout() {
 
 void UIView::setSuperviewInsets(const std::optional<geometry::EdgeInsets>& insets) {
     m_superviewInsets = insets;
+    constraintInputDidChange();
     if (m_superview) m_superview->setNeedsLayout();
 }
 
 void UIView::invalidateIntrinsicContentSize() {
     setNeedsLayout();
+    constraintInputDidChange();
     if (!m_superview) return;
     m_superview->setNeedsLayout();
     m_superview->subviewDidInvalidateIntrinsicContentSize(*this);
@@ -79,19 +84,28 @@ geometry::Size UIView::sizeThatFits(const geometry::ProposedSize& proposal) cons
             natural.height == noIntrinsicMetric ? proposal.height.value_or(0) : natural.height};
 }
 
+geometry::Size UIView::naturalSizeFor(geometry::Size given) const {
+    const geometry::Size natural = intrinsicContentSize();
+    if (natural.width == noIntrinsicMetric || natural.height == noIntrinsicMetric || given.width == natural.width) return natural;
+    return {natural.width, sizeThatFits({given.width, std::nullopt}).height};
+}
+
 void UIView::setContentHuggingPriority(UILayoutPriority priority, Axis axis) {
     m_hugging[std::size_t(axis)] = priority;
+    constraintInputDidChange();
     if (m_superview) m_superview->setNeedsLayout();
 }
 
 void UIView::setContentCompressionResistancePriority(UILayoutPriority priority, Axis axis) {
     m_compressionResistance[std::size_t(axis)] = priority;
+    constraintInputDidChange();
     if (m_superview) m_superview->setNeedsLayout();
 }
 
 void UIView::setTranslatesAutoresizingMaskIntoConstraints(bool translates) {
     m_translatesAutoresizingMask = translates;
-    if (m_superview) m_superview->setNeedsLayout();
+    setNeedsLayout();
+    if (m_superview) m_superview->layoutSystemDidChange();
 }
 
 } // namespace uikit

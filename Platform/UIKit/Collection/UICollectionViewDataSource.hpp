@@ -1,0 +1,29 @@
+// Says what a collection shows.
+#pragma once
+
+#include "Platform/UIKit/Collection/IndexPath.hpp"
+#include "Platform/UIKit/Collection/UICollectionViewCell.hpp"
+
+namespace uikit {
+
+class UICollectionView;
+
+enum class UICollectionElementKind { sectionHeader, sectionFooter };
+
+class UICollectionViewDataSource {
+public:
+    virtual ~UICollectionViewDataSource() = default;
+
+    virtual std::size_t numberOfSections(UICollectionView&) { return 1; }
+    virtual std::size_t collectionViewNumberOfItemsInSection(UICollectionView& collectionView, std::size_t section) = 0;
+    // A cell from dequeueReusableCell, filled. Null stops the program.
+    virtual std::shared_ptr<UICollectionViewCell> collectionViewCellForItemAt(UICollectionView& collectionView,
+                                                                              IndexPath indexPath) = 0;
+    // Asked where the delegate gives headers or footers a height; the index path's item is 0. Null stops the program.
+    virtual std::shared_ptr<UICollectionReusableView>
+    collectionViewViewForSupplementaryElementOfKind(UICollectionView&, UICollectionElementKind, IndexPath) {
+        return nullptr;
+    }
+};
+
+} // namespace uikit

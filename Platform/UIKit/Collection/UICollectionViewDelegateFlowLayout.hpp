@@ -1,0 +1,44 @@
+// Says how large a collection's items are, and is told which of them can be seen.
+#pragma once
+
+#include <optional>
+
+#include "Platform/UIKit/Collection/UICollectionViewDataSource.hpp"
+#include "Platform/UIKit/Views/UIScrollViewDelegate.hpp"
+
+namespace uikit {
+
+class UICollectionViewFlowLayout;
+
+// What is absent is the layout's own value.
+class UICollectionViewDelegateFlowLayout : public UIScrollViewDelegate {
+public:
+    virtual std::optional<geometry::Size> collectionViewLayoutSizeForItemAt(UICollectionView&, UICollectionViewFlowLayout&,
+                                                                            IndexPath) {
+        return std::nullopt;
+    }
+    virtual std::optional<geometry::PhysicalInsets>
+    collectionViewLayoutInsetForSectionAt(UICollectionView&, UICollectionViewFlowLayout&, std::size_t /*section*/) {
+        return std::nullopt;
+    }
+    // Of headers and footers the height counts; 0: none.
+    virtual std::optional<geometry::Size>
+    collectionViewLayoutReferenceSizeForHeaderInSection(UICollectionView&, UICollectionViewFlowLayout&, std::size_t /*section*/) {
+        return std::nullopt;
+    }
+    virtual std::optional<geometry::Size>
+    collectionViewLayoutReferenceSizeForFooterInSection(UICollectionView&, UICollectionViewFlowLayout&, std::size_t /*section*/) {
+        return std::nullopt;
+    }
+
+    // The cell stands in the collection at its full size and is about to be seen.
+    virtual void collectionViewWillDisplayForItemAt(UICollectionView&, UICollectionViewCell&, IndexPath) {}
+    // The cell cannot be seen any more and has left the collection. The index path is the one that it was shown for.
+    virtual void collectionViewDidEndDisplayingForItemAt(UICollectionView&, UICollectionViewCell&, IndexPath) {}
+    virtual void collectionViewWillDisplaySupplementaryView(UICollectionView&, UICollectionReusableView&, UICollectionElementKind,
+                                                            IndexPath) {}
+    virtual void collectionViewDidEndDisplayingSupplementaryView(UICollectionView&, UICollectionReusableView&,
+                                                                 UICollectionElementKind, IndexPath) {}
+};
+
+} // namespace uikit

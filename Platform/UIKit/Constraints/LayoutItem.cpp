@@ -1,0 +1,16 @@
+#include "Platform/UIKit/Constraints/LayoutItem.hpp"
+
+namespace uikit {
+
+namespace {
+
+std::uint64_t nextNumber() {
+    static std::uint64_t last = 0;
+    return ++last;
+}
+
+} // namespace
+
+LayoutItem::LayoutItem(UIView& view) : view(&view), number(nextNumber()) {}
+
+} // namespace uikit
