@@ -73,6 +73,7 @@ private:
     void adoptWindowTraits(UITraitCollection traits);
     void requestUpdate();
     graphics::PaintState windowState() const;
+    std::size_t firstVisibleLayer() const;
     std::vector<accessibility::Node> focusableControls();
     bool moveFocus(int step);
     bool useFocused(host::Key key);
