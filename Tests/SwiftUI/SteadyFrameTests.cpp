@@ -55,5 +55,18 @@ TEST_F(SteadyFrame, AllocatesNothingWhileThingsMove) {
     EXPECT_EQ(allocationsDuring([&] { frame(); }), 0u);
 }
 
+TEST(SampleScreenTest, ATapOnACardChoosesItAndChangesTheTexts) {
+    Screen screen{[] { return SampleScreen{}; }, {375, 800}, {0, 0, 34, 0}};
+    const geometry::Point monthly = screen.frame("Monthly").center();
+    EXPECT_TRUE(screen.frame("Yearly").contains({100, 380}));
+    EXPECT_TRUE(screen.frame("Monthly").contains({100, 490}));
+
+    screen.host().touch({host::TouchPhase::began, monthly, 0});
+    screen.host().touch({host::TouchPhase::ended, monthly, 0});
+    screen.settle();
+
+    EXPECT_THAT(screen.texts(), testing::Contains("Subscribe Now"));
+}
+
 } // namespace
 } // namespace swiftui::tests

@@ -53,6 +53,7 @@ void Node::paintOverlay(graphics::PaintContext&, const PaintState&, double) {}
 
 Node* Node::hitTest(Point inWindow, const PaintState& parentState, double now_s) {
     if (!allowsHitTesting()) return nullptr;
+    if (!m_host->isMoving() && !parentState.toWindow(m_paintBounds.offsetBy(m_frame.origin)).contains(inWindow)) return nullptr;
     const PaintState state = stateInside(*this, parentState, now_s);
     if (state.opacity < touchableOpacity || !state.clip.contains(inWindow)) return nullptr;
     const PaintState inner = stateOfContent(*this, state, now_s);

@@ -99,7 +99,8 @@ protected:
 
     Size measure(const ProposedSize& proposal) override {
         const Node* container = containerAround();
-        const auto axis = container ? container->stackAxis() : std::nullopt;
+        std::optional<Axis> axis;
+        if (container) axis = container->stackAxis();
         const double minimum = container && container->squeezesSpacers() ? 0 : m_minLength;
         const auto length = [minimum](const std::optional<double>& proposed) { return std::max(minimum, proposed.value_or(0)); };
         return {axis == Axis::vertical ? 0 : length(proposal.width), axis == Axis::horizontal ? 0 : length(proposal.height)};
