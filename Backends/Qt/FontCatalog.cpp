@@ -62,7 +62,8 @@ const InstalledFace& FontCatalog::face(const graphics::FontFace* face) {
 }
 
 InstalledFace FontCatalog::find(const QString& family, int weight) {
-    QFont font(family);
+    // Colourful emoji, where there are any, come before the plain ones of other fonts.
+    QFont font(QStringList{family, QStringLiteral("Noto Color Emoji")});
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(int(designSize_px));
     font.setHintingPreference(QFont::PreferNoHinting);

@@ -43,20 +43,12 @@ public:
     void shape(std::uint32_t first, std::uint32_t end);
 
 private:
-    struct Extent {
-        double leading = 0, trailing = 0; // edges in reading order
-        double left() const { return std::min(leading, trailing); }
-        double right() const { return std::max(leading, trailing); }
-    };
-
     QString shapedUnits() const;
     void layOut(QTextLayout& layout, const QString& units);
     QList<QTextLayout::FormatRange> formats() const;
     bool takeSimple(const QTextLayout& layout, const QString& units, double width);
     void takeGeneral(const QTextLayout& layout, const QTextLine& line);
-    Extent extentOf(const QTextLine& line, std::uint32_t cluster) const;
     void takeGlyphs(const QList<QGlyphRun>& runs, QPointF origin, double scale);
-    void shareLigatures(std::vector<Extent>& extents);
     double scaleOf(std::uint32_t cluster) const { return pointSize(m_result.runs[m_result.clusters[cluster].run]) / designSize_px; }
     int start(std::uint32_t cluster) const { return m_prefixLength + int(m_unitStarts[cluster] - m_unitStarts[m_first]); }
     bool isRightToLeft() const { return m_result.clusters[m_first].bidiLevel % 2 == 1; }
@@ -170,52 +162,24 @@ bool PieceShaper::takeSimple(const QTextLayout& layout, const QString& units, do
     return true;
 }
 
-PieceShaper::Extent PieceShaper::extentOf(const QTextLine& line, std::uint32_t cluster) const {
-    const int first = start(cluster), last = start(cluster + 1) - 1;
-    const Extent extent{line.cursorToX(first, QTextLine::Leading), line.cursorToX(first, QTextLine::Trailing)};
-    if (last == first) return extent;
-    const double trailing = line.cursorToX(last, QTextLine::Trailing);
-    return {extent.leading,
-            extent.leading <= extent.trailing ? std::max(extent.trailing, trailing) : std::min(extent.trailing, trailing)};
-}
-
 void PieceShaper::takeGeneral(const QTextLayout& layout, const QTextLine& line) {
     const double baseline = line.y() + line.ascent();
-    std::vector<Extent> extents;
     std::uint32_t groupStart = m_first;
+    double groupLeading = 0, groupTrailing = 0; // edges in reading order
     for (std::uint32_t cluster = m_first; cluster < m_end; ++cluster) {
-        const Extent extent = extentOf(line, cluster);
-        const Extent group = cluster > m_first ? extents[groupStart - m_first] : Extent{};
-        // To Qt, every character of a ligature ends where the ligature does.
-        const bool joins =
-            extent.trailing == group.trailing && extent.leading != extent.trailing && group.leading != group.trailing;
+        // Within a ligature, Qt shares the width out evenly.
+        const double leading = line.cursorToX(start(cluster), QTextLine::Leading);
+        const double next = line.cursorToX(start(cluster + 1), QTextLine::Leading);
+        m_result.clusters[cluster].advance = std::abs(next - leading) * scaleOf(cluster);
+
+        const bool joins = cluster > m_first && std::abs(leading - groupLeading) < std::abs(groupTrailing - groupLeading);
         finishCluster(cluster, joins ? groupStart : cluster, m_result.glyphs.size());
-        extents.push_back(extent);
         if (joins) continue;
         groupStart = cluster;
-        takeGlyphs(layout.glyphRuns(start(cluster), start(cluster + 1) - start(cluster)), {extent.left(), baseline},
-                   scaleOf(cluster));
-    }
-    shareLigatures(extents);
-    for (std::uint32_t cluster = m_first; cluster < m_end; ++cluster) {
-        const Extent extent = extents[cluster - m_first];
-        m_result.clusters[cluster].advance = (extent.right() - extent.left()) * scaleOf(cluster);
-    }
-}
-
-// A ligature's width is shared out evenly.
-void PieceShaper::shareLigatures(std::vector<Extent>& extents) {
-    for (std::uint32_t cluster = m_first; cluster < m_end;) {
-        std::uint32_t next = cluster + 1;
-        while (next < m_end && m_result.groupStarts[next] == cluster) ++next;
-        const Extent whole = extents[cluster - m_first];
-        const double step = (whole.trailing - whole.leading) / (next - cluster);
-        if (next > cluster + 1) {
-            for (std::uint32_t member = cluster; member < next; ++member)
-                extents[member - m_first] = {whole.leading + step * (member - cluster),
-                                             whole.leading + step * (member - cluster + 1)};
-        }
-        cluster = next;
+        groupLeading = leading;
+        groupTrailing = line.cursorToX(start(cluster), QTextLine::Trailing);
+        const double left = std::min({groupLeading, groupTrailing, next});
+        takeGlyphs(layout.glyphRuns(start(cluster), start(cluster + 1) - start(cluster)), {left, baseline}, scaleOf(cluster));
     }
 }
 

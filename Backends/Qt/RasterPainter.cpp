@@ -220,19 +220,16 @@ PlacedMask RasterPainter::shapeMask(const Job& job, const Item& item) {
 
 PlacedMask RasterPainter::outlineMask(const Job& job, const Item& item) {
     const Command& command = item.command;
-    const double lineWidth = isFill(command.kind) ? 0 : command.lineWidth;
-    switch (command.kind) {
-    case CommandKind::fillPath:
-    case CommandKind::strokePath: {
+    const bool isPath = command.kind == CommandKind::fillPath || command.kind == CommandKind::strokePath;
+    const Stroke stroke{isFill(command.kind) ? 0 : command.lineWidth, isPath ? LineJoin::round : LineJoin::mitred};
+    const auto mask = [&](const Path& path) { return m_shapes.path(path, item.toPixels, stroke, job.window); };
+    if (isPath) {
         const Path* path = resourceOf(job.list.paths, command);
-        return path ? m_shapes.path(*path, item.toPixels, lineWidth, job.window) : PlacedMask{};
+        return path ? mask(*path) : PlacedMask{};
     }
-    case CommandKind::fillEllipse:
-    case CommandKind::strokeEllipse: return m_shapes.path(Path::ellipse(command.frame), item.toPixels, lineWidth, job.window);
-    default:
-        return m_shapes.path(Path::roundedRectangle(command.frame, command.cornerRadius, command.cornerStyle), item.toPixels,
-                             lineWidth, job.window);
-    }
+    const bool isEllipse = command.kind == CommandKind::fillEllipse || command.kind == CommandKind::strokeEllipse;
+    return mask(isEllipse ? Path::ellipse(command.frame)
+                          : Path::roundedRectangle(command.frame, command.cornerRadius, command.cornerStyle));
 }
 
 void RasterPainter::paintText(Job& job, const Item& item) {

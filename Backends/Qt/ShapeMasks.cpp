@@ -95,12 +95,13 @@ Path fromPainterPath(const QPainterPath& path) {
     return result;
 }
 
-// The outline of a stroke: butt caps, miter joins up to ten line widths. `scale` is how large a unit will be shown.
-Path strokeOutline(const Path& path, double lineWidth, double scale) {
+// The outline of a stroke. `scale` is how large a unit will be shown.
+Path strokeOutline(const Path& path, Stroke stroke, double scale) {
+    const bool isRound = stroke.join == LineJoin::round;
     QPainterPathStroker stroker;
-    stroker.setWidth(lineWidth);
-    stroker.setCapStyle(Qt::FlatCap);
-    stroker.setJoinStyle(Qt::SvgMiterJoin);
+    stroker.setWidth(stroke.width);
+    stroker.setCapStyle(isRound ? Qt::RoundCap : Qt::FlatCap);
+    stroker.setJoinStyle(isRound ? Qt::RoundJoin : Qt::SvgMiterJoin);
     stroker.setMiterLimit(10);
     stroker.setCurveThreshold(0.01 / std::max(scale, 1e-3));
     return fromPainterPath(stroker.createStroke(toPainterPath(path, {})));
@@ -149,7 +150,7 @@ std::size_t ShapeMasks::PathKey::Hash::operator()(const PathKey& key) const {
     for (const double value :
          {key.transform.a, key.transform.b, key.transform.c, key.transform.d, key.transform.tx, key.transform.ty})
         mixHash(hash, value);
-    mixHash(hash, key.lineWidth);
+    mixHash(hash, key.stroke.width);
     return hash;
 }
 
@@ -199,14 +200,14 @@ CoverageMask ShapeMasks::makeShape(Kind kind, const Placement& placement, double
     const CornerStyle style = kind == Kind::continuous ? CornerStyle::continuous : CornerStyle::circular;
     const Path path =
         kind == Kind::ellipse ? Path::ellipse(placement.frame()) : Path::roundedRectangle(placement.frame(), radius, style);
-    return makeOutline(path, {}, lineWidth, {0, 0, placement.width(), placement.height()});
+    return makeOutline(path, {}, {lineWidth}, {0, 0, placement.width(), placement.height()});
 }
 
-CoverageMask ShapeMasks::makeOutline(const Path& path, const Transform& toPixels, double lineWidth, const PixelRect& pixels) {
+CoverageMask ShapeMasks::makeOutline(const Path& path, const Transform& toPixels, Stroke stroke, const PixelRect& pixels) {
     const Transform moved = toPixels.then(Transform::translation(-pixels.left, -pixels.top));
     m_rasterizer.begin(pixels.width(), pixels.height());
-    if (lineWidth > 0)
-        m_rasterizer.add(strokeOutline(path, lineWidth, scaleOf(toPixels)), moved);
+    if (stroke.width > 0)
+        m_rasterizer.add(strokeOutline(path, stroke, scaleOf(toPixels)), moved);
     else
         m_rasterizer.add(path, moved);
     return m_rasterizer.finish();
@@ -232,9 +233,9 @@ CoverageMask ShapeMasks::makeShadow(const Placement& placement, double blurRadiu
     return mask;
 }
 
-PlacedMask ShapeMasks::path(const Path& path, const Transform& toPixels, double lineWidth, const PixelRect& window) {
-    // Up to ten line widths for a miter's tip.
-    const double reach = lineWidth > 0 ? 5 * lineWidth : 0;
+PlacedMask ShapeMasks::path(const Path& path, const Transform& toPixels, Stroke stroke, const PixelRect& window) {
+    // A miter's tip may be ten line widths long.
+    const double reach = stroke.width * (stroke.join == LineJoin::mitred ? 5 : 0.5);
     const PixelRect touched = touchedPixels(toPixels.apply(path.bounds().insetBy(-reach, -reach)));
     const PixelRect visible = touched.intersection(window);
     if (visible.isEmpty()) return {};
@@ -244,13 +245,13 @@ PlacedMask ShapeMasks::path(const Path& path, const Transform& toPixels, double 
     const int x = isWhole ? visible.left : 0, y = isWhole ? visible.top : 0;
     m_lookup.path = path;
     m_lookup.transform = toPixels.then(Transform::translation(-x, -y));
-    m_lookup.lineWidth = lineWidth;
+    m_lookup.stroke = stroke;
     m_lookup.window = {visible.left - x, visible.top - y, visible.right - x, visible.bottom - y};
     MaskRef mask;
     if (const MaskRef* known = m_paths.find(m_lookup)) {
         mask = *known;
     } else {
-        mask = std::make_shared<CoverageMask>(makeOutline(path, m_lookup.transform, lineWidth, m_lookup.window));
+        mask = std::make_shared<CoverageMask>(makeOutline(path, m_lookup.transform, stroke, m_lookup.window));
         m_paths.insert(m_lookup, mask, mask->byteCount() + path.points().size() * sizeof(Point) + sizeof(PathKey));
     }
     return {std::move(mask), visible.left, visible.top};

@@ -10,6 +10,16 @@
 
 namespace qtbackend {
 
+enum class LineJoin { mitred, round };
+
+// A line of no width stands for a filled shape.
+struct Stroke {
+    double width = 0;
+    LineJoin join = LineJoin::mitred; // mitred lines end bluntly, round ones roundly
+
+    bool operator==(const Stroke&) const = default;
+};
+
 // All lengths are in pixels.
 class ShapeMasks {
 public:
@@ -18,8 +28,8 @@ public:
     // Filled, or, where the line width is positive, stroked along its edge.
     PlacedMask roundedRectangle(const geometry::Rect& frame, double radius, geometry::CornerStyle style, double lineWidth);
     PlacedMask ellipse(const geometry::Rect& frame, double lineWidth);
-    // The line width is in the path's own lengths. Only what is inside of `window` is made.
-    PlacedMask path(const geometry::Path& path, const geometry::Transform& toPixels, double lineWidth, const PixelRect& window);
+    // The stroke's width is in the path's own lengths. Only what is inside of `window` is made.
+    PlacedMask path(const geometry::Path& path, const geometry::Transform& toPixels, Stroke stroke, const PixelRect& window);
     // Of a filled rectangle; it reaches out by twice the blur radius.
     PlacedMask shadow(const geometry::Rect& frame, double blurRadius);
 
@@ -38,7 +48,7 @@ private:
     struct PathKey {
         geometry::Path path;
         geometry::Transform transform;
-        double lineWidth;
+        Stroke stroke;
         PixelRect window;
 
         bool operator==(const PathKey&) const = default;
@@ -50,7 +60,7 @@ private:
 
     PlacedMask shape(Kind kind, const Placement& placement, double radius, double lineWidth);
     CoverageMask makeShape(Kind kind, const Placement& placement, double radius, double lineWidth);
-    CoverageMask makeOutline(const geometry::Path& path, const geometry::Transform& toPixels, double lineWidth,
+    CoverageMask makeOutline(const geometry::Path& path, const geometry::Transform& toPixels, Stroke stroke,
                              const PixelRect& pixels);
     static CoverageMask makeShadow(const Placement& placement, double blurRadius);
 

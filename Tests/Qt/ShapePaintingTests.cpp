@@ -166,16 +166,19 @@ TEST(ShapePainting, FillsPathsByTheNonZeroRule) {
     EXPECT_EQ(totalInk(canvas.image()), 16 + 16 - 4);
 }
 
-TEST(ShapePainting, EndsStrokesOfPathsBluntly) {
-    Path line;
-    line.moveTo({2, 5});
-    line.lineTo({8, 5});
-    line.lineTo({8, 5});
-    Canvas canvas({10, 10});
-    canvas.context.fillRectangle({}, {{0, 0}, {10, 10}}, white);
-    graphics::PaintContext(canvas.list).strokePath({}, line, 2, black);
+TEST(ShapePainting, StrokesPathsWithRoundEndsAndJoins) {
+    Path corner;
+    corner.moveTo({10, 30});
+    corner.lineTo({30, 30});
+    corner.lineTo({30, 10});
+    Canvas canvas({40, 40});
+    canvas.context.strokePath({}, corner, 8, black);
 
-    EXPECT_EQ(totalInk(canvas.image()), 6 * 2);
+    // Two arms, half a circle at either end, and a quarter of one at the corner.
+    EXPECT_NEAR(totalInk(canvas.image()), 20 * 8 + 20 * 8 - 4 * 4 + 1.25 * std::numbers::pi * 4 * 4, 0.7);
+    EXPECT_EQ(canvas.ink(33, 33), 0);
+    EXPECT_EQ(canvas.ink(6, 30) > 0, true);
+    EXPECT_EQ(canvas.ink(5, 30), 0);
 }
 
 TEST(ShapePainting, TurnsAndScalesShapesAboutTheirPlace) {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "Backends/Headless/FixedTextShaper.hpp"
+#include "Backends/Qt/QtShapedText.hpp"
 #include "Backends/Qt/QtTextShaper.hpp"
 #include "Tests/Qt/Canvas.hpp"
 
@@ -181,6 +182,28 @@ TEST(TextPainting, PaintsTextOfOtherShapersOnItsOwnPlaces) {
     const QImage image = canvas.image();
     for (const int cluster : {0, 1, 2, 4}) EXPECT_GT(totalInk(image.copy(10 + 10 * cluster, 0, 10, 40)), 5) << cluster;
     EXPECT_EQ(totalInk(image.copy(11 + 30, 0, 8, 30)), totalInk(image.copy(11 + 30, 0, 8, 40)));
+}
+
+TEST(TextPainting, PaintsEmojiInTheirOwnColors) {
+    // A green square, one em wide, as an emoji font would have it, after a plain one.
+    qtbackend::GlyphShape plain{geometry::Path::rectangle({{0, -1}, {1, 1}}), {}, {}},
+        emoji{{}, QImage(8, 8, QImage::Format_ARGB32_Premultiplied), {{0, -1}, {1, 1}}};
+    emoji.picture.fill(qRgb(0, 128, 0));
+    auto text = std::make_shared<qtbackend::QtShapedText>();
+    text->runs = {{"ab", {.size = 10}, 0}};
+    text->clusters = {{0, 1, 10, 0, 0, graphics::LineBreak::none, false}, {1, 1, 10, 0, 0, graphics::LineBreak::none, false}};
+    text->groupStarts = {0, 1};
+    text->glyphStarts = {0, 1, 2};
+    text->glyphs = {{&plain, 0, 0}, {&emoji, 0, 0}};
+
+    for (const graphics::RGBA color : {red, blue, red}) {
+        Canvas canvas({40, 20}, 2), faded({40, 20}, 2);
+        paintText(canvas, text, {5, 15}, color);
+        paintText(faded, text, {5, 15}, color, PaintState{}.fadedBy(0.5));
+        EXPECT_EQ(canvas.pixel(20, 20), color == red ? 0xFF0000u : 0x0000FFu);
+        EXPECT_EQ(canvas.pixel(40, 20), 0x008000u);
+        EXPECT_EQ(faded.pixel(40, 20), 0x7FBF7Fu);
+    }
 }
 
 TEST(TextPainting, SurvivesClustersThatTheTextDoesNotHave) {

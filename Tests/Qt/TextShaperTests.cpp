@@ -282,6 +282,25 @@ TEST(QtTextShaper, SharesALigaturesWidthAmongItsCharacters) {
     EXPECT_THAT(text->groupStarts, ElementsAre(0, 0));
 }
 
+TEST(QtTextShaper, GivesClustersOfSeveralCharactersTheirOwnPlaces) {
+    for (const std::string text : {"क्षत्रिय", "👍🏽👨‍👩‍👧‍👦x", "🇩🇪🇦🇹", "e\u0301\u0302x"}) {
+        SCOPED_TRACE(text);
+        const auto shaped = std::static_pointer_cast<const qtbackend::QtShapedText>(shape(text));
+        for (std::size_t cluster = 0; cluster < shaped->clusters.size(); ++cluster) {
+            ASSERT_GT(shaped->clusters[cluster].advance, 0);
+            for (std::uint32_t glyph = shaped->glyphStarts[cluster]; glyph < shaped->glyphStarts[cluster + 1]; ++glyph) {
+                // Marks may reach over their letter a little.
+                ASSERT_GT(shaped->glyphs[glyph].x, -8);
+                ASSERT_LT(shaped->glyphs[glyph].x, shaped->clusters[cluster].advance + 8);
+            }
+        }
+        // The clusters' widths are those of the clusters alone.
+        double alone = 0;
+        for (const Cluster& cluster : shaped->clusters) alone += width(*shape(text.substr(cluster.textOffset, cluster.textLength)));
+        EXPECT_NEAR(width(*shaped), alone, 0.5);
+    }
+}
+
 TEST(QtTextShaper, ShapesWhatNoFontHas) {
     for (const std::string text : {"漢字かな交じり文", "👩🏽‍🚀🎉❤️", "\U000F0000\U0010FFFF", "\u0378", "क्षत्रिय",
                                    "ภาษาไทย", "\uFEFF\u200D\u200C\u2060"}) {
