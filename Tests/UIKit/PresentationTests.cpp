@@ -238,6 +238,22 @@ TEST_F(PresentationTest, WhatIsFullyCoveredIsNotPainted) {
     EXPECT_EQ(list.commands[2].clipRadius, 12);
 }
 
+TEST_F(PresentationTest, WhatMovesBehindASheetThatCoversItAsksForNoFrames) {
+    class Moving : public UIView {
+    public:
+        bool isAnimating() const override { return true; }
+    };
+    root->view()->addSubview(std::make_shared<Moving>());
+    EXPECT_TRUE(window->isAnimating());
+    sheet->view()->setBackgroundColor(UIColor::white);
+
+    root->present(sheet, false);
+    EXPECT_FALSE(window->isAnimating());
+
+    window->setSize({744, 1133}, {});
+    EXPECT_TRUE(window->isAnimating());
+}
+
 TEST_F(PresentationTest, ASeeThroughSheetLeavesThePresenterInThePicture) {
     root->view()->setBackgroundColor(UIColor::black);
 
