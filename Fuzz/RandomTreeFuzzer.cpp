@@ -18,7 +18,8 @@ void require(bool condition) {
 
 void collectFrames(const swiftui::Node& node, std::vector<geometry::Rect>& result) {
     const geometry::Rect& frame = node.frame();
-    require(std::isfinite(frame.minX()) && std::isfinite(frame.minY()) && std::isfinite(frame.maxX()) && std::isfinite(frame.maxY()));
+    require(std::isfinite(frame.minX()) && std::isfinite(frame.minY()) && std::isfinite(frame.maxX()) &&
+            std::isfinite(frame.maxY()));
     require(frame.width() >= 0 && frame.height() >= 0);
     result.push_back(frame);
     for (const auto& child : node.children())

@@ -35,9 +35,15 @@ protected:
 };
 
 TEST_F(Animating, FramesMoveFromWhereTheyAreSeen) {
-    show([&] { return block("box", 10, 10) | frame({.width = 100, .height = 10, .alignment = isOn ? Alignment::trailing : Alignment::leading}); });
+    show([&] {
+        return block("box", 10, 10) |
+               frame({.width = 100, .height = 10, .alignment = isOn ? Alignment::trailing : Alignment::leading});
+    });
 
-    withAnimation(linear(1), [&] { isOn = true; screen->host().setNeedsUpdate(); });
+    withAnimation(linear(1), [&] {
+        isOn = true;
+        screen->host().setNeedsUpdate();
+    });
     screen->settle();
 
     EXPECT_THAT(sampled([&] { return screen->frame("box").minX(); }), ElementsAre(0, 22.5, 45, 67.5, 90));
@@ -76,9 +82,8 @@ TEST_F(Animating, ReducedMotionJumpsButFades) {
 }
 
 TEST_F(Animating, OpacityScaleAndRotationAreFunctionsOfTime) {
-    show([&] {
-        return block("box", 10, 10) | opacity(isOn ? 0 : 1) | scaleEffect(isOn ? 2 : 1) | rotationEffect(isOn ? 90 : -90);
-    });
+    show(
+        [&] { return block("box", 10, 10) | opacity(isOn ? 0 : 1) | scaleEffect(isOn ? 2 : 1) | rotationEffect(isOn ? 90 : -90); });
 
     change(linear(1));
     screen->runFor(0.25);
@@ -111,7 +116,9 @@ TEST_F(Animating, AChangeOnTheWayStartsFromWhatIsSeen) {
 }
 
 TEST_F(Animating, AnotherUpdateOnTheWayDoesNotDisturb) {
-    show([&] { return block("box", isOn ? 50 : 10, 10) | opacity(isOn ? 0 : 1) | frame({.width = 100, .alignment = Alignment::leading}); });
+    show([&] {
+        return block("box", isOn ? 50 : 10, 10) | opacity(isOn ? 0 : 1) | frame({.width = 100, .alignment = Alignment::leading});
+    });
 
     change(linear(1));
     screen->runFor(0.5);
@@ -158,6 +165,31 @@ TEST_F(Animating, AppearanceSwitchesAtOnce) {
     screen->settle();
 
     EXPECT_EQ(screen->host().displayList().commands.front().color, ink.dark);
+}
+
+// A bar whose length is a state that the test can write.
+struct Bar {
+    std::string name;
+    std::vector<Binding<double>>* lengths;
+
+    View body(BuildContext& context) const {
+        const Binding<double> length = context.state<double>(10);
+        if (length.get() == 10) lengths->push_back(length);
+        return block(name, 10, 10) | opacity(length.get() / 10);
+    }
+};
+
+TEST(AnimatedState, OnlyWhatWasWrittenInsideIsAnimated) {
+    std::vector<Binding<double>> lengths;
+    Screen screen{[&] { return VStack{.content = {Bar{"first", &lengths}, Bar{"second", &lengths}}}; }, {100, 100}};
+
+    withAnimation(linear(1), [&] { lengths.at(0).set(0); });
+    lengths.at(1).set(0);
+    screen.settle();
+    screen.runFor(0.25);
+
+    EXPECT_EQ(screen.node("first").opacity, 0.75);
+    EXPECT_EQ(screen.node("second").opacity, 0);
 }
 
 // --- Transitions

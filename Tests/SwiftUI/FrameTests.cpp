@@ -16,32 +16,37 @@ TEST_P(FrameTable, FollowsItsLimits) {
 
     EXPECT_EQ(screen.frame("frame").size, GetParam().expected);
 }
-INSTANTIATE_TEST_SUITE_P(
-    Options, FrameTable,
-    testing::Values(FrameCase{{}, {40, 20}}, FrameCase{{.width = 60}, {60, 20}}, FrameCase{{.width = 10, .height = 5}, {10, 5}},
-                    FrameCase{{.minWidth = 50}, {50, 20}}, FrameCase{{.minWidth = 30}, {40, 20}},
-                    FrameCase{{.maxWidth = geometry::infinity}, {100, 20}}, FrameCase{{.maxWidth = 70}, {70, 20}},
-                    FrameCase{{.maxWidth = 30}, {30, 20}}, FrameCase{{.minWidth = 50, .maxWidth = 80}, {80, 20}},
-                    FrameCase{{.minWidth = 120, .maxWidth = 150}, {120, 20}},
-                    FrameCase{{.minHeight = 56, .idealHeight = 56, .maxHeight = 56}, {40, 56}},
-                    FrameCase{{.width = geometry::infinity}, {40, 20}}, FrameCase{{.maxWidth = geometry::infinity, .minHeight = 90}, {100, 90}}));
+INSTANTIATE_TEST_SUITE_P(Options, FrameTable,
+                         testing::Values(FrameCase{{}, {40, 20}}, FrameCase{{.width = 60}, {60, 20}},
+                                         FrameCase{{.width = 10, .height = 5}, {10, 5}}, FrameCase{{.minWidth = 50}, {50, 20}},
+                                         FrameCase{{.minWidth = 30}, {40, 20}},
+                                         FrameCase{{.maxWidth = geometry::infinity}, {100, 20}},
+                                         FrameCase{{.maxWidth = 70}, {70, 20}}, FrameCase{{.maxWidth = 30}, {30, 20}},
+                                         FrameCase{{.minWidth = 50, .maxWidth = 80}, {80, 20}},
+                                         FrameCase{{.minWidth = 120, .maxWidth = 150}, {120, 20}},
+                                         FrameCase{{.minHeight = 56, .idealHeight = 56, .maxHeight = 56}, {40, 56}},
+                                         FrameCase{{.width = geometry::infinity}, {40, 20}},
+                                         FrameCase{{.maxWidth = geometry::infinity, .minHeight = 90}, {100, 90}}));
 
 // The same under an unspecified proposal.
 class IdealFrameTable : public testing::TestWithParam<FrameCase> {};
 
 TEST_P(IdealFrameTable, HasAnIdealSize) {
-    Screen screen{[] { return block("child", 40, 20) | frame(GetParam().options) | fixedSize() | accessibilityIdentifier("frame"); },
-                  {100, 100}};
+    Screen screen{
+        [] { return block("child", 40, 20) | frame(GetParam().options) | fixedSize() | accessibilityIdentifier("frame"); },
+        {100, 100}};
 
     EXPECT_EQ(screen.frame("frame").size, GetParam().expected);
 }
 INSTANTIATE_TEST_SUITE_P(Options, IdealFrameTable,
-                         testing::Values(FrameCase{{.maxWidth = geometry::infinity}, {40, 20}}, FrameCase{{.minWidth = 50}, {50, 20}},
-                                         FrameCase{{.idealWidth = 70}, {70, 20}}, FrameCase{{.maxWidth = 30}, {30, 20}},
+                         testing::Values(FrameCase{{.maxWidth = geometry::infinity}, {40, 20}},
+                                         FrameCase{{.minWidth = 50}, {50, 20}}, FrameCase{{.idealWidth = 70}, {70, 20}},
+                                         FrameCase{{.maxWidth = 30}, {30, 20}},
                                          FrameCase{{.minHeight = 10, .idealHeight = 12, .maxHeight = 14}, {40, 12}}));
 
 TEST(Frame, AlignsWhatIsInside) {
-    Screen screen{[] { return block("child", 10, 10) | frame({.width = 50, .height = 40, .alignment = Alignment::bottomLeading}); }, {50, 40}};
+    Screen screen{[] { return block("child", 10, 10) | frame({.width = 50, .height = 40, .alignment = Alignment::bottomLeading}); },
+                  {50, 40}};
 
     EXPECT_EQ(screen.frame("child"), rect(0, 30, 10, 10));
 }
@@ -49,7 +54,8 @@ TEST(Frame, AlignsWhatIsInside) {
 TEST(Frame, AFrameOfOnePointLetsItsViewStraddleIt) {
     Screen screen{[] {
                       return block("card", 200, 90) |
-                             overlay(block("badge", 50, 20) | padding() | fixedSize() | frame({.height = 1}), Alignment::topTrailing);
+                             overlay(block("badge", 50, 20) | padding() | fixedSize() | frame({.height = 1}),
+                                     Alignment::topTrailing);
                   },
                   {200, 200}};
 
@@ -64,7 +70,8 @@ TEST(Padding, DefaultsToSixteenOnAllEdges) {
 
 TEST(Padding, NegativeLengthsShrinkTheReportedSizeAndLetTheViewOverflow) {
     Screen screen{[] {
-                      return VStack{.spacing = 0, .content = {block("first", 10, 30) | padding(Edge::bottom, -8), block("second", 10, 10)}} |
+                      return VStack{.spacing = 0,
+                                    .content = {block("first", 10, 30) | padding(Edge::bottom, -8), block("second", 10, 10)}} |
                              frame({.height = 100, .alignment = Alignment::top});
                   },
                   {100, 100}};
@@ -74,8 +81,9 @@ TEST(Padding, NegativeLengthsShrinkTheReportedSizeAndLetTheViewOverflow) {
 }
 
 TEST(Padding, ANegativeTopPullsUp) {
-    Screen screen{[] { return block("child", 10, 30) | padding(Edge::top, -10) | frame({.height = 100, .alignment = Alignment::top}); },
-                  {100, 100}};
+    Screen screen{
+        [] { return block("child", 10, 30) | padding(Edge::top, -10) | frame({.height = 100, .alignment = Alignment::top}); },
+        {100, 100}};
 
     EXPECT_EQ(screen.frame("child").minY(), -10);
 }
@@ -109,9 +117,10 @@ TEST(AspectRatio, AnImageHasItsNaturalSizeUnlessResizable) {
 
 TEST(AspectRatio, FitsOrFills) {
     Screen screen{[] {
-                      return ZStack{.content = {Image{picture}.resizable() | aspectRatio(ContentMode::fit) | accessibilityIdentifier("fit"),
-                                                Image{picture}.resizable() | aspectRatio(ContentMode::fill) | accessibilityIdentifier("fill"),
-                                                filler("square") | aspectRatio(1, ContentMode::fit)}};
+                      return ZStack{
+                          .content = {Image{picture}.resizable() | aspectRatio(ContentMode::fit) | accessibilityIdentifier("fit"),
+                                      Image{picture}.resizable() | aspectRatio(ContentMode::fill) | accessibilityIdentifier("fill"),
+                                      filler("square") | aspectRatio(1, ContentMode::fit)}};
                   },
                   {100, 100}};
 
@@ -122,7 +131,8 @@ TEST(AspectRatio, FitsOrFills) {
 
 TEST(Layers, OverlaysAndBackgroundsGetTheSizeOfTheirView) {
     Screen screen{[] {
-                      return block("view", 40, 20) | background(filler("behind")) | overlay(block("mark", 4, 4), Alignment::bottomTrailing);
+                      return block("view", 40, 20) | background(filler("behind")) |
+                             overlay(block("mark", 4, 4), Alignment::bottomTrailing);
                   },
                   {100, 100}};
 
@@ -142,7 +152,10 @@ TEST(Layers, ABackgroundIsPaintedFirst) {
 }
 
 TEST(Offset, MovesThePictureNotTheLayout) {
-    Screen screen{[] { return HStack{.spacing = 0, .content = {block("a", 10, 10) | offset(3, 4), block("b", 10, 10)}}; }, {20, 10}};
+    Screen screen{[] {
+                      return HStack{.spacing = 0, .content = {block("a", 10, 10) | offset(3, 4), block("b", 10, 10)}};
+                  },
+                  {20, 10}};
 
     EXPECT_EQ(screen.frame("a"), rect(3, 4, 10, 10));
     EXPECT_EQ(screen.frame("b"), rect(10, 0, 10, 10));
@@ -161,7 +174,9 @@ TEST(SafeArea, IgnoringItReachesTheWindowsEdge) {
 }
 
 TEST(SafeArea, OnlyWhereItIsTouched) {
-    Screen screen{[] { return VStack{.spacing = 0, .content = {filler("top") | ignoresSafeArea(), block("bar", 100, 50)}}; },
+    Screen screen{[] {
+                      return VStack{.spacing = 0, .content = {filler("top") | ignoresSafeArea(), block("bar", 100, 50)}};
+                  },
                   {100, 200},
                   {20, 0, 34, 0}};
 

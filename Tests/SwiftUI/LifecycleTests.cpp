@@ -82,11 +82,12 @@ TEST_F(Lifecycle, AChangeIsToldAfterTheLayoutThatShowsIt) {
 
 TEST_F(Lifecycle, ChangesAreToldInTheOrderOfTheTree) {
     int value = 1;
-    Screen screen{[&] {
-                      return VStack{.content = {Text{"a"} | onChange(value, note("first")), Text{"b"} | onChange(value, note("second"))}} |
-                             onChange(value, note("outer"));
-                  },
-                  {100, 100}};
+    Screen screen{
+        [&] {
+            return VStack{.content = {Text{"a"} | onChange(value, note("first")), Text{"b"} | onChange(value, note("second"))}} |
+                   onChange(value, note("outer"));
+        },
+        {100, 100}};
 
     value = 2;
     rebuild(screen);
@@ -130,7 +131,9 @@ TEST_F(Lifecycle, ReceivesWhatASubjectSends) {
     combine::PassthroughSubject<int> subject;
     std::string prefix = "old ";
     Screen screen{[&] {
-                      return Text{"x"} | onReceive(subject, [this, prefix](const int& value) { events.push_back(prefix + std::to_string(value)); });
+                      return Text{"x"} | onReceive(subject, [this, prefix](const int& value) {
+                                 events.push_back(prefix + std::to_string(value));
+                             });
                   },
                   {100, 100}};
     subject.send(1);
@@ -146,9 +149,8 @@ TEST_F(Lifecycle, ReceivesWhatASubjectSends) {
 
 TEST_F(Lifecycle, ARebuildDoesNotStartATimerAgain) {
     Screen screen{[&] {
-                      return Text{"x"} | onReceive(combine::TimerPublisher{5}, [this](const double& time_s) {
-                                 events.push_back(std::to_string(int(time_s)));
-                             });
+                      return Text{"x"} | onReceive(combine::TimerPublisher{5},
+                                                   [this](const double& time_s) { events.push_back(std::to_string(int(time_s))); });
                   },
                   {100, 100}};
 
@@ -160,8 +162,9 @@ TEST_F(Lifecycle, ARebuildDoesNotStartATimerAgain) {
 }
 
 TEST_F(Lifecycle, ATimerStopsWithItsView) {
-    Screen screen{[&] { return Text{"x"} | onReceive(combine::TimerPublisher{5}, [this](const double&) { events.push_back("tick"); }); },
-                  {100, 100}};
+    Screen screen{
+        [&] { return Text{"x"} | onReceive(combine::TimerPublisher{5}, [this](const double&) { events.push_back("tick"); }); },
+        {100, 100}};
     screen.host().setRoot([] { return View{}; });
     screen.runFor(20);
 

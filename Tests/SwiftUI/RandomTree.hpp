@@ -20,8 +20,8 @@ public:
     bool maybe() { return below(2) == 1; }
     // Mostly sensible lengths, and some that no view should be given.
     double length() {
-        static constexpr double odd[] = {-20, 0, 0.1, 1e7, geometry::infinity, -geometry::infinity,
-                                         std::numeric_limits<double>::quiet_NaN(), 1e-9};
+        static constexpr double odd[] = {
+            -20, 0, 0.1, 1e7, geometry::infinity, -geometry::infinity, std::numeric_limits<double>::quiet_NaN(), 1e-9};
         const int choice = below(16);
         return choice < 8 ? below(120) : choice < 14 ? below(256) / 3.0 : odd[below(8)];
     }
@@ -53,8 +53,12 @@ private:
     View base(int depth) {
         if (++m_count > maximumViews || depth >= maximumDepth) return leaf();
         switch (m_decisions.below(9)) {
-        case 0: return HStack{.alignment = VerticalAlignment(m_decisions.below(4)), .spacing = m_decisions.length(), .content = views(depth)};
-        case 1: return VStack{.alignment = HorizontalAlignment(m_decisions.below(3)), .spacing = m_decisions.length(), .content = views(depth)};
+        case 0:
+            return HStack{
+                .alignment = VerticalAlignment(m_decisions.below(4)), .spacing = m_decisions.length(), .content = views(depth)};
+        case 1:
+            return VStack{
+                .alignment = HorizontalAlignment(m_decisions.below(3)), .spacing = m_decisions.length(), .content = views(depth)};
         case 2: return HStack{.content = views(depth)};
         case 3: return VStack{.content = views(depth)};
         case 4: return ZStack{.alignment = alignment(), .content = views(depth)};
@@ -65,7 +69,8 @@ private:
     }
 
     View leaf() {
-        static constexpr const char* words[] = {"", "word", "two words", "a long text that wraps onto several lines\nand more", "\u05d0\u05d1\u05d2"};
+        static constexpr const char* words[] = {"", "word", "two words", "a long text that wraps onto several lines\nand more",
+                                                "\u05d0\u05d1\u05d2"};
         switch (m_decisions.below(7)) {
         case 0: return View{};
         case 1: return Text{words[m_decisions.below(5)]};
@@ -73,7 +78,9 @@ private:
         case 3: return ColorView{graphics::Color::black};
         case 4: return Shape(Shape::Kind(m_decisions.below(5)), 6).stroke(m_decisions.length());
         case 5: return Circle().inset(m_decisions.length());
-        default: return ColorView{graphics::Color::white} | frame({.width = m_decisions.maybeLength(), .height = m_decisions.maybeLength()});
+        default:
+            return ColorView{graphics::Color::white} |
+                   frame({.width = m_decisions.maybeLength(), .height = m_decisions.maybeLength()});
         }
     }
 
@@ -101,9 +108,13 @@ private:
     }
     Alignment alignment() { return {HorizontalAlignment(m_decisions.below(3)), VerticalAlignment(m_decisions.below(3))}; }
     FrameOptions frameOptions() {
-        return {.minWidth = m_decisions.maybeLength(), .idealWidth = m_decisions.maybeLength(), .maxWidth = m_decisions.maybeLength(),
-                .minHeight = m_decisions.maybeLength(), .idealHeight = m_decisions.maybeLength(),
-                .maxHeight = m_decisions.maybeLength(), .alignment = alignment()};
+        return {.minWidth = m_decisions.maybeLength(),
+                .idealWidth = m_decisions.maybeLength(),
+                .maxWidth = m_decisions.maybeLength(),
+                .minHeight = m_decisions.maybeLength(),
+                .idealHeight = m_decisions.maybeLength(),
+                .maxHeight = m_decisions.maybeLength(),
+                .alignment = alignment()};
     }
 
     Decisions m_decisions;

@@ -57,8 +57,9 @@ TEST_F(Reconciliation, AViewThatComesBackIsAnotherOne) {
 TEST_F(Reconciliation, MovedElementsKeepTheirState) {
     std::vector<std::string> names{"a", "b", "c"};
     Screen screen{[&] {
-                      return VStack{.content = {ForEach(names, [](const auto& name) { return name; },
-                                                        [](const auto& name) { return Person{name}; })}};
+                      return VStack{
+                          .content = {ForEach(
+                              names, [](const auto& name) { return name; }, [](const auto& name) { return Person{name}; })}};
                   },
                   {100, 100}};
 
@@ -71,8 +72,9 @@ TEST_F(Reconciliation, MovedElementsKeepTheirState) {
 TEST_F(Reconciliation, EqualKeysAreToldApartByTheirOrder) {
     std::vector<std::string> names{"a", "a", "b"};
     Screen screen{[&] {
-                      return VStack{.content = {ForEach(names, [](const auto& name) { return name; },
-                                                        [](const auto& name) { return Person{name}; })}};
+                      return VStack{
+                          .content = {ForEach(
+                              names, [](const auto& name) { return name; }, [](const auto& name) { return Person{name}; })}};
                   },
                   {100, 100}};
 
@@ -108,9 +110,9 @@ TEST_F(Reconciliation, ALoopOfTenThousandIsReversed) {
     std::vector<int> numbers(10'000);
     for (int i = 0; i < int(numbers.size()); ++i) numbers[std::size_t(i)] = i;
     Screen screen{[&] {
-                      return VStack{.spacing = 0, .content = {ForEach(numbers, [](int n) { return n; }, [](int n) {
-                                                      return Person{std::to_string(n)};
-                                                  })}};
+                      return VStack{.spacing = 0,
+                                    .content = {ForEach(
+                                        numbers, [](int n) { return n; }, [](int n) { return Person{std::to_string(n)}; })}};
                   },
                   {100, 100}};
 

@@ -43,10 +43,10 @@ struct SampleCard {
     Action action;
 
     View body(BuildContext&) const {
-        const View titles = VStack{
-            .alignment = HorizontalAlignment::leading,
-            .content = {HStack{.content = {Text{title} | font(bodyFont) | foregroundStyle(ink), hasTrial ? View{SampleCapsule{}} : View{}}},
-                        Text{price} | font(smallFont) | foregroundStyle(ink)}};
+        const View titles = VStack{.alignment = HorizontalAlignment::leading,
+                                   .content = {HStack{.content = {Text{title} | font(bodyFont) | foregroundStyle(ink),
+                                                                  hasTrial ? View{SampleCapsule{}} : View{}}},
+                                               Text{price} | font(smallFont) | foregroundStyle(ink)}};
         const View card = HStack{.content = {titles, Spacer{}, SampleIndicator{isSelected}}} | padding(Edge::horizontal, 14) |
                           padding(Edge::vertical, 16) |
                           frame({.maxWidth = geometry::infinity, .minHeight = 90, .alignment = Alignment::leading}) |
@@ -68,12 +68,12 @@ struct SamplePicker {
 
     View body(BuildContext&) const {
         return VStack{.spacing = 16, .content = {ForEach(3, [this](int index) -> View {
-                          return SampleCard{.title = titles[std::size_t(index)],
-                                            .price = "$99.99 a year",
-                                            .hasTrial = index == 0,
-                                            .isSelected = selection.get() == index,
-                                            .action = [this, index] { selection.set(index); }};
-                      })}};
+                                         return SampleCard{.title = titles[std::size_t(index)],
+                                                           .price = "$99.99 a year",
+                                                           .hasTrial = index == 0,
+                                                           .isSelected = selection.get() == index,
+                                                           .action = [this, index] { selection.set(index); }};
+                                     })}};
     }
     bool operator==(const SamplePicker&) const = default;
 
@@ -84,14 +84,16 @@ struct SampleLink {
     std::string words;
 
     View body(BuildContext&) const {
-        return Button{.action = [] {}, .label = HStack{.spacing = 2, .content = {Text{words} | font(smallFont) | foregroundStyle(ink)}}};
+        return Button{.action = [] {},
+                      .label = HStack{.spacing = 2, .content = {Text{words} | font(smallFont) | foregroundStyle(ink)}}};
     }
     bool operator==(const SampleLink&) const = default;
 };
 
 struct SampleHeader {
     View body(BuildContext&) const {
-        return ColorView{accent} | overlay(Text{"Endless premium templates"} | font(bodyFont) | foregroundStyle(paper), Alignment::bottomLeading) |
+        return ColorView{accent} |
+               overlay(Text{"Endless premium templates"} | font(bodyFont) | foregroundStyle(paper), Alignment::bottomLeading) |
                frame({.maxWidth = geometry::infinity}) | frame({.height = 254}) | clipped();
     }
     bool operator==(const SampleHeader&) const = default;
@@ -103,8 +105,8 @@ struct SampleScreen {
         const bool isYearly = selection.get() == 0;
         return ZStack{.alignment = Alignment::topTrailing,
                       .content = {ScrollView{.content = column(selection, isYearly)},
-                                  Button{.action = [] {}, .label = ColorView{ink} | frame(14, 14)} | padding(Edge::top | Edge::trailing, 18) |
-                                      frame(44, 44) | accessibilityIdentifier("close")}} |
+                                  Button{.action = [] {}, .label = ColorView{ink} | frame(14, 14)} |
+                                      padding(Edge::top | Edge::trailing, 18) | frame(44, 44) | accessibilityIdentifier("close")}} |
                foregroundStyle(accent);
     }
     bool operator==(const SampleScreen&) const = default;
@@ -112,7 +114,8 @@ struct SampleScreen {
 private:
     static View column(const Binding<int>& selection, bool isYearly) {
         return VStack{.content = {SampleHeader{}, ColorView{ink} | frame(208, 26) | padding(Edge::top, 5),
-                                  HStack{.content = {ColorView{ink} | frame(24, 24), Text{"Compare Plans"} | font(bodyFont), Spacer{.minLength = 0},
+                                  HStack{.content = {ColorView{ink} | frame(24, 24), Text{"Compare Plans"} | font(bodyFont),
+                                                     Spacer{.minLength = 0},
                                                      ColorView{ink} | frame(10, 10) | padding(Edge::trailing, 16)}},
                                   SamplePicker{selection} | padding(Edge::horizontal),
                                   Button{.action = [] {},
@@ -123,7 +126,8 @@ private:
                                   Text{isYearly ? disclaimers[0] : disclaimers[1]} | font(smallFont) | foregroundStyle(ink) |
                                       multilineTextAlignment(graphics::TextAlignment::center) | padding(Edge::vertical, 8) |
                                       padding(Edge::horizontal),
-                                  HStack{.content = {SampleLink{"Terms"}, Spacer{}, SampleLink{"Privacy"}, Spacer{}, SampleLink{"Restore"}}} |
+                                  HStack{.content = {SampleLink{"Terms"}, Spacer{}, SampleLink{"Privacy"}, Spacer{},
+                                                     SampleLink{"Restore"}}} |
                                       padding(Edge::horizontal)}} |
                padding(Edge::bottom, 80);
     }

@@ -26,7 +26,8 @@ inline const graphics::Font tenPoints{.size = 10, .name = "ten"};
 class Screen {
 public:
     // `root` is called for every build.
-    Screen(std::function<View()> root, Size size, geometry::PhysicalInsets safeArea = {}) : m_host(ViewHost::create(std::move(root))) {
+    Screen(std::function<View()> root, Size size, geometry::PhysicalInsets safeArea = {})
+        : m_host(ViewHost::create(std::move(root))) {
         m_host->setSize(size, safeArea);
         m_host->update();
     }
@@ -87,7 +88,9 @@ inline View block(const std::string& identifier, double width, double height) {
     return ColorView{graphics::Color::black} | frame(width, height) | accessibilityIdentifier(identifier);
 }
 // A block that fills what it is offered.
-inline View filler(const std::string& identifier) { return ColorView{graphics::Color::black} | accessibilityIdentifier(identifier); }
+inline View filler(const std::string& identifier) {
+    return ColorView{graphics::Color::black} | accessibilityIdentifier(identifier);
+}
 
 inline Rect rect(double x, double y, double width, double height) { return {{x, y}, {width, height}}; }
 

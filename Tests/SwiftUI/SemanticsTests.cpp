@@ -43,8 +43,9 @@ TEST(Semantics, AnIdentifiersFrameComesBeforeALabels) {
 }
 
 TEST(Semantics, AnIdentifierGoesToTheViewNotToItsBackground) {
-    Screen screen{[] { return Text{"front"} | background(RoundedRectangle(2)) | overlay(Circle()) | accessibilityIdentifier("id"); },
-                  {100, 100}};
+    Screen screen{
+        [] { return Text{"front"} | background(RoundedRectangle(2)) | overlay(Circle()) | accessibilityIdentifier("id"); },
+        {100, 100}};
 
     EXPECT_EQ(screen.node("id").type, "Text");
 }
@@ -66,7 +67,8 @@ TEST(Semantics, ShapesTellTheirColoursByName) {
 
 TEST(Semantics, NothingTransparentOrOutsideIsOnScreen) {
     Screen screen{[] {
-                      return ZStack{.content = {block("seen", 10, 10), block("clear", 10, 10) | opacity(0), block("far", 10, 10) | offset(100, 0),
+                      return ZStack{.content = {block("seen", 10, 10), block("clear", 10, 10) | opacity(0),
+                                                block("far", 10, 10) | offset(100, 0),
                                                 block("cut", 10, 10) | offset(30, 0) | frame(20, 20) | clipped()}};
                   },
                   {100, 100}};
@@ -93,8 +95,8 @@ TEST(Semantics, HiddenViewsAreLeftOut) {
 TEST(Semantics, TraitsOfSeveralModifiersAdd) {
     using accessibility::Traits;
     Screen screen{[] {
-                      return Text{"x"} | accessibilityTraits(Traits::header) | accessibilityValue("v") | accessibilityTraits(Traits::selected) |
-                             accessibilityIdentifier("id");
+                      return Text{"x"} | accessibilityTraits(Traits::header) | accessibilityValue("v") |
+                             accessibilityTraits(Traits::selected) | accessibilityIdentifier("id");
                   },
                   {100, 100}};
 

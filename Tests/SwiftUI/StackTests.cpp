@@ -13,7 +13,9 @@ TEST(Stack, ARowStandsInTheMiddleWithEightBetweenItsViews) {
 
 TEST(Stack, AColumnAlignsItsViewsAtTheirLeadingEdges) {
     Screen screen{[] {
-                      return VStack{.alignment = HorizontalAlignment::leading, .spacing = 4, .content = {block("a", 10, 20), block("b", 30, 10)}};
+                      return VStack{.alignment = HorizontalAlignment::leading,
+                                    .spacing = 4,
+                                    .content = {block("a", 10, 20), block("b", 30, 10)}};
                   },
                   {100, 50}};
 
@@ -22,7 +24,9 @@ TEST(Stack, AColumnAlignsItsViewsAtTheirLeadingEdges) {
 }
 
 TEST(Stack, ASpacerTakesWhatIsLeftAndCountsForSpacing) {
-    Screen screen{[] { return HStack{.content = {block("a", 10, 10), Spacer{} | accessibilityIdentifier("gap"), block("b", 10, 10)}}; },
+    Screen screen{[] {
+                      return HStack{.content = {block("a", 10, 10), Spacer{} | accessibilityIdentifier("gap"), block("b", 10, 10)}};
+                  },
                   {100, 10}};
 
     EXPECT_EQ(screen.frame("a"), rect(0, 0, 10, 10));
@@ -46,8 +50,8 @@ TEST_P(SpacerTable, SpacersKeepTheirMinimum) {
     EXPECT_EQ(screen.frame("b").minX(), GetParam().secondX);
 }
 INSTANTIATE_TEST_SUITE_P(Widths, SpacerTable,
-                         testing::Values(SpacerCase{0, -22, 12}, SpacerCase{20, -12, 22}, SpacerCase{40, -2, 32}, SpacerCase{44, 0, 34},
-                                         SpacerCase{60, 0, 50}));
+                         testing::Values(SpacerCase{0, -22, 12}, SpacerCase{20, -12, 22}, SpacerCase{40, -2, 32},
+                                         SpacerCase{44, 0, 34}, SpacerCase{60, 0, 50}));
 
 TEST(Stack, ASpacerIsServedLast) {
     Screen screen{[] { return HStack{.spacing = 0, .content = {Spacer{}, filler("a"), block("b", 10, 10)}}; }, {100, 10}};
@@ -73,9 +77,9 @@ TEST(Stack, FlexibleViewsGetEqualParts) {
 TEST(Stack, TheLeastFlexibleViewIsServedFirst) {
     Screen screen{[] {
                       return HStack{.spacing = 0,
-                                    .content = {filler("wide"),
-                                                ColorView{graphics::Color::black} | frame({.minWidth = 10, .maxWidth = 20}) |
-                                                    accessibilityIdentifier("narrow")}};
+                                    .content = {filler("wide"), ColorView{graphics::Color::black} |
+                                                                    frame({.minWidth = 10, .maxWidth = 20}) |
+                                                                    accessibilityIdentifier("narrow")}};
                   },
                   {100, 10}};
 
@@ -84,12 +88,11 @@ TEST(Stack, TheLeastFlexibleViewIsServedFirst) {
 }
 
 TEST(Stack, ViewsOfHigherPriorityAreServedFirst) {
-    Screen screen{[] {
-                      return HStack{.spacing = 0,
-                                    .content = {filler("low"), filler("high") | layoutPriority(1),
-                                                block("fixed", 15, 10)}};
-                  },
-                  {100, 10}};
+    Screen screen{
+        [] {
+            return HStack{.spacing = 0, .content = {filler("low"), filler("high") | layoutPriority(1), block("fixed", 15, 10)}};
+        },
+        {100, 10}};
 
     EXPECT_EQ(screen.frame("low").width(), 0);
     EXPECT_EQ(screen.frame("high").width(), 85);
@@ -99,7 +102,8 @@ TEST(Stack, ViewsOfHigherPriorityAreServedFirst) {
 TEST(Stack, GroupsLoopsAndCompositesOfThemAreSeenThrough) {
     Screen screen{[] {
                       return VStack{.spacing = 1,
-                                    .content = {block("a", 10, 10), Group{.content = {block("b", 10, 10), View{}, block("c", 10, 10)}},
+                                    .content = {block("a", 10, 10),
+                                                Group{.content = {block("b", 10, 10), View{}, block("c", 10, 10)}},
                                                 ForEach(2, [](int i) { return block(i == 0 ? "d" : "e", 10, 10); }), EmptyView{}}};
                   },
                   {10, 54}};
@@ -117,7 +121,8 @@ TEST(Stack, AbsentViewsTakeNoSpacingEvenWhenModified) {
 
 TEST(Stack, LayersAreAsLargeAsTheLargestAndAligned) {
     Screen screen{[] {
-                      return ZStack{.alignment = Alignment::topTrailing, .content = {block("large", 60, 40), block("small", 10, 10)}} |
+                      return ZStack{.alignment = Alignment::topTrailing,
+                                    .content = {block("large", 60, 40), block("small", 10, 10)}} |
                              accessibilityIdentifier("stack");
                   },
                   {100, 100}};
@@ -155,7 +160,8 @@ TEST(Stack, AnEmptyRowHasNoSize) {
 
 TEST(Stack, NestedStacksShareOutFromOutsideIn) {
     Screen screen{[] {
-                      return HStack{.content = {VStack{.alignment = HorizontalAlignment::leading, .content = {block("title", 50, 20), block("price", 30, 10)}},
+                      return HStack{.content = {VStack{.alignment = HorizontalAlignment::leading,
+                                                       .content = {block("title", 50, 20), block("price", 30, 10)}},
                                                 Spacer{}, block("circle", 24, 24)}} |
                              padding(Edge::horizontal, 14) | padding(Edge::vertical, 16) |
                              frame({.maxWidth = geometry::infinity, .minHeight = 90, .alignment = Alignment::leading}) |

@@ -1,7 +1,7 @@
 // What a frame costs in which nothing has changed: no memory.
+#include "Tests/Support/AllocationCounter.hpp"
 #include "Tests/SwiftUI/SampleScreen.hpp"
 #include "Tests/SwiftUI/Screen.hpp"
-#include "Tests/Support/AllocationCounter.hpp"
 
 namespace swiftui::tests {
 namespace {
@@ -53,6 +53,27 @@ TEST_F(SteadyFrame, AllocatesNothingWhileThingsMove) {
     screen.runFor(0.5);
 
     EXPECT_EQ(allocationsDuring([&] { frame(); }), 0u);
+}
+
+struct Heavy {
+    std::vector<std::string> pages;
+    std::string title;
+
+    View body(BuildContext&) const { return Text{"x"}; }
+    bool operator==(const Heavy&) const = default;
+};
+
+TEST(SteadyRoot, AValueGivenToAHostIsNotCopiedAgain) {
+    headless::TestBed bed;
+    const auto host = ViewHost::create(Heavy{{"a", "b"}, std::string(100, 'x')});
+    host->setSize({100, 100});
+    host->update();
+    host->displayList();
+    host->setNeedsUpdate();
+    bed.settle();
+    host->setNeedsUpdate();
+
+    EXPECT_EQ(allocationsDuring([&] { host->update(); }), 0u);
 }
 
 TEST(SampleScreenTest, ATapOnACardChoosesItAndChangesTheTexts) {

@@ -87,8 +87,9 @@ TEST(Text, IsShownInCapitalsAndDescribedAsWritten) {
 
 TEST(Text, FollowsTheContentSizeUnlessItsFontDoesNot) {
     Screen screen{[] {
-                      return VStack{.content = {Text{"scaled"} | font({.size = 17, .name = "body"}),
-                                                Text{"fixed"} | font({.size = 17, .name = "fixed", .scalesWithContentSize = false})}};
+                      return VStack{
+                          .content = {Text{"scaled"} | font({.size = 17, .name = "body"}),
+                                      Text{"fixed"} | font({.size = 17, .name = "fixed", .scalesWithContentSize = false})}};
                   },
                   {500, 500}};
     EnvironmentValues values = screen.host().environment();

@@ -21,8 +21,8 @@ void slide(const AnyTransition::Part& part, geometry::Size size, double presence
 }
 
 void reveal(const AnyTransition::Part& part, geometry::Size, double presence, TransitionEffect& effect) {
-    effect.clip = part.identity->withAnimatableData(
-        interpolated(part.active->animatableData(), part.identity->animatableData(), presence));
+    effect.clip =
+        part.identity->withAnimatableData(interpolated(part.active->animatableData(), part.identity->animatableData(), presence));
 }
 
 } // namespace

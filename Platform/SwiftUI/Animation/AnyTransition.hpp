@@ -85,8 +85,8 @@ struct TransitionModifier {
     View modified(View content) &&;
 };
 
-// How the view comes when it enters a tree that is already on screen, and goes when it leaves it: by the transition's own animation,
-// else by the one of the change, else at once. While it goes it is painted in its old place and takes no touches.
+// How the view comes when it enters a tree that is already on screen, and goes when it leaves it: by the transition's own
+// animation, else by the one of the change, else at once. While it goes it is painted in its old place and takes no touches.
 inline TransitionModifier transition(AnyTransition transition) { return {std::move(transition)}; }
 
 } // namespace swiftui

@@ -32,7 +32,16 @@ inline constexpr Alignment Alignment::bottomLeading{HorizontalAlignment::leading
 inline constexpr Alignment Alignment::bottomTrailing{HorizontalAlignment::trailing, VerticalAlignment::bottom};
 
 // One edge or several: `Edge::top | Edge::trailing`.
-enum class Edge : std::uint8_t { none = 0, top = 1, leading = 2, bottom = 4, trailing = 8, horizontal = 10, vertical = 5, all = 15 };
+enum class Edge : std::uint8_t {
+    none = 0,
+    top = 1,
+    leading = 2,
+    bottom = 4,
+    trailing = 8,
+    horizontal = 10,
+    vertical = 5,
+    all = 15
+};
 
 constexpr Edge operator|(Edge a, Edge b) { return Edge(std::uint8_t(a) | std::uint8_t(b)); }
 constexpr bool contains(Edge all, Edge one) { return (std::uint8_t(all) & std::uint8_t(one)) == std::uint8_t(one); }

@@ -86,8 +86,7 @@ double StackLayout::alignAcross(std::optional<double> alignment) {
     double extent = 0;
     for (const Item& item : m_items) extent = std::max(extent, across(item.size));
     // Views in an unlimited stack do not move away from its start.
-    for (Item& item : m_items)
-        item.crossPosition = std::isfinite(extent) ? (extent - across(item.size)) * *alignment : 0;
+    for (Item& item : m_items) item.crossPosition = std::isfinite(extent) ? (extent - across(item.size)) * *alignment : 0;
     return extent;
 }
 

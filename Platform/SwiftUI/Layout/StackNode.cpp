@@ -32,8 +32,8 @@ void StackNode::arrangeFor(const ProposedSize& proposal) {
 void StackNode::layOut(const ProposedSize& proposal, Size size) {
     arrangeFor(proposal);
     for (const StackLayout::Item& item : m_layout.items()) {
-        const Point origin = m_axis == Axis::horizontal ? Point{item.position, item.crossPosition}
-                                                        : Point{item.crossPosition, item.position};
+        const Point origin =
+            m_axis == Axis::horizontal ? Point{item.position, item.crossPosition} : Point{item.crossPosition, item.position};
         placeAt(*item.node, origin, item.size, item.proposal);
     }
     settleTransparentChildren(size);

@@ -121,7 +121,9 @@ protected:
     Rect effectBounds(const Rect& bounds) const override { return bounds.intersection({{}, frame().size}); }
 
 private:
-    Shape shapeAt(double now_s) const { return m_data.isAnimatingAt(now_s) ? m_shape.withAnimatableData(m_data.valueAt(now_s)) : m_shape; }
+    Shape shapeAt(double now_s) const {
+        return m_data.isAnimatingAt(now_s) ? m_shape.withAnimatableData(m_data.valueAt(now_s)) : m_shape;
+    }
 
     Shape m_shape = Rectangle();
     Animated<double> m_data{0};

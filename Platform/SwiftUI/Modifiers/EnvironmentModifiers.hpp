@@ -99,7 +99,9 @@ inline EnvironmentModifier<environment::MinimumScaleFactor> minimumScaleFactor(d
 inline EnvironmentModifier<environment::Scheme> colorScheme(graphics::ColorScheme scheme) { return {{scheme}}; }
 inline EnvironmentModifier<environment::Direction> layoutDirection(geometry::LayoutDirection direction) { return {{direction}}; }
 inline EnvironmentModifier<environment::Disabled> disabled(bool isDisabled) { return {{isDisabled}}; }
-inline EnvironmentModifier<environment::Style> buttonStyle(std::shared_ptr<const ButtonStyle> style) { return {{std::move(style)}}; }
+inline EnvironmentModifier<environment::Style> buttonStyle(std::shared_ptr<const ButtonStyle> style) {
+    return {{std::move(style)}};
+}
 template <class Object>
 EnvironmentModifier<environment::Object> environmentObject(const std::shared_ptr<Object>& object) {
     return {{typeKey<Object>(), object}};

@@ -54,7 +54,8 @@ public:
         if (!isNew() && options == m_options) return;
         if (!isNew()) invalidateLayout();
         m_options = options;
-        m_width = {soundFixed(options.width), soundFixed(options.minWidth), soundFixed(options.idealWidth), soundLimit(options.maxWidth)};
+        m_width = {soundFixed(options.width), soundFixed(options.minWidth), soundFixed(options.idealWidth),
+                   soundLimit(options.maxWidth)};
         m_height = {soundFixed(options.height), soundFixed(options.minHeight), soundFixed(options.idealHeight),
                     soundLimit(options.maxHeight)};
     }

@@ -42,7 +42,8 @@ public:
         const EdgeInsets& insets = m_modifier.insets;
         const bool isHorizontal = axis == Axis::horizontal;
         const double around = isHorizontal ? insets.horizontal() : insets.vertical();
-        const LengthRange inner = onlyChild()->lengthRange(axis, reduced(cross, isHorizontal ? insets.vertical() : insets.horizontal()));
+        const LengthRange inner =
+            onlyChild()->lengthRange(axis, reduced(cross, isHorizontal ? insets.vertical() : insets.horizontal()));
         return {std::max(0.0, inner.minimum + around), std::max(0.0, inner.maximum + around)};
     }
     double firstBaseline(const ProposedSize& proposal) override {
@@ -52,7 +53,8 @@ public:
 protected:
     Size measure(const ProposedSize& proposal) override {
         const Size size = ModifierNode::measure(inside(proposal));
-        return {std::max(0.0, size.width + m_modifier.insets.horizontal()), std::max(0.0, size.height + m_modifier.insets.vertical())};
+        return {std::max(0.0, size.width + m_modifier.insets.horizontal()),
+                std::max(0.0, size.height + m_modifier.insets.vertical())};
     }
     void layOut(const ProposedSize& proposal, Size) override {
         if (isAbsent()) return;

@@ -27,7 +27,8 @@ public:
     template <class Value>
     Binding<Value> state(Value initial) {
         if (auto* existing = nextSlot()) {
-            if ((*existing)->type() != typeKey<Value>()) commons::fatalError("A view's body asks for its states in another order than before");
+            if ((*existing)->type() != typeKey<Value>())
+                commons::fatalError("A view's body asks for its states in another order than before");
             return Binding<Value>(std::static_pointer_cast<StateSlot<Value>>(*existing));
         }
         auto slot = std::make_shared<StateSlot<Value>>(std::move(initial));

@@ -22,8 +22,8 @@ public:
     Callback(std::nullptr_t) {}
 
     template <class Function>
-        requires(!std::is_same_v<std::remove_cvref_t<Function>, Callback> && std::is_invocable_r_v<Result, Function&, Arguments...>)
-    Callback(Function&& function) {
+    requires(!std::is_same_v<std::remove_cvref_t<Function>, Callback> && std::is_invocable_r_v<Result, Function&, Arguments...>)
+        Callback(Function&& function) {
         using Held = std::remove_cvref_t<Function>;
         if constexpr (fits<Held>) {
             ::new (m_storage) Held(std::forward<Function>(function));
@@ -72,7 +72,7 @@ private:
     };
     template <class Held>
     static constexpr bool fits = sizeof(Held) <= capacity && alignof(Held) <= alignof(std::max_align_t) &&
-                                 std::is_nothrow_move_constructible_v<Held> && std::is_copy_constructible_v<Held>;
+                                 std::is_nothrow_move_constructible_v<Held>&& std::is_copy_constructible_v<Held>;
 
     template <class Held>
     struct InPlace {

@@ -39,18 +39,38 @@ public:
     std::unique_ptr<Node> makeNode() override { return std::make_unique<TypedCompositeNode<Value>>(std::move(m_value)); }
     void update(Node& node, UpdatePass& pass) override {
         auto& composite = static_cast<TypedCompositeNode<Value>&>(node);
-        if (composite.isNew()) composite.build(pass);
-        else composite.adopt(std::move(m_value), pass);
+        if (composite.isNew())
+            composite.build(pass);
+        else
+            composite.adopt(std::move(m_value), pass);
     }
 
 private:
     Value m_value;
 };
 
+// A value that stays what it is for as long as its node: compared and copied never again.
 template <class Value>
-    requires(!std::same_as<std::remove_cvref_t<Value>, View> && !PrimitiveView<std::remove_cvref_t<Value>> &&
-             CompositeView<std::remove_cvref_t<Value>>)
-View::View(Value&& value)
+class LastingCompositeElement final : public Element {
+public:
+    explicit LastingCompositeElement(const Value& value) : Element(typeKey<Value>()), m_value(value) {}
+
+    std::unique_ptr<Node> makeNode() override { return std::make_unique<TypedCompositeNode<Value>>(Value(m_value)); }
+    void update(Node& node, UpdatePass& pass) override {
+        auto& composite = static_cast<TypedCompositeNode<Value>&>(node);
+        if (composite.isNew())
+            composite.build(pass);
+        else
+            composite.buildUnless(true, pass);
+    }
+
+private:
+    const Value& m_value;
+};
+
+template <class Value>
+requires(!std::same_as<std::remove_cvref_t<Value>, View> && !PrimitiveView<std::remove_cvref_t<Value>> &&
+         CompositeView<std::remove_cvref_t<Value>>) View::View(Value&& value)
     : View(static_cast<Element*>(
           ElementArena::current().make<CompositeElement<std::remove_cvref_t<Value>>>(std::forward<Value>(value)))) {}
 

@@ -65,7 +65,8 @@ void BuildContext::addSlot(std::shared_ptr<StateSlotBase> slot) {
 void BuildContext::observe(combine::ObservableObject& object) { m_node.observe(object); }
 
 void BuildContext::missingObject(std::string_view type) {
-    commons::fatalError("No object of type " + std::string(type) + " in the environment; an environmentObject() further out is missing");
+    commons::fatalError("No object of type " + std::string(type) +
+                        " in the environment; an environmentObject() further out is missing");
 }
 
 } // namespace swiftui

@@ -19,8 +19,8 @@ bool EnvironmentValues::hasSameContent(const EnvironmentValues& other) const {
            displayScale == other.displayScale && localeIdentifier == other.localeIdentifier &&
            safeAreaInsets == other.safeAreaInsets && font == other.font && foregroundStyle == other.foregroundStyle &&
            multilineTextAlignment == other.multilineTextAlignment && textCase == other.textCase && lineLimit == other.lineLimit &&
-           lineSpacing == other.lineSpacing && minimumScaleFactor == other.minimumScaleFactor &&
-           buttonStyle == other.buttonStyle && objects == other.objects;
+           lineSpacing == other.lineSpacing && minimumScaleFactor == other.minimumScaleFactor && buttonStyle == other.buttonStyle &&
+           objects == other.objects;
 }
 
 void EnvironmentValues::adopt(const EnvironmentValues& other) {

@@ -53,8 +53,10 @@ void Node::setDependsOnPosition() {
 void Node::collectLayoutChildren(std::vector<Node*>& result) const {
     for (const auto& child : m_children) {
         if (!child || child->isAbsent()) continue;
-        if (child->isTransparent()) child->collectLayoutChildren(result);
-        else result.push_back(child.get());
+        if (child->isTransparent())
+            child->collectLayoutChildren(result);
+        else
+            result.push_back(child.get());
     }
 }
 

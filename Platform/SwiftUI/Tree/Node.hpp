@@ -29,15 +29,16 @@
 //    A new node gets its first adopt with default member values in place: compare against them or with isNew(). A modifier's node
 //    derives from ModifierNode, whose child has been updated with `content` by the time that adopt returns.
 //
-// 3. Children. `updateChildren(list, pass)` reconciles them with the slots by position, type and key; `updateChild(slot, view, pass)`
+// 3. Children. `updateChildren(list, pass)` reconciles them with the slots by position, type and key; `updateChild(slot, view,
+// pass)`
 //    one of them. Views inside the value are good during adopt only: never use a stored View later. A node that changes what its
 //    children inherit gives them a pass with another environment, which must live in the node.
 //
 // 4. Layout. `measure` answers a proposal, asking the children with sizeThatFits (both are cached; ask freely, change nothing).
 //    `layOut` is told the proposal and the resulting size and calls placeChild for every child, with coordinates whose x grows from
-//    the leading edge; mirroring happens there. For stacks and scroll contents use collectLayoutChildren, which looks through groups,
-//    loops and absent branches. Never measure or place from adopt or paint. A node whose children move without a new layout (a
-//    scroll view) overrides contentTranslation and calls setNeedsDisplay; one that shows a part of them overrides viewport.
+//    the leading edge; mirroring happens there. For stacks and scroll contents use collectLayoutChildren, which looks through
+//    groups, loops and absent branches. Never measure or place from adopt or paint. A node whose children move without a new layout
+//    (a scroll view) overrides contentTranslation and calls setNeedsDisplay; one that shows a part of them overrides viewport.
 //
 // 5. Picture. `applyEffects` changes what holds for the node and everything inside it (opacity, clip, transform); `paintContent`
 //    paints what is below the children, `paintOverlay` what is above. All three are functions of now_s; things that move call
@@ -46,12 +47,13 @@
 //
 // 6. Touches. `gestureHandler` returns what answers them, `isHittable` whether the frame itself stops them.
 //
-// 7. Semantics. A node with a `semanticType` appears in the semantic tree, `describe` adds to it; one without lends its place to its
+// 7. Semantics. A node with a `semanticType` appears in the semantic tree, `describe` adds to it; one without lends its place to
+// its
 //    children. A scroll view overrides `appendSemantics` to hand its content a `reveal`.
 //
-// Nodes are created, updated and destroyed by their parents during updates. Host views of other toolkits: keep the foreign view in the
-// node, create it in adopt when isNew(), place it in layOut or paintContent (where its window coordinates are known), remove it in
-// the destructor; call invalidateLayout when its own size changes.
+// Nodes are created, updated and destroyed by their parents during updates. Host views of other toolkits: keep the foreign view in
+// the node, create it in adopt when isNew(), place it in layOut or paintContent (where its window coordinates are known), remove it
+// in the destructor; call invalidateLayout when its own size changes.
 #pragma once
 
 #include <memory>
@@ -209,7 +211,8 @@ protected:
 
     // --- For subclasses to work with
     // The semantic nodes of what is inside; `state` is the node's own, effects included.
-    void appendChildSemantics(SemanticContext& context, const graphics::PaintState& state, std::vector<accessibility::Node>& result);
+    void appendChildSemantics(SemanticContext& context, const graphics::PaintState& state,
+                              std::vector<accessibility::Node>& result);
     void updateChildren(const ViewList& views, UpdatePass& pass);
     void updateChild(std::size_t slot, const View& view, UpdatePass& pass);
     // By key: moved children keep their nodes. Keys that occur twice are told apart by their order.
@@ -303,7 +306,7 @@ private:
     bool m_needsLayout = true;
     bool m_hasBeenPlaced = false;
     bool m_paintsInReverse = false;
-    bool m_isLeaving = false; // it has left the tree, though it may still be seen
+    bool m_isLeaving = false;         // it has left the tree, though it may still be seen
     bool m_dependsOnPosition = false; // itself or something inside
 };
 
@@ -380,7 +383,8 @@ Element* newElement(Value&& value) {
 }
 template <class NodeType, class Value>
 View newModifier(Value&& value, const View& content) {
-    Element* element = ElementArena::current().make<ModifierElement<NodeType, std::remove_cvref_t<Value>>>(std::move(value), content);
+    Element* element =
+        ElementArena::current().make<ModifierElement<NodeType, std::remove_cvref_t<Value>>>(std::move(value), content);
     // A modified view is who the view inside is, so that a transition behind an id() sees it come and go.
     if (const Element* inside = content.element()) element->key = inside->key;
     return View(element);

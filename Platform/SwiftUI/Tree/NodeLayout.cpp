@@ -47,7 +47,8 @@ Size Node::sizeThatFits(const ProposedSize& proposal) {
 void Node::place(Point origin, const ProposedSize& proposed) {
     const ProposedSize proposal = finiteProposal(proposed);
     const Size fitting = sizeThatFits(proposal);
-    const Rect target{{finiteLength(origin.x), finiteLength(origin.y)}, {finiteLength(fitting.width), finiteLength(fitting.height)}};
+    const Rect target{{finiteLength(origin.x), finiteLength(origin.y)},
+                      {finiteLength(fitting.width), finiteLength(fitting.height)}};
     const bool hasMoved = m_frame.origin != target.origin || !m_hasBeenPlaced;
     const bool isOutdated = m_needsLayout || !m_hasBeenPlaced || m_frame.size != target.size || m_placedProposal != proposal ||
                             (m_dependsOnPosition && (hasMoved || m_host->m_hasPositionChanged));
@@ -91,8 +92,7 @@ Rect Node::frameInHost(double now_s) const {
 }
 
 LengthRange Node::lengthRange(Axis axis, std::optional<double> cross) {
-    if (axis == Axis::horizontal)
-        return {sizeThatFits({0.0, cross}).width, sizeThatFits({geometry::infinity, cross}).width};
+    if (axis == Axis::horizontal) return {sizeThatFits({0.0, cross}).width, sizeThatFits({geometry::infinity, cross}).width};
     return {sizeThatFits({cross, 0.0}).height, sizeThatFits({cross, geometry::infinity}).height};
 }
 

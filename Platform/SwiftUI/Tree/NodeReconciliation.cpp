@@ -102,7 +102,8 @@ void Node::remove(std::unique_ptr<Node> node, std::size_t index, UpdatePass& pas
 }
 
 void Node::removeLeaving(Node* node) {
-    const auto leaving = std::find_if(m_leaving->begin(), m_leaving->end(), [node](const Leaving& l) { return l.node.get() == node; });
+    const auto leaving =
+        std::find_if(m_leaving->begin(), m_leaving->end(), [node](const Leaving& l) { return l.node.get() == node; });
     if (leaving == m_leaving->end()) return;
     m_host->departed(std::move(leaving->node));
     // Last, since it ends the timer whose callback this is.
@@ -133,8 +134,8 @@ void Node::updateKeyedChildren(const ViewList& views, UpdatePass& pass) {
     bool isInOrder = views.size() == m_children.size();
     for (std::size_t slot = 0; isInOrder && slot < views.size(); ++slot) {
         const Element* element = views[slot].element();
-        isInOrder = element ? m_children[slot] && matches(*element, m_children[slot]->m_type, m_children[slot]->m_key)
-                            : !m_children[slot];
+        isInOrder =
+            element ? m_children[slot] && matches(*element, m_children[slot]->m_type, m_children[slot]->m_key) : !m_children[slot];
     }
     if (isInOrder) {
         for (std::size_t slot = 0; slot < views.size(); ++slot)

@@ -18,8 +18,8 @@ struct SemanticAttributes {
     std::string value;
     accessibility::Traits traits = accessibility::Traits::none;
     bool isHidden = false;
-    std::optional<geometry::Rect> frame;           // in window points; the identified frame
-    bool isFrameIdentified = false;                // set with an identifier, so that no label replaces it
+    std::optional<geometry::Rect> frame; // in window points; the identified frame
+    bool isFrameIdentified = false;      // set with an identifier, so that no label replaces it
     std::optional<double> scale;
     std::optional<double> rotation_degrees;
     std::optional<geometry::Rect> clip;
@@ -32,7 +32,8 @@ struct SemanticContext {
     double now_s = 0;
     // Consumed by the next structural node.
     SemanticAttributes pending;
-    // Scrolls the scroll views around the current place; see accessibility::Node::reveal. Scroll views replace it for their content.
+    // Scrolls the scroll views around the current place; see accessibility::Node::reveal. Scroll views replace it for their
+    // content.
     std::function<void(const geometry::Rect& inWindow)> reveal;
 
     // A node of the type with the pending attributes, which are empty afterwards.

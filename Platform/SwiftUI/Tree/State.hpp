@@ -64,8 +64,10 @@ public:
     // The value at this moment.
     Value get() const { return m_slot ? m_slot->get() : m_get ? m_get() : m_snapshot; }
     void set(Value value) const {
-        if (m_slot) m_slot->set(std::move(value));
-        else if (m_set) m_set(value);
+        if (m_slot)
+            m_slot->set(std::move(value));
+        else if (m_set)
+            m_set(value);
     }
     // A binding to something derived from the value.
     template <class Derived>

@@ -9,7 +9,10 @@ namespace swiftui {
 using TypeKey = const void*;
 
 namespace detail {
-template <class T> struct TypeKeyOf { static inline char storage = 0; };
+template <class T>
+struct TypeKeyOf {
+    static inline char storage = 0;
+};
 
 template <class T>
 constexpr std::string_view prettyFunction() {
@@ -26,7 +29,9 @@ constexpr std::string_view bareTypeName(std::string_view pretty) {
 }
 
 template <class T>
-concept NamesItself = requires { std::string_view{T::typeName}; };
+concept NamesItself = requires {
+    std::string_view{T::typeName};
+};
 } // namespace detail
 
 template <class T>
@@ -37,8 +42,10 @@ TypeKey typeKey() {
 // The type's name without namespaces; `T::typeName` where a type has one.
 template <class T>
 constexpr std::string_view typeNameOf() {
-    if constexpr (detail::NamesItself<T>) return T::typeName;
-    else return detail::bareTypeName(detail::prettyFunction<T>());
+    if constexpr (detail::NamesItself<T>)
+        return T::typeName;
+    else
+        return detail::bareTypeName(detail::prettyFunction<T>());
 }
 
 } // namespace swiftui

@@ -36,13 +36,12 @@ public:
     explicit View(Element* element) : m_element(element), m_generation(ElementArena::current().generation()) {}
 
     template <class Value>
-        requires(!std::same_as<std::remove_cvref_t<Value>, View> && PrimitiveView<std::remove_cvref_t<Value>>)
-    View(Value&& value) : View(std::remove_cvref_t<Value>(std::forward<Value>(value)).makeElement()) {}
+    requires(!std::same_as<std::remove_cvref_t<Value>, View> && PrimitiveView<std::remove_cvref_t<Value>>) View(Value&& value)
+        : View(std::remove_cvref_t<Value>(std::forward<Value>(value)).makeElement()) {}
 
     template <class Value>
-        requires(!std::same_as<std::remove_cvref_t<Value>, View> && !PrimitiveView<std::remove_cvref_t<Value>> &&
-                 CompositeView<std::remove_cvref_t<Value>>)
-    View(Value&& value);
+    requires(!std::same_as<std::remove_cvref_t<Value>, View> && !PrimitiveView<std::remove_cvref_t<Value>> &&
+             CompositeView<std::remove_cvref_t<Value>>) View(Value&& value);
 
     bool isAbsent() const { return m_element == nullptr; }
     // Null for an absent branch.
@@ -64,8 +63,8 @@ public:
     ViewList(const std::vector<View>& views) : ViewList(views.data(), views.size()) {}
     ViewList(const View* views, std::size_t count);
     template <class Value>
-        requires(!std::same_as<std::remove_cvref_t<Value>, ViewList> && std::convertible_to<Value, View>)
-    ViewList(Value&& view) : ViewList({View(std::forward<Value>(view))}) {}
+    requires(!std::same_as<std::remove_cvref_t<Value>, ViewList> && std::convertible_to<Value, View>) ViewList(Value&& view)
+        : ViewList({View(std::forward<Value>(view))}) {}
 
     // Views that are in the arena already.
     static ViewList adopting(const View* views, std::size_t count) {

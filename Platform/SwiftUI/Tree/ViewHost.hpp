@@ -21,15 +21,20 @@ class AppearanceObserver;
 class PostLayoutObserver;
 class RootNode;
 
-// All changes of a turn of the run loop become one update at its end. Nothing is built before the first size, sizeThatFits or update.
+// All changes of a turn of the run loop become one update at its end. Nothing is built before the first size, sizeThatFits or
+// update.
 class ViewHost final : public runloop::UpdateClient, public std::enable_shared_from_this<ViewHost> {
 public:
     // `root` is called at every update; what it returns is compared with what is on screen.
     static std::shared_ptr<ViewHost> create(std::function<View()> root);
     template <class Value>
-        requires(CompositeView<Value> || PrimitiveView<Value>)
-    static std::shared_ptr<ViewHost> create(Value value) {
-        return create([value = std::move(value)]() -> View { return Value(value); });
+    requires(CompositeView<Value> || PrimitiveView<Value>) static std::shared_ptr<ViewHost> create(Value value) {
+        return create([value = std::move(value)]() -> View {
+            if constexpr (CompositeView<Value>)
+                return View(static_cast<Element*>(ElementArena::current().make<LastingCompositeElement<Value>>(value)));
+            else
+                return Value(value);
+        });
     }
     ~ViewHost() override;
 
@@ -165,7 +170,7 @@ private:
     bool m_hasToldDisplay = false;
     bool m_needsAppearanceUpdate = true;
     bool m_hasResized = false;
-    bool m_listIsOwn = false; // m_displayList is what has been painted last
+    bool m_listIsOwn = false;          // m_displayList is what has been painted last
     bool m_hasPositionChanged = false; // of something around the node being placed
 };
 

@@ -56,9 +56,9 @@ void ViewHost::bringUpToDate() {
     m_updateAnimation.reset();
     m_isUpdating = false;
     if (pass == maximumPassCount)
-        commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity,
-                                             "Views keep changing in answer to their own changes; the rest is left for the next update",
-                                             "ViewHost.update()");
+        commons::DefaultLogger::shared().log(
+            commons::DefaultLogger::errorSeverity,
+            "Views keep changing in answer to their own changes; the rest is left for the next update", "ViewHost.update()");
     if (hasLaidOut && m_layoutHandler) m_layoutHandler();
 }
 
@@ -197,7 +197,8 @@ void RootNode::layOut(const ProposedSize&, Size) {
     if (!onlyChild() || onlyChild()->isAbsent()) return;
     const geometry::PhysicalInsets& insets = host().safeArea();
     const Size whole = host().size();
-    const Size safe{std::max(0.0, whole.width - insets.left - insets.right), std::max(0.0, whole.height - insets.top - insets.bottom)};
+    const Size safe{std::max(0.0, whole.width - insets.left - insets.right),
+                    std::max(0.0, whole.height - insets.top - insets.bottom)};
     const geometry::Point origin = alignedOrigin(onlyChild()->sizeThatFits(safe), safe, Alignment::center);
     onlyChild()->place(origin + geometry::Point{insets.left, insets.top}, safe);
 }

@@ -16,7 +16,8 @@ public:
         m_content = std::move(reader.content);
         if (isNew()) setDependsOnPosition();
         // With the size of the last layout; should it change in the next one, the content is made once more.
-        else if (m_isSized) build(pass);
+        else if (m_isSized)
+            build(pass);
     }
 
 protected:

@@ -8,7 +8,7 @@
 namespace swiftui {
 
 struct GeometryProxy {
-    geometry::Size size;                // without safe areas
+    geometry::Size size;                 // without safe areas
     geometry::EdgeInsets safeAreaInsets; // of those that the reader touches
 };
 

@@ -50,8 +50,10 @@ protected:
     void paintContent(graphics::PaintContext& context, const PaintState& state, double now_s) override {
         const RGBA color = m_color.valueAt(now_s).resolved(environment().colorScheme);
         const Rect rect{{}, presentationFrame(now_s).size};
-        if (m_shape.isStroked()) paintStroke(context, state, rect, color, m_lineWidth.valueAt(now_s), now_s);
-        else paintFill(context, state, rect, color, now_s);
+        if (m_shape.isStroked())
+            paintStroke(context, state, rect, color, m_lineWidth.valueAt(now_s), now_s);
+        else
+            paintFill(context, state, rect, color, now_s);
     }
 
     void describe(accessibility::Node& node, const PaintState&, double now_s) const override {
@@ -76,7 +78,8 @@ private:
         case Shape::Kind::ellipse: return context.fillEllipse(state, m_shape.outlineRect(rect), color);
         case Shape::Kind::custom: return context.fillPath(state, customPath(rect, now_s), color);
         default:
-            return context.fillRoundedRectangle(state, m_shape.outlineRect(rect), m_shape.cornerRadiusIn(rect), m_shape.style(), color);
+            return context.fillRoundedRectangle(state, m_shape.outlineRect(rect), m_shape.cornerRadiusIn(rect), m_shape.style(),
+                                                color);
         }
     }
 

@@ -76,7 +76,9 @@ inline Shape RoundedRectangle(double cornerRadius, geometry::CornerStyle style =
 // As large as the shorter side, in the middle.
 inline Shape Circle() { return Shape(Shape::Kind::circle); }
 inline Shape Ellipse() { return Shape(Shape::Kind::ellipse); }
-inline Shape Capsule(geometry::CornerStyle style = geometry::CornerStyle::circular) { return Shape(Shape::Kind::capsule, 0, style); }
+inline Shape Capsule(geometry::CornerStyle style = geometry::CornerStyle::circular) {
+    return Shape(Shape::Kind::capsule, 0, style);
+}
 
 // A colour that fills what it is offered, as a view: `ColorView{Color::clear}`.
 struct ColorView {

@@ -136,7 +136,8 @@ void TextNode::layOut(const ProposedSize& proposal, Size) {
 void TextNode::measureIn(const ProposedSize& room) {
     if (m_measured.room == room) return;
     measureAtScale(1, room);
-    for (double scale = 1 - scaleStep; m_measured.layout.isTruncated && scale >= m_style.minimumScaleFactor - 1e-9; scale -= scaleStep)
+    for (double scale = 1 - scaleStep; m_measured.layout.isTruncated && scale >= m_style.minimumScaleFactor - 1e-9;
+         scale -= scaleStep)
         measureAtScale(scale, room);
     m_measured.room = room;
 }
