@@ -12,6 +12,9 @@ constexpr double required = constraints::LinearConstraint::required;
 constexpr double sizeBoundPriority = 999.5;
 // What is as small as can be yields to everything that asks for room.
 constexpr double fittingPriority = 50;
+// What nothing else says where to put stands at its superview's top leading corner, or else beyond it rather than before it.
+constexpr double insidePriority = 2;
+constexpr double cornerPriority = 1;
 constexpr double tolerance = 1e-7;
 
 bool isHorizontal(NSLayoutAttribute attribute) { return attribute <= NSLayoutAttribute::centerX; }
@@ -51,6 +54,7 @@ LayoutProblem::LayoutProblem(UIView& root, Purpose purpose, const geometry::Prop
     if (purpose == Purpose::fit) addFittingSize();
     addConstraints();
     for (std::size_t i = purpose == Purpose::fit ? 0 : 1; i < m_views.size(); ++i) addNaturalSize(i);
+    for (std::size_t i = 1; i < m_views.size(); ++i) addCorner(i);
     m_former = nullptr;
 }
 
@@ -162,6 +166,17 @@ void LayoutProblem::addNaturalSize(std::size_t index) {
     };
     keep(box.width, natural.width, Axis::horizontal);
     keep(box.height, natural.height, Axis::vertical);
+}
+
+void LayoutProblem::addCorner(std::size_t index) {
+    const Box &box = m_boxes[index], &outer = m_boxes[m_views[index].parent];
+    LinearExpression x = box.left.plus(outer.left, -1);
+    if (m_root->isRightToLeft()) x = outer.left.plus(outer.width).plus(box.left, -1).plus(box.width, -1);
+    const LinearExpression y = box.top.plus(outer.top, -1);
+    for (const LinearExpression& distance : {x, y}) {
+        add(distance, Relation::greaterThanOrEqual, insidePriority);
+        add(distance, Relation::lessThanOrEqual, cornerPriority);
+    }
 }
 
 void LayoutProblem::addFittingSize() {

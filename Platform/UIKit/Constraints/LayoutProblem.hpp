@@ -61,6 +61,7 @@ private:
     void addConstraints();
     void addConstraint(NSLayoutConstraint& constraint);
     void addNaturalSize(std::size_t index);
+    void addCorner(std::size_t index);
     void addFittingSize();
     void add(LinearExpression expression, Relation relation, double priority, NSLayoutConstraint* origin = nullptr);
 

@@ -6,7 +6,6 @@
 #include <map>
 #include <optional>
 
-#include "Platform/Commons/FatalError.hpp"
 #include "Platform/UIKit/Constraints/Row.hpp"
 
 namespace uikit::constraints {
@@ -17,8 +16,16 @@ enum class SymbolKind : std::uint8_t {
     variable, // the caller's; unrestricted
     slack,    // what an inequality has to spare; not negative
     error,    // what a constraint that is not required falls short by; not negative
-    dummy,    // marks a required equation; always 0
 };
+
+// Required constraints may contradict each other by this much, which is rounding.
+constexpr double infeasibility = 1e-7;
+
+bool holds(double value, Relation relation) {
+    if (relation == Relation::lessThanOrEqual) return value <= infeasibility;
+    if (relation == Relation::greaterThanOrEqual) return value >= -infeasibility;
+    return std::abs(value) <= infeasibility;
+}
 
 } // namespace
 
@@ -57,18 +64,19 @@ struct Solver::Tableau {
         std::optional<Symbol> otherMarker;
     };
 
-    NewRow makeRow(const LinearConstraint& constraint) {
-        NewRow result;
-        result.row.constant = constraint.constant;
-        for (const Term& term : constraint.terms) addTo(result.row, symbolOfVariable[term.variable], term.coefficient);
-        const bool isRequired = constraint.priority >= LinearConstraint::required;
+    // What the constraint says in symbols that are not basic.
+    Row rowOf(const LinearConstraint& constraint) const {
+        Row row;
+        row.constant = constraint.constant;
+        for (const Term& term : constraint.terms) addTo(row, symbolOfVariable[term.variable], term.coefficient);
+        return row;
+    }
 
+    NewRow makeRow(const LinearConstraint& constraint, Row row) {
+        NewRow result{std::move(row), {}, {}};
+        const bool isRequired = constraint.priority >= LinearConstraint::required;
         if (constraint.relation == Relation::equal) {
-            if (isRequired) {
-                result.marker = makeSymbol(SymbolKind::dummy);
-                result.row.add(*result.marker, 1);
-                return result;
-            }
+            if (isRequired) return result;
             result.marker = addError(result.row, -1, constraint.priority);
             result.otherMarker = addError(result.row, 1, constraint.priority);
             return result;
@@ -92,17 +100,11 @@ struct Solver::Tableau {
         for (const Row::Cell& cell : added.row.cells())
             if (!isRestricted(cell.symbol)) return cell.symbol;
         for (const auto& marker : {added.marker, added.otherMarker}) {
-            if (!marker || kinds[*marker] == SymbolKind::dummy) continue;
+            if (!marker) continue;
             const double coefficient = added.row.coefficientOf(*marker);
             if (coefficient != 0 && -added.row.constant / coefficient >= 0) return marker;
         }
         return std::nullopt;
-    }
-
-    bool holdsOnlyDummies(const Row& row) const {
-        for (const Row::Cell& cell : row.cells())
-            if (kinds[cell.symbol] != SymbolKind::dummy) return false;
-        return true;
     }
 
     void makeBasic(Symbol symbol, Row row) {
@@ -136,19 +138,19 @@ struct Solver::Tableau {
         makeBasic(entering, std::move(row));
     }
 
-    // The lowest-numbered symbol whose growth lessens what the objective says.
-    template <class IsBetter>
-    void optimize(const IsBetter& findEntering) {
-        while (const std::optional<Symbol> entering = findEntering()) {
-            const auto leaving = leavingFor(*entering);
-            if (!leaving) commons::fatalError("The layout's constraints have no bounds");
-            pivot(*entering, *leaving);
+    void optimize() {
+        while (const std::optional<Symbol> entering = enteringOfAll()) {
+            if (const auto leaving = leavingFor(*entering))
+                pivot(*entering, *leaving);
+            else // no error can grow below 0, so this is a trace of rounding
+                for (auto& [priority, objective] : objectives) objective.remove(*entering);
         }
     }
 
+    // The lowest-numbered symbol whose growth lessens what the objective says.
     std::optional<Symbol> enteringOf(const Row& objective) const {
         for (const Row::Cell& cell : objective.cells())
-            if (kinds[cell.symbol] != SymbolKind::dummy && cell.coefficient < -rowTolerance) return cell.symbol;
+            if (cell.coefficient < -rowTolerance) return cell.symbol;
         return std::nullopt;
     }
 
@@ -158,7 +160,7 @@ struct Solver::Tableau {
         for (auto objective = objectives.begin(); objective != objectives.end(); ++objective) {
             for (const Row::Cell& cell : objective->second.cells()) {
                 if (best && cell.symbol >= *best) break;
-                if (kinds[cell.symbol] == SymbolKind::dummy || cell.coefficient >= -rowTolerance) continue;
+                if (cell.coefficient >= -rowTolerance) continue;
                 if (!mattersBefore(objective, cell.symbol)) best = cell.symbol;
             }
         }
@@ -186,20 +188,13 @@ struct Solver::Tableau {
             pivot(*entering, *leaving);
             objective.substitute(*entering, rows.at(*entering));
         }
-        if (std::abs(objective.constant) > 1e-7) return false;
+        if (std::abs(objective.constant) > infeasibility) return false;
 
         if (const auto basic = rows.find(artificial); basic != rows.end()) {
-            const Row remaining = basic->second;
-            std::optional<Symbol> entering;
-            for (const Row::Cell& cell : remaining.cells())
-                if (kinds[cell.symbol] != SymbolKind::dummy) {
-                    entering = cell.symbol;
-                    break;
-                }
-            if (entering)
-                pivot(*entering, artificial);
-            else
+            if (basic->second.cells().empty())
                 rows.erase(basic);
+            else
+                pivot(basic->second.cells().front().symbol, artificial);
         }
         for (auto& [basic, other] : rows) other.remove(artificial);
         for (auto& [priority, other] : objectives) other.remove(artificial);
@@ -207,15 +202,13 @@ struct Solver::Tableau {
     }
 
     bool add(const LinearConstraint& constraint) {
-        NewRow added = makeRow(constraint);
+        Row row = rowOf(constraint);
+        // Nothing can change any more whether it holds.
+        if (row.cells().empty())
+            return constraint.priority < LinearConstraint::required || holds(row.constant, constraint.relation);
+        NewRow added = makeRow(constraint, std::move(row));
         if (const auto subject = subjectOf(added)) {
             makeBasic(*subject, std::move(added.row));
-            return true;
-        }
-        if (holdsOnlyDummies(added.row)) {
-            if (std::abs(added.row.constant) > 1e-7) return false;
-            added.row.constant = 0;
-            makeBasic(*added.marker, std::move(added.row));
             return true;
         }
         Tableau before = *this;
@@ -242,9 +235,7 @@ bool Solver::add(const LinearConstraint& constraint) {
     return m_tableau->add(constraint);
 }
 
-void Solver::solve() {
-    m_tableau->optimize([this] { return m_tableau->enteringOfAll(); });
-}
+void Solver::solve() { m_tableau->optimize(); }
 
 double Solver::value(Variable variable) const {
     const auto row = m_tableau->rows.find(m_tableau->symbolOfVariable[variable]);
