@@ -1,0 +1,228 @@
+#include "ProUpsells/HeaderCarousel.hpp"
+
+#include <gmock/gmock.h>
+
+#include "ProUpsells/ImageResource.hpp"
+#include "Tests/ProUpsells/Screen.hpp"
+
+namespace proupsells::testing {
+namespace {
+
+using geometry::Point;
+using geometry::Size;
+using ::testing::ElementsAre;
+
+// A carousel with pages "page 0", "page 1", … on a screen 375 wide.
+class Carousel : public Screen {
+public:
+    explicit Carousel(int count, ScreenOptions options = {}) : Screen(root(count), Size{375, 254}, options) {}
+
+    // The page whose title stands or comes; one that goes does not count.
+    std::string shownTitle() const {
+        const auto titles = allWhere(tree(), [](const auto& node) { return node.text && node.text->font == "headline"; });
+        return titles.empty() ? "" : titles.back().text->text;
+    }
+    double titleOpacity(std::string_view title) const {
+        const auto found = allWhere(tree(), [&](const auto& node) { return node.text && node.text->text == title; });
+        return found.empty() ? 0 : found.front().opacity;
+    }
+    // Where the strip of pages stands, in pages.
+    double position() const { return -allOfType(tree(), "Color").front().frame.minX() / 375; }
+    int indicatorPage() {
+        const auto value = find("carousel.pageControl").value;
+        return value.empty() ? -1 : std::stoi(value.substr(value.find_first_of("0123456789"))) - 1;
+    }
+
+private:
+    static std::function<swiftui::View()> root(int count) {
+        auto view = std::make_shared<std::optional<HeaderCarousel>>();
+        return [view, count]() -> swiftui::View {
+            if (!*view) view->emplace(HeaderCarousel{pages(count)});
+            return HeaderCarousel(**view);
+        };
+    }
+    static std::shared_ptr<const std::vector<Page>> pages(int count) {
+        std::vector<Page> result;
+        for (int index = 0; index < count; ++index)
+            result.push_back({.image = image(ImageResource::paywallHeaderA()), .title = "page " + std::to_string(index)});
+        return std::make_shared<const std::vector<Page>>(std::move(result));
+    }
+};
+
+void swipe(Carousel& carousel, double fromX, double toX) {
+    const double start_s = carousel.bed().now_s();
+    carousel.touch(host::TouchPhase::began, {fromX, 100});
+    for (int step = 1; step <= 10; ++step) {
+        carousel.runUntil(start_s + 0.02 * step);
+        carousel.touch(host::TouchPhase::moved, {fromX + (toX - fromX) * step / 10, 100});
+    }
+    carousel.touch(host::TouchPhase::ended, {toX, 100});
+    carousel.settle();
+}
+
+TEST(Page, HasAnIdOfItsOwn) { EXPECT_NE(Page{}.id, Page{}.id); }
+
+TEST(HeaderCarousel, AdvancesEvery5SecondsForAMinute) {
+    Carousel carousel(4);
+
+    std::vector<std::string> titles;
+    for (int tick = 0; tick <= 12; ++tick) {
+        carousel.runUntil(5.0 * tick + 2.5);
+        titles.push_back(carousel.shownTitle());
+    }
+
+    EXPECT_THAT(titles, ElementsAre("page 0", "page 1", "page 2", "page 3", "page 0", "page 1", "page 2", "page 3", "page 0",
+                                    "page 1", "page 2", "page 3", "page 0"));
+}
+
+TEST(HeaderCarousel, AdvancesExactlyAtTheTick) {
+    Carousel carousel(3);
+
+    carousel.runUntil(4.999);
+    EXPECT_EQ(carousel.shownTitle(), "page 0");
+    carousel.runUntil(5);
+    EXPECT_EQ(carousel.shownTitle(), "page 1");
+}
+
+TEST(HeaderCarousel, SlidesFor2SecondsByEaseInOut) {
+    Carousel carousel(3);
+
+    carousel.runUntil(5.5);
+    EXPECT_NEAR(carousel.position(), motion::TimingCurve::easeInOut().valueAt(0.25), 1e-9);
+    carousel.runUntil(6);
+    EXPECT_NEAR(carousel.position(), 0.5, 1e-3);
+    carousel.runUntil(7);
+    EXPECT_EQ(carousel.position(), 1);
+}
+
+TEST(HeaderCarousel, ChangesItsTitleByFadingOneOutAndThenTheOtherIn) {
+    Carousel carousel(3);
+    const double quarter = 0.35 / 4;
+
+    carousel.runUntil(5 + quarter);
+    EXPECT_NEAR(carousel.titleOpacity("page 0"), 1 - motion::TimingCurve::easeIn().valueAt(0.25), 1e-9);
+    EXPECT_EQ(carousel.titleOpacity("page 1"), 0);
+    carousel.runUntil(5.4);
+    EXPECT_EQ(carousel.titleOpacity("page 0"), 0);
+    carousel.runUntil(6 + quarter);
+    EXPECT_NEAR(carousel.titleOpacity("page 1"), motion::TimingCurve::easeOut().valueAt(0.25), 1e-9);
+    carousel.runUntil(6.36);
+    EXPECT_EQ(carousel.titleOpacity("page 1"), 1);
+}
+
+TEST(HeaderCarousel, GoesToATappedDotAndOnFromThere) {
+    Carousel carousel(4);
+
+    carousel.runUntil(2);
+    const auto control = carousel.frame("carousel.pageControl");
+    carousel.tap(Point{control.minX() + 25, control.midY()});
+    EXPECT_EQ(carousel.shownTitle(), "page 2");
+    EXPECT_EQ(carousel.position(), 2);
+
+    // The tick at 5 s falls into the pause of the tap, which ends at 7 s.
+    carousel.runUntil(9.9);
+    EXPECT_EQ(carousel.shownTitle(), "page 2");
+    carousel.runUntil(10);
+    EXPECT_EQ(carousel.shownTitle(), "page 3");
+}
+
+TEST(HeaderCarousel, GoesToASwipedPageAndOnFromThere) {
+    Carousel carousel(4);
+
+    carousel.runUntil(1);
+    swipe(carousel, 300, 60);
+    EXPECT_EQ(carousel.shownTitle(), "page 1");
+    EXPECT_EQ(carousel.indicatorPage(), 1);
+
+    carousel.runUntil(9.9);
+    EXPECT_EQ(carousel.shownTitle(), "page 1");
+    carousel.runUntil(10);
+    EXPECT_EQ(carousel.shownTitle(), "page 2");
+}
+
+TEST(HeaderCarousel, EndsItsPause5SecondsAfterTheFirstOfSeveralChanges) {
+    Carousel carousel(4);
+    const auto control = carousel.frame("carousel.pageControl");
+
+    carousel.runUntil(4);
+    carousel.tap(Point{control.minX() + 15, control.midY()});
+    carousel.runUntil(8);
+    carousel.tap(Point{control.minX() + 25, control.midY()});
+    // At 9 s the first change's reset ends the pause, although the second change is 1 s old.
+    carousel.runUntil(10);
+    EXPECT_EQ(carousel.shownTitle(), "page 3");
+}
+
+TEST(HeaderCarousel, KeepsTheTimeOfItsTicksWhateverIsTouched) {
+    Carousel carousel(4);
+    const auto control = carousel.frame("carousel.pageControl");
+    std::vector<double> changes_s;
+    std::string before = carousel.shownTitle();
+
+    carousel.runUntil(12);
+    carousel.tap(Point{control.minX() + 5, control.midY()});
+    before = carousel.shownTitle();
+    for (int tenth = 121; tenth <= 600; ++tenth) {
+        carousel.runUntil(tenth / 10.0);
+        if (carousel.shownTitle() != before) changes_s.push_back(tenth / 10.0);
+        before = carousel.shownTitle();
+    }
+
+    // The reset that belongs to the advance at 10 s ends the tap's pause, just before the tick at 15 s.
+    EXPECT_THAT(changes_s, ElementsAre(15, 20, 25, 30, 35, 40, 45, 50, 55, 60));
+}
+
+TEST(HeaderCarousel, StaysWhereItIsWithOnePage) {
+    Carousel carousel(1);
+
+    carousel.runUntil(60);
+
+    EXPECT_EQ(carousel.shownTitle(), "page 0");
+    EXPECT_EQ(carousel.position(), 0);
+    EXPECT_EQ(carousel.frame("carousel.pageControl").width(), 10);
+}
+
+TEST(HeaderCarousel, IsReadInTheDarkSchemeOverItsPictures) {
+    Carousel carousel(2);
+    graphics::DisplayList list;
+    carousel.window().paint(list);
+
+    bool foundTitle = false;
+    for (const graphics::Command& command : list.commands) {
+        if (command.kind != graphics::CommandKind::text) continue;
+        foundTitle = true;
+        EXPECT_EQ(command.color, graphics::rgb(0xF3F5F4));
+    }
+    EXPECT_TRUE(foundTitle);
+}
+
+TEST(HeaderCarousel, ClipsEachPictureToItsPage) {
+    Carousel carousel(2);
+    graphics::DisplayList list;
+    carousel.window().paint(list);
+
+    for (const graphics::Command& command : list.commands)
+        if (command.kind == graphics::CommandKind::image) {
+            EXPECT_LE(command.clip.maxX(), 375);
+        }
+}
+
+TEST(HeaderCarousel, StopsItsTimerWhenItGoesAway) {
+    headless::TestBed bed;
+    const auto window = uikit::UIWindow::create({375, 254});
+    auto pages = std::make_shared<const std::vector<Page>>(
+        std::vector<Page>{{.image = image(ImageResource::paywallHeaderA()), .title = "page"}});
+    window->setRootViewController(hosting::UIHostingController::create(HeaderCarousel{pages}));
+    bed.settle();
+    ASSERT_TRUE(bed.loop().nextDueTime_s().has_value());
+
+    window->setRootViewController(nullptr);
+    bed.settle();
+
+    EXPECT_FALSE(bed.loop().nextDueTime_s().has_value());
+}
+
+TEST(HeaderCarouselDeathTest, StopsTheProgramWithoutPages) { EXPECT_DEATH(Carousel(0), "no pages"); }
+
+} // namespace
+} // namespace proupsells::testing
