@@ -10,6 +10,7 @@ namespace velauikit {
 std::shared_ptr<uikit::UINavigationController> embedInNavController(const std::shared_ptr<uikit::UIViewController>& controller) {
     auto navigation = uikit::UINavigationController::create(controller);
     navigation->setBarBackgroundColor(velaBackground);
+    navigation->setBarTintColor(velaLabel);
     return navigation;
 }
 

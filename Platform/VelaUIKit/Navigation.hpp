@@ -7,7 +7,7 @@
 
 namespace velauikit {
 
-// The controller in a navigation controller of its own, whose bar has the page's background.
+// The controller in a navigation controller of its own, whose bar has the page's background and texts' colour.
 std::shared_ptr<uikit::UINavigationController> embedInNavController(const std::shared_ptr<uikit::UIViewController>& controller);
 
 enum class BarButtonStyle { close };

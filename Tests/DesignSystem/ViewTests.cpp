@@ -2,7 +2,9 @@
 
 #include "Backends/Headless/TestBed.hpp"
 #include "Platform/LumoKit/Icon.hpp"
+#include "Platform/UIKit/Controllers/UIWindow.hpp"
 #include "Platform/VelaUIKit/ChargedButton.hpp"
+#include "Platform/VelaUIKit/Colors.hpp"
 #include "Platform/VelaUIKit/EmptyStateView.hpp"
 #include "Platform/VelaUIKit/Navigation.hpp"
 #include "Platform/VelaUIKit/Theme.hpp"
@@ -52,6 +54,28 @@ TEST(EmbedInNavController, ShowsTheControllerInABar) {
 
     EXPECT_EQ(navigation->topViewController(), controller.get());
     EXPECT_EQ(controller->navigationController(), navigation.get());
+}
+
+TEST(EmbedInNavController, PaintsItsButtonsInTheColourOfTexts) {
+    headless::TestBed bed;
+    const auto controller = std::make_shared<uikit::UIViewController>();
+    controller->setRightBarButtonItem(barButtonItem(BarButtonStyle::close));
+    const auto window = uikit::UIWindow::create({375, 800});
+    window->setRootViewController(embedInNavController(controller));
+
+    for (const auto scheme : {graphics::ColorScheme::light, graphics::ColorScheme::dark}) {
+        window->setTraits({.userInterfaceStyle = scheme});
+        bed.settle();
+        graphics::DisplayList list;
+        window->paint(list);
+        int images = 0;
+        for (const graphics::Command& command : list.commands) {
+            if (command.kind != graphics::CommandKind::image) continue;
+            ++images;
+            EXPECT_EQ(command.color, velaLabel.resolved(scheme));
+        }
+        EXPECT_EQ(images, 1);
+    }
 }
 
 TEST(BarButtonItem, HoldsItsTargetWeakly) {

@@ -23,11 +23,17 @@ void UINavigationController::setBarBackgroundColor(const UIColor& color) {
     if (UIView* view = viewIfLoaded()) view->setBackgroundColor(color);
 }
 
+void UINavigationController::setBarTintColor(const std::optional<UIColor>& color) {
+    m_barTintColor = color;
+    if (m_bar) m_bar->setTintColor(color);
+}
+
 void UINavigationController::viewDidLoad() {
     UIViewController::viewDidLoad();
     view()->setBackgroundColor(m_barBackgroundColor);
     if (UIViewController* top = topViewController()) view()->addSubview(top->view());
     m_bar = std::make_shared<UINavigationBar>();
+    m_bar->setTintColor(m_barTintColor);
     view()->addSubview(m_bar);
     updateBar();
 }

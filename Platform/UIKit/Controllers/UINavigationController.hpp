@@ -21,6 +21,8 @@ public:
     UIViewController& contentViewController() override;
     // Behind the bar, and behind content that has no background of its own.
     void setBarBackgroundColor(const UIColor& color);
+    // What the bar's tinted images are painted in; absent: what the bar inherits.
+    void setBarTintColor(const std::optional<UIColor>& color);
 
     void viewDidLoad() override;
     void viewDidLayoutSubviews() override;
@@ -34,6 +36,7 @@ private:
     void updateBar();
 
     std::shared_ptr<UINavigationBar> m_bar;
+    std::optional<UIColor> m_barTintColor;
     UIColor m_barBackgroundColor = {"systemBackground", graphics::rgb(0xFFFFFF), graphics::rgb(0x000000)};
 };
 
