@@ -61,7 +61,8 @@ bool QtWindow::event(QEvent* event) {
     case QEvent::UpdateRequest: showFrame(false); return true;
     case QEvent::Close: {
         const bool isHandled = QWindow::event(event);
-        if (event->isAccepted() && m_closeHandler) m_closeHandler();
+        // A copy, because the handler may replace itself.
+        if (const auto handler = m_closeHandler; handler && event->isAccepted()) handler();
         return isHandled;
     }
     default: return QWindow::event(event);

@@ -30,7 +30,7 @@ public:
     ~QtWindow() override;
 
     void setSafeArea(geometry::PhysicalInsets safeArea);
-    // Told when the person has closed the window.
+    // Told when the person has closed the window; it must not be destroyed there.
     void setCloseHandler(std::function<void()> handler) { m_closeHandler = std::move(handler); }
 
     const qtbackend::RasterSurface& surface() const { return m_surface; }

@@ -239,6 +239,23 @@ TEST(ShapePainting, SurvivesShapesFarLargerThanTheWindow) {
     EXPECT_EQ(qRed(canvas.image().pixel(20, 20)) > 100, true);
 }
 
+TEST(ShapePainting, SurvivesLengthsThatAreNoNumbers) {
+    const double nothing = std::nan(""), endless = geometry::infinity;
+    Canvas canvas({20, 20});
+    for (const Rect frame : {Rect{{nothing, 0}, {5, 5}}, Rect{{0, 0}, {nothing, 5}}, Rect{{0, 0}, {endless, endless}},
+                             Rect{{-endless, 3}, {endless, 3}}}) {
+        canvas.context.fillRectangle({}, frame, rgb(0, 10));
+        canvas.context.fillRoundedRectangle({}, frame, 3, CornerStyle::continuous, rgb(0, 10));
+        canvas.context.strokeRoundedRectangle({}, frame, nothing, CornerStyle::circular, 3, rgb(0, 10));
+        canvas.context.fillEllipse({}, frame, rgb(0, 10));
+        canvas.context.shadow({}, frame, endless, {0, 0}, rgb(0, 10));
+    }
+    canvas.context.fillRectangle({}, {{5, 5}, {2, 2}}, red);
+
+    EXPECT_EQ(qRed(canvas.image().pixel(5, 5)), 255);
+    EXPECT_LT(qGreen(canvas.image().pixel(5, 5)), 50);
+}
+
 TEST(ShapePainting, RoundsASizeBetweenPixelsUp) {
     EXPECT_EQ(qtbackend::pixelSize({375, 800}, 2), QSize(750, 1600));
     EXPECT_EQ(qtbackend::pixelSize({375, 667}, 1.5), QSize(563, 1001));
