@@ -7,6 +7,7 @@
 #include "ProUpsells/ComparisonViewController.hpp"
 #include "ProUpsells/PromotionalPricingUpsell.hpp"
 #include "ProUpsells/Upsell View/UpsellViewController.hpp"
+#include "ProUpsells/VelaProStorePageViewController.hpp"
 
 namespace proupsells {
 
@@ -116,7 +117,15 @@ void VelaProUpsellViewController::upsellViewControllerDidTapRestoreButton(Upsell
     if (const auto tracker = m_tracker.lock()) tracker->trackRestoreTapped(m_referrer, eventScreenTitle(m_variant));
 }
 
-void VelaProUpsellViewController::upsellViewControllerDidTapWhatIsProButton(UpsellViewController&) {}
+void VelaProUpsellViewController::upsellViewControllerDidTapWhatIsProButton(UpsellViewController&) {
+    const auto self = uikit::strongReference(*this);
+    const auto storePage = VelaProStorePageViewController::create(m_options, m_referrer, m_entitlement);
+    storePage->setTracker(m_tracker);
+    storePage->continueToSelectPlan = [weakPage = std::weak_ptr<VelaProStorePageViewController>(storePage)] {
+        if (const auto page = weakPage.lock()) page->dismiss(true);
+    };
+    present(storePage, true);
+}
 
 void VelaProUpsellViewController::upsellViewControllerDidTapPrivacyPolicyButton(UpsellViewController&) {
     const auto self = uikit::strongReference(*this);

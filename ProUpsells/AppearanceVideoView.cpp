@@ -1,0 +1,33 @@
+#include "ProUpsells/AppearanceVideoView.hpp"
+
+#include <utility>
+
+#include "Platform/VelaUIKit/Theme.hpp"
+#include "ProUpsells/ResourceBundleClass.hpp"
+
+namespace proupsells {
+
+AppearanceVideoView::AppearanceVideoView(std::string lightClip, std::string darkClip)
+    : m_lightClip(std::move(lightClip)), m_darkClip(std::move(darkClip)), m_videoView(std::make_shared<velauikit::VideoView>()) {
+    m_videoView->setTranslatesAutoresizingMaskIntoConstraints(false);
+    addSubview(m_videoView);
+    m_videoView->fillSuperview();
+    m_videoView->play();
+    chooseClip();
+}
+
+void AppearanceVideoView::traitCollectionDidChange(const uikit::UITraitCollection& previous) {
+    UIView::traitCollectionDidChange(previous);
+    chooseClip();
+}
+
+void AppearanceVideoView::didMoveToWindow() {
+    if (window()) chooseClip();
+}
+
+void AppearanceVideoView::chooseClip() {
+    const bool isLight = velauikit::theme(traitCollection()) == velauikit::Theme::light;
+    m_videoView->setFile(ResourceBundleClass::bundle().pathForResource(isLight ? m_lightClip : m_darkClip, "mp4"));
+}
+
+} // namespace proupsells

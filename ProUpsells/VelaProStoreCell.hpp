@@ -1,0 +1,28 @@
+// A place on the store page that shows one shelf.
+#pragma once
+
+#include <memory>
+
+#include "Platform/UIKit/Collection/UICollectionViewCell.hpp"
+#include "Platform/UIKit/Controllers/UIViewController.hpp"
+
+namespace proupsells {
+
+// Borrows the shelf's controller, which it holds weakly, for as long as it can be seen.
+class VelaProStoreCell : public uikit::UICollectionViewCell {
+public:
+    std::string_view typeName() const override { return "VelaProStoreCell"; }
+
+    // Null while it shows none.
+    std::shared_ptr<uikit::UIViewController> viewController() const { return m_viewController.lock(); }
+    // Makes `controller` a child of `parent`, with its view in this cell.
+    void embed(const std::shared_ptr<uikit::UIViewController>& controller, uikit::UIViewController& parent);
+    void detach();
+
+    void layoutSubviews() override;
+
+private:
+    std::weak_ptr<uikit::UIViewController> m_viewController;
+};
+
+} // namespace proupsells

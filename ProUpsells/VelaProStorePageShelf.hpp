@@ -1,0 +1,30 @@
+// One feature advertised on the store page.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "Platform/UIKit/Controllers/UIViewController.hpp"
+
+namespace proupsells {
+
+// Main thread only.
+class VelaProStorePageShelf {
+public:
+    virtual ~VelaProStorePageShelf() = default;
+
+    // The class's name, as in the code.
+    virtual std::string_view className() const = 0;
+    // What the shelf's cell shows; null as long as there is nothing to show.
+    virtual std::shared_ptr<uikit::UIViewController> viewController() = 0;
+    // Of the cell, in points; the greatest finite number means as high as the page.
+    virtual double preferredShelfHeight() const = 0;
+    virtual geometry::PhysicalInsets preferredSectionInset() const = 0;
+    // The headline, empty for none.
+    virtual std::string footerTitle() const = 0;
+    // The one-sentence explanation, empty for none.
+    virtual std::string footerSubTitle() const = 0;
+};
+
+} // namespace proupsells

@@ -1,0 +1,178 @@
+// Stacks of two controllers, headlines, footers, headers and clip views.
+#include <limits>
+
+#include "ProUpsells/AllTheThingsHeaderViewShelf.hpp"
+#include "ProUpsells/BrandAssetsShelf.hpp"
+#include "ProUpsells/BrandAssetsVideoView.hpp"
+#include "ProUpsells/FooterView.hpp"
+#include "ProUpsells/LabelHeaderView.hpp"
+#include "ProUpsells/TemplatesVideoView.hpp"
+#include "ProUpsells/TitleSubtitleContainerViewController.hpp"
+#include "ProUpsells/VelaProHeaderView.hpp"
+#include "ProUpsells/VerticallyStackedContainerViewController.hpp"
+#include "Tests/ProUpsells/StoreScreen.hpp"
+
+namespace proupsells::testing {
+
+namespace {
+
+class StoreContainer : public StoreTest {
+protected:
+    static std::shared_ptr<uikit::UIViewController> highController(double height) {
+        auto controller = std::make_shared<uikit::UIViewController>();
+        controller->view()->heightAnchor().constraintEqualToConstant(height)->setActive(true);
+        return controller;
+    }
+    // A clip view that fills the screen.
+    template <class ClipView>
+    std::shared_ptr<ClipView> showClipView() {
+        const auto root = std::make_shared<uikit::UIViewController>();
+        auto clip = std::make_shared<ClipView>();
+        root->view()->addSubview(clip);
+        clip->fillSuperview();
+        show(root);
+        return clip;
+    }
+};
+
+} // namespace
+
+TEST_F(StoreContainer, StacksTwoControllers) {
+    const auto first = std::make_shared<uikit::UIViewController>(), second = highController(103);
+    const auto stack = std::make_shared<VerticallyStackedContainerViewController>(first, second);
+
+    show(stack);
+
+    EXPECT_EQ(stack->children(), (std::vector{first, second}));
+    EXPECT_EQ(first->view()->frame(), (geometry::Rect{{0, 0}, {375, 681}}));
+    EXPECT_EQ(second->view()->frame(), (geometry::Rect{{0, 697}, {375, 103}}));
+    EXPECT_TRUE(second->isAppeared());
+}
+
+TEST_F(StoreContainer, KeepsASpacingThatIsSetBeforeItIsLoaded) {
+    const auto first = std::make_shared<uikit::UIViewController>(), second = highController(100);
+    const auto stack = std::make_shared<VerticallyStackedContainerViewController>(first, second);
+
+    stack->setContentSpacing(30);
+    EXPECT_FALSE(stack->isViewLoaded());
+    show(stack);
+    EXPECT_EQ(first->view()->frame().height(), 670);
+
+    stack->setContentSpacing(40);
+    bed.settle();
+    EXPECT_EQ(first->view()->frame().height(), 660);
+}
+
+TEST_F(StoreContainer, SetsTheHeadlineOverItsExplanation) {
+    const auto texts = std::make_shared<TitleSubtitleContainerViewController>(BrandAssetsShelf());
+    const auto stack =
+        std::make_shared<VerticallyStackedContainerViewController>(std::make_shared<uikit::UIViewController>(), texts);
+
+    show(stack);
+
+    EXPECT_EQ(texts->view()->frame(), (geometry::Rect{{0, 697}, {375, 103}}));
+    // One line of 22 points, then "Add your logos, fonts and color", "palettes to use within your", "projects.".
+    EXPECT_EQ(texts->titleLabel()->frame(), (geometry::Rect{{25, 0}, {325, 27.5}}));
+    // The longest of them has 31 characters of 8.2 points.
+    EXPECT_THAT(texts->subtitleLabel()->frame(), testing::FrameNear(geometry::Rect{{60.4, 43.5}, {254.2, 3 * 20 + 2 * 9}}));
+    const accessibility::Node title = testing::firstOfType(tree(), "UILabel");
+    EXPECT_EQ(title.text->font, "velaDefaultFont");
+    EXPECT_EQ(title.text->size, 22);
+    EXPECT_EQ(title.text->weight, 2);
+    EXPECT_EQ(title.text->color, "dynamicColor.9");
+}
+
+TEST_F(StoreContainer, LetsAShortExplanationStandInTheMiddle) {
+    const auto texts = std::make_shared<TitleSubtitleContainerViewController>(BrandAssetsShelf());
+    const auto stack =
+        std::make_shared<VerticallyStackedContainerViewController>(std::make_shared<uikit::UIViewController>(), texts);
+    show(stack);
+
+    texts->setSubtitleText("Ten glyphs");
+    bed.settle();
+
+    EXPECT_EQ(texts->subtitleText(), "Ten glyphs");
+    EXPECT_EQ(texts->subtitleLabel()->frame(), (geometry::Rect{{146.5, 43.5}, {82, 20}}));
+}
+
+TEST_F(StoreContainer, ShowsTheSameTextsAsAFooter) {
+    const auto root = std::make_shared<uikit::UIViewController>();
+    const auto footer = std::make_shared<FooterView>();
+    footer->setFrame({{0, 100}, {375, 200}});
+    root->view()->addSubview(footer);
+
+    footer->setFooterTitle("A headline");
+    footer->setSubtitle("Ten glyphs");
+    show(root);
+
+    EXPECT_EQ(footer->footerTitleLabel()->frame(), (geometry::Rect{{25, 0}, {325, 25}}));
+    EXPECT_EQ(footer->subtitleLabel()->frame(), (geometry::Rect{{146.5, 41}, {82, 20}}));
+    EXPECT_EQ(footer->footerTitleLabel()->attributedText().runs().front().attributes.font.weightOption, 1);
+    EXPECT_EQ(footer->subtitleLabel()->attributedText().runs().front().attributes.kern, 0.2);
+}
+
+TEST_F(StoreContainer, CentresTheLogoOverTheHeadline) {
+    const auto root = std::make_shared<uikit::UIViewController>();
+    const auto header = std::make_shared<VelaProHeaderView>(geometry::Rect{{0, 0}, {375, 220}});
+    root->view()->addSubview(header);
+
+    show(root);
+
+    // 208 × 26 at a height of 28.
+    EXPECT_EQ(header->proLogoImageView()->convertTo(header->proLogoImageView()->bounds(), header.get()),
+              (geometry::Rect{{75.5, 57}, {224, 28}}));
+    EXPECT_EQ(header->titleLabel()->frame(), (geometry::Rect{{62, 101}, {251, 89}}));
+    EXPECT_EQ(header->titleLabel()->text(), "It's never been easier to look professional.");
+}
+
+TEST_F(StoreContainer, LeavesALogoWithoutARatioAsItIs) {
+    EXPECT_EQ(aspectRatio({208, 26}), 8);
+    EXPECT_EQ(aspectRatio({0, 26}), 0);
+    EXPECT_FALSE(aspectRatio({208, 0}).has_value());
+    EXPECT_FALSE(aspectRatio({0, 0}).has_value());
+}
+
+TEST_F(StoreContainer, ShowsTheOtherHeaderToo) {
+    AllTheThingsHeaderViewShelf shelf;
+    const auto controller = shelf.viewController();
+    show(controller);
+
+    const auto header = std::dynamic_pointer_cast<LabelHeaderView>(controller->view()->subviews().front());
+    ASSERT_TRUE(header);
+    EXPECT_EQ(header->frame(), (geometry::Rect{{0, 0}, {375, 800}}));
+    // 50 characters of 12 points: two lines of 30 with 8 between them.
+    EXPECT_EQ(header->titleLabel()->frame(), (geometry::Rect{{30, 0}, {315, 68}}));
+}
+
+TEST_F(StoreContainer, PlaysTheClipOfTheAppearance) {
+    const auto clip = showClipView<TemplatesVideoView>();
+    EXPECT_EQ(testing::firstOfType(tree(), "VideoView").clipView->name, "StorePageTemplatesVideo");
+
+    setAppearance(graphics::ColorScheme::dark);
+    EXPECT_EQ(testing::firstOfType(tree(), "VideoView").clipView->name, "StorePageTemplatesVideo_dark");
+    EXPECT_TRUE(testing::firstOfType(tree(), "VideoView").clipView->time_s.has_value());
+
+    setAppearance(graphics::ColorScheme::light);
+    EXPECT_EQ(testing::firstOfType(tree(), "VideoView").clipView->name, "StorePageTemplatesVideo");
+    EXPECT_EQ(clip->videoView()->frame(), (geometry::Rect{{0, 0}, {375, 800}}));
+}
+
+TEST_F(StoreContainer, PlaysTheDarkClipFromTheStartWhereItIsDark) {
+    setAppearance(graphics::ColorScheme::dark);
+
+    showClipView<BrandAssetsVideoView>();
+
+    EXPECT_EQ(testing::firstOfType(tree(), "VideoView").clipView->name, "StorePageBrandingVideo_dark");
+}
+
+TEST_F(StoreContainer, CannotComeFromAnArchiveOrHaveAFrameOfItsOwn) {
+    const foundation::Coder coder;
+    EXPECT_DEATH(TemplatesVideoView{coder}, "init\\(coder:\\) has not been implemented");
+    EXPECT_DEATH(BrandAssetsVideoView(geometry::Rect{}), "init\\(frame:\\)");
+    EXPECT_DEATH(VelaProHeaderView{coder}, "init\\(coder:\\) has not been implemented");
+    EXPECT_DEATH(LabelHeaderView{coder}, "init\\(coder:\\) has not been implemented");
+    EXPECT_DEATH(VerticallyStackedContainerViewController{coder}, "init\\(coder:\\)");
+    EXPECT_DEATH(TitleSubtitleContainerViewController{coder}, "init\\(coder:\\)");
+}
+
+} // namespace proupsells::testing
