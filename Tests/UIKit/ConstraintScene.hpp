@@ -49,6 +49,7 @@ protected:
         UITraitCollection traits;
         traits.layoutDirection = geometry::LayoutDirection::rightToLeft;
         root->setOverrideTraitCollection(traits);
+        root->setNeedsLayout();
     }
     std::vector<std::string> takeLog() {
         std::vector<std::string> messages;

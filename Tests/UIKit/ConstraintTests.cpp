@@ -30,7 +30,6 @@ TEST_P(ConstraintPlacement, FollowsTheLayoutDirection) {
     EXPECT_EQ(frameOf(view), GetParam().leftToRight);
 
     setRightToLeft();
-    root->setNeedsLayout();
 
     EXPECT_EQ(frameOf(view), GetParam().rightToLeft);
 }

@@ -8,6 +8,7 @@
 #include "Platform/Accessibility/Search.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 #include "Tests/Support/FailOnUnexpectedLog.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
 
 namespace uikit {
 
