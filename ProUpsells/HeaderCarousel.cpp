@@ -2,6 +2,7 @@
 
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/LumoKit/Colors.hpp"
+#include "Platform/LumoKit/LargestTextSize.hpp"
 #include "Platform/LumoKit/TextStyle.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
@@ -48,8 +49,9 @@ View HeaderCarousel::bottomRow(const Binding<int>& currentPage) const {
                       {
                           Text{title} |
                               lumokit::textStyle(lumokit::TextStyle::based(lumokit::PlatformTextStyle::headline, 18, 24, 0.5)) |
+                              lumokit::largestTextSize(graphics::ContentSizeCategory::extraExtraExtraLarge) |
                               foregroundStyle(lumokit::ContentColor::primary) | padding(Edge::bottom, 18) |
-                              padding(Edge::leading, 10) | transition(titleTransition()) | id(title),
+                              padding(Edge::leading, 10) | allowsHitTesting(false) | transition(titleTransition()) | id(title),
                           Spacer{},
                           CustomPageControl{.numberOfPages = count, .currentPage = currentPage} | frame({.width = count * 10.0}) |
                               padding(Edge::trailing, 30) | padding(Edge::bottom, 30),

@@ -5,7 +5,7 @@
 
 #include "Apps/ProUpsellsHost/Numbers.hpp"
 #include "Apps/ProUpsellsHost/ScreenDump.hpp"
-#include "Apps/ProUpsellsHost/TreeSearch.hpp"
+#include "Platform/Accessibility/Search.hpp"
 
 namespace proupsellshost {
 
@@ -18,6 +18,13 @@ bool isClose(const geometry::Rect& a, const geometry::Rect& b) {
     return close(a.minX(), b.minX()) && close(a.minY(), b.minY()) && close(a.width(), b.width()) && close(a.height(), b.height());
 }
 
+// The node's text, or, where it has none, those of what is inside it, one blank between two.
+std::string shownText(const accessibility::Node& node) {
+    std::string result;
+    for (const std::string& text : accessibility::shownTexts(node)) result += (result.empty() ? "" : " ") + text;
+    return result;
+}
+
 std::string differs(const char* what, const Json& found, const Json& expected) {
     return std::string("its ") + what + " is " + found.dump() + ", expected " + expected.dump();
 }
@@ -25,7 +32,7 @@ std::string differs(const char* what, const Json& found, const Json& expected) {
 } // namespace
 
 std::optional<std::string> contradiction(const ExpectStep& expected, const accessibility::Node& root) {
-    const accessibility::Node* node = findIdentifier(root, expected.identifier);
+    const accessibility::Node* node = accessibility::findByIdentifier(root, expected.identifier);
     const std::string name = "\"" + expected.identifier + "\"";
     if (expected.isAbsent) return node ? std::optional(name + " is there, expected it to be absent") : std::nullopt;
     if (!node) return name + " is not there, expected it on the screen";

@@ -1,6 +1,7 @@
 #include "Apps/ProUpsellsHost/HostSession.hpp"
 
 #include "Apps/ProUpsellsHost/HostViewController.hpp"
+#include "Backends/FFmpeg/LazyClipDecoder.hpp"
 #include "Backends/Headless/FixedTextShaper.hpp"
 #include "Backends/Icu/IcuLocaleServices.hpp"
 #include "Backends/Qt/QtImageDecoder.hpp"
@@ -14,8 +15,9 @@ namespace proupsellshost {
 
 using proupsells::UpsellViewModel;
 
-HostSession::HostSession(Offers offers, const Device& device, HostParts parts, std::shared_ptr<EventLog> log)
-    : m_device(device), m_log(std::move(log)) {
+HostSession::HostSession(Offers offers, const Device& device, HostParts parts, ffmpegbackend::Pace pace, std::shared_ptr<EventLog> log)
+    : m_device(device), m_log(std::move(log)),
+      m_clipDecoder(std::make_shared<ffmpegbackend::LazyClipDecoder>(pace, ffmpegbackend::LazyClipDecoder::defaultFolders())) {
     commons::DefaultLogger::shared().setSink([log = m_log](const commons::LogRecord& record) {
         log->write("log", {{"severity", record.severity}, {"message", record.message}, {"function", record.function}});
     });
@@ -50,6 +52,7 @@ void HostSession::installServices() {
     if (m_device.fonts == FontChoice::fixed) services.textShaper = std::make_shared<headless::FixedTextShaper>();
     else services.textShaper = std::make_shared<qtbackend::QtTextShaper>();
     services.imageDecoder = std::make_shared<qtbackend::QtImageDecoder>();
+    services.clipDecoder = m_clipDecoder;
     services.localeServices = std::make_shared<icubackend::IcuLocaleServices>();
     m_services.reset();
     m_services = std::make_unique<host::Installation>(std::move(services));

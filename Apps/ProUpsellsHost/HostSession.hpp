@@ -7,6 +7,7 @@
 #include "Apps/ProUpsellsHost/HostLedger.hpp"
 #include "Apps/ProUpsellsHost/Offers.hpp"
 #include "Apps/ProUpsellsHost/Scenario.hpp"
+#include "Backends/FFmpeg/ClipPlugin.hpp"
 #include "Platform/Host/Services.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
@@ -20,10 +21,12 @@ struct HostParts {
 // Needs a main run loop and a Qt application.
 class HostSession {
 public:
-    HostSession(Offers offers, const Device& device, HostParts parts, std::shared_ptr<EventLog> log);
+    HostSession(Offers offers, const Device& device, HostParts parts, ffmpegbackend::Pace pace, std::shared_ptr<EventLog> log);
     ~HostSession();
 
     uikit::UIWindow& window() { return *m_window; }
+    // The same, for whoever shows it.
+    std::shared_ptr<host::WindowContent> windowContent() { return m_window; }
     const Device& device() const { return m_device; }
     proupsells::VelaProUpsellViewController& entryController() { return *m_entry; }
     // False once the entry controller has been dismissed.
@@ -43,6 +46,7 @@ private:
 
     Device m_device;
     std::shared_ptr<EventLog> m_log;
+    std::shared_ptr<host::ClipDecoder> m_clipDecoder;
     std::unique_ptr<host::Installation> m_services;
     std::shared_ptr<LedgerDelegate> m_delegate;
     std::shared_ptr<LedgerTracker> m_tracker;

@@ -7,11 +7,28 @@
 #include "Apps/ProUpsellsHost/Numbers.hpp"
 #include "Apps/ProUpsellsHost/ScreenDump.hpp"
 #include "Apps/ProUpsellsHost/Snapshot.hpp"
-#include "Apps/ProUpsellsHost/TreeSearch.hpp"
+#include "Platform/Accessibility/Search.hpp"
 
 namespace proupsellshost {
 
 using accessibility::Node;
+
+namespace {
+
+std::vector<const Node*> controlsIdentified(const Node& root, const std::string& identifier) {
+    auto found = accessibility::findAllByIdentifier(root, identifier);
+    std::erase_if(found, [](const Node* node) { return !node->isControl; });
+    return found;
+}
+
+// How a person would name the control, after its identifier.
+std::string describe(const Node& control) {
+    const std::string name = accessibility::nameOf(control);
+    if (control.identifier.empty()) return '"' + name + '"';
+    return control.identifier + (name.empty() ? "" : " (\"" + name + "\")");
+}
+
+} // namespace
 
 ScenarioRunner::ScenarioRunner(const Scenario& scenario, runloop::MainRunLoop& loop, HostSession& session, std::shared_ptr<EventLog> log,
                                std::filesystem::path folder)
@@ -31,7 +48,7 @@ std::string ScenarioRunner::stepPointer() const { return "/steps/" + std::to_str
 
 void ScenarioRunner::failTap(const std::string& complaint, const Node& root) const {
     std::string tappable;
-    for (const Node* control : allControls(root)) tappable += "\n  " + describe(*control);
+    for (const Node* control : accessibility::controls(root)) tappable += "\n  " + describe(*control);
     const InputError error(m_scenario.file.string(), stepPointer() + "/tap", complaint + ", expected exactly one of the controls below");
     throw InputErrorWithList(error, tappable);
 }
@@ -40,7 +57,7 @@ geometry::Point ScenarioRunner::pointOf(const TapTarget& target) {
     if (const auto* point = std::get_if<geometry::Point>(&target)) return *point;
     const auto* identifier = std::get_if<TapIdentifier>(&target);
     const std::string wanted = identifier ? identifier->identifier : std::get<TapText>(target).text;
-    const auto find = [&](const Node& root) { return identifier ? controlsWithIdentifier(root, wanted) : controlsWithText(root, wanted); };
+    const auto find = [&](const Node& root) { return identifier ? controlsIdentified(root, wanted) : accessibility::controlsNamed(root, wanted); };
 
     const Node before = m_session.window().semanticTree();
     const auto found = find(before);

@@ -18,6 +18,8 @@ namespace {
 
 // Twenty pictures, ten a second; the picture of number n has the luminance 16 + 10 n.
 const std::filesystem::path counting = "Tests/FFmpeg/Data/counting.mp4";
+// Forty pictures, ten a second, only the first of which stands by itself.
+const std::filesystem::path oneKeyPicture = "Tests/FFmpeg/Data/one-key-picture.mp4";
 const std::filesystem::path large = "Tests/FFmpeg/Data/large.mp4";
 
 class ClipDecoder : public testing::Test {
@@ -90,6 +92,15 @@ TEST_F(ClipDecoder, ShowsTheSameFrameOnEveryWayToATime) {
     for (int i = 0; i < 200; ++i) EXPECT_EQ(numberOf(walked->frameAt(i * 0.05)), (i / 2) % 20) << "at " << i * 0.05;
 
     for (const int tick : {39, 3, 21, 20, 0, 38, 11}) EXPECT_EQ(numberOf(walked->frameAt(tick * 0.05 + 0.01)), tick / 2) << "at tick " << tick;
+}
+
+TEST_F(ClipDecoder, WalksFromAKeyPictureThatIsFarBeforeTheMoment) {
+    LazyClipDecoder decoder = exactDecoder();
+    const auto clip = decoder.open(oneKeyPicture);
+
+    EXPECT_NEAR(clip->frameAt(3.5).time_s, 3.5, 1e-3);
+    EXPECT_NEAR(clip->frameAt(0.2).time_s, 0.2, 1e-3);
+    EXPECT_NEAR(clip->frameAt(2.9).time_s, 2.9, 1e-3);
 }
 
 TEST_F(ClipDecoder, DecodesAFileOnceForEverybody) {

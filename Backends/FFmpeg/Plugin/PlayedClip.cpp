@@ -76,8 +76,10 @@ std::size_t PlayedClip::picturesAfter(const host::ClipFrame& frame) const {
 }
 
 bool PlayedClip::needsSeek(double moment_s) const {
-    if (m_window.empty()) return moment_s > longestWalk_s;
-    return moment_s + timeTolerance_s < m_window.front().time_s || moment_s > m_window.back().time_s + longestWalk_s;
+    if (!m_window.empty() && moment_s + timeTolerance_s < m_window.front().time_s) return true;
+    // The key picture may be far before the moment: from there on it is walked, not sought again.
+    const double reached_s = std::max(m_window.empty() ? 0 : m_window.back().time_s, m_soughtMoment_s);
+    return moment_s > reached_s + longestWalk_s;
 }
 
 void PlayedClip::openFile() {
@@ -122,6 +124,7 @@ bool PlayedClip::decodeOne() {
         if (seeks) {
             m_window.clear();
             m_windowReachesEnd = false;
+            m_soughtMoment_s = wanted_s;
         }
     }
     if (seeks) m_video->seek(wanted_s);

@@ -54,6 +54,7 @@ private:
     double m_duration_s = 0;
     double m_wanted_s = 0;             // in [0, duration)
     std::deque<host::ClipFrame> m_window; // ascending times
+    double m_soughtMoment_s = 0;          // what the decoder was last sent to
     bool m_windowReachesEnd = false;   // nothing follows the last picture before the clip starts again
     bool m_isQueued = false;
     host::ClipFrame m_lastShown;

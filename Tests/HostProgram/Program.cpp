@@ -1,0 +1,123 @@
+#include "Tests/HostProgram/Program.hpp"
+
+#include <atomic>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace hostprogram {
+
+namespace {
+
+std::string bytesOf(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+std::string quoted(const std::string& argument) {
+    std::string result = "'";
+    for (const char c : argument) {
+        if (c == '\'') result += "'\\''";
+        else result += c;
+    }
+    return result + "'";
+}
+
+std::vector<std::string> lines(const std::string& text) {
+    std::istringstream stream(text);
+    std::vector<std::string> result;
+    for (std::string line; std::getline(stream, line);) result.push_back(line);
+    return result;
+}
+
+void collectTexts(const Json& node, std::vector<std::string>& result) {
+    if (node.contains("text")) result.push_back(node["text"]);
+    if (!node.contains("children")) return;
+    for (const Json& child : node["children"]) collectTexts(child, result);
+}
+
+} // namespace
+
+std::vector<Json> Outcome::events() const {
+    std::vector<Json> result;
+    for (const std::string& line : lines(output)) result.push_back(Json::parse(line));
+    return result;
+}
+
+std::vector<Json> Outcome::events(const std::string& kind) const {
+    std::vector<Json> result;
+    for (Json& event : events())
+        if (event["event"] == kind) result.push_back(std::move(event));
+    return result;
+}
+
+std::vector<std::string> Outcome::errorLines() const { return lines(errors); }
+
+Folder::Folder() {
+    static std::atomic<int> count = 0;
+    m_path = std::filesystem::temp_directory_path() / ("proupsells-test-" + std::to_string(getpid()) + "-" + std::to_string(count++));
+    std::filesystem::create_directories(m_path);
+}
+
+Folder::~Folder() {
+    std::error_code error;
+    std::filesystem::remove_all(m_path, error);
+}
+
+std::filesystem::path Folder::write(const std::string& name, const std::string& bytes) const {
+    const auto file = m_path / name;
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << bytes;
+    return file;
+}
+
+Outcome runProgram(const std::vector<std::string>& arguments) {
+    const Folder folder;
+    std::string command = quoted(PROUPSELLS_PROGRAM);
+    for (const std::string& argument : arguments) command += " " + quoted(argument);
+    command += " > " + quoted(folder.path() / "output") + " 2> " + quoted(folder.path() / "errors") + " < /dev/null";
+    const int status = std::system(command.c_str());
+    Outcome outcome;
+    outcome.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    outcome.output = bytesOf(folder.path() / "output");
+    outcome.errors = bytesOf(folder.path() / "errors");
+    return outcome;
+}
+
+Outcome play(const Json& scenario) {
+    const Folder folder;
+    Json whole = scenario;
+    if (!whole.contains("offers")) whole["offers"] = sampleOffers();
+    if (!whole["device"].contains("fonts")) whole["device"]["fonts"] = "fixed";
+    return runProgram({"run", folder.write("scenario.json", whole).string(), "--out", folder.path().string()});
+}
+
+Json sampleOffers() {
+    return Json::parse(R"({
+      "options": [
+        { "SKU": "pro.yearly", "type": "yearly", "price": "$99.99", "monthlyEffectivePrice": "$8.33", "introductoryPeriodLength": "1 week" },
+        { "SKU": "pro.monthly", "type": "monthly", "price": "$14.99" },
+        { "SKU": "pro.forever", "type": "lifetime", "price": "$299.99" }
+      ],
+      "referrer": { "name": "Home", "elementID": 5 }
+    })");
+}
+
+Json find(const Json& root, const std::string& identifier) {
+    if (root.contains("identifier") && root["identifier"] == identifier) return root;
+    if (root.contains("children"))
+        for (const Json& child : root["children"])
+            if (Json found = find(child, identifier); !found.is_null()) return found;
+    return nullptr;
+}
+
+std::vector<std::string> texts(const Json& root) {
+    std::vector<std::string> result;
+    collectTexts(root, result);
+    return result;
+}
+
+} // namespace hostprogram
