@@ -1,5 +1,6 @@
 #include "ProUpsells/FeatureChildRow.hpp"
 
+#include "Platform/LumoKit/LargestTextSize.hpp"
 #include "Platform/LumoKit/TextStyle.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
 #include "ProUpsells/CheckIcon.hpp"
@@ -9,6 +10,13 @@
 namespace proupsells {
 
 using namespace swiftui;
+
+namespace {
+
+// Larger words than these would be broken beside the two columns of a small screen.
+const auto largestRowTextSize = lumokit::largestTextSize(graphics::ContentSizeCategory::extraExtraExtraLarge);
+
+} // namespace
 
 View FeatureChildRow::freeCell() const {
     if (feature.distribution.isFree()) return CheckIcon{} | accessibilityLabel(ComparisonCatalogue::freeHeading());
@@ -22,7 +30,7 @@ View FeatureChildRow::body(BuildContext&) const {
                       {
                           Text{feature.name} |
                               lumokit::textStyle(lumokit::TextStyle::based(lumokit::PlatformTextStyle::subheadline, 15, 15)) |
-                              fixedSize(false, true),
+                              fixedSize(false, true) | largestRowTextSize,
                           Spacer{},
                           HStack{.spacing = 40,
                                  .content = {freeCell(), CheckIcon{} | accessibilityLabel(ComparisonCatalogue::proHeading())}},

@@ -14,24 +14,28 @@ using namespace swiftui;
 using accessibility::Traits;
 using lumokit::ContentColor::primary;
 
-View RadioPickerButton::titleRow() const {
-    return HStack{.spacing = 8,
-                  .content = {
-                      Text{item.title} | lumokit::textStyle(lumokit::bodyLarge) |
-                          multilineTextAlignment(graphics::TextAlignment::leading) | foregroundStyle(primary),
-                      item.offersTrial() ? FreeTrialCapsule{} | accessibilityLabel("Free Trial Capsule") |
-                                               accessibilityIdentifier("trial." + item.id)
-                                         : View{},
-                  }};
+View RadioPickerButton::titleRow(graphics::ContentSizeCategory textSize) const {
+    const ViewList content{
+        Text{item.title} | lumokit::textStyle(lumokit::bodyLarge) | multilineTextAlignment(graphics::TextAlignment::leading) |
+            foregroundStyle(primary),
+        item.offersTrial()
+            ? FreeTrialCapsule{} | accessibilityLabel("Free Trial Capsule") | accessibilityIdentifier("trial." + item.id)
+            : View{},
+    };
+    // At the largest text sizes the two do not fit beside each other.
+    if (textSize >= graphics::ContentSizeCategory::accessibilityMedium)
+        return VStack{.alignment = HorizontalAlignment::leading, .spacing = 8, .content = content};
+    return HStack{.spacing = 8, .content = content};
 }
 
-View RadioPickerButton::card() const {
+View RadioPickerButton::card(graphics::ContentSizeCategory textSize) const {
     return HStack{.spacing = 8,
                   .content =
                       {
                           VStack{.alignment = HorizontalAlignment::leading,
                                  .spacing = 8,
-                                 .content = {titleRow(), Text{item.subtitle} | foregroundStyle(velauikit::velaSecondaryLabel)}},
+                                 .content = {titleRow(textSize),
+                                             Text{item.subtitle} | foregroundStyle(velauikit::velaSecondaryLabel)}},
                           Spacer{},
                           RadioPickerSelectionIndicator{selected} | accessibilityLabel("Selection Indicator"),
                       }} |
@@ -59,13 +63,13 @@ std::string RadioPickerButton::spokenLabel() const {
     return start == std::string::npos ? item.title : item.title + ", " + price.substr(start);
 }
 
-View RadioPickerButton::body(BuildContext&) const {
+View RadioPickerButton::body(BuildContext& context) const {
     return Button{.action =
                       [this] {
                           const Action run = action;
                           run();
                       },
-                  .label = card()} |
+                  .label = card(context.environment().contentSize)} |
            buttonStyle(ButtonStyle::plain()) | accessibilityIdentifier("plan." + item.id) | accessibilityLabel(spokenLabel()) |
            accessibilityTraits(selected ? Traits::selected : Traits::none) | overlay(selectedBorder()) |
            overlay(badge(), Alignment::topTrailing);

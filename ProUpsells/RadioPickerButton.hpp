@@ -16,8 +16,8 @@ struct RadioPickerButton {
     bool operator==(const RadioPickerButton&) const = default;
 
 private:
-    swiftui::View titleRow() const;
-    swiftui::View card() const;
+    swiftui::View titleRow(graphics::ContentSizeCategory textSize) const;
+    swiftui::View card(graphics::ContentSizeCategory textSize) const;
     swiftui::View selectedBorder() const;
     swiftui::View badge() const;
     std::string spokenLabel() const;

@@ -1,5 +1,6 @@
 #include "ProUpsells/RadioPickerButtonBadge.hpp"
 
+#include "Platform/LumoKit/LargestTextSize.hpp"
 #include "Platform/SwiftUI/Modifiers/EnvironmentModifiers.hpp"
 #include "Platform/SwiftUI/Modifiers/LayoutModifiers.hpp"
 #include "Platform/SwiftUI/Views/Shapes.hpp"
@@ -13,6 +14,7 @@ using namespace swiftui;
 
 View RadioPickerButtonBadge::body(BuildContext&) const {
     return Text{text} | font(velauikit::quenbyBold(10)) | textCase(TextCase::uppercase) |
+           lumokit::largestTextSize(graphics::ContentSizeCategory::extraExtraExtraLarge) |
            foregroundStyle(velauikit::velaLightText) | padding(Edge::vertical, 2) | padding(Edge::horizontal, 4) |
            background(RoundedRectangle(2).fill());
 }

@@ -19,6 +19,8 @@ struct TextStyle {
     // The share of its size down to which a text is shown smaller instead of being cut.
     double minimumScaleFactor = 1;
     swiftui::TextCase textCase = swiftui::TextCase::asWritten;
+    // The person's text size up to which the style grows.
+    graphics::ContentSizeCategory largestTextSize = graphics::ContentSizeCategory::accessibilityExtraExtraExtraLarge;
 
     // A style of the platform's, with sizes of one's own.
     static TextStyle based(PlatformTextStyle base, double compactSize, double regularSize, double minimumScaleFactor = 1);

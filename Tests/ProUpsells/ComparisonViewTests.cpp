@@ -5,6 +5,7 @@
 #include "Platform/UIKit/Controllers/UINavigationController.hpp"
 #include "ProUpsells/ComparisonViewController.hpp"
 #include "ProUpsells/ScaledRect.hpp"
+#include "Tests/ProUpsells/FixedMetrics.hpp"
 #include "Tests/ProUpsells/Screen.hpp"
 
 namespace proupsells::testing {
@@ -307,6 +308,21 @@ TEST(ComparisonView, PaintsOnlyWhatCanBeSeenOfALongCatalogue) {
     comparison.window().paint(list);
 
     EXPECT_LT(list.commands.size(), 100u);
+}
+
+TEST(ComparisonView, CutsNoTextAndBreaksNoWordAtAnyTextSize) {
+    for (int category = 0; category < graphics::contentSizeCategoryCount; ++category) {
+        ScreenOptions options;
+        options.traits.preferredContentSizeCategory = graphics::ContentSizeCategory(category);
+        for (const double width : {320.0, 375.0}) {
+            const Comparison comparison({width, 1400}, options);
+            visit(comparison.tree(), [&](const accessibility::Node& node) {
+                if (!node.text) return;
+                EXPECT_FALSE(node.text->isTruncated) << node.text->text << " at " << category << ", " << width;
+                EXPECT_THAT(brokenWords(node), IsEmpty()) << " at " << category << ", " << width;
+            });
+        }
+    }
 }
 
 TEST(ScaledRect, KeepsAShareOfTheHeight) {

@@ -3,8 +3,11 @@
 #pragma once
 
 #include <algorithm>
+#include <sstream>
 #include <string>
 #include <vector>
+
+#include "Platform/Accessibility/Node.hpp"
 
 namespace proupsells::testing {
 
@@ -34,6 +37,16 @@ inline std::vector<double> lineWidths(const std::string& text, double size, doub
     }
     lines.push_back(textWidth(line, size));
     return lines;
+}
+
+// The words of a plain text that are wider than its frame, so that they stand on more than one line.
+inline std::vector<std::string> brokenWords(const accessibility::Node& node) {
+    std::vector<std::string> result;
+    if (!node.text || !node.text->runs.empty()) return result;
+    std::istringstream words(node.text->text);
+    for (std::string word; words >> word;)
+        if (textWidth(word, node.text->size) > node.frame.width() + 1e-6) result.push_back(word);
+    return result;
 }
 
 } // namespace proupsells::testing

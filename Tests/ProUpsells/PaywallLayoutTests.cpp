@@ -9,6 +9,7 @@ namespace {
 
 using geometry::Rect;
 using geometry::Size;
+using ::testing::IsEmpty;
 
 constexpr double spacing = 8, inset = 16;
 
@@ -198,16 +199,29 @@ TEST(PaywallLayout, CutsNoText) {
     }
 }
 
-TEST(PaywallLayout, CutsNoTextAtTheLargestTextSize) {
+TEST(PaywallLayout, CutsNoTextAndBreaksNoWordAtTheLargestTextSize) {
     ScreenOptions largest;
     largest.traits.preferredContentSizeCategory = graphics::ContentSizeCategory::accessibilityExtraExtraExtraLarge;
-    const Paywall paywall(yearlyTrialAndMonthly(), {375, 800}, largest);
 
-    visit(paywall.tree(), [&](const accessibility::Node& node) {
-        if (node.text) {
+    for (const double width : {320.0, 375.0}) {
+        const Paywall paywall(yearlyTrialAndMonthly(), {width, 800}, largest);
+        visit(paywall.tree(), [](const accessibility::Node& node) {
+            if (!node.text) return;
             EXPECT_FALSE(node.text->isTruncated) << node.text->text;
-        }
-    });
+            EXPECT_THAT(brokenWords(node), IsEmpty());
+        });
+    }
+}
+
+TEST(PaywallLayout, PutsTheTrialUnderTheTitleWhereTheyDoNotFitBesideEachOther) {
+    ScreenOptions large;
+    large.traits.preferredContentSizeCategory = graphics::ContentSizeCategory::accessibilityMedium;
+    const Paywall paywall(yearlyTrialAndMonthly(), {375, 800}, large);
+    const auto title =
+        allWhere(paywall.tree(), [](const auto& node) { return node.text && node.text->text == "Annually"; }).front();
+
+    EXPECT_EQ(paywall.frame("trial.pro.yearly").minX(), title.frame.minX());
+    EXPECT_EQ(paywall.frame("trial.pro.yearly").minY(), title.frame.maxY() + spacing);
 }
 
 } // namespace
