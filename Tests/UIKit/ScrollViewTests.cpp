@@ -1,58 +1,12 @@
 #include "Platform/UIKit/Controls/UIControl.hpp"
-#include "Platform/UIKit/Views/UIScrollView.hpp"
-#include "Tests/UIKit/Screen.hpp"
+#include "Tests/UIKit/ScrollScene.hpp"
 
 namespace uikit {
 namespace {
 
 using geometry::Point;
-using geometry::Rect;
-using geometry::Size;
 using testing::DoubleNear;
 using testing::ElementsAre;
-using testing::IsEmpty;
-
-class RecordingScrollDelegate : public UIScrollViewDelegate {
-public:
-    void scrollViewDidScroll(UIScrollView&) override { ++scrollCount; }
-    void scrollViewWillBeginDragging(UIScrollView&) override { calls.push_back("willBeginDragging"); }
-    void scrollViewDidEndDragging(UIScrollView&, bool goesOn) override {
-        calls.push_back(goesOn ? "didEndDragging, goes on" : "didEndDragging");
-    }
-    void scrollViewDidEndDecelerating(UIScrollView&) override { calls.push_back("didEndDecelerating"); }
-    void scrollViewDidEndScrollingAnimation(UIScrollView&) override { calls.push_back("didEndScrollingAnimation"); }
-
-    Calls calls;
-    int scrollCount = 0;
-};
-
-// A list of 2,000 points in a window of 800.
-class ScrollViewTest : public ScreenTest {
-protected:
-    ScrollViewTest() : root(showRoot()), list(std::make_shared<UIScrollView>()), content(viewAt({{0, 0}, {375, 2000}})) {
-        root->view()->addSubview(list);
-        list->setFrame({{0, 0}, {375, 800}});
-        list->addSubview(content);
-        list->setContentSize({375, 2000});
-        bed.settle();
-    }
-
-    void move(Point location) { touch(host::TouchPhase::moved, location); }
-    // In steps of 1/100 s.
-    void drag(Point from, Point to, int steps = 10) {
-        touch(host::TouchPhase::began, from);
-        for (int i = 1; i <= steps; ++i) {
-            bed.runFor(0.01);
-            move({from.x + (to.x - from.x) * i / steps, from.y + (to.y - from.y) * i / steps});
-        }
-    }
-    void lift(Point location) { touch(host::TouchPhase::ended, location); }
-    double y() const { return list->contentOffset().y; }
-
-    std::shared_ptr<RecordingController> root;
-    std::shared_ptr<UIScrollView> list;
-    std::shared_ptr<UIView> content;
-};
 
 // --- Offsets that the program sets ---
 
@@ -299,139 +253,6 @@ TEST_F(ScrollViewTest, AControlLosesItsTouchToADrag) {
 
     EXPECT_THAT(actions, ElementsAre("cancel"));
     EXPECT_EQ(y(), 20);
-}
-
-// --- A strip in a list ---
-
-class NestedScrollTest : public ScrollViewTest {
-protected:
-    NestedScrollTest() : strip(std::make_shared<UIScrollView>()) {
-        content->addSubview(strip);
-        strip->setFrame({{0, 100}, {375, 100}});
-        strip->addSubview(viewAt({{0, 0}, {1000, 100}}));
-        strip->setContentSize({1000, 100});
-    }
-    std::shared_ptr<UIScrollView> strip;
-};
-
-TEST_F(NestedScrollTest, TheDirectionOfTheMovementDecides) {
-    drag({200, 150}, {160, 145});
-    EXPECT_EQ(strip->contentOffset(), (Point{30, 0}));
-    EXPECT_EQ(y(), 0);
-    lift({160, 145});
-    bed.runFor(5);
-
-    drag({200, 150}, {195, 110});
-    EXPECT_EQ(y(), 30);
-    EXPECT_FALSE(strip->isTracking());
-}
-
-TEST_F(NestedScrollTest, OnceAStripIsDraggedTheListLeavesItAlone) {
-    drag({200, 150}, {160, 150});
-    move({160, 400});
-
-    EXPECT_TRUE(strip->isDragging());
-    EXPECT_FALSE(list->isTracking());
-    EXPECT_EQ(y(), 0);
-}
-
-TEST_F(NestedScrollTest, WheelsMoveWhatCanMoveInTheirDirection) {
-    window->scroll({100, 150}, {0, 40});
-    EXPECT_EQ(y(), 40);
-    window->scroll({100, 150}, {50, 0});
-    EXPECT_EQ(strip->contentOffset().x, 50);
-    window->scroll({100, 150}, {-500, 0});
-    EXPECT_EQ(strip->contentOffset().x, 0);
-}
-
-TEST_F(NestedScrollTest, WhatIsToBeSeenIsScrolledToInAllScrollViewsAroundIt) {
-    strip->setFrame({{0, 1500}, {375, 100}});
-    const auto item = viewAt({{900, 0}, {50, 100}});
-    item->accessibilityIdentifier = "item";
-    strip->subviews()[0]->addSubview(item);
-
-    item->scrollRectToVisible(item->bounds());
-    EXPECT_EQ(strip->contentOffset().x, 950 - 375);
-    EXPECT_EQ(y(), 1600 - 800);
-    item->scrollRectToVisible(item->bounds());
-    EXPECT_EQ(y(), 800);
-
-    list->setContentOffset({});
-    strip->setContentOffset({});
-    accessibility::findByIdentifier(window->semanticTree(), "item")->reveal();
-    EXPECT_TRUE(accessibility::findByIdentifier(window->semanticTree(), "item")->isOnScreen);
-}
-
-// --- Insets ---
-
-TEST_F(ScrollViewTest, InsetsWidenTheRange) {
-    list->setContentInset({.bottom = 136});
-    window->scroll({10, 10}, {0, 5000});
-    EXPECT_EQ(y(), 1336);
-
-    list->setContentOffset({});
-    list->setContentInset({.top = 20, .bottom = 136});
-    EXPECT_EQ(y(), -20); // stays at its start
-}
-
-TEST_F(ScrollViewTest, SafeAreasCountAsInsetsUnlessTheyMustNot) {
-    window->setSize({375, 800}, {.top = 44, .left = 10, .bottom = 34});
-    bed.settle();
-    EXPECT_EQ(list->adjustedContentInset(), (geometry::PhysicalInsets{.top = 44, .bottom = 34}));
-    EXPECT_EQ(y(), -44);
-
-    list->setContentInsetAdjustmentBehavior(UIScrollView::ContentInsetAdjustmentBehavior::never);
-    EXPECT_EQ(list->adjustedContentInset(), (geometry::PhysicalInsets{}));
-    EXPECT_EQ(y(), 0);
-}
-
-// --- Picture ---
-
-TEST_F(ScrollViewTest, OnlyWhatCanBeSeenIsPainted) {
-    for (int i = 0; i < 20; ++i) {
-        const auto row = viewAt({{0, 100.0 * i}, {375, 100}});
-        row->setBackgroundColor(UIColor::black);
-        list->addSubview(row);
-    }
-    list->setShowsVerticalScrollIndicator(false);
-    list->setContentOffset({0, 950});
-
-    const auto commands = painted().commands;
-
-    ASSERT_EQ(commands.size(), 9u);
-    EXPECT_EQ(commands[0].frame, (Rect{{0, -50}, {375, 100}}));
-    EXPECT_EQ(commands[0].clip, (Rect{{0, 0}, {375, 800}}));
-}
-
-TEST_F(ScrollViewTest, AnIndicatorShowsWhileContentMovesAndFadesAfterwards) {
-    EXPECT_THAT(painted().commands, IsEmpty());
-    drag({100, 600}, {100, 490});
-    ASSERT_EQ(painted().commands.size(), 1u);
-    // 800 of 2,000 on a track of 794, 100 of 1,200 down.
-    EXPECT_THAT(painted().commands[0].frame.height(), DoubleNear(794 * 0.4, 1e-6));
-    EXPECT_THAT(painted().commands[0].frame.minY(), DoubleNear(3 + 794 * 0.6 / 12, 1e-6));
-
-    touch(host::TouchPhase::cancelled, {100, 490});
-    bed.runFor(0.5);
-    EXPECT_LT(painted().commands[0].opacity, 1);
-    EXPECT_TRUE(window->isAnimating());
-    bed.runFor(0.5);
-
-    EXPECT_THAT(painted().commands, IsEmpty());
-    EXPECT_FALSE(window->isAnimating());
-}
-
-TEST_F(ScrollViewTest, SaysHowFarItIsScrolled) {
-    list->setContentInset({.bottom = 102});
-    list->setContentOffset({0, 40});
-
-    const accessibility::Node node = window->semanticTree().children.at(0);
-
-    EXPECT_EQ(node.type, "UIScrollView");
-    EXPECT_EQ(node.scroll->contentOffset, (Point{0, 40}));
-    EXPECT_EQ(node.scroll->contentSize, (Size{375, 2000}));
-    EXPECT_EQ(node.scroll->contentInset.bottom, 102);
-    EXPECT_EQ(node.children.at(0).frame, (Rect{{0, -40}, {375, 2000}}));
 }
 
 TEST_F(ScrollViewTest, MayGoAwayWhileItMoves) {

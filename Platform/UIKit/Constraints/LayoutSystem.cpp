@@ -22,13 +22,15 @@ std::uint64_t systemsSolved = 0;
 std::uint64_t LayoutSystem::solvedCount() { return systemsSolved; }
 
 void LayoutSystem::place(UIView& root) {
-    if (m_isPlacing) return;
-    m_isPlacing = true;
+    // Whoever is told of a new frame may ask for another layout; that one waits until this one has ended.
+    m_mustPlaceAgain = m_isPlacing;
+    if (std::exchange(m_isPlacing, true)) return;
     const Outcome outcome = solve(root, LayoutProblem::Purpose::place, {});
     report(outcome.problem, m_solutions.back());
     setFrames(outcome);
     setContentSizes(outcome);
     m_isPlacing = false;
+    if (m_mustPlaceAgain) root.setNeedsLayout();
 }
 
 geometry::Size LayoutSystem::fittingSize(UIView& root, const geometry::ProposedSize& proposal) {

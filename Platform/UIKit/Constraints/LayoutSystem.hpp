@@ -13,8 +13,6 @@ public:
     // activated before them are left out, with one log line for each.
     void place(UIView& root);
     geometry::Size fittingSize(UIView& root, const geometry::ProposedSize& proposal);
-    // While it sets frames.
-    bool isPlacing() const { return m_isPlacing; }
 
     // How many systems of constraints the process has solved so far, for measurements.
     static std::uint64_t solvedCount();
@@ -40,6 +38,7 @@ private:
 
     std::vector<Solution> m_solutions; // the one used last is the last one
     bool m_isPlacing = false;
+    bool m_mustPlaceAgain = false;
 };
 
 } // namespace uikit

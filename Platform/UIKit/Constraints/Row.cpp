@@ -14,6 +14,7 @@ bool isNothing(double coefficient) { return std::abs(coefficient) < rowTolerance
 } // namespace
 
 double Row::coefficientOf(Symbol symbol) const {
+    if (m_cells.empty() || symbol < m_cells.front().symbol || symbol > m_cells.back().symbol) return 0;
     const auto found = std::lower_bound(m_cells.begin(), m_cells.end(), symbol, comesBefore);
     return found != m_cells.end() && found->symbol == symbol ? found->coefficient : 0;
 }
@@ -46,6 +47,14 @@ void Row::add(const Row& other, double factor) {
 void Row::remove(Symbol symbol) {
     const auto found = std::lower_bound(m_cells.begin(), m_cells.end(), symbol, comesBefore);
     if (found != m_cells.end() && found->symbol == symbol) m_cells.erase(found);
+}
+
+void Row::removeAllOf(const Row& other) {
+    auto theirs = other.m_cells.begin();
+    std::erase_if(m_cells, [&](const Cell& cell) {
+        while (theirs != other.m_cells.end() && theirs->symbol < cell.symbol) ++theirs;
+        return theirs != other.m_cells.end() && theirs->symbol == cell.symbol;
+    });
 }
 
 void Row::scale(double factor) {

@@ -27,6 +27,8 @@ public:
     // Adds `factor` times the other row.
     void add(const Row& other, double factor);
     void remove(Symbol symbol);
+    // Takes out every symbol that the other row has.
+    void removeAllOf(const Row& other);
     void scale(double factor);
     // The row says that it is 0; turns it into what `symbol` equals. The symbol must be in it.
     void solveFor(Symbol symbol);

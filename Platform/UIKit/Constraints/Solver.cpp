@@ -5,6 +5,7 @@
 #include <limits>
 #include <map>
 #include <optional>
+#include <utility>
 
 #include "Platform/UIKit/Constraints/Row.hpp"
 
@@ -34,26 +35,32 @@ bool holds(double value, Relation relation) {
 struct Solver::Tableau {
     std::vector<SymbolKind> kinds;
     std::vector<Symbol> symbolOfVariable;
-    std::map<Symbol, Row> rows;
+    struct Basic {
+        Symbol symbol;
+        Row row;
+    };
+    std::vector<Basic> basics;           // in no order
+    std::vector<std::ptrdiff_t> placeOf; // of each symbol among them; -1 for those that are not basic
     // The sum of the errors of each priority, the highest first, written in symbols that are not basic.
     std::map<double, Row, std::greater<>> objectives;
 
     Symbol makeSymbol(SymbolKind kind) {
         kinds.push_back(kind);
+        placeOf.push_back(-1);
         return static_cast<Symbol>(kinds.size() - 1);
     }
 
     bool isRestricted(Symbol symbol) const { return kinds[symbol] != SymbolKind::variable; }
 
     void substituteEverywhere(Symbol symbol, const Row& row) {
-        for (auto& [basic, other] : rows) other.substitute(symbol, row);
+        for (Basic& basic : basics) basic.row.substitute(symbol, row);
         for (auto& [priority, objective] : objectives) objective.substitute(symbol, row);
     }
 
     // Puts `add` of a symbol, basic or not, into a row.
     void addTo(Row& row, Symbol symbol, double coefficient) const {
-        if (const auto basic = rows.find(symbol); basic != rows.end())
-            row.add(basic->second, coefficient);
+        if (const Row* basic = rowOfBasic(symbol))
+            row.add(*basic, coefficient);
         else
             row.add(symbol, coefficient);
     }
@@ -110,40 +117,64 @@ struct Solver::Tableau {
     void makeBasic(Symbol symbol, Row row) {
         row.solveFor(symbol);
         substituteEverywhere(symbol, row);
-        rows.emplace(symbol, std::move(row));
+        insert(symbol, std::move(row));
     }
+
+    void insert(Symbol symbol, Row row) {
+        placeOf[symbol] = std::ptrdiff_t(basics.size());
+        basics.push_back({symbol, std::move(row)});
+    }
+
+    // Makes the symbol one that is not basic.
+    Row takeRowOf(Symbol symbol) {
+        const auto place = std::size_t(std::exchange(placeOf[symbol], -1));
+        Row row = std::move(basics[place].row);
+        if (place + 1 < basics.size()) {
+            basics[place] = std::move(basics.back());
+            placeOf[basics[place].symbol] = std::ptrdiff_t(place);
+        }
+        basics.pop_back();
+        return row;
+    }
+
+    // What a symbol equals; null for one that is not basic.
+    const Row* rowOfBasic(Symbol symbol) const { return placeOf[symbol] < 0 ? nullptr : &basics[std::size_t(placeOf[symbol])].row; }
 
     // The basic restricted symbol that is the first to reach 0 when `entering` grows; absent when none does.
     std::optional<Symbol> leavingFor(Symbol entering) const {
         std::optional<Symbol> leaving;
         double smallest = std::numeric_limits<double>::infinity();
-        for (const auto& [basic, row] : rows) {
-            if (!isRestricted(basic)) continue;
-            const double coefficient = row.coefficientOf(entering);
-            if (coefficient >= 0) continue;
-            const double ratio = -row.constant / coefficient;
+        for (const Basic& basic : basics) {
+            const double coefficient = basic.row.coefficientOf(entering);
+            if (coefficient >= 0 || !isRestricted(basic.symbol)) continue;
+            const double ratio = -basic.row.constant / coefficient;
             // Among equals the smallest number leaves: with the same rule for who enters, no cycle is possible (Bland).
-            if (ratio < smallest - rowTolerance) {
-                smallest = ratio;
-                leaving = basic;
-            }
+            const bool isEqual = std::abs(ratio - smallest) <= rowTolerance;
+            if (isEqual ? basic.symbol < *leaving : ratio < smallest) leaving = basic.symbol;
+            smallest = std::min(smallest, ratio);
         }
         return leaving;
     }
 
     void pivot(Symbol entering, Symbol leaving) {
-        Row row = std::move(rows.at(leaving));
-        rows.erase(leaving);
+        Row row = takeRowOf(leaving);
         row.add(leaving, -1);
         makeBasic(entering, std::move(row));
     }
 
+    // Priority by priority: what has made one of them worse by growing is no longer free to grow for the ones below.
     void optimize() {
-        while (const std::optional<Symbol> entering = enteringOfAll()) {
-            if (const auto leaving = leavingFor(*entering))
-                pivot(*entering, *leaving);
-            else // no error can grow below 0, so this is a trace of rounding
-                for (auto& [priority, objective] : objectives) objective.remove(*entering);
+        for (auto& [priority, objective] : objectives) {
+            while (const std::optional<Symbol> entering = enteringOf(objective)) {
+                if (const auto leaving = leavingFor(*entering))
+                    pivot(*entering, *leaving);
+                else
+                    objective.remove(*entering); // no error can grow below 0, so this is a trace of rounding
+            }
+            const Row settled = std::move(objective);
+            objective = {};
+            for (Basic& basic : basics) basic.row.removeAllOf(settled);
+            for (auto& [other, later] : objectives) later.removeAllOf(settled);
         }
     }
 
@@ -154,49 +185,29 @@ struct Solver::Tableau {
         return std::nullopt;
     }
 
-    // A symbol may enter when the first priority that it matters to gains by it.
-    std::optional<Symbol> enteringOfAll() const {
-        std::optional<Symbol> best;
-        for (auto objective = objectives.begin(); objective != objectives.end(); ++objective) {
-            for (const Row::Cell& cell : objective->second.cells()) {
-                if (best && cell.symbol >= *best) break;
-                if (cell.coefficient >= -rowTolerance) continue;
-                if (!mattersBefore(objective, cell.symbol)) best = cell.symbol;
-            }
-        }
-        return best;
-    }
-
-    template <class Iterator>
-    bool mattersBefore(Iterator end, Symbol symbol) const {
-        for (auto objective = objectives.begin(); objective != end; ++objective)
-            if (objective->second.coefficientOf(symbol) != 0) return true;
-        return false;
-    }
-
     // Makes room for a row of which no symbol can become basic at once, by way of an artificial symbol that is driven to 0.
     bool addByArtificialSymbol(Row row) {
         if (row.constant < 0) row.scale(-1);
         const Symbol artificial = makeSymbol(SymbolKind::slack);
         Row objective = row;
-        rows.emplace(artificial, std::move(row));
+        insert(artificial, std::move(row));
         for (;;) {
             const auto entering = enteringOf(objective);
             if (!entering) break;
             const auto leaving = leavingFor(*entering);
             if (!leaving) break;
             pivot(*entering, *leaving);
-            objective.substitute(*entering, rows.at(*entering));
+            objective.substitute(*entering, *rowOfBasic(*entering));
         }
         if (std::abs(objective.constant) > infeasibility) return false;
 
-        if (const auto basic = rows.find(artificial); basic != rows.end()) {
-            if (basic->second.cells().empty())
-                rows.erase(basic);
+        if (const Row* remaining = rowOfBasic(artificial)) {
+            if (remaining->cells().empty())
+                takeRowOf(artificial);
             else
-                pivot(basic->second.cells().front().symbol, artificial);
+                pivot(remaining->cells().front().symbol, artificial);
         }
-        for (auto& [basic, other] : rows) other.remove(artificial);
+        for (Basic& basic : basics) basic.row.remove(artificial);
         for (auto& [priority, other] : objectives) other.remove(artificial);
         return true;
     }
@@ -238,8 +249,8 @@ bool Solver::add(const LinearConstraint& constraint) {
 void Solver::solve() { m_tableau->optimize(); }
 
 double Solver::value(Variable variable) const {
-    const auto row = m_tableau->rows.find(m_tableau->symbolOfVariable[variable]);
-    return row == m_tableau->rows.end() ? 0 : row->second.constant;
+    const Row* row = m_tableau->rowOfBasic(m_tableau->symbolOfVariable[variable]);
+    return row ? row->constant : 0;
 }
 
 } // namespace uikit::constraints

@@ -49,9 +49,9 @@ public:
     bool add(const LinearConstraint& constraint);
 
     // Finds values that keep every required constraint and, priority by priority from the highest down, the sum of the absolute
-    // errors as small as it can be.
+    // errors as small as it can be. Nothing may be added afterwards.
     void solve();
-    // As of the last solve(); 0 for a variable in no constraint.
+    // After solve(); 0 for a variable in no constraint.
     double value(Variable variable) const;
 
 private:

@@ -25,7 +25,6 @@ UIView& UIView::layoutRoot() {
 
 void UIView::layoutSystemDidChange() {
     UIView& root = layoutRoot();
-    if (root.m_layoutSystem && root.m_layoutSystem->isPlacing()) return; // it knows
     root.setNeedsLayout();
     if (root.m_superview) root.m_superview->subviewDidInvalidateIntrinsicContentSize(root);
 }
