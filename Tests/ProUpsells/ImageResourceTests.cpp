@@ -44,6 +44,24 @@ TEST(ImageResource, SpellsItsNamesAsTheAssetsAreStored) {
     EXPECT_EQ(ImageResource::videoSectionImagesStorePageShelfImage().name, "videoSectionImages_StorePageShelfImage");
 }
 
+TEST(ImageResource, HasAnAssetForEachEntryOfTheCatalogue) {
+    headless::TestBed bed;
+
+    for (const ImageResource& resource :
+         {ImageResource::buttonArrowRight(), ImageResource::caretRight(), ImageResource::closeStorePageButton(),
+          ImageResource::fonts0StorePageShelfImage(), ImageResource::graphics0StorePageShelfImage(),
+          ImageResource::layoutCollections(), ImageResource::pdfs0StorePageShelfImage(), ImageResource::shapesStorePageShelfImage(),
+          ImageResource::subscriptionPromotionHeaderImage(), ImageResource::termsGradient(),
+          ImageResource::upsellValuePropositionCheckmark(), ImageResource::iCloudStorePageShelfImage(),
+          ImageResource::paywallHeaderA(), ImageResource::paywallHeaderB(), ImageResource::paywallHeaderC(),
+          ImageResource::paywallHeaderD(), ImageResource::videoSectionImagesStorePageShelfImage()}) {
+        const graphics::ImageRef picture = image(resource);
+        EXPECT_EQ(picture->name, resource.name);
+        EXPECT_GT(picture->size.width * picture->size.height, 0) << resource.name;
+        EXPECT_EQ(picture, image(resource)) << resource.name;
+    }
+}
+
 TEST(ImageResourceDeathTest, StopsTheProgramWhereThereIsNoSuchAsset) {
     headless::TestBed bed;
 
