@@ -49,7 +49,7 @@ View HeaderCarousel::bottomRow(const Binding<int>& currentPage) const {
                       {
                           Text{title} |
                               lumokit::textStyle(lumokit::TextStyle::based(lumokit::PlatformTextStyle::headline, 18, 24, 0.5)) |
-                              lumokit::largestTextSize(graphics::ContentSizeCategory::extraExtraExtraLarge) |
+                              lumokit::largestTextSize(graphics::ContentSizeCategory::extraLarge) |
                               foregroundStyle(lumokit::ContentColor::primary) | padding(Edge::bottom, 18) |
                               padding(Edge::leading, 10) | allowsHitTesting(false) | transition(titleTransition()) | id(title),
                           Spacer{},
