@@ -7,10 +7,29 @@
 
 namespace velauikit {
 
+namespace {
+
+using Faces = std::array<const graphics::FontFace*, 3>;
+
+const Faces& textFaces() {
+    static const Faces faces{&graphics::registerFontFace("Vela-Regular", "Inter", 400),
+                             &graphics::registerFontFace("Vela-Medium", "Inter", 500),
+                             &graphics::registerFontFace("Vela-Bold", "Inter", 700)};
+    return faces;
+}
+
+const Faces& displayFaces() {
+    static const Faces faces{&graphics::registerFontFace("Vela-Regular-Display", "Inter Display", 400),
+                             &graphics::registerFontFace("Vela-Medium-Display", "Inter Display", 500),
+                             &graphics::registerFontFace("Vela-Bold-Display", "Inter Display", 700)};
+    return faces;
+}
+
+} // namespace
+
 graphics::Font velaDefaultFont(FontOption option, double size) {
-    static const std::array<const graphics::FontFace*, 3> faces{&graphics::registerFontFace("Vela-Regular", "Inter", 400),
-                                                                &graphics::registerFontFace("Vela-Medium", "Inter", 500),
-                                                                &graphics::registerFontFace("Vela-Bold", "Inter", 700)};
+    constexpr double smallestDisplaySize = 20;
+    const Faces& faces = size < smallestDisplaySize ? textFaces() : displayFaces();
     const auto number = static_cast<std::size_t>(option);
     if (number >= faces.size()) commons::fatalError("The default font has no weight option " + std::to_string(number));
     return {.face = faces[number], .size = size, .name = "velaDefaultFont", .weightOption = static_cast<int>(number)};

@@ -10,7 +10,8 @@ namespace velauikit {
 // The default font's weight options, by number.
 enum class FontOption { regular = 0, medium = 1, bold = 2 };
 
-// The default font, Inter, at a size in points. An option that does not exist stops the program.
+// The default font, Inter, at a size in points; from 20 points on in its display cut, which runs tighter. An option that does not
+// exist stops the program.
 graphics::Font velaDefaultFont(FontOption option, double size);
 
 // A registered brand font, "Quenby-Bold" for instance, at a size in points. Stops the program when no such face is registered.

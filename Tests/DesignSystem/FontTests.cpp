@@ -17,6 +17,16 @@ TEST(DefaultFont, HasThreeWeightsByNumber) {
     EXPECT_EQ(velauikit::velaDefaultFont(FontOption(1), 16).size, 16);
 }
 
+TEST(DefaultFont, IsCutTighterForHeadlines) {
+    const auto text = velauikit::velaDefaultFont(FontOption::bold, 19.5),
+               headline = velauikit::velaDefaultFont(FontOption::bold, 20);
+
+    EXPECT_EQ(text.face->family, "Inter");
+    EXPECT_EQ(headline.face->family, "Inter Display");
+    EXPECT_EQ(headline.face->weight, 700);
+    EXPECT_EQ(headline.name, "velaDefaultFont");
+}
+
 TEST(DefaultFontDeathTest, StopsTheProgramForAWeightThatDoesNotExist) {
     EXPECT_DEATH((void)velauikit::velaDefaultFont(FontOption(3), 16), "no weight option 3");
 }
