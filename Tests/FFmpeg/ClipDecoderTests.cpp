@@ -113,6 +113,15 @@ TEST_F(ClipDecoder, DecodesAFileOnceForEverybody) {
     EXPECT_EQ(first->frameAt(0.5).picture, second->frameAt(0.5).picture);
 }
 
+TEST_F(ClipDecoder, ShowsWhiteAsWhite) {
+    LazyClipDecoder decoder = exactDecoder();
+
+    const auto frame = decoder.open("ProUpsells/Resources/Clips/StorePageBrandingVideo.mp4")->frameAt(0);
+
+    ASSERT_TRUE(frame.picture);
+    EXPECT_EQ(frame.picture->pixels.front(), 0xFFFFFFFFu);
+}
+
 TEST_F(ClipDecoder, KeepsLargePicturesSmall) {
     LazyClipDecoder decoder = exactDecoder();
 
