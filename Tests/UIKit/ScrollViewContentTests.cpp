@@ -120,6 +120,7 @@ TEST_F(ScrollViewTest, AnIndicatorShowsWhileContentMovesAndFadesAfterwards) {
     EXPECT_THAT(painted().commands[0].frame.height(), DoubleNear(794 * 0.4, 1e-6));
     EXPECT_THAT(painted().commands[0].frame.minY(), DoubleNear(3 + 794 * 0.6 / 12, 1e-6));
 
+    EXPECT_FALSE(window->isAnimating()); // a finger that rests asks for no frames
     touch(host::TouchPhase::cancelled, {100, 490});
     bed.runFor(0.5);
     EXPECT_LT(painted().commands[0].opacity, 1);

@@ -219,7 +219,8 @@ void UIScrollView::followTime() {
 bool UIScrollView::isAnimating() const {
     if (isHidden()) return false;
     if (m_movement && !m_movement->isOverAt(now_s())) return true;
-    if ((m_showsIndicators[0] || m_showsIndicators[1]) && now_s() < m_indicator.end_s()) return true;
+    const bool hasIndicator = showsIndicator(Axis::horizontal) || showsIndicator(Axis::vertical);
+    if (hasIndicator && !m_isDragging && now_s() < m_indicator.end_s()) return true;
     const geometry::Rect seen = bounds();
     for (const auto& subview : subviews())
         if ((!subview->transform().isIdentity() || subview->frame().intersects(seen)) && subview->isAnimating()) return true;
@@ -227,6 +228,11 @@ bool UIScrollView::isAnimating() const {
 }
 
 // --- Picture ---
+
+bool UIScrollView::showsIndicator(Axis axis) const {
+    const motion::ScrollRange range = rangeAlong(axis);
+    return m_showsIndicators[std::size_t(axis)] && range.maximum > range.minimum;
+}
 
 void UIScrollView::setShowsVerticalScrollIndicator(bool shows) {
     m_showsIndicators[std::size_t(Axis::vertical)] = shows;
@@ -247,7 +253,7 @@ void UIScrollView::paintSubviews(graphics::PaintContext& context, const graphics
         if (mayBeSeen) subview->paint(context, state);
     }
     for (const Axis axis : {Axis::horizontal, Axis::vertical})
-        if (m_showsIndicators[std::size_t(axis)]) paintIndicator(axis, context, state);
+        if (showsIndicator(axis)) paintIndicator(axis, context, state);
 }
 
 void UIScrollView::paintIndicator(Axis axis, graphics::PaintContext& context, const graphics::PaintState& state) const {

@@ -123,6 +123,8 @@ private:
     void finishMovement();
     void applyOffset(geometry::Point offset);
     void tellDelegate(void (UIScrollViewDelegate::*call)(UIScrollView&));
+    // Whether there is something that a bar could show.
+    bool showsIndicator(Axis axis) const;
     void paintIndicator(Axis axis, graphics::PaintContext& context, const graphics::PaintState& state) const;
 
     std::weak_ptr<UIScrollViewDelegate> m_delegate;
