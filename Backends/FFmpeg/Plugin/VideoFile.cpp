@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -38,6 +39,7 @@ struct VideoFile::Contexts {
     SwsContext* scaler = nullptr;
     AVPacket* packet = av_packet_alloc();
     AVFrame* frame = av_frame_alloc();
+    std::vector<std::uint32_t> rows; // of a picture that is being converted
     AVStream* stream = nullptr;
     double start_s = 0;
     double duration_s = 0;
@@ -73,7 +75,8 @@ struct VideoFile::Contexts {
         const double unit_s = av_q2d(stream->time_base);
         start_s = stream->start_time == AV_NOPTS_VALUE ? 0 : static_cast<double>(stream->start_time) * unit_s;
         if (stream->duration != AV_NOPTS_VALUE) duration_s = static_cast<double>(stream->duration) * unit_s;
-        if (!(duration_s > 0) && format->duration != AV_NOPTS_VALUE) duration_s = static_cast<double>(format->duration) / AV_TIME_BASE;
+        if (!(duration_s > 0) && format->duration != AV_NOPTS_VALUE)
+            duration_s = static_cast<double>(format->duration) / AV_TIME_BASE;
         if (!(duration_s > 0)) duration_s = 1 / standInFrameRate;
     }
 };
@@ -119,13 +122,23 @@ std::shared_ptr<const graphics::Bitmap> VideoFile::convertedPicture() {
     c.scaler = sws_getCachedContext(c.scaler, frame.width, frame.height, static_cast<AVPixelFormat>(frame.format), width, height,
                                     AV_PIX_FMT_RGB32, SWS_BILINEAR | SWS_BITEXACT, nullptr, nullptr, nullptr);
     if (!c.scaler) return nullptr;
+    // The scaler works on groups of pixels: it leaves rows unfinished, or writes past the last one, unless they have room for whole
+    // groups.
+    constexpr int group = 32;
+    const int room = (width + group - 1) / group * group;
+    c.rows.resize(static_cast<std::size_t>(room) * height);
+    std::uint8_t* const planes[4] = {reinterpret_cast<std::uint8_t*>(c.rows.data())};
+    const int strides[4] = {room * 4};
+    sws_scale(c.scaler, frame.data, frame.linesize, 0, frame.height, planes, strides);
+
     auto bitmap = std::make_shared<graphics::Bitmap>();
     bitmap->width = width;
     bitmap->height = height;
-    bitmap->pixels.resize(static_cast<std::size_t>(width) * height);
-    std::uint8_t* const planes[4] = {reinterpret_cast<std::uint8_t*>(bitmap->pixels.data())};
-    const int strides[4] = {width * 4};
-    sws_scale(c.scaler, frame.data, frame.linesize, 0, frame.height, planes, strides);
+    bitmap->pixels.reserve(static_cast<std::size_t>(width) * height);
+    for (int y = 0; y < height; ++y) {
+        const auto row = c.rows.begin() + std::ptrdiff_t(y) * room;
+        bitmap->pixels.insert(bitmap->pixels.end(), row, row + width);
+    }
     return bitmap;
 }
 
@@ -133,7 +146,8 @@ host::ClipFrame VideoFile::next() {
     Contexts& c = *m_contexts;
     while (receivePicture()) {
         const std::int64_t stamp = c.frame->best_effort_timestamp;
-        const double time_s = stamp == AV_NOPTS_VALUE ? c.lastTime_s : static_cast<double>(stamp) * av_q2d(c.stream->time_base) - c.start_s;
+        const double time_s =
+            stamp == AV_NOPTS_VALUE ? c.lastTime_s : static_cast<double>(stamp) * av_q2d(c.stream->time_base) - c.start_s;
         c.lastTime_s = time_s;
         auto picture = convertedPicture();
         av_frame_unref(c.frame);
