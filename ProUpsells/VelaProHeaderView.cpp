@@ -22,6 +22,8 @@ VelaProHeaderView::VelaProHeaderView(const geometry::Rect& frame)
       m_titleLabel(makeCenteredLabel()) {
     m_proLogoImageView->setTintColor(velauikit::velaLabel);
     m_proLogoImageView->setContentMode(uikit::UIImageView::ContentMode::aspectFit);
+    // The shelf is of a fixed height: rather smaller than cut.
+    m_titleLabel->setMinimumScaleFactor(0.7);
     m_titleLabel->setAttributedText(centeredText(
         foundation::localizedString("It's never been easier to look professional."),
         {.font = velauikit::velaDefaultFont(velauikit::FontOption::bold, 26), .color = velauikit::dynamicColor(9)}, 8));

@@ -57,6 +57,25 @@ TEST_F(LabelTest, CutsWhatDoesNotFitWithAnEllipsis) {
     EXPECT_EQ(described.text->lineCount, 1);
 }
 
+TEST_F(LabelTest, IsSetSmallerWhereItMayBeAndWouldBeCut) {
+    label->setText("one two three");
+    label->setFrame({{0, 0}, {60, 20}});
+
+    label->setMinimumScaleFactor(0.5);
+
+    EXPECT_FALSE(node().text->isTruncated);
+    EXPECT_NEAR(node().text->size, 16 * 0.55, 1e-9); // 13 characters of 4.4 points
+}
+
+TEST_F(LabelTest, KeepsItsSizeWhereItFits) {
+    label->setText("one two");
+    label->setFrame({{0, 0}, {60, 20}});
+
+    label->setMinimumScaleFactor(0.5);
+
+    EXPECT_EQ(node().text->size, 16);
+}
+
 TEST_F(LabelTest, StandsInTheMiddleOfItsHeightAndAlignsItsLines) {
     label->setText("ab");
     label->setFrame({{0, 0}, {100, 60}});

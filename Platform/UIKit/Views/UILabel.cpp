@@ -1,5 +1,7 @@
 #include "Platform/UIKit/Views/UILabel.hpp"
 
+#include <algorithm>
+
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/Host/TextCache.hpp"
 
@@ -73,6 +75,12 @@ void UILabel::setPreferredMaxLayoutWidth(double width) {
     invalidateIntrinsicContentSize();
 }
 
+void UILabel::setMinimumScaleFactor(double factor) {
+    m_minimumScaleFactor = std::clamp(factor, 0.0, 1.0);
+    m_drawn.reset();
+    setNeedsDisplay();
+}
+
 void UILabel::contentDidChange() {
     m_drawn.reset();
     m_runs.clear();
@@ -92,15 +100,28 @@ void UILabel::traitCollectionDidChange(const UITraitCollection& previous) {
 
 const UIFont& UILabel::firstFont() const { return m_runs.front().font; }
 
-const std::shared_ptr<const graphics::ShapedText>& UILabel::shapedText() const {
-    return host::TextCache::shared().shaped(m_runs, language(), direction());
+const std::shared_ptr<const graphics::ShapedText>& UILabel::shaped(const std::vector<graphics::StyledRun>& runs) const {
+    return host::TextCache::shared().shaped(runs, language(), direction());
+}
+
+std::vector<graphics::StyledRun> UILabel::runsScaledBy(double scale) const {
+    std::vector<graphics::StyledRun> runs = m_runs;
+    for (graphics::StyledRun& run : runs) run.font.size *= scale;
+    return runs;
+}
+
+double UILabel::scaleIn(geometry::Size size) const {
+    constexpr double step = 0.05;
+    for (double scale = 1; scale > m_minimumScaleFactor; scale = std::max(scale - step, m_minimumScaleFactor))
+        if (!laidOut(runsScaledBy(scale), size).isTruncated) return scale;
+    return m_minimumScaleFactor;
 }
 
 std::shared_ptr<const graphics::ShapedText> UILabel::ellipsis() const {
     return host::TextCache::shared().ellipsis(firstFont(), language(), direction());
 }
 
-graphics::TextLayout UILabel::laidOut(const geometry::ProposedSize& proposal) const {
+graphics::TextLayout UILabel::laidOut(const std::vector<graphics::StyledRun>& runs, const geometry::ProposedSize& proposal) const {
     graphics::TextLayoutRequest request;
     request.width = proposal.width;
     request.height = proposal.height;
@@ -109,14 +130,14 @@ graphics::TextLayout UILabel::laidOut(const geometry::ProposedSize& proposal) co
     request.direction = direction();
     request.ellipsisWidth = host::totalAdvance(*ellipsis());
     graphics::TextLayout layout;
-    graphics::layOutText(*shapedText(), request, layout);
+    graphics::layOutText(*shaped(runs), request, layout);
     return layout;
 }
 
 geometry::Size UILabel::intrinsicContentSize() const {
     const bool wraps = m_numberOfLines != 1 && m_preferredMaxLayoutWidth > 0;
     if (m_content.isEmpty()) return {0, 0};
-    return laidOut({wraps ? std::optional(m_preferredMaxLayoutWidth) : std::nullopt, std::nullopt}).size;
+    return laidOut(m_runs, {wraps ? std::optional(m_preferredMaxLayoutWidth) : std::nullopt, std::nullopt}).size;
 }
 
 geometry::Size UILabel::naturalSizeFor(geometry::Size given) const {
@@ -127,7 +148,7 @@ geometry::Size UILabel::naturalSizeFor(geometry::Size given) const {
 
 geometry::Size UILabel::sizeThatFits(const geometry::ProposedSize& proposal) const {
     if (m_content.isEmpty()) return {0, 0};
-    return laidOut(proposal).size;
+    return laidOut(m_runs, proposal).size;
 }
 
 // --- Picture ---
@@ -136,7 +157,8 @@ const UILabel::Drawn& UILabel::drawn(graphics::ColorScheme scheme) const {
     const bool isCurrent = m_drawn && m_drawn->size == bounds().size && m_drawn->direction == direction() &&
                            m_drawn->scheme == scheme && m_drawn->language == language();
     if (isCurrent) return *m_drawn;
-    Drawn drawn{bounds().size, direction(), scheme, std::string(language()), laidOut(bounds().size), shapedText(), ellipsis(), {}};
+    const auto runs = runsScaledBy(scaleIn(bounds().size));
+    Drawn drawn{bounds().size, direction(), scheme, std::string(language()), laidOut(runs, bounds().size), shaped(runs), ellipsis(), {}};
     for (const graphics::AttributedRun& run : m_content.runs())
         drawn.paints.push_back({run.attributes.color.resolved(scheme), run.attributes.isStruckThrough});
     m_drawn = std::move(drawn);
@@ -153,19 +175,20 @@ void UILabel::draw(graphics::PaintContext& context, const graphics::PaintState& 
 
 void UILabel::describe(accessibility::Node& node, const graphics::PaintState&) const {
     node.traits = node.traits | accessibility::Traits::staticText;
-    const graphics::TextLayout layout = laidOut(bounds().size);
+    const double scale = scaleIn(bounds().size);
+    const graphics::TextLayout layout = laidOut(runsScaledBy(scale), bounds().size);
     const graphics::TextAttributes first = m_content.isEmpty() ? m_attributes : m_content.runs().front().attributes;
     accessibility::TextInfo info;
     info.text = m_content.text();
     info.font = nameOf(first.font);
-    info.size = first.font.size;
+    info.size = first.font.size * scale;
     info.weight = first.font.weightOption;
     info.color = first.color.name;
     info.lineCount = m_content.isEmpty() ? 0 : int(layout.lines.size());
     info.isTruncated = layout.isTruncated;
     if (m_content.runs().size() > 1)
         for (const graphics::AttributedRun& run : m_content.runs())
-            info.runs.push_back({run.text, std::string(nameOf(run.attributes.font)), run.attributes.font.size,
+            info.runs.push_back({run.text, std::string(nameOf(run.attributes.font)), run.attributes.font.size * scale,
                                  run.attributes.font.weightOption, std::string(run.attributes.color.name),
                                  run.attributes.isStruckThrough});
     node.text = std::move(info);

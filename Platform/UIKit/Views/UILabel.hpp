@@ -29,6 +29,9 @@ public:
     // 0: as many as are needed. 1 unless set.
     int numberOfLines() const { return m_numberOfLines; }
     void setNumberOfLines(int count);
+    // The smallest share of its size to which a text that would be cut is set instead; 1, unless set, never shrinks it.
+    double minimumScaleFactor() const { return m_minimumScaleFactor; }
+    void setMinimumScaleFactor(double factor);
     // The width at which the natural size is measured where the label may have several lines; 0: the text's own width.
     double preferredMaxLayoutWidth() const { return m_preferredMaxLayoutWidth; }
     void setPreferredMaxLayoutWidth(double width);
@@ -58,9 +61,12 @@ private:
 
     void contentDidChange();
     void restylePlainText();
-    const std::shared_ptr<const graphics::ShapedText>& shapedText() const;
+    const std::shared_ptr<const graphics::ShapedText>& shaped(const std::vector<graphics::StyledRun>& runs) const;
+    // The share of its size at which the text is set in `size`.
+    double scaleIn(geometry::Size size) const;
+    std::vector<graphics::StyledRun> runsScaledBy(double scale) const;
     std::shared_ptr<const graphics::ShapedText> ellipsis() const;
-    graphics::TextLayout laidOut(const geometry::ProposedSize& proposal) const;
+    graphics::TextLayout laidOut(const std::vector<graphics::StyledRun>& runs, const geometry::ProposedSize& proposal) const;
     const UIFont& firstFont() const;
     const Drawn& drawn(graphics::ColorScheme scheme) const;
     geometry::LayoutDirection direction() const { return traitCollection().layoutDirection; }
@@ -72,6 +78,7 @@ private:
     bool m_isPlain = true;
     int m_numberOfLines = 1;
     double m_preferredMaxLayoutWidth = 0;
+    double m_minimumScaleFactor = 1;
     mutable std::optional<Drawn> m_drawn;
 };
 

@@ -1,0 +1,57 @@
+// What the paywall costs down to the pixels, 750 × 1600, painted by the Qt backend.
+#include <benchmark/benchmark.h>
+
+#include "Backends/Icu/IcuLocaleServices.hpp"
+#include "Backends/Qt/Application.hpp"
+#include "Backends/Qt/QtImageDecoder.hpp"
+#include "Backends/Qt/QtTextShaper.hpp"
+#include "Backends/Qt/RasterSurface.hpp"
+#include "Benchmarks/PaywallWindow.hpp"
+#include "Platform/Host/Services.hpp"
+
+namespace benchmarks {
+namespace {
+
+constexpr geometry::Size size{375, 800};
+constexpr double scale = 2;
+
+struct Machine {
+    runloop::MainRunLoop loop{std::make_shared<runloop::VirtualClock>()};
+    host::Installation services{{.textShaper = std::make_shared<qtbackend::QtTextShaper>(),
+                                 .imageDecoder = std::make_shared<qtbackend::QtImageDecoder>(),
+                                 .localeServices = std::make_shared<icubackend::IcuLocaleServices>()}};
+};
+
+// A warm start: pictures are decoded and texts shaped, everything else is made anew.
+void warmOpenToFullFrame(benchmark::State& state) {
+    Machine machine;
+    for (auto _ : state) {
+        PaywallWindow window;
+        qtbackend::RasterSurface surface;
+        surface.present(window.paint(), size, scale);
+        benchmark::DoNotOptimize(surface.image().constBits());
+    }
+}
+BENCHMARK(warmOpenToFullFrame)->Unit(benchmark::kMicrosecond);
+
+void tapToNewFrame(benchmark::State& state) {
+    Machine machine;
+    PaywallWindow window;
+    qtbackend::RasterSurface surface;
+    surface.present(window.paint(), size, scale);
+    for (auto _ : state) {
+        window.tapOtherPlan();
+        surface.present(window.paint(), size, scale);
+        benchmark::DoNotOptimize(surface.image().constBits());
+    }
+}
+BENCHMARK(tapToNewFrame)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+} // namespace benchmarks
+
+int main(int count, char** arguments) {
+    const qtbackend::Application application({.isHeadless = true});
+    benchmark::Initialize(&count, arguments);
+    benchmark::RunSpecifiedBenchmarks();
+}
