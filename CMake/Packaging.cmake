@@ -35,8 +35,9 @@ endfunction()
 function(proupsells_install_package)
   set(destination ${CMAKE_INSTALL_LIBDIR}/cmake/ProUpsells)
   install(EXPORT ProUpsells NAMESPACE ProUpsells:: DESTINATION ${destination})
+  set(PROUPSELLS_DATA ${CMAKE_INSTALL_DATADIR}/proupsells)
   configure_package_config_file("${PROJECT_SOURCE_DIR}/CMake/ProUpsellsConfig.cmake.in"
-    "${PROJECT_BINARY_DIR}/ProUpsellsConfig.cmake" INSTALL_DESTINATION ${destination})
+    "${PROJECT_BINARY_DIR}/ProUpsellsConfig.cmake" INSTALL_DESTINATION ${destination} PATH_VARS PROUPSELLS_DATA)
   write_basic_package_version_file("${PROJECT_BINARY_DIR}/ProUpsellsConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
   install(FILES "${PROJECT_BINARY_DIR}/ProUpsellsConfig.cmake" "${PROJECT_BINARY_DIR}/ProUpsellsConfigVersion.cmake"
     DESTINATION ${destination})
