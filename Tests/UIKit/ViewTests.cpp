@@ -228,5 +228,25 @@ TEST_F(ScreenTest, ALayoutThatNeverSettlesEndsAllTheSame) {
     EXPECT_LT(view->layouts, 100);
 }
 
+// A view keeps a layout that is due through a move between two views that are laid out.
+TEST_F(ScreenTest, AViewThatMovesKeepsTheLayoutThatIsDue) {
+    const auto root = showRoot();
+    const auto former = std::make_shared<UIView>(), next = std::make_shared<UIView>();
+    const auto moved = std::make_shared<UIView>(), pinned = std::make_shared<UIView>();
+    root->view()->addSubview(former);
+    root->view()->addSubview(next);
+    former->addSubview(moved);
+    moved->addSubview(pinned);
+    pinned->fillSuperview();
+    moved->setFrame({{0, 0}, {50, 50}});
+    root->view()->layoutIfNeeded();
+
+    moved->setFrame({{0, 0}, {80, 80}});
+    next->addSubview(moved);
+    root->view()->layoutIfNeeded();
+
+    EXPECT_EQ(pinned->frame().size, (geometry::Size{80, 80}));
+}
+
 } // namespace
 } // namespace uikit

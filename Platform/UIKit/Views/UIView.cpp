@@ -44,6 +44,8 @@ void UIView::insert(const std::shared_ptr<UIView>& view, std::size_t index) {
     kept->constraintInputDidChange();
     kept->movedToWindow(m_window);
     kept->didMoveToSuperview();
+    // A view may come with a layout that was due where it stood before.
+    if (kept->m_needsLayout || kept->m_subtreeNeedsLayout) m_subtreeNeedsLayout = true;
     setNeedsLayout();
     setNeedsDisplay();
     for (const auto& controller : kept->outermostControllers()) controller->followParent();
