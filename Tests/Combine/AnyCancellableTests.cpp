@@ -44,8 +44,8 @@ TEST_F(Token, MovesWithoutCancelling) {
 }
 
 TEST_F(Token, CancelsWhatItHeldWhenAnotherIsAssigned) {
-    AnyCancellable subscription = token();
     int otherCancellations = 0;
+    AnyCancellable subscription = token();
 
     subscription = AnyCancellable{[&] { ++otherCancellations; }};
 

@@ -193,8 +193,8 @@ TEST_F(ScreenTest, AChildKnowsTraitsAndSafeAreaWhileItsViewLoads) {
 }
 
 TEST(ContainmentDeathTest, AControllerCannotBeItsOwnAncestor) {
-    const auto parent = std::make_shared<RecordingController>("parent", *new Calls),
-               child = std::make_shared<RecordingController>("child", *new Calls);
+    Calls calls;
+    const auto parent = std::make_shared<RecordingController>("parent", calls), child = std::make_shared<RecordingController>("child", calls);
     parent->addChild(child);
 
     EXPECT_DEATH(child->addChild(parent), "a controller cannot be its own child");
