@@ -1,24 +1,40 @@
 #include "Backends/FFmpeg/LazyClipDecoder.hpp"
 
-#include <dlfcn.h>
+#include <utility>
 
-#include "Platform/Commons/DefaultLogger.hpp"
+#include "Backends/FFmpeg/PluginLoader.hpp"
 
 namespace ffmpegbackend {
 
 namespace {
 
-void complain(const char* message) {
-    commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity, message, "ClipDecoder");
-}
+// Stands for a clip that the plug-in plays as soon as it is there.
+class LazyClip final : public host::Clip {
+public:
+    LazyClip(std::filesystem::path file, std::weak_ptr<PluginLoader> plugin) : m_file(std::move(file)), m_plugin(std::move(plugin)) {}
 
-// Null with the reason in `error`.
-MakeClipDecoder findFunction(const std::filesystem::path& file, std::string& error) {
-    void* library = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
-    void* symbol = library ? dlsym(library, makeClipDecoderSymbol) : nullptr;
-    if (!symbol) error = dlerror();
-    return reinterpret_cast<MakeClipDecoder>(symbol);
-}
+    host::ClipFrame frameAt(double time_s) override {
+        openWhenPossible();
+        return m_clip ? m_clip->frameAt(time_s) : host::ClipFrame{};
+    }
+
+    bool isPlayable() const override {
+        if (m_clip) return m_clip->isPlayable();
+        const auto plugin = m_plugin.lock();
+        return plugin && !plugin->hasFailed();
+    }
+
+private:
+    void openWhenPossible() {
+        if (m_clip) return;
+        const auto plugin = m_plugin.lock();
+        if (host::ClipDecoder* decoder = plugin ? plugin->decoder() : nullptr) m_clip = decoder->open(m_file);
+    }
+
+    std::filesystem::path m_file;
+    std::weak_ptr<PluginLoader> m_plugin;
+    std::shared_ptr<host::Clip> m_clip;
+};
 
 } // namespace
 
@@ -38,24 +54,17 @@ std::vector<std::filesystem::path> LazyClipDecoder::defaultFolders() {
     return folders;
 }
 
-void LazyClipDecoder::load() {
-    m_hasTried = true;
-    std::string reason = "there is no " + std::string(pluginFileName);
-    for (const auto& folder : m_folders) {
-        const auto file = folder / pluginFileName;
-        std::error_code error;
-        if (!std::filesystem::exists(file, error)) continue;
-        if (const MakeClipDecoder make = findFunction(file, reason)) {
-            m_decoder.reset(make({m_pace, &complain}));
-            return;
-        }
-    }
-    complain(("Clips cannot be played: " + reason).c_str());
-}
+bool LazyClipDecoder::isLoaded() const { return m_plugin && m_plugin->decoder(); }
 
 std::shared_ptr<host::Clip> LazyClipDecoder::open(const std::filesystem::path& file) {
-    if (!m_hasTried) load();
-    return m_decoder ? m_decoder->open(file) : nullptr;
+    if (!m_plugin) m_plugin = std::make_shared<PluginLoader>(m_pace, m_folders);
+    if (!m_plugin->decoder() && m_plugin->hasFailed()) return nullptr;
+    std::erase_if(m_clips, [](const auto& entry) { return entry.second.expired(); });
+    auto& known = m_clips[file];
+    if (auto clip = known.lock()) return clip;
+    auto clip = std::make_shared<LazyClip>(file, m_plugin);
+    known = clip;
+    return clip;
 }
 
 } // namespace ffmpegbackend

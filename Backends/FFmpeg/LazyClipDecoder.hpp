@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -9,7 +10,10 @@
 
 namespace ffmpegbackend {
 
-// Without the plug-in no clip plays, which costs one log line. The plug-in stays loaded until the process ends.
+class PluginLoader;
+
+// At Pace::realTime nothing here waits: until the plug-in is loaded, clips show nothing. Without the plug-in no clip plays, which
+// costs one log line.
 class LazyClipDecoder final : public host::ClipDecoder {
 public:
     // `folders` are searched for the plug-in, first one first.
@@ -20,15 +24,13 @@ public:
     static std::vector<std::filesystem::path> defaultFolders();
 
     std::shared_ptr<host::Clip> open(const std::filesystem::path& file) override;
-    bool isLoaded() const { return m_decoder != nullptr; }
+    bool isLoaded() const;
 
 private:
-    void load();
-
     Pace m_pace;
     std::vector<std::filesystem::path> m_folders;
-    std::unique_ptr<host::ClipDecoder> m_decoder;
-    bool m_hasTried = false;
+    std::shared_ptr<PluginLoader> m_plugin; // null until the first clip is wanted
+    std::map<std::filesystem::path, std::weak_ptr<host::Clip>> m_clips;
 };
 
 } // namespace ffmpegbackend

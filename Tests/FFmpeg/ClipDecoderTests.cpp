@@ -184,6 +184,33 @@ TEST_F(ClipDecoder, NeverBlocksOnTheRealClock) {
     EXPECT_EQ(numberOf(clip->frameAt(1.0)), 10);
 }
 
+TEST_F(ClipDecoder, DoesNotWaitForThePlugInOnTheRealClock) {
+    LazyClipDecoder decoder{Pace::realTime, {"no-such-folder"}};
+    const auto clip = decoder.open(counting);
+    ASSERT_TRUE(clip); // that there is no plug-in has not turned out yet, or is said later
+    EXPECT_EQ(decoder.open(counting), clip);
+
+    const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    while (clip->isPlayable() && std::chrono::steady_clock::now() < limit) EXPECT_FALSE(clip->frameAt(0).picture);
+
+    EXPECT_FALSE(clip->isPlayable());
+    EXPECT_THAT(complaints, ElementsAre(HasSubstr("cannot be played")));
+}
+
+TEST_F(ClipDecoder, LetsOthersPlayBesideAClipThatCannotKeepUp) {
+    LazyClipDecoder decoder{Pace::realTime, LazyClipDecoder::defaultFolders()};
+    const auto late = decoder.open(large), other = decoder.open(counting);
+
+    const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    bool isShown = false;
+    for (int jump = 0; !isShown && std::chrono::steady_clock::now() < limit; ++jump) {
+        late->frameAt(jump * 0.37);
+        isShown = other->frameAt(0).picture != nullptr;
+    }
+
+    EXPECT_TRUE(isShown);
+}
+
 TEST_F(ClipDecoder, WithoutThePlugInCostsOneLineAndShowsNothing) {
     LazyClipDecoder decoder{Pace::exact, {"no-such-folder"}};
 

@@ -14,6 +14,8 @@ namespace {
 constexpr double timeTolerance_s = 1e-6;
 // Going forward by more than this is quicker by looking for a key picture.
 constexpr double longestWalk_s = 1.0;
+// A clip that cannot keep up with the time leaves room for the others after so many.
+constexpr int picturesATurn = 8;
 
 } // namespace
 
@@ -117,10 +119,7 @@ bool PlayedClip::decodeOne() {
         seeks = needsSeek(wanted_s);
         while (m_window.size() > 1 && m_window[1].time_s <= wanted_s + timeTolerance_s && !seeks) m_window.pop_front();
         const bool isDue = !seeks && dueFrame(wanted_s).has_value();
-        if (isDue && (m_windowReachesEnd || m_window.size() > picturesAhead)) {
-            m_isQueued = false;
-            return false;
-        }
+        if (isDue && (m_windowReachesEnd || m_window.size() > picturesAhead)) return false;
         if (seeks) {
             m_window.clear();
             m_windowReachesEnd = false;
@@ -145,24 +144,20 @@ bool PlayedClip::decodeOne() {
     return true;
 }
 
-void PlayedClip::work() {
-    if (!m_video) {
-        bool isOpen;
-        {
-            const std::lock_guard guard(m_lock);
-            isOpen = m_state == State::unopened;
-        }
-        if (isOpen) openFile();
-    }
-    if (m_video) {
-        while (decodeOne()) {
-            const std::lock_guard guard(m_lock);
-            if (m_state == State::unplayable) break;
-        }
-    }
+bool PlayedClip::isState(State state) const {
     const std::lock_guard guard(m_lock);
-    m_isQueued = false;
+    return m_state == state;
+}
+
+bool PlayedClip::work() {
+    if (isState(State::unopened)) openFile();
+    bool hasMore = !isState(State::unplayable);
+    for (int picture = 0; picture < picturesATurn && hasMore; ++picture) hasMore = decodeOne() && !isState(State::unplayable);
+
+    const std::lock_guard guard(m_lock);
+    m_isQueued = hasMore;
     m_changed.notify_all();
+    return hasMore;
 }
 
 } // namespace ffmpegbackend

@@ -24,8 +24,9 @@ public:
     host::ClipFrame frameAt(double time_s) override;
     bool isPlayable() const override;
 
-    // Called by the worker: opens the file, or decodes until the wanted moment and some pictures ahead are there.
-    void work();
+    // Called by the worker: opens the file and decodes a few pictures. Returns whether there is more to do until the wanted moment
+    // and some pictures ahead are there.
+    bool work();
 
 private:
     enum class State { unopened, open, unplayable };
@@ -35,6 +36,7 @@ private:
     std::size_t picturesAfter(const host::ClipFrame& frame) const;
     bool needsSeek(double moment_s) const;
     void openFile();
+    bool isState(State state) const;
     // Decodes one picture into the window. False at the end of what there is to do.
     bool decodeOne();
 

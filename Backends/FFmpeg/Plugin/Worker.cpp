@@ -4,6 +4,13 @@
 
 namespace ffmpegbackend {
 
+namespace {
+
+// Lets go of the clip, and may close its file with that, before the lock is taken again.
+bool workOn(std::shared_ptr<PlayedClip> clip) { return clip && clip->work(); }
+
+} // namespace
+
 Worker::Worker() : m_thread([this] { run(); }) {}
 
 Worker::~Worker() {
@@ -28,12 +35,12 @@ void Worker::run() {
     for (;;) {
         m_changed.wait(guard, [this] { return m_isStopping || !m_queue.empty(); });
         if (m_isStopping) return;
-        const auto clip = m_queue.front().lock();
+        const std::weak_ptr<PlayedClip> next = std::move(m_queue.front());
         m_queue.pop_front();
-        if (!clip) continue;
         guard.unlock();
-        clip->work();
+        const bool hasMore = workOn(next.lock());
         guard.lock();
+        if (hasMore) m_queue.push_back(next);
     }
 }
 

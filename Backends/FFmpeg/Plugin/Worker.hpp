@@ -14,7 +14,7 @@ class PlayedClip;
 class Worker {
 public:
     Worker();
-    // Finishes the clip in hand, forgets the others.
+    // Finishes the turn of the clip in hand, forgets the others.
     ~Worker();
     Worker(const Worker&) = delete;
 

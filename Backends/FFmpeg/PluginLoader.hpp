@@ -1,0 +1,39 @@
+// Brings the plug-in into the process, in the background where the main thread must not wait.
+#pragma once
+
+#include <filesystem>
+#include <future>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "Backends/FFmpeg/ClipPlugin.hpp"
+
+namespace ffmpegbackend {
+
+// Begins at once, on a thread of its own. The plug-in stays loaded until the process ends. Belongs to one thread.
+class PluginLoader {
+public:
+    // `folders` are searched for the plug-in, first one first.
+    PluginLoader(Pace pace, const std::vector<std::filesystem::path>& folders);
+
+    // Null while it is being loaded and when it cannot be; the latter costs one log line, when it turns out. At Pace::exact it waits.
+    host::ClipDecoder* decoder();
+    // Whether it has turned out that there is no decoder.
+    bool hasFailed() const { return m_hasFailed; }
+
+private:
+    struct Outcome {
+        MakeClipDecoder make = nullptr; // null with a complaint
+        std::string complaint;
+    };
+    static Outcome load(const std::vector<std::filesystem::path>& folders);
+    void adopt(const Outcome& outcome);
+
+    Pace m_pace;
+    std::future<Outcome> m_outcome; // invalid once it has been adopted
+    std::unique_ptr<host::ClipDecoder> m_decoder;
+    bool m_hasFailed = false;
+};
+
+} // namespace ffmpegbackend
