@@ -86,20 +86,46 @@ private:
 
     View modified(const View& content) {
         switch (m_decisions.below(12)) {
-        case 0: return content | padding(Edge(m_decisions.below(16)), m_decisions.length());
+        case 0: return padded(content);
         case 1: return content | frame(frameOptions());
-        case 2: return content | fixedSize(m_decisions.maybe(), m_decisions.maybe());
-        case 3: return content | overlay(leaf(), alignment());
-        case 4: return content | background(leaf(), alignment());
-        case 5: return content | aspectRatio(m_decisions.length(), m_decisions.maybe() ? ContentMode::fit : ContentMode::fill);
+        case 2: return fixed(content);
+        case 3: return decorated(content, Layer::front);
+        case 4: return decorated(content, Layer::back);
+        case 5: return proportioned(content);
         case 6: return content | layoutPriority(m_decisions.below(3));
-        case 7: return content | offset(m_decisions.length(), m_decisions.length());
+        case 7: return moved(content);
         case 8: return content | layoutDirection(geometry::LayoutDirection(m_decisions.below(2)));
         case 9: return content | ignoresSafeArea(Edge(m_decisions.below(16)));
-        case 10: return content | scaleEffect(m_decisions.below(5) / 2.0) | opacity(m_decisions.below(3) / 2.0);
+        case 10: return faded(content | scaleEffect(m_decisions.below(5) / 2.0));
         default: return content | clipped();
         }
     }
+
+    // One decision a statement: compilers differ in the order in which they make the arguments of a call.
+    View padded(const View& content) {
+        const Edge edges = Edge(m_decisions.below(16));
+        return content | padding(edges, m_decisions.length());
+    }
+    View fixed(const View& content) {
+        const bool isWidthFixed = m_decisions.maybe();
+        return content | fixedSize(isWidthFixed, m_decisions.maybe());
+    }
+    enum class Layer { front, back };
+    View decorated(const View& content, Layer layer) {
+        const View other = leaf();
+        const Alignment place = alignment();
+        if (layer == Layer::front) return content | overlay(other, place);
+        return content | background(other, place);
+    }
+    View proportioned(const View& content) {
+        const double ratio = m_decisions.length();
+        return content | aspectRatio(ratio, m_decisions.maybe() ? ContentMode::fit : ContentMode::fill);
+    }
+    View moved(const View& content) {
+        const double x = m_decisions.length();
+        return content | offset(x, m_decisions.length());
+    }
+    View faded(const View& content) { return content | opacity(m_decisions.below(3) / 2.0); }
 
     ViewList views(int depth) {
         std::vector<View> result;

@@ -80,6 +80,25 @@ TEST(AnyTree, LooksAfterAChangeAsIfItHadAlwaysBeenThatWay) {
     }
 }
 
+// A picture that reaches past its frame counts with all that it covers.
+TEST(AnyTree, ShowsAStrokeThatGrowsIntoTheWindow) {
+    double lineWidth = 1;
+    Screen screen{[&] { return Circle().stroke(lineWidth) | frame(10, 10) | offset(-100, 0); }, {100, 100}};
+    EXPECT_TRUE(screen.host().displayList().commands.empty());
+
+    lineWidth = 120;
+    screen.host().setNeedsUpdate();
+    screen.settle();
+
+    EXPECT_EQ(screen.host().displayList().commands.size(), 1u);
+}
+
+TEST(AnyTree, ShowsAShapeThatIsLargerThanItsFrame) {
+    Screen screen{[] { return Circle().inset(-100) | frame(10, 10) | offset(-100, 0); }, {100, 100}};
+
+    EXPECT_EQ(screen.host().displayList().commands.size(), 1u);
+}
+
 TEST(AnyTree, FollowsAResizeAsIfItHadAlwaysBeenThatSize) {
     for (unsigned seed = 0; seed < treeCount; ++seed) {
         SCOPED_TRACE(seed);

@@ -35,8 +35,10 @@ public:
         m_color.set(shape.color().value_or(environment().foregroundStyle), animation, pass.now_s);
         m_lineWidth.set(shape.lineWidth(), animation, pass.now_s);
         m_data.set(shape.animatableData(), animation, pass.now_s);
+        const double outset = paintOutset();
         if (isOther) m_shape = std::move(shape);
         if (isNew()) return;
+        if (paintOutset() != outset) invalidateLayout(); // where the picture may be
         host().noteAnimation(std::max({m_color.end_s(), m_lineWidth.end_s(), m_data.end_s()}));
         setNeedsDisplay();
     }
@@ -45,7 +47,9 @@ protected:
     std::string_view semanticType() const override { return m_shape.typeName(); }
     // What is behind a ring can be touched through it.
     bool isHittable() const override { return !m_shape.isStroked(); }
-    double paintOutset() const override { return m_shape.isStroked() ? m_shape.lineWidth() / 2 : 0; }
+    double paintOutset() const override {
+        return std::max(0.0, -m_shape.insetAmount()) + (m_shape.isStroked() ? std::max(0.0, m_shape.lineWidth()) / 2 : 0);
+    }
 
     void paintContent(graphics::PaintContext& context, const PaintState& state, double now_s) override {
         const RGBA color = m_color.valueAt(now_s).resolved(environment().colorScheme);
