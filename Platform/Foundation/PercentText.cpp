@@ -49,7 +49,7 @@ void roundHalfToEven(Decimal& decimal, int fractionDigits) {
 }
 
 std::string grouped(std::string digits) {
-    for (int position = static_cast<int>(digits.size()) - 3; position > 0; position -= 3) digits.insert(position, ",");
+    for (int position = static_cast<int>(digits.size()) - 3; position > 0; position -= 3) digits.insert(digits.begin() + position, ',');
     return digits;
 }
 

@@ -87,6 +87,11 @@ RC_GTEST_PROP(TextLayoutInvariants, TheMeasuredSizeGivesTheSameLines, ()) {
     const auto text = shaped(someRuns(), direction);
     TextLayoutRequest request = someRequest(direction);
     const TextLayout measured = laidOut(*text, request);
+    // With room for less, the last line of a cut text may be lower, and then it is filled with less.
+    const auto hasSeveralHeights = [&] {
+        return std::any_of(text->runs.begin(), text->runs.end(), [&](const StyledRun& run) { return run.font != text->runs.front().font; });
+    };
+    if (measured.isTruncated && hasSeveralHeights()) return;
     if (measured.size.width > *request.width + 1e-6) return; // a single character had no room; with room, lines may be joined
     request.width = measured.size.width;
     request.height = measured.size.height;
