@@ -1,13 +1,9 @@
 // What the paywall costs down to the pixels, 750 × 1600, painted by the Qt backend.
 #include <benchmark/benchmark.h>
 
-#include "Backends/Icu/IcuLocaleServices.hpp"
-#include "Backends/Qt/Application.hpp"
-#include "Backends/Qt/QtImageDecoder.hpp"
-#include "Backends/Qt/QtTextShaper.hpp"
 #include "Backends/Qt/RasterSurface.hpp"
 #include "Benchmarks/PaywallWindow.hpp"
-#include "Platform/Host/Services.hpp"
+#include "Benchmarks/QtMachine.hpp"
 
 namespace benchmarks {
 namespace {
@@ -15,16 +11,9 @@ namespace {
 constexpr geometry::Size size{375, 800};
 constexpr double scale = 2;
 
-struct Machine {
-    runloop::MainRunLoop loop{std::make_shared<runloop::VirtualClock>()};
-    host::Installation services{{.textShaper = std::make_shared<qtbackend::QtTextShaper>(),
-                                 .imageDecoder = std::make_shared<qtbackend::QtImageDecoder>(),
-                                 .localeServices = std::make_shared<icubackend::IcuLocaleServices>()}};
-};
-
 // A warm start: pictures are decoded and texts shaped, everything else is made anew.
 void warmOpenToFullFrame(benchmark::State& state) {
-    Machine machine;
+    QtMachine machine;
     for (auto _ : state) {
         PaywallWindow window;
         qtbackend::RasterSurface surface;
@@ -35,7 +24,7 @@ void warmOpenToFullFrame(benchmark::State& state) {
 BENCHMARK(warmOpenToFullFrame)->Unit(benchmark::kMicrosecond);
 
 void tapToNewFrame(benchmark::State& state) {
-    Machine machine;
+    QtMachine machine;
     PaywallWindow window;
     qtbackend::RasterSurface surface;
     surface.present(window.paint(), size, scale);

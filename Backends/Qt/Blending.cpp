@@ -4,6 +4,14 @@
 #include <cmath>
 #include <cstring>
 
+// One function for every processor, and one for those with longer vectors; the loader takes its pick. Whole numbers come out the
+// same either way.
+#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__)
+#define PROUPSELLS_VECTORIZED __attribute__((target_clones("avx2", "default")))
+#else
+#define PROUPSELLS_VECTORIZED
+#endif
+
 namespace qtbackend {
 
 namespace {
@@ -14,6 +22,22 @@ Pixel over(Pixel top, Pixel below) { return top + scaled(below, 255u - alphaOf(t
 constexpr Pixel mixedPair(Pixel top, Pixel below, std::uint32_t share) {
     const Pixel sum = top * share + below * (255 - share) + 0x00800080;
     return ((sum + ((sum >> 8) & 0x00FF00FF)) >> 8) & 0x00FF00FF;
+}
+
+// Most pictures are opaque or empty nearly everywhere, and by the group that costs less than blending.
+constexpr std::size_t group = 16;
+
+inline void blendGroup(Pixel* to, const Pixel* from) {
+    Pixel common = 0xFFFFFFFF, any = 0;
+    for (std::size_t index = 0; index < group; ++index) {
+        common &= from[index];
+        any |= from[index];
+    }
+    if (alphaOf(common) == 255) {
+        std::memcpy(to, from, group * sizeof(Pixel));
+    } else if (any != 0) {
+        for (std::size_t index = 0; index < group; ++index) to[index] = over(from[index], to[index]);
+    }
 }
 
 } // namespace
@@ -28,7 +52,7 @@ Pixel premultiplied(graphics::RGBA color, std::uint8_t opacity) {
     return scaled(opaque, alpha);
 }
 
-void blendColor(Pixel* to, std::size_t count, Pixel color, std::uint8_t coverage) {
+PROUPSELLS_VECTORIZED void blendColor(Pixel* to, std::size_t count, Pixel color, std::uint8_t coverage) {
     const Pixel top = coverage == 255 ? color : scaled(color, coverage);
     const std::uint32_t rest = 255u - alphaOf(top);
     if (rest == 0) {
@@ -39,7 +63,7 @@ void blendColor(Pixel* to, std::size_t count, Pixel color, std::uint8_t coverage
 }
 
 // The loops have no branches, so that compilers turn them into vector code.
-void blendColor(Pixel* to, std::size_t count, Pixel color, const std::uint8_t* coverages) {
+PROUPSELLS_VECTORIZED void blendColor(Pixel* to, std::size_t count, Pixel color, const std::uint8_t* coverages) {
     if (alphaOf(color) != 255) {
         for (std::size_t index = 0; index < count; ++index) to[index] = over(scaled(color, coverages[index]), to[index]);
         return;
@@ -52,8 +76,9 @@ void blendColor(Pixel* to, std::size_t count, Pixel color, const std::uint8_t* c
     }
 }
 
-void blendPixels(Pixel* to, std::size_t count, const Pixel* from, std::uint8_t opacity) {
+PROUPSELLS_VECTORIZED void blendPixels(Pixel* to, std::size_t count, const Pixel* from, std::uint8_t opacity) {
     if (opacity == 255) {
+        for (; count >= group; to += group, from += group, count -= group) blendGroup(to, from);
         for (std::size_t index = 0; index < count; ++index) to[index] = over(from[index], to[index]);
     } else {
         for (std::size_t index = 0; index < count; ++index) to[index] = over(scaled(from[index], opacity), to[index]);
