@@ -12,13 +12,17 @@ namespace qtbackend {
 
 namespace {
 
-constexpr std::size_t imageCacheBytes = 64 << 20;
+constexpr std::size_t fileCacheBytes = 64 << 20;
+// Frames of clips are shown for a moment; they must not push out the files.
+constexpr std::size_t bitmapCacheBytes = 16 << 20;
 
 bool isOpaque(const QImage& image) {
-    for (int y = 0; y < image.height(); ++y) {
+    const int width = image.width(), height = image.height();
+    for (int y = 0; y < height; ++y) {
         const auto* row = reinterpret_cast<const Pixel*>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x)
-            if (alphaOf(row[x]) != 255) return false;
+        Pixel common = 0xFFFFFFFF;
+        for (int x = 0; x < width; ++x) common &= row[x];
+        if (alphaOf(common) != 255) return false;
     }
     return true;
 }
@@ -45,16 +49,16 @@ std::size_t ImageRasters::Key::Hash::operator()(const Key& key) const {
            (std::size_t(key.width) * 0x9E3779B97F4A7C15u + std::size_t(key.height) * 0xC2B2AE3D27D4EB4Fu + key.isTinted);
 }
 
-ImageRasters::ImageRasters() : m_entries(imageCacheBytes) {}
+ImageRasters::ImageRasters() : m_files(fileCacheBytes), m_bitmaps(bitmapCacheBytes) {}
 
 const ImageRaster& ImageRasters::image(const graphics::Image& image, graphics::ColorScheme scheme, QSize size) {
     const std::filesystem::path& file = image.fileFor(scheme);
     const bool isTinted = image.renderingMode == graphics::RenderingMode::tinted;
     const Key key{std::hash<std::basic_string_view<std::filesystem::path::value_type>>()(file.native()), size.width(),
                   size.height(), isTinted};
-    const Entry* known = m_entries.find(key);
+    const Entry* known = m_files.find(key);
     if (known && known->file == file) return known->raster;
-    if (!known) return insert(key, {load(file, size, isTinted), file, nullptr});
+    if (!known) return insert(m_files, key, {load(file, size, isTinted), file, nullptr});
     // Another file of the same hash.
     m_unshared = load(file, size, isTinted);
     return m_unshared;
@@ -78,7 +82,7 @@ ImageRaster ImageRasters::load(const std::filesystem::path& file, QSize size, bo
 
 const ImageRaster& ImageRasters::bitmap(const std::shared_ptr<const graphics::Bitmap>& bitmap, QSize size) {
     const Key key{std::hash<const void*>()(bitmap.get()), size.width(), size.height(), false};
-    const Entry* known = m_entries.find(key);
+    const Entry* known = m_bitmaps.find(key);
     if (known && known->bitmap == bitmap) return known->raster;
 
     ImageRaster raster;
@@ -87,19 +91,19 @@ const ImageRaster& ImageRasters::bitmap(const std::shared_ptr<const graphics::Bi
     if (isWhole && !size.isEmpty()) {
         const QImage original(reinterpret_cast<const uchar*>(bitmap->pixels.data()), bitmap->width, bitmap->height,
                               bitmap->width * 4, QImage::Format_ARGB32_Premultiplied);
-        raster.pixels = original.size() == size ? original.copy()
+        raster.pixels = original.size() == size ? original
                                                 : original.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                                                       .convertToFormat(QImage::Format_ARGB32_Premultiplied);
         raster.isOpaque = isOpaque(raster.pixels);
     }
-    if (!known) return insert(key, {std::move(raster), {}, bitmap});
+    if (!known) return insert(m_bitmaps, key, {std::move(raster), {}, bitmap});
     m_unshared = std::move(raster);
     return m_unshared;
 }
 
-const ImageRaster& ImageRasters::insert(const Key& key, Entry entry) {
+const ImageRaster& ImageRasters::insert(Cache& cache, const Key& key, Entry entry) {
     const std::size_t byteCount = byteCountOf(entry.raster) + (entry.bitmap ? entry.bitmap->pixels.size() * sizeof(Pixel) : 0);
-    return m_entries.insert(key, std::move(entry), byteCount).raster;
+    return cache.insert(key, std::move(entry), byteCount).raster;
 }
 
 ImageRaster ImageRasters::transformed(const ImageRaster& raster, const geometry::Rect& frame, const geometry::Transform& toPixels,

@@ -27,6 +27,7 @@ public:
 
     // A file that cannot be read is reported once and has null pixels. Good until the next call.
     const ImageRaster& image(const graphics::Image& image, graphics::ColorScheme scheme, QSize size);
+    // Shares the bitmap's pixels where they need no scaling. Good until the next call, as long as the bitmap lives.
     const ImageRaster& bitmap(const std::shared_ptr<const graphics::Bitmap>& bitmap, QSize size);
 
     // Turned, or scaled by a passing animation: the picture that covers `frame`, as it is mapped to pixels, inside of `window`.
@@ -51,9 +52,11 @@ private:
     };
 
     ImageRaster load(const std::filesystem::path& file, QSize size, bool isTinted);
-    const ImageRaster& insert(const Key& key, Entry entry);
+    using Cache = LruCache<Key, Entry>;
+    static const ImageRaster& insert(Cache& cache, const Key& key, Entry entry);
 
-    LruCache<Key, Entry> m_entries;
+    Cache m_files;
+    Cache m_bitmaps;
     std::unordered_set<std::string> m_reportedFiles;
     ImageRaster m_unshared;
 };
