@@ -26,6 +26,20 @@ struct PaintState {
     bool hides(const geometry::Rect& rect) const;
 };
 
+// Asked of every view at every painting.
+inline PaintState PaintState::movedBy(geometry::Point delta) const {
+    PaintState state = *this;
+    state.origin = origin + delta;
+    return state;
+}
+
+inline geometry::Rect PaintState::toWindow(const geometry::Rect& rect) const {
+    const geometry::Rect placed = rect.offsetBy(origin);
+    return transform.isTranslation() ? placed.offsetBy({transform.tx, transform.ty}) : transform.apply(placed);
+}
+
+inline bool PaintState::hides(const geometry::Rect& rect) const { return !(opacity > 0) || !toWindow(rect).intersects(clip); }
+
 // Commands that nothing of can be seen are left out.
 class PaintContext {
 public:

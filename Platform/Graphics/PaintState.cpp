@@ -6,12 +6,6 @@ namespace graphics {
 
 using geometry::Rect;
 
-PaintState PaintState::movedBy(geometry::Point delta) const {
-    PaintState state = *this;
-    state.origin = origin + delta;
-    return state;
-}
-
 PaintState PaintState::clippedTo(const Rect& rect, double radius) const {
     PaintState state = *this;
     const Rect window = toWindow(rect);
@@ -37,9 +31,5 @@ PaintState PaintState::transformedBy(const geometry::Transform& local) const {
     state.transform = local.about(origin).then(transform);
     return state;
 }
-
-Rect PaintState::toWindow(const Rect& rect) const { return transform.apply(rect.offsetBy(origin)); }
-
-bool PaintState::hides(const Rect& rect) const { return !(opacity > 0) || !toWindow(rect).intersects(clip); }
 
 } // namespace graphics

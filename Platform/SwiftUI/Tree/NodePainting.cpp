@@ -30,7 +30,7 @@ PaintState stateOfContent(const Node& node, const PaintState& state, double now_
 
 void Node::paint(graphics::PaintContext& context, const PaintState& parentState, double now_s) {
     // While things move they may be outside of where they will be in the end.
-    if (!m_host->isMoving() && parentState.hides(m_paintBounds.offsetBy(m_frame.origin))) return;
+    if (parentState.hides(m_paintBounds.offsetBy(m_frame.origin)) && !m_host->isMoving()) return;
     const PaintState state = stateInside(*this, parentState, now_s);
     if (!(state.opacity > 0)) return;
     paintContent(context, state, now_s);
@@ -53,7 +53,8 @@ void Node::paintOverlay(graphics::PaintContext&, const PaintState&, double) {}
 
 Node* Node::hitTest(Point inWindow, const PaintState& parentState, double now_s) {
     if (!allowsHitTesting()) return nullptr;
-    if (!m_host->isMoving() && !parentState.toWindow(m_paintBounds.offsetBy(m_frame.origin)).contains(inWindow)) return nullptr;
+    const bool isInside = parentState.toWindow(m_paintBounds.offsetBy(m_frame.origin)).contains(inWindow);
+    if (!isInside && !m_host->isMoving()) return nullptr;
     const PaintState state = stateInside(*this, parentState, now_s);
     if (state.opacity < touchableOpacity || !state.clip.contains(inWindow)) return nullptr;
     const PaintState inner = stateOfContent(*this, state, now_s);
