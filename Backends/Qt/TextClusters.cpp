@@ -60,10 +60,12 @@ bool isBlank(QChar unit) {
     }
 }
 
+// Not a soft hyphen, since none would be shown, and not a solidus, which keeps a price and its period together.
+bool mayEndALine(QChar last) { return last != QChar(u'\u00AD') && last != u'/'; }
+
 } // namespace
 
 void makeClusters(const DecodedText& text, std::vector<Cluster>& clusters, std::vector<std::uint32_t>& unitStarts) {
-    constexpr char16_t softHyphen = 0xAD;
     unitStarts = clusterStarts(text);
     clusters.resize(unitStarts.size() - 1);
     QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text.units());
@@ -83,8 +85,7 @@ void makeClusters(const DecodedText& text, std::vector<Cluster>& clusters, std::
             // A carriage return and its line feed stay together even across runs.
             const bool continues = last == '\r' && end < text.units().size() && text.units()[end] == '\n';
             cluster.breakAfter = continues ? LineBreak::none : LineBreak::mandatory;
-        } else if (end < text.units().size() && finder.isAtBoundary() && last != QChar(softHyphen)) {
-            // A line must not end in a soft hyphen, since none would be shown.
+        } else if (end < text.units().size() && finder.isAtBoundary() && mayEndALine(last)) {
             cluster.breakAfter = LineBreak::allowed;
         }
     }
