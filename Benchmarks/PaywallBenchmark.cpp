@@ -27,6 +27,16 @@ void tapOnAPlan(benchmark::State& state) {
 }
 BENCHMARK(tapOnAPlan)->Unit(benchmark::kMicrosecond);
 
+void everyCacheDropped(benchmark::State& state) {
+    headless::TestBed bed;
+    PaywallWindow window;
+    for (auto _ : state) {
+        window.dropCaches();
+        benchmark::DoNotOptimize(window.paint().commands.data());
+    }
+}
+BENCHMARK(everyCacheDropped)->Unit(benchmark::kMicrosecond);
+
 // Everything is made anew: controllers, tree, layout, list. Texts stay shaped.
 void opened(benchmark::State& state) {
     headless::TestBed bed;

@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "Platform/Hosting/UIHostingController.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 #include "ProUpsells/Upsell View/UpsellViewController.hpp"
 #include "ProUpsells/VelaProUpsellViewController.hpp"
@@ -31,8 +32,14 @@ public:
 
     // Announces a change that changes nothing: the root's body is evaluated again.
     void announce() {
-        const auto paywall = std::dynamic_pointer_cast<proupsells::UpsellViewController>(m_entry->children().front());
-        paywall->upsellViewModel()->objectWillChange.send({});
+        paywall()->upsellViewModel()->objectWillChange.send({});
+        settle();
+    }
+
+    // Forgets every size, place and picture; views and shaped texts stay.
+    void dropCaches() {
+        const auto hosting = std::dynamic_pointer_cast<hosting::UIHostingController>(paywall()->children().front());
+        hosting->host().dropCaches();
         settle();
     }
 
@@ -53,6 +60,10 @@ public:
     }
 
 private:
+    std::shared_ptr<proupsells::UpsellViewController> paywall() const {
+        return std::dynamic_pointer_cast<proupsells::UpsellViewController>(m_entry->children().front());
+    }
+
     std::shared_ptr<uikit::UIWindow> m_window;
     std::shared_ptr<proupsells::VelaProUpsellViewController> m_entry;
     graphics::DisplayList m_list;

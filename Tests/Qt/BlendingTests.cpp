@@ -1,0 +1,76 @@
+// Rows of pixels against the same, worked out channel by channel.
+#include "Backends/Qt/Blending.hpp"
+
+#include <gmock/gmock.h>
+#include <rapidcheck/gtest.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace qtbackend {
+namespace {
+
+constexpr int channel(Pixel pixel, int index) { return int(pixel >> (8 * index)) & 0xFF; }
+constexpr int rounded(int value, int factor) { return (2 * value * factor + 255) / 510; }
+
+Pixel withChannels(auto&& channelAt) {
+    Pixel result = 0;
+    for (int index = 0; index < 4; ++index) result |= Pixel(channelAt(index)) << (8 * index);
+    return result;
+}
+
+Pixel fadedByHand(Pixel pixel, int factor) {
+    return withChannels([&](int index) { return rounded(channel(pixel, index), factor); });
+}
+
+Pixel overByHand(Pixel top, Pixel below) {
+    return withChannels([&](int index) { return channel(top, index) + rounded(channel(below, index), 255 - channel(top, 3)); });
+}
+
+Pixel somePixel(int alpha) {
+    return withChannels([&](int index) { return index == 3 ? alpha : *rc::gen::inRange(0, alpha + 1); });
+}
+
+// Stretches that are opaque, empty and in between, longer and shorter than what is blended at once.
+std::vector<Pixel> someRow(std::size_t count) {
+    std::vector<Pixel> row;
+    while (row.size() < count) {
+        const int alpha = *rc::gen::element(0, 255, *rc::gen::inRange(1, 255));
+        for (int length = *rc::gen::inRange(1, 40); length > 0 && row.size() < count; --length) row.push_back(somePixel(alpha));
+    }
+    return row;
+}
+
+std::vector<Pixel> someGround(std::size_t count) {
+    std::vector<Pixel> row(count);
+    for (Pixel& pixel : row) pixel = somePixel(255);
+    return row;
+}
+
+RC_GTEST_PROP(Blending, PaintsEveryPixelOverTheOneBelow, ()) {
+    const auto count = std::size_t(*rc::gen::inRange(0, 100));
+    const int opacity = *rc::gen::element(255, 254, 128, 1, 0);
+    const std::vector<Pixel> top = someRow(count), ground = someGround(count);
+
+    std::vector<Pixel> result = ground;
+    blendPixels(result.data(), count, top.data(), std::uint8_t(opacity));
+
+    for (std::size_t index = 0; index < count; ++index)
+        RC_ASSERT(result[index] == overByHand(fadedByHand(top[index], opacity), ground[index]));
+}
+
+RC_GTEST_PROP(Blending, PaintsAColourWithASharedCoverage, ()) {
+    const auto count = std::size_t(*rc::gen::inRange(0, 100));
+    const int coverage = *rc::gen::element(255, 200, 1, 0);
+    const Pixel color = somePixel(*rc::gen::element(255, 100, 0));
+    const std::vector<Pixel> ground = someGround(count);
+
+    std::vector<Pixel> result = ground;
+    blendColor(result.data(), count, color, std::uint8_t(coverage));
+
+    for (std::size_t index = 0; index < count; ++index)
+        RC_ASSERT(result[index] == overByHand(fadedByHand(color, coverage), ground[index]));
+}
+
+} // namespace
+} // namespace qtbackend
