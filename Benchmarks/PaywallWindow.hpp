@@ -22,7 +22,8 @@ public:
     PaywallWindow() : m_window(uikit::UIWindow::create({375, 800}, {0, 0, 34, 0})) {
         m_window->setRootViewController(std::make_shared<uikit::UIViewController>());
         m_entry = proupsells::VelaProUpsellViewController::create(
-            twoPlans(), proupsells::VelaProUpsellViewController::Variant::comparisonPaywall, "Benchmark", proupsells::Entitlement::velaPRO, true);
+            twoPlans(), proupsells::VelaProUpsellViewController::Variant::comparisonPaywall, "Benchmark",
+            proupsells::Entitlement::velaPRO, true);
         m_window->rootViewController()->present(m_entry, false);
         settle();
     }

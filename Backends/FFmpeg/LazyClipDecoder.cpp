@@ -11,7 +11,8 @@ namespace {
 // Stands for a clip that the plug-in plays as soon as it is there.
 class LazyClip final : public host::Clip {
 public:
-    LazyClip(std::filesystem::path file, std::weak_ptr<PluginLoader> plugin) : m_file(std::move(file)), m_plugin(std::move(plugin)) {}
+    LazyClip(std::filesystem::path file, std::weak_ptr<PluginLoader> plugin)
+        : m_file(std::move(file)), m_plugin(std::move(plugin)) {}
 
     host::ClipFrame frameAt(double time_s) override {
         openWhenPossible();
@@ -38,7 +39,8 @@ private:
 
 } // namespace
 
-LazyClipDecoder::LazyClipDecoder(Pace pace, std::vector<std::filesystem::path> folders) : m_pace(pace), m_folders(std::move(folders)) {}
+LazyClipDecoder::LazyClipDecoder(Pace pace, std::vector<std::filesystem::path> folders)
+    : m_pace(pace), m_folders(std::move(folders)) {}
 
 LazyClipDecoder::~LazyClipDecoder() = default;
 

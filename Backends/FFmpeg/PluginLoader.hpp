@@ -17,7 +17,8 @@ public:
     // `folders` are searched for the plug-in, first one first.
     PluginLoader(Pace pace, const std::vector<std::filesystem::path>& folders);
 
-    // Null while it is being loaded and when it cannot be; the latter costs one log line, when it turns out. At Pace::exact it waits.
+    // Null while it is being loaded and when it cannot be; the latter costs one log line, when it turns out. At Pace::exact it
+    // waits.
     host::ClipDecoder* decoder();
     // Whether it has turned out that there is no decoder.
     bool hasFailed() const { return m_hasFailed; }

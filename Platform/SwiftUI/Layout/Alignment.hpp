@@ -4,11 +4,12 @@
 #include <cstdint>
 #include <optional>
 
+#include "Platform/Geometry/Axis.hpp"
 #include "Platform/Geometry/Geometry.hpp"
 
 namespace swiftui {
 
-enum class Axis : std::uint8_t { horizontal, vertical };
+using geometry::Axis;
 
 enum class HorizontalAlignment : std::uint8_t { leading, center, trailing };
 enum class VerticalAlignment : std::uint8_t { top, center, bottom, firstTextBaseline };

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "Platform/Graphics/ScrollIndicator.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Platform/SwiftUI/Gestures/DragRecognizer.hpp"
 #include "Platform/SwiftUI/Gestures/ScrollAxis.hpp"
-#include "Platform/SwiftUI/Gestures/ScrollIndicator.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/SemanticContext.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
@@ -106,7 +106,7 @@ private:
     void stopStepping();
     void step();
     void noteMoved();
-    ScrollIndicator::Track indicatorTrack(double now_s) const;
+    graphics::ScrollIndicator::Track indicatorTrack(double now_s) const;
     geometry::Point revealed(const geometry::Rect& inWindow, const Sight& sight);
 
     Axis m_axis = Axis::vertical;
@@ -118,7 +118,7 @@ private:
     Animated<double> m_correction{0};
     bool m_isHeld = false; // the next touch takes hold at once
     bool m_hasRange = false;
-    ScrollIndicator m_indicator;
+    graphics::ScrollIndicator m_indicator;
     std::shared_ptr<runloop::Timer> m_stepping;
     std::shared_ptr<ScrollViewNode*> m_self; // made for those who reveal things
 };
@@ -251,8 +251,8 @@ void ScrollViewNode::noteMoved() {
 
 // --- Picture
 
-ScrollIndicator::Track ScrollViewNode::indicatorTrack(double now_s) const {
-    ScrollIndicator::Track track{.axis = m_axis, .scheme = environment().colorScheme};
+graphics::ScrollIndicator::Track ScrollViewNode::indicatorTrack(double now_s) const {
+    graphics::ScrollIndicator::Track track{.axis = m_axis};
     const double inset = indicatorInset, breadth = indicatorThickness;
     const geometry::Rect room{{inset + m_insets.left, inset + m_insets.top},
                               {frame().width() - m_insets.left - m_insets.right - 2 * inset,

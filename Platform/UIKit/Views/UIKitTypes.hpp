@@ -1,6 +1,7 @@
 // The retained layer's names for what lower rooms supply, and its small enumerations.
 #pragma once
 
+#include "Platform/Geometry/Axis.hpp"
 #include "Platform/Graphics/AttributedString.hpp"
 #include "Platform/Graphics/Color.hpp"
 #include "Platform/Graphics/Font.hpp"
@@ -12,7 +13,7 @@ using UIColor = graphics::Color;
 using UIFont = graphics::Font;
 using UIImage = graphics::ImageRef; // null: no image
 
-enum class Axis { horizontal, vertical };
+using geometry::Axis;
 
 // Where an axis has no natural length.
 inline constexpr double noIntrinsicMetric = -1;

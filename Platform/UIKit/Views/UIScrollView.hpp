@@ -1,10 +1,10 @@
 // A window onto content that may be larger than itself.
 #pragma once
 
+#include "Platform/Graphics/ScrollIndicator.hpp"
 #include "Platform/Motion/TimingCurve.hpp"
 #include "Platform/Motion/VelocityTracker.hpp"
 #include "Platform/RunLoop/Timer.hpp"
-#include "Platform/UIKit/Views/ScrollIndicator.hpp"
 #include "Platform/UIKit/Views/ScrollMovement.hpp"
 #include "Platform/UIKit/Views/UIScrollViewDelegate.hpp"
 #include "Platform/UIKit/Views/UIView.hpp"
@@ -145,7 +145,7 @@ private:
     motion::VelocityTracker m_speeds[2];
     std::optional<ScrollMovement> m_movement;
     std::shared_ptr<runloop::Timer> m_steps;
-    ScrollIndicator m_indicator;
+    graphics::ScrollIndicator m_indicator;
 };
 
 } // namespace uikit

@@ -1,23 +1,20 @@
 // The thin bar that shows, while content moves, where in it one is.
 #pragma once
 
-#include "Platform/Geometry/Geometry.hpp"
-#include "Platform/Graphics/Color.hpp"
+#include "Platform/Geometry/Axis.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
-#include "Platform/SwiftUI/Layout/Alignment.hpp"
 
-namespace swiftui {
+namespace graphics {
 
 class ScrollIndicator {
 public:
     // What there is to show.
     struct Track {
-        Axis axis = Axis::vertical;
+        geometry::Axis axis = geometry::Axis::vertical;
         geometry::Rect rect; // along the viewport's edge, in its coordinates
         double viewportLength = 0;
         double contentLength = 0;
         double offset = 0; // 0 at the content's start
-        graphics::ColorScheme scheme = graphics::ColorScheme::light;
     };
 
     // The content moves until then.
@@ -26,7 +23,7 @@ public:
     double opacityAt(double now_s) const;
     // When it has faded.
     double end_s() const;
-    void paint(graphics::PaintContext& context, const graphics::PaintState& state, const Track& track, double now_s) const;
+    void paint(PaintContext& context, const PaintState& state, const Track& track, double now_s) const;
     // Where the bar stands; empty where the content fits. It shrinks against the end that the content is pulled away from.
     static geometry::Rect bar(const Track& track);
 
@@ -34,4 +31,4 @@ private:
     double m_shownUntil_s = -1e300;
 };
 
-} // namespace swiftui
+} // namespace graphics

@@ -1,8 +1,8 @@
-#include "Platform/SwiftUI/Gestures/ScrollIndicator.hpp"
+#include "Platform/Graphics/ScrollIndicator.hpp"
 
 #include <algorithm>
 
-namespace swiftui {
+namespace graphics {
 namespace {
 
 constexpr double hold_s = 0.4;
@@ -17,7 +17,7 @@ double ScrollIndicator::opacityAt(double now_s) const { return std::clamp((end_s
 double ScrollIndicator::end_s() const { return m_shownUntil_s + hold_s + fade_s; }
 
 geometry::Rect ScrollIndicator::bar(const Track& track) {
-    const bool isHorizontal = track.axis == Axis::horizontal;
+    const bool isHorizontal = track.axis == geometry::Axis::horizontal;
     const double trackLength = isHorizontal ? track.rect.width() : track.rect.height();
     const double travel = track.contentLength - track.viewportLength;
     if (!(travel > 0) || !(trackLength > 0)) return {};
@@ -30,15 +30,14 @@ geometry::Rect ScrollIndicator::bar(const Track& track) {
     return {{track.rect.minX(), track.rect.minY() + start}, {track.rect.width(), length}};
 }
 
-void ScrollIndicator::paint(graphics::PaintContext& context, const graphics::PaintState& state, const Track& track,
-                            double now_s) const {
+void ScrollIndicator::paint(PaintContext& context, const PaintState& state, const Track& track, double now_s) const {
     const double opacity = opacityAt(now_s);
     const geometry::Rect rect = bar(track);
     if (opacity <= 0 || rect.isEmpty()) return;
-    const bool isDark = track.scheme == graphics::ColorScheme::dark;
-    const graphics::RGBA color = isDark ? graphics::rgb(0xFFFFFF, 128) : graphics::rgb(0x000000, 90);
+    const bool isDark = state.scheme == ColorScheme::dark;
+    const RGBA color = isDark ? rgb(0xFFFFFF, 128) : rgb(0x000000, 90);
     const double radius = std::min(rect.width(), rect.height()) / 2;
     context.fillRoundedRectangle(state.fadedBy(opacity), rect, radius, geometry::CornerStyle::circular, color);
 }
 
-} // namespace swiftui
+} // namespace graphics

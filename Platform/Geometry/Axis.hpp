@@ -1,0 +1,10 @@
+// The two directions in which things are laid out and scrolled.
+#pragma once
+
+#include <cstdint>
+
+namespace geometry {
+
+enum class Axis : std::uint8_t { horizontal, vertical };
+
+} // namespace geometry
