@@ -7,35 +7,19 @@
 namespace benchmarks {
 namespace {
 
-void nothingChanged(benchmark::State& state) {
+// Does something to the paywall and makes its picture.
+void repaintAfter(benchmark::State& state, void (PaywallWindow::*something)()) {
     headless::TestBed bed;
     PaywallWindow window;
     for (auto _ : state) {
-        window.announce();
+        (window.*something)();
         benchmark::DoNotOptimize(window.paint().commands.data());
     }
 }
-BENCHMARK(nothingChanged)->Unit(benchmark::kMicrosecond);
 
-void tapOnAPlan(benchmark::State& state) {
-    headless::TestBed bed;
-    PaywallWindow window;
-    for (auto _ : state) {
-        window.tapOtherPlan();
-        benchmark::DoNotOptimize(window.paint().commands.data());
-    }
-}
-BENCHMARK(tapOnAPlan)->Unit(benchmark::kMicrosecond);
-
-void everyCacheDropped(benchmark::State& state) {
-    headless::TestBed bed;
-    PaywallWindow window;
-    for (auto _ : state) {
-        window.dropCaches();
-        benchmark::DoNotOptimize(window.paint().commands.data());
-    }
-}
-BENCHMARK(everyCacheDropped)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(repaintAfter, nothingChanged, &PaywallWindow::announce)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(repaintAfter, tapOnAPlan, &PaywallWindow::tapOtherPlan)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(repaintAfter, everyCacheDropped, &PaywallWindow::dropCaches)->Unit(benchmark::kMicrosecond);
 
 // Everything is made anew: controllers, tree, layout, list. Texts stay shaped.
 void opened(benchmark::State& state) {

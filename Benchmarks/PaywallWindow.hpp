@@ -37,7 +37,7 @@ public:
         settle();
     }
 
-    // Forgets every size, place and picture; views and shaped texts stay.
+    // Evaluates every body, measures and lays out everything again; texts stay shaped.
     void dropCaches() {
         const auto hosting = std::dynamic_pointer_cast<hosting::UIHostingController>(paywall()->children().front());
         hosting->host().dropCaches();

@@ -1,6 +1,8 @@
 // What the module stands on when it is painted by the Qt backend, on a clock that a benchmark moves.
 #pragma once
 
+#include <benchmark/benchmark.h>
+
 #include "Backends/Icu/IcuLocaleServices.hpp"
 #include "Backends/Qt/Application.hpp"
 #include "Backends/Qt/QtImageDecoder.hpp"
@@ -20,5 +22,12 @@ struct QtMachine {
     runloop::MainRunLoop loop{std::make_shared<runloop::VirtualClock>()};
     host::Installation services;
 };
+
+inline int run(int count, char** arguments) {
+    const qtbackend::Application application({.isHeadless = true});
+    benchmark::Initialize(&count, arguments);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
 
 } // namespace benchmarks

@@ -1,6 +1,4 @@
 // What the paywall costs down to the pixels, 750 × 1600, painted by the Qt backend.
-#include <benchmark/benchmark.h>
-
 #include "Backends/Qt/RasterSurface.hpp"
 #include "Benchmarks/PaywallWindow.hpp"
 #include "Benchmarks/QtMachine.hpp"
@@ -39,8 +37,4 @@ BENCHMARK(tapToNewFrame)->Unit(benchmark::kMicrosecond);
 } // namespace
 } // namespace benchmarks
 
-int main(int count, char** arguments) {
-    const qtbackend::Application application({.isHeadless = true});
-    benchmark::Initialize(&count, arguments);
-    benchmark::RunSpecifiedBenchmarks();
-}
+int main(int count, char** arguments) { return benchmarks::run(count, arguments); }

@@ -1,7 +1,5 @@
 // What the store page costs down to the pixels, 750 × 1600, painted by the Qt backend, with its clips playing. The times are the
 // whole process's, so that what is decoded in the background counts.
-#include <benchmark/benchmark.h>
-
 #include "Backends/FFmpeg/LazyClipDecoder.hpp"
 #include "Benchmarks/QtMachine.hpp"
 #include "Benchmarks/StoreWindow.hpp"
@@ -60,8 +58,4 @@ BENCHMARK(secondAwayFromStripsAndClips)->Unit(benchmark::kMillisecond)->MeasureP
 } // namespace
 } // namespace benchmarks
 
-int main(int count, char** arguments) {
-    const qtbackend::Application application({.isHeadless = true});
-    benchmark::Initialize(&count, arguments);
-    benchmark::RunSpecifiedBenchmarks();
-}
+int main(int count, char** arguments) { return benchmarks::run(count, arguments); }

@@ -56,7 +56,7 @@ std::vector<std::filesystem::path> LazyClipDecoder::defaultFolders() {
     return folders;
 }
 
-bool LazyClipDecoder::isLoaded() const { return m_plugin && m_plugin->decoder(); }
+bool LazyClipDecoder::isLoaded() const { return m_plugin && m_plugin->isLoaded(); }
 
 std::shared_ptr<host::Clip> LazyClipDecoder::open(const std::filesystem::path& file) {
     if (!m_plugin) m_plugin = std::make_shared<PluginLoader>(m_pace, m_folders);

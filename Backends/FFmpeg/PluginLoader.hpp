@@ -20,6 +20,7 @@ public:
     // Null while it is being loaded and when it cannot be; the latter costs one log line, when it turns out. At Pace::exact it
     // waits.
     host::ClipDecoder* decoder();
+    bool isLoaded() const { return m_decoder != nullptr; }
     // Whether it has turned out that there is no decoder.
     bool hasFailed() const { return m_hasFailed; }
 

@@ -72,5 +72,25 @@ RC_GTEST_PROP(Blending, PaintsAColourWithASharedCoverage, ()) {
         RC_ASSERT(result[index] == overByHand(fadedByHand(color, coverage), ground[index]));
 }
 
+RC_GTEST_PROP(Blending, PaintsAColourWithACoverageForEveryPixel, ()) {
+    const auto count = std::size_t(*rc::gen::inRange(0, 100));
+    const Pixel color = somePixel(255);
+    const std::vector<Pixel> ground = someGround(count);
+    std::vector<std::uint8_t> coverages;
+    for (std::size_t index = 0; index < count; ++index)
+        coverages.push_back(std::uint8_t(*rc::gen::element(0, 255, *rc::gen::inRange(1, 255))));
+
+    std::vector<Pixel> result = ground;
+    blendColor(result.data(), count, color, coverages.data());
+
+    for (std::size_t index = 0; index < count; ++index) {
+        const int share = coverages[index];
+        const Pixel mixed = withChannels([&](int part) {
+            return (2 * (channel(color, part) * share + channel(ground[index], part) * (255 - share)) + 255) / 510;
+        });
+        RC_ASSERT(result[index] == mixed);
+    }
+}
+
 } // namespace
 } // namespace qtbackend

@@ -198,6 +198,22 @@ TEST_F(ImagePainting, SurvivesABitmapWithoutItsPixels) {
     EXPECT_EQ(totalInk(canvas.image()), 0);
 }
 
+TEST_F(ImagePainting, RemembersAPictureWhileALongClipPlays) {
+    const auto file = redSquare();
+    Canvas canvas({10, 10});
+    canvas.context.image({}, {{0, 0}, {10, 10}}, image(file));
+    canvas.image();
+    std::filesystem::remove(file);
+
+    for (int frame = 0; frame < 20; ++frame) {
+        Canvas clip({1000, 1000});
+        clip.context.bitmap({}, {{0, 0}, {1000, 1000}}, bitmap(1000, 1000, 0xFF000000u + unsigned(frame)));
+        ASSERT_EQ(clip.pixel(500, 500), unsigned(frame));
+    }
+
+    EXPECT_EQ(canvas.pixel(5, 5), 0xFF0000u);
+}
+
 TEST_F(ImagePainting, WritesPicturesPixelForPixel) {
     Canvas canvas({5.5, 3}, 2);
     canvas.context.fillRectangle({}, {{0, 0}, {2, 2}}, red);

@@ -5,10 +5,7 @@
 #include "Tests/SwiftUI/Rows.hpp"
 
 using namespace swiftui;
-using tests::box;
-using tests::Rows;
-using tests::rows;
-using tests::TouchScreen;
+using namespace ::tests;
 
 namespace {
 

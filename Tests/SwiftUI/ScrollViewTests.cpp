@@ -6,10 +6,7 @@
 #include "Tests/SwiftUI/Rows.hpp"
 
 using namespace swiftui;
-using tests::box;
-using tests::Rows;
-using tests::rows;
-using tests::TouchScreen;
+using namespace ::tests;
 
 namespace {
 
