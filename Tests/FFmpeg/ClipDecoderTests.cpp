@@ -197,20 +197,6 @@ TEST_F(ClipDecoder, DoesNotWaitForThePlugInOnTheRealClock) {
     EXPECT_THAT(complaints, ElementsAre(HasSubstr("cannot be played")));
 }
 
-TEST_F(ClipDecoder, LetsOthersPlayBesideAClipThatCannotKeepUp) {
-    LazyClipDecoder decoder{Pace::realTime, LazyClipDecoder::defaultFolders()};
-    const auto late = decoder.open(large), other = decoder.open(counting);
-
-    const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-    bool isShown = false;
-    for (int jump = 0; !isShown && std::chrono::steady_clock::now() < limit; ++jump) {
-        late->frameAt(jump * 0.37);
-        isShown = other->frameAt(0).picture != nullptr;
-    }
-
-    EXPECT_TRUE(isShown);
-}
-
 TEST_F(ClipDecoder, WithoutThePlugInCostsOneLineAndShowsNothing) {
     LazyClipDecoder decoder{Pace::exact, {"no-such-folder"}};
 
