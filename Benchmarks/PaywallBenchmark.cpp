@@ -4,7 +4,7 @@
 #include "Backends/Headless/TestBed.hpp"
 #include "Benchmarks/PaywallWindow.hpp"
 
-namespace benchmarks {
+namespace proupsells::benchmarks {
 namespace {
 
 // Does something to the paywall and makes its picture.
@@ -32,6 +32,6 @@ void opened(benchmark::State& state) {
 BENCHMARK(opened)->Unit(benchmark::kMicrosecond);
 
 } // namespace
-} // namespace benchmarks
+} // namespace proupsells::benchmarks
 
 BENCHMARK_MAIN();

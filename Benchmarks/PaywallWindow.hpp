@@ -8,7 +8,7 @@
 #include "ProUpsells/Upsell View/UpsellViewController.hpp"
 #include "ProUpsells/VelaProUpsellViewController.hpp"
 
-namespace benchmarks {
+namespace proupsells::benchmarks {
 
 inline std::vector<proupsells::SubscriptionOption> twoPlans() {
     using proupsells::SubscriptionOption;
@@ -71,4 +71,4 @@ private:
     bool m_isMonthly = false;
 };
 
-} // namespace benchmarks
+} // namespace proupsells::benchmarks

@@ -10,7 +10,7 @@
 #include "Platform/Host/Services.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
-namespace benchmarks {
+namespace proupsells::benchmarks {
 
 struct QtMachine {
     explicit QtMachine(std::shared_ptr<host::ClipDecoder> clipDecoder = nullptr)
@@ -30,4 +30,4 @@ inline int run(int count, char** arguments) {
     return 0;
 }
 
-} // namespace benchmarks
+} // namespace proupsells::benchmarks

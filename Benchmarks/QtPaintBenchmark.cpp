@@ -8,9 +8,11 @@
 #include "Backends/Qt/RasterSurface.hpp"
 #include "Tests/Qt/SyntheticPaywall.hpp"
 
+using namespace proupsells;
+
 namespace {
 
-using qttests::SyntheticPaywall;
+using tests::SyntheticPaywall;
 
 constexpr double scale = 2;
 

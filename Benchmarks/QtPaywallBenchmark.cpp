@@ -3,7 +3,7 @@
 #include "Benchmarks/PaywallWindow.hpp"
 #include "Benchmarks/QtMachine.hpp"
 
-namespace benchmarks {
+namespace proupsells::benchmarks {
 namespace {
 
 constexpr geometry::Size size{375, 800};
@@ -35,6 +35,6 @@ void tapToNewFrame(benchmark::State& state) {
 BENCHMARK(tapToNewFrame)->Unit(benchmark::kMicrosecond);
 
 } // namespace
-} // namespace benchmarks
+} // namespace proupsells::benchmarks
 
-int main(int count, char** arguments) { return benchmarks::run(count, arguments); }
+int main(int count, char** arguments) { return proupsells::benchmarks::run(count, arguments); }

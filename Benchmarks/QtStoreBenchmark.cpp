@@ -4,7 +4,7 @@
 #include "Benchmarks/QtMachine.hpp"
 #include "Benchmarks/StoreWindow.hpp"
 
-namespace benchmarks {
+namespace proupsells::benchmarks {
 namespace {
 
 std::shared_ptr<host::ClipDecoder> realClips() {
@@ -56,6 +56,6 @@ void secondAwayFromStripsAndClips(benchmark::State& state) { second(state, {375,
 BENCHMARK(secondAwayFromStripsAndClips)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
 
 } // namespace
-} // namespace benchmarks
+} // namespace proupsells::benchmarks
 
-int main(int count, char** arguments) { return benchmarks::run(count, arguments); }
+int main(int count, char** arguments) { return proupsells::benchmarks::run(count, arguments); }

@@ -5,7 +5,7 @@
 #include "Benchmarks/PaywallWindow.hpp"
 #include "ProUpsells/VelaProStorePageViewController.hpp"
 
-namespace benchmarks {
+namespace proupsells::benchmarks {
 
 class StoreWindow {
 public:
@@ -54,4 +54,4 @@ private:
     int m_frames = 0;
 };
 
-} // namespace benchmarks
+} // namespace proupsells::benchmarks

@@ -5,7 +5,7 @@
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 #include "Tests/SwiftUI/SampleScreen.hpp"
 
-namespace swiftui::tests {
+namespace proupsells::swiftui::tests {
 namespace {
 
 class SampleHost {
@@ -88,6 +88,6 @@ void firstFrame(benchmark::State& state) {
 BENCHMARK(firstFrame)->Unit(benchmark::kMicrosecond);
 
 } // namespace
-} // namespace swiftui::tests
+} // namespace proupsells::swiftui::tests
 
 BENCHMARK_MAIN();

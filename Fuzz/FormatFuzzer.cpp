@@ -8,6 +8,8 @@
 
 #include "Platform/Foundation/Format.hpp"
 
+using namespace proupsells;
+
 namespace {
 
 void require(bool condition) {

@@ -10,6 +10,8 @@
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 #include "Tests/SwiftUI/RandomTree.hpp"
 
+using namespace proupsells;
+
 namespace {
 
 void require(bool condition) {

@@ -8,6 +8,8 @@
 #include "Platform/Foundation/StringsFile.hpp"
 #include "Platform/Foundation/Utf8.hpp"
 
+using namespace proupsells;
+
 namespace {
 
 void require(bool condition) {

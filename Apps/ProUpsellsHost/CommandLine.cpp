@@ -7,7 +7,7 @@
 
 #include "Apps/ProUpsellsHost/InputError.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 namespace {
 
@@ -99,4 +99,4 @@ Arguments readCommandLine(int count, const char* const* arguments) {
     return runArguments;
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -8,7 +8,7 @@
 #include "Apps/ProUpsellsHost/Device.hpp"
 #include "Apps/ProUpsellsHost/ShowCommand.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 struct RunArguments {
     std::filesystem::path scenario;
@@ -29,4 +29,4 @@ using Arguments = std::variant<RunArguments, ShowArguments, HelpShown>;
 // Throws InputError with "command line" in the place of a file.
 Arguments readCommandLine(int count, const char* const* arguments);
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

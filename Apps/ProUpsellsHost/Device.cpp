@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 namespace {
 
@@ -42,10 +42,9 @@ std::filesystem::path readStrings(const JsonCursor& value, const std::filesystem
 }
 
 graphics::ContentSizeCategory readTextSize(const JsonCursor& value) {
-    return static_cast<graphics::ContentSizeCategory>(
-        value.oneOf({"extraSmall", "small", "medium", "large", "extraLarge", "extraExtraLarge", "extraExtraExtraLarge",
-                     "accessibilityMedium", "accessibilityLarge", "accessibilityExtraLarge", "accessibilityExtraExtraLarge",
-                     "accessibilityExtraExtraExtraLarge"}));
+    return static_cast<graphics::ContentSizeCategory>(value.oneOf(
+        {"extraSmall", "small", "medium", "large", "extraLarge", "extraExtraLarge", "extraExtraExtraLarge", "accessibilityMedium",
+         "accessibilityLarge", "accessibilityExtraLarge", "accessibilityExtraExtraLarge", "accessibilityExtraExtraExtraLarge"}));
 }
 
 constexpr std::array<std::string_view, 10> deviceKeys{"size",     "scale",        "appearance", "locale",  "layoutDirection",
@@ -56,27 +55,40 @@ constexpr std::array<std::string_view, 10> deviceKeys{"size",     "scale",      
 bool isDeviceKey(std::string_view key) { return std::find(deviceKeys.begin(), deviceKeys.end(), key) != deviceKeys.end(); }
 
 void readDeviceKey(Device& device, std::string_view key, const JsonCursor& value, const std::filesystem::path& folder) {
-    if (key == "size") device.size = readSize(value);
-    else if (key == "scale") device.scale = value.number(0.25, 8, "pixels a point, from 0.25 to 8");
-    else if (key == "appearance") device.appearance = value.oneOf({"light", "dark"}) == 1 ? graphics::ColorScheme::dark : graphics::ColorScheme::light;
-    else if (key == "locale") device.locale = readLocale(value);
-    else if (key == "layoutDirection") device.layoutDirection = static_cast<DirectionChoice>(value.oneOf({"auto", "ltr", "rtl"}));
-    else if (key == "textSize") device.textSize = readTextSize(value);
-    else if (key == "reduceMotion") device.reduceMotion = value.boolean();
-    else if (key == "safeArea") device.safeArea = readSafeArea(value);
-    else if (key == "strings") device.strings = readStrings(value, folder);
-    else if (key == "fonts") device.fonts = static_cast<FontChoice>(value.oneOf({"bundled", "fixed"}));
-    else value.fail("unknown key \"" + std::string(key) + "\", expected a key of a device");
+    if (key == "size")
+        device.size = readSize(value);
+    else if (key == "scale")
+        device.scale = value.number(0.25, 8, "pixels a point, from 0.25 to 8");
+    else if (key == "appearance")
+        device.appearance = value.oneOf({"light", "dark"}) == 1 ? graphics::ColorScheme::dark : graphics::ColorScheme::light;
+    else if (key == "locale")
+        device.locale = readLocale(value);
+    else if (key == "layoutDirection")
+        device.layoutDirection = static_cast<DirectionChoice>(value.oneOf({"auto", "ltr", "rtl"}));
+    else if (key == "textSize")
+        device.textSize = readTextSize(value);
+    else if (key == "reduceMotion")
+        device.reduceMotion = value.boolean();
+    else if (key == "safeArea")
+        device.safeArea = readSafeArea(value);
+    else if (key == "strings")
+        device.strings = readStrings(value, folder);
+    else if (key == "fonts")
+        device.fonts = static_cast<FontChoice>(value.oneOf({"bundled", "fixed"}));
+    else
+        value.fail("unknown key \"" + std::string(key) + "\", expected a key of a device");
 
     if (device.size.width * device.scale > maximumPixels || device.size.height * device.scale > maximumPixels)
         value.fail("the window is out of range, expected at most 32000 pixels a side");
     const auto& insets = device.safeArea;
-    if ((key == "safeArea" || key == "size") && (insets.left + insets.right >= device.size.width || insets.top + insets.bottom >= device.size.height))
+    if ((key == "safeArea" || key == "size") &&
+        (insets.left + insets.right >= device.size.width || insets.top + insets.bottom >= device.size.height))
         value.fail("the safe area is out of range, expected insets that leave some of the window");
 }
 
 Device readDevice(const JsonCursor& object, const std::filesystem::path& folder) {
-    object.expectObject({"size", "scale", "appearance", "locale", "layoutDirection", "textSize", "reduceMotion", "safeArea", "strings", "fonts"});
+    object.expectObject(
+        {"size", "scale", "appearance", "locale", "layoutDirection", "textSize", "reduceMotion", "safeArea", "strings", "fonts"});
     Device device;
     // Insets are held against the size, whichever comes first in the file.
     for (const std::string_view key : deviceKeys)
@@ -84,4 +96,4 @@ Device readDevice(const JsonCursor& object, const std::filesystem::path& folder)
     return device;
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

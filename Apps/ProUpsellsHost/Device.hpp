@@ -11,7 +11,7 @@
 #include "Platform/Graphics/Color.hpp"
 #include "Platform/Graphics/ContentSize.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 enum class DirectionChoice { automatic, leftToRight, rightToLeft };
 enum class FontChoice { bundled, fixed };
@@ -36,4 +36,4 @@ void readDeviceKey(Device& device, std::string_view key, const JsonCursor& value
 // Reads an object of device keys.
 Device readDevice(const JsonCursor& object, const std::filesystem::path& folder);
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

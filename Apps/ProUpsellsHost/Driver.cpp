@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 namespace {
 
@@ -50,4 +50,4 @@ void Driver::touch(host::TouchPhase phase, geometry::Point point) {
     m_loop.settle();
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -7,7 +7,7 @@
 #include "Apps/ProUpsellsHost/HostSession.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 class Driver {
 public:
@@ -30,4 +30,4 @@ private:
     HostSession& m_session;
 };
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -5,7 +5,7 @@
 #include "Apps/ProUpsellsHost/Numbers.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 void EventLog::write(std::string_view event, const Json& details) {
     Json line;
@@ -15,4 +15,4 @@ void EventLog::write(std::string_view event, const Json& details) {
     m_stream << line.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n' << std::flush;
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -6,7 +6,7 @@
 
 #include "Apps/ProUpsellsHost/JsonFile.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 // One JSON object a line, written when the call is made.
 class EventLog {
@@ -20,4 +20,4 @@ private:
     std::ostream& m_stream;
 };
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

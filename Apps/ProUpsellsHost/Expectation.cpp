@@ -7,7 +7,7 @@
 #include "Apps/ProUpsellsHost/ScreenDump.hpp"
 #include "Platform/Accessibility/Search.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 namespace {
 
@@ -41,15 +41,17 @@ std::optional<std::string> contradiction(const ExpectStep& expected, const acces
     if (expected.label && node->label != *expected.label) return in(differs("label", node->label, *expected.label));
     if (expected.value && node->value != *expected.value) return in(differs("value", node->value, *expected.value));
     if (expected.text && shownText(*node) != *expected.text) return in(differs("text", shownText(*node), *expected.text));
-    if (expected.onScreen && node->isOnScreen != *expected.onScreen) return in(differs("onScreen", node->isOnScreen, *expected.onScreen));
+    if (expected.onScreen && node->isOnScreen != *expected.onScreen)
+        return in(differs("onScreen", node->isOnScreen, *expected.onScreen));
     if (expected.traits) {
         auto found = traitNames(node->traits), wanted = *expected.traits;
         std::sort(found.begin(), found.end());
         std::sort(wanted.begin(), wanted.end());
         if (found != wanted) return in(differs("traits", found, wanted));
     }
-    if (expected.frame && !isClose(node->frame, *expected.frame)) return in(differs("frame", toJson(node->frame), toJson(*expected.frame)));
+    if (expected.frame && !isClose(node->frame, *expected.frame))
+        return in(differs("frame", toJson(node->frame), toJson(*expected.frame)));
     return std::nullopt;
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -7,9 +7,9 @@
 #include "Apps/ProUpsellsHost/Scenario.hpp"
 #include "Platform/Accessibility/Node.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 // What does not hold, in words; absent when all of it does. Frames may differ by a hundredth of a point.
 std::optional<std::string> contradiction(const ExpectStep& expected, const accessibility::Node& root);
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

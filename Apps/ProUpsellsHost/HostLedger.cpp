@@ -3,12 +3,13 @@
 #include "Apps/ProUpsellsHost/Numbers.hpp"
 #include "Apps/ProUpsellsHost/Offers.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 using proupsells::Referrer;
 using proupsells::SubscriptionOption;
 
-void LedgerDelegate::proUpsellViewControllerDidContinueWith(proupsells::VelaProUpsellViewController&, const SubscriptionOption& option) {
+void LedgerDelegate::proUpsellViewControllerDidContinueWith(proupsells::VelaProUpsellViewController&,
+                                                            const SubscriptionOption& option) {
     m_log->write("delegate", {{"operation", "proUpsellViewController(_:didContinueWith:)"}, {"option", toJson(option)}});
 }
 
@@ -42,7 +43,8 @@ void LedgerTracker::trackUpsellViewed(const Referrer& referrer, const std::strin
     m_log->write("tracker", tracked("trackUpsellViewed", referrer, screenTitle, entitlement));
 }
 
-void LedgerTracker::trackSubscriptionOptionSelected(const SubscriptionOption& option, const Referrer& referrer, const std::string& screenTitle) {
+void LedgerTracker::trackSubscriptionOptionSelected(const SubscriptionOption& option, const Referrer& referrer,
+                                                    const std::string& screenTitle) {
     m_log->write("tracker", {{"operation", "trackSubscriptionOptionSelected"},
                              {"option", toJson(option)},
                              {"referrer", referrer.description()},
@@ -80,12 +82,13 @@ void LedgerTracker::trackComparePlansTapped(const Referrer& referrer, const std:
     m_log->write("tracker", tracked("trackComparePlansTapped", referrer, screenTitle));
 }
 
-void LedgerTracker::trackChoosePlanTapped(const Referrer& referrer, const std::string& screenTitle, const std::string& entitlement) {
+void LedgerTracker::trackChoosePlanTapped(const Referrer& referrer, const std::string& screenTitle,
+                                          const std::string& entitlement) {
     m_log->write("tracker", tracked("trackChoosePlanTapped", referrer, screenTitle, entitlement));
 }
 
-void LedgerObserver::willPresent(uikit::UIViewController& controller, uikit::UIViewController& content, uikit::UIModalPresentationStyle style,
-                                 geometry::Size size) {
+void LedgerObserver::willPresent(uikit::UIViewController& controller, uikit::UIViewController& content,
+                                 uikit::UIModalPresentationStyle style, geometry::Size size) {
     m_log->write("present", {{"controller", controller.typeName()},
                              {"content", content.typeName()},
                              {"style", uikit::presentationStyleName(style)},
@@ -96,4 +99,4 @@ void LedgerObserver::willDismiss(uikit::UIViewController& controller, uikit::UIV
     m_log->write("dismiss", {{"controller", controller.typeName()}, {"content", content.typeName()}});
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

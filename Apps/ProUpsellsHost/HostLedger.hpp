@@ -1,4 +1,5 @@
-// The host's side of every conversation: delegate, tracker and presentation observer, each of which only writes down what it is told.
+// The host's side of every conversation: delegate, tracker and presentation observer, each of which only writes down what it is
+// told.
 #pragma once
 
 #include <memory>
@@ -8,13 +9,14 @@
 #include "ProUpsells/ProUpsellEventTracker.hpp"
 #include "ProUpsells/VelaProUpsellViewControllerDelegate.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 class LedgerDelegate final : public proupsells::VelaProUpsellViewControllerDelegate {
 public:
     explicit LedgerDelegate(std::shared_ptr<EventLog> log) : m_log(std::move(log)) {}
 
-    void proUpsellViewControllerDidContinueWith(proupsells::VelaProUpsellViewController&, const proupsells::SubscriptionOption& option) override;
+    void proUpsellViewControllerDidContinueWith(proupsells::VelaProUpsellViewController&,
+                                                const proupsells::SubscriptionOption& option) override;
     void proUpsellViewControllerDidTapRestore(proupsells::VelaProUpsellViewController&) override;
     void proUpsellViewControllerDidTapPrivacyPolicy(proupsells::VelaProUpsellViewController&) override;
     void proUpsellViewControllerDidTapTermsOfService(proupsells::VelaProUpsellViewController&) override;
@@ -38,7 +40,8 @@ public:
     void trackPrivacyPolicyTapped(const proupsells::Referrer&, const std::string& screenTitle) override;
     void trackTermsOfServiceTapped(const proupsells::Referrer&, const std::string& screenTitle) override;
     void trackComparePlansTapped(const proupsells::Referrer&, const std::string& screenTitle) override;
-    void trackChoosePlanTapped(const proupsells::Referrer&, const std::string& screenTitle, const std::string& entitlement) override;
+    void trackChoosePlanTapped(const proupsells::Referrer&, const std::string& screenTitle,
+                               const std::string& entitlement) override;
 
 private:
     std::shared_ptr<EventLog> m_log;
@@ -48,11 +51,12 @@ class LedgerObserver final : public uikit::PresentationObserver {
 public:
     explicit LedgerObserver(std::shared_ptr<EventLog> log) : m_log(std::move(log)) {}
 
-    void willPresent(uikit::UIViewController&, uikit::UIViewController& content, uikit::UIModalPresentationStyle, geometry::Size) override;
+    void willPresent(uikit::UIViewController&, uikit::UIViewController& content, uikit::UIModalPresentationStyle,
+                     geometry::Size) override;
     void willDismiss(uikit::UIViewController&, uikit::UIViewController& content) override;
 
 private:
     std::shared_ptr<EventLog> m_log;
 };
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

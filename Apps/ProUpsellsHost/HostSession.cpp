@@ -11,11 +11,12 @@
 #include "ProUpsells/Upsell View/UpsellViewController.hpp"
 #include "ProUpsells/VelaProStorePageViewController.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 using proupsells::UpsellViewModel;
 
-HostSession::HostSession(Offers offers, const Device& device, HostParts parts, ffmpegbackend::Pace pace, std::shared_ptr<EventLog> log)
+HostSession::HostSession(Offers offers, const Device& device, HostParts parts, ffmpegbackend::Pace pace,
+                         std::shared_ptr<EventLog> log)
     : m_device(device), m_log(std::move(log)),
       m_clipDecoder(std::make_shared<ffmpegbackend::LazyClipDecoder>(pace, ffmpegbackend::LazyClipDecoder::defaultFolders())) {
     commons::DefaultLogger::shared().setSink([log = m_log](const commons::LogRecord& record) {
@@ -36,8 +37,10 @@ HostSession::HostSession(Offers offers, const Device& device, HostParts parts, f
     if (parts.delegate) m_delegate = std::make_shared<LedgerDelegate>(m_log);
     m_entry->setTracker(m_tracker);
     m_entry->setDelegate(m_delegate);
-    m_entry->setAnnualSubscriptionPriceForComparisonWithPromotionalPrice(offers.annualSubscriptionPriceForComparisonWithPromotionalPrice);
-    m_entry->setMonthlySubscriptionPriceForComparisonWithPromotionalPrice(offers.monthlySubscriptionPriceForComparisonWithPromotionalPrice);
+    m_entry->setAnnualSubscriptionPriceForComparisonWithPromotionalPrice(
+        offers.annualSubscriptionPriceForComparisonWithPromotionalPrice);
+    m_entry->setMonthlySubscriptionPriceForComparisonWithPromotionalPrice(
+        offers.monthlySubscriptionPriceForComparisonWithPromotionalPrice);
 }
 
 HostSession::~HostSession() {
@@ -49,8 +52,10 @@ void HostSession::installServices() {
     foundation::Locale::setCurrent(foundation::Locale{m_device.locale});
     foundation::Bundle::setMain(m_device.strings);
     host::Services services;
-    if (m_device.fonts == FontChoice::fixed) services.textShaper = std::make_shared<headless::FixedTextShaper>();
-    else services.textShaper = std::make_shared<qtbackend::QtTextShaper>();
+    if (m_device.fonts == FontChoice::fixed)
+        services.textShaper = std::make_shared<headless::FixedTextShaper>();
+    else
+        services.textShaper = std::make_shared<qtbackend::QtTextShaper>();
     services.imageDecoder = std::make_shared<qtbackend::QtImageDecoder>();
     services.clipDecoder = m_clipDecoder;
     services.localeServices = std::make_shared<icubackend::IcuLocaleServices>();
@@ -79,7 +84,8 @@ bool HostSession::isShowing() const { return m_entry->presentingViewController()
 void HostSession::present() { m_window->rootViewController()->present(m_entry, true); }
 
 void HostSession::setDevice(const Device& device) {
-    const bool needsServices = device.locale != m_device.locale || device.strings != m_device.strings || device.fonts != m_device.fonts;
+    const bool needsServices =
+        device.locale != m_device.locale || device.strings != m_device.strings || device.fonts != m_device.fonts;
     m_device = device;
     if (needsServices) installServices();
     m_window->setSize(device.size, device.safeArea);
@@ -90,7 +96,8 @@ void HostSession::set(const SetStep& step) {
     if (step.options) m_entry->setOptions(*step.options);
     if (step.annualPrice) m_entry->setAnnualSubscriptionPriceForComparisonWithPromotionalPrice(*step.annualPrice);
     if (step.monthlyPrice) m_entry->setMonthlySubscriptionPriceForComparisonWithPromotionalPrice(*step.monthlyPrice);
-    if (step.shouldMentioniCloudSync) proupsells::VelaProStorePageViewController::shouldMentioniCloudSync = *step.shouldMentioniCloudSync;
+    if (step.shouldMentioniCloudSync)
+        proupsells::VelaProStorePageViewController::shouldMentioniCloudSync = *step.shouldMentioniCloudSync;
     if (step.device) setDevice(*step.device);
 }
 
@@ -110,8 +117,10 @@ void HostSession::send(SentEvent event) {
 }
 
 void HostSession::release(HostPart part) {
-    if (part == HostPart::delegate) m_delegate.reset();
-    else m_tracker.reset();
+    if (part == HostPart::delegate)
+        m_delegate.reset();
+    else
+        m_tracker.reset();
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -11,7 +11,7 @@
 #include "Platform/Host/Services.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 struct HostParts {
     bool tracker = true;
@@ -55,4 +55,4 @@ private:
     std::shared_ptr<proupsells::VelaProUpsellViewController> m_entry;
 };
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -2,8 +2,8 @@
 
 #include "Platform/VelaUIKit/Colors.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 void HostViewController::viewDidLoad() { view()->setBackgroundColor(velauikit::velaSecondaryAppBackground); }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

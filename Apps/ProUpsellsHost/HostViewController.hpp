@@ -3,7 +3,7 @@
 
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 class HostViewController final : public uikit::UIViewController {
 public:
@@ -11,4 +11,4 @@ public:
     void viewDidLoad() override;
 };
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

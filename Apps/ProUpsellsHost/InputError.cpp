@@ -1,6 +1,6 @@
 #include "Apps/ProUpsellsHost/InputError.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 namespace {
 
@@ -17,4 +17,4 @@ std::string oneLine(const std::string& text) {
 InputError::InputError(const std::string& file, const std::string& pointer, const std::string& complaint)
     : std::runtime_error(oneLine(file + ": " + (pointer.empty() ? "/" : pointer) + ": " + complaint)) {}
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

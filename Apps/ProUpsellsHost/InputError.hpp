@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 // One line: FILE: POINTER: what is wrong, what was expected. Caught in main(), exit status 2.
 class InputError : public std::runtime_error {
@@ -19,4 +19,4 @@ public:
     InputErrorWithList(const InputError& error, const std::string& list) : std::runtime_error(error.what() + list) {}
 };
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

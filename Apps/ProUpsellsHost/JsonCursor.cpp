@@ -5,7 +5,7 @@
 
 #include "Apps/ProUpsellsHost/InputError.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 namespace {
 
@@ -41,9 +41,12 @@ const Json* JsonCursor::find(std::string_view key) const {
 JsonCursor JsonCursor::child(const Json& value, std::string_view token) const {
     std::string pointer = m_pointer + '/';
     for (const char c : token) {
-        if (c == '~') pointer += "~0";
-        else if (c == '/') pointer += "~1";
-        else pointer += c;
+        if (c == '~')
+            pointer += "~0";
+        else if (c == '/')
+            pointer += "~1";
+        else
+            pointer += c;
     }
     return {value, m_file, std::move(pointer)};
 }
@@ -131,4 +134,4 @@ std::size_t JsonCursor::oneOf(std::initializer_list<std::string_view> words) con
     return static_cast<std::size_t>(found - words.begin());
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -11,7 +11,7 @@
 
 #include "Apps/ProUpsellsHost/JsonFile.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 // Every reader throws InputError when the value is not what it asks for.
 class JsonCursor {
@@ -63,4 +63,4 @@ private:
     std::string m_pointer;
 };
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -7,7 +7,7 @@
 
 #include "Apps/ProUpsellsHost/InputError.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 namespace {
 
@@ -16,9 +16,12 @@ constexpr std::size_t maximumDepth = 100;
 std::string escapedToken(const std::string& key) {
     std::string result;
     for (const char c : key) {
-        if (c == '~') result += "~0";
-        else if (c == '/') result += "~1";
-        else result += c;
+        if (c == '~')
+            result += "~0";
+        else if (c == '/')
+            result += "~1";
+        else
+            result += c;
     }
     return result;
 }
@@ -65,8 +68,10 @@ public:
     std::string pointer() const {
         std::string result;
         for (const Level& level : m_levels) {
-            if (level.value->is_array()) result += "/" + std::to_string(level.value->size());
-            else if (!level.key.empty() || !level.keys.empty()) result += "/" + escapedToken(level.key);
+            if (level.value->is_array())
+                result += "/" + std::to_string(level.value->size());
+            else if (!level.key.empty() || !level.keys.empty())
+                result += "/" + escapedToken(level.key);
         }
         return result;
     }
@@ -119,7 +124,8 @@ private:
 std::string readBytes(const std::filesystem::path& file) {
     std::error_code error;
     const auto status = std::filesystem::status(file, error);
-    if (error || !std::filesystem::exists(status)) throw InputError(file.string(), "", "there is no such file, expected a JSON file");
+    if (error || !std::filesystem::exists(status))
+        throw InputError(file.string(), "", "there is no such file, expected a JSON file");
     if (std::filesystem::is_directory(status)) throw InputError(file.string(), "", "this is a folder, expected a JSON file");
     std::ifstream stream(file, std::ios::binary);
     if (!stream) throw InputError(file.string(), "", "the file cannot be read, expected a readable JSON file");
@@ -128,7 +134,8 @@ std::string readBytes(const std::filesystem::path& file) {
     char chunk[65536];
     while (stream.read(chunk, sizeof chunk) || stream.gcount() > 0) {
         bytes.append(chunk, static_cast<std::size_t>(stream.gcount()));
-        if (bytes.size() > maximumFileSize) throw InputError(file.string(), "", "the file is larger than 64 MB, expected a smaller one");
+        if (bytes.size() > maximumFileSize)
+            throw InputError(file.string(), "", "the file is larger than 64 MB, expected a smaller one");
     }
     if (stream.bad()) throw InputError(file.string(), "", "the file cannot be read, expected a readable JSON file");
     if (bytes.empty()) throw InputError(file.string(), "", "the file is empty, expected a JSON object");
@@ -140,7 +147,11 @@ std::size_t firstInvalidByte(const std::string& text) {
     const auto byte = [&](std::size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0u; };
     for (std::size_t i = 0; i < text.size();) {
         const unsigned lead = byte(i);
-        const int length = lead < 0x80 ? 1 : lead >= 0xC2 && lead < 0xE0 ? 2 : lead >= 0xE0 && lead < 0xF0 ? 3 : lead >= 0xF0 && lead < 0xF5 ? 4 : 0;
+        const int length = lead < 0x80                   ? 1
+                           : lead >= 0xC2 && lead < 0xE0 ? 2
+                           : lead >= 0xE0 && lead < 0xF0 ? 3
+                           : lead >= 0xF0 && lead < 0xF5 ? 4
+                                                         : 0;
         if (length == 0) return i;
         for (int k = 1; k < length; ++k)
             if ((byte(i + k) & 0xC0) != 0x80) return i;
@@ -175,9 +186,10 @@ Json readJsonFile(const std::filesystem::path& file) {
     Builder builder(file.string());
     if (!Json::sax_parse(bytes, &builder)) {
         const std::size_t offset = builder.errorPosition() > 0 ? builder.errorPosition() - 1 : 0;
-        throw InputError(file.string(), builder.pointer(), "malformed JSON at " + lineAndColumn(bytes, offset) + ", expected well-formed JSON");
+        throw InputError(file.string(), builder.pointer(),
+                         "malformed JSON at " + lineAndColumn(bytes, offset) + ", expected well-formed JSON");
     }
     return std::move(builder.result);
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 Json toJson(double number) {
     const double rounded = std::round(number * 1e6) / 1e6;
@@ -22,4 +22,4 @@ Json toJson(const geometry::PhysicalInsets& insets) {
     return Json::array({toJson(insets.top), toJson(insets.left), toJson(insets.bottom), toJson(insets.right)});
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

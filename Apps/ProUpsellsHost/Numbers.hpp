@@ -4,7 +4,7 @@
 #include "Apps/ProUpsellsHost/JsonFile.hpp"
 #include "Platform/Geometry/Geometry.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 // Rounded to a millionth; a whole number has no fraction: 5, 0.5, 5.35.
 Json toJson(double number);
@@ -17,4 +17,4 @@ Json toJson(geometry::Point point);
 // [top, left, bottom, right]
 Json toJson(const geometry::PhysicalInsets& insets);
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

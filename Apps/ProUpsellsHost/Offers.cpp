@@ -1,9 +1,9 @@
 #include "Apps/ProUpsellsHost/Offers.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
-using proupsells::SubscriptionOption;
 using proupsells::Referrer;
+using proupsells::SubscriptionOption;
 
 namespace {
 
@@ -19,9 +19,11 @@ bool optionalBoolean(const JsonCursor& object, std::string_view key, bool fallba
 SubscriptionOption readOption(const JsonCursor& option) {
     option.keys(); // an object, before its type is asked for
     const std::size_t type = option.at("type").oneOf({"monthly", "yearly", "lifetime"});
-    if (type == 0) option.expectObject({"SKU", "type", "price", "introductoryPrice", "introductoryPeriodLength", "hasUsedFreeTrial"});
+    if (type == 0)
+        option.expectObject({"SKU", "type", "price", "introductoryPrice", "introductoryPeriodLength", "hasUsedFreeTrial"});
     if (type == 1)
-        option.expectObject({"SKU", "type", "price", "monthlyEffectivePrice", "introductoryPrice", "introductoryPeriodLength", "hasUsedFreeTrial"});
+        option.expectObject(
+            {"SKU", "type", "price", "monthlyEffectivePrice", "introductoryPrice", "introductoryPeriodLength", "hasUsedFreeTrial"});
     if (type == 2) option.expectObject({"SKU", "type", "price", "hasUsedFreeTrial"});
 
     const std::string sku = option.at("SKU").text();
@@ -32,9 +34,11 @@ SubscriptionOption readOption(const JsonCursor& option) {
     const auto introductoryPrice = optionalText(option, "introductoryPrice");
     const auto introductoryPeriodLength = optionalText(option, "introductoryPeriodLength");
     if (type == 0)
-        return {sku, SubscriptionOption::SubscriptionType::Monthly{price, introductoryPrice, introductoryPeriodLength}, hasUsedFreeTrial};
+        return {sku, SubscriptionOption::SubscriptionType::Monthly{price, introductoryPrice, introductoryPeriodLength},
+                hasUsedFreeTrial};
     const std::string monthlyEffectivePrice = option.at("monthlyEffectivePrice").text();
-    return {sku, SubscriptionOption::SubscriptionType::Yearly{price, monthlyEffectivePrice, introductoryPrice, introductoryPeriodLength},
+    return {sku,
+            SubscriptionOption::SubscriptionType::Yearly{price, monthlyEffectivePrice, introductoryPrice, introductoryPeriodLength},
             hasUsedFreeTrial};
 }
 
@@ -97,4 +101,4 @@ Json toJson(const SubscriptionOption& option) {
     return result;
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -10,7 +10,7 @@
 #include "ProUpsells/SubscriptionOption.hpp"
 #include "ProUpsells/VelaProUpsellViewController.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 struct Offers {
     std::vector<proupsells::SubscriptionOption> options;
@@ -30,4 +30,4 @@ Offers readOffersFile(const std::filesystem::path& file);
 // An option with every key that its type has, absent ones as null.
 Json toJson(const proupsells::SubscriptionOption& option);
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -5,7 +5,7 @@
 #include "Apps/ProUpsellsHost/ScenarioRunner.hpp"
 #include "Backends/Qt/Application.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 int runScenario(const std::filesystem::path& scenarioFile, const std::filesystem::path& folder) {
     constexpr int held = 0, contradicted = 1;
@@ -18,4 +18,4 @@ int runScenario(const std::filesystem::path& scenarioFile, const std::filesystem
     return ScenarioRunner(scenario, loop, session, log, folder).run() ? held : contradicted;
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -3,9 +3,9 @@
 
 #include <filesystem>
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 // Returns the exit status: 0, or 1 when an expectation did not hold. Throws InputError.
 int runScenario(const std::filesystem::path& scenario, const std::filesystem::path& folder);
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

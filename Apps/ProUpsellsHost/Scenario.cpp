@@ -1,6 +1,6 @@
 #include "Apps/ProUpsellsHost/Scenario.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 namespace {
 
@@ -37,19 +37,28 @@ PressStep readPress(const JsonCursor& value) {
     return {readPoint(value.at("at")), readTime(value.at("duration"))};
 }
 
-std::optional<std::string> textOrNull(const JsonCursor& value) { return value.isNull() ? std::nullopt : std::optional(value.text()); }
+std::optional<std::string> textOrNull(const JsonCursor& value) {
+    return value.isNull() ? std::nullopt : std::optional(value.text());
+}
 
 SetStep readSet(const JsonCursor& value, Surroundings& surroundings) {
     SetStep step;
     if (value.keys().empty()) value.fail("nothing is set here, expected at least one key");
     for (const std::string& key : value.keys()) {
         const JsonCursor member = value.at(key);
-        if (key == "options") step.options = readOptions(member);
-        else if (key == "annualSubscriptionPriceForComparisonWithPromotionalPrice") step.annualPrice = textOrNull(member);
-        else if (key == "monthlySubscriptionPriceForComparisonWithPromotionalPrice") step.monthlyPrice = textOrNull(member);
-        else if (key == "shouldMentioniCloudSync") step.shouldMentioniCloudSync = member.boolean();
-        else if (isDeviceKey(key)) readDeviceKey(surroundings.device, key, member, surroundings.folder);
-        else member.fail("unknown key \"" + key + "\", expected options, a comparison price, shouldMentioniCloudSync or a key of a device");
+        if (key == "options")
+            step.options = readOptions(member);
+        else if (key == "annualSubscriptionPriceForComparisonWithPromotionalPrice")
+            step.annualPrice = textOrNull(member);
+        else if (key == "monthlySubscriptionPriceForComparisonWithPromotionalPrice")
+            step.monthlyPrice = textOrNull(member);
+        else if (key == "shouldMentioniCloudSync")
+            step.shouldMentioniCloudSync = member.boolean();
+        else if (isDeviceKey(key))
+            readDeviceKey(surroundings.device, key, member, surroundings.folder);
+        else
+            member.fail("unknown key \"" + key +
+                        "\", expected options, a comparison price, shouldMentioniCloudSync or a key of a device");
         if (isDeviceKey(key)) step.device = surroundings.device;
     }
     return step;
@@ -57,8 +66,8 @@ SetStep readSet(const JsonCursor& value, Surroundings& surroundings) {
 
 SnapshotStep readSnapshot(const JsonCursor& value) {
     const std::string name = value.text();
-    const bool isPlain = !name.empty() && name != "." && name != ".." && name.size() <= 255 && name.find('/') == std::string::npos &&
-                         name.find('\0') == std::string::npos;
+    const bool isPlain = !name.empty() && name != "." && name != ".." && name.size() <= 255 &&
+                         name.find('/') == std::string::npos && name.find('\0') == std::string::npos;
     if (!isPlain) value.fail("\"" + name + "\" is no plain file name, expected one such as \"paywall.png\"");
     return {name};
 }
@@ -145,4 +154,4 @@ Scenario readScenario(const std::filesystem::path& file) {
     return scenario;
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

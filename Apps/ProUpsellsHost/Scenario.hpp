@@ -10,7 +10,7 @@
 #include "Apps/ProUpsellsHost/Device.hpp"
 #include "Apps/ProUpsellsHost/Offers.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 // What a step taps: a control by identifier, a control by its label or shown text, or a point.
 struct TapIdentifier {
@@ -69,7 +69,8 @@ struct ExpectStep {
     std::optional<geometry::Rect> frame;
 };
 
-using Step = std::variant<TapStep, DragStep, PressStep, WaitStep, SendStep, SetStep, ReleaseStep, DumpStep, SnapshotStep, ExpectStep>;
+using Step =
+    std::variant<TapStep, DragStep, PressStep, WaitStep, SendStep, SetStep, ReleaseStep, DumpStep, SnapshotStep, ExpectStep>;
 
 struct Scenario {
     std::filesystem::path file;
@@ -83,4 +84,4 @@ struct Scenario {
 // Throws InputError.
 Scenario readScenario(const std::filesystem::path& file);
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -9,7 +9,7 @@
 #include "Apps/ProUpsellsHost/Snapshot.hpp"
 #include "Platform/Accessibility/Search.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 using accessibility::Node;
 
@@ -30,8 +30,8 @@ std::string describe(const Node& control) {
 
 } // namespace
 
-ScenarioRunner::ScenarioRunner(const Scenario& scenario, runloop::MainRunLoop& loop, HostSession& session, std::shared_ptr<EventLog> log,
-                               std::filesystem::path folder)
+ScenarioRunner::ScenarioRunner(const Scenario& scenario, runloop::MainRunLoop& loop, HostSession& session,
+                               std::shared_ptr<EventLog> log, std::filesystem::path folder)
     : m_scenario(scenario), m_session(session), m_log(std::move(log)), m_folder(std::move(folder)), m_driver(loop, session) {}
 
 bool ScenarioRunner::run() {
@@ -49,7 +49,8 @@ std::string ScenarioRunner::stepPointer() const { return "/steps/" + std::to_str
 void ScenarioRunner::failTap(const std::string& complaint, const Node& root) const {
     std::string tappable;
     for (const Node* control : accessibility::controls(root)) tappable += "\n  " + describe(*control);
-    const InputError error(m_scenario.file.string(), stepPointer() + "/tap", complaint + ", expected exactly one of the controls below");
+    const InputError error(m_scenario.file.string(), stepPointer() + "/tap",
+                           complaint + ", expected exactly one of the controls below");
     throw InputErrorWithList(error, tappable);
 }
 
@@ -57,7 +58,9 @@ geometry::Point ScenarioRunner::pointOf(const TapTarget& target) {
     if (const auto* point = std::get_if<geometry::Point>(&target)) return *point;
     const auto* identifier = std::get_if<TapIdentifier>(&target);
     const std::string wanted = identifier ? identifier->identifier : std::get<TapText>(target).text;
-    const auto find = [&](const Node& root) { return identifier ? controlsIdentified(root, wanted) : accessibility::controlsNamed(root, wanted); };
+    const auto find = [&](const Node& root) {
+        return identifier ? controlsIdentified(root, wanted) : accessibility::controlsNamed(root, wanted);
+    };
 
     const Node before = m_session.window().semanticTree();
     const auto found = find(before);
@@ -91,7 +94,9 @@ void ScenarioRunner::perform(const ReleaseStep& step) { m_session.release(step.p
 void ScenarioRunner::perform(const DumpStep&) {
     const Node root = m_session.window().semanticTree();
     const auto* controller = m_session.window().frontMostViewController();
-    m_log->write("screen", {{"controller", controller ? controller->typeName() : ""}, {"size", toJson(m_session.device().size)}, {"root", toJson(root)}});
+    m_log->write("screen", {{"controller", controller ? controller->typeName() : ""},
+                            {"size", toJson(m_session.device().size)},
+                            {"root", toJson(root)}});
 }
 
 void ScenarioRunner::perform(const SnapshotStep& step) {
@@ -110,4 +115,4 @@ void ScenarioRunner::perform(const ExpectStep& step) {
     std::cerr << InputError(m_scenario.file.string(), stepPointer() + "/expect", *complaint).what() << '\n';
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -9,7 +9,7 @@
 #include "Apps/ProUpsellsHost/HostSession.hpp"
 #include "Apps/ProUpsellsHost/Scenario.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 class ScenarioRunner {
 public:
@@ -17,8 +17,8 @@ public:
     ScenarioRunner(const Scenario& scenario, runloop::MainRunLoop& loop, HostSession& session, std::shared_ptr<EventLog> log,
                    std::filesystem::path folder);
 
-    // Presents the entry controller and runs the steps. Returns whether every expectation held; each that did not is one line on standard
-    // error. Throws InputError for a step that cannot be done.
+    // Presents the entry controller and runs the steps. Returns whether every expectation held; each that did not is one line on
+    // standard error. Throws InputError for a step that cannot be done.
     bool run();
 
 private:
@@ -46,4 +46,4 @@ private:
     bool m_allHeld = true;
 };
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

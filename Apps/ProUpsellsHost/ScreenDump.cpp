@@ -4,7 +4,7 @@
 
 #include "Apps/ProUpsellsHost/Numbers.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 using accessibility::Node;
 using accessibility::Traits;
@@ -63,8 +63,9 @@ void addScroll(Json& result, const accessibility::ScrollInfo& scroll) {
 
 std::vector<std::string> traitNames(Traits traits) {
     static constexpr std::pair<Traits, const char*> names[] = {
-        {Traits::button, "button"}, {Traits::selected, "selected"},     {Traits::disabled, "disabled"},     {Traits::header, "header"},
-        {Traits::image, "image"},   {Traits::staticText, "staticText"}, {Traits::adjustable, "adjustable"}, {Traits::link, "link"},
+        {Traits::button, "button"},         {Traits::selected, "selected"}, {Traits::disabled, "disabled"},
+        {Traits::header, "header"},         {Traits::image, "image"},       {Traits::staticText, "staticText"},
+        {Traits::adjustable, "adjustable"}, {Traits::link, "link"},
     };
     std::vector<std::string> result;
     for (const auto& [trait, name] : names)
@@ -91,4 +92,4 @@ Json toJson(const Node& node) {
     return result;
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -7,7 +7,7 @@
 #include "Apps/ProUpsellsHost/JsonFile.hpp"
 #include "Platform/Accessibility/Node.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 // A node with all its children; keys that say nothing are left out.
 Json toJson(const accessibility::Node& node);
@@ -15,4 +15,4 @@ Json toJson(const accessibility::Node& node);
 // "button", "selected" and so on, in a fixed order.
 std::vector<std::string> traitNames(accessibility::Traits traits);
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -7,7 +7,7 @@
 #include "Backends/Qt/QtRunLoopDriver.hpp"
 #include "Backends/Qt/QtWindow.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 namespace {
 
@@ -56,4 +56,4 @@ int showOffers(const std::optional<std::filesystem::path>& offersFile, const Dev
     return status;
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

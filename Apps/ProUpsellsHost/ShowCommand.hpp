@@ -6,12 +6,12 @@
 
 #include "Apps/ProUpsellsHost/Device.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 enum class StartScreen { paywall, comparison, store };
 
-// Shows the offers of a file, or the sample ones, until the window closes. Returns the exit status: 0, or 3 where there is no display.
-// Throws InputError.
+// Shows the offers of a file, or the sample ones, until the window closes. Returns the exit status: 0, or 3 where there is no
+// display. Throws InputError.
 int showOffers(const std::optional<std::filesystem::path>& offers, const Device& device, StartScreen start);
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

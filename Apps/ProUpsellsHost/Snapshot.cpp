@@ -3,10 +3,10 @@
 #include "Backends/Qt/PngFile.hpp"
 #include "Backends/Qt/RasterSurface.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
-std::optional<PixelSize> writeSnapshot(host::WindowContent& window, geometry::Size size, double scale, const std::filesystem::path& folder,
-                                       const std::string& name) {
+std::optional<PixelSize> writeSnapshot(host::WindowContent& window, geometry::Size size, double scale,
+                                       const std::filesystem::path& folder, const std::string& name) {
     graphics::DisplayList list;
     window.paint(list);
     qtbackend::RasterSurface surface;
@@ -18,4 +18,4 @@ std::optional<PixelSize> writeSnapshot(host::WindowContent& window, geometry::Si
     return PixelSize{surface.image().width(), surface.image().height()};
 }
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

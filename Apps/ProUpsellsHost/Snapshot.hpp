@@ -7,7 +7,7 @@
 
 #include "Platform/Host/WindowContent.hpp"
 
-namespace proupsellshost {
+namespace proupsells::hostprogram {
 
 struct PixelSize {
     int width = 0;
@@ -15,7 +15,7 @@ struct PixelSize {
 };
 
 // Writes `folder`/`name` as PNG and makes the folder when it is not there. Absent when that is impossible.
-std::optional<PixelSize> writeSnapshot(host::WindowContent& window, geometry::Size size, double scale, const std::filesystem::path& folder,
-                                       const std::string& name);
+std::optional<PixelSize> writeSnapshot(host::WindowContent& window, geometry::Size size, double scale,
+                                       const std::filesystem::path& folder, const std::string& name);
 
-} // namespace proupsellshost
+} // namespace proupsells::hostprogram

@@ -3,7 +3,7 @@
 
 #include "Platform/Host/ClipDecoder.hpp"
 
-namespace ffmpegbackend {
+namespace proupsells::ffmpegbackend {
 
 // How a decoder behaves when it is asked for a frame that it does not have yet.
 enum class Pace {
@@ -23,4 +23,4 @@ using MakeClipDecoder = host::ClipDecoder* (*)(const PluginHost&);
 inline constexpr const char* makeClipDecoderSymbol = "proupsellsMakeClipDecoder";
 inline constexpr const char* pluginFileName = "proupsells-clips.so";
 
-} // namespace ffmpegbackend
+} // namespace proupsells::ffmpegbackend

@@ -4,7 +4,7 @@
 
 #include "Backends/FFmpeg/PluginLoader.hpp"
 
-namespace ffmpegbackend {
+namespace proupsells::ffmpegbackend {
 
 namespace {
 
@@ -69,4 +69,4 @@ std::shared_ptr<host::Clip> LazyClipDecoder::open(const std::filesystem::path& f
     return clip;
 }
 
-} // namespace ffmpegbackend
+} // namespace proupsells::ffmpegbackend

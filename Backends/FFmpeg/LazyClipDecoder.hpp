@@ -8,7 +8,7 @@
 
 #include "Backends/FFmpeg/ClipPlugin.hpp"
 
-namespace ffmpegbackend {
+namespace proupsells::ffmpegbackend {
 
 class PluginLoader;
 
@@ -33,4 +33,4 @@ private:
     std::map<std::filesystem::path, std::weak_ptr<host::Clip>> m_clips;
 };
 
-} // namespace ffmpegbackend
+} // namespace proupsells::ffmpegbackend

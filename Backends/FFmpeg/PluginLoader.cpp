@@ -6,7 +6,7 @@
 
 #include "Platform/Commons/DefaultLogger.hpp"
 
-namespace ffmpegbackend {
+namespace proupsells::ffmpegbackend {
 
 namespace {
 
@@ -46,4 +46,4 @@ void PluginLoader::adopt(const Outcome& outcome) {
     complain(outcome.complaint.c_str());
 }
 
-} // namespace ffmpegbackend
+} // namespace proupsells::ffmpegbackend

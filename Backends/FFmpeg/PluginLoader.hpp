@@ -9,7 +9,7 @@
 
 #include "Backends/FFmpeg/ClipPlugin.hpp"
 
-namespace ffmpegbackend {
+namespace proupsells::ffmpegbackend {
 
 // Begins at once, on a thread of its own. The plug-in stays loaded until the process ends. Belongs to one thread.
 class PluginLoader {
@@ -38,4 +38,4 @@ private:
     bool m_hasFailed = false;
 };
 
-} // namespace ffmpegbackend
+} // namespace proupsells::ffmpegbackend

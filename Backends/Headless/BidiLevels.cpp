@@ -2,7 +2,7 @@
 
 #include "Backends/Headless/CharacterClass.hpp"
 
-namespace headless {
+namespace proupsells::headless {
 
 namespace {
 
@@ -137,4 +137,4 @@ std::vector<std::uint8_t> bidiLevels(std::span<const char32_t> characters, geome
     return levels;
 }
 
-} // namespace headless
+} // namespace proupsells::headless

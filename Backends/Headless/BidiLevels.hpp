@@ -7,10 +7,10 @@
 
 #include "Platform/Geometry/Geometry.hpp"
 
-namespace headless {
+namespace proupsells::headless {
 
 // The level of each cluster, given the clusters' first characters: even left to right, odd right to left. The rules are those of
 // the Unicode bidirectional algorithm for texts without explicit marks, with characters told apart by their blocks.
 std::vector<std::uint8_t> bidiLevels(std::span<const char32_t> characters, geometry::LayoutDirection direction);
 
-} // namespace headless
+} // namespace proupsells::headless

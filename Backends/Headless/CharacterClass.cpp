@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-namespace headless {
+namespace proupsells::headless {
 
 namespace {
 
@@ -70,4 +70,4 @@ bool isNumberTerminator(char32_t c) {
     return isOneOf(c, U"#$%\u00A2\u00A3\u00A4\u00A5\u00B0\u00B1\u066A\u2030\u2031") || isBetween(c, 0x20A0, 0x20CF);
 }
 
-} // namespace headless
+} // namespace proupsells::headless

@@ -1,7 +1,7 @@
 // What the fixed-metrics shaper knows about characters, by Unicode block.
 #pragma once
 
-namespace headless {
+namespace proupsells::headless {
 
 // Ends a line and takes no room: line feed, carriage return, U+0085, U+2028, U+2029 and their like.
 bool isParagraphEnd(char32_t character);
@@ -24,4 +24,4 @@ bool isLeftToRightLetter(char32_t character);
 // Stands by a number without being one: a sign of currency, per cent, degree.
 bool isNumberTerminator(char32_t character);
 
-} // namespace headless
+} // namespace proupsells::headless

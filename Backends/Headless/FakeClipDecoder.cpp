@@ -5,7 +5,7 @@
 
 #include "Platform/Commons/DefaultLogger.hpp"
 
-namespace headless {
+namespace proupsells::headless {
 
 class FakeClipDecoder::FakeClip final : public host::Clip {
 public:
@@ -71,4 +71,4 @@ std::shared_ptr<host::Clip> FakeClipDecoder::open(const std::filesystem::path& f
 
 int FakeClipDecoder::pictureNumber(const graphics::Bitmap& picture) { return int(picture.pixels.front() & 0xFFFFFFu); }
 
-} // namespace headless
+} // namespace proupsells::headless

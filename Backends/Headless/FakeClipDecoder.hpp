@@ -9,7 +9,7 @@
 
 #include "Platform/Host/ClipDecoder.hpp"
 
-namespace headless {
+namespace proupsells::headless {
 
 // Answers exactly for the time asked, at once. Counts what it is asked for. Files are named without their folders.
 class FakeClipDecoder final : public host::ClipDecoder {
@@ -57,4 +57,4 @@ private:
     std::shared_ptr<Shared> m_shared; // with clips that outlive the decoder
 };
 
-} // namespace headless
+} // namespace proupsells::headless

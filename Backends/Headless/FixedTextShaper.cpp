@@ -6,7 +6,7 @@
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/Foundation/Utf8.hpp"
 
-namespace headless {
+namespace proupsells::headless {
 
 namespace {
 
@@ -95,4 +95,4 @@ std::shared_ptr<const ShapedText> FixedTextShaper::shape(std::span<const StyledR
     return shaped;
 }
 
-} // namespace headless
+} // namespace proupsells::headless

@@ -3,7 +3,7 @@
 
 #include "Platform/Host/TextShaper.hpp"
 
-namespace headless {
+namespace proupsells::headless {
 
 // Every user-perceived character is half its font's size wide (letter spacing comes on top) and every line 1.25 × size high, the
 // ascent being 1 × size, whatever the font. Ends of lines have no width. Lines may break after blanks and hyphens and between
@@ -24,4 +24,4 @@ private:
     std::size_t m_shapeCount = 0;
 };
 
-} // namespace headless
+} // namespace proupsells::headless

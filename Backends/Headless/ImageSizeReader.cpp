@@ -7,7 +7,7 @@
 #include <fstream>
 #include <string>
 
-namespace headless {
+namespace proupsells::headless {
 
 namespace {
 
@@ -176,4 +176,4 @@ std::optional<Size> ImageSizeReader::naturalSize(const std::filesystem::path& fi
     return svgSize(contents);
 }
 
-} // namespace headless
+} // namespace proupsells::headless

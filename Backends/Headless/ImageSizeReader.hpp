@@ -5,7 +5,7 @@
 
 #include "Platform/Host/ImageDecoder.hpp"
 
-namespace headless {
+namespace proupsells::headless {
 
 // Knows SVG (the root element's width and height, or its view box) and PNG (a pixel is a point).
 class ImageSizeReader final : public host::ImageDecoder {
@@ -17,4 +17,4 @@ public:
 std::optional<geometry::Size> svgSize(std::string_view contents);
 std::optional<geometry::Size> pngSize(std::string_view contents);
 
-} // namespace headless
+} // namespace proupsells::headless

@@ -1,6 +1,6 @@
 #include "Backends/Headless/RecordingSurface.hpp"
 
-namespace headless {
+namespace proupsells::headless {
 
 RecordingSurface::RecordingSurface() {
     // Tests that count allocations present a few frames and are not to see this record grow.
@@ -19,4 +19,4 @@ void RecordingSurface::present(const graphics::DisplayList& list, geometry::Size
     m_scale = scale;
 }
 
-} // namespace headless
+} // namespace proupsells::headless

@@ -5,7 +5,7 @@
 
 #include "Platform/Host/Surface.hpp"
 
-namespace headless {
+namespace proupsells::headless {
 
 class RecordingSurface final : public host::Surface {
 public:
@@ -32,4 +32,4 @@ private:
     std::vector<geometry::Rect> m_lastDamage;
 };
 
-} // namespace headless
+} // namespace proupsells::headless

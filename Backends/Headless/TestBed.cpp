@@ -5,7 +5,7 @@
 
 #include "Backends/Headless/ImageSizeReader.hpp"
 
-namespace headless {
+namespace proupsells::headless {
 
 namespace {
 
@@ -53,4 +53,4 @@ std::vector<commons::LogRecord> TestBed::takeLogRecords() { return std::exchange
 
 void TestBed::setUnexpectedLogHandler(UnexpectedLogHandler handler) { unexpectedLogHandler() = std::move(handler); }
 
-} // namespace headless
+} // namespace proupsells::headless

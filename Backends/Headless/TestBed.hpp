@@ -11,7 +11,7 @@
 #include "Platform/Host/Services.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
-namespace headless {
+namespace proupsells::headless {
 
 // While it lives, its run loop is the main one, its services are installed, and log records are collected instead of written.
 class TestBed {
@@ -52,4 +52,4 @@ private:
     std::unique_ptr<host::Installation> m_installation;
 };
 
-} // namespace headless
+} // namespace proupsells::headless

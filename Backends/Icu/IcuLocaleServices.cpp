@@ -13,7 +13,7 @@
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/Foundation/Utf8.hpp"
 
-namespace icubackend {
+namespace proupsells::icubackend {
 
 namespace {
 
@@ -128,4 +128,4 @@ geometry::LayoutDirection IcuLocaleServices::layoutDirection(const foundation::L
                                                                     : geometry::LayoutDirection::leftToRight;
 }
 
-} // namespace icubackend
+} // namespace proupsells::icubackend

@@ -5,7 +5,7 @@
 
 #include "Platform/Foundation/LocaleServices.hpp"
 
-namespace icubackend {
+namespace proupsells::icubackend {
 
 // Knows every language that ICU knows; an unknown locale is treated as ICU's root locale. Main thread only: it keeps what is costly
 // to make (the formatter and the word breaks of the locale used last, the iterator over user-perceived characters). Creating it
@@ -30,4 +30,4 @@ private:
     std::unique_ptr<Cache> m_cache;
 };
 
-} // namespace icubackend
+} // namespace proupsells::icubackend

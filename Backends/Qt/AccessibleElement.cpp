@@ -5,7 +5,7 @@
 
 #include "Backends/Qt/QtAccessibility.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 using accessibility::contains;
 using accessibility::Node;
@@ -96,4 +96,4 @@ void AccessibleElement::doAction(const QString& name) {
     if (name == decreaseAction() && node.adjust) node.adjust(-1);
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

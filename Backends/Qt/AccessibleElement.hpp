@@ -5,7 +5,7 @@
 
 #include "Platform/Accessibility/Node.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 class QtAccessibility;
 
@@ -43,4 +43,4 @@ private:
     accessibility::Node m_node;
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

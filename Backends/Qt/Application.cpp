@@ -7,7 +7,7 @@
 
 #include "Platform/Commons/FatalError.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 namespace {
 
@@ -74,4 +74,4 @@ int Application::run() { return QGuiApplication::exec(); }
 
 void Application::quit(int exitStatus) { QCoreApplication::exit(exitStatus); }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -7,7 +7,7 @@
 
 class QGuiApplication;
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 struct ApplicationOptions {
     std::string name = "ProUpsells";
@@ -38,4 +38,4 @@ private:
     std::unique_ptr<QGuiApplication> m_application;
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

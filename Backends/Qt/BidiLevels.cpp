@@ -5,7 +5,7 @@
 
 #include "Backends/Qt/BidiSequence.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 namespace {
 
@@ -222,4 +222,4 @@ std::vector<std::uint8_t> bidiLevels(const QString& text, std::uint8_t baseLevel
     return levels;
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

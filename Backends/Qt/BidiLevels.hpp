@@ -5,10 +5,10 @@
 #include <cstdint>
 #include <vector>
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 // A level for each UTF-16 unit; odd ones read from right to left. Paragraph separators end a paragraph; each has `baseLevel`, 0
 // or 1.
 std::vector<std::uint8_t> bidiLevels(const QString& text, std::uint8_t baseLevel);
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 namespace {
 
@@ -200,4 +200,4 @@ void BidiSequence::resolve(std::vector<BidiCharacter>& characters) const {
     if (!indexes.empty()) Resolver(*this, characters).resolve();
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

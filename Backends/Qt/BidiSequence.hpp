@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 // A character of a paragraph while its level is being found.
 struct BidiCharacter {
@@ -24,4 +24,4 @@ struct BidiSequence {
     void resolve(std::vector<BidiCharacter>& characters) const;
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -12,7 +12,7 @@
 #define PROUPSELLS_VECTORIZED
 #endif
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 namespace {
 
@@ -85,4 +85,4 @@ PROUPSELLS_VECTORIZED void blendPixels(Pixel* to, std::size_t count, const Pixel
     }
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

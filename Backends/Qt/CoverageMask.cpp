@@ -1,6 +1,6 @@
 #include "Backends/Qt/CoverageMask.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 namespace {
 
@@ -42,4 +42,4 @@ std::size_t CoverageMask::byteCount() const {
            sizeof(*this);
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

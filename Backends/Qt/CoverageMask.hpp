@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 class CoverageMask {
 public:
@@ -38,4 +38,4 @@ private:
     std::vector<std::uint8_t> m_coverages;
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

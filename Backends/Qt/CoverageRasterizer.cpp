@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 using geometry::Path;
 using geometry::Point;
@@ -147,4 +147,4 @@ CoverageMask CoverageRasterizer::finish() {
     return mask;
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -6,7 +6,7 @@
 #include "Backends/Qt/CoverageMask.hpp"
 #include "Platform/Geometry/Path.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 // Exact area coverage of outlines, filled by the non-zero rule, in a rectangle of pixels. The same outlines give the same
 // mask on every machine. May be used again and again; keeps its memory.
@@ -36,4 +36,4 @@ private:
     std::vector<std::uint8_t> m_row;
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -1,6 +1,6 @@
 #include "Backends/Qt/DecodedText.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 namespace {
 
@@ -76,4 +76,4 @@ void DecodedText::append(const std::string& text, std::uint32_t textStart) {
     }
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

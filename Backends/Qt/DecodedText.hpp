@@ -8,7 +8,7 @@
 
 #include "Platform/Graphics/ShapedText.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 // Bytes that are no UTF-8 become replacement characters, one for each longest piece that a character could have begun with.
 class DecodedText {
@@ -30,4 +30,4 @@ private:
     std::vector<std::uint32_t> m_runStarts;
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

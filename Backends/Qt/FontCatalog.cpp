@@ -8,7 +8,7 @@
 
 #include "Platform/Commons/DefaultLogger.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 namespace {
 
@@ -95,4 +95,4 @@ const std::shared_ptr<GlyphTable>& FontCatalog::glyphs(const QRawFont& font) {
     return m_glyphs.back()->second;
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

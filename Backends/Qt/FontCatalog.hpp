@@ -11,7 +11,7 @@
 #include "Backends/Qt/GlyphTable.hpp"
 #include "Platform/Graphics/Font.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 // Texts are shaped at one large size, without hinting, and scaled afterwards: so their widths grow evenly with the font's size
 // and do not depend on the pixels.
@@ -40,4 +40,4 @@ private:
     std::vector<QString> m_missingFamilies;
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -6,7 +6,7 @@
 #include <QRawFont>
 #include <cmath>
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 namespace {
 
@@ -82,4 +82,4 @@ const GlyphShape& GlyphTable::shape(const QRawFont& font, quint32 glyph) {
     return m_shapes.emplace(glyph, std::move(shape)).first->second;
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -9,7 +9,7 @@
 
 class QRawFont;
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 // A glyph is a filled outline or, in an emoji font, a picture. Lengths are in ems, from the pen's place on the baseline, y
 // downwards.
@@ -32,4 +32,4 @@ private:
     std::unordered_map<quint32, GlyphShape> m_shapes;
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -6,7 +6,7 @@
 #include <QSvgRenderer>
 #include <QXmlStreamReader>
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 namespace {
 
@@ -78,4 +78,4 @@ QImage readImage(const std::filesystem::path& file, QSize size) {
                                               .convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -7,7 +7,7 @@
 
 #include "Platform/Geometry/Geometry.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 // In points; a picture of pixels has one a point. Absent when the file holds no picture.
 std::optional<geometry::Size> naturalImageSize(const std::filesystem::path& file);
@@ -15,4 +15,4 @@ std::optional<geometry::Size> naturalImageSize(const std::filesystem::path& file
 // The picture stretched over the size in pixels, premultiplied. Null when it cannot be read.
 QImage readImage(const std::filesystem::path& file, QSize size);
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

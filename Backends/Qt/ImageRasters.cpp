@@ -8,7 +8,7 @@
 #include "Backends/Qt/ImageFile.hpp"
 #include "Platform/Commons/DefaultLogger.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 namespace {
 
@@ -126,4 +126,4 @@ ImageRaster ImageRasters::transformed(const ImageRaster& raster, const geometry:
     return result;
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

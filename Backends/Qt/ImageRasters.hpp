@@ -12,7 +12,7 @@
 #include "Platform/Geometry/Transform.hpp"
 #include "Platform/Graphics/DisplayList.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 struct ImageRaster {
     QImage pixels; // premultiplied; null when the picture cannot be read
@@ -61,4 +61,4 @@ private:
     ImageRaster m_unshared;
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

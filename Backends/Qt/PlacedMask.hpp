@@ -7,7 +7,7 @@
 #include "Backends/Qt/CoverageMask.hpp"
 #include "Backends/Qt/PixelRect.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 // One column and one row of the mask may be repeated: so all rounded rectangles of a radius share a small mask. Every span
 // that holds the repeated column must share one coverage.
@@ -41,4 +41,4 @@ struct PlacedMask {
     }
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

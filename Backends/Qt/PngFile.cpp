@@ -3,7 +3,7 @@
 #include <QImageWriter>
 #include <QSaveFile>
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 bool writePng(const QImage& image, const std::filesystem::path& file) {
     if (image.isNull()) return false;
@@ -13,4 +13,4 @@ bool writePng(const QImage& image, const std::filesystem::path& file) {
     return writer.write(image) && device.commit();
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -6,7 +6,7 @@
 
 #include "Backends/Qt/AccessibleElement.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 using accessibility::Node;
 
@@ -156,4 +156,4 @@ void QtAccessibility::adopt(std::vector<Node> nodes) {
     }
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -9,7 +9,7 @@
 
 class QWindow;
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 class AccessibleElement;
 
@@ -48,4 +48,4 @@ private:
     bool m_isRead = false;
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -2,8 +2,8 @@
 
 #include "Backends/Qt/ImageFile.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 std::optional<geometry::Size> QtImageDecoder::naturalSize(const std::filesystem::path& file) { return naturalImageSize(file); }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -3,11 +3,11 @@
 
 #include "Platform/Host/ImageDecoder.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 class QtImageDecoder final : public host::ImageDecoder {
 public:
     std::optional<geometry::Size> naturalSize(const std::filesystem::path& file) override;
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -4,7 +4,7 @@
 #include <chrono>
 #include <cmath>
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 QtRunLoopDriver::QtRunLoopDriver(runloop::MainRunLoop& loop) : m_loop(loop) {
     m_timer.setSingleShot(true);
@@ -28,4 +28,4 @@ void QtRunLoopDriver::arm() {
     m_timer.start(std::chrono::milliseconds(std::int64_t(delay_ms)));
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -5,7 +5,7 @@
 
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 // Sleeps until the next turn is due: between turns it costs nothing. Needs a QGuiApplication; the loop must live longer.
 class QtRunLoopDriver {
@@ -22,4 +22,4 @@ private:
     QTimer m_timer;
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

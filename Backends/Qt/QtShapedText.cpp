@@ -2,7 +2,7 @@
 
 #include <atomic>
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 namespace {
 
@@ -15,4 +15,4 @@ std::uint64_t nextSerial() {
 
 QtShapedText::QtShapedText() : serial(nextSerial()) {}
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

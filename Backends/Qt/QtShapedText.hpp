@@ -8,7 +8,7 @@
 #include "Backends/Qt/GlyphTable.hpp"
 #include "Platform/Graphics/ShapedText.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 struct PlacedGlyph {
     const GlyphShape* shape = nullptr;
@@ -29,4 +29,4 @@ public:
     std::vector<std::shared_ptr<GlyphTable>> glyphTables; // keep the shapes alive
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

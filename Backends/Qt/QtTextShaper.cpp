@@ -10,7 +10,7 @@
 #include "Backends/Qt/QtShapedText.hpp"
 #include "Backends/Qt/TextClusters.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 namespace {
 
@@ -258,4 +258,4 @@ std::shared_ptr<const graphics::ShapedText> QtTextShaper::shape(std::span<const 
     return result;
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

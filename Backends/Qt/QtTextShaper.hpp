@@ -4,7 +4,7 @@
 #include "Backends/Qt/FontCatalog.hpp"
 #include "Platform/Host/TextShaper.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 // Needs a QGuiApplication. Lines break where Unicode's default rules allow it; of the language, Qt takes no notice.
 class QtTextShaper final : public host::TextShaper {
@@ -16,4 +16,4 @@ private:
     FontCatalog m_catalog;
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

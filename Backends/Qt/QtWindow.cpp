@@ -12,7 +12,7 @@
 #include "Backends/Qt/QtAccessibility.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 namespace {
 
@@ -196,4 +196,4 @@ void QtWindow::keyPressEvent(QKeyEvent* event) {
     if (!key || !m_content->key(*key)) QWindow::keyPressEvent(event);
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

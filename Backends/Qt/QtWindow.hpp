@@ -12,7 +12,7 @@
 #include "Backends/Qt/RasterSurface.hpp"
 #include "Platform/Host/WindowContent.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 class QtAccessibility;
 
@@ -75,4 +75,4 @@ private:
     std::unique_ptr<QtAccessibility> m_accessibility;
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -6,7 +6,7 @@
 
 #include "Backends/Qt/Blending.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 using geometry::Path;
 using geometry::Point;
@@ -293,4 +293,4 @@ void RasterPainter::paintImage(Job& job, const Item& item) {
     if (!shown.pixels.isNull()) paintRaster(shown, shown.x, shown.y);
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

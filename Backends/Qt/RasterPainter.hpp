@@ -12,7 +12,7 @@
 #include "Backends/Qt/TextRasters.hpp"
 #include "Platform/Graphics/DisplayList.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 // Every command becomes a colour under a mask or a picture, made for whole pixels and kept for the next time; so a part of a list
 // comes out the same whether it is painted alone or with the rest. Main thread only.
@@ -41,4 +41,4 @@ private:
     ImageRasters m_images;
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

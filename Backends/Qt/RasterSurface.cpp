@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 QSize pixelSize(geometry::Size size, double scale) {
     return {std::max(0, ceilPixel(size.width * scale)), std::max(0, ceilPixel(size.height * scale))};
@@ -46,4 +46,4 @@ void RasterSurface::addDamage(PixelRect rect) {
     m_damage.push_back(rect);
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -8,7 +8,7 @@
 #include "Backends/Qt/RasterPainter.hpp"
 #include "Platform/Host/Surface.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 // Needs a QGuiApplication. A size that is no whole number of pixels is rounded up.
 class RasterSurface final : public host::Surface {
@@ -38,4 +38,4 @@ private:
 // The number of pixels that `size` points fill at `scale`.
 QSize pixelSize(geometry::Size size, double scale);
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

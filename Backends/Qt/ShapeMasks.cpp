@@ -3,7 +3,7 @@
 #include <QPainterPath>
 #include <cstring>
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 using geometry::CornerStyle;
 using geometry::Path;
@@ -257,4 +257,4 @@ PlacedMask ShapeMasks::path(const Path& path, const Transform& toPixels, Stroke 
     return {std::move(mask), visible.left, visible.top};
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

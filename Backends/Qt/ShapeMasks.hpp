@@ -8,7 +8,7 @@
 #include "Backends/Qt/LruCache.hpp"
 #include "Backends/Qt/PlacedMask.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 enum class LineJoin { mitred, round };
 
@@ -70,4 +70,4 @@ private:
     PathKey m_lookup; // keeps its memory
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

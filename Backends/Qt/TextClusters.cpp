@@ -2,7 +2,7 @@
 
 #include <QTextBoundaryFinder>
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 namespace {
 
@@ -91,4 +91,4 @@ void makeClusters(const DecodedText& text, std::vector<Cluster>& clusters, std::
     }
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -6,10 +6,10 @@
 
 #include "Backends/Qt/DecodedText.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 // The clusters of a text in logical order, without advances and levels; none crosses the border of two runs. `unitStarts` gets
 // each one's first UTF-16 unit, and the end.
 void makeClusters(const DecodedText& text, std::vector<graphics::Cluster>& clusters, std::vector<std::uint32_t>& unitStarts);
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <limits>
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 using geometry::Point;
 using geometry::Rect;
@@ -242,4 +242,4 @@ std::shared_ptr<const QtShapedText> TextRasters::translate(const graphics::Shape
     return result;
 }
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -13,7 +13,7 @@
 #include "Backends/Qt/QtShapedText.hpp"
 #include "Backends/Qt/QtTextShaper.hpp"
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 
 // A mask to be painted in the text's colour; or, where there is emoji, the finished picture.
 struct TextRaster {
@@ -70,4 +70,4 @@ private:
     QtTextShaper m_shaper;
 };
 
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

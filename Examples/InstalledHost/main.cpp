@@ -13,7 +13,9 @@ namespace {
 
 class Purchases final : public VelaProUpsellViewControllerDelegate {
 public:
-    void proUpsellViewControllerDidContinueWith(VelaProUpsellViewController&, const SubscriptionOption& option) override { bought = option.SKU(); }
+    void proUpsellViewControllerDidContinueWith(VelaProUpsellViewController&, const SubscriptionOption& option) override {
+        bought = option.SKU();
+    }
     void proUpsellViewControllerDidTapRestore(VelaProUpsellViewController&) override {}
     void proUpsellViewControllerDidTapPrivacyPolicy(VelaProUpsellViewController&) override {}
     void proUpsellViewControllerDidTapTermsOfService(VelaProUpsellViewController&) override {}
@@ -30,7 +32,8 @@ int main() {
 
     const auto purchases = std::make_shared<Purchases>();
     const auto paywall = VelaProUpsellViewController::create(
-        {SubscriptionOption{"pro.monthly", SubscriptionOption::SubscriptionType::Monthly{"$14.99", std::nullopt, std::nullopt}, false}},
+        {SubscriptionOption{"pro.monthly", SubscriptionOption::SubscriptionType::Monthly{"$14.99", std::nullopt, std::nullopt},
+                            false}},
         VelaProUpsellViewController::Variant::comparisonPaywall, Referrer{"Home", 5}, Entitlement::velaPRO, true);
     paywall->setDelegate(purchases);
     window->rootViewController()->present(paywall, true);

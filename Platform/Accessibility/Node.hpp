@@ -9,7 +9,7 @@
 
 #include "Platform/Geometry/Geometry.hpp"
 
-namespace accessibility {
+namespace proupsells::accessibility {
 
 enum class Traits : std::uint16_t {
     none = 0,
@@ -95,4 +95,4 @@ struct Node {
     std::vector<Node> children;
 };
 
-} // namespace accessibility
+} // namespace proupsells::accessibility

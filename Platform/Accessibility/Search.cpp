@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace accessibility {
+namespace proupsells::accessibility {
 
 namespace {
 
@@ -100,4 +100,4 @@ std::vector<std::string> shownTexts(const Node& root) {
     return texts;
 }
 
-} // namespace accessibility
+} // namespace proupsells::accessibility

@@ -7,7 +7,7 @@
 
 #include "Platform/Accessibility/Node.hpp"
 
-namespace accessibility {
+namespace proupsells::accessibility {
 
 // Pointers into `root`, good as long as it is. Orders are outermost first, back to front.
 
@@ -29,4 +29,4 @@ std::vector<const Node*> controlsNamed(const Node& root, std::string_view name);
 // All texts shown, in order.
 std::vector<std::string> shownTexts(const Node& root);
 
-} // namespace accessibility
+} // namespace proupsells::accessibility

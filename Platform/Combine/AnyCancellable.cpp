@@ -1,6 +1,6 @@
 #include "Platform/Combine/AnyCancellable.hpp"
 
-namespace combine {
+namespace proupsells::combine {
 
 AnyCancellable& AnyCancellable::operator=(AnyCancellable&& other) noexcept {
     if (this == &other) return *this;
@@ -15,4 +15,4 @@ void AnyCancellable::cancel() {
     if (const auto cancel = std::exchange(m_cancel, nullptr)) cancel();
 }
 
-} // namespace combine
+} // namespace proupsells::combine

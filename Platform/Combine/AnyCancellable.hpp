@@ -4,7 +4,7 @@
 #include <functional>
 #include <utility>
 
-namespace combine {
+namespace proupsells::combine {
 
 // Cancels its subscription when it is destroyed or replaced. Move-only; an empty token does nothing.
 class AnyCancellable {
@@ -23,4 +23,4 @@ private:
     std::function<void()> m_cancel;
 };
 
-} // namespace combine
+} // namespace proupsells::combine

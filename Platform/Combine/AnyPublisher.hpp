@@ -6,7 +6,7 @@
 
 #include "Platform/Combine/AnyCancellable.hpp"
 
-namespace combine {
+namespace proupsells::combine {
 
 // Wraps the way to subscribe. A default one never delivers.
 template <class Value>
@@ -27,4 +27,4 @@ private:
     Subscribe m_subscribe;
 };
 
-} // namespace combine
+} // namespace proupsells::combine

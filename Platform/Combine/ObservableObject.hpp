@@ -5,7 +5,7 @@
 
 #include "Platform/Combine/PassthroughSubject.hpp"
 
-namespace combine {
+namespace proupsells::combine {
 
 struct WillChange {};
 
@@ -45,4 +45,4 @@ private:
     Value m_value;
 };
 
-} // namespace combine
+} // namespace proupsells::combine

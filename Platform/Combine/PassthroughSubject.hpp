@@ -10,7 +10,7 @@
 #include "Platform/Combine/AnyCancellable.hpp"
 #include "Platform/Combine/AnyPublisher.hpp"
 
-namespace combine {
+namespace proupsells::combine {
 
 // Delivers synchronously, in the order of subscription. From inside a delivery a receiver may send (delivered at once, before the
 // rest of the outer value's receivers get theirs), subscribe (the new subscriber sees only later values), cancel anyone (a
@@ -90,4 +90,4 @@ private:
     std::shared_ptr<List> m_list;
 };
 
-} // namespace combine
+} // namespace proupsells::combine

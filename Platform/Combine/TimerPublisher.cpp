@@ -4,7 +4,7 @@
 
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
-namespace combine {
+namespace proupsells::combine {
 
 AnyCancellable TimerPublisher::sink(std::function<void(double time_s)> receiver) const {
     auto& loop = runloop::MainRunLoop::main();
@@ -17,4 +17,4 @@ AnyPublisher<double> TimerPublisher::eraseToAnyPublisher() const {
     return AnyPublisher<double>{[publisher = *this](auto receiver) { return publisher.sink(std::move(receiver)); }};
 }
 
-} // namespace combine
+} // namespace proupsells::combine

@@ -3,7 +3,7 @@
 
 #include "Platform/Combine/AnyPublisher.hpp"
 
-namespace combine {
+namespace proupsells::combine {
 
 // Delivers the tick's time in seconds, every `interval_s` from the moment of subscription, on the main run loop. Each subscription
 // has a timer of its own. Subscribing stops the program when the interval is not positive or there is no main run loop.
@@ -17,4 +17,4 @@ struct TimerPublisher {
     bool operator==(const TimerPublisher&) const = default;
 };
 
-} // namespace combine
+} // namespace proupsells::combine

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <utility>
 
-namespace commons {
+namespace proupsells::commons {
 
 namespace {
 
@@ -32,4 +32,4 @@ void DefaultLogger::log(int severity, std::string_view message, std::string_view
 
 DefaultLogger::Sink DefaultLogger::setSink(Sink sink) { return std::exchange(m_sink, std::move(sink)); }
 
-} // namespace commons
+} // namespace proupsells::commons

@@ -7,7 +7,7 @@
 
 #include "Platform/Commons/SourceLocation.hpp"
 
-namespace commons {
+namespace proupsells::commons {
 
 struct LogRecord {
     int severity = 0;
@@ -37,4 +37,4 @@ private:
     Sink m_sink;
 };
 
-} // namespace commons
+} // namespace proupsells::commons

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-namespace commons {
+namespace proupsells::commons {
 
 void fatalError(std::string_view message) {
     // What was reported before must not be lost with the process.
@@ -14,4 +14,4 @@ void fatalError(std::string_view message) {
     std::abort();
 }
 
-} // namespace commons
+} // namespace proupsells::commons

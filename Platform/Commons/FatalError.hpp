@@ -3,9 +3,9 @@
 
 #include <string_view>
 
-namespace commons {
+namespace proupsells::commons {
 
 // Writes `message` and a line feed to standard error, then aborts.
 [[noreturn]] void fatalError(std::string_view message);
 
-} // namespace commons
+} // namespace proupsells::commons

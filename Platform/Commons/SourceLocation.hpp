@@ -1,7 +1,7 @@
 // Where in the source a call stands.
 #pragma once
 
-namespace commons {
+namespace proupsells::commons {
 
 // In place of std::source_location, which not every supported compiler has.
 struct SourceLocation {
@@ -14,4 +14,4 @@ struct SourceLocation {
     }
 };
 
-} // namespace commons
+} // namespace proupsells::commons

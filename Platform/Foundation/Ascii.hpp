@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <string>
 
-namespace foundation {
+namespace proupsells::foundation {
 
 constexpr char asciiUpper(char letter) { return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter; }
 constexpr char asciiLower(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter; }
@@ -14,4 +14,4 @@ inline std::string asciiLowerCased(std::string text) {
     return text;
 }
 
-} // namespace foundation
+} // namespace proupsells::foundation

@@ -9,7 +9,7 @@
 #include "Platform/Foundation/PercentText.hpp"
 #include "Platform/Foundation/Utf8.hpp"
 
-namespace foundation {
+namespace proupsells::foundation {
 
 namespace {
 
@@ -83,4 +83,4 @@ geometry::LayoutDirection BuiltInLocaleServices::layoutDirection(const Locale& l
         contains({"ar", "he", "iw", "fa", "ur", "yi", "ps", "sd", "ug", "dv", "ckb", "prs", "syr", "nqo"}, language));
 }
 
-} // namespace foundation
+} // namespace proupsells::foundation

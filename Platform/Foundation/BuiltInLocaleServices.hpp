@@ -3,7 +3,7 @@
 
 #include "Platform/Foundation/LocaleServices.hpp"
 
-namespace foundation {
+namespace proupsells::foundation {
 
 // English and ASCII; see LocaleServices.
 class BuiltInLocaleServices : public LocaleServices {
@@ -16,4 +16,4 @@ public:
     geometry::LayoutDirection layoutDirection(const Locale& locale) const override;
 };
 
-} // namespace foundation
+} // namespace proupsells::foundation

@@ -14,7 +14,7 @@
 #include "Platform/Foundation/StringsFile.hpp"
 #include "Platform/RunLoop/MainActor.hpp"
 
-namespace foundation {
+namespace proupsells::foundation {
 
 namespace {
 
@@ -143,4 +143,4 @@ void Bundle::setMain(fs::path folder) {
 
 std::string localizedString(const std::string& key, std::string_view) { return Bundle::main().localizedString(key); }
 
-} // namespace foundation
+} // namespace proupsells::foundation

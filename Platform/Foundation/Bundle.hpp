@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace foundation {
+namespace proupsells::foundation {
 
 class Bundle {
 public:
@@ -42,4 +42,4 @@ private:
 // The text for `key` in the host application's bundle. The comment is for translators only.
 std::string localizedString(const std::string& key, std::string_view comment = {});
 
-} // namespace foundation
+} // namespace proupsells::foundation

@@ -5,7 +5,7 @@
 #include <limits>
 #include <system_error>
 
-namespace foundation {
+namespace proupsells::foundation {
 
 namespace {
 
@@ -67,4 +67,4 @@ std::optional<double> decimalNumber(std::string_view text) {
     return number;
 }
 
-} // namespace foundation
+} // namespace proupsells::foundation

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace foundation {
+namespace proupsells::foundation {
 
 // Fills %@ (the next argument), %1$@ (that argument, from 1) and %% (a percent sign). Numbered placeholders do not move the next
 // argument on. A placeholder without an argument becomes nothing; every other % stands for itself, and what follows it is text
@@ -18,4 +18,4 @@ std::string format(std::string_view text, std::initializer_list<std::string_view
 // double can hold, such as 1e999 or 1e-999.
 std::optional<double> decimalNumber(std::string_view text);
 
-} // namespace foundation
+} // namespace proupsells::foundation

@@ -6,7 +6,7 @@
 
 #include "Platform/RunLoop/MainActor.hpp"
 
-namespace foundation {
+namespace proupsells::foundation {
 
 namespace {
 
@@ -44,4 +44,4 @@ void Locale::setCurrent(Locale locale) {
     currentLocale() = std::move(locale);
 }
 
-} // namespace foundation
+} // namespace proupsells::foundation

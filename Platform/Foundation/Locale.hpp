@@ -6,7 +6,7 @@
 
 #include "Platform/Foundation/LocaleServices.hpp"
 
-namespace foundation {
+namespace proupsells::foundation {
 
 // A locale such as "de_AT" or "en-US"; "-" and "_" mean the same.
 class Locale {
@@ -30,4 +30,4 @@ private:
     std::vector<std::string> m_languageChain;
 };
 
-} // namespace foundation
+} // namespace proupsells::foundation

@@ -5,7 +5,7 @@
 #include "Platform/Foundation/BuiltInLocaleServices.hpp"
 #include "Platform/RunLoop/MainActor.hpp"
 
-namespace foundation {
+namespace proupsells::foundation {
 
 namespace {
 
@@ -26,4 +26,4 @@ std::shared_ptr<const LocaleServices> LocaleServices::setCurrent(std::shared_ptr
     return std::exchange(installedServices(), std::move(services));
 }
 
-} // namespace foundation
+} // namespace proupsells::foundation

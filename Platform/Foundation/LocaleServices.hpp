@@ -10,7 +10,7 @@
 
 #include "Platform/Geometry/Geometry.hpp"
 
-namespace foundation {
+namespace proupsells::foundation {
 
 class Locale;
 
@@ -37,4 +37,4 @@ public:
     static std::shared_ptr<const LocaleServices> setCurrent(std::shared_ptr<const LocaleServices> services);
 };
 
-} // namespace foundation
+} // namespace proupsells::foundation

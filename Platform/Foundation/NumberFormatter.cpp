@@ -2,7 +2,7 @@
 
 #include "Platform/Foundation/Locale.hpp"
 
-namespace foundation {
+namespace proupsells::foundation {
 
 std::optional<std::string> NumberFormatter::string(double number) const {
     switch (numberStyle) {
@@ -11,4 +11,4 @@ std::optional<std::string> NumberFormatter::string(double number) const {
     return std::nullopt;
 }
 
-} // namespace foundation
+} // namespace proupsells::foundation

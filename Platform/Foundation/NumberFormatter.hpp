@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-namespace foundation {
+namespace proupsells::foundation {
 
 // Formats in the current locale, through the current locale services.
 struct NumberFormatter {
@@ -20,4 +20,4 @@ struct NumberFormatter {
     std::optional<std::string> string(double number) const;
 };
 
-} // namespace foundation
+} // namespace proupsells::foundation

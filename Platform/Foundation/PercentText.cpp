@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstdlib>
 
-namespace foundation {
+namespace proupsells::foundation {
 
 namespace {
 
@@ -49,7 +49,8 @@ void roundHalfToEven(Decimal& decimal, int fractionDigits) {
 }
 
 std::string grouped(std::string digits) {
-    for (int position = static_cast<int>(digits.size()) - 3; position > 0; position -= 3) digits.insert(digits.begin() + position, ',');
+    for (int position = static_cast<int>(digits.size()) - 3; position > 0; position -= 3)
+        digits.insert(digits.begin() + position, ',');
     return digits;
 }
 
@@ -74,4 +75,4 @@ std::string englishPercentText(double fraction, int maximumFractionDigits) {
     return text + "%";
 }
 
-} // namespace foundation
+} // namespace proupsells::foundation

@@ -3,7 +3,7 @@
 #include <system_error>
 #include <utility>
 
-namespace foundation {
+namespace proupsells::foundation {
 
 namespace {
 
@@ -33,4 +33,4 @@ std::filesystem::path resourceFolder(std::string_view name, const std::filesyste
 
 void setResourceRoot(std::filesystem::path folder) { resourceRoot() = std::move(folder); }
 
-} // namespace foundation
+} // namespace proupsells::foundation

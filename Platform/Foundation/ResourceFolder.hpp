@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string_view>
 
-namespace foundation {
+namespace proupsells::foundation {
 
 // The first of these that exists: `name` in the folder set below, in `share/proupsells` beside the running program's folder,
 // in `builtFrom` (the sources' own folder), and in `installedTo`. `builtFrom` when none does.
@@ -15,4 +15,4 @@ std::filesystem::path resourceFolder(std::string_view name, const std::filesyste
 // the first resource is used; the empty path takes it back.
 void setResourceRoot(std::filesystem::path folder);
 
-} // namespace foundation
+} // namespace proupsells::foundation

@@ -6,7 +6,7 @@
 #include "Platform/Foundation/TextDecoding.hpp"
 #include "Platform/Foundation/Utf8.hpp"
 
-namespace foundation {
+namespace proupsells::foundation {
 
 namespace {
 
@@ -179,4 +179,4 @@ StringsFile StringsFile::parse(std::string_view bytes) {
     return file;
 }
 
-} // namespace foundation
+} // namespace proupsells::foundation

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <unordered_map>
 
-namespace foundation {
+namespace proupsells::foundation {
 
 // Lines of `"key" = "text";` in UTF-8 or UTF-16, with /* */ and // comments between them. Keys and texts stand in quotes or are
 // plain words of letters, digits and _ $ . : / -. In quotes, \n \t \r \a \b \f \v are controls, \Uxxxx (or \uxxxx) is a UTF-16 unit
@@ -27,4 +27,4 @@ struct StringsFile {
     static StringsFile parse(std::string_view bytes);
 };
 
-} // namespace foundation
+} // namespace proupsells::foundation

@@ -4,7 +4,7 @@
 
 #include "Platform/Foundation/Utf8.hpp"
 
-namespace foundation {
+namespace proupsells::foundation {
 
 namespace {
 
@@ -52,4 +52,4 @@ DecodedText decodeText(std::string_view bytes) {
     return {std::string(bytes.substr(0, invalid.value_or(bytes.size()))), !invalid};
 }
 
-} // namespace foundation
+} // namespace proupsells::foundation

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace foundation {
+namespace proupsells::foundation {
 
 // A text as UTF-8, without its byte order mark.
 struct DecodedText {
@@ -16,4 +16,4 @@ struct DecodedText {
 // a mark.
 DecodedText decodeText(std::string_view bytes);
 
-} // namespace foundation
+} // namespace proupsells::foundation

@@ -1,6 +1,6 @@
 #include "Platform/Foundation/Utf8.hpp"
 
-namespace foundation {
+namespace proupsells::foundation {
 
 namespace {
 
@@ -85,4 +85,4 @@ std::string repairedUtf8(std::string_view text) {
     return repaired;
 }
 
-} // namespace foundation
+} // namespace proupsells::foundation

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace foundation {
+namespace proupsells::foundation {
 
 // Stands for what is no character.
 inline constexpr char32_t replacementCharacter = U'\uFFFD';
@@ -32,4 +32,4 @@ inline bool isValidUtf8(std::string_view text) { return !firstInvalidUtf8(text);
 // The text with a replacement character for every ill-formed part.
 std::string repairedUtf8(std::string_view text);
 
-} // namespace foundation
+} // namespace proupsells::foundation

@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
-namespace geometry {
+namespace proupsells::geometry {
 
 enum class Axis : std::uint8_t { horizontal, vertical };
 
-} // namespace geometry
+} // namespace proupsells::geometry

@@ -5,7 +5,7 @@
 #include <limits>
 #include <optional>
 
-namespace geometry {
+namespace proupsells::geometry {
 
 inline constexpr double infinity = std::numeric_limits<double>::infinity();
 
@@ -114,4 +114,4 @@ struct UnitPoint {
     bool operator==(const UnitPoint&) const = default;
 };
 
-} // namespace geometry
+} // namespace proupsells::geometry

@@ -1,6 +1,6 @@
 #include "Platform/Geometry/Path.hpp"
 
-namespace geometry {
+namespace proupsells::geometry {
 
 namespace {
 
@@ -165,4 +165,4 @@ void Path::transform(const Transform& transform) {
     for (Point& point : m_points) point = transform.apply(point);
 }
 
-} // namespace geometry
+} // namespace proupsells::geometry

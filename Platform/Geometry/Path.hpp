@@ -6,7 +6,7 @@
 
 #include "Platform/Geometry/Transform.hpp"
 
-namespace geometry {
+namespace proupsells::geometry {
 
 enum class CornerStyle : std::uint8_t { circular, continuous };
 
@@ -44,4 +44,4 @@ private:
     std::vector<Point> m_points;
 };
 
-} // namespace geometry
+} // namespace proupsells::geometry

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace geometry {
+namespace proupsells::geometry {
 
 Transform Transform::rotation(double angle_rad) {
     const double cosine = std::cos(angle_rad), sine = std::sin(angle_rad);
@@ -56,4 +56,4 @@ Rect Transform::apply(const Rect& rect) const {
     return {lowest, {highest.x - lowest.x, highest.y - lowest.y}};
 }
 
-} // namespace geometry
+} // namespace proupsells::geometry

@@ -3,7 +3,7 @@
 
 #include "Platform/Geometry/Geometry.hpp"
 
-namespace geometry {
+namespace proupsells::geometry {
 
 // Maps (x, y) to (a·x + c·y + tx, b·x + d·y + ty).
 struct Transform {
@@ -29,4 +29,4 @@ struct Transform {
     constexpr bool operator==(const Transform&) const = default;
 };
 
-} // namespace geometry
+} // namespace proupsells::geometry

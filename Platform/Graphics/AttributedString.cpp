@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace graphics {
+namespace proupsells::graphics {
 
 AttributedString::AttributedString(std::string text, TextAttributes attributes) {
     if (!text.empty()) m_runs.push_back({std::move(text), attributes});
@@ -26,4 +26,4 @@ std::string AttributedString::text() const {
     return text;
 }
 
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -8,7 +8,7 @@
 #include "Platform/Graphics/Color.hpp"
 #include "Platform/Graphics/Font.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 
 struct TextAttributes {
     Font font;
@@ -56,4 +56,4 @@ private:
     std::vector<AttributedRun> m_runs;
 };
 
-} // namespace graphics
+} // namespace proupsells::graphics

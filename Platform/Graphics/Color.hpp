@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace graphics {
+namespace proupsells::graphics {
 
 enum class ColorScheme : std::uint8_t { light, dark };
 
@@ -36,4 +36,4 @@ inline constexpr Color Color::clear{"clear", {0, 0, 0, 0}, {0, 0, 0, 0}};
 inline constexpr Color Color::black{"black", rgb(0x000000), rgb(0x000000)};
 inline constexpr Color Color::white{"white", rgb(0xFFFFFF), rgb(0xFFFFFF)};
 
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-namespace graphics {
+namespace proupsells::graphics {
 
 enum class ContentSizeCategory : std::uint8_t {
     extraSmall,
@@ -27,4 +27,4 @@ constexpr double scaleFactor(ContentSizeCategory category) {
     return bodySizes[int(category)] / 17;
 }
 
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -8,7 +8,7 @@
 
 #include "Platform/Graphics/DisplayList.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 
 namespace {
 
@@ -227,4 +227,4 @@ void findDamage(const DisplayList& before, const DisplayList& after, std::vector
     ListComparison(before, after, result, workspace).run();
 }
 
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -1,6 +1,6 @@
 #include "Platform/Graphics/DisplayList.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 
 namespace {
 
@@ -84,4 +84,4 @@ bool paintsTheSame(const DisplayList& a, const Command& inA, const DisplayList& 
            isSameResource(a.transforms, inA.transform, b.transforms, inB.transform, isIdentical<geometry::Transform>);
 }
 
-} // namespace graphics
+} // namespace proupsells::graphics

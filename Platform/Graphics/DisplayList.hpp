@@ -9,7 +9,7 @@
 #include "Platform/Graphics/Image.hpp"
 #include "Platform/Graphics/ShapedText.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 
 // Pixels that somebody else made, a clip's frame for instance. Premultiplied 32-bit ARGB in host byte order, rows without gaps.
 struct Bitmap {
@@ -84,4 +84,4 @@ bool paintsTheSame(const DisplayList& a, const Command& inA, const DisplayList& 
 // The part of the window in which two lists differ: a few rectangles, empty when they paint the same. Keeps the memory of `result`.
 void findDamage(const DisplayList& before, const DisplayList& after, std::vector<geometry::Rect>& result);
 
-} // namespace graphics
+} // namespace proupsells::graphics

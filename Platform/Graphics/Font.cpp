@@ -3,7 +3,7 @@
 #include <functional>
 #include <map>
 
-namespace graphics {
+namespace proupsells::graphics {
 
 namespace {
 
@@ -26,4 +26,4 @@ const FontFace* findFontFace(std::string_view name) {
     return found == faces.end() ? nullptr : &found->second;
 }
 
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace graphics {
+namespace proupsells::graphics {
 
 // One face of a typeface, under the name that the design system uses.
 struct FontFace {
@@ -29,4 +29,4 @@ struct Font {
     bool operator==(const Font&) const = default;
 };
 
-} // namespace graphics
+} // namespace proupsells::graphics

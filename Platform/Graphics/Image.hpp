@@ -9,7 +9,7 @@
 #include "Platform/Geometry/Geometry.hpp"
 #include "Platform/Graphics/Color.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 
 // How an image's colours are used.
 enum class RenderingMode { original, tinted };
@@ -29,4 +29,4 @@ public:
 
 using ImageRef = std::shared_ptr<const Image>;
 
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -1,6 +1,6 @@
 #include "Platform/Graphics/PaintContext.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 
 using geometry::CornerStyle;
 using geometry::Rect;
@@ -129,4 +129,4 @@ void PaintContext::shadow(const PaintState& state, const Rect& rect, double blur
     command->color = color;
 }
 
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -4,7 +4,7 @@
 #include "Platform/Graphics/DisplayList.hpp"
 #include "Platform/Graphics/TextLayout.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 
 // What is in force at a place of a tree. Cheap to copy; a parent hands a changed copy to its children.
 struct PaintState {
@@ -69,4 +69,4 @@ private:
     DisplayList& m_list;
 };
 
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -2,7 +2,7 @@
 
 #include "Platform/Graphics/PaintContext.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 
 using geometry::Rect;
 
@@ -32,4 +32,4 @@ PaintState PaintState::transformedBy(const geometry::Transform& local) const {
     return state;
 }
 
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace graphics {
+namespace proupsells::graphics {
 namespace {
 
 constexpr double hold_s = 0.4;
@@ -40,4 +40,4 @@ void ScrollIndicator::paint(PaintContext& context, const PaintState& state, cons
     context.fillRoundedRectangle(state.fadedBy(opacity), rect, radius, geometry::CornerStyle::circular, color);
 }
 
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -4,7 +4,7 @@
 #include "Platform/Geometry/Axis.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 
 class ScrollIndicator {
 public:
@@ -31,4 +31,4 @@ private:
     double m_shownUntil_s = -1e300;
 };
 
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -7,7 +7,7 @@
 
 #include "Platform/Graphics/Font.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 
 // What may happen to a line after a cluster.
 enum class LineBreak : std::uint8_t { none, allowed, mandatory };
@@ -46,4 +46,4 @@ public:
     std::vector<Cluster> clusters;
 };
 
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace graphics {
+namespace proupsells::graphics {
 
 namespace {
 
@@ -235,4 +235,4 @@ void layOutText(const ShapedText& text, const TextLayoutRequest& request, TextLa
     LineMaker(text, request, result).makeLines();
 }
 
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -8,7 +8,7 @@
 #include "Platform/Geometry/Geometry.hpp"
 #include "Platform/Graphics/ShapedText.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 
 // Neighbouring clusters of one run and one direction, as they stand on a line.
 struct TextFragment {
@@ -61,4 +61,4 @@ struct TextLayout {
 // with as much of the text as leaves room for the ellipsis. Keeps the vectors' memory of `result`.
 void layOutText(const ShapedText& text, const TextLayoutRequest& request, TextLayout& result);
 
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -1,6 +1,6 @@
 #include "Platform/Graphics/TextPainting.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 
 using geometry::LayoutDirection;
 using geometry::Point;
@@ -78,4 +78,4 @@ void paintTextLayout(PaintContext& context, const PaintState& state, const TextL
     }
 }
 
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -7,7 +7,7 @@
 #include "Platform/Graphics/AttributedString.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 
 // How a run of a text is painted.
 struct TextRunPaint {
@@ -26,4 +26,4 @@ void paintTextLayout(PaintContext& context, const PaintState& state, const TextL
                      const std::shared_ptr<const ShapedText>& text, const std::shared_ptr<const ShapedText>& ellipsis,
                      const geometry::Rect& box, TextAlignment alignment, std::span<const TextRunPaint> paints);
 
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -7,7 +7,7 @@
 #include "Platform/Geometry/Geometry.hpp"
 #include "Platform/Graphics/DisplayList.hpp"
 
-namespace host {
+namespace proupsells::host {
 
 // What a clip shows at a time.
 struct ClipFrame {
@@ -36,4 +36,4 @@ public:
     virtual std::shared_ptr<Clip> open(const std::filesystem::path& file) = 0;
 };
 
-} // namespace host
+} // namespace proupsells::host

@@ -6,7 +6,7 @@
 
 #include "Platform/Geometry/Geometry.hpp"
 
-namespace host {
+namespace proupsells::host {
 
 class ImageDecoder {
 public:
@@ -16,4 +16,4 @@ public:
     virtual std::optional<geometry::Size> naturalSize(const std::filesystem::path& file) = 0;
 };
 
-} // namespace host
+} // namespace proupsells::host

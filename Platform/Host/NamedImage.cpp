@@ -6,7 +6,7 @@
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/Host/Services.hpp"
 
-namespace host {
+namespace proupsells::host {
 
 namespace {
 
@@ -40,4 +40,4 @@ graphics::ImageRef namedImage(const std::string& name, const foundation::Bundle&
     return image;
 }
 
-} // namespace host
+} // namespace proupsells::host

@@ -5,7 +5,7 @@
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/Host/TextCache.hpp"
 
-namespace host {
+namespace proupsells::host {
 
 namespace {
 
@@ -48,4 +48,4 @@ TextShaper& Installation::textShaper() {
     return *shaper;
 }
 
-} // namespace host
+} // namespace proupsells::host

@@ -7,7 +7,7 @@
 #include "Platform/Host/ImageDecoder.hpp"
 #include "Platform/Host/TextShaper.hpp"
 
-namespace host {
+namespace proupsells::host {
 
 class ClipDecoder;
 
@@ -37,4 +37,4 @@ private:
     std::shared_ptr<const foundation::LocaleServices> m_previousLocale;
 };
 
-} // namespace host
+} // namespace proupsells::host

@@ -3,7 +3,7 @@
 
 #include "Platform/Graphics/DisplayList.hpp"
 
-namespace host {
+namespace proupsells::host {
 
 class Surface {
 public:
@@ -14,4 +14,4 @@ public:
     virtual void present(const graphics::DisplayList& list, geometry::Size size, double scale) = 0;
 };
 
-} // namespace host
+} // namespace proupsells::host

@@ -5,7 +5,7 @@
 
 #include "Platform/Host/Services.hpp"
 
-namespace host {
+namespace proupsells::host {
 
 using geometry::LayoutDirection;
 using graphics::ShapedText;
@@ -75,4 +75,4 @@ double totalAdvance(const ShapedText& text) {
     return sum;
 }
 
-} // namespace host
+} // namespace proupsells::host

@@ -13,7 +13,7 @@
 #include "Platform/Geometry/Geometry.hpp"
 #include "Platform/Graphics/ShapedText.hpp"
 
-namespace host {
+namespace proupsells::host {
 
 // Keeps the texts used last. Finding one allocates nothing. Emptied whenever services are installed or taken away.
 class TextCache {
@@ -58,4 +58,4 @@ private:
 // The sum of a shaped text's advances: the width of an ellipsis, for instance.
 double totalAdvance(const graphics::ShapedText& text);
 
-} // namespace host
+} // namespace proupsells::host

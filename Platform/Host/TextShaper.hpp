@@ -8,7 +8,7 @@
 #include "Platform/Geometry/Geometry.hpp"
 #include "Platform/Graphics/ShapedText.hpp"
 
-namespace host {
+namespace proupsells::host {
 
 class TextShaper {
 public:
@@ -20,4 +20,4 @@ public:
                                                               geometry::LayoutDirection direction) = 0;
 };
 
-} // namespace host
+} // namespace proupsells::host

@@ -6,7 +6,7 @@
 #include "Platform/Accessibility/Node.hpp"
 #include "Platform/Graphics/DisplayList.hpp"
 
-namespace host {
+namespace proupsells::host {
 
 enum class TouchPhase { began, moved, ended, cancelled };
 
@@ -40,4 +40,4 @@ public:
     virtual accessibility::Node semanticTree() = 0;
 };
 
-} // namespace host
+} // namespace proupsells::host

@@ -5,7 +5,7 @@
 #include "Platform/Hosting/Traits.hpp"
 #include "Platform/Hosting/UIHostingView.hpp"
 
-namespace hosting {
+namespace proupsells::hosting {
 
 void RepresentableStage::subviewDidInvalidateIntrinsicContentSize(uikit::UIView&) {
     if (m_node) m_node->invalidateLayout();
@@ -77,4 +77,4 @@ void RepresentableNode::touchEnded(const swiftui::TouchEvent& event) { send(host
 
 void RepresentableNode::touchCancelled() { m_touches->cancel(); }
 
-} // namespace hosting
+} // namespace proupsells::hosting

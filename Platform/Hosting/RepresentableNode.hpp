@@ -5,7 +5,7 @@
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/UIKit/Controllers/TouchRouter.hpp"
 
-namespace hosting {
+namespace proupsells::hosting {
 
 class RepresentableStage;
 
@@ -41,4 +41,4 @@ private:
     std::unique_ptr<uikit::TouchRouter> m_touches;
 };
 
-} // namespace hosting
+} // namespace proupsells::hosting

@@ -4,7 +4,7 @@
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/UIKit/Views/UIView.hpp"
 
-namespace hosting {
+namespace proupsells::hosting {
 
 // Tells the node of its view's changes. The hosting view leaves it out when it paints, since the declarative tree paints what is on
 // it.
@@ -38,4 +38,4 @@ private:
     swiftui::Node* m_node;
 };
 
-} // namespace hosting
+} // namespace proupsells::hosting

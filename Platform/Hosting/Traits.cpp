@@ -1,6 +1,6 @@
 #include "Platform/Hosting/Traits.hpp"
 
-namespace hosting {
+namespace proupsells::hosting {
 
 void adoptTraits(swiftui::EnvironmentValues& environment, const uikit::UITraitCollection& traits) {
     environment.colorScheme = traits.userInterfaceStyle;
@@ -26,4 +26,4 @@ uikit::UITraitCollection traitsOf(const swiftui::EnvironmentValues& environment)
     return traits;
 }
 
-} // namespace hosting
+} // namespace proupsells::hosting

@@ -4,10 +4,10 @@
 #include "Platform/SwiftUI/Tree/EnvironmentValues.hpp"
 #include "Platform/UIKit/Views/UITraitCollection.hpp"
 
-namespace hosting {
+namespace proupsells::hosting {
 
 // Writes what the traits say into the environment and leaves the rest of it alone.
 void adoptTraits(swiftui::EnvironmentValues& environment, const uikit::UITraitCollection& traits);
 uikit::UITraitCollection traitsOf(const swiftui::EnvironmentValues& environment);
 
-} // namespace hosting
+} // namespace proupsells::hosting

@@ -1,6 +1,6 @@
 #include "Platform/Hosting/UIHostingController.hpp"
 
-namespace hosting {
+namespace proupsells::hosting {
 
 UIHostingController::UIHostingController(Creation, std::function<swiftui::View()> root) : m_root(std::move(root)) {}
 
@@ -34,4 +34,4 @@ void UIHostingController::viewDidDisappear(bool animated) {
     m_hostingView->setShown(false);
 }
 
-} // namespace hosting
+} // namespace proupsells::hosting

@@ -4,7 +4,7 @@
 #include "Platform/Hosting/UIHostingView.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 
-namespace hosting {
+namespace proupsells::hosting {
 
 class UIHostingController : public uikit::UIViewController {
     struct Creation {};
@@ -39,4 +39,4 @@ private:
     std::shared_ptr<UIHostingView> m_hostingView;
 };
 
-} // namespace hosting
+} // namespace proupsells::hosting

@@ -6,7 +6,7 @@
 #include "Platform/Hosting/RepresentableStage.hpp"
 #include "Platform/Hosting/Traits.hpp"
 
-namespace hosting {
+namespace proupsells::hosting {
 
 namespace {
 
@@ -140,4 +140,4 @@ void UIHostingView::appendSubviewNodes(std::vector<accessibility::Node>& nodes, 
         if (!dynamic_cast<const RepresentableStage*>(subview.get())) nodes.push_back(subview->semanticNode(state));
 }
 
-} // namespace hosting
+} // namespace proupsells::hosting

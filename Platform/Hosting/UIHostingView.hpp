@@ -7,7 +7,7 @@
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 #include "Platform/UIKit/Views/UIView.hpp"
 
-namespace hosting {
+namespace proupsells::hosting {
 
 // Gives the tree its size, safe area, environment and touches, and shows its picture and its semantics. The tree counts as visible
 // while the view is in a window and nobody has said that it is not shown. Views of the retained layer inside the tree are subviews
@@ -56,4 +56,4 @@ private:
     bool m_isShown = true;
 };
 
-} // namespace hosting
+} // namespace proupsells::hosting

@@ -20,7 +20,7 @@
 
 #include "Platform/Hosting/RepresentableNode.hpp"
 
-namespace hosting {
+namespace proupsells::hosting {
 
 struct NoCoordinator {};
 
@@ -76,4 +76,4 @@ swiftui::Element* newRepresentable(Value&& value) {
     return swiftui::newElement<TypedRepresentableNode<std::remove_cvref_t<Value>>>(std::forward<Value>(value));
 }
 
-} // namespace hosting
+} // namespace proupsells::hosting

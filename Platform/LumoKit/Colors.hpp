@@ -3,7 +3,7 @@
 
 #include "Platform/Graphics/Color.hpp"
 
-namespace lumokit {
+namespace proupsells::lumokit {
 
 using graphics::Color;
 using graphics::rgb;
@@ -41,4 +41,4 @@ inline constexpr Color neutralSubdued{"ValidationColor.neutralSubdued", rgb(0xE4
 inline constexpr Color neutralImportant{"ValidationColor.neutralImportant", rgb(0x454D52), rgb(0xD3D9DC)};
 } // namespace ValidationColor
 
-} // namespace lumokit
+} // namespace proupsells::lumokit

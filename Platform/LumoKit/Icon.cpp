@@ -3,7 +3,7 @@
 #include "Platform/Host/NamedImage.hpp"
 #include "Platform/LumoKit/ResourceBundle.hpp"
 
-namespace lumokit {
+namespace proupsells::lumokit {
 
 const graphics::ImageRef& Icon::diamond24() {
     static const graphics::ImageRef image = host::namedImage("diamond24", resourceBundle(), graphics::RenderingMode::tinted);
@@ -15,4 +15,4 @@ const graphics::ImageRef& SystemSymbol::chevronRight() {
     return image;
 }
 
-} // namespace lumokit
+} // namespace proupsells::lumokit

@@ -3,7 +3,7 @@
 
 #include "Platform/Graphics/Image.hpp"
 
-namespace lumokit {
+namespace proupsells::lumokit {
 
 class Icon {
 public:
@@ -22,4 +22,4 @@ public:
     static const graphics::ImageRef& chevronRight();
 };
 
-} // namespace lumokit
+} // namespace proupsells::lumokit

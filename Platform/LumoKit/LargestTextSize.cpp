@@ -4,12 +4,12 @@
 
 #include "Platform/SwiftUI/Modifiers/EnvironmentNode.hpp"
 
-template struct swiftui::EnvironmentModifier<lumokit::LargestTextSize>;
+template struct proupsells::swiftui::EnvironmentModifier<proupsells::lumokit::LargestTextSize>;
 
-namespace lumokit {
+namespace proupsells::lumokit {
 
 void LargestTextSize::apply(swiftui::EnvironmentValues& values) const {
     values.contentSize = std::min(values.contentSize, largest);
 }
 
-} // namespace lumokit
+} // namespace proupsells::lumokit

@@ -3,7 +3,7 @@
 
 #include "Platform/SwiftUI/Modifiers/EnvironmentModifiers.hpp"
 
-namespace lumokit {
+namespace proupsells::lumokit {
 
 // Texts inside grow with the person's text size up to this one: for labels in places whose shape would break.
 struct LargestTextSize {
@@ -15,4 +15,4 @@ struct LargestTextSize {
 
 inline swiftui::EnvironmentModifier<LargestTextSize> largestTextSize(graphics::ContentSizeCategory largest) { return {{largest}}; }
 
-} // namespace lumokit
+} // namespace proupsells::lumokit

@@ -2,7 +2,7 @@
 
 #include "Platform/Foundation/ResourceFolder.hpp"
 
-namespace lumokit {
+namespace proupsells::lumokit {
 
 const foundation::Bundle& resourceBundle() {
     static const foundation::Bundle bundle{
@@ -10,4 +10,4 @@ const foundation::Bundle& resourceBundle() {
     return bundle;
 }
 
-} // namespace lumokit
+} // namespace proupsells::lumokit

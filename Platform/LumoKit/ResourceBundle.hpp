@@ -3,9 +3,9 @@
 
 #include "Platform/Foundation/Bundle.hpp"
 
-namespace lumokit {
+namespace proupsells::lumokit {
 
 // Found at the first use, the same object ever after.
 const foundation::Bundle& resourceBundle();
 
-} // namespace lumokit
+} // namespace proupsells::lumokit

@@ -4,9 +4,9 @@
 
 #include "Platform/SwiftUI/Modifiers/EnvironmentNode.hpp"
 
-template struct swiftui::EnvironmentModifier<lumokit::TextStyle>;
+template struct proupsells::swiftui::EnvironmentModifier<proupsells::lumokit::TextStyle>;
 
-namespace lumokit {
+namespace proupsells::lumokit {
 
 using swiftui::TextCase;
 
@@ -59,4 +59,4 @@ void TextStyle::apply(swiftui::EnvironmentValues& values) const {
     values.contentSize = std::min(values.contentSize, largestTextSize);
 }
 
-} // namespace lumokit
+} // namespace proupsells::lumokit

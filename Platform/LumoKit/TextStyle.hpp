@@ -5,7 +5,7 @@
 
 #include "Platform/SwiftUI/Modifiers/EnvironmentModifiers.hpp"
 
-namespace lumokit {
+namespace proupsells::lumokit {
 
 // The platform's own text styles that design-system styles are built on: their weight, and their name on screen dumps.
 enum class PlatformTextStyle { headline, subheadline };
@@ -44,4 +44,4 @@ extern const TextStyle labelCapsLarge;
 
 inline swiftui::EnvironmentModifier<TextStyle> textStyle(const TextStyle& style) { return {style}; }
 
-} // namespace lumokit
+} // namespace proupsells::lumokit

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace motion {
+namespace proupsells::motion {
 namespace {
 
 // How readily the content follows a finger past its end.
@@ -147,4 +147,4 @@ double Deceleration::velocityAt(double elapsed_s) const {
     return phaseAt(elapsed_s).velocityAt(std::max(0.0, elapsed_s));
 }
 
-} // namespace motion
+} // namespace proupsells::motion

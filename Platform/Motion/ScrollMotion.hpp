@@ -3,7 +3,7 @@
 
 #include "Platform/Motion/VelocityTracker.hpp"
 
-namespace motion {
+namespace proupsells::motion {
 
 // Offsets between which one axis rests. A maximum below the minimum counts as the minimum: content that does not fill its viewport.
 struct ScrollRange {
@@ -64,4 +64,4 @@ private:
     double m_target = 0;
 };
 
-} // namespace motion
+} // namespace proupsells::motion

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace motion {
+namespace proupsells::motion {
 namespace {
 
 // One coordinate of the curve as a polynomial in its parameter.
@@ -50,4 +50,4 @@ double Animation::progressAt(double elapsed_s) const {
     return curve.valueAt((elapsed_s - delay_s) / duration_s);
 }
 
-} // namespace motion
+} // namespace proupsells::motion

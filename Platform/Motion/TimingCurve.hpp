@@ -1,7 +1,7 @@
 // How an animation's progress follows time.
 #pragma once
 
-namespace motion {
+namespace proupsells::motion {
 
 // A cubic Bézier curve from (0, 0) to (1, 1), given by its two control points, whose x are cut to [0, 1].
 struct TimingCurve {
@@ -32,4 +32,4 @@ struct Animation {
     bool operator==(const Animation&) const = default;
 };
 
-} // namespace motion
+} // namespace proupsells::motion

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace motion {
+namespace proupsells::motion {
 namespace {
 
 // Only what the finger did in this last stretch of time counts.
@@ -37,4 +37,4 @@ double VelocityTracker::velocityAt(double time_s) const {
     return span_s > 0 ? (m_positions[m_count - 1] - m_positions[oldest]) / span_s : 0;
 }
 
-} // namespace motion
+} // namespace proupsells::motion

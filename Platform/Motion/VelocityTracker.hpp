@@ -1,7 +1,7 @@
 // How fast a finger moves along one axis.
 #pragma once
 
-namespace motion {
+namespace proupsells::motion {
 
 // Speed of a finger from its last positions; a finger that rests for more than 0.1 s before it lifts has none.
 class VelocityTracker {
@@ -17,4 +17,4 @@ private:
     int m_count = 0;
 };
 
-} // namespace motion
+} // namespace proupsells::motion

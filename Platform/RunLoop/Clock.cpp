@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-namespace runloop {
+namespace proupsells::runloop {
 
 namespace {
 
@@ -20,4 +20,4 @@ RealClock::RealClock() : m_start_ns(steadyTime_ns()) {}
 
 double RealClock::now_s() const { return static_cast<double>(steadyTime_ns() - m_start_ns) * 1e-9; }
 
-} // namespace runloop
+} // namespace proupsells::runloop

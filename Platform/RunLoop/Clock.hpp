@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-namespace runloop {
+namespace proupsells::runloop {
 
 // Tells the time that the loop runs on, in seconds. Never goes back.
 class Clock {
@@ -33,4 +33,4 @@ private:
     std::int64_t m_start_ns;
 };
 
-} // namespace runloop
+} // namespace proupsells::runloop

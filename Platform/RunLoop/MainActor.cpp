@@ -5,7 +5,7 @@
 
 #include "Platform/Commons/FatalError.hpp"
 
-namespace runloop {
+namespace proupsells::runloop {
 
 namespace {
 
@@ -24,4 +24,4 @@ void MainActor::assertIsolated() {
         commons::fatalError("This must be called on the main thread");
 }
 
-} // namespace runloop
+} // namespace proupsells::runloop

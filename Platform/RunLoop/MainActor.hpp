@@ -1,7 +1,7 @@
 // The rule that user-interface work stays on one thread.
 #pragma once
 
-namespace runloop {
+namespace proupsells::runloop {
 
 class MainActor {
 public:
@@ -17,4 +17,4 @@ private:
     static void adoptCurrentThread();
 };
 
-} // namespace runloop
+} // namespace proupsells::runloop

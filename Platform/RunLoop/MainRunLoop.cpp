@@ -11,7 +11,7 @@
 #include "Platform/RunLoop/UpdateQueue.hpp"
 #include "Platform/RunLoop/WorkQueue.hpp"
 
-namespace runloop {
+namespace proupsells::runloop {
 
 namespace {
 
@@ -187,4 +187,4 @@ void MainRunLoop::rearmFiredTimers() {
     m_state->fired.clear();
 }
 
-} // namespace runloop
+} // namespace proupsells::runloop

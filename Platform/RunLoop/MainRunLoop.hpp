@@ -9,7 +9,7 @@
 #include "Platform/RunLoop/Timer.hpp"
 #include "Platform/RunLoop/UpdateClient.hpp"
 
-namespace runloop {
+namespace proupsells::runloop {
 
 // Orders work by (due time, sequence number). A turn is the due callbacks of one moment, then the updates that they
 // caused; repeating timers that fired are re-armed at the turn's end, on their own grid, with new sequence numbers.
@@ -71,4 +71,4 @@ private:
     std::unique_ptr<State> m_state;
 };
 
-} // namespace runloop
+} // namespace proupsells::runloop

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <utility>
 
-namespace runloop {
+namespace proupsells::runloop {
 
 void Timer::invalidate() {
     m_isValid = false;
@@ -29,4 +29,4 @@ void Timer::advanceOnGrid(double clock_s) {
     m_due_s = gridPoint_s();
 }
 
-} // namespace runloop
+} // namespace proupsells::runloop

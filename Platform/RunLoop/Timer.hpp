@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <functional>
 
-namespace runloop {
+namespace proupsells::runloop {
 
 // Fires once or repeatedly; made by MainRunLoop. Letting go of the pointer does not cancel it.
 class Timer {
@@ -30,4 +30,4 @@ private:
     bool m_isValid = true;
 };
 
-} // namespace runloop
+} // namespace proupsells::runloop

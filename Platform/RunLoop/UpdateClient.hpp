@@ -1,7 +1,7 @@
 // What takes part in the update at the end of a turn.
 #pragma once
 
-namespace runloop {
+namespace proupsells::runloop {
 
 // Something that is brought up to date at the end of a turn, at most once a turn for each request.
 class UpdateClient {
@@ -10,4 +10,4 @@ public:
     virtual void update() = 0;
 };
 
-} // namespace runloop
+} // namespace proupsells::runloop

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace runloop {
+namespace proupsells::runloop {
 
 namespace {
 
@@ -44,4 +44,4 @@ std::shared_ptr<UpdateClient> UpdateQueue::takeDue(double moment_s) {
     return nullptr;
 }
 
-} // namespace runloop
+} // namespace proupsells::runloop

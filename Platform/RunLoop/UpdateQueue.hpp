@@ -7,7 +7,7 @@
 
 #include "Platform/RunLoop/UpdateClient.hpp"
 
-namespace runloop {
+namespace proupsells::runloop {
 
 // In the order of their first request; a client that waits already is not added again.
 class UpdateQueue {
@@ -27,4 +27,4 @@ private:
     std::vector<Request> m_requests;
 };
 
-} // namespace runloop
+} // namespace proupsells::runloop

@@ -4,7 +4,7 @@
 #include <tuple>
 #include <utility>
 
-namespace runloop {
+namespace proupsells::runloop {
 
 bool WorkQueue::runsAfter(const Pointer& one, const Pointer& other) {
     return std::tie(one->m_due_s, one->m_sequence) > std::tie(other->m_due_s, other->m_sequence);
@@ -36,4 +36,4 @@ void WorkQueue::dropInvalidated() {
     m_sizeAtNextSweep = std::max<std::size_t>(64, 2 * m_heap.size());
 }
 
-} // namespace runloop
+} // namespace proupsells::runloop

@@ -8,7 +8,7 @@
 
 #include "Platform/RunLoop/Timer.hpp"
 
-namespace runloop {
+namespace proupsells::runloop {
 
 // A binary heap. Invalidated timers stay in it until they come to the top or the heap has doubled; nobody sees them.
 class WorkQueue {
@@ -32,4 +32,4 @@ private:
     std::size_t m_sizeAtNextSweep = 64;
 };
 
-} // namespace runloop
+} // namespace proupsells::runloop

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 bool ChargedButton::pointInside(geometry::Point point) const {
     constexpr double smallestTarget = 44;
@@ -11,4 +11,4 @@ bool ChargedButton::pointInside(geometry::Point point) const {
         .contains(point);
 }
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

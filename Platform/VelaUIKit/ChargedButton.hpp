@@ -3,7 +3,7 @@
 
 #include "Platform/UIKit/Controls/UIButton.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 // Takes touches around its centre in at least 44 × 44 points, however small its frame is.
 class ChargedButton : public uikit::UIButton {
@@ -13,4 +13,4 @@ public:
     bool pointInside(geometry::Point point) const override;
 };
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

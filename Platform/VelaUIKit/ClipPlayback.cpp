@@ -6,7 +6,7 @@
 #include "Platform/Host/Services.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 std::shared_ptr<ClipPlayback> ClipPlayback::of(const std::filesystem::path& file) {
     static std::vector<std::weak_ptr<ClipPlayback>> all;
@@ -38,4 +38,4 @@ host::ClipFrame ClipPlayback::currentFrame() {
     return frame;
 }
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

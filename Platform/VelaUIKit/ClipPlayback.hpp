@@ -6,7 +6,7 @@
 
 #include "Platform/Host/ClipDecoder.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 // All views of a file share one, so they show the same picture and the file is decoded once. The file is opened when its first
 // picture is wanted.
@@ -34,4 +34,4 @@ private:
     bool m_isPlayable = true;
 };
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

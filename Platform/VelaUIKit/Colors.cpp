@@ -4,7 +4,7 @@
 
 #include "Platform/Commons/FatalError.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 namespace {
 
@@ -27,4 +27,4 @@ const Color& dynamicColor(int number) {
     }
 }
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

@@ -3,7 +3,7 @@
 
 #include "Platform/Graphics/Color.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 using graphics::Color;
 using graphics::rgb;
@@ -23,4 +23,4 @@ inline constexpr Color marwickContentAccent{"marwickContentAccent", rgb(0x0A7C78
 // background. Any other number stops the program.
 const Color& dynamicColor(int number);
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

@@ -4,7 +4,7 @@
 
 #include "Platform/VelaUIKit/Colors.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 void EmptyStateView::configure(Configuration configuration) {
     m_configuration = std::move(configuration);
@@ -13,4 +13,4 @@ void EmptyStateView::configure(Configuration configuration) {
     setNeedsDisplay();
 }
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

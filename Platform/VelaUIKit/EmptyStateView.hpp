@@ -6,7 +6,7 @@
 
 #include "Platform/UIKit/Views/UIView.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 // Covers what is behind it with the page background.
 class EmptyStateView : public uikit::UIView {
@@ -29,4 +29,4 @@ private:
     Configuration m_configuration;
 };
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 using geometry::ProposedSize;
 using geometry::Size;
@@ -110,4 +110,4 @@ void FlowArrangement::placeSubviews(Size size, const ProposedSize& proposal, con
     }
 }
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

@@ -6,7 +6,7 @@
 
 #include "Platform/SwiftUI/Layout/LayoutContainer.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 struct FlowArrangement {
     static constexpr std::string_view typeName = "FlowLayout";
@@ -19,4 +19,4 @@ struct FlowArrangement {
     bool operator==(const FlowArrangement&) const = default;
 };
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

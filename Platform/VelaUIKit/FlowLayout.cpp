@@ -2,10 +2,10 @@
 
 #include "Platform/VelaUIKit/FlowArrangement.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 swiftui::Element* FlowLayout::makeElement() && {
     return swiftui::LayoutContainer<FlowArrangement>{.rule = {.spacing = spacing}, .content = content}.makeElement();
 }
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

@@ -3,7 +3,7 @@
 
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 // From the leading edge on, wrapped onto further lines where they do not fit; a line is as high as its highest view, and the others
 // are centred in it. A spacer is nothing when lines are broken, then takes its share of what its line leaves over; at a line's
@@ -15,4 +15,4 @@ struct FlowLayout {
     swiftui::Element* makeElement() &&;
 };
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

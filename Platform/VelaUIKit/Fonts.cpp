@@ -5,7 +5,7 @@
 
 #include "Platform/Commons/FatalError.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 namespace {
 
@@ -57,4 +57,4 @@ void FontRegistrar::registerBundledFonts() {
     (void)registered;
 }
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

@@ -5,7 +5,7 @@
 
 #include "Platform/Graphics/Font.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 // The default font's weight options, by number.
 enum class FontOption { regular = 0, medium = 1, bold = 2 };
@@ -29,4 +29,4 @@ public:
     static void registerBundledFonts();
 };
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

@@ -1,6 +1,6 @@
 #include "Platform/VelaUIKit/HostingControllers.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 void addHostingController(uikit::UIViewController& parent, const std::shared_ptr<hosting::UIHostingController>& controller,
                           uikit::UIView* container) {
@@ -10,4 +10,4 @@ void addHostingController(uikit::UIViewController& parent, const std::shared_ptr
     controller->didMoveToParent(&parent);
 }
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

@@ -5,10 +5,10 @@
 
 #include "Platform/Hosting/UIHostingController.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 // Makes `controller` a child of `parent` whose view fills `container`; null means the parent's own view.
 void addHostingController(uikit::UIViewController& parent, const std::shared_ptr<hosting::UIHostingController>& controller,
                           uikit::UIView* container = nullptr);
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

@@ -5,7 +5,7 @@
 #include "Platform/LumoKit/ResourceBundle.hpp"
 #include "Platform/VelaUIKit/Colors.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 std::shared_ptr<uikit::UINavigationController> embedInNavController(const std::shared_ptr<uikit::UIViewController>& controller) {
     auto navigation = uikit::UINavigationController::create(controller);
@@ -23,4 +23,4 @@ uikit::UIBarButtonItem barButtonItem(BarButtonStyle style) {
     return item;
 }
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

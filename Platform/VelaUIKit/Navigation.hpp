@@ -5,7 +5,7 @@
 
 #include "Platform/UIKit/Controllers/UINavigationController.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 // The controller in a navigation controller of its own, whose bar has the page's background and texts' colour.
 std::shared_ptr<uikit::UINavigationController> embedInNavController(const std::shared_ptr<uikit::UIViewController>& controller);
@@ -25,4 +25,4 @@ uikit::UIBarButtonItem barButtonItem(BarButtonStyle style, const std::weak_ptr<T
     return item;
 }
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

@@ -3,7 +3,7 @@
 
 #include "Platform/UIKit/Views/UITraitCollection.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 enum class Theme { dark = 0, light = 1 };
 
@@ -11,4 +11,4 @@ inline Theme theme(const uikit::UITraitCollection& traits) {
     return traits.userInterfaceStyle == graphics::ColorScheme::dark ? Theme::dark : Theme::light;
 }
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

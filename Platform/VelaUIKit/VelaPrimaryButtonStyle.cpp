@@ -5,7 +5,7 @@
 #include "Platform/VelaUIKit/Colors.hpp"
 #include "Platform/VelaUIKit/Fonts.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 using namespace swiftui;
 
@@ -25,4 +25,4 @@ const std::shared_ptr<const ButtonStyle>& VelaPrimaryButtonStyle::rounded() {
     return style;
 }
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

@@ -3,7 +3,7 @@
 
 #include "Platform/SwiftUI/Views/ButtonStyle.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 // Fills the size it is offered with the accent, the label in its middle. Answers a finger by dimming and shrinking a little.
 class VelaPrimaryButtonStyle final : public swiftui::ButtonStyle {
@@ -19,4 +19,4 @@ private:
     double m_cornerRadius; // points; infinity for fully rounded ends
 };
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

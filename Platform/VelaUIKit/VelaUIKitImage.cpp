@@ -3,7 +3,7 @@
 #include "Platform/Host/NamedImage.hpp"
 #include "Platform/LumoKit/ResourceBundle.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 const graphics::ImageRef& VelaUIKitImage::marwickFolioWithProBadge() {
     static const graphics::ImageRef image = host::namedImage("marwickFolioWithProBadge", lumokit::resourceBundle());
@@ -15,4 +15,4 @@ const graphics::ImageRef& VelaUIKitImage::inAppMessageCloseIcon() {
     return image;
 }
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

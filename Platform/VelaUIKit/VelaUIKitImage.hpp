@@ -3,7 +3,7 @@
 
 #include "Platform/Graphics/Image.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 class VelaUIKitImage {
 public:
@@ -15,4 +15,4 @@ public:
     static const graphics::ImageRef& inAppMessageCloseIcon();
 };
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

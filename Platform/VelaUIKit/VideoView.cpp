@@ -5,7 +5,7 @@
 
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 VideoView::VideoView() { setUserInteractionEnabled(false); }
 
@@ -53,4 +53,4 @@ void VideoView::describe(accessibility::Node& node, const graphics::PaintState&)
     if (const host::ClipFrame frame = m_playback->currentFrame(); frame.picture) node.clipView->time_s = frame.time_s;
 }
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

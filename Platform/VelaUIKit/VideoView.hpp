@@ -9,7 +9,7 @@
 #include "Platform/UIKit/Views/UIView.hpp"
 #include "Platform/VelaUIKit/ClipPlayback.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 // Shows nothing without a file, with a missing one or with one that cannot be played, and until it is told to play. Costs nothing
 // while it is not painted. The picture keeps its shape and fits in; it fills the view, cut at the edges, when the view clips to its
@@ -41,4 +41,4 @@ private:
     mutable std::optional<std::uint64_t> m_lastPaint; // the window's count when this view was painted last
 };
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

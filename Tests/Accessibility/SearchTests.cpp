@@ -3,7 +3,7 @@
 
 #include "Platform/Accessibility/Search.hpp"
 
-namespace accessibility {
+namespace proupsells::accessibility {
 namespace {
 
 using ::testing::ElementsAre;
@@ -86,4 +86,4 @@ TEST(ControlsNamed, AreTheInnermostOnes) { EXPECT_THAT(identifiersOf(controlsNam
 TEST(ControlsNamed, AreNotFoundByAnEmptyName) { EXPECT_THAT(controlsNamed(screen(), ""), IsEmpty()); }
 
 } // namespace
-} // namespace accessibility
+} // namespace proupsells::accessibility

@@ -4,6 +4,8 @@
 
 #include "Platform/Combine/AnyCancellable.hpp"
 
+using namespace proupsells;
+
 using combine::AnyCancellable;
 
 namespace {

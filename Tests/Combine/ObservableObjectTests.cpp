@@ -6,6 +6,8 @@
 
 #include "Platform/Combine/ObservableObject.hpp"
 
+using namespace proupsells;
+
 using combine::ObservableObject;
 using combine::Published;
 using combine::WillChange;

@@ -9,6 +9,8 @@
 #include "Platform/Combine/PassthroughSubject.hpp"
 #include "Tests/Support/AllocationCounter.hpp"
 
+using namespace proupsells;
+
 using combine::AnyCancellable;
 using combine::PassthroughSubject;
 using testing::ElementsAre;

@@ -9,6 +9,8 @@
 
 #include "Platform/Combine/PassthroughSubject.hpp"
 
+using namespace proupsells;
+
 namespace {
 
 class Chaos {

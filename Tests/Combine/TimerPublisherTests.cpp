@@ -6,6 +6,8 @@
 #include "Platform/Combine/TimerPublisher.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
+using namespace proupsells;
+
 using combine::AnyCancellable;
 using combine::TimerPublisher;
 using testing::ElementsAre;

@@ -3,6 +3,8 @@
 #include "Platform/Commons/DefaultLogger.hpp"
 #include "Tests/Support/LogRecorder.hpp"
 
+using namespace proupsells;
+
 using commons::DefaultLogger;
 using commons::LogRecord;
 using testing::ElementsAre;

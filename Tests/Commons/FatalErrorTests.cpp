@@ -4,6 +4,8 @@
 
 #include "Platform/Commons/FatalError.hpp"
 
+using namespace proupsells;
+
 namespace {
 
 TEST(FatalErrorDeathTest, WritesTheMessageAsOneLineAndAborts) {

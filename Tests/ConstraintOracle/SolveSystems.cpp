@@ -8,6 +8,8 @@
 
 #include "Platform/UIKit/Constraints/Solver.hpp"
 
+using namespace proupsells;
+
 using namespace uikit::constraints;
 
 namespace {

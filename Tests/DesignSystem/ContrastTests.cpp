@@ -6,6 +6,8 @@
 #include "Platform/LumoKit/Colors.hpp"
 #include "Platform/VelaUIKit/Colors.hpp"
 
+using namespace proupsells;
+
 namespace {
 
 using graphics::Color;

@@ -8,6 +8,8 @@
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 #include "Platform/VelaUIKit/FlowLayout.hpp"
 
+using namespace proupsells;
+
 using namespace swiftui;
 using geometry::Rect;
 using geometry::Size;

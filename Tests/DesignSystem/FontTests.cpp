@@ -3,6 +3,8 @@
 #include "Platform/LumoKit/TextStyle.hpp"
 #include "Platform/VelaUIKit/Fonts.hpp"
 
+using namespace proupsells;
+
 namespace {
 
 using swiftui::SizeClass;

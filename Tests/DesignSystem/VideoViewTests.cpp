@@ -7,7 +7,7 @@
 #include "Platform/VelaUIKit/VideoView.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
 
-namespace velauikit {
+namespace proupsells::velauikit {
 
 using headless::FakeClipDecoder;
 using testing::ElementsAre;
@@ -243,4 +243,4 @@ TEST_F(VideoViewTest, LetsGoOfItsClipAtItsEnd) {
     EXPECT_EQ(decoder->openCount(), 0);
 }
 
-} // namespace velauikit
+} // namespace proupsells::velauikit

@@ -10,6 +10,8 @@
 #include "Platform/VelaUIKit/Theme.hpp"
 #include "Platform/VelaUIKit/VelaUIKitImage.hpp"
 
+using namespace proupsells;
+
 namespace {
 
 using namespace velauikit;

@@ -9,6 +9,8 @@
 #include "Backends/FFmpeg/LazyClipDecoder.hpp"
 #include "Platform/Commons/DefaultLogger.hpp"
 
+using namespace proupsells;
+
 using namespace ffmpegbackend;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -25,7 +27,8 @@ const std::filesystem::path large = "Tests/FFmpeg/Data/large.mp4";
 class ClipDecoder : public testing::Test {
 protected:
     ClipDecoder() {
-        m_former = commons::DefaultLogger::shared().setSink([this](const commons::LogRecord& record) { complaints.push_back(record.message); });
+        m_former = commons::DefaultLogger::shared().setSink(
+            [this](const commons::LogRecord& record) { complaints.push_back(record.message); });
     }
     ~ClipDecoder() override { commons::DefaultLogger::shared().setSink(m_former); }
 
@@ -91,7 +94,8 @@ TEST_F(ClipDecoder, ShowsTheSameFrameOnEveryWayToATime) {
     const auto walked = decoder.open(counting);
     for (int i = 0; i < 200; ++i) EXPECT_EQ(numberOf(walked->frameAt(i * 0.05)), (i / 2) % 20) << "at " << i * 0.05;
 
-    for (const int tick : {39, 3, 21, 20, 0, 38, 11}) EXPECT_EQ(numberOf(walked->frameAt(tick * 0.05 + 0.01)), tick / 2) << "at tick " << tick;
+    for (const int tick : {39, 3, 21, 20, 0, 38, 11})
+        EXPECT_EQ(numberOf(walked->frameAt(tick * 0.05 + 0.01)), tick / 2) << "at tick " << tick;
 }
 
 TEST_F(ClipDecoder, WalksFromAKeyPictureThatIsFarBeforeTheMoment) {

@@ -8,7 +8,7 @@
 
 #include "Platform/Foundation/Utf8.hpp"
 
-namespace tests {
+namespace proupsells::tests {
 
 // Valid UTF-8 with many of the characters in `favourites` and some from every plane.
 inline rc::Gen<std::string> anyText(const std::string& favourites) {
@@ -32,4 +32,4 @@ inline rc::Gen<std::string> anyBytes() {
          {3, rc::gen::elementOf(std::string("a\x80\xBF\xC2\xC3\xE0\xE2\xED\xEF\xF0\xF4\x9F\xA0\x90\xCC\x81\r\n", 18))}}));
 }
 
-} // namespace tests
+} // namespace proupsells::tests

@@ -7,6 +7,8 @@
 #include "Platform/Foundation/NumberFormatter.hpp"
 #include "Tests/Foundation/LocaleFixture.hpp"
 
+using namespace proupsells;
+
 using foundation::Locale;
 using foundation::LocaleServices;
 using foundation::NumberFormatter;

@@ -7,6 +7,8 @@
 #include "Tests/Support/LogRecorder.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
 
+using namespace proupsells;
+
 using foundation::Bundle;
 using foundation::Locale;
 using foundation::localizedString;

@@ -10,6 +10,8 @@
 #include "Platform/Foundation/Format.hpp"
 #include "Tests/Foundation/AnyText.hpp"
 
+using namespace proupsells;
+
 using foundation::decimalNumber;
 
 namespace {

@@ -7,6 +7,8 @@
 #include "Platform/Foundation/Format.hpp"
 #include "Tests/Foundation/AnyText.hpp"
 
+using namespace proupsells;
+
 using foundation::format;
 
 namespace {

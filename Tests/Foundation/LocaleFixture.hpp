@@ -6,7 +6,7 @@
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Foundation/Locale.hpp"
 
-namespace tests {
+namespace proupsells::tests {
 
 class LocaleFixture : public testing::Test {
 protected:
@@ -17,4 +17,4 @@ protected:
     }
 };
 
-} // namespace tests
+} // namespace proupsells::tests

@@ -1,6 +1,8 @@
 #include "Platform/Foundation/Locale.hpp"
 #include "Tests/Foundation/LocaleFixture.hpp"
 
+using namespace proupsells;
+
 using foundation::Locale;
 using testing::ElementsAre;
 using testing::IsEmpty;

@@ -3,6 +3,8 @@
 #include "Platform/Foundation/ResourceFolder.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
 
+using namespace proupsells;
+
 using foundation::resourceFolder;
 
 namespace {

@@ -8,6 +8,8 @@
 #include "Tests/Foundation/AnyText.hpp"
 #include "Tests/Foundation/Utf16.hpp"
 
+using namespace proupsells;
+
 using foundation::StringsFile;
 using testing::HasSubstr;
 using testing::IsEmpty;

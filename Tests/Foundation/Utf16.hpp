@@ -6,7 +6,7 @@
 
 #include "Platform/Foundation/Utf8.hpp"
 
-namespace tests {
+namespace proupsells::tests {
 
 enum class ByteOrder { littleEndian, bigEndian };
 
@@ -37,4 +37,4 @@ inline std::string byteOrderMark(ByteOrder order) {
     return mark;
 }
 
-} // namespace tests
+} // namespace proupsells::tests

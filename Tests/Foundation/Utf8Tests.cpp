@@ -7,6 +7,8 @@
 #include "Platform/Foundation/Utf8.hpp"
 #include "Tests/Foundation/AnyText.hpp"
 
+using namespace proupsells;
+
 using foundation::appendUtf8;
 using foundation::decodeUtf8;
 using foundation::firstInvalidUtf8;

@@ -8,7 +8,7 @@
 #include "Platform/Geometry/Path.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace geometry {
+namespace proupsells::geometry {
 namespace {
 
 using ::testing::DoubleNear;
@@ -214,4 +214,4 @@ RC_GTEST_PROP(RoundedRectangleShape, ContinuousCornersNeverCutOffMoreThanAFewPer
 }
 
 } // namespace
-} // namespace geometry
+} // namespace proupsells::geometry

@@ -4,7 +4,7 @@
 #include "Platform/Geometry/Geometry.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace geometry {
+namespace proupsells::geometry {
 namespace {
 
 Rect someRect() {
@@ -49,4 +49,4 @@ RC_GTEST_PROP(RectAlgebra, TheUnionContainsWhatEitherContains, ()) {
 }
 
 } // namespace
-} // namespace geometry
+} // namespace proupsells::geometry

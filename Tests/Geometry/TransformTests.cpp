@@ -7,7 +7,7 @@
 #include "Platform/Geometry/Transform.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace geometry {
+namespace proupsells::geometry {
 namespace {
 
 using ::testing::DoubleNear;
@@ -100,4 +100,4 @@ RC_GTEST_PROP(TransformAlgebra, TheMappedRectangleContainsEveryMappedPoint, ()) 
 }
 
 } // namespace
-} // namespace geometry
+} // namespace proupsells::geometry

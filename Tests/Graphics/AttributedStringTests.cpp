@@ -4,7 +4,7 @@
 #include "Platform/Graphics/AttributedString.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 namespace {
 
 using ::testing::ElementsAre;
@@ -57,4 +57,4 @@ TEST(AttributedString, TakesAParagraphStyleOnlyWhereItHasNone) {
 }
 
 } // namespace
-} // namespace graphics
+} // namespace proupsells::graphics

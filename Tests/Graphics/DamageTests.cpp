@@ -9,7 +9,7 @@
 #include "Tests/Graphics/ShapedTexts.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 namespace {
 
 using geometry::Path;
@@ -301,4 +301,4 @@ RC_GTEST_PROP(DamageInvariants, OneChangeAmongManyDamagesNothingElse, ()) {
 }
 
 } // namespace
-} // namespace graphics
+} // namespace proupsells::graphics

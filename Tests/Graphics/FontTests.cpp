@@ -3,7 +3,7 @@
 #include "Platform/Graphics/Font.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 namespace {
 
 TEST(FontRegistry, FindsAFaceByItsName) {
@@ -33,4 +33,4 @@ TEST(FontRegistry, LeavesFacesInPlaceWhenMoreAreAdded) {
 }
 
 } // namespace
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -5,7 +5,7 @@
 #include "Tests/Graphics/ShapedTexts.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 namespace {
 
 using geometry::CornerStyle;
@@ -162,4 +162,4 @@ TEST_F(PaintContextTest, FoldsAMoveIntoTheFrame) {
 }
 
 } // namespace
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -6,7 +6,7 @@
 #include "Platform/Graphics/PaintContext.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 namespace {
 
 using geometry::Point;
@@ -121,4 +121,4 @@ RC_GTEST_PROP(PaintStateComposition, EqualsApplyingEveryStepToThePoint, ()) {
 }
 
 } // namespace
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace graphics {
+namespace proupsells::graphics {
 namespace {
 
 TEST(ScrollIndicator, StandsWhereTheContentStands) {
@@ -23,4 +23,4 @@ TEST(ScrollIndicator, StandsWhereTheContentStands) {
 }
 
 } // namespace
-} // namespace graphics
+} // namespace proupsells::graphics

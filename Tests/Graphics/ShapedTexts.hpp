@@ -7,7 +7,7 @@
 #include "Backends/Headless/FixedTextShaper.hpp"
 #include "Platform/Graphics/TextLayout.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 
 using ShapedTextPointer = std::shared_ptr<const ShapedText>;
 
@@ -58,4 +58,4 @@ inline std::vector<std::string> linesOf(const std::string& text, const TextLayou
     return linesOf(*shapedText, laidOut(*shapedText, request));
 }
 
-} // namespace graphics
+} // namespace proupsells::graphics

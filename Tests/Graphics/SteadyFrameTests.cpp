@@ -8,7 +8,7 @@
 #include "Tests/Support/AllocationCounter.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 namespace {
 
 using geometry::Rect;
@@ -94,4 +94,4 @@ TEST(LargeInputs, AreComparedQuicklyEvenWhenNothingMatches) {
 }
 
 } // namespace
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -6,7 +6,7 @@
 #include "Tests/Graphics/ShapedTexts.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 namespace {
 
 using geometry::LayoutDirection;
@@ -89,7 +89,8 @@ RC_GTEST_PROP(TextLayoutInvariants, TheMeasuredSizeGivesTheSameLines, ()) {
     const TextLayout measured = laidOut(*text, request);
     // With room for less, the last line of a cut text may be lower, and then it is filled with less.
     const auto hasSeveralHeights = [&] {
-        return std::any_of(text->runs.begin(), text->runs.end(), [&](const StyledRun& run) { return run.font != text->runs.front().font; });
+        return std::any_of(text->runs.begin(), text->runs.end(),
+                           [&](const StyledRun& run) { return run.font != text->runs.front().font; });
     };
     if (measured.isTruncated && hasSeveralHeights()) return;
     if (measured.size.width > *request.width + 1e-6) return; // a single character had no room; with room, lines may be joined
@@ -172,4 +173,4 @@ RC_GTEST_PROP(VisualOrder, EqualsTurningEveryLevelRound, ()) {
 }
 
 } // namespace
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -4,7 +4,7 @@
 #include "Tests/Graphics/ShapedTexts.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 namespace {
 
 using ::testing::DoubleEq;
@@ -235,4 +235,4 @@ TEST(TextLayout, KeepsNothingOfAnEarlierLayout) {
 }
 
 } // namespace
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -5,7 +5,7 @@
 #include "Tests/Graphics/ShapedTexts.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace graphics {
+namespace proupsells::graphics {
 namespace {
 
 using geometry::LayoutDirection;
@@ -117,4 +117,4 @@ TEST_F(TextPaintingTest, PaintsNothingForAnEmptyText) {
 }
 
 } // namespace
-} // namespace graphics
+} // namespace proupsells::graphics

@@ -6,7 +6,7 @@
 #include "Platform/Foundation/Locale.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace headless {
+namespace proupsells::headless {
 namespace {
 
 using geometry::LayoutDirection;
@@ -186,4 +186,4 @@ RC_GTEST_PROP(FixedTextShaperInvariants, ClustersTileTheText, ()) {
 }
 
 } // namespace
-} // namespace headless
+} // namespace proupsells::headless

@@ -7,7 +7,7 @@
 #include "Backends/Headless/ImageSizeReader.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace headless {
+namespace proupsells::headless {
 namespace {
 
 using geometry::Size;
@@ -92,4 +92,4 @@ RC_GTEST_PROP(SvgSizeInvariants, SurvivesWhateverItIsGivenAndNeverAnswersWithASi
 }
 
 } // namespace
-} // namespace headless
+} // namespace proupsells::headless

@@ -5,7 +5,7 @@
 #include "Platform/Graphics/PaintContext.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace headless {
+namespace proupsells::headless {
 namespace {
 
 using geometry::Rect;
@@ -59,4 +59,4 @@ TEST(RecordingSurface, RepaintsEverythingAtANewSizeOrScale) {
 }
 
 } // namespace
-} // namespace headless
+} // namespace proupsells::headless

@@ -5,7 +5,7 @@
 #include "Tests/Support/FailOnUnexpectedLog.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace headless {
+namespace proupsells::headless {
 namespace {
 
 using commons::DefaultLogger;
@@ -110,4 +110,4 @@ TEST(TestBed, ReportsRecordsThatNobodyTook) {
 }
 
 } // namespace
-} // namespace headless
+} // namespace proupsells::headless

@@ -5,7 +5,7 @@
 #include "Backends/Headless/FixedTextShaper.hpp"
 #include "Platform/Host/Services.hpp"
 
-namespace host {
+namespace proupsells::host {
 namespace {
 
 Services servicesWithShaper() { return {.textShaper = std::make_shared<headless::FixedTextShaper>()}; }
@@ -93,4 +93,4 @@ TEST(Installation, WithoutLocaleServicesBringsTheBuiltInOnes) {
 }
 
 } // namespace
-} // namespace host
+} // namespace proupsells::host

@@ -5,7 +5,7 @@
 #include "Tests/Support/AllocationCounter.hpp"
 #include "Tests/Support/FailOnUnexpectedLog.hpp"
 
-namespace host {
+namespace proupsells::host {
 namespace {
 
 using geometry::LayoutDirection;
@@ -111,4 +111,4 @@ TEST(SharedTextCache, IsEmptiedWithEveryChangeOfServices) {
 }
 
 } // namespace
-} // namespace host
+} // namespace proupsells::host

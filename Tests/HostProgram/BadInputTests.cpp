@@ -4,7 +4,9 @@
 
 #include "Tests/HostProgram/Program.hpp"
 
-using namespace hostprogram;
+using namespace proupsells;
+
+using namespace tests;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -67,7 +69,8 @@ INSTANTIATE_TEST_SUITE_P(
                     "\"monthlyEffectivePrice\" is missing"},
         BadScenario{"KeyOfAnotherType", option(R"({"SKU": "a", "type": "lifetime", "price": "1", "introductoryPrice": "1"})"),
                     "/offers/options/0/introductoryPrice", "unknown key"},
-        BadScenario{"PriceIsNoText", option(R"({"SKU": "a", "type": "monthly", "price": 1})"), "/offers/options/0/price", "the number 1"},
+        BadScenario{"PriceIsNoText", option(R"({"SKU": "a", "type": "monthly", "price": 1})"), "/offers/options/0/price",
+                    "the number 1"},
         BadScenario{"ElementIdTooLarge", offers(R"({"options": [], "referrer": {"name": "a", "elementID": 9223372036854775808}})"),
                     "/offers/referrer/elementID", "64 bits"},
         BadScenario{"ElementIdWithFraction", offers(R"({"options": [], "referrer": {"name": "a", "elementID": 1.5}})"),
@@ -90,7 +93,8 @@ INSTANTIATE_TEST_SUITE_P(
         BadScenario{"SetNothing", step(R"({"set": {}})"), "/steps/0/set", "at least one"},
         BadScenario{"SetUnknown", step(R"({"set": {"a/b~c": 1}})"), "/steps/0/set/a~1b~0c", "unknown key"},
         BadScenario{"SnapshotInAFolder", step(R"({"snapshot": "../x.png"})"), "/steps/0/snapshot", "plain file name"},
-        BadScenario{"ExpectWithoutIdentifier", step(R"({"expect": {"label": "x"}})"), "/steps/0/expect", "\"identifier\" is missing"},
+        BadScenario{"ExpectWithoutIdentifier", step(R"({"expect": {"label": "x"}})"), "/steps/0/expect",
+                    "\"identifier\" is missing"},
         BadScenario{"LaterStepIsBad", step(R"({"snapshot": "x.png"}, {"wait": "long"})"), "/steps/1/wait", "a text"}),
     [](const auto& info) { return std::string(info.param.name); });
 
@@ -145,9 +149,15 @@ TEST(HostProgram, NamesTheOffersFileThatIsBad) {
 }
 
 TEST(HostProgram, RefusesUnknownArguments) {
-    for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
-             {}, {"fly"}, {"run"}, {"run", "a.json", "--speed", "2"}, {"show", "--size", "wide"}, {"show", "--size", "375x"},
-             {"show", "--appearance", "blue"}, {"show", "--start", "end"}, {"show", "--safe-area", "1,2,3"}}) {
+    for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{{},
+                                                                                           {"fly"},
+                                                                                           {"run"},
+                                                                                           {"run", "a.json", "--speed", "2"},
+                                                                                           {"show", "--size", "wide"},
+                                                                                           {"show", "--size", "375x"},
+                                                                                           {"show", "--appearance", "blue"},
+                                                                                           {"show", "--start", "end"},
+                                                                                           {"show", "--safe-area", "1,2,3"}}) {
         SCOPED_TRACE(testing::PrintToString(arguments));
 
         const Outcome outcome = runProgram(arguments);

@@ -8,7 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace hostprogram {
+namespace proupsells::tests {
 
 namespace {
 
@@ -20,8 +20,10 @@ std::string bytesOf(const std::filesystem::path& file) {
 std::string quoted(const std::string& argument) {
     std::string result = "'";
     for (const char c : argument) {
-        if (c == '\'') result += "'\\''";
-        else result += c;
+        if (c == '\'')
+            result += "'\\''";
+        else
+            result += c;
     }
     return result + "'";
 }
@@ -58,7 +60,8 @@ std::vector<std::string> Outcome::errorLines() const { return lines(errors); }
 
 Folder::Folder() {
     static std::atomic<int> count = 0;
-    m_path = std::filesystem::temp_directory_path() / ("proupsells-test-" + std::to_string(getpid()) + "-" + std::to_string(count++));
+    m_path =
+        std::filesystem::temp_directory_path() / ("proupsells-test-" + std::to_string(getpid()) + "-" + std::to_string(count++));
     std::filesystem::create_directories(m_path);
 }
 
@@ -120,4 +123,4 @@ std::vector<std::string> texts(const Json& root) {
     return result;
 }
 
-} // namespace hostprogram
+} // namespace proupsells::tests

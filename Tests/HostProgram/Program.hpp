@@ -7,7 +7,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace hostprogram {
+namespace proupsells::tests {
 
 using Json = nlohmann::json;
 
@@ -48,4 +48,4 @@ Json find(const Json& root, const std::string& identifier);
 // The texts of all nodes of a dumped screen, in the tree's order.
 std::vector<std::string> texts(const Json& root);
 
-} // namespace hostprogram
+} // namespace proupsells::tests

@@ -4,7 +4,9 @@
 
 #include "Tests/HostProgram/Program.hpp"
 
-using namespace hostprogram;
+using namespace proupsells;
+
+using namespace tests;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -57,8 +59,8 @@ TEST(Scenario, SubscribingTellsTheDelegateThenTheTracker) {
     const Outcome outcome = play(scenario(R"([{"tap": {"identifier": "subscribe"}}])"));
 
     EXPECT_THAT(story(outcome), ElementsAre("present VelaProUpsellViewController", "tracker trackUpsellViewed",
-                                            "delegate proUpsellViewController(_:didContinueWith:)", "tracker trackSubscriptionOptionSelected",
-                                            "tracker trackPurchaseTapped"));
+                                            "delegate proUpsellViewController(_:didContinueWith:)",
+                                            "tracker trackSubscriptionOptionSelected", "tracker trackPurchaseTapped"));
     EXPECT_EQ(outcome.events("delegate")[0]["option"], Json::parse(R"({"SKU": "pro.yearly", "type": "yearly", "price": "$99.99",
         "monthlyEffectivePrice": "$8.33", "introductoryPrice": null, "introductoryPeriodLength": "1 week", "hasUsedFreeTrial": false})"));
     EXPECT_EQ(outcome.events("tracker")[2]["option"]["SKU"], "pro.yearly");
@@ -77,7 +79,8 @@ TEST(Scenario, APickedPlanIsTheOneThatIsBought) {
 }
 
 TEST(Scenario, EveryLinkTellsTheDelegateThenTheTracker) {
-    const Outcome outcome = play(scenario(R"([{"tap": "Terms of Service"}, {"tap": "Privacy Policy"}, {"tap": "Restore Purchases"}])"));
+    const Outcome outcome =
+        play(scenario(R"([{"tap": "Terms of Service"}, {"tap": "Privacy Policy"}, {"tap": "Restore Purchases"}])"));
 
     const auto lines = story(outcome);
     EXPECT_THAT(std::vector<std::string>(lines.begin() + 2, lines.end()),
@@ -89,15 +92,16 @@ TEST(Scenario, EveryLinkTellsTheDelegateThenTheTracker) {
 TEST(Scenario, ClosingIsTrackedAndDismisses) {
     const Outcome outcome = play(scenario(R"([{"tap": {"identifier": "close"}}, {"dump": "screen"}])"));
 
-    EXPECT_THAT(story(outcome), ElementsAre("present VelaProUpsellViewController", "tracker trackUpsellViewed", "tracker trackUpsellDismissed",
-                                            "dismiss VelaProUpsellViewController", "screen"));
+    EXPECT_THAT(story(outcome), ElementsAre("present VelaProUpsellViewController", "tracker trackUpsellViewed",
+                                            "tracker trackUpsellDismissed", "dismiss VelaProUpsellViewController", "screen"));
     EXPECT_EQ(outcome.events("screen")[0]["controller"], "HostViewController");
 }
 
 TEST(Scenario, WithoutDelegateAndTrackerEveryTapIsSilent) {
-    const Outcome outcome = play(scenario(R"([{"tap": {"identifier": "subscribe"}}, {"tap": "Terms of Service"}, {"send": "restorePurchases"},
+    const Outcome outcome =
+        play(scenario(R"([{"tap": {"identifier": "subscribe"}}, {"tap": "Terms of Service"}, {"send": "restorePurchases"},
         {"send": "cancel"}])",
-                                          R"({"tracker": false, "delegate": false})"));
+                      R"({"tracker": false, "delegate": false})"));
 
     EXPECT_THAT(story(outcome), ElementsAre("present VelaProUpsellViewController", "dismiss VelaProUpsellViewController"));
 }
@@ -111,11 +115,13 @@ TEST(Scenario, WhoIsReleasedIsNotCalledAnyMore) {
 }
 
 TEST(Scenario, AnExpectationThatFailsIsNamedAndCounted) {
-    const Outcome outcome = play(scenario(R"([{"expect": {"identifier": "subscribe", "label": "Buy"}}, {"tap": "Terms of Service"}])"));
+    const Outcome outcome =
+        play(scenario(R"([{"expect": {"identifier": "subscribe", "label": "Buy"}}, {"tap": "Terms of Service"}])"));
 
     EXPECT_EQ(outcome.status, 1);
     ASSERT_THAT(outcome.errorLines(), SizeIs(1));
-    EXPECT_THAT(outcome.errors, HasSubstr("/steps/0/expect: \"subscribe\": its label is \"Start Your Free Trial\", expected \"Buy\""));
+    EXPECT_THAT(outcome.errors,
+                HasSubstr("/steps/0/expect: \"subscribe\": its label is \"Start Your Free Trial\", expected \"Buy\""));
     EXPECT_THAT(outcome.events("delegate"), SizeIs(1));
 }
 
@@ -130,7 +136,8 @@ TEST(Scenario, ATapThatMatchesNothingEndsTheRunAndListsTheControls) {
 
 TEST(Scenario, ATapThatMatchesTwoControlsEndsTheRun) {
     Json twice = scenario(R"([{"tap": {"identifier": "plan.a"}}])");
-    twice["offers"] = Json::parse(R"({"options": [{"SKU": "a", "type": "monthly", "price": "1"}, {"SKU": "a", "type": "monthly", "price": "2"}]})");
+    twice["offers"] = Json::parse(
+        R"({"options": [{"SKU": "a", "type": "monthly", "price": "1"}, {"SKU": "a", "type": "monthly", "price": "2"}]})");
 
     const Outcome outcome = play(twice);
 
@@ -139,7 +146,8 @@ TEST(Scenario, ATapThatMatchesTwoControlsEndsTheRun) {
 }
 
 TEST(Scenario, OffersWithoutAnyPlanAreLoggedAndShown) {
-    Json empty = scenario(R"([{"expect": {"identifier": "subscribe", "traits": ["button", "disabled"]}}, {"expect": {"absent": "disclaimer"}}])");
+    Json empty = scenario(
+        R"([{"expect": {"identifier": "subscribe", "traits": ["button", "disabled"]}}, {"expect": {"absent": "disclaimer"}}])");
     empty["offers"] = Json::parse(R"({"options": [{"SKU": "f", "type": "lifetime", "price": "1"}]})");
 
     const Outcome outcome = play(empty);
@@ -164,8 +172,10 @@ TEST(Scenario, ChangedPricesAreShown) {
 
 TEST(Scenario, TranslationsComeFromTheHostsFolder) {
     const Folder folder;
-    folder.write("de.lproj/Localizable.strings", std::string("\"Annually\" = \"J\u00e4hrlich\";\n\"Subscribe Now\" = \"Jetzt abonnieren\";"));
-    Json german = scenario(R"([{"tap": {"identifier": "plan.pro.monthly"}}, {"expect": {"identifier": "subscribe", "label": "Jetzt abonnieren"}},
+    folder.write("de.lproj/Localizable.strings",
+                 std::string("\"Annually\" = \"J\u00e4hrlich\";\n\"Subscribe Now\" = \"Jetzt abonnieren\";"));
+    Json german = scenario(
+        R"([{"tap": {"identifier": "plan.pro.monthly"}}, {"expect": {"identifier": "subscribe", "label": "Jetzt abonnieren"}},
         {"dump": "screen"}])");
     german["device"] = {{"locale", "de_AT"}, {"strings", folder.path().string()}};
 
@@ -190,7 +200,8 @@ TEST(Scenario, SnapshotsHaveThePixelsOfTheDevice) {
 }
 
 TEST(Scenario, TheSameRunPrintsTheSameBytes) {
-    const Json once = scenario(R"([{"wait": 7.3}, {"dump": "screen"}, {"drag": {"from": [187, 600], "to": [187, 200], "duration": 0.2}},
+    const Json once =
+        scenario(R"([{"wait": 7.3}, {"dump": "screen"}, {"drag": {"from": [187, 600], "to": [187, 200], "duration": 0.2}},
         {"wait": 0.1}, {"dump": "screen"}])");
 
     EXPECT_EQ(play(once).output, play(once).output);

@@ -4,7 +4,7 @@
 #include "Platform/SwiftUI/Views/Button.hpp"
 #include "Platform/SwiftUI/Views/ScrollView.hpp"
 
-namespace hosting {
+namespace proupsells::hosting {
 namespace {
 
 using geometry::Rect;
@@ -329,4 +329,4 @@ TEST_F(HostingTest, AnimatesWhileTheTreeMoves) {
 }
 
 } // namespace
-} // namespace hosting
+} // namespace proupsells::hosting

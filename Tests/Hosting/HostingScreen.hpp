@@ -11,7 +11,7 @@
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 #include "Tests/Support/FailOnUnexpectedLog.hpp"
 
-namespace hosting {
+namespace proupsells::hosting {
 
 using Calls = std::vector<std::string>;
 
@@ -57,4 +57,4 @@ private:
     accessibility::Node m_tree;
 };
 
-} // namespace hosting
+} // namespace proupsells::hosting

@@ -5,7 +5,7 @@
 #include "Platform/UIKit/Controls/UIButton.hpp"
 #include "Platform/UIKit/Controls/UIPageControl.hpp"
 
-namespace hosting {
+namespace proupsells::hosting {
 namespace {
 
 using geometry::Rect;
@@ -265,4 +265,4 @@ TEST_F(HostingTest, ActionsWithoutATargetGoOnInTheRetainedLayer) {
 }
 
 } // namespace
-} // namespace hosting
+} // namespace proupsells::hosting

@@ -4,7 +4,7 @@
 #include "Platform/UIKit/Controls/UIPageControl.hpp"
 #include "Tests/Support/AllocationCounter.hpp"
 
-namespace hosting {
+namespace proupsells::hosting {
 namespace {
 
 using namespace swiftui;
@@ -44,4 +44,4 @@ TEST_F(HostingTest, ASteadyFrameOfATreeInAWindowAllocatesNothing) {
 }
 
 } // namespace
-} // namespace hosting
+} // namespace proupsells::hosting

@@ -8,6 +8,8 @@
 #include "Backends/Icu/IcuLocaleServices.hpp"
 #include "Platform/Foundation/Locale.hpp"
 
+using namespace proupsells;
+
 using foundation::Locale;
 using geometry::LayoutDirection;
 using icubackend::IcuLocaleServices;

@@ -11,6 +11,8 @@
 #include "Platform/Foundation/Utf8.hpp"
 #include "Tests/Foundation/AnyText.hpp"
 
+using namespace proupsells;
+
 using foundation::BuiltInLocaleServices;
 using foundation::Locale;
 using icubackend::IcuLocaleServices;

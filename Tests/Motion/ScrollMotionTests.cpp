@@ -6,6 +6,8 @@
 
 #include "Platform/Motion/ScrollMotion.hpp"
 
+using namespace proupsells;
+
 using motion::Deceleration;
 using motion::rubberBanded;
 using motion::ScrollRange;

@@ -6,6 +6,8 @@
 
 #include "Platform/Motion/TimingCurve.hpp"
 
+using namespace proupsells;
+
 using motion::Animation;
 using motion::TimingCurve;
 

@@ -2,6 +2,8 @@
 
 #include "Platform/Motion/VelocityTracker.hpp"
 
+using namespace proupsells;
+
 using motion::VelocityTracker;
 
 namespace {

@@ -5,7 +5,7 @@
 #include "Tests/ProUpsells/HostTranslations.hpp"
 #include "Tests/ProUpsells/Offers.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 std::string disclaimer(const SubscriptionOption& option, std::vector<SubscriptionOption> options = {}) {
@@ -72,4 +72,4 @@ TEST(CallToActionTexts, ComeFromTheHostsTranslations) {
 }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

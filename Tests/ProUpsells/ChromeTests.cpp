@@ -11,7 +11,7 @@
 #include "ProUpsells/SubscribeButton.hpp"
 #include "Tests/ProUpsells/Screen.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 using geometry::Rect;
@@ -154,4 +154,4 @@ TEST(InfoButton, PutsItsImageAfterItsText) {
 }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

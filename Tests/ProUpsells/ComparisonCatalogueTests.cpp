@@ -5,7 +5,7 @@
 #include "Tests/ProUpsells/HostTranslations.hpp"
 #include "Tests/ProUpsells/StubLocaleServices.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 using ::testing::ElementsAre;
@@ -101,4 +101,4 @@ TEST(ComparisonCatalogue, CountsFreeUses) {
 }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

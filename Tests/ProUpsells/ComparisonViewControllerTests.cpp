@@ -5,7 +5,7 @@
 #include "Platform/UIKit/Controllers/UINavigationController.hpp"
 #include "Tests/ProUpsells/Screen.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 using ::testing::ElementsAre;
@@ -114,4 +114,4 @@ TEST_F(ComparisonController, SurvivesADelegateThatPresentsAgainFromInsideACall) 
 }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

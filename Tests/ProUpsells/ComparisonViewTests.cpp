@@ -6,7 +6,7 @@
 #include "Tests/ProUpsells/FixedMetrics.hpp"
 #include "Tests/ProUpsells/Screen.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 using geometry::Point;
@@ -332,4 +332,4 @@ TEST(ScaledRect, KeepsAShareOfTheHeight) {
 }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

@@ -3,6 +3,8 @@
 
 #include "Backends/Headless/TestBed.hpp"
 
+using namespace proupsells;
+
 namespace {
 
 class FailOnUnexpectedLogs : public ::testing::Environment {

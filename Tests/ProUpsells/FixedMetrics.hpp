@@ -9,7 +9,7 @@
 
 #include "Platform/Accessibility/Node.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 // A text's user-perceived characters, as far as one code point is one.
 inline std::size_t characterCount(const std::string& text) {
@@ -49,4 +49,4 @@ inline std::vector<std::string> brokenWords(const accessibility::Node& node) {
     return result;
 }
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

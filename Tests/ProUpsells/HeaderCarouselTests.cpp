@@ -5,7 +5,7 @@
 #include "ProUpsells/ImageResource.hpp"
 #include "Tests/ProUpsells/Screen.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 using geometry::Point;
@@ -225,4 +225,4 @@ TEST(HeaderCarousel, StopsItsTimerWhenItGoesAway) {
 TEST(HeaderCarouselDeathTest, StopsTheProgramWithoutPages) { EXPECT_DEATH(Carousel(0), "no pages"); }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

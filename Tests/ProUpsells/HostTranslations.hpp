@@ -12,7 +12,7 @@
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Foundation/Locale.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 // The host's bundle holds these texts, for the language that is set meanwhile; afterwards it holds none and English is set.
 class HostTranslations {
@@ -40,4 +40,4 @@ private:
     std::filesystem::path m_folder;
 };
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

@@ -6,7 +6,7 @@
 #include "ProUpsells/ColorResource.hpp"
 #include "ProUpsells/ResourceBundleClass.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 TEST(ImageResource, IsEqualByNameAndBundle) {
@@ -69,4 +69,4 @@ TEST(ImageResourceDeathTest, StopsTheProgramWhereThereIsNoSuchAsset) {
 }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

@@ -9,7 +9,7 @@
 #include "ProUpsells/ProUpsellEventTracker.hpp"
 #include "ProUpsells/VelaProUpsellViewControllerDelegate.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 // Calls in the order in which they came, as "operation(arguments)".
 using Ledger = std::vector<std::string>;
@@ -86,4 +86,4 @@ private:
     Ledger& m_ledger;
 };
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

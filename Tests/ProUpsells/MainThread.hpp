@@ -5,11 +5,11 @@
 
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 struct MainThread {
     std::shared_ptr<runloop::VirtualClock> clock = std::make_shared<runloop::VirtualClock>();
     runloop::MainRunLoop loop{clock};
 };
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

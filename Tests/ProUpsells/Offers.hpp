@@ -7,7 +7,7 @@
 
 #include "ProUpsells/SubscriptionOption.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 struct PlanDetails {
     std::optional<std::string> introductoryPeriodLength;
@@ -38,4 +38,4 @@ inline std::vector<std::string> identifiers(const std::vector<SubscriptionOption
     return result;
 }
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

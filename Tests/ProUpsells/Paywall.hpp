@@ -9,7 +9,7 @@
 #include "Tests/ProUpsells/Offers.hpp"
 #include "Tests/ProUpsells/Screen.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 using TapEvent = UpsellViewModel::TapEvent;
 
@@ -44,4 +44,4 @@ public:
         : PaywallModel(std::move(options)), Screen(root(), size, screenOptions) {}
 };
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

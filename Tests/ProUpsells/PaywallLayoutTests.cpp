@@ -4,7 +4,7 @@
 #include "Tests/ProUpsells/FixedMetrics.hpp"
 #include "Tests/ProUpsells/Paywall.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 using geometry::Rect;
@@ -225,4 +225,4 @@ TEST(PaywallLayout, PutsTheTrialUnderTheTitleWhereTheyDoNotFitBesideEachOther) {
 }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

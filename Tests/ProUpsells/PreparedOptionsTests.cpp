@@ -7,7 +7,7 @@
 
 #include "Tests/ProUpsells/Offers.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 using ::testing::ElementsAre;
@@ -43,4 +43,4 @@ TEST(PreparedOptions, AreTheYearlyOnesThenTheMonthlyOnesOfAnyList) {
 }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

@@ -9,7 +9,7 @@
 #include "ProUpsells/RadioPickerSelectionIndicator.hpp"
 #include "Tests/ProUpsells/Screen.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 using geometry::Rect;
@@ -222,4 +222,4 @@ TEST(FreeTrialCapsule, StandsInACapsuleAroundItsText) {
 }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

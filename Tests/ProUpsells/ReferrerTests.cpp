@@ -5,7 +5,7 @@
 #include "ProUpsells/Entitlement.hpp"
 #include "ProUpsells/Version.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 using namespace std::string_literals;
@@ -62,4 +62,4 @@ TEST(Version, CanBeReadFromTheBinary) {
 }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

@@ -14,7 +14,7 @@
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 #include "Tests/ProUpsells/SemanticSearch.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 struct ScreenOptions {
     geometry::PhysicalInsets safeArea;
@@ -41,8 +41,8 @@ public:
     }
 
     accessibility::Node tree() const { return m_window->semanticTree(); }
-    accessibility::Node find(std::string_view identifier) const { return testing::find(tree(), identifier); }
-    bool has(std::string_view identifier) const { return testing::has(tree(), identifier); }
+    accessibility::Node find(std::string_view identifier) const { return tests::find(tree(), identifier); }
+    bool has(std::string_view identifier) const { return tests::has(tree(), identifier); }
     geometry::Rect frame(std::string_view identifier) const { return find(identifier).frame; }
     geometry::Rect frameOfType(std::string_view type) const { return firstOfType(tree(), type).frame; }
     // The identifiers of the controls that are marked.
@@ -75,4 +75,4 @@ private:
     std::shared_ptr<uikit::UIWindow> m_window;
 };
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

@@ -9,7 +9,7 @@
 
 #include "Platform/Accessibility/Node.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 inline void visit(const accessibility::Node& node, const std::function<void(const accessibility::Node&)>& visitor) {
     visitor(node);
@@ -55,4 +55,4 @@ inline std::vector<std::string> texts(const accessibility::Node& root) {
     return result;
 }
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

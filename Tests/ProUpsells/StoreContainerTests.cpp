@@ -12,7 +12,7 @@
 #include "ProUpsells/VerticallyStackedContainerViewController.hpp"
 #include "Tests/ProUpsells/StoreScreen.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 namespace {
 
@@ -74,8 +74,8 @@ TEST_F(StoreContainer, SetsTheHeadlineOverItsExplanation) {
     // One line of 22 points, then "Add your logos, fonts and color", "palettes to use within your", "projects.".
     EXPECT_EQ(texts->titleLabel()->frame(), (geometry::Rect{{25, 0}, {325, 27.5}}));
     // The longest of them has 31 characters of 8.2 points.
-    EXPECT_THAT(texts->subtitleLabel()->frame(), testing::FrameNear(geometry::Rect{{60.4, 43.5}, {254.2, 3 * 20 + 2 * 9}}));
-    const accessibility::Node title = testing::firstOfType(tree(), "UILabel");
+    EXPECT_THAT(texts->subtitleLabel()->frame(), tests::FrameNear(geometry::Rect{{60.4, 43.5}, {254.2, 3 * 20 + 2 * 9}}));
+    const accessibility::Node title = tests::firstOfType(tree(), "UILabel");
     EXPECT_EQ(title.text->font, "velaDefaultFont");
     EXPECT_EQ(title.text->size, 22);
     EXPECT_EQ(title.text->weight, 2);
@@ -146,14 +146,14 @@ TEST_F(StoreContainer, ShowsTheOtherHeaderToo) {
 
 TEST_F(StoreContainer, PlaysTheClipOfTheAppearance) {
     const auto clip = showClipView<TemplatesVideoView>();
-    EXPECT_EQ(testing::firstOfType(tree(), "VideoView").clipView->name, "StorePageTemplatesVideo");
+    EXPECT_EQ(tests::firstOfType(tree(), "VideoView").clipView->name, "StorePageTemplatesVideo");
 
     setAppearance(graphics::ColorScheme::dark);
-    EXPECT_EQ(testing::firstOfType(tree(), "VideoView").clipView->name, "StorePageTemplatesVideo_dark");
-    EXPECT_TRUE(testing::firstOfType(tree(), "VideoView").clipView->time_s.has_value());
+    EXPECT_EQ(tests::firstOfType(tree(), "VideoView").clipView->name, "StorePageTemplatesVideo_dark");
+    EXPECT_TRUE(tests::firstOfType(tree(), "VideoView").clipView->time_s.has_value());
 
     setAppearance(graphics::ColorScheme::light);
-    EXPECT_EQ(testing::firstOfType(tree(), "VideoView").clipView->name, "StorePageTemplatesVideo");
+    EXPECT_EQ(tests::firstOfType(tree(), "VideoView").clipView->name, "StorePageTemplatesVideo");
     EXPECT_EQ(clip->videoView()->frame(), (geometry::Rect{{0, 0}, {375, 800}}));
 }
 
@@ -162,7 +162,7 @@ TEST_F(StoreContainer, PlaysTheDarkClipFromTheStartWhereItIsDark) {
 
     showClipView<BrandAssetsVideoView>();
 
-    EXPECT_EQ(testing::firstOfType(tree(), "VideoView").clipView->name, "StorePageBrandingVideo_dark");
+    EXPECT_EQ(tests::firstOfType(tree(), "VideoView").clipView->name, "StorePageBrandingVideo_dark");
 }
 
 TEST_F(StoreContainer, CannotComeFromAnArchiveOrHaveAFrameOfItsOwn) {
@@ -175,4 +175,4 @@ TEST_F(StoreContainer, CannotComeFromAnArchiveOrHaveAFrameOfItsOwn) {
     EXPECT_DEATH(TitleSubtitleContainerViewController{coder}, "init\\(coder:\\)");
 }
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

@@ -3,7 +3,7 @@
 #include "ProUpsells/VelaProUpsellViewController.hpp"
 #include "Tests/ProUpsells/StoreScreen.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -80,4 +80,4 @@ TEST_F(StoreEntry, OpensThePageWithoutATrackerToo) {
     EXPECT_THAT(calls, IsEmpty());
 }
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

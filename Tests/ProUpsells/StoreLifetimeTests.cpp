@@ -3,7 +3,7 @@
 
 #include "Tests/ProUpsells/StoreScreen.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 namespace {
 
@@ -110,4 +110,4 @@ TEST_F(StoreLifetime, LeavesNothingBehindAfterAThousandVisits) {
     EXPECT_LT(double(usedMemory()) - double(memoryAfterSomeVisits), 256 * 1024);
 }
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

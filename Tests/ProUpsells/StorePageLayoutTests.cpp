@@ -2,7 +2,7 @@
 #include "ProUpsells/VelaProStoreCell.hpp"
 #include "Tests/ProUpsells/StoreScreen.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 namespace {
 
@@ -71,7 +71,7 @@ TEST_P(StorePageLayout, PutsEveryShelfWhereItBelongs) {
                       (geometry::Rect{{0, y}, {width, row.stripHeights[strip]}}));
             y += row.stripHeights[strip] + 16;
         }
-        const auto labels = testing::allOfType(cell, "UILabel");
+        const auto labels = tests::allOfType(cell, "UILabel");
         ASSERT_EQ(labels.size(), 2u);
         const double titleHeight = column.titleLines[i] * 27.5 + (column.titleLines[i] - 1) * 9;
         EXPECT_EQ(labels[0].frame, (geometry::Rect{{25, y}, {width - 50, titleHeight}}));
@@ -111,7 +111,7 @@ TEST_P(StorePageLayout, PutsPicturesIntoTheStrips) {
     scrollTo(*page, 2300);
     EXPECT_EQ(contentOf("VideoImageLibrariesShelf.0"), (geometry::Rect{{16, 0}, {21 * 1222 + 320, 93}}));
     EXPECT_EQ(contentOf("VideoImageLibrariesShelf.1"), (geometry::Rect{{16, 0}, {25 * 94 + 24 * 16, 167}}));
-    const auto clips = testing::allOfType(find("store.strip.VideoImageLibrariesShelf.1"), "VideoView");
+    const auto clips = tests::allOfType(find("store.strip.VideoImageLibrariesShelf.1"), "VideoView");
     for (const accessibility::Node& clip : clips) EXPECT_EQ(clip.frame.size, (geometry::Size{94, 167}));
 }
 
@@ -157,7 +157,7 @@ TEST_F(StorePageChrome, MirrorsWhereTextRunsFromRightToLeft) {
 
     EXPECT_EQ(frame("store.close"), (geometry::Rect{{375 - 23 - 30, 37}, {30, 30}}));
     const accessibility::Node button = find("store.choosePlan");
-    EXPECT_LT(testing::firstOfType(button, "UIImageView").frame.maxX(), testing::firstOfType(button, "UILabel").frame.minX());
+    EXPECT_LT(tests::firstOfType(button, "UIImageView").frame.maxX(), tests::firstOfType(button, "UILabel").frame.minX());
 }
 
 TEST_F(StorePageChrome, NamesItsColours) {
@@ -188,4 +188,4 @@ TEST_F(StorePageChrome, CanBeScrolledClearOfTheBar) {
     EXPECT_DOUBLE_EQ(page->collectionView()->contentOffset().y, 2708 + 102 - 800);
 }
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

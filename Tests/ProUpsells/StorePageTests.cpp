@@ -8,7 +8,7 @@
 #include "Tests/ProUpsells/HostTranslations.hpp"
 #include "Tests/ProUpsells/StoreScreen.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -223,7 +223,7 @@ TEST_F(StorePage, ShowsNoHeadersOrFooters) {
         EXPECT_EQ(page->collectionViewLayoutReferenceSizeForFooterInSection(list, *list.collectionViewLayout(), section),
                   (geometry::Size{}));
     }
-    EXPECT_THAT(testing::allOfType(tree(), "FooterView"), IsEmpty());
+    EXPECT_THAT(tests::allOfType(tree(), "FooterView"), IsEmpty());
 }
 
 TEST_F(StorePage, CouldFillAFooterIfTheListAskedForOne) {
@@ -239,10 +239,10 @@ TEST_F(StorePage, CouldFillAFooterIfTheListAskedForOne) {
     show(std::make_shared<PageWithFooters>(VelaProStorePageViewController::Shelves{std::make_shared<PlainShelf>(100)},
                                            Referrer{"Home"}, Entitlement::velaPRO));
 
-    const accessibility::Node footer = testing::firstOfType(tree(), "FooterView");
+    const accessibility::Node footer = tests::firstOfType(tree(), "FooterView");
 
     EXPECT_EQ(footer.frame, (geometry::Rect{{0, 3 + 100 + 7}, {375, 120}}));
-    EXPECT_THAT(testing::texts(footer), ElementsAre("Headline", "Explanation"));
+    EXPECT_THAT(tests::texts(footer), ElementsAre("Headline", "Explanation"));
 }
 
 // --- Clips ---
@@ -278,7 +278,7 @@ TEST_F(StorePage, LeavesTheClipShelfEmptyUntilTheTurnAfterLoading) {
     scrollTo(*page, 1900);
 
     EXPECT_TRUE(page->shelves().back()->viewController());
-    const auto clips = testing::allOfType(find("store.strip.VideoImageLibrariesShelf.1"), "VideoView");
+    const auto clips = tests::allOfType(find("store.strip.VideoImageLibrariesShelf.1"), "VideoView");
     ASSERT_THAT(clips, SizeIs(25));
     EXPECT_EQ(clips[0].clipView->name, "90s3D");
     EXPECT_EQ(clips[10].clipView->name, "90s3D");
@@ -290,7 +290,7 @@ TEST_F(StorePage, ShowsItsClipShelfWithoutAnyClips) {
     shelf->createVideosShelf({});
     show(shelf->viewController());
 
-    EXPECT_THAT(testing::allOfType(tree(), "VideoView"), IsEmpty());
+    EXPECT_THAT(tests::allOfType(tree(), "VideoView"), IsEmpty());
     EXPECT_TRUE(has("store.strip.VideoImageLibrariesShelf.1"));
     bed.runUntil(5);
     EXPECT_EQ(stripOffset("store.strip.VideoImageLibrariesShelf.1"), 0);
@@ -366,7 +366,7 @@ TEST_F(StorePage, ReloadsInTheOtherAppearance) {
     scrollTo(*page, 200);
     const auto clipNames = [&] {
         std::vector<std::string> names;
-        for (const auto& node : testing::allOfType(tree(), "VideoView")) names.push_back(node.clipView->name);
+        for (const auto& node : tests::allOfType(tree(), "VideoView")) names.push_back(node.clipView->name);
         return names;
     };
     EXPECT_THAT(clipNames(), ElementsAre("StorePageBrandingVideo", "StorePageTemplatesVideo"));
@@ -375,7 +375,7 @@ TEST_F(StorePage, ReloadsInTheOtherAppearance) {
 
     EXPECT_THAT(clipNames(), ElementsAre("StorePageBrandingVideo_dark", "StorePageTemplatesVideo_dark"));
     EXPECT_EQ(page->collectionView()->contentOffset().y, 200);
-    for (const auto& cell : testing::allOfType(tree(), "VelaProStoreCell")) EXPECT_THAT(cell.children, SizeIs(1));
+    for (const auto& cell : tests::allOfType(tree(), "VelaProStoreCell")) EXPECT_THAT(cell.children, SizeIs(1));
 }
 
 TEST_F(StorePage, KeepsItsStripsRunningOnceThroughAReload) {
@@ -398,8 +398,7 @@ TEST_F(StorePage, SwapsTheClipsOfShelvesThatAreOutOfSightMeanwhile) {
 
     scrollTo(*page, 0);
 
-    EXPECT_EQ(testing::firstOfType(find("store.shelf.BrandAssetsShelf"), "VideoView").clipView->name,
-              "StorePageBrandingVideo_dark");
+    EXPECT_EQ(tests::firstOfType(find("store.shelf.BrandAssetsShelf"), "VideoView").clipView->name, "StorePageBrandingVideo_dark");
 }
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

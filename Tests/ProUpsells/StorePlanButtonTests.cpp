@@ -5,7 +5,7 @@
 #include "Tests/ProUpsells/HostTranslations.hpp"
 #include "Tests/ProUpsells/StoreScreen.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 using Event = uikit::UIControl::Event;
 using ::testing::ElementsAre;
@@ -62,11 +62,11 @@ TEST_F(StorePlanButton, ShowsItsTitleAndAnArrowInTheMiddle) {
     root->view()->addSubview(button);
     show(root);
 
-    const accessibility::Node node = testing::firstOfType(tree(), "UIButton");
+    const accessibility::Node node = tests::firstOfType(tree(), "UIButton");
     EXPECT_EQ(node.shape->fill, "dynamicColor.22");
     EXPECT_EQ(node.label, "Choose Your Plan");
     // 16 characters of 9 points and 2 more after each, 16 points, an arrow of 24 × 16: 216 points in the middle of 331.
-    const accessibility::Node label = testing::firstOfType(node, "UILabel"), arrow = testing::firstOfType(node, "UIImageView");
+    const accessibility::Node label = tests::firstOfType(node, "UILabel"), arrow = tests::firstOfType(node, "UIImageView");
     EXPECT_EQ(label.frame, (geometry::Rect{{22 + 57.5, 118.75}, {176, 22.5}}));
     EXPECT_EQ(arrow.frame, (geometry::Rect{{22 + 57.5 + 192, 122}, {24, 16}}));
     EXPECT_EQ(arrow.image, "Button_Arrow_Right");
@@ -96,4 +96,4 @@ TEST_F(StorePlanButton, CapitalisesTheHostsTranslation) {
     EXPECT_EQ(button->accessibilityLabel, "Wähle Deinen Plan");
 }
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

@@ -18,7 +18,7 @@
 #include "Tests/Support/FailOnUnexpectedLog.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 inline host::Services servicesWithClips(std::shared_ptr<host::ClipDecoder> decoder) {
     host::Services services;
@@ -70,8 +70,8 @@ protected:
         bed.settle();
     }
     accessibility::Node tree() { return window->semanticTree(); }
-    accessibility::Node find(std::string_view identifier) { return testing::find(tree(), identifier); }
-    bool has(std::string_view identifier) { return testing::has(tree(), identifier); }
+    accessibility::Node find(std::string_view identifier) { return tests::find(tree(), identifier); }
+    bool has(std::string_view identifier) { return tests::has(tree(), identifier); }
     geometry::Rect frame(std::string_view identifier) { return find(identifier).frame; }
     double stripOffset(std::string_view identifier) { return find(identifier).scroll->contentOffset.x; }
 
@@ -138,4 +138,4 @@ private:
     std::vector<std::string>& m_calls;
 };
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

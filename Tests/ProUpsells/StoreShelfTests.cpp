@@ -16,7 +16,7 @@
 #include "Tests/ProUpsells/HostTranslations.hpp"
 #include "Tests/ProUpsells/StoreScreen.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -162,4 +162,4 @@ TEST_F(StoreShelf, LetsItsTwoRowsDriftApart) {
     }
 }
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

@@ -6,7 +6,7 @@
 #include "ProUpsells/RepeatableShelfImageView.hpp"
 #include "Tests/ProUpsells/StoreScreen.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 using ScrollDirection = StorePageShelfViewController::ScrollDirection;
 using ::testing::DoubleNear;
@@ -263,4 +263,4 @@ TEST_F(StoreStrip, CannotComeFromAnArchive) {
     EXPECT_DEATH(StorePageShelfViewController::create(foundation::Coder{}), "unimplemented initializer 'init\\(coder:\\)'");
 }
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

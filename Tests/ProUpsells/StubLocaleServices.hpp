@@ -3,7 +3,7 @@
 
 #include "Platform/Foundation/Locale.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 
 // In force as long as it lives. Unless told otherwise, what the services before it do.
 class StubLocaleServices {
@@ -45,4 +45,4 @@ private:
     std::shared_ptr<const foundation::LocaleServices> m_previous;
 };
 
-} // namespace proupsells::testing
+} // namespace proupsells::tests

@@ -10,7 +10,7 @@
 #include "Tests/ProUpsells/Offers.hpp"
 #include "Tests/ProUpsells/StubLocaleServices.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 using Formatter = SubscriptionOptionFormatter;
@@ -274,4 +274,4 @@ TEST(Badge, FollowsTheModelAtOnce) {
 }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

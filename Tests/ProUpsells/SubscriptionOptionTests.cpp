@@ -4,7 +4,7 @@
 
 #include "Tests/ProUpsells/Offers.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 using Type = SubscriptionOption::SubscriptionType;
@@ -72,4 +72,4 @@ TEST(SubscriptionOption, TypesOfDifferentKindsDifferEvenWithTheSamePrice) {
 }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

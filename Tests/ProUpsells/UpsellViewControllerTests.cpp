@@ -5,7 +5,7 @@
 #include "Tests/ProUpsells/Offers.hpp"
 #include "Tests/ProUpsells/Screen.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 using ::testing::Contains;
@@ -220,4 +220,4 @@ TEST(UpsellControllerDeathTest, CannotBeMadeFromAnArchive) {
 }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

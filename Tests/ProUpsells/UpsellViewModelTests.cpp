@@ -6,7 +6,7 @@
 #include "ProUpsells/UpsellEnvironment.hpp"
 #include "Tests/ProUpsells/Offers.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 using ::testing::ElementsAre;
@@ -80,4 +80,4 @@ TEST(UpsellEnvironment, IsTealAndAnnouncesChanges) {
 }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

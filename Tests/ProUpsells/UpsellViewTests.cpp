@@ -4,7 +4,7 @@
 
 #include "Tests/ProUpsells/Paywall.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 using geometry::Point;
@@ -224,4 +224,4 @@ TEST(UpsellViewDeathTest, StopsTheProgramWithoutItsEnvironment) {
 }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

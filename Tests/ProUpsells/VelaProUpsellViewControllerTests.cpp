@@ -9,7 +9,7 @@
 #include "Tests/ProUpsells/Offers.hpp"
 #include "Tests/ProUpsells/Screen.hpp"
 
-namespace proupsells::testing {
+namespace proupsells::tests {
 namespace {
 
 using ::testing::Contains;
@@ -359,4 +359,4 @@ TEST(EntryControllerDeathTest, CannotBeMadeFromAnArchive) {
 }
 
 } // namespace
-} // namespace proupsells::testing
+} // namespace proupsells::tests

@@ -6,6 +6,8 @@
 #include "Backends/Qt/QtAccessibility.hpp"
 #include "Platform/Host/WindowContent.hpp"
 
+using namespace proupsells;
+
 using accessibility::Node;
 using accessibility::Traits;
 using testing::ElementsAre;

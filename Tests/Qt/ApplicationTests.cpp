@@ -8,6 +8,8 @@
 
 #include "Backends/Qt/Application.hpp"
 
+using namespace proupsells;
+
 namespace {
 
 // The environment's variables that name a display, unset, and as they were afterwards.

@@ -5,6 +5,8 @@
 
 #include "Backends/Qt/BidiLevels.hpp"
 
+using namespace proupsells;
+
 namespace {
 
 // Characters without a place of their own on the line; where they go is left open.

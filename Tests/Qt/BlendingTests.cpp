@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace qtbackend {
+namespace proupsells::qtbackend {
 namespace {
 
 constexpr int channel(Pixel pixel, int index) { return int(pixel >> (8 * index)) & 0xFF; }
@@ -93,4 +93,4 @@ RC_GTEST_PROP(Blending, PaintsAColourWithACoverageForEveryPixel, ()) {
 }
 
 } // namespace
-} // namespace qtbackend
+} // namespace proupsells::qtbackend

@@ -7,7 +7,7 @@
 #include "Backends/Qt/RasterSurface.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
 
-namespace qttests {
+namespace proupsells::tests {
 
 struct Canvas {
     explicit Canvas(geometry::Size size_, double scale_ = 1) : size(size_), scale(scale_) {}
@@ -39,4 +39,4 @@ inline double totalInk(const QImage& image) {
 inline constexpr graphics::RGBA black = graphics::rgb(0x000000), white = graphics::rgb(0xFFFFFF), red = graphics::rgb(0xFF0000),
                                 blue = graphics::rgb(0x0000FF);
 
-} // namespace qttests
+} // namespace proupsells::tests

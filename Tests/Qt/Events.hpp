@@ -7,7 +7,7 @@
 #include <QTimer>
 #include <functional>
 
-namespace qttests {
+namespace proupsells::tests {
 
 // Handles events until the condition holds. False when it does not hold within ten seconds.
 inline bool handleEventsUntil(const std::function<bool()>& condition) {
@@ -21,4 +21,4 @@ inline bool handleEventsUntil(const std::function<bool()>& condition) {
     return true;
 }
 
-} // namespace qttests
+} // namespace proupsells::tests

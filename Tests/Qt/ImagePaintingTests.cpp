@@ -9,12 +9,14 @@
 #include "Tests/Qt/Canvas.hpp"
 #include "Tests/Support/LogRecorder.hpp"
 
+using namespace proupsells;
+
 using geometry::Size;
 using geometry::Transform;
 using graphics::ColorScheme;
 using graphics::PaintState;
 using graphics::RenderingMode;
-using namespace qttests;
+using namespace tests;
 using testing::ElementsAre;
 using testing::HasSubstr;
 

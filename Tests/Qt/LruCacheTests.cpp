@@ -5,6 +5,8 @@
 
 #include "Backends/Qt/LruCache.hpp"
 
+using namespace proupsells;
+
 namespace {
 
 using Cache = qtbackend::LruCache<int, std::string, std::hash<int>>;

@@ -9,12 +9,14 @@
 #include "Tests/Qt/SyntheticPaywall.hpp"
 #include "Tests/Support/AllocationCounter.hpp"
 
+using namespace proupsells;
+
 using geometry::Rect;
 using graphics::DisplayList;
 using graphics::PaintState;
 using qtbackend::PixelRect;
 using qtbackend::RasterSurface;
-using namespace qttests;
+using namespace tests;
 using testing::ElementsAre;
 using testing::IsEmpty;
 

@@ -4,8 +4,10 @@
 #include "Backends/Qt/QtRunLoopDriver.hpp"
 #include "Tests/Qt/Events.hpp"
 
-using qttests::handleEventsUntil;
+using namespace proupsells;
+
 using testing::ElementsAre;
+using tests::handleEventsUntil;
 
 namespace {
 

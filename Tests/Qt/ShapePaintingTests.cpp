@@ -5,13 +5,15 @@
 
 #include "Tests/Qt/Canvas.hpp"
 
+using namespace proupsells;
+
 using geometry::CornerStyle;
 using geometry::Path;
 using geometry::Rect;
 using geometry::Transform;
 using graphics::PaintState;
 using graphics::rgb;
-using namespace qttests;
+using namespace tests;
 
 TEST(ShapePainting, FillsExactlyTheRectanglesPixels) {
     Canvas canvas({10, 10});

@@ -2,7 +2,7 @@
 
 #include <fstream>
 
-namespace qttests {
+namespace proupsells::tests {
 
 using geometry::CornerStyle;
 using geometry::Rect;
@@ -159,4 +159,4 @@ void SyntheticPaywall::paint(graphics::DisplayList& list, int selectedPlan) cons
     context.image({}, {{337, 14}, {24, 24}}, m_close);
 }
 
-} // namespace qttests
+} // namespace proupsells::tests

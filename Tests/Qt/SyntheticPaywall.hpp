@@ -8,7 +8,7 @@
 #include "Backends/Qt/QtTextShaper.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
 
-namespace qttests {
+namespace proupsells::tests {
 
 class SyntheticPaywall {
 public:
@@ -41,4 +41,4 @@ private:
     Label m_actions[2], m_disclaimers[2], m_links[3];
 };
 
-} // namespace qttests
+} // namespace proupsells::tests

@@ -5,10 +5,12 @@
 #include "Backends/Qt/QtTextShaper.hpp"
 #include "Tests/Qt/Canvas.hpp"
 
+using namespace proupsells;
+
 using geometry::LayoutDirection;
 using geometry::Transform;
 using graphics::PaintState;
-using namespace qttests;
+using namespace tests;
 using ShapedRef = std::shared_ptr<const graphics::ShapedText>;
 
 namespace {

@@ -12,6 +12,8 @@
 #include "Platform/Graphics/TextLayout.hpp"
 #include "Tests/Support/LogRecorder.hpp"
 
+using namespace proupsells;
+
 using geometry::LayoutDirection;
 using graphics::Cluster;
 using graphics::LineBreak;

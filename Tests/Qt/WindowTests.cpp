@@ -12,14 +12,16 @@
 #include "Tests/Qt/Canvas.hpp"
 #include "Tests/Qt/Events.hpp"
 
+using namespace proupsells;
+
 using geometry::Point;
 using host::Key;
 using host::TouchPhase;
 using qtbackend::PixelRect;
-using qttests::handleEventsUntil;
 using testing::ElementsAre;
 using testing::Field;
 using testing::IsEmpty;
+using tests::handleEventsUntil;
 
 namespace {
 
@@ -46,9 +48,9 @@ public:
         ++paintCount;
         list.clear();
         graphics::PaintContext context(list);
-        context.fillRectangle({}, {{0, 0}, size}, qttests::white);
-        context.fillRectangle({}, {{x, 10}, {10, 10}}, qttests::red);
-        if (animatedFrames > 0) context.fillRectangle({}, {{0, double(animatedFrames--)}, {1, 1}}, qttests::blue);
+        context.fillRectangle({}, {{0, 0}, size}, tests::white);
+        context.fillRectangle({}, {{x, 10}, {10, 10}}, tests::red);
+        if (animatedFrames > 0) context.fillRectangle({}, {{0, double(animatedFrames--)}, {1, 1}}, tests::blue);
     }
     bool isAnimating() const override { return animatedFrames > 0; }
     void setNeedsDisplayHandler(std::function<void()> newHandler) override { handler = std::move(newHandler); }

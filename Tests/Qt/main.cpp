@@ -3,6 +3,8 @@
 
 #include "Backends/Qt/Application.hpp"
 
+using namespace proupsells;
+
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     const qtbackend::Application application({.isHeadless = true});

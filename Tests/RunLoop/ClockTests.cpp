@@ -4,6 +4,8 @@
 
 #include "Platform/RunLoop/Clock.hpp"
 
+using namespace proupsells;
+
 namespace {
 
 TEST(VirtualClock, StartsAtZeroAndStandsStill) {

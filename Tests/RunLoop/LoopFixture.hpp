@@ -12,7 +12,7 @@
 
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
-namespace tests {
+namespace proupsells::tests {
 
 // Runs a function as its update.
 class FunctionClient final : public runloop::UpdateClient {
@@ -42,4 +42,4 @@ protected:
     std::vector<std::string> diary;
 };
 
-} // namespace tests
+} // namespace proupsells::tests

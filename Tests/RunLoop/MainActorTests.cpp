@@ -7,6 +7,8 @@
 #include "Platform/RunLoop/MainActor.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
+using namespace proupsells;
+
 using runloop::MainActor;
 using runloop::MainRunLoop;
 using runloop::VirtualClock;

@@ -3,6 +3,8 @@
 
 #include "Tests/RunLoop/LoopFixture.hpp"
 
+using namespace proupsells;
+
 using runloop::MainRunLoop;
 using runloop::VirtualClock;
 using testing::ElementsAre;

@@ -2,6 +2,8 @@
 
 #include "Tests/RunLoop/LoopFixture.hpp"
 
+using namespace proupsells;
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 

@@ -11,6 +11,8 @@
 
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
+using namespace proupsells;
+
 namespace {
 
 // What a program may do with time. Handles of timers count up from 0.

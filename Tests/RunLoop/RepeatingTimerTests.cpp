@@ -3,6 +3,8 @@
 #include "Tests/RunLoop/LoopFixture.hpp"
 #include "Tests/Support/AllocationCounter.hpp"
 
+using namespace proupsells;
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 

@@ -1,5 +1,7 @@
 #include "Tests/RunLoop/LoopFixture.hpp"
 
+using namespace proupsells;
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 

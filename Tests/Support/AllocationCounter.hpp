@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <new>
 
-namespace tests {
+namespace proupsells::tests {
 
 inline std::size_t allocationsSoFar = 0;
 
@@ -17,12 +17,12 @@ std::size_t allocationsDuring(Work&& work) {
     return allocationsSoFar - before;
 }
 
-} // namespace tests
+} // namespace proupsells::tests
 
 // All forms but the over-aligned ones, so that none of another library is paired with one of these. Never inlined: a compiler that
 // sees through one of a pair only takes it for a mismatch.
 [[gnu::noinline]] void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
-    ++tests::allocationsSoFar;
+    ++proupsells::tests::allocationsSoFar;
     return std::malloc(size > 0 ? size : 1);
 }
 [[gnu::noinline]] void* operator new(std::size_t size) {

@@ -5,7 +5,7 @@
 
 #include "Backends/Headless/TestBed.hpp"
 
-namespace tests {
+namespace proupsells::tests {
 
 inline void failOnUnexpectedLog() {
     headless::TestBed::setUnexpectedLogHandler([](const commons::LogRecord& record) {
@@ -18,4 +18,4 @@ inline const bool failsOnUnexpectedLog = [] {
     return true;
 }();
 
-} // namespace tests
+} // namespace proupsells::tests

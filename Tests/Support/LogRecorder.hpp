@@ -7,7 +7,7 @@
 
 #include "Platform/Commons/DefaultLogger.hpp"
 
-namespace tests {
+namespace proupsells::tests {
 
 class LogRecorder {
 public:
@@ -31,4 +31,4 @@ private:
     commons::DefaultLogger::Sink m_previous;
 };
 
-} // namespace tests
+} // namespace proupsells::tests

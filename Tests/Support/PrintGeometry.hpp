@@ -5,7 +5,7 @@
 
 #include "Platform/Geometry/Geometry.hpp"
 
-namespace geometry {
+namespace proupsells::geometry {
 
 inline void PrintTo(const Point& point, std::ostream* stream) { *stream << '(' << point.x << ", " << point.y << ')'; }
 
@@ -17,4 +17,4 @@ inline void PrintTo(const Rect& rect, std::ostream* stream) {
     PrintTo(rect.origin, stream);
 }
 
-} // namespace geometry
+} // namespace proupsells::geometry

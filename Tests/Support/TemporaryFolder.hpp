@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace tests {
+namespace proupsells::tests {
 
 class TemporaryFolder {
 public:
@@ -33,4 +33,4 @@ private:
     std::filesystem::path m_path;
 };
 
-} // namespace tests
+} // namespace proupsells::tests

@@ -1,7 +1,7 @@
 // What moves, fades and grows, and where it is at which time.
 #include "Tests/SwiftUI/Screen.hpp"
 
-namespace swiftui::tests {
+namespace proupsells::swiftui::tests {
 namespace {
 
 using testing::ElementsAre;
@@ -352,4 +352,4 @@ TEST_F(Transitions, ReducedMotionKeepsOnlyTheFade) {
 }
 
 } // namespace
-} // namespace swiftui::tests
+} // namespace proupsells::swiftui::tests

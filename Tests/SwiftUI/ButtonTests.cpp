@@ -2,6 +2,8 @@
 
 #include "Tests/SwiftUI/TouchScreen.hpp"
 
+using namespace proupsells;
+
 using namespace swiftui;
 using tests::box;
 using tests::TouchScreen;

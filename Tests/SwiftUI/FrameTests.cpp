@@ -1,7 +1,7 @@
 // Frames, paddings, fixed sizes, ratios, layers, safe areas and geometry readers.
 #include "Tests/SwiftUI/Screen.hpp"
 
-namespace swiftui::tests {
+namespace proupsells::swiftui::tests {
 namespace {
 
 // The size of a frame around a block of 40 x 20, for a proposal of 100 x 100.
@@ -246,4 +246,4 @@ TEST(Host, AnswersProposalsWithTheContentsSize) {
 }
 
 } // namespace
-} // namespace swiftui::tests
+} // namespace proupsells::swiftui::tests

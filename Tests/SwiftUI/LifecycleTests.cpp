@@ -2,7 +2,7 @@
 #include "Tests/Support/LogRecorder.hpp"
 #include "Tests/SwiftUI/Screen.hpp"
 
-namespace swiftui::tests {
+namespace proupsells::swiftui::tests {
 namespace {
 
 using testing::ElementsAre;
@@ -202,4 +202,4 @@ TEST(Display, AnUnchangedPictureIsTheSameList) {
 }
 
 } // namespace
-} // namespace swiftui::tests
+} // namespace proupsells::swiftui::tests

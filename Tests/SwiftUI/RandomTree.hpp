@@ -9,7 +9,7 @@
 
 #include "Platform/SwiftUI/SwiftUI.hpp"
 
-namespace swiftui::tests {
+namespace proupsells::swiftui::tests {
 
 // Reads decisions from bytes; when they run out, everything is 0.
 class Decisions {
@@ -147,4 +147,4 @@ private:
     int m_count = 0;
 };
 
-} // namespace swiftui::tests
+} // namespace proupsells::swiftui::tests

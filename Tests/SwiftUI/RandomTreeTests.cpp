@@ -5,7 +5,7 @@
 #include "Tests/SwiftUI/RandomTree.hpp"
 #include "Tests/SwiftUI/Screen.hpp"
 
-namespace swiftui::tests {
+namespace proupsells::swiftui::tests {
 namespace {
 
 constexpr int treeCount = 400;
@@ -112,4 +112,4 @@ TEST(AnyTree, FollowsAResizeAsIfItHadAlwaysBeenThatSize) {
 }
 
 } // namespace
-} // namespace swiftui::tests
+} // namespace proupsells::swiftui::tests

@@ -1,7 +1,7 @@
 // Who keeps being who from one build to the next.
 #include "Tests/SwiftUI/Screen.hpp"
 
-namespace swiftui::tests {
+namespace proupsells::swiftui::tests {
 namespace {
 
 using testing::ElementsAre;
@@ -200,4 +200,4 @@ TEST(ViewDeathTest, AViewIsGoodForOneBuildOnly) {
 }
 
 } // namespace
-} // namespace swiftui::tests
+} // namespace proupsells::swiftui::tests

@@ -5,7 +5,7 @@
 
 #include "Tests/SwiftUI/TouchScreen.hpp"
 
-namespace tests {
+namespace proupsells::tests {
 
 using swiftui::ForEach;
 using swiftui::ScrollView;
@@ -24,4 +24,4 @@ struct Rows {
     double offset() { return screen.offset().y; }
 };
 
-} // namespace tests
+} // namespace proupsells::tests

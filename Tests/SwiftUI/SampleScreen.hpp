@@ -6,7 +6,7 @@
 
 #include "Platform/SwiftUI/SwiftUI.hpp"
 
-namespace swiftui::tests {
+namespace proupsells::swiftui::tests {
 
 inline constexpr graphics::Color ink{"ink", graphics::rgb(0x111111), graphics::rgb(0xEEEEEE)};
 inline constexpr graphics::Color paper{"paper", graphics::rgb(0xFFFFFF), graphics::rgb(0x000000)};
@@ -136,4 +136,4 @@ private:
         "Payment will be made immediately. The plan renews every month until it is cancelled in the settings."};
 };
 
-} // namespace swiftui::tests
+} // namespace proupsells::swiftui::tests

@@ -15,7 +15,7 @@
 #include "Tests/Support/FailOnUnexpectedLog.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace swiftui::tests {
+namespace proupsells::swiftui::tests {
 
 using geometry::Rect;
 using geometry::Size;
@@ -94,4 +94,4 @@ inline View filler(const std::string& identifier) {
 
 inline Rect rect(double x, double y, double width, double height) { return {{x, y}, {width, height}}; }
 
-} // namespace swiftui::tests
+} // namespace proupsells::swiftui::tests

@@ -4,8 +4,10 @@
 #include "Platform/Motion/ScrollMotion.hpp"
 #include "Tests/SwiftUI/Rows.hpp"
 
+using namespace proupsells;
+
 using namespace swiftui;
-using namespace ::tests;
+using namespace proupsells::tests;
 
 namespace {
 

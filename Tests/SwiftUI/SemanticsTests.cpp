@@ -1,7 +1,7 @@
 // What the semantic tree says of a screen.
 #include "Tests/SwiftUI/Screen.hpp"
 
-namespace swiftui::tests {
+namespace proupsells::swiftui::tests {
 namespace {
 
 using testing::ElementsAre;
@@ -132,4 +132,4 @@ TEST(HitTesting, FollowsTransforms) {
 }
 
 } // namespace
-} // namespace swiftui::tests
+} // namespace proupsells::swiftui::tests

@@ -1,7 +1,7 @@
 // How rows, columns and layers share out their room.
 #include "Tests/SwiftUI/Screen.hpp"
 
-namespace swiftui::tests {
+namespace proupsells::swiftui::tests {
 namespace {
 
 TEST(Stack, ARowStandsInTheMiddleWithEightBetweenItsViews) {
@@ -175,4 +175,4 @@ TEST(Stack, NestedStacksShareOutFromOutsideIn) {
 }
 
 } // namespace
-} // namespace swiftui::tests
+} // namespace proupsells::swiftui::tests

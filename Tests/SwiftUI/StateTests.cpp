@@ -2,7 +2,7 @@
 #include "Platform/Combine/ObservableObject.hpp"
 #include "Tests/SwiftUI/Screen.hpp"
 
-namespace swiftui::tests {
+namespace proupsells::swiftui::tests {
 namespace {
 
 using testing::ElementsAre;
@@ -240,4 +240,4 @@ TEST(Environment, AColorSchemeHoldsInside) {
 }
 
 } // namespace
-} // namespace swiftui::tests
+} // namespace proupsells::swiftui::tests

@@ -3,10 +3,10 @@
 #include "Tests/SwiftUI/SampleScreen.hpp"
 #include "Tests/SwiftUI/Screen.hpp"
 
-namespace swiftui::tests {
+namespace proupsells::swiftui::tests {
 namespace {
 
-using ::tests::allocationsDuring;
+using proupsells::tests::allocationsDuring;
 
 class SteadyFrame : public testing::Test {
 protected:
@@ -90,4 +90,4 @@ TEST(SampleScreenTest, ATapOnACardChoosesItAndChangesTheTexts) {
 }
 
 } // namespace
-} // namespace swiftui::tests
+} // namespace proupsells::swiftui::tests

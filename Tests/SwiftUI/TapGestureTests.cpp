@@ -1,5 +1,7 @@
 #include "Tests/SwiftUI/TouchScreen.hpp"
 
+using namespace proupsells;
+
 using namespace swiftui;
 using tests::box;
 using tests::TouchScreen;

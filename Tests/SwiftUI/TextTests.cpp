@@ -1,7 +1,7 @@
 // Words: wrapped, cut, aligned, scaled and described.
 #include "Tests/SwiftUI/Screen.hpp"
 
-namespace swiftui::tests {
+namespace proupsells::swiftui::tests {
 namespace {
 
 using graphics::TextAlignment;
@@ -153,4 +153,4 @@ TEST(Text, IsShapedOnce) {
 }
 
 } // namespace
-} // namespace swiftui::tests
+} // namespace proupsells::swiftui::tests

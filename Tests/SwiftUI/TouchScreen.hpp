@@ -14,7 +14,7 @@
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 #include "Tests/Support/FailOnUnexpectedLog.hpp"
 
-namespace tests {
+namespace proupsells::tests {
 
 class TouchScreen {
 public:
@@ -108,4 +108,4 @@ inline swiftui::View box(double width, double height, const std::string& identif
            swiftui::accessibilityIdentifier(identifier);
 }
 
-} // namespace tests
+} // namespace proupsells::tests

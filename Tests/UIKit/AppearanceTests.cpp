@@ -1,6 +1,6 @@
 #include "Tests/UIKit/Screen.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using testing::ElementsAre;
@@ -194,7 +194,8 @@ TEST_F(ScreenTest, AChildKnowsTraitsAndSafeAreaWhileItsViewLoads) {
 
 TEST(ContainmentDeathTest, AControllerCannotBeItsOwnAncestor) {
     Calls calls;
-    const auto parent = std::make_shared<RecordingController>("parent", calls), child = std::make_shared<RecordingController>("child", calls);
+    const auto parent = std::make_shared<RecordingController>("parent", calls),
+               child = std::make_shared<RecordingController>("child", calls);
     parent->addChild(child);
 
     EXPECT_DEATH(child->addChild(parent), "a controller cannot be its own child");
@@ -202,4 +203,4 @@ TEST(ContainmentDeathTest, AControllerCannotBeItsOwnAncestor) {
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

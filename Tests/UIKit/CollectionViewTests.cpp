@@ -1,7 +1,7 @@
 #include "Platform/UIKit/Collection/UICollectionView.hpp"
 #include "Tests/UIKit/Screen.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using geometry::Point;
@@ -394,4 +394,4 @@ TEST_F(CollectionViewDeathTest, ADataSourceMustHaveACellForEveryItem) {
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -3,7 +3,7 @@
 
 #include "Tests/UIKit/ConstraintScene.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using geometry::Rect;
@@ -94,4 +94,4 @@ TEST_F(ConstraintTest, WhatIsToldOfItsNewFrameMayChangeTheLayoutOnceMore) {
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -7,7 +7,7 @@
 #include "Platform/UIKit/Views/UIStackView.hpp"
 #include "Tests/UIKit/ConstraintScene.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using geometry::Rect;
@@ -374,4 +374,4 @@ TEST(ConstraintSafeArea, ABarReachesUnderTheUnsafeEdgeAndKeepsItsButtonAboveIt) 
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -5,7 +5,7 @@
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
 #include "Tests/UIKit/Screen.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 using Constraints = std::vector<std::shared_ptr<NSLayoutConstraint>>;
 
@@ -61,4 +61,4 @@ protected:
     std::shared_ptr<UIView> root;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -2,7 +2,7 @@
 
 #include "Tests/UIKit/ConstraintScene.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using geometry::Rect;
@@ -342,4 +342,4 @@ TEST_F(ConstraintTest, DescriptionsReadLikeTheConstraint) {
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

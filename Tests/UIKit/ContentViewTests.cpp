@@ -4,7 +4,7 @@
 #include "Platform/UIKit/Views/UILabel.hpp"
 #include "Platform/UIKit/Views/UIStackView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using geometry::Rect;
@@ -261,4 +261,4 @@ TEST_F(StackTest, ForgetsAViewThatLeaves) {
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -2,7 +2,7 @@
 
 #include "Platform/UIKit/Controls/UIButton.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using geometry::Point;
@@ -305,4 +305,4 @@ TEST_F(ControlTest, TheFocusRingStandsAroundTheControlUntilATouch) {
 TEST_F(ControlTest, EscapeMeansNothing) { EXPECT_FALSE(window->key(host::Key::escape)); }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

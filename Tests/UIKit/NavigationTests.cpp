@@ -2,7 +2,7 @@
 
 #include "Platform/UIKit/Controllers/UINavigationController.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using geometry::Rect;
@@ -129,4 +129,4 @@ TEST_F(NavigationTest, CoversTheWindowSoThatNothingBelowIsPainted) {
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -2,7 +2,7 @@
 
 #include "Platform/UIKit/Controls/UIPageControl.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using geometry::Point;
@@ -133,4 +133,4 @@ TEST_F(PageControlTest, ADisabledControlStaysWhereItIs) {
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -1,6 +1,6 @@
 #include "Tests/UIKit/Screen.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using geometry::Point;
@@ -133,4 +133,4 @@ TEST_F(ScreenTest, ViewsDescribeThemselvesInWindowCoordinates) {
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

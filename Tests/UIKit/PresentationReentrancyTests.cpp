@@ -1,6 +1,6 @@
 #include "Tests/UIKit/Screen.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using testing::ElementsAre;
@@ -170,4 +170,4 @@ TEST_F(ReentrancyTest, ReplacingTheRootTakesAwayWhatItPresents) {
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

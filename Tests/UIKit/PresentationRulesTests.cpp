@@ -4,7 +4,7 @@
 
 #include "Platform/UIKit/Controllers/UINavigationController.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using geometry::Size;
@@ -149,4 +149,4 @@ TEST_F(PresentationRulesTest, PresentingWhatIsShownAlreadyIsIgnoredWithOneLogLin
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

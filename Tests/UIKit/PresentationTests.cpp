@@ -2,7 +2,7 @@
 
 #include "Platform/Motion/TimingCurve.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using geometry::Point;
@@ -300,4 +300,4 @@ TEST_F(PresentationTest, AFingerThatIsDownLosesItsViewToAPresentation) {
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

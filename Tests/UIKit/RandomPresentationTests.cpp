@@ -2,7 +2,7 @@
 
 #include <random>
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 // Checks the order of one controller's calls.
@@ -84,4 +84,4 @@ TEST_P(RandomPresentation, WhateverIsAskedForTheStackStaysConsistent) {
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomPresentation, testing::Range(0u, 60u));
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -10,7 +10,7 @@
 #include "Tests/Support/FailOnUnexpectedLog.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 using Calls = std::vector<std::string>;
 
@@ -82,4 +82,4 @@ protected:
 
 inline std::shared_ptr<UIView> viewAt(const geometry::Rect& frame) { return std::make_shared<UIView>(frame); }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -4,7 +4,7 @@
 #include "Platform/UIKit/Views/UIScrollView.hpp"
 #include "Tests/UIKit/Screen.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class RecordingScrollDelegate : public UIScrollViewDelegate {
 public:
@@ -48,4 +48,4 @@ protected:
     std::shared_ptr<UIView> content;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -1,7 +1,7 @@
 // Strips in lists, insets, and what scroll views look like.
 #include "Tests/UIKit/ScrollScene.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using geometry::Point;
@@ -145,4 +145,4 @@ TEST_F(ScrollViewTest, SaysHowFarItIsScrolled) {
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

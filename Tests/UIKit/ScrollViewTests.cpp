@@ -1,7 +1,7 @@
 #include "Platform/UIKit/Controls/UIControl.hpp"
 #include "Tests/UIKit/ScrollScene.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using geometry::Point;
@@ -269,4 +269,4 @@ TEST_F(ScrollViewTest, MayGoAwayWhileItMoves) {
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -9,7 +9,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-namespace uikit::constraints {
+namespace proupsells::uikit::constraints {
 namespace {
 
 using testing::ElementsAre;
@@ -302,4 +302,4 @@ TEST_P(LargeSystem, AConstraintThatIsKeptAnywayChangesNothing) {
 INSTANTIATE_TEST_SUITE_P(Seeds, LargeSystem, testing::Range(0u, 30u));
 
 } // namespace
-} // namespace uikit::constraints
+} // namespace proupsells::uikit::constraints

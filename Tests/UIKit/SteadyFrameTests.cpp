@@ -7,7 +7,7 @@
 #include "Platform/UIKit/Views/UIStackView.hpp"
 #include "Tests/Support/AllocationCounter.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 TEST_F(ScreenTest, ASteadyFrameAllocatesNothing) {
@@ -43,4 +43,4 @@ TEST_F(ScreenTest, ASteadyFrameAllocatesNothing) {
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

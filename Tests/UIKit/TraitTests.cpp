@@ -1,6 +1,6 @@
 #include "Tests/UIKit/Screen.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using geometry::Point;
@@ -99,4 +99,4 @@ TEST_F(ScreenTest, ViewsAreToldWhenTheirSafeAreaChanges) {
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -1,6 +1,6 @@
 #include "Tests/UIKit/Screen.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 namespace {
 
 using geometry::Point;
@@ -249,4 +249,4 @@ TEST_F(ScreenTest, AViewThatMovesKeepsTheLayoutThatIsDue) {
 }
 
 } // namespace
-} // namespace uikit
+} // namespace proupsells::uikit

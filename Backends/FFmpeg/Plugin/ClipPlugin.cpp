@@ -3,7 +3,7 @@
 #include "Backends/FFmpeg/Plugin/PlayedClip.hpp"
 #include "Backends/FFmpeg/Plugin/Worker.hpp"
 
-namespace ffmpegbackend {
+namespace proupsells::ffmpegbackend {
 
 namespace {
 
@@ -23,8 +23,8 @@ private:
 
 } // namespace
 
-} // namespace ffmpegbackend
-
-extern "C" __attribute__((visibility("default"))) host::ClipDecoder* proupsellsMakeClipDecoder(const ffmpegbackend::PluginHost& host) {
-    return new ffmpegbackend::FFmpegClipDecoder(host);
+extern "C" __attribute__((visibility("default"))) host::ClipDecoder* proupsellsMakeClipDecoder(const PluginHost& host) {
+    return new FFmpegClipDecoder(host);
 }
+
+} // namespace proupsells::ffmpegbackend

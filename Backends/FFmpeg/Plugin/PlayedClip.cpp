@@ -6,7 +6,7 @@
 
 #include "Backends/FFmpeg/Plugin/Worker.hpp"
 
-namespace ffmpegbackend {
+namespace proupsells::ffmpegbackend {
 
 namespace {
 
@@ -134,8 +134,10 @@ bool PlayedClip::decodeOne() {
         m_windowReachesEnd = true;
         // Broken from here on: what there is stands for the rest.
         if (m_window.empty()) {
-            if (!m_lastShown.picture) m_state = State::unplayable;
-            else m_window.push_back({m_lastShown.picture, 0});
+            if (!m_lastShown.picture)
+                m_state = State::unplayable;
+            else
+                m_window.push_back({m_lastShown.picture, 0});
         }
         return true;
     }
@@ -160,4 +162,4 @@ bool PlayedClip::work() {
     return hasMore;
 }
 
-} // namespace ffmpegbackend
+} // namespace proupsells::ffmpegbackend

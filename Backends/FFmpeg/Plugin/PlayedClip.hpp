@@ -10,7 +10,7 @@
 #include "Backends/FFmpeg/ClipPlugin.hpp"
 #include "Backends/FFmpeg/Plugin/VideoFile.hpp"
 
-namespace ffmpegbackend {
+namespace proupsells::ffmpegbackend {
 
 class Worker;
 
@@ -54,12 +54,12 @@ private:
     State m_state = State::unopened;
     std::string m_complaint; // to be made by the thread that asks for frames
     double m_duration_s = 0;
-    double m_wanted_s = 0;             // in [0, duration)
+    double m_wanted_s = 0;                // in [0, duration)
     std::deque<host::ClipFrame> m_window; // ascending times
     double m_soughtMoment_s = 0;          // what the decoder was last sent to
-    bool m_windowReachesEnd = false;   // nothing follows the last picture before the clip starts again
+    bool m_windowReachesEnd = false;      // nothing follows the last picture before the clip starts again
     bool m_isQueued = false;
     host::ClipFrame m_lastShown;
 };
 
-} // namespace ffmpegbackend
+} // namespace proupsells::ffmpegbackend

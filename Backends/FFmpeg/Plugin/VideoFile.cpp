@@ -11,7 +11,7 @@ extern "C" {
 #include <libswscale/swscale.h>
 }
 
-namespace ffmpegbackend {
+namespace proupsells::ffmpegbackend {
 
 namespace {
 
@@ -166,4 +166,4 @@ void VideoFile::seek(double time_s) {
     c.lastTime_s = 0;
 }
 
-} // namespace ffmpegbackend
+} // namespace proupsells::ffmpegbackend

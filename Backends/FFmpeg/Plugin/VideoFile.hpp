@@ -7,7 +7,7 @@
 
 #include "Platform/Host/ClipDecoder.hpp"
 
-namespace ffmpegbackend {
+namespace proupsells::ffmpegbackend {
 
 // Used by one thread at a time.
 class VideoFile {
@@ -35,4 +35,4 @@ private:
     std::unique_ptr<Contexts> m_contexts;
 };
 
-} // namespace ffmpegbackend
+} // namespace proupsells::ffmpegbackend

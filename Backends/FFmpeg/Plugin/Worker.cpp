@@ -2,7 +2,7 @@
 
 #include "Backends/FFmpeg/Plugin/PlayedClip.hpp"
 
-namespace ffmpegbackend {
+namespace proupsells::ffmpegbackend {
 
 namespace {
 
@@ -44,4 +44,4 @@ void Worker::run() {
     }
 }
 
-} // namespace ffmpegbackend
+} // namespace proupsells::ffmpegbackend

@@ -7,7 +7,7 @@
 #include <mutex>
 #include <thread>
 
-namespace ffmpegbackend {
+namespace proupsells::ffmpegbackend {
 
 class PlayedClip;
 
@@ -31,4 +31,4 @@ private:
     std::thread m_thread;
 };
 
-} // namespace ffmpegbackend
+} // namespace proupsells::ffmpegbackend

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 namespace {
 
@@ -22,4 +22,4 @@ graphics::Color interpolated(const graphics::Color& from, const graphics::Color&
     return {to.name, mixed(from.light, to.light, progress), mixed(from.dark, to.dark, progress)};
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

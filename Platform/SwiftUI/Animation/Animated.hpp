@@ -7,7 +7,7 @@
 #include "Platform/Graphics/Color.hpp"
 #include "Platform/Motion/TimingCurve.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 constexpr double interpolated(double from, double to, double progress) { return from + (to - from) * progress; }
 constexpr geometry::Point interpolated(geometry::Point from, geometry::Point to, double progress) {
@@ -60,4 +60,4 @@ private:
     double m_end_s = atRest;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -4,7 +4,7 @@
 
 #include "Platform/SwiftUI/Animation/Animated.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 namespace {
 
@@ -77,4 +77,4 @@ bool AnyTransition::Way::fades() const {
     return std::any_of(parts.begin(), parts.end(), [](const Part& part) { return part.effect == fade; });
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

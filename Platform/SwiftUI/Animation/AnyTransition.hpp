@@ -11,7 +11,7 @@
 #include "Platform/SwiftUI/Tree/View.hpp"
 #include "Platform/SwiftUI/Views/Shapes.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // What a view that is only partly there looks like.
 struct TransitionEffect {
@@ -89,4 +89,4 @@ struct TransitionModifier {
 // animation, else by the one of the change, else at once. While it goes it is painted in its old place and takes no touches.
 inline TransitionModifier transition(AnyTransition transition) { return {std::move(transition)}; }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

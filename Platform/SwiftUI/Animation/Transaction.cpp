@@ -1,6 +1,6 @@
 #include "Platform/SwiftUI/Animation/Transaction.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 namespace {
 
@@ -18,4 +18,4 @@ Transaction::Scope::Scope(std::optional<motion::Animation> animation) : m_previo
 
 Transaction::Scope::~Scope() { current() = m_previous; }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -6,7 +6,7 @@
 
 #include "Platform/Motion/TimingCurve.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class Transaction {
 public:
@@ -42,4 +42,4 @@ void withoutAnimation(Changes&& changes) {
     std::forward<Changes>(changes)();
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -3,7 +3,7 @@
 #include "Platform/SwiftUI/Tree/SemanticContext.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 void TransitionNode::adopt(TransitionModifier&& modifier, UpdatePass&) { m_transition = std::move(modifier.transition); }
 
@@ -68,4 +68,4 @@ void TransitionNode::addAttributes(SemanticContext& context, const graphics::Pai
 
 View TransitionModifier::modified(View content) && { return newModifier<TransitionNode>(std::move(*this), content); }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -4,7 +4,7 @@
 #include "Platform/SwiftUI/Animation/AnyTransition.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class TransitionNode final : public ModifierNode {
 public:
@@ -31,4 +31,4 @@ private:
     Animated<double> m_presence{1};
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 std::optional<double> dragOrigin(Axis axis, const TouchEvent& event) {
     const geometry::Point moved = event.location - event.start;
@@ -11,4 +11,4 @@ std::optional<double> dragOrigin(Axis axis, const TouchEvent& event) {
     return along(axis, event.start) + std::copysign(dragThreshold, distance);
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -6,7 +6,7 @@
 #include "Platform/SwiftUI/Layout/Alignment.hpp"
 #include "Platform/SwiftUI/Tree/GestureHandler.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // How far a finger moves before it drags. The content follows from there on, so that nothing leaps.
 inline constexpr double dragThreshold = 10;
@@ -18,4 +18,4 @@ constexpr double across(Axis axis, geometry::Point point) { return axis == Axis:
 // across the axis than along it.
 std::optional<double> dragOrigin(Axis axis, const TouchEvent& event);
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

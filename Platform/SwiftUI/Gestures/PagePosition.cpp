@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace swiftui {
+namespace proupsells::swiftui {
 namespace {
 
 // A finger that is faster than this turns the page, however far it has come. Points a second.
@@ -73,4 +73,4 @@ void PagePosition::settle(int page, double now_s) {
     m_slide = Animated<double>(m_target);
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

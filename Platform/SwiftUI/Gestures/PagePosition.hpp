@@ -6,7 +6,7 @@
 #include "Platform/Motion/ScrollMotion.hpp"
 #include "Platform/SwiftUI/Animation/Animated.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // Positions count pages from 0; 1.5 is half-way between the second and the third. Lengths are in points, times the run loop's.
 class PagePosition {
@@ -53,4 +53,4 @@ private:
     motion::VelocityTracker m_speed; // of the pages, in points
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace swiftui {
+namespace proupsells::swiftui {
 namespace {
 
 // Faster fingers do not throw content any further. Points a second.
@@ -74,4 +74,4 @@ void ScrollAxis::coast(double offset, double velocity, double now_s) {
     if (path.duration_s() > 0) m_flick = Flick{path, now_s};
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -5,7 +5,7 @@
 
 #include "Platform/Motion/ScrollMotion.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // All times are the run loop's, in seconds; offsets grow as the content moves towards its end.
 class ScrollAxis {
@@ -52,4 +52,4 @@ private:
     motion::VelocityTracker m_speed; // of the content, which lags behind the finger in the rubber band
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

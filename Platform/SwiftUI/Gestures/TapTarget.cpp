@@ -3,7 +3,7 @@
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 TapTarget::~TapTarget() = default;
 
@@ -26,4 +26,4 @@ std::function<void()> TapTarget::activation() const {
     };
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

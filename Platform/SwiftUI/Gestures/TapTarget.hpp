@@ -6,7 +6,7 @@
 
 #include "Platform/SwiftUI/Tree/Callback.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class Node;
 
@@ -28,4 +28,4 @@ private:
     mutable std::shared_ptr<const TapTarget*> m_self;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

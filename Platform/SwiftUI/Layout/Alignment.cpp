@@ -1,9 +1,9 @@
 #include "Platform/SwiftUI/Layout/Alignment.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 geometry::Point alignedOrigin(geometry::Size child, geometry::Size box, Alignment alignment) {
     return {(box.width - child.width) * fraction(alignment.horizontal), (box.height - child.height) * fraction(alignment.vertical)};
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -7,7 +7,7 @@
 #include "Platform/Geometry/Axis.hpp"
 #include "Platform/Geometry/Geometry.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::Axis;
 
@@ -59,4 +59,4 @@ constexpr double fraction(VerticalAlignment alignment) {
     return alignment == VerticalAlignment::bottom ? 1 : alignment == VerticalAlignment::center ? 0.5 : 0;
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

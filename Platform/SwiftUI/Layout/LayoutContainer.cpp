@@ -1,6 +1,6 @@
 #include "Platform/SwiftUI/Layout/LayoutContainer.hpp"
 
-namespace swiftui::detail {
+namespace proupsells::swiftui::detail {
 
 const std::vector<Node*>& LayoutContainerNode::collectSubviews() {
     m_subviews.clear();
@@ -23,4 +23,4 @@ void LayoutContainerNode::layOut(const geometry::ProposedSize& proposal, geometr
     settleTransparentChildren(size);
 }
 
-} // namespace swiftui::detail
+} // namespace proupsells::swiftui::detail

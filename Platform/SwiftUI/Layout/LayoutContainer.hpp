@@ -8,7 +8,7 @@
 
 #include "Platform/SwiftUI/Tree/Node.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // The views of such a container, seen through groups and loops; absent ones are not among them.
 class LayoutSubviews {
@@ -105,4 +105,4 @@ Element* LayoutContainer<Rule>::makeElement() && {
     return newElement<detail::RuledNode<Rule>>(std::move(*this));
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

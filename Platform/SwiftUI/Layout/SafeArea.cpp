@@ -2,7 +2,7 @@
 
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::EdgeInsets;
 using geometry::PhysicalInsets;
@@ -50,4 +50,4 @@ EdgeInsets reachToHostEdges(const Node& node, Edge edges) {
     return result;
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -4,7 +4,7 @@
 #include "Platform/Geometry/Geometry.hpp"
 #include "Platform/SwiftUI/Layout/Alignment.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class Node;
 
@@ -15,4 +15,4 @@ geometry::EdgeInsets touchedSafeArea(const Node& node);
 // By how much the node's frame must grow along `edges` to reach the host's edges from where it touches the safe area's.
 geometry::EdgeInsets reachToHostEdges(const Node& node, Edge edges);
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

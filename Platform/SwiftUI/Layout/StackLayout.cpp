@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::ProposedSize;
 using geometry::Size;
@@ -101,4 +101,4 @@ double StackLayout::alignBaselines() {
     return ascent + descent;
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -7,7 +7,7 @@
 #include "Platform/SwiftUI/Layout/Alignment.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // The lengths of a stack's views along its axis. Views of higher priority first, among equals the least flexible first, each gets
 // an equal part of what is left; what it does not take is left to the others. Keeps its memory.
@@ -48,4 +48,4 @@ private:
     std::vector<std::size_t> m_order; // of sharing out
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -1,6 +1,6 @@
 #include "Platform/SwiftUI/Layout/StackNode.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::Point;
 using geometry::ProposedSize;
@@ -54,4 +54,4 @@ bool TransparentNode::isAbsent() const {
     return true;
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

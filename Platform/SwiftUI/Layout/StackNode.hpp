@@ -6,7 +6,7 @@
 
 #include "Platform/SwiftUI/Layout/StackLayout.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class StackNode : public Node {
 public:
@@ -42,4 +42,4 @@ public:
     std::optional<Axis> stackAxis() const override { return std::nullopt; }
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -3,7 +3,7 @@
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/SemanticContext.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 namespace {
 
@@ -38,4 +38,4 @@ private:
 
 View AccessibilityModifier::modified(View content) && { return newModifier<AccessibilityNode>(std::move(*this), content); }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

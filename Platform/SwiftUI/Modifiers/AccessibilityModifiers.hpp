@@ -7,7 +7,7 @@
 #include "Platform/Accessibility/Node.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // Said of the first view inside that stands in the semantic tree, whose frame there becomes the modified view's. Of several
 // identifiers the outermost counts; frames go with identifiers before labels.
@@ -29,4 +29,4 @@ inline AccessibilityModifier accessibilityTraits(accessibility::Traits traits) {
 // Left out of the semantic tree, with everything inside.
 inline AccessibilityModifier accessibilityHidden(bool isHidden = true) { return {.isHidden = isHidden}; }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

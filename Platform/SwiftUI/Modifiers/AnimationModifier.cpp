@@ -2,7 +2,7 @@
 
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui::detail {
+namespace proupsells::swiftui::detail {
 
 void AnimationNodeBase::adoptContent(const View& content, UpdatePass& pass) {
     if (!m_hasChanged) return updateChild(0, content, pass);
@@ -19,4 +19,4 @@ void AnimationNodeBase::layOut(const geometry::ProposedSize& proposal, geometry:
     host().setLayoutAnimation(around);
 }
 
-} // namespace swiftui::detail
+} // namespace proupsells::swiftui::detail

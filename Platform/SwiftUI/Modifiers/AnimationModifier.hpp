@@ -7,7 +7,7 @@
 #include "Platform/Motion/TimingCurve.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 template <class Value>
 struct AnimationModifier {
@@ -57,4 +57,4 @@ View AnimationModifier<Value>::modified(View content) && {
     return newModifier<detail::AnimationNode<Value>>(std::move(*this), content);
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -7,7 +7,7 @@
 #include "Platform/SwiftUI/Tree/SemanticContext.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::Point;
 using geometry::Rect;
@@ -180,4 +180,4 @@ View ShadowModifier::modified(View content) && { return newModifier<ShadowNode>(
 View HitTestingModifier::modified(View content) && { return newModifier<HitTestingNode>(std::move(*this), content); }
 View ContentShapeModifier::modified(View content) && { return newModifier<ContentShapeNode>(std::move(*this), content); }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

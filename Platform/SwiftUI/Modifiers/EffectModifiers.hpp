@@ -5,7 +5,7 @@
 #include "Platform/SwiftUI/Tree/View.hpp"
 #include "Platform/SwiftUI/Views/Shapes.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 struct OpacityModifier {
     double opacity = 1;
@@ -74,4 +74,4 @@ struct ContentShapeModifier {
 };
 inline ContentShapeModifier contentShape() { return {}; }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -2,7 +2,7 @@
 
 #include "Platform/SwiftUI/Modifiers/EnvironmentNode.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 void environment::Object::apply(EnvironmentValues& values) const {
     auto objects = values.objects ? std::make_shared<EnvironmentObjects>(*values.objects) : std::make_shared<EnvironmentObjects>();
@@ -24,4 +24,4 @@ template struct EnvironmentModifier<environment::Disabled>;
 template struct EnvironmentModifier<environment::Style>;
 template struct EnvironmentModifier<environment::Object>;
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

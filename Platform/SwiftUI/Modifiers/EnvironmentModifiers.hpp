@@ -7,7 +7,7 @@
 #include "Platform/SwiftUI/Tree/EnvironmentValues.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // `Setter` is comparable and writes its value with apply(EnvironmentValues&).
 template <class Setter>
@@ -107,4 +107,4 @@ EnvironmentModifier<environment::Object> environmentObject(const std::shared_ptr
     return {{typeKey<Object>(), object}};
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -7,7 +7,7 @@
 #include "Platform/SwiftUI/Modifiers/EnvironmentModifiers.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // Keeps the environment that the views inside inherit.
 template <class Setter>
@@ -38,4 +38,4 @@ View EnvironmentModifier<Setter>::modified(View content) && {
     return newModifier<EnvironmentNode<Setter>>(std::move(*this), content);
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

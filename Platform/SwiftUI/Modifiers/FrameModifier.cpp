@@ -5,7 +5,7 @@
 #include "Platform/SwiftUI/Modifiers/LayoutModifiers.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::ProposedSize;
 using geometry::Size;
@@ -103,4 +103,4 @@ private:
 
 View FrameModifier::modified(View content) && { return newModifier<FrameNode>(std::move(*this), content); }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -4,7 +4,7 @@
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Views/Shapes.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::EdgeInsets;
 using geometry::Point;
@@ -51,4 +51,4 @@ LayerModifier background(const graphics::Color& color, Edge ignoredSafeArea) {
 
 View LayerModifier::modified(View content) && { return newModifier<LayerNode>(std::move(*this), content); }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

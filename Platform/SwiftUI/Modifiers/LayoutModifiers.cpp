@@ -7,7 +7,7 @@
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::EdgeInsets;
 using geometry::Point;
@@ -182,4 +182,4 @@ OffsetModifier offset(double x, double y) { return {{std::isfinite(x) ? x : 0, s
 View OffsetModifier::modified(View content) && { return newModifier<OffsetNode>(std::move(*this), content); }
 View IgnoresSafeAreaModifier::modified(View content) && { return newModifier<IgnoresSafeAreaNode>(std::move(*this), content); }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -7,7 +7,7 @@
 #include "Platform/SwiftUI/Layout/Alignment.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 struct PaddingModifier {
     geometry::EdgeInsets insets;
@@ -115,4 +115,4 @@ inline LayerModifier background(View layer, Alignment alignment = Alignment::cen
 // A colour behind the view, reaching the window's edges along the safe areas.
 LayerModifier background(const graphics::Color& color, Edge ignoredSafeArea = Edge::all);
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -1,6 +1,6 @@
 #include "Platform/SwiftUI/Modifiers/LifecycleModifiers.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 namespace {
 
@@ -44,4 +44,4 @@ View IdModifier::modified(View content) && {
     return content;
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -11,7 +11,7 @@
 #include "Platform/SwiftUI/Tree/View.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 struct AppearanceModifier {
     Action appear;
@@ -133,4 +133,4 @@ View ReceiveModifier<Source, Value>::modified(View content) && {
     return newModifier<detail::ReceiveNode<Source, Value>>(std::move(*this), content);
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

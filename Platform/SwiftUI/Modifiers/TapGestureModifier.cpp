@@ -8,7 +8,7 @@
 #include "Platform/SwiftUI/Tree/SemanticContext.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 namespace {
 
 // A finger that has moved further than this meant something else.
@@ -47,4 +47,4 @@ private:
 
 View TapGestureModifier::modified(View content) && { return newModifier<TapGestureNode>(std::move(*this), content); }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -4,7 +4,7 @@
 #include "Platform/SwiftUI/Tree/Callback.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 struct TapGestureModifier {
     Action action;
@@ -15,4 +15,4 @@ struct TapGestureModifier {
 // disabled.
 inline TapGestureModifier onTapGesture(Action action) { return {std::move(action)}; }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -9,7 +9,7 @@
 #include "Platform/SwiftUI/Tree/EnvironmentValues.hpp"
 #include "Platform/SwiftUI/Tree/State.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class CompositeNode;
 
@@ -65,4 +65,4 @@ private:
     std::size_t m_nextSlot = 0;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

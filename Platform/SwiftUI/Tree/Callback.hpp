@@ -8,7 +8,7 @@
 #include <type_traits>
 #include <utility>
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 template <class Signature>
 class Callback;
@@ -102,4 +102,4 @@ private:
 
 using Action = Callback<void()>;
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -6,7 +6,7 @@
 
 #include "Platform/SwiftUI/Tree/CompositeNode.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // Owns the newest value; closures that a body makes may use `this` for as long as the view is on screen.
 template <class Value>
@@ -74,4 +74,4 @@ requires(!std::same_as<std::remove_cvref_t<Value>, View> && !PrimitiveView<std::
     : View(static_cast<Element*>(
           ElementArena::current().make<CompositeElement<std::remove_cvref_t<Value>>>(std::forward<Value>(value)))) {}
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

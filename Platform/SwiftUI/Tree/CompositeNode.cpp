@@ -4,7 +4,7 @@
 
 #include "Platform/SwiftUI/Tree/BuildContext.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 CompositeNode::~CompositeNode() {
     for (const auto& state : m_states) state->detach();
@@ -69,4 +69,4 @@ void BuildContext::missingObject(std::string_view type) {
                         " in the environment; an environmentObject() further out is missing");
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -8,7 +8,7 @@
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/State.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class CompositeNode : public Node {
 public:
@@ -49,4 +49,4 @@ private:
     std::vector<Observation> m_observations;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

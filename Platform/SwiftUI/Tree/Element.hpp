@@ -6,7 +6,7 @@
 #include "Platform/SwiftUI/Tree/Key.hpp"
 #include "Platform/SwiftUI/Tree/TypeKey.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class Node;
 struct UpdatePass;
@@ -31,4 +31,4 @@ private:
     Element* m_older = nullptr;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -5,7 +5,7 @@
 
 #include "Platform/SwiftUI/Tree/Element.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 namespace {
 constexpr std::size_t chunkSize = 64 * 1024;
@@ -56,4 +56,4 @@ void ElementArena::reset() {
     ++m_generation;
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class Element;
 
@@ -62,4 +62,4 @@ private:
     int m_depth = 0;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -1,6 +1,6 @@
 #include "Platform/SwiftUI/Tree/EnvironmentValues.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 const std::shared_ptr<combine::ObservableObject>* EnvironmentObjects::find(TypeKey type) const {
     for (const Entry& entry : entries)
@@ -34,4 +34,4 @@ std::uint64_t EnvironmentValues::nextVersion() {
     return ++newest;
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

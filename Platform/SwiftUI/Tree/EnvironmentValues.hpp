@@ -15,7 +15,7 @@
 #include "Platform/Graphics/Font.hpp"
 #include "Platform/SwiftUI/Tree/TypeKey.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // Base of what a button looks like; see ButtonStyle.hpp among the views.
 class ButtonStyle;
@@ -70,4 +70,4 @@ struct EnvironmentValues {
     static std::uint64_t nextVersion();
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

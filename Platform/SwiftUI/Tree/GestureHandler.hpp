@@ -3,7 +3,7 @@
 
 #include "Platform/Geometry/Geometry.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // A finger's place and time. `location` is in the coordinates of the view host.
 struct TouchEvent {
@@ -40,4 +40,4 @@ public:
     }
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

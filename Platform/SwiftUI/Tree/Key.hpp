@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // A number or a text; the text belongs to somebody else, for as long as the build that it is used in.
 struct Key {
@@ -48,4 +48,4 @@ private:
     std::uint8_t m_kind = 0;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

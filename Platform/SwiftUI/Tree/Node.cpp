@@ -4,7 +4,7 @@
 #include "Platform/SwiftUI/Animation/Transaction.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 Node::Node() = default;
 Node::~Node() = default;
@@ -73,4 +73,4 @@ bool Node::hasLeft() const {
     return false;
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -71,11 +71,11 @@
 #include "Platform/SwiftUI/Tree/Key.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace runloop {
+namespace proupsells::runloop {
 class Timer;
 }
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class GestureHandler;
 class TransitionNode;
@@ -390,4 +390,4 @@ View newModifier(Value&& value, const View& content) {
     return View(element);
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -4,7 +4,7 @@
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::Point;
 using geometry::ProposedSize;
@@ -154,4 +154,4 @@ LengthRange ModifierNode::lengthRange(Axis axis, std::optional<double> cross) {
     return onlyChild() ? onlyChild()->lengthRange(axis, cross) : LengthRange{};
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

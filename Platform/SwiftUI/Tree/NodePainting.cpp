@@ -3,7 +3,7 @@
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::Point;
 using geometry::Rect;
@@ -77,4 +77,4 @@ Node* Node::firstHandlerNode() {
     return nullptr;
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

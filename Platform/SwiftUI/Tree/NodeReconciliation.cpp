@@ -7,7 +7,7 @@
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 namespace {
 
@@ -173,4 +173,4 @@ void Node::matchKeyedChildren(const ViewList& views, UpdatePass& pass) {
     for (std::size_t slot = 0; slot < views.size(); ++slot) reconcile(m_children[slot], slot, views[slot], pass);
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -3,7 +3,7 @@
 #include "Platform/SwiftUI/Tree/SemanticContext.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::Rect;
 using graphics::PaintState;
@@ -92,4 +92,4 @@ void Node::appendChildSemantics(SemanticContext& context, const PaintState& stat
 void Node::describe(accessibility::Node&, const PaintState&, double) const {}
 void Node::addAttributes(SemanticContext&, const PaintState&) const {}
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -3,7 +3,7 @@
 
 #include "Platform/SwiftUI/Tree/Node.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class RootNode final : public Node {
 public:
@@ -18,4 +18,4 @@ protected:
     void layOut(const geometry::ProposedSize& proposal, geometry::Size size) override;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -9,7 +9,7 @@
 #include "Platform/Accessibility/Node.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // What modifiers say about the first structural node inside them.
 struct SemanticAttributes {
@@ -40,4 +40,4 @@ struct SemanticContext {
     accessibility::Node makeNode(std::string_view type, const graphics::PaintState& state, const geometry::Rect& frame);
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

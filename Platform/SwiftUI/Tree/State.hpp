@@ -9,7 +9,7 @@
 #include "Platform/SwiftUI/Tree/Callback.hpp"
 #include "Platform/SwiftUI/Tree/TypeKey.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class CompositeNode;
 
@@ -85,4 +85,4 @@ private:
     Value m_snapshot;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

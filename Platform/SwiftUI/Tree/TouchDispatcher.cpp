@@ -4,7 +4,7 @@
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 namespace {
 
 bool isInside(const Node* node, const Node& outer) {
@@ -118,4 +118,4 @@ void TouchDispatcher::collectHandlers(Node* hit) {
 
 TouchEvent TouchDispatcher::eventAt(geometry::Point location) const { return {location, m_start, m_host.now_s()}; }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

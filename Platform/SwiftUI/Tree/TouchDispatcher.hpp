@@ -6,7 +6,7 @@
 #include "Platform/Geometry/Geometry.hpp"
 #include "Platform/Host/WindowContent.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class GestureHandler;
 class Node;
@@ -53,4 +53,4 @@ private:
     geometry::Point m_location;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

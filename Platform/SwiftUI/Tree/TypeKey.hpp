@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // Equal for the same type only.
 using TypeKey = const void*;
@@ -48,4 +48,4 @@ constexpr std::string_view typeNameOf() {
         return detail::bareTypeName(detail::prettyFunction<T>());
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

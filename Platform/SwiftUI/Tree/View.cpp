@@ -4,7 +4,7 @@
 
 #include "Platform/Commons/FatalError.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 Element* View::element() const {
     if (m_element && m_generation != ElementArena::current().generation())
@@ -19,4 +19,4 @@ ViewList::ViewList(const View* views, std::size_t count) : m_count(count) {
     m_views = copies;
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -10,7 +10,7 @@
 #include "Platform/SwiftUI/Tree/Element.hpp"
 #include "Platform/SwiftUI/Tree/ElementArena.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class BuildContext;
 class View;
@@ -97,4 +97,4 @@ View operator|(View content, Modifier modifier) {
     return std::move(modifier).modified(content);
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -4,7 +4,7 @@
 #include "Platform/SwiftUI/Tree/RootNode.hpp"
 #include "Platform/SwiftUI/Tree/SemanticContext.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::Point;
 using geometry::ProposedSize;
@@ -172,4 +172,4 @@ Node* ViewHost::nodeAt(Point location) {
 
 bool ViewHost::hits(Point location) { return nodeAt(location) != nullptr; }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -15,7 +15,7 @@
 #include "Platform/SwiftUI/Tree/TouchDispatcher.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class AppearanceObserver;
 class PostLayoutObserver;
@@ -203,4 +203,4 @@ private:
     bool m_hasAppeared = false;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -7,7 +7,7 @@
 #include "Platform/SwiftUI/Tree/RootNode.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::ProposedSize;
 using geometry::Rect;
@@ -203,4 +203,4 @@ void RootNode::layOut(const ProposedSize&, Size) {
     onlyChild()->place(origin + geometry::Point{insets.left, insets.top}, safe);
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -7,7 +7,7 @@
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 #include "Platform/SwiftUI/Views/ButtonStyle.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 namespace {
 
 // How far past its edges a button still counts as held: fingers roll.
@@ -87,4 +87,4 @@ private:
 
 Element* Button::makeElement() && { return newElement<ButtonNode>(std::move(*this)); }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -4,7 +4,7 @@
 #include "Platform/SwiftUI/Tree/Callback.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // Acts when a finger that came down on it lifts, however long it stayed, unless it has slipped off further than a finger's width or
 // a scroll view has claimed it. The whole frame answers. Looks as the style in force makes it; see ButtonStyle.
@@ -15,4 +15,4 @@ struct Button {
     Element* makeElement() &&;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

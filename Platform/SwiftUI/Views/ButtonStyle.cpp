@@ -3,7 +3,7 @@
 #include "Platform/SwiftUI/Modifiers/EffectModifiers.hpp"
 #include "Platform/SwiftUI/Tree/BuildContext.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 namespace {
 
 class AutomaticButtonStyle final : public ButtonStyle {
@@ -31,4 +31,4 @@ const std::shared_ptr<const ButtonStyle>& ButtonStyle::plain() {
     return style;
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -5,7 +5,7 @@
 
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class BuildContext;
 
@@ -28,4 +28,4 @@ public:
     static const std::shared_ptr<const ButtonStyle>& plain();
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

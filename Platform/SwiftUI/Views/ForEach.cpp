@@ -3,7 +3,7 @@
 #include "Platform/SwiftUI/Layout/StackNode.hpp"
 #include "Platform/SwiftUI/Modifiers/LifecycleModifiers.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 namespace {
 
@@ -26,4 +26,4 @@ void ForEach::add(const Key& key, const View& view) {
 
 Element* ForEach::makeElement() && { return newElement<ForEachNode>(ViewList::adopting(m_views, m_count)); }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

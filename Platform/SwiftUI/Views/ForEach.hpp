@@ -6,7 +6,7 @@
 
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // Views are known by their keys: one that moves in the list keeps its state. A key that occurs twice is told apart by its order.
 class ForEach {
@@ -35,4 +35,4 @@ private:
     std::size_t m_capacity = 0;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

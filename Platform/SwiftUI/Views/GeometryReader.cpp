@@ -4,7 +4,7 @@
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 namespace {
 
@@ -53,4 +53,4 @@ private:
 
 Element* GeometryReader::makeElement() && { return newElement<GeometryReaderNode>(std::move(*this)); }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

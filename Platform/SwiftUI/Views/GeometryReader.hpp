@@ -5,7 +5,7 @@
 #include "Platform/SwiftUI/Tree/Callback.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 struct GeometryProxy {
     geometry::Size size;                 // without safe areas
@@ -20,4 +20,4 @@ struct GeometryReader {
     Element* makeElement() &&;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

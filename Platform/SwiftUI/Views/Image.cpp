@@ -3,7 +3,7 @@
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::Size;
 
@@ -54,4 +54,4 @@ private:
 
 Element* Image::makeElement() && { return newElement<ImageNode>(std::move(*this)); }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

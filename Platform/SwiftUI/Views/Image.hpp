@@ -4,7 +4,7 @@
 #include "Platform/Graphics/Image.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // Natural size unless resizable, which takes the size it is offered. A tinted image is painted in the foreground style. Absent
 // images have no size.
@@ -20,4 +20,4 @@ struct Image {
     bool operator==(const Image&) const = default;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

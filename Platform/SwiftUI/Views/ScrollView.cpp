@@ -11,7 +11,7 @@
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 #include "Platform/SwiftUI/Views/Stacks.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 namespace {
 
 // Views learn that they come on screen this often while content moves by itself.
@@ -324,4 +324,4 @@ geometry::Point ScrollViewNode::revealed(const geometry::Rect& inWindow, const S
 
 Element* ScrollView::makeElement() && { return newElement<ScrollViewNode>(std::move(*this)); }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -4,7 +4,7 @@
 #include "Platform/SwiftUI/Layout/Alignment.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // Takes the length that it is offered along its axis, and its content's across. Content may be as long as it likes; several views
 // make a stack. Follows the finger, coasts after a flick, and gives at its ends like rubber, also where the content is shorter than
@@ -17,4 +17,4 @@ struct ScrollView {
     Element* makeElement() &&;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -6,7 +6,7 @@
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 #include "Platform/SwiftUI/Views/Shapes.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::Rect;
 using geometry::Size;
@@ -146,4 +146,4 @@ private:
 Element* Shape::makeElement() && { return newElement<ShapeNode>(std::move(*this)); }
 Element* ColorView::makeElement() && { return newElement<ColorNode>(std::move(*this)); }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

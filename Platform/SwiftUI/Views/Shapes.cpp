@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::Path;
 using geometry::Rect;
@@ -90,4 +90,4 @@ std::string_view Shape::typeName() const {
     }
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -11,7 +11,7 @@
 #include "Platform/SwiftUI/Tree/TypeKey.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // A shape of one's own: `path(in: rect)`, with one number that animates. Same type and same number: same path.
 struct CustomShape {
@@ -89,4 +89,4 @@ struct ColorView {
     bool operator==(const ColorView&) const = default;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

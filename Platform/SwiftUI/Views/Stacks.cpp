@@ -2,7 +2,7 @@
 
 #include "Platform/SwiftUI/Layout/StackNode.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::ProposedSize;
 using geometry::Size;
@@ -131,4 +131,4 @@ Element* ZStack::makeElement() && { return newElement<ZStackNode>(std::move(*thi
 Element* Spacer::makeElement() && { return newElement<SpacerNode>(std::move(*this)); }
 Element* Group::makeElement() && { return newElement<GroupNode>(std::move(*this)); }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -6,7 +6,7 @@
 #include "Platform/SwiftUI/Layout/Alignment.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // From the leading to the trailing edge. The room is shared out to the least flexible view first.
 struct HStack {
@@ -53,4 +53,4 @@ struct EmptyView {
     Element* makeElement() && { return nullptr; }
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

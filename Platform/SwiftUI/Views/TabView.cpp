@@ -9,7 +9,7 @@
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 namespace {
 
 class TagNode final : public ModifierNode {
@@ -187,4 +187,4 @@ Element* TabView::makeElement() && { return newElement<TabViewNode>(std::move(*t
 
 View TagModifier::modified(View content) && { return newModifier<TagNode>(std::move(*this), content); }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -4,7 +4,7 @@
 #include "Platform/SwiftUI/Tree/State.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // Fills what it is offered, and so does each page. The finger turns the pages; the selection is written when it lifts. A selection
 // that is changed from outside slides there directly, by the animation of the change. A page is selected by its tag, or by its
@@ -25,4 +25,4 @@ struct TagModifier {
 // What selects the view in a TabView.
 inline TagModifier tag(int tag) { return {tag}; }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

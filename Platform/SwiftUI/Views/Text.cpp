@@ -9,7 +9,7 @@
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 #include "Platform/SwiftUI/Views/TextStyle.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 using geometry::ProposedSize;
 using geometry::Size;
@@ -204,4 +204,4 @@ void TextNode::describe(accessibility::Node& node, const graphics::PaintState&, 
 
 Element* Text::makeElement() && { return newElement<TextNode>(std::move(*this)); }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

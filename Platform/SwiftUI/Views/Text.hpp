@@ -7,7 +7,7 @@
 #include "Platform/Graphics/AttributedString.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 // A plain text takes font and colour from the environment; so do runs of an attributed one whose font has no size or whose colour
 // has no name. Wraps in the width it is offered, ends in "…" where height or lines run out, and is as wide as its widest line.
@@ -30,4 +30,4 @@ private:
     graphics::AttributedString m_attributed;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -5,7 +5,7 @@
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/SwiftUI/Views/Text.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 TextStyle TextStyle::of(const Text& text, const EnvironmentValues& environment) {
     TextStyle style;
@@ -46,4 +46,4 @@ void TextStyle::makeRuns(const Text& text, const EnvironmentValues& environment,
     for (graphics::StyledRun& run : result) run.font.size *= scale;
 }
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

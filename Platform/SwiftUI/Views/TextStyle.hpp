@@ -10,7 +10,7 @@
 #include "Platform/Graphics/ShapedText.hpp"
 #include "Platform/SwiftUI/Tree/EnvironmentValues.hpp"
 
-namespace swiftui {
+namespace proupsells::swiftui {
 
 class Text;
 
@@ -33,4 +33,4 @@ struct TextStyle {
                   std::vector<graphics::StyledRun>& result) const;
 };
 
-} // namespace swiftui
+} // namespace proupsells::swiftui

@@ -4,7 +4,7 @@
 #include <compare>
 #include <cstddef>
 
-namespace uikit {
+namespace proupsells::uikit {
 
 struct IndexPath {
     std::size_t section = 0;
@@ -13,4 +13,4 @@ struct IndexPath {
     auto operator<=>(const IndexPath&) const = default;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -4,7 +4,7 @@
 
 #include "Platform/Commons/FatalError.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 using Attributes = UICollectionViewLayoutAttributes;
 
@@ -183,4 +183,4 @@ geometry::Rect UICollectionView::frameForItem(IndexPath indexPath) const {
     return {};
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -5,7 +5,7 @@
 #include "Platform/UIKit/Collection/UICollectionViewReusePool.hpp"
 #include "Platform/UIKit/Views/UIScrollView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class UICollectionView : public UIScrollView {
 public:
@@ -75,4 +75,4 @@ private:
     bool m_isPreparedRightToLeft = false;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -1,10 +1,10 @@
 #include "Platform/UIKit/Collection/UICollectionViewCell.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 UICollectionViewCell::UICollectionViewCell() : m_contentView(std::make_shared<UIView>()) {
     addSubview(m_contentView);
     m_contentView->fillSuperview();
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

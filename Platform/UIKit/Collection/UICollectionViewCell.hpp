@@ -3,7 +3,7 @@
 
 #include "Platform/UIKit/Views/UIView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class UICollectionReusableView : public UIView {
 public:
@@ -25,4 +25,4 @@ private:
     std::shared_ptr<UIView> m_contentView;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

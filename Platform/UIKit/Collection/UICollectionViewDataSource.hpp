@@ -4,7 +4,7 @@
 #include "Platform/UIKit/Collection/IndexPath.hpp"
 #include "Platform/UIKit/Collection/UICollectionViewCell.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class UICollectionView;
 
@@ -26,4 +26,4 @@ public:
     }
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

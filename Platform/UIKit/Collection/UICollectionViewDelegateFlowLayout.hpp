@@ -6,7 +6,7 @@
 #include "Platform/UIKit/Collection/UICollectionViewDataSource.hpp"
 #include "Platform/UIKit/Views/UIScrollViewDelegate.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class UICollectionViewFlowLayout;
 
@@ -41,4 +41,4 @@ public:
                                                                  UICollectionElementKind, IndexPath) {}
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

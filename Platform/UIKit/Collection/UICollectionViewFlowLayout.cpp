@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace uikit {
+namespace proupsells::uikit {
 
 namespace {
 
@@ -116,4 +116,4 @@ std::vector<UICollectionViewLayoutAttributes> UICollectionViewFlowLayout::attrib
     return found;
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

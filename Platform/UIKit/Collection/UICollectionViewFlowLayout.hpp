@@ -5,7 +5,7 @@
 
 #include "Platform/UIKit/Collection/UICollectionViewDelegateFlowLayout.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 // Where one item, header or footer stands, in content coordinates.
 struct UICollectionViewLayoutAttributes {
@@ -47,4 +47,4 @@ private:
     geometry::Size m_contentSize;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

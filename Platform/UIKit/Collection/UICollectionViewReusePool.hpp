@@ -8,7 +8,7 @@
 
 #include "Platform/UIKit/Collection/UICollectionViewCell.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 // Sorted by class; a class needs no registration.
 class UICollectionViewReusePool {
@@ -31,4 +31,4 @@ private:
     std::unordered_map<std::type_index, std::vector<std::shared_ptr<UICollectionReusableView>>> m_waiting;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -1,6 +1,6 @@
 #include "Platform/UIKit/Constraints/LayoutItem.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 namespace {
 
@@ -13,4 +13,4 @@ std::uint64_t nextNumber() {
 
 LayoutItem::LayoutItem(UIView& view) : view(&view), number(nextNumber()) {}
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <memory>
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class UIView;
 
@@ -36,4 +36,4 @@ private:
     std::shared_ptr<LayoutItem> m_item;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

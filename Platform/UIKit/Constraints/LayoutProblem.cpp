@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace uikit {
+namespace proupsells::uikit {
 
 namespace {
 
@@ -269,4 +269,4 @@ LinearExpression LayoutProblem::valueOf(const LayoutTerm& term, const LayoutTerm
     return mirrored;
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -8,7 +8,7 @@
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
 #include "Platform/UIKit/Views/UIScrollView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 struct LinearSystem {
     std::size_t variableCount = 0;
@@ -84,4 +84,4 @@ private:
     std::vector<NSLayoutConstraint*> m_origins, m_unkept;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -6,7 +6,7 @@
 
 #include "Platform/Commons/DefaultLogger.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 namespace {
 
@@ -120,4 +120,4 @@ void LayoutSystem::setContentSizes(const Outcome& outcome) {
     }
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

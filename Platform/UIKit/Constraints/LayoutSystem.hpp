@@ -3,7 +3,7 @@
 
 #include "Platform/UIKit/Constraints/LayoutProblem.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 // Belongs to a view whose own size is given (a layout root), or to one whose fitting size is asked for. Remembers its last
 // solutions, and solves nothing as long as views and constraints say the same.
@@ -41,4 +41,4 @@ private:
     bool m_mustPlaceAgain = false;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -1,6 +1,6 @@
 #include "Platform/UIKit/Constraints/LinearExpression.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 void LinearExpression::add(const LinearExpression& other, double factor) {
     constant += factor * other.constant;
@@ -19,4 +19,4 @@ double LinearExpression::valueIn(const std::vector<double>& values) const {
     return value;
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -5,7 +5,7 @@
 
 #include "Platform/UIKit/Constraints/Solver.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 // A linear function of a solver's variables.
 struct LinearExpression {
@@ -25,4 +25,4 @@ struct LinearExpression {
     double valueIn(const std::vector<double>& values) const;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -7,7 +7,7 @@
 
 #include "Platform/UIKit/Constraints/LayoutItem.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class NSLayoutConstraint;
 
@@ -112,4 +112,4 @@ public:
     using LayoutAnchors::LayoutAnchors;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

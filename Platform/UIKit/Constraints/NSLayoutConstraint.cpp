@@ -6,7 +6,7 @@
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/UIKit/Views/UIView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 namespace {
 
@@ -136,4 +136,4 @@ std::string NSLayoutConstraint::description() const {
     return text;
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -7,7 +7,7 @@
 #include "Platform/UIKit/Constraints/NSLayoutAnchor.hpp"
 #include "Platform/UIKit/Views/UIKitTypes.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class UIView;
 
@@ -72,4 +72,4 @@ private:
     bool m_isBroken = false;              // said so in the log
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

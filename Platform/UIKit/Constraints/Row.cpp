@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace uikit::constraints {
+namespace proupsells::uikit::constraints {
 
 namespace {
 
@@ -76,4 +76,4 @@ bool Row::substitute(Symbol symbol, const Row& row) {
     return true;
 }
 
-} // namespace uikit::constraints
+} // namespace proupsells::uikit::constraints

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace uikit::constraints {
+namespace proupsells::uikit::constraints {
 
 using Symbol = std::uint32_t;
 
@@ -39,4 +39,4 @@ private:
     std::vector<Cell> m_cells;
 };
 
-} // namespace uikit::constraints
+} // namespace proupsells::uikit::constraints

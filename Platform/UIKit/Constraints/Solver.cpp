@@ -9,7 +9,7 @@
 
 #include "Platform/UIKit/Constraints/Row.hpp"
 
-namespace uikit::constraints {
+namespace proupsells::uikit::constraints {
 
 namespace {
 
@@ -253,4 +253,4 @@ double Solver::value(Variable variable) const {
     return row ? row->constant : 0;
 }
 
-} // namespace uikit::constraints
+} // namespace proupsells::uikit::constraints

@@ -9,7 +9,7 @@
 #include <memory>
 #include <vector>
 
-namespace uikit::constraints {
+namespace proupsells::uikit::constraints {
 
 enum class Relation : std::uint8_t { lessThanOrEqual, equal, greaterThanOrEqual };
 
@@ -59,4 +59,4 @@ private:
     std::unique_ptr<Tableau> m_tableau;
 };
 
-} // namespace uikit::constraints
+} // namespace proupsells::uikit::constraints

@@ -3,7 +3,7 @@
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
 #include "Platform/UIKit/Views/UIView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 bool UIView::hasConstrainedSubviews() const {
     for (const auto& subview : m_subviews)
@@ -55,4 +55,4 @@ geometry::Size UIView::systemLayoutSizeFitting(const geometry::ProposedSize& pro
     return m_layoutSystem->fittingSize(*this, proposal);
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

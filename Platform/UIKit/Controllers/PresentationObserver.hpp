@@ -3,7 +3,7 @@
 
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class PresentationObserver {
 public:
@@ -15,4 +15,4 @@ public:
     virtual void willDismiss(UIViewController& controller, UIViewController& content) = 0;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -3,7 +3,7 @@
 #include "Platform/Commons/DefaultLogger.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 PresentationStack::~PresentationStack() {
     if (m_timer) m_timer->invalidate();
@@ -182,4 +182,4 @@ std::size_t PresentationStack::indexOf(const UIViewController& controller) const
     return index;
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

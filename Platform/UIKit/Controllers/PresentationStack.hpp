@@ -8,7 +8,7 @@
 #include "Platform/UIKit/Controllers/PresentationObserver.hpp"
 #include "Platform/UIKit/Controllers/UIPresentationView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 // One presentation or dismissal is on its way at a time; what is asked for meanwhile, from inside any callback too, waits for it.
 // One that is not animated is over before the next one begins, in the same turn.
@@ -70,4 +70,4 @@ private:
     int m_generation = 0; // counts removeAll
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -1,6 +1,6 @@
 #include "Platform/UIKit/Controllers/TouchRouter.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 void TouchRouter::touch(const host::Touch& touch) {
     const bool begins = touch.phase == host::TouchPhase::began;
@@ -61,4 +61,4 @@ void TouchRouter::cancel() {
     target->touchesCancelled(over);
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

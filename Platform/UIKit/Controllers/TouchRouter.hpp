@@ -5,7 +5,7 @@
 
 #include "Platform/UIKit/Views/UIView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 // The deepest view under the finger has the touch until it ends, or until a view around it takes it over.
 class TouchRouter {
@@ -28,4 +28,4 @@ private:
     UITouch m_last;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -2,7 +2,7 @@
 
 #include "Platform/UIKit/Views/UITraitCollection.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 std::string_view presentationStyleName(UIModalPresentationStyle style) {
     switch (style) {
@@ -30,4 +30,4 @@ geometry::Rect presentationFrame(UIModalPresentationStyle style, geometry::Size 
     return {{(windowSize.width - width) / 2, top}, {width, windowSize.height - top}};
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -5,7 +5,7 @@
 
 #include "Platform/Geometry/Geometry.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 enum class UIModalPresentationStyle {
     automatic,  // a page sheet
@@ -20,4 +20,4 @@ std::string_view presentationStyleName(UIModalPresentationStyle style);
 // Where a controller of a style and a preferred size (zero for none) stands in a window. A card is never larger than the window.
 geometry::Rect presentationFrame(UIModalPresentationStyle style, geometry::Size preferredSize, geometry::Size windowSize);
 
-} // namespace uikit
+} // namespace proupsells::uikit

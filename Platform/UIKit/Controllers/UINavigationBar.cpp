@@ -1,6 +1,6 @@
 #include "Platform/UIKit/Controllers/UINavigationBar.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 UINavigationBar::UINavigationBar() : m_title(std::make_shared<UILabel>()) {
     m_title->setTextAlignment(graphics::TextAlignment::center);
@@ -55,4 +55,4 @@ void UINavigationBar::layoutSubviews() {
     m_title->setFrame({{room.minX() + taken, middle - titleHeight / 2}, {std::max(0.0, room.width() - 2 * taken), titleHeight}});
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

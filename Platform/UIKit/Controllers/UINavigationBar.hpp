@@ -5,7 +5,7 @@
 #include "Platform/UIKit/Controls/UIButton.hpp"
 #include "Platform/UIKit/Views/UILabel.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 // The title in the middle, the right bar-button item at the trailing end. Its unsafe top is part of the background only.
 class UINavigationBar final : public UIView {
@@ -23,4 +23,4 @@ private:
     std::shared_ptr<UIButton> m_button; // null without an item
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -3,7 +3,7 @@
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/UIKit/Controllers/UINavigationBar.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 std::shared_ptr<UINavigationController> UINavigationController::create(std::shared_ptr<UIViewController> root) {
     if (!root) commons::fatalError("UINavigationController: there is no root controller");
@@ -59,4 +59,4 @@ void UINavigationController::updateBar() {
     m_bar->setItem(item);
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

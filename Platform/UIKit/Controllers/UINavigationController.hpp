@@ -3,7 +3,7 @@
 
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class UINavigationBar;
 
@@ -40,4 +40,4 @@ private:
     UIColor m_barBackgroundColor = {"systemBackground", graphics::rgb(0xFFFFFF), graphics::rgb(0x000000)};
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

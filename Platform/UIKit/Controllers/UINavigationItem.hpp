@@ -6,11 +6,11 @@
 
 #include "Platform/UIKit/Controls/UIBarButtonItem.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 struct UINavigationItem {
     std::string title;                                 // empty: the controller's title
     std::optional<UIBarButtonItem> rightBarButtonItem; // stands at the trailing end
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -2,7 +2,7 @@
 
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 // Clips the presented view to its corners where it does not fill the window.
 class UIPresentationCard final : public UIView {
@@ -111,4 +111,4 @@ accessibility::Node UIPresentationView::contentNode(const graphics::PaintState& 
     return std::move(card.children.front());
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -4,7 +4,7 @@
 #include "Platform/Motion/TimingCurve.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class UIPresentationCard;
 
@@ -49,4 +49,4 @@ private:
     double m_start_s = 0;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

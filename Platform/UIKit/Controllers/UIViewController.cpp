@@ -5,7 +5,7 @@
 #include "Platform/UIKit/Controllers/UINavigationController.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 UIViewController::~UIViewController() {
     if (m_view) m_view->m_viewController = nullptr;
@@ -94,4 +94,4 @@ geometry::Rect UIViewController::expectedFrame(const UIWindow& window) const {
     return presentationFrame(m_modalPresentationStyle, m_preferredContentSize, window.frame().size);
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

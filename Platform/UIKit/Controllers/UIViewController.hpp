@@ -9,7 +9,7 @@
 #include "Platform/UIKit/Controllers/UINavigationItem.hpp"
 #include "Platform/UIKit/Views/UIView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class UINavigationController;
 
@@ -146,4 +146,4 @@ private:
     std::weak_ptr<UIWindow> m_expectedWindow; // of the root controller and of presented ones
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -2,7 +2,7 @@
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 void UIViewController::addChild(const std::shared_ptr<UIViewController>& child) {
     if (!child) commons::fatalError("UIViewController: there is no child to add");
@@ -93,4 +93,4 @@ UIViewController& UIViewController::outermostParent() {
     return const_cast<UIViewController&>(static_cast<const UIViewController*>(this)->outermostParent());
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -4,7 +4,7 @@
 #include "Platform/UIKit/Controllers/PresentationStack.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 namespace {
 
@@ -62,4 +62,4 @@ UIViewController* UIViewController::presentingViewController() const {
     return outermostParent().m_presenting.lock().get();
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -4,7 +4,7 @@
 #include "Platform/UIKit/Controllers/TouchRouter.hpp"
 #include "Platform/UIKit/Views/UIScrollView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 UIWindow::UIWindow(Creation)
     : m_presentations(std::make_unique<PresentationStack>(*this)), m_touches(std::make_unique<TouchRouter>(*this)) {
@@ -179,4 +179,4 @@ void UIWindow::scroll(geometry::Point location, geometry::Point delta) {
     if (UIView* hit = hitTest(location)) hit->scrollBy(hit->convertFrom(location, nullptr), delta);
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -8,7 +8,7 @@
 #include "Platform/UIKit/Controllers/PresentationObserver.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class PresentationStack;
 class TouchRouter;
@@ -92,4 +92,4 @@ private:
     std::optional<std::size_t> m_focus; // index among the focusable controls; absent until a key is used
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

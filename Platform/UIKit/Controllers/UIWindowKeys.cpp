@@ -1,7 +1,7 @@
 // Operating a screen by keys.
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 namespace {
 
@@ -75,4 +75,4 @@ void UIWindow::paintFocusRing(graphics::PaintContext& context) {
                                    geometry::CornerStyle::continuous, width, tintColor().value_or(ring).resolved(state.scheme));
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -7,7 +7,7 @@
 #include "Platform/UIKit/Views/UIKitTypes.hpp"
 #include "Platform/UIKit/Views/UIResponder.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 struct UIBarButtonItem {
     UIImage image; // null: the title is shown
@@ -30,4 +30,4 @@ struct UIBarButtonItem {
     }
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -1,6 +1,6 @@
 #include "Platform/UIKit/Controls/UIButton.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 void UIButton::setImage(UIImage image) {
     if (m_image == image) return;
@@ -32,4 +32,4 @@ void UIButton::describe(accessibility::Node& node, const graphics::PaintState& s
     if (m_image) node.image = m_image->name;
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -3,7 +3,7 @@
 
 #include "Platform/UIKit/Controls/UIControl.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 // Of the custom type: no title, tint or background of its own. Shows its image at its natural size in the centre, and its subviews,
 // which should not take touches. Answers a finger by dimming.
@@ -26,4 +26,4 @@ private:
     UIImage m_image;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

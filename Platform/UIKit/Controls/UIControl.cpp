@@ -1,6 +1,6 @@
 #include "Platform/UIKit/Controls/UIControl.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 void UIControl::addEntry(Entry entry) { m_entries.push_back(std::move(entry)); }
 
@@ -86,4 +86,4 @@ void UIControl::describe(accessibility::Node& node, const graphics::PaintState&)
     };
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -6,7 +6,7 @@
 
 #include "Platform/UIKit/Views/UIView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class UIControl : public UIView {
 public:
@@ -82,4 +82,4 @@ private:
     bool m_isTracking = false;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

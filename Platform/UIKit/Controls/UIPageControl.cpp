@@ -5,7 +5,7 @@
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Foundation/Format.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 void UIPageControl::setNumberOfPages(int count) {
     count = std::max(0, count);
@@ -79,4 +79,4 @@ void UIPageControl::describe(accessibility::Node& node, const graphics::PaintSta
     };
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -3,7 +3,7 @@
 
 #include "Platform/UIKit/Controls/UIControl.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 // Cells of 10 points, centred; the first one is the leading one. A tap goes to the page of the nearest dot.
 class UIPageControl : public UIControl {
@@ -47,4 +47,4 @@ private:
     BackgroundStyle m_backgroundStyle = BackgroundStyle::automatic;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -1,6 +1,6 @@
 #include "Platform/UIKit/Views/ScrollMovement.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 ScrollMovement ScrollMovement::animation(geometry::Point from, geometry::Point to, const motion::Animation& animation,
                                          double start_s) {
@@ -42,4 +42,4 @@ bool ScrollMovement::isOverAt(double now_s) const {
     return now_s >= end_s() - rounding_s;
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -5,7 +5,7 @@
 #include "Platform/Motion/ScrollMotion.hpp"
 #include "Platform/Motion/TimingCurve.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 // All times are the run loop's, in seconds.
 class ScrollMovement {
@@ -38,4 +38,4 @@ private:
     motion::Animation m_animation;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -1,6 +1,6 @@
 #include "Platform/UIKit/Views/UIImageView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 UIImageView::UIImageView(UIImage image) : m_image(std::move(image)) {
     constexpr UILayoutPriority hugging = 251; // before plain views
@@ -47,4 +47,4 @@ void UIImageView::describe(accessibility::Node& node, const graphics::PaintState
     if (m_image) node.image = m_image->name;
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -3,7 +3,7 @@
 
 #include "Platform/UIKit/Views/UIView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class UIImageView : public UIView {
 public:
@@ -31,4 +31,4 @@ private:
     ContentMode m_contentMode = ContentMode::scaleToFill;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

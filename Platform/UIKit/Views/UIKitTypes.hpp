@@ -7,7 +7,7 @@
 #include "Platform/Graphics/Font.hpp"
 #include "Platform/Graphics/Image.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 using UIColor = graphics::Color;
 using UIFont = graphics::Font;
@@ -23,4 +23,4 @@ inline constexpr UILayoutPriority layoutPriorityRequired = 1000;
 inline constexpr UILayoutPriority layoutPriorityHigh = 750;
 inline constexpr UILayoutPriority layoutPriorityLow = 250;
 
-} // namespace uikit
+} // namespace proupsells::uikit

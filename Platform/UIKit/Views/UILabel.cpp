@@ -5,7 +5,7 @@
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/Host/TextCache.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 namespace {
 
@@ -158,7 +158,8 @@ const UILabel::Drawn& UILabel::drawn(graphics::ColorScheme scheme) const {
                            m_drawn->scheme == scheme && m_drawn->language == language();
     if (isCurrent) return *m_drawn;
     const auto runs = runsScaledBy(scaleIn(bounds().size));
-    Drawn drawn{bounds().size, direction(), scheme, std::string(language()), laidOut(runs, bounds().size), shaped(runs), ellipsis(), {}};
+    Drawn drawn{bounds().size, direction(), scheme, std::string(language()), laidOut(runs, bounds().size),
+                shaped(runs),  ellipsis(),  {}};
     for (const graphics::AttributedRun& run : m_content.runs())
         drawn.paints.push_back({run.attributes.color.resolved(scheme), run.attributes.isStruckThrough});
     m_drawn = std::move(drawn);
@@ -194,4 +195,4 @@ void UILabel::describe(accessibility::Node& node, const graphics::PaintState&) c
     node.text = std::move(info);
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

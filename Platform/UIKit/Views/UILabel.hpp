@@ -5,7 +5,7 @@
 #include "Platform/Graphics/TextPainting.hpp"
 #include "Platform/UIKit/Views/UIView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 // Plain text in one font and colour, or attributed text. Stands vertically centred in its bounds; what does not fit is cut with
 // "…".
@@ -82,4 +82,4 @@ private:
     mutable std::optional<Drawn> m_drawn;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

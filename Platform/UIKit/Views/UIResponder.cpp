@@ -2,7 +2,7 @@
 
 #include "Platform/UIKit/Views/UIView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 geometry::Point UITouch::location(const UIView& view) const { return view.convertFrom(windowLocation, nullptr); }
 
@@ -34,4 +34,4 @@ void UIResponder::touchesCancelled(const UITouch& touch) {
     if (UIResponder* next = nextResponder()) next->touchesCancelled(touch);
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

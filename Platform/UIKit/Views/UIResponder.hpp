@@ -6,7 +6,7 @@
 
 #include "Platform/UIKit/Views/UITouch.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 // The name of an action that somebody up the responder chain answers. Names live as long as the process.
 struct Selector {
@@ -53,4 +53,4 @@ std::shared_ptr<Responder> strongReference(Responder& responder) {
     return std::static_pointer_cast<Responder>(responder.weak_from_this().lock());
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

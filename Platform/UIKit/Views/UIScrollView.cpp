@@ -4,7 +4,7 @@
 
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 namespace {
 
@@ -283,4 +283,4 @@ void UIScrollView::describe(accessibility::Node& node, const graphics::PaintStat
     node.scroll = accessibility::ScrollInfo{contentOffset(), m_contentSize, adjustedContentInset()};
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -9,7 +9,7 @@
 #include "Platform/UIKit/Views/UIScrollViewDelegate.hpp"
 #include "Platform/UIKit/Views/UIView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 // Its subviews' frames are in content coordinates; the content offset is the origin of its bounds. Seen from the content, the
 // scroll view's edge anchors are the content's edges; its width, height and centre are the frame's.
@@ -148,4 +148,4 @@ private:
     graphics::ScrollIndicator m_indicator;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -1,7 +1,7 @@
 // Told of what a scroll view does.
 #pragma once
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class UIScrollView;
 
@@ -18,4 +18,4 @@ public:
     virtual void scrollViewDidEndScrollingAnimation(UIScrollView&) {}
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

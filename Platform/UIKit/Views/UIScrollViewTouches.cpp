@@ -5,7 +5,7 @@
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Platform/UIKit/Views/UIScrollView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 namespace {
 
@@ -167,4 +167,4 @@ void UIScrollView::scrollRectToVisible(const geometry::Rect& rect) {
     UIView::scrollRectToVisible(rect);
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

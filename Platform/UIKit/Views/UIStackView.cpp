@@ -1,6 +1,6 @@
 #include "Platform/UIKit/Views/UIStackView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 void UIStackView::addArrangedSubview(const std::shared_ptr<UIView>& view) {
     const auto kept = view;
@@ -161,4 +161,4 @@ void UIStackView::layoutSubviews() {
     }
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -3,7 +3,7 @@
 
 #include "Platform/UIKit/Views/UIView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 // Hidden views take no room. A row begins at the leading edge. Constraints on an arranged view's own size, and inside it, count for
 // its natural size; constraints between arranged views do not.
@@ -63,4 +63,4 @@ private:
     Alignment m_alignment = Alignment::fill;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

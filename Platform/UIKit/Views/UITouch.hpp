@@ -3,7 +3,7 @@
 
 #include "Platform/Host/WindowContent.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class UIView;
 
@@ -18,4 +18,4 @@ struct UITouch {
     geometry::Point startLocation(const UIView& view) const;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

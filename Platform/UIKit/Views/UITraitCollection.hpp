@@ -5,7 +5,7 @@
 #include "Platform/Graphics/Color.hpp"
 #include "Platform/Graphics/ContentSize.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 enum class UIUserInterfaceSizeClass { compact, regular };
 
@@ -27,4 +27,4 @@ struct UITraitCollection {
     bool operator==(const UITraitCollection&) const = default;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

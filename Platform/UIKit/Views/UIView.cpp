@@ -4,7 +4,7 @@
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 UIView::UIView(const geometry::Rect& frame) : m_frame(frame) {}
 
@@ -213,4 +213,4 @@ void UIView::setTintColor(const std::optional<UIColor>& color) {
 
 void UIView::setUserInteractionEnabled(bool enabled) { m_isUserInteractionEnabled = enabled; }
 
-} // namespace uikit
+} // namespace proupsells::uikit

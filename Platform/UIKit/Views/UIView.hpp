@@ -13,7 +13,7 @@
 #include "Platform/UIKit/Views/UIResponder.hpp"
 #include "Platform/UIKit/Views/UITraitCollection.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 class LayoutProblem;
 class LayoutSystem;
@@ -301,4 +301,4 @@ private:
     std::string m_accessibilityValue;
 };
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -2,7 +2,7 @@
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 #include "Platform/UIKit/Views/UIView.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 void UIView::setFrame(const geometry::Rect& frame) {
     if (m_frame == frame) return;
@@ -79,4 +79,4 @@ void UIView::scrollRectToVisible(const geometry::Rect& rect) {
     if (m_superview) m_superview->scrollRectToVisible(toSuperview().apply(rect));
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

@@ -1,7 +1,7 @@
 // The layout pass: from the outside in, only where it is due.
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 namespace {
 
@@ -108,4 +108,4 @@ void UIView::setTranslatesAutoresizingMaskIntoConstraints(bool translates) {
     if (m_superview) m_superview->layoutSystemDidChange();
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit

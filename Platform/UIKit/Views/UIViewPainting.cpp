@@ -4,7 +4,7 @@
 
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
-namespace uikit {
+namespace proupsells::uikit {
 
 void UIView::setNeedsDisplay() {
     for (UIView* view = this; view; view = view->m_superview) view->subtreeNeedsDisplay();
@@ -109,4 +109,4 @@ void UIView::appendSubviewNodes(std::vector<accessibility::Node>& nodes, const g
     for (const auto& subview : m_subviews) nodes.push_back(subview->semanticNode(state));
 }
 
-} // namespace uikit
+} // namespace proupsells::uikit
