@@ -30,7 +30,7 @@ std::string escaped(unsigned char character) {
     return isControl ? unicodeEscape(character) : std::string(1, static_cast<char>(character));
 }
 
-std::string quoted(std::string_view text) {
+std::string inQuotes(std::string_view text) {
     std::string result = "\"";
     for (std::size_t i = 0; i < text.size(); ++i) {
         const auto byte = static_cast<unsigned char>(text[i]);
@@ -50,7 +50,7 @@ std::string quoted(std::string_view text) {
 
 std::string Referrer::ElementID::description() const {
     if (const auto* number = std::get_if<Int>(&value)) return "int(" + std::to_string(number->value) + ")";
-    return "uuid(" + quoted(std::get<Uuid>(value).value) + ")";
+    return "uuid(" + inQuotes(std::get<Uuid>(value).value) + ")";
 }
 
 Referrer::Referrer(std::string name, std::optional<std::int64_t> elementID) : name(std::move(name)) {
