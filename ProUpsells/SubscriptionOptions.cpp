@@ -13,7 +13,8 @@ using namespace swiftui;
 namespace {
 
 std::string selectedSKU(const UpsellViewModel& model, int selectedIndex) {
-    return model.options->empty() ? std::string() : selectedOption(model, selectedIndex).SKU();
+    const SubscriptionOption* option = selectedOption(model, selectedIndex);
+    return option ? option->SKU() : std::string();
 }
 
 // Of the first option with the SKU; 0 when there is none.
@@ -26,12 +27,13 @@ int indexOfSKU(const UpsellViewModel& model, const std::string& SKU) {
 
 } // namespace
 
-const SubscriptionOption& selectedOption(const UpsellViewModel& model, int selectedIndex) {
+const SubscriptionOption* selectedOption(const UpsellViewModel& model, int selectedIndex) {
     const auto& options = model.options.get();
+    if (options.empty()) return nullptr;
     if (selectedIndex < 0 || static_cast<std::size_t>(selectedIndex) >= options.size())
         commons::fatalError("Index out of range: the selected option is number " + std::to_string(selectedIndex) + " of " +
                             std::to_string(options.size()));
-    return options[static_cast<std::size_t>(selectedIndex)];
+    return &options[static_cast<std::size_t>(selectedIndex)];
 }
 
 View SubscriptionOptions::body(BuildContext& context) const {

@@ -12,14 +12,15 @@ namespace proupsells {
 struct SubscriptionOptions {
     std::shared_ptr<UpsellEnvironment> upsellEnvironment;
     std::shared_ptr<UpsellViewModel> model;
-    // Among the model's options. Reading the selection of an index outside a list that is not empty stops the program.
+    // Among the model's options; see selectedOption.
     swiftui::Binding<int> selectedIndex;
 
     swiftui::View body(swiftui::BuildContext& context) const;
     bool operator==(const SubscriptionOptions&) const = default;
 };
 
-// The option at the index. Stops the program where there is none.
-const SubscriptionOption& selectedOption(const UpsellViewModel& model, int selectedIndex);
+// The option at the index; null when the list is empty. An index outside a list that is not empty stops the program: "Index out of
+// range: the selected option is number 1 of 1".
+const SubscriptionOption* selectedOption(const UpsellViewModel& model, int selectedIndex);
 
 } // namespace proupsells

@@ -41,18 +41,21 @@ struct Paywall {
 View Paywall::logo() const { return HeaderImage{} | frame(208, 26) | padding(Edge::top, 5) | padding(Edge::bottom, 0); }
 
 View Paywall::subscribeButton() const {
-    // Without any plan there is nothing to read the words from, and nothing to buy.
-    if (model->options->empty()) return SubscribeButton{.text = localizedString("Subscribe Now"), .isEnabled = false};
-    return SubscribeButton{.text = CallToActionTexts::subscribeButtonTitle(selectedOption(*model, selectedIndex.get())),
-                           .action = [model = model, index = selectedIndex] {
-                               model->tapEventOccurred.send({TapEvent::Purchase{selectedOption(*model, index.get())}});
-                           }};
+    const SubscriptionOption* option = selectedOption(*model, selectedIndex.get());
+    return SubscribeButton{.text = option ? CallToActionTexts::subscribeButtonTitle(*option) : localizedString("Subscribe Now"),
+                           // The plans may have changed since the button was made, so what is bought is read anew.
+                           .action =
+                               [model = model, index = selectedIndex] {
+                                   if (const SubscriptionOption* bought = selectedOption(*model, index.get()))
+                                       model->tapEventOccurred.send({TapEvent::Purchase{*bought}});
+                               },
+                           .isEnabled = option != nullptr};
 }
 
 View Paywall::disclaimer(bool isCompact) const {
     std::optional<std::string> payment;
-    if (!model->options->empty())
-        payment = CallToActionTexts::paymentDisclaimer(selectedOption(*model, selectedIndex.get()), *model);
+    if (const SubscriptionOption* option = selectedOption(*model, selectedIndex.get()))
+        payment = CallToActionTexts::paymentDisclaimer(*option, *model);
     return VStack{.content = DisclaimerBlock{.payment = std::move(payment), .isCompact = isCompact, .model = model}};
 }
 

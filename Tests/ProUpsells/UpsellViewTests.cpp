@@ -128,6 +128,67 @@ TEST(UpsellView, SendsThePlanOfTheMomentOfTheTap) {
     EXPECT_THAT(paywall.events, ElementsAre(TapEvent{TapEvent::Purchase{yearly("$1")}}));
 }
 
+TEST(UpsellView, SellsNothingWhenThePlansGoWhileAFingerIsDown) {
+    for (const bool isRedrawn : {false, true}) {
+        Paywall paywall(twoPlans());
+        const Point subscribe = paywall.frame("subscribe").center();
+        paywall.touch(host::TouchPhase::began, subscribe);
+
+        paywall.model->options = std::vector<SubscriptionOption>{};
+        if (isRedrawn) paywall.settle();
+        paywall.touch(host::TouchPhase::ended, subscribe);
+        paywall.settle();
+
+        EXPECT_THAT(paywall.events, IsEmpty());
+        EXPECT_TRUE(contains(paywall.find("subscribe").traits, accessibility::Traits::disabled));
+    }
+}
+
+TEST(UpsellView, SellsThePlanThatIsThereWhenTheFingerLifts) {
+    for (const auto& plans : {std::vector{yearly("$1"), monthly()}, std::vector{yearly("$1")}})
+        for (const bool isRedrawn : {false, true}) {
+            Paywall paywall(twoPlans());
+            const Point subscribe = paywall.frame("subscribe").center();
+            paywall.touch(host::TouchPhase::began, subscribe);
+
+            paywall.model->options = plans;
+            if (isRedrawn) paywall.settle();
+            paywall.touch(host::TouchPhase::ended, subscribe);
+
+            EXPECT_THAT(paywall.events, ElementsAre(TapEvent{TapEvent::Purchase{yearly("$1")}}));
+        }
+}
+
+TEST(UpsellView, SellsNothingToAssistiveTechnologyOnceThePlansAreGone) {
+    for (const bool isRedrawn : {false, true}) {
+        Paywall paywall(twoPlans());
+        const auto activate = paywall.find("subscribe").activate;
+
+        paywall.model->options = std::vector<SubscriptionOption>{};
+        if (isRedrawn) paywall.settle();
+        activate();
+
+        EXPECT_THAT(paywall.events, IsEmpty());
+    }
+}
+
+TEST(UpsellView, PicksNothingOnceThePlansAreGone) {
+    Paywall paywall(twoPlans());
+    const Point card = paywall.frame("plan.pro.monthly").center();
+    const auto activate = paywall.find("plan.pro.monthly").activate;
+    paywall.touch(host::TouchPhase::began, card);
+
+    paywall.model->options = std::vector<SubscriptionOption>{};
+    paywall.touch(host::TouchPhase::ended, card);
+    activate();
+    paywall.settle();
+    activate();
+    paywall.model->options = std::vector{yearly()};
+    paywall.settle();
+
+    EXPECT_THAT(paywall.selectedIdentifiers(), ElementsAre("plan.pro.yearly"));
+}
+
 TEST(UpsellView, FadesTheGradientOutInTheDark) {
     Paywall paywall(twoPlans());
     EXPECT_EQ(termsGradient(paywall).opacity, 1);
@@ -214,6 +275,19 @@ TEST(UpsellViewDeathTest, StopsTheProgramWhenTheListIsShorterThanTheSelection) {
             paywall.settle();
         },
         "Index out of range");
+}
+
+TEST(UpsellViewDeathTest, StopsTheProgramWhenTheSelectedPlanGoesWhileAFingerIsDown) {
+    EXPECT_DEATH(
+        {
+            Paywall paywall(twoPlans());
+            paywall.tap("plan.pro.monthly");
+            const Point subscribe = paywall.frame("subscribe").center();
+            paywall.touch(host::TouchPhase::began, subscribe);
+            paywall.model->options = std::vector{yearly()};
+            paywall.touch(host::TouchPhase::ended, subscribe);
+        },
+        "Index out of range: the selected option is number 1 of 1");
 }
 
 TEST(UpsellViewDeathTest, StopsTheProgramWithoutItsEnvironment) {

@@ -56,6 +56,11 @@ protected:
     std::shared_ptr<UpsellViewController> paywall() const {
         return std::dynamic_pointer_cast<UpsellViewController>(entry->children().at(0));
     }
+    void tap(geometry::Point where) {
+        window->touch({host::TouchPhase::began, where, bed.now_s()});
+        window->touch({host::TouchPhase::ended, where, bed.now_s()});
+        bed.settle();
+    }
     void send(TapEvent event) { paywall()->upsellViewModel()->tapEventOccurred.send(event); }
 
     headless::TestBed bed;
@@ -304,9 +309,7 @@ TEST_F(EntryController, SurvivesARealTapThatReleasesEverything) {
     const auto where = find(window->semanticTree(), "subscribe").frame.center();
     ledger.clear();
 
-    window->touch({host::TouchPhase::began, where, bed.now_s()});
-    window->touch({host::TouchPhase::ended, where, bed.now_s()});
-    bed.settle();
+    tap(where);
 
     EXPECT_EQ(ledger.size(), 3u);
 }
@@ -327,6 +330,35 @@ TEST_F(EntryController, SurvivesADelegateThatChangesOptionsOrDismissesFromInside
                 ElementsAre("delegate.didContinueWith(pro.yearly)", "optionSelected(pro.yearly, " + home + ", " + title + ")",
                             "purchaseTapped(pro.yearly, " + home + ", " + title + ", VELA_PRO)"));
     EXPECT_EQ(window->rootViewController()->presentedViewController(), nullptr);
+}
+
+TEST_F(EntryController, SellsNothingMoreOnceADelegateHasEmptiedTheOptionsFromInsideACall) {
+    setHost();
+    present();
+    ledger.clear();
+    delegate->duringCall = [](VelaProUpsellViewController& sender) { sender.setOptions({}); };
+    const auto subscribe = find(window->semanticTree(), "subscribe");
+
+    tap(subscribe.frame.center());
+    tap(find(window->semanticTree(), "subscribe").frame.center());
+    subscribe.activate();
+
+    EXPECT_THAT(ledger,
+                ElementsAre("delegate.didContinueWith(pro.yearly)", "optionSelected(pro.yearly, " + home + ", " + title + ")",
+                            "purchaseTapped(pro.yearly, " + home + ", " + title + ", VELA_PRO)"));
+}
+
+TEST_F(EntryController, SellsThePlanThatADelegateHasPutInPlaceFromInsideACall) {
+    setHost();
+    present();
+    delegate->duringCall = [](VelaProUpsellViewController& sender) { sender.setOptions({monthly("$1", {}, "new")}); };
+    tap(find(window->semanticTree(), "subscribe").frame.center());
+    ledger.clear();
+
+    tap(find(window->semanticTree(), "subscribe").frame.center());
+
+    EXPECT_THAT(ledger, ElementsAre("delegate.didContinueWith(new)", "optionSelected(new, " + home + ", " + title + ")",
+                                    "purchaseTapped(new, " + home + ", " + title + ", VELA_PRO)"));
 }
 
 TEST_F(EntryController, LeavesNothingBehindWhenItIsClosed) {
