@@ -16,7 +16,7 @@ public:
     template <class Target, class Action>
     static std::shared_ptr<uikit::UIButton> button(const std::weak_ptr<Target>& target, Action action,
                                                    std::initializer_list<uikit::UIControl::Event> events) {
-        const auto made = plainButton();
+        const auto made = makeButton();
         for (const auto event : events) made->addTarget(target, action, event);
         return made;
     }
@@ -25,7 +25,7 @@ public:
                                                    std::initializer_list<uikit::UIControl::Event> events);
 
 private:
-    static std::shared_ptr<uikit::UIButton> plainButton();
+    static std::shared_ptr<uikit::UIButton> makeButton();
 };
 
 } // namespace proupsells
