@@ -1,13 +1,22 @@
 // The module's images, by name.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <string>
 
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Graphics/Image.hpp"
+#include "ProUpsells/ResourceBundleClass.hpp"
 
 namespace proupsells {
+
+// A text that can be a template's argument.
+template <std::size_t length>
+struct AssetName {
+    consteval AssetName(const char (&text)[length]) { std::copy_n(text, length, characters); }
+    char characters[length]{};
+};
 
 struct ImageResource {
     std::string name; // as the asset is stored, odd spelling included
@@ -15,23 +24,34 @@ struct ImageResource {
 
     bool operator==(const ImageResource&) const = default;
 
-    static const ImageResource& buttonArrowRight();
-    static const ImageResource& caretRight();
-    static const ImageResource& closeStorePageButton();
-    static const ImageResource& fonts0StorePageShelfImage();
-    static const ImageResource& graphics0StorePageShelfImage();
-    static const ImageResource& layoutCollections();
-    static const ImageResource& pdfs0StorePageShelfImage();
-    static const ImageResource& shapesStorePageShelfImage();
-    static const ImageResource& subscriptionPromotionHeaderImage();
-    static const ImageResource& termsGradient();
-    static const ImageResource& upsellValuePropositionCheckmark();
-    static const ImageResource& iCloudStorePageShelfImage();
-    static const ImageResource& paywallHeaderA();
-    static const ImageResource& paywallHeaderB();
-    static const ImageResource& paywallHeaderC();
-    static const ImageResource& paywallHeaderD();
-    static const ImageResource& videoSectionImagesStorePageShelfImage();
+    // Every image of the module.
+    static const ImageResource& buttonArrowRight() { return entry<"Button_Arrow_Right">(); }
+    static const ImageResource& caretRight() { return entry<"CaretRight">(); }
+    static const ImageResource& closeStorePageButton() { return entry<"CloseStorePageButton">(); }
+    static const ImageResource& fonts0StorePageShelfImage() { return entry<"Fonts0_StorePageShelfImage">(); }
+    static const ImageResource& graphics0StorePageShelfImage() { return entry<"Graphics0_StorePageShelfImage">(); }
+    static const ImageResource& layoutCollections() { return entry<"Layout collections_">(); }
+    static const ImageResource& pdfs0StorePageShelfImage() { return entry<"PDFs0_StorePageShelfImage">(); }
+    static const ImageResource& shapesStorePageShelfImage() { return entry<"Shapes_StorePageShelfImage">(); }
+    static const ImageResource& subscriptionPromotionHeaderImage() { return entry<"SubscriptionPromotionHeaderImage">(); }
+    static const ImageResource& termsGradient() { return entry<"TermsGradient">(); }
+    static const ImageResource& upsellValuePropositionCheckmark() { return entry<"UpsellValuePropositionCheckmark">(); }
+    static const ImageResource& iCloudStorePageShelfImage() { return entry<"iCloud_StorePageShelfImage">(); }
+    static const ImageResource& paywallHeaderA() { return entry<"paywallHeaderA">(); }
+    static const ImageResource& paywallHeaderB() { return entry<"paywallHeaderB">(); }
+    static const ImageResource& paywallHeaderC() { return entry<"paywallHeaderC">(); }
+    static const ImageResource& paywallHeaderD() { return entry<"paywallHeaderD">(); }
+    static const ImageResource& videoSectionImagesStorePageShelfImage() {
+        return entry<"videoSectionImages_StorePageShelfImage">();
+    }
+
+private:
+    // Made when it is first asked for, on whatever thread, and shared from then on.
+    template <AssetName name>
+    static const ImageResource& entry() {
+        static const ImageResource resource{name.characters, &ResourceBundleClass::bundle()};
+        return resource;
+    }
 };
 
 // The image itself. A missing asset stops the program.
