@@ -4,6 +4,7 @@
 #include "Platform/VelaUIKit/HostingControllers.hpp"
 #include "Platform/VelaUIKit/Navigation.hpp"
 #include "ProUpsells/ComparisonView.hpp"
+#include "ProUpsells/Tell.hpp"
 
 namespace proupsells {
 
@@ -24,11 +25,11 @@ void ComparisonViewController::viewDidLoad() {
 }
 
 void ComparisonViewController::chooseYourPlan() {
-    if (const auto delegate = m_delegate.lock()) delegate->comparisonViewControllerDidTapChooseYourPlan(*this);
+    tell(m_delegate, &ComparisonViewControllerDelegate::comparisonViewControllerDidTapChooseYourPlan, *this);
 }
 
 void ComparisonViewController::dismissController() {
-    if (const auto delegate = m_delegate.lock()) delegate->comparisonViewControllerDidTapClose(*this);
+    tell(m_delegate, &ComparisonViewControllerDelegate::comparisonViewControllerDidTapClose, *this);
 }
 
 } // namespace proupsells

@@ -12,6 +12,7 @@
 #include "ProUpsells/PremiumFontsShelf.hpp"
 #include "ProUpsells/ProIntroHeaderViewShelf.hpp"
 #include "ProUpsells/ShapesShelf.hpp"
+#include "ProUpsells/Tell.hpp"
 #include "ProUpsells/TemplatesShelf.hpp"
 #include "ProUpsells/UnsupportedInitializer.hpp"
 #include "ProUpsells/VideoImageLibrariesShelf.hpp"
@@ -74,10 +75,13 @@ void VelaProStorePageViewController::setMonthlySubscriptionPriceForComparisonWit
 
 // --- Appearance and actions ---
 
+void VelaProStorePageViewController::track(TrackingOperation operation) {
+    tell(m_tracker, operation, m_referrer, subscriptionScreenVariantTitle, analyticsValue(m_entitlement));
+}
+
 void VelaProStorePageViewController::viewDidAppear(bool animated) {
     UIViewController::viewDidAppear(animated);
-    if (const auto tracker = m_tracker.lock())
-        tracker->trackUpsellViewed(m_referrer, subscriptionScreenVariantTitle, analyticsValue(m_entitlement));
+    track(&ProUpsellEventTracker::trackUpsellViewed);
 }
 
 void VelaProStorePageViewController::traitCollectionDidChange(const uikit::UITraitCollection& previous) {
@@ -87,15 +91,13 @@ void VelaProStorePageViewController::traitCollectionDidChange(const uikit::UITra
 
 void VelaProStorePageViewController::dismissView() {
     const auto self = uikit::strongReference(*this);
-    if (const auto tracker = m_tracker.lock())
-        tracker->trackUpsellDismissed(m_referrer, subscriptionScreenVariantTitle, analyticsValue(m_entitlement));
+    track(&ProUpsellEventTracker::trackUpsellDismissed);
     dismiss(true);
 }
 
 void VelaProStorePageViewController::handleChoosePlanButtonTapped() {
     const auto self = uikit::strongReference(*this);
-    if (const auto tracker = m_tracker.lock())
-        tracker->trackChoosePlanTapped(m_referrer, subscriptionScreenVariantTitle, analyticsValue(m_entitlement));
+    track(&ProUpsellEventTracker::trackChoosePlanTapped);
     if (const auto action = continueToSelectPlan) action();
 }
 

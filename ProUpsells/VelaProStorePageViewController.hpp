@@ -119,6 +119,11 @@ protected:
     virtual void handleLoadedVideoViews(const std::vector<std::shared_ptr<velauikit::VideoView>>& videoViews);
 
 private:
+    // All of the page's events carry the same arguments.
+    using TrackingOperation = void (ProUpsellEventTracker::*)(const Referrer& referrer, const std::string& screenTitle,
+                                                              const std::string& entitlement);
+
+    void track(TrackingOperation operation);
     void startLoadingClips();
     void loadClips();
 

@@ -2,14 +2,18 @@
 
 #include <utility>
 
-#include "Platform/Commons/FatalError.hpp"
 #include "Platform/VelaUIKit/Navigation.hpp"
 #include "ProUpsells/ComparisonViewController.hpp"
 #include "ProUpsells/PromotionalPricingUpsell.hpp"
+#include "ProUpsells/Tell.hpp"
+#include "ProUpsells/UnsupportedInitializer.hpp"
 #include "ProUpsells/Upsell View/UpsellViewController.hpp"
 #include "ProUpsells/VelaProStorePageViewController.hpp"
 
 namespace proupsells {
+
+using Delegate = VelaProUpsellViewControllerDelegate;
+using Tracker = ProUpsellEventTracker;
 
 namespace {
 
@@ -22,6 +26,8 @@ const std::string& eventScreenTitle(VelaProUpsellViewController::Variant) {
     return title;
 }
 
+const std::string& VelaProUpsellViewController::screenTitle() const { return eventScreenTitle(m_variant); }
+
 std::shared_ptr<VelaProUpsellViewController> VelaProUpsellViewController::create(std::vector<SubscriptionOption> options,
                                                                                  Variant variant, Referrer referrer,
                                                                                  Entitlement entitlement, bool showLoginOnSuccess) {
@@ -30,7 +36,7 @@ std::shared_ptr<VelaProUpsellViewController> VelaProUpsellViewController::create
 }
 
 std::shared_ptr<VelaProUpsellViewController> VelaProUpsellViewController::create(const foundation::Coder&) {
-    commons::fatalError("init(coder:) has not been implemented");
+    stopAtInitializerFromArchive();
 }
 
 VelaProUpsellViewController::VelaProUpsellViewController(Creation, std::vector<SubscriptionOption> options, Variant variant,
@@ -90,31 +96,27 @@ void VelaProUpsellViewController::setMonthlySubscriptionPriceForComparisonWithPr
 
 void VelaProUpsellViewController::viewDidAppear(bool animated) {
     UIViewController::viewDidAppear(animated);
-    if (const auto tracker = m_tracker.lock())
-        tracker->trackUpsellViewed(m_referrer, eventScreenTitle(m_variant), analyticsValue(m_entitlement));
+    tell(m_tracker, &Tracker::trackUpsellViewed, m_referrer, screenTitle(), analyticsValue(m_entitlement));
 }
 
-// Delegates may let go of this controller from inside a call, so each operation holds it until it has ended.
+// A delegate may let go of this controller from inside a call, so each operation holds it until it is over.
 
 void VelaProUpsellViewController::upsellViewControllerDidContinueWith(UpsellViewController&, const SubscriptionOption& option) {
     const auto self = uikit::strongReference(*this);
-    if (const auto delegate = m_delegate.lock()) delegate->proUpsellViewControllerDidContinueWith(*this, option);
-    if (const auto tracker = m_tracker.lock())
-        tracker->trackSubscriptionOptionSelected(option, m_referrer, eventScreenTitle(m_variant));
-    if (const auto tracker = m_tracker.lock())
-        tracker->trackPurchaseTapped(option, m_referrer, eventScreenTitle(m_variant), analyticsValue(m_entitlement));
+    tell(m_delegate, &Delegate::proUpsellViewControllerDidContinueWith, *this, option);
+    tell(m_tracker, &Tracker::trackSubscriptionOptionSelected, option, m_referrer, screenTitle());
+    tell(m_tracker, &Tracker::trackPurchaseTapped, option, m_referrer, screenTitle(), analyticsValue(m_entitlement));
 }
 
 void VelaProUpsellViewController::upsellViewControllerDidTapCancel(UpsellViewController&) {
     const auto self = uikit::strongReference(*this);
-    if (const auto tracker = m_tracker.lock())
-        tracker->trackUpsellDismissed(m_referrer, eventScreenTitle(m_variant), analyticsValue(m_entitlement));
+    tell(m_tracker, &Tracker::trackUpsellDismissed, m_referrer, screenTitle(), analyticsValue(m_entitlement));
 }
 
 void VelaProUpsellViewController::upsellViewControllerDidTapRestoreButton(UpsellViewController&) {
     const auto self = uikit::strongReference(*this);
-    if (const auto delegate = m_delegate.lock()) delegate->proUpsellViewControllerDidTapRestore(*this);
-    if (const auto tracker = m_tracker.lock()) tracker->trackRestoreTapped(m_referrer, eventScreenTitle(m_variant));
+    tell(m_delegate, &Delegate::proUpsellViewControllerDidTapRestore, *this);
+    tell(m_tracker, &Tracker::trackRestoreTapped, m_referrer, screenTitle());
 }
 
 void VelaProUpsellViewController::upsellViewControllerDidTapWhatIsProButton(UpsellViewController&) {
@@ -129,14 +131,14 @@ void VelaProUpsellViewController::upsellViewControllerDidTapWhatIsProButton(Upse
 
 void VelaProUpsellViewController::upsellViewControllerDidTapPrivacyPolicyButton(UpsellViewController&) {
     const auto self = uikit::strongReference(*this);
-    if (const auto delegate = m_delegate.lock()) delegate->proUpsellViewControllerDidTapPrivacyPolicy(*this);
-    if (const auto tracker = m_tracker.lock()) tracker->trackPrivacyPolicyTapped(m_referrer, eventScreenTitle(m_variant));
+    tell(m_delegate, &Delegate::proUpsellViewControllerDidTapPrivacyPolicy, *this);
+    tell(m_tracker, &Tracker::trackPrivacyPolicyTapped, m_referrer, screenTitle());
 }
 
 void VelaProUpsellViewController::upsellViewControllerDidTapTermsOfServiceButton(UpsellViewController&) {
     const auto self = uikit::strongReference(*this);
-    if (const auto delegate = m_delegate.lock()) delegate->proUpsellViewControllerDidTapTermsOfService(*this);
-    if (const auto tracker = m_tracker.lock()) tracker->trackTermsOfServiceTapped(m_referrer, eventScreenTitle(m_variant));
+    tell(m_delegate, &Delegate::proUpsellViewControllerDidTapTermsOfService, *this);
+    tell(m_tracker, &Tracker::trackTermsOfServiceTapped, m_referrer, screenTitle());
 }
 
 void VelaProUpsellViewController::upsellViewControllerDidTapTermsOfService(UpsellViewController& sender) {
@@ -148,7 +150,7 @@ void VelaProUpsellViewController::upsellViewControllerDidTapComparePlans(UpsellV
     const auto comparison = std::make_shared<ComparisonViewController>();
     comparison->setDelegate(uikit::weakReference(*this));
     present(velauikit::embedInNavController(comparison), true);
-    if (const auto tracker = m_tracker.lock()) tracker->trackComparePlansTapped(m_referrer, eventScreenTitle(m_variant));
+    tell(m_tracker, &Tracker::trackComparePlansTapped, m_referrer, screenTitle());
 }
 
 void VelaProUpsellViewController::comparisonViewControllerDidTapChooseYourPlan(ComparisonViewController& sender) {

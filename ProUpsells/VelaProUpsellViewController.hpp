@@ -92,6 +92,7 @@ private:
     ProUpsellControllerType* paywall() const;
     void passOnAnnualComparisonPrice();
     void passOnMonthlyComparisonPrice();
+    const std::string& screenTitle() const;
 
     Referrer m_referrer;
     Variant m_variant;

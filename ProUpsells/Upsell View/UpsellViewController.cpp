@@ -4,10 +4,11 @@
 #include <utility>
 
 #include "Platform/Commons/DefaultLogger.hpp"
-#include "Platform/Commons/FatalError.hpp"
 #include "Platform/SwiftUI/Modifiers/EnvironmentModifiers.hpp"
 #include "Platform/VelaUIKit/Colors.hpp"
 #include "Platform/VelaUIKit/HostingControllers.hpp"
+#include "ProUpsells/Tell.hpp"
+#include "ProUpsells/UnsupportedInitializer.hpp"
 #include "ProUpsells/Upsell View/PreparedOptions.hpp"
 #include "ProUpsells/UpsellEnvironment.hpp"
 #include "ProUpsells/UpsellView.hpp"
@@ -38,9 +39,7 @@ std::shared_ptr<UpsellViewController> UpsellViewController::create(const std::ve
     return controller;
 }
 
-std::shared_ptr<UpsellViewController> UpsellViewController::create(const foundation::Coder&) {
-    commons::fatalError("init(coder:) has not been implemented");
-}
+std::shared_ptr<UpsellViewController> UpsellViewController::create(const foundation::Coder&) { stopAtInitializerFromArchive(); }
 
 UpsellViewController::UpsellViewController(Creation, Variant variant) : m_variant(variant) {}
 
@@ -57,28 +56,21 @@ void UpsellViewController::start(const std::vector<SubscriptionOption>& subscrip
 }
 
 void UpsellViewController::handle(const TapEvent& event) {
-    std::visit(Overloaded{
-                   [&](const TapEvent::Purchase& purchase) {
-                       if (const auto delegate = m_delegate.lock())
-                           delegate->upsellViewControllerDidContinueWith(*this, purchase.option);
-                   },
-                   [&](const TapEvent::Cancel&) { cancel(); },
-                   [&](const TapEvent::RestorePurchases&) { tell(&Delegate::upsellViewControllerDidTapRestoreButton); },
-                   [&](const TapEvent::WhatIsPro&) { tell(&Delegate::upsellViewControllerDidTapWhatIsProButton); },
-                   [&](const TapEvent::PrivacyPolicy&) { tell(&Delegate::upsellViewControllerDidTapPrivacyPolicyButton); },
-                   [&](const TapEvent::TermsOfService&) { tell(&Delegate::upsellViewControllerDidTapTermsOfServiceButton); },
-                   [&](const TapEvent::ComparePlans&) { tell(&Delegate::upsellViewControllerDidTapComparePlans); },
-               },
-               event.kind);
-}
-
-void UpsellViewController::cancel() {
-    tell(&Delegate::upsellViewControllerDidTapCancel);
-    dismiss(true);
-}
-
-void UpsellViewController::tell(void (Delegate::*operation)(UpsellViewController&)) {
-    if (const auto delegate = m_delegate.lock()) (delegate.get()->*operation)(*this);
+    const auto forward = [this](auto operation, const auto&... arguments) { tell(m_delegate, operation, *this, arguments...); };
+    std::visit(
+        Overloaded{
+            [&](const TapEvent::Purchase& purchase) { forward(&Delegate::upsellViewControllerDidContinueWith, purchase.option); },
+            [&](const TapEvent::Cancel&) {
+                forward(&Delegate::upsellViewControllerDidTapCancel);
+                dismiss(true);
+            },
+            [&](const TapEvent::RestorePurchases&) { forward(&Delegate::upsellViewControllerDidTapRestoreButton); },
+            [&](const TapEvent::WhatIsPro&) { forward(&Delegate::upsellViewControllerDidTapWhatIsProButton); },
+            [&](const TapEvent::PrivacyPolicy&) { forward(&Delegate::upsellViewControllerDidTapPrivacyPolicyButton); },
+            [&](const TapEvent::TermsOfService&) { forward(&Delegate::upsellViewControllerDidTapTermsOfServiceButton); },
+            [&](const TapEvent::ComparePlans&) { forward(&Delegate::upsellViewControllerDidTapComparePlans); },
+        },
+        event.kind);
 }
 
 void UpsellViewController::updateOptions(const std::vector<SubscriptionOption>& options) {

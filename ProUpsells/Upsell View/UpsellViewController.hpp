@@ -56,9 +56,6 @@ public:
 private:
     void start(const std::vector<SubscriptionOption>& subscriptionOptions);
     void handle(const UpsellViewModel::TapEvent& event);
-    void cancel();
-    // Calls the operation on the delegate, if there is one.
-    void tell(void (UpsellViewControllerDelegate::*operation)(UpsellViewController&));
 
     Variant m_variant;
     std::shared_ptr<UpsellViewModel> m_upsellViewModel = std::make_shared<UpsellViewModel>();
