@@ -1,19 +1,18 @@
 #include "ProUpsells/BrandAssetsShelf.hpp"
 
-#include "Platform/Foundation/Bundle.hpp"
 #include "ProUpsells/BrandAssetsVideoView.hpp"
-#include "ProUpsells/ShelfStrips.hpp"
 
 namespace proupsells {
 
-std::string BrandAssetsShelf::footerTitle() const { return foundation::localizedString("Upload brand assets"); }
+BrandAssetsShelf::BrandAssetsShelf()
+    : LazyStorePageShelf({.className = "BrandAssetsShelf",
+                          .height = 315,
+                          .bottomInset = 25,
+                          .title = "Upload brand assets",
+                          .subtitle = "Add your logos, fonts and color palettes to use within your projects."}) {}
 
-std::string BrandAssetsShelf::footerSubTitle() const {
-    return foundation::localizedString("Add your logos, fonts and color palettes to use within your projects.");
-}
-
-std::shared_ptr<uikit::UIViewController> BrandAssetsShelf::makeViewController() const {
-    return withTexts(viewStrip(*this, std::make_shared<BrandAssetsVideoView>()), *this);
+LazyStorePageShelf::Controller BrandAssetsShelf::makeViewController() const {
+    return withTexts(viewStrip(std::make_shared<BrandAssetsVideoView>()));
 }
 
 } // namespace proupsells

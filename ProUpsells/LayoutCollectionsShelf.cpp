@@ -1,24 +1,16 @@
 #include "ProUpsells/LayoutCollectionsShelf.hpp"
 
-#include "Platform/Foundation/Bundle.hpp"
-#include "ProUpsells/ShelfStrips.hpp"
-
 namespace proupsells {
 
-namespace {
+LayoutCollectionsShelf::LayoutCollectionsShelf()
+    : LazyStorePageShelf({.className = "LayoutCollectionsShelf",
+                          .height = 236,
+                          .bottomInset = 50,
+                          .title = "Speedy layout collections",
+                          .subtitle = "Create consistent designs in seconds with pre-designed themed layouts."}) {}
 
-using ScrollDirection = StorePageShelfViewController::ScrollDirection;
-
-} // namespace
-
-std::string LayoutCollectionsShelf::footerTitle() const { return foundation::localizedString("Speedy layout collections"); }
-
-std::string LayoutCollectionsShelf::footerSubTitle() const {
-    return foundation::localizedString("Create consistent designs in seconds with pre-designed themed layouts.");
-}
-
-std::shared_ptr<uikit::UIViewController> LayoutCollectionsShelf::makeViewController() const {
-    return withTexts(repeatingStrip(*this, 0, ImageResource::layoutCollections(), ScrollDirection::right), *this);
+LazyStorePageShelf::Controller LayoutCollectionsShelf::makeViewController() const {
+    return withTexts(repeatingStrip(ImageResource::layoutCollections(), ScrollDirection::right));
 }
 
 } // namespace proupsells

@@ -1,18 +1,16 @@
 #include "ProUpsells/PDFsShelf.hpp"
 
-#include "Platform/Foundation/Bundle.hpp"
-#include "ProUpsells/ShelfStrips.hpp"
-
 namespace proupsells {
 
-std::string PDFsShelf::footerTitle() const { return foundation::localizedString("Print with PDF export"); }
+PDFsShelf::PDFsShelf()
+    : LazyStorePageShelf({.className = "PDFsShelf",
+                          .height = 336,
+                          .bottomInset = 50,
+                          .title = "Print with PDF export",
+                          .subtitle = "Export PDFs for high-quality printing of posters, cards, stationery and more."}) {}
 
-std::string PDFsShelf::footerSubTitle() const {
-    return foundation::localizedString("Export PDFs for high-quality printing of posters, cards, stationery and more.");
-}
-
-std::shared_ptr<uikit::UIViewController> PDFsShelf::makeViewController() const {
-    return withTexts(imageStrip(*this, ImageResource::pdfs0StorePageShelfImage()), *this);
+LazyStorePageShelf::Controller PDFsShelf::makeViewController() const {
+    return withTexts(imageStrip(ImageResource::pdfs0StorePageShelfImage()));
 }
 
 } // namespace proupsells

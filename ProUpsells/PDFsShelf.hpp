@@ -7,14 +7,10 @@ namespace proupsells {
 
 class PDFsShelf : public LazyStorePageShelf {
 public:
-    std::string_view className() const override { return "PDFsShelf"; }
-    double preferredShelfHeight() const override { return 336; }
-    geometry::PhysicalInsets preferredSectionInset() const override { return {.bottom = 50}; }
-    std::string footerTitle() const override;
-    std::string footerSubTitle() const override;
+    PDFsShelf();
 
 protected:
-    std::shared_ptr<uikit::UIViewController> makeViewController() const override;
+    Controller makeViewController() const override;
 };
 
 } // namespace proupsells

@@ -1,24 +1,16 @@
 #include "ProUpsells/ShapesShelf.hpp"
 
-#include "Platform/Foundation/Bundle.hpp"
-#include "ProUpsells/ShelfStrips.hpp"
-
 namespace proupsells {
 
-namespace {
+ShapesShelf::ShapesShelf()
+    : LazyStorePageShelf({.className = "ShapesShelf",
+                          .height = 280,
+                          .bottomInset = 40,
+                          .title = "Design with editable shapes",
+                          .subtitle = "Pro users have access to editable vector shapes to use within projects."}) {}
 
-using ScrollDirection = StorePageShelfViewController::ScrollDirection;
-
-} // namespace
-
-std::string ShapesShelf::footerTitle() const { return foundation::localizedString("Design with editable shapes"); }
-
-std::string ShapesShelf::footerSubTitle() const {
-    return foundation::localizedString("Pro users have access to editable vector shapes to use within projects.");
-}
-
-std::shared_ptr<uikit::UIViewController> ShapesShelf::makeViewController() const {
-    return withTexts(repeatingStrip(*this, 0, ImageResource::shapesStorePageShelfImage(), ScrollDirection::left), *this);
+LazyStorePageShelf::Controller ShapesShelf::makeViewController() const {
+    return withTexts(repeatingStrip(ImageResource::shapesStorePageShelfImage(), ScrollDirection::left));
 }
 
 } // namespace proupsells

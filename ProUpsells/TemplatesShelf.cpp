@@ -1,19 +1,18 @@
 #include "ProUpsells/TemplatesShelf.hpp"
 
-#include "Platform/Foundation/Bundle.hpp"
-#include "ProUpsells/ShelfStrips.hpp"
 #include "ProUpsells/TemplatesVideoView.hpp"
 
 namespace proupsells {
 
-std::string TemplatesShelf::footerTitle() const { return foundation::localizedString("Get full access to all templates"); }
+TemplatesShelf::TemplatesShelf()
+    : LazyStorePageShelf({.className = "TemplatesShelf",
+                          .height = 290,
+                          .bottomInset = 40,
+                          .title = "Get full access to all templates",
+                          .subtitle = "Design on the go with professionally designed templates, updated daily."}) {}
 
-std::string TemplatesShelf::footerSubTitle() const {
-    return foundation::localizedString("Design on the go with professionally designed templates, updated daily.");
-}
-
-std::shared_ptr<uikit::UIViewController> TemplatesShelf::makeViewController() const {
-    return withTexts(viewStrip(*this, std::make_shared<TemplatesVideoView>()), *this);
+LazyStorePageShelf::Controller TemplatesShelf::makeViewController() const {
+    return withTexts(viewStrip(std::make_shared<TemplatesVideoView>()));
 }
 
 } // namespace proupsells
