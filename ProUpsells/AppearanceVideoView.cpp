@@ -4,6 +4,7 @@
 
 #include "Platform/VelaUIKit/Theme.hpp"
 #include "ProUpsells/ResourceBundleClass.hpp"
+#include "ProUpsells/UnsupportedInitializer.hpp"
 
 namespace proupsells {
 
@@ -15,6 +16,12 @@ AppearanceVideoView::AppearanceVideoView(std::string lightClip, std::string dark
     m_videoView->play();
     chooseClip();
 }
+
+AppearanceVideoView::AppearanceVideoView(const geometry::Rect&, std::string_view className) {
+    stopAtUnimplementedInitializer("init(frame:)", className);
+}
+
+AppearanceVideoView::AppearanceVideoView(const foundation::Coder&) { stopAtInitializerFromArchive(); }
 
 void AppearanceVideoView::traitCollectionDidChange(const uikit::UITraitCollection& previous) {
     UIView::traitCollectionDidChange(previous);

@@ -19,6 +19,9 @@ public:
 
 protected:
     AppearanceVideoView(std::string lightClip, std::string darkClip);
+    // Both stop the program: there is no such view at a frame of its own, and none from an archive.
+    [[noreturn]] AppearanceVideoView(const geometry::Rect& frame, std::string_view className);
+    [[noreturn]] explicit AppearanceVideoView(const foundation::Coder& coder);
 
 private:
     void chooseClip();

@@ -8,9 +8,9 @@ namespace proupsells {
 class BrandAssetsVideoView : public AppearanceVideoView {
 public:
     BrandAssetsVideoView() : AppearanceVideoView("StorePageBrandingVideo", "StorePageBrandingVideo_dark") {}
-    // Stops the program: there is no such view at a frame of its own, and none from an archive.
-    [[noreturn]] explicit BrandAssetsVideoView(const geometry::Rect& frame);
-    [[noreturn]] explicit BrandAssetsVideoView(const foundation::Coder& coder);
+    // Both stop the program.
+    explicit BrandAssetsVideoView(const geometry::Rect& frame) : AppearanceVideoView(frame, "BrandAssetsVideoView") {}
+    explicit BrandAssetsVideoView(const foundation::Coder& coder) : AppearanceVideoView(coder) {}
     std::string_view typeName() const override { return "BrandAssetsVideoView"; }
 };
 

@@ -1,11 +1,8 @@
 // A headline and an explanation as a section's footer.
 #pragma once
 
-#include <memory>
-#include <string>
-
 #include "Platform/UIKit/Collection/UICollectionViewCell.hpp"
-#include "Platform/UIKit/Views/UILabel.hpp"
+#include "ProUpsells/TitleSubtitleLabels.hpp"
 
 namespace proupsells {
 
@@ -14,18 +11,15 @@ public:
     FooterView();
     std::string_view typeName() const override { return "FooterView"; }
 
-    const std::string& footerTitle() const { return m_footerTitle; }
-    void setFooterTitle(std::string text);
-    const std::string& subtitle() const { return m_subtitle; }
-    void setSubtitle(std::string text);
-    const std::shared_ptr<uikit::UILabel>& footerTitleLabel() const { return m_footerTitleLabel; }
-    const std::shared_ptr<uikit::UILabel>& subtitleLabel() const { return m_subtitleLabel; }
+    const std::string& footerTitle() const { return m_labels.title(); }
+    void setFooterTitle(std::string text) { m_labels.setTitle(std::move(text)); }
+    const std::string& subtitle() const { return m_labels.subtitle(); }
+    void setSubtitle(std::string text) { m_labels.setSubtitle(std::move(text)); }
+    const std::shared_ptr<uikit::UILabel>& footerTitleLabel() const { return m_labels.titleLabel(); }
+    const std::shared_ptr<uikit::UILabel>& subtitleLabel() const { return m_labels.subtitleLabel(); }
 
 private:
-    std::string m_footerTitle;
-    std::shared_ptr<uikit::UILabel> m_footerTitleLabel;
-    std::string m_subtitle;
-    std::shared_ptr<uikit::UILabel> m_subtitleLabel;
+    TitleSubtitleLabels m_labels;
 };
 
 } // namespace proupsells

@@ -1,24 +1,16 @@
 // Another header for the page: a headline alone.
 #pragma once
 
-#include <memory>
-
-#include "Platform/Foundation/Coder.hpp"
-#include "Platform/UIKit/Views/UILabel.hpp"
+#include "ProUpsells/StoreHeaderView.hpp"
 
 namespace proupsells {
 
-class LabelHeaderView : public uikit::UIView {
+class LabelHeaderView : public StoreHeaderView {
 public:
     explicit LabelHeaderView(const geometry::Rect& frame);
     // Stops the program: "init(coder:) has not been implemented".
-    [[noreturn]] explicit LabelHeaderView(const foundation::Coder& coder);
+    explicit LabelHeaderView(const foundation::Coder& coder) : StoreHeaderView(coder) {}
     std::string_view typeName() const override { return "LabelHeaderView"; }
-
-    const std::shared_ptr<uikit::UILabel>& titleLabel() const { return m_titleLabel; }
-
-private:
-    std::shared_ptr<uikit::UILabel> m_titleLabel;
 };
 
 } // namespace proupsells

@@ -8,9 +8,9 @@ namespace proupsells {
 class TemplatesVideoView : public AppearanceVideoView {
 public:
     TemplatesVideoView() : AppearanceVideoView("StorePageTemplatesVideo", "StorePageTemplatesVideo_dark") {}
-    // Stops the program: there is no such view at a frame of its own, and none from an archive.
-    [[noreturn]] explicit TemplatesVideoView(const geometry::Rect& frame);
-    [[noreturn]] explicit TemplatesVideoView(const foundation::Coder& coder);
+    // Both stop the program.
+    explicit TemplatesVideoView(const geometry::Rect& frame) : AppearanceVideoView(frame, "TemplatesVideoView") {}
+    explicit TemplatesVideoView(const foundation::Coder& coder) : AppearanceVideoView(coder) {}
     std::string_view typeName() const override { return "TemplatesVideoView"; }
 };
 

@@ -1,60 +1,34 @@
 #include "ProUpsells/TitleSubtitleContainerViewController.hpp"
 
-#include <utility>
-
-#include "Platform/VelaUIKit/Colors.hpp"
-#include "ProUpsells/TitleSubtitleLabels.hpp"
+#include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
+#include "Platform/VelaUIKit/Fonts.hpp"
 #include "ProUpsells/UnsupportedInitializer.hpp"
 
 namespace proupsells {
 
-namespace {
-
-constexpr double lineSpacing = 9;
-
-const graphics::TextAttributes& titleAttributes() {
-    static const graphics::TextAttributes attributes{.font = velauikit::velaDefaultFont(velauikit::FontOption::bold, 22),
-                                                     .color = velauikit::dynamicColor(9)};
-    return attributes;
-}
-
-const graphics::TextAttributes& subtitleAttributes() {
-    static const graphics::TextAttributes attributes{
-        .font = velauikit::velaDefaultFont(velauikit::FontOption::regular, 16), .color = velauikit::dynamicColor(10), .kern = 0.2};
-    return attributes;
-}
-
-} // namespace
-
 TitleSubtitleContainerViewController::TitleSubtitleContainerViewController(const VelaProStorePageShelf& shelf)
-    : m_titleLabel(makeCenteredLabel()), m_subtitleLabel(makeCenteredLabel()) {
+    : m_shelf(shelf.weak_from_this()), m_labels(velauikit::velaDefaultFont(velauikit::FontOption::bold, 22)) {
+    show(shelf);
+}
+
+TitleSubtitleContainerViewController::TitleSubtitleContainerViewController(const foundation::Coder&) : m_labels({}) {
+    stopAtUnimplementedInitializer("init(coder:)", "TitleSubtitleContainerViewController");
+}
+
+void TitleSubtitleContainerViewController::show(const VelaProStorePageShelf& shelf) {
     setSubtitleText(shelf.footerSubTitle());
     setTitleText(shelf.footerTitle());
 }
 
-TitleSubtitleContainerViewController::TitleSubtitleContainerViewController(const foundation::Coder&) {
-    stopAtUnimplementedInitializer("init(coder:)", "TitleSubtitleContainerViewController");
-}
-
-void TitleSubtitleContainerViewController::setTitleText(std::string text) {
-    m_titleText = std::move(text);
-    m_titleLabel->setAttributedText(centeredText(m_titleText, titleAttributes(), lineSpacing));
-}
-
-void TitleSubtitleContainerViewController::setSubtitleText(std::string text) {
-    m_subtitleText = std::move(text);
-    m_subtitleLabel->setAttributedText(centeredText(m_subtitleText, subtitleAttributes(), lineSpacing));
+void TitleSubtitleContainerViewController::applyTexts() {
+    if (const auto shelf = m_shelf.lock()) show(*shelf);
 }
 
 void TitleSubtitleContainerViewController::viewDidLoad() {
     UIViewController::viewDidLoad();
-    uikit::UIView& root = *view();
-    root.addSubview(m_titleLabel);
-    root.addSubview(m_subtitleLabel);
-    auto constraints = titleSubtitleConstraints(root, *m_titleLabel, *m_subtitleLabel);
-    constraints.push_back(root.heightAnchor().constraintEqualToConstant(103));
-    uikit::NSLayoutConstraint::activate(constraints);
-    root.setContentHuggingPriority(uikit::layoutPriorityHigh, uikit::Axis::vertical);
+    m_labels.addTo(*view());
+    view()->heightAnchor().constraintEqualToConstant(103)->setActive(true);
+    view()->setContentHuggingPriority(uikit::layoutPriorityHigh, uikit::Axis::vertical);
 }
 
 } // namespace proupsells

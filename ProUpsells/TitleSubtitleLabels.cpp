@@ -2,33 +2,48 @@
 
 #include <utility>
 
+#include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
+#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/VelaUIKit/Fonts.hpp"
+#include "ProUpsells/CenteredText.hpp"
+
 namespace proupsells {
 
-std::shared_ptr<uikit::UILabel> makeCenteredLabel() {
-    const auto label = std::make_shared<uikit::UILabel>();
-    label->setTranslatesAutoresizingMaskIntoConstraints(false);
-    label->setTextAlignment(graphics::TextAlignment::center);
-    label->setNumberOfLines(0);
-    return label;
+namespace {
+
+constexpr double lineSpacing = 9;
+
+} // namespace
+
+TitleSubtitleLabels::TitleSubtitleLabels(const uikit::UIFont& titleFont)
+    : m_titleFont(titleFont), m_titleLabel(makeCenteredLabel()), m_subtitleLabel(makeCenteredLabel()) {}
+
+// The uneven distances are deliberate: the explanation stands in a narrow column of at most 300 points, the headline may take the
+// whole width but for 25 points on each side.
+void TitleSubtitleLabels::addTo(uikit::UIView& container) const {
+    container.addSubview(m_titleLabel);
+    container.addSubview(m_subtitleLabel);
+    uikit::NSLayoutConstraint::activate({
+        m_titleLabel->topAnchor().constraintEqualTo(container.topAnchor()),
+        m_titleLabel->centerXAnchor().constraintEqualTo(container.centerXAnchor()),
+        m_titleLabel->leadingAnchor().constraintEqualTo(container.leadingAnchor(), 25),
+        m_subtitleLabel->topAnchor().constraintEqualTo(m_titleLabel->bottomAnchor(), 16),
+        m_subtitleLabel->centerXAnchor().constraintEqualTo(container.centerXAnchor()),
+        m_subtitleLabel->widthAnchor().constraintLessThanOrEqualToConstant(300),
+        m_subtitleLabel->leadingAnchor().constraintEqualTo(container.leadingAnchor(), 19)->withPriority(uikit::layoutPriorityLow),
+    });
 }
 
-graphics::AttributedString centeredText(std::string text, const graphics::TextAttributes& attributes, double lineSpacing) {
-    graphics::AttributedString result(std::move(text), attributes);
-    result.paragraphStyle = graphics::ParagraphStyle{lineSpacing, graphics::TextAlignment::center};
-    return result;
+void TitleSubtitleLabels::setTitle(std::string text) {
+    m_title = std::move(text);
+    m_titleLabel->setAttributedText(centeredText(m_title, {.font = m_titleFont, .color = velauikit::dynamicColor(9)}, lineSpacing));
 }
 
-std::vector<std::shared_ptr<uikit::NSLayoutConstraint>> titleSubtitleConstraints(uikit::UIView& container, uikit::UILabel& title,
-                                                                                 uikit::UILabel& subtitle) {
-    return {
-        title.topAnchor().constraintEqualTo(container.topAnchor()),
-        title.centerXAnchor().constraintEqualTo(container.centerXAnchor()),
-        title.leadingAnchor().constraintEqualTo(container.leadingAnchor(), 25),
-        subtitle.topAnchor().constraintEqualTo(title.bottomAnchor(), 16),
-        subtitle.centerXAnchor().constraintEqualTo(container.centerXAnchor()),
-        subtitle.widthAnchor().constraintLessThanOrEqualToConstant(300),
-        subtitle.leadingAnchor().constraintEqualTo(container.leadingAnchor(), 19)->withPriority(uikit::layoutPriorityLow),
-    };
+void TitleSubtitleLabels::setSubtitle(std::string text) {
+    static const graphics::TextAttributes attributes{
+        .font = velauikit::velaDefaultFont(velauikit::FontOption::regular, 16), .color = velauikit::dynamicColor(10), .kern = 0.2};
+    m_subtitle = std::move(text);
+    m_subtitleLabel->setAttributedText(centeredText(m_subtitle, attributes, lineSpacing));
 }
 
 } // namespace proupsells

@@ -1,24 +1,35 @@
-// The constraints and the look that a headline and its explanation have wherever the store page shows them.
+// A headline and its explanation, as the store page shows them below a picture and in a section's footer.
 #pragma once
 
+#include <memory>
 #include <string>
-#include <vector>
 
-#include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
 #include "Platform/UIKit/Views/UILabel.hpp"
-#include "Platform/VelaUIKit/Fonts.hpp"
 
 namespace proupsells {
 
-// A label for centred text of any number of lines, laid out by constraints.
-std::shared_ptr<uikit::UILabel> makeCenteredLabel();
+// Both texts are empty at first. Setting one sets its label anew.
+class TitleSubtitleLabels {
+public:
+    // The explanation has a font of its own, the same everywhere.
+    explicit TitleSubtitleLabels(const uikit::UIFont& titleFont);
 
-// Centred text with the given distance between its lines.
-graphics::AttributedString centeredText(std::string text, const graphics::TextAttributes& attributes, double lineSpacing);
+    // Puts the labels into `container`, the headline on top.
+    void addTo(uikit::UIView& container) const;
 
-// The uneven distances are deliberate: the explanation stands in a narrow column of at most 300 points, the headline may use the
-// whole width but 25 points on each side.
-std::vector<std::shared_ptr<uikit::NSLayoutConstraint>> titleSubtitleConstraints(uikit::UIView& container, uikit::UILabel& title,
-                                                                                 uikit::UILabel& subtitle);
+    const std::string& title() const { return m_title; }
+    void setTitle(std::string text);
+    const std::string& subtitle() const { return m_subtitle; }
+    void setSubtitle(std::string text);
+    const std::shared_ptr<uikit::UILabel>& titleLabel() const { return m_titleLabel; }
+    const std::shared_ptr<uikit::UILabel>& subtitleLabel() const { return m_subtitleLabel; }
+
+private:
+    uikit::UIFont m_titleFont;
+    std::string m_title;
+    std::shared_ptr<uikit::UILabel> m_titleLabel;
+    std::string m_subtitle;
+    std::shared_ptr<uikit::UILabel> m_subtitleLabel;
+};
 
 } // namespace proupsells

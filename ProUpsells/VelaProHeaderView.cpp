@@ -2,12 +2,10 @@
 
 #include <cmath>
 
-#include "Platform/Foundation/Bundle.hpp"
+#include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
 #include "Platform/UIKit/Views/UIStackView.hpp"
 #include "Platform/VelaUIKit/Colors.hpp"
 #include "Platform/VelaUIKit/VelaUIKitImage.hpp"
-#include "ProUpsells/TitleSubtitleLabels.hpp"
-#include "ProUpsells/UnsupportedInitializer.hpp"
 
 namespace proupsells {
 
@@ -17,20 +15,14 @@ std::optional<double> aspectRatio(geometry::Size size) {
 }
 
 VelaProHeaderView::VelaProHeaderView(const geometry::Rect& frame)
-    : UIView(frame),
-      m_proLogoImageView(std::make_shared<uikit::UIImageView>(velauikit::VelaUIKitImage::marwickFolioWithProBadge())),
-      m_titleLabel(makeCenteredLabel()) {
+    : StoreHeaderView(frame, "It's never been easier to look professional.", 26),
+      m_proLogoImageView(std::make_shared<uikit::UIImageView>(velauikit::VelaUIKitImage::marwickFolioWithProBadge())) {
     m_proLogoImageView->setTintColor(velauikit::velaLabel);
     m_proLogoImageView->setContentMode(uikit::UIImageView::ContentMode::aspectFit);
-    // The shelf is of a fixed height: rather smaller than cut.
-    m_titleLabel->setMinimumScaleFactor(0.7);
-    m_titleLabel->setAttributedText(centeredText(
-        foundation::localizedString("It's never been easier to look professional."),
-        {.font = velauikit::velaDefaultFont(velauikit::FontOption::bold, 26), .color = velauikit::dynamicColor(9)}, 8));
+    // The shelf's height is fixed: a long headline is set smaller before it is cut.
+    titleLabel()->setMinimumScaleFactor(0.7);
     layOut();
 }
-
-VelaProHeaderView::VelaProHeaderView(const foundation::Coder&) { stopAtInitializerFromArchive(); }
 
 void VelaProHeaderView::layOut() {
     if (const auto ratio = aspectRatio(m_proLogoImageView->image()->size))
@@ -40,17 +32,16 @@ void VelaProHeaderView::layOut() {
     stack->addArrangedSubview(m_proLogoImageView);
     stack->setTranslatesAutoresizingMaskIntoConstraints(false);
     stack->setSpacing(8);
-    addSubview(m_titleLabel);
     addSubview(stack);
     uikit::NSLayoutConstraint::activate({
         stack->centerXAnchor().constraintEqualTo(centerXAnchor()),
         stack->topAnchor().constraintEqualTo(topAnchor(), 57),
         stack->heightAnchor().constraintEqualToConstant(28),
         stack->leadingAnchor().constraintGreaterThanOrEqualTo(leadingAnchor()),
-        m_titleLabel->topAnchor().constraintEqualTo(stack->bottomAnchor(), 16),
-        m_titleLabel->centerXAnchor().constraintEqualTo(centerXAnchor()),
-        m_titleLabel->leadingAnchor().constraintEqualTo(leadingAnchor(), 62),
-        m_titleLabel->bottomAnchor().constraintEqualTo(bottomAnchor(), -30),
+        titleLabel()->topAnchor().constraintEqualTo(stack->bottomAnchor(), 16),
+        titleLabel()->centerXAnchor().constraintEqualTo(centerXAnchor()),
+        titleLabel()->leadingAnchor().constraintEqualTo(leadingAnchor(), 62),
+        titleLabel()->bottomAnchor().constraintEqualTo(bottomAnchor(), -30),
     });
 }
 

@@ -2,28 +2,26 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
-#include "Platform/Foundation/Coder.hpp"
 #include "Platform/UIKit/Views/UIImageView.hpp"
-#include "Platform/UIKit/Views/UILabel.hpp"
+#include "ProUpsells/StoreHeaderView.hpp"
 
 namespace proupsells {
 
-class VelaProHeaderView : public uikit::UIView {
+class VelaProHeaderView : public StoreHeaderView {
 public:
     explicit VelaProHeaderView(const geometry::Rect& frame);
     // Stops the program: "init(coder:) has not been implemented".
-    [[noreturn]] explicit VelaProHeaderView(const foundation::Coder& coder);
+    explicit VelaProHeaderView(const foundation::Coder& coder) : StoreHeaderView(coder) {}
     std::string_view typeName() const override { return "VelaProHeaderView"; }
 
     const std::shared_ptr<uikit::UIImageView>& proLogoImageView() const { return m_proLogoImageView; }
-    const std::shared_ptr<uikit::UILabel>& titleLabel() const { return m_titleLabel; }
 
 private:
     void layOut();
 
     std::shared_ptr<uikit::UIImageView> m_proLogoImageView;
-    std::shared_ptr<uikit::UILabel> m_titleLabel;
 };
 
 // The width of a picture whose height is 1; absent where the size has none.

@@ -9,8 +9,8 @@
 
 namespace proupsells {
 
-// Main thread only.
-class VelaProStorePageShelf {
+// Main thread only. Held by its page, so that its views may hold it weakly.
+class VelaProStorePageShelf : public std::enable_shared_from_this<VelaProStorePageShelf> {
 public:
     virtual ~VelaProStorePageShelf() = default;
 

@@ -1,0 +1,27 @@
+#include "ProUpsells/StoreHeaderView.hpp"
+
+#include <utility>
+
+#include "Platform/Foundation/Bundle.hpp"
+#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/VelaUIKit/Fonts.hpp"
+#include "ProUpsells/CenteredText.hpp"
+#include "ProUpsells/UnsupportedInitializer.hpp"
+
+namespace proupsells {
+
+StoreHeaderView::StoreHeaderView(const geometry::Rect& frame, std::string headline, double fontSize)
+    : UIView(frame), m_headline(std::move(headline)), m_fontSize(fontSize), m_titleLabel(makeCenteredLabel()) {
+    applyTexts();
+    addSubview(m_titleLabel);
+}
+
+StoreHeaderView::StoreHeaderView(const foundation::Coder&) { stopAtInitializerFromArchive(); }
+
+void StoreHeaderView::applyTexts() {
+    m_titleLabel->setAttributedText(centeredText(
+        foundation::localizedString(m_headline),
+        {.font = velauikit::velaDefaultFont(velauikit::FontOption::bold, m_fontSize), .color = velauikit::dynamicColor(9)}, 8));
+}
+
+} // namespace proupsells
