@@ -6,12 +6,12 @@
 namespace proupsells::motion {
 namespace {
 
-// How readily the content follows a finger past its end.
+// How easily the content follows a finger past its end.
 constexpr double rubberBandStiffness = 0.55;
-// The nearest to the viewport's length that an overdrag is told apart; beyond it the finger would be infinitely far.
+// At the viewport's whole length the finger would be infinitely far away.
 constexpr double largestShownShare = 0.999999;
 
-// A second; leaves 0.998 of the speed after each millisecond.
+// Per second; 0.998 of the speed is left after each millisecond.
 constexpr double decelerationRate = 2.0020026706730794;
 constexpr double restingSpeed = 4;     // points a second
 constexpr double springFrequency = 12; // radians a second
@@ -20,21 +20,26 @@ constexpr double restingDistance = 0.01;
 double maximumOf(ScrollRange range) { return std::max(range.minimum, range.maximum); }
 
 // When the envelope (displacement + slope · t) · e^(-frequency · t) has fallen below the resting distance for good.
-double springSettlingTime_s(double displacement, double velocity) {
+double springSettlingTime_s(double displacement, double velocity, double point) {
     const double slope = std::abs(velocity + springFrequency * displacement), start = std::abs(displacement);
     const auto envelope = [&](double t) { return (start + slope * t) * std::exp(-springFrequency * t); };
     double low = slope > 0 ? std::max(0.0, 1 / springFrequency - start / slope) : 0;
-    if (envelope(low) <= restingDistance) return low;
+    const double near = restingDistance * point;
+    if (envelope(low) <= near) return low;
     double high = low + 0.25;
-    while (envelope(high) > restingDistance) high += 0.25;
+    while (envelope(high) > near) high += 0.25;
     for (int step = 0; step < 40; ++step) {
         const double middle = (low + high) / 2;
-        (envelope(middle) > restingDistance ? low : high) = middle;
+        (envelope(middle) > near ? low : high) = middle;
     }
     return high;
 }
 
 } // namespace
+
+ScrollRange ScrollRange::ofContent(double contentLength, double viewportLength, double spaceBefore, double spaceAfter) {
+    return {-spaceBefore, std::max(-spaceBefore, contentLength + spaceAfter - viewportLength)};
+}
 
 double ScrollRange::clamped(double offset) const { return std::clamp(offset, minimum, maximumOf(*this)); }
 
@@ -67,7 +72,7 @@ double Deceleration::Phase::velocityAt(double time_s) const {
     return (velocity - springFrequency * slope * t) * std::exp(-springFrequency * t);
 }
 
-Deceleration::Deceleration(double offset, double velocity, ScrollRange range) {
+Deceleration::Deceleration(double offset, double velocity, ScrollRange range, double point) : m_point(point) {
     const double start = std::isfinite(offset) ? offset : range.minimum;
     beginPhase(0, start, std::isfinite(velocity) ? velocity : 0, false, 0);
     const double end = range.clamped(start);
@@ -78,15 +83,14 @@ Deceleration::Deceleration(double offset, double velocity, ScrollRange range) {
     }
 }
 
-Deceleration Deceleration::settling(double offset, double velocity, double end) {
+Deceleration Deceleration::settling(double offset, double velocity, double end, double point) {
     // The fastest that the spring takes without swinging through.
     const double limit = springFrequency * (end - offset);
     const double kept = limit >= 0 ? std::min(velocity, limit) : std::max(velocity, limit);
-    return {offset, offset == end ? 0 : kept, {end, end}};
+    return {offset, offset == end ? 0 : kept, {end, end}, point};
 }
 
-// From outside the range. Where the flick inwards is faster than the spring, the axis passes the range's end instead of settling
-// on it and coasts from there.
+// From outside the range. If the flick inwards is faster than the spring, the axis passes the range's end and coasts from there.
 void Deceleration::comeBackTo(double end, ScrollRange range) {
     Phase& spring = m_phases[0];
     spring.isSpring = true;
@@ -99,22 +103,22 @@ void Deceleration::comeBackTo(double end, ScrollRange range) {
     coastThrough(range);
 }
 
-// The last phase is a spring: comes to rest at its end.
+// The last phase is a spring; the axis comes to rest at its end.
 void Deceleration::springTo(double end) {
     const Phase& spring = m_phases[m_phaseCount - 1];
-    restAt(spring.start_s + springSettlingTime_s(spring.offset - end, spring.velocity), end);
+    restAt(spring.start_s + springSettlingTime_s(spring.offset - end, spring.velocity, m_point), end);
 }
 
-// The last phase coasts from inside the range: until it is slow enough to rest, or until it meets the range's end.
+// The last phase coasts inside the range until it is slow enough to rest or meets the range's end.
 void Deceleration::coastThrough(ScrollRange range) {
     const Phase& coast = m_phases[m_phaseCount - 1];
-    const double speed = std::abs(coast.velocity);
-    if (speed <= restingSpeed) return restAt(coast.start_s, coast.offset);
+    const double speed = std::abs(coast.velocity), slow = restingSpeed * m_point;
+    if (speed <= slow) return restAt(coast.start_s, coast.offset);
     const double end = coast.velocity < 0 ? range.minimum : maximumOf(range);
-    const double slowingDown_s = std::log(speed / restingSpeed) / decelerationRate;
-    // The share of its speed that it still has when it meets the end.
+    const double slowingDown_s = std::log(speed / slow) / decelerationRate;
+    // The share of its speed that is left when it meets the end.
     const double shareLeft = 1 - (end - coast.offset) * decelerationRate / coast.velocity;
-    if (shareLeft * speed <= restingSpeed) {
+    if (shareLeft * speed <= slow) {
         const double time_s = coast.start_s + slowingDown_s;
         return restAt(time_s, range.clamped(coast.offsetAt(time_s)));
     }

@@ -5,9 +5,9 @@
 namespace proupsells::motion {
 namespace {
 
-// Only what the finger did in this last stretch of time counts.
+// Only positions of this last stretch of time count.
 constexpr double window_s = 0.1;
-// Devices that report more often than this would fill the memory with a few milliseconds' trembling.
+// A device that reports more often would fill the memory with the trembling of a few milliseconds.
 constexpr double sampleInterval_s = 0.005;
 
 } // namespace
@@ -30,7 +30,7 @@ void VelocityTracker::add(double time_s, double position) {
 
 double VelocityTracker::velocityAt(double time_s) const {
     int oldest = 0;
-    // The slack keeps a sample exactly as old as the window whatever the clock's rounding.
+    // A sample exactly as old as the window counts, however the clock rounds.
     while (oldest < m_count && m_times_s[oldest] < time_s - window_s - 1e-9) ++oldest;
     if (m_count - oldest < 2) return 0;
     const double span_s = m_times_s[m_count - 1] - m_times_s[oldest];

@@ -1,14 +1,14 @@
-// How fast a finger moves along one axis.
+// How fast something moves along one axis.
 #pragma once
 
 namespace proupsells::motion {
 
-// Speed of a finger from its last positions; a finger that rests for more than 0.1 s before it lifts has none.
+// The speed over the last positions; 0 after a rest of more than 0.1 s.
 class VelocityTracker {
 public:
     void reset();
     void add(double time_s, double position);
-    double velocityAt(double time_s) const; // points a second
+    double velocityAt(double time_s) const; // positions' unit a second
 
 private:
     static constexpr int capacity = 8;

@@ -40,6 +40,11 @@ TEST(ScrollRange, KeepsAnOffsetBetweenItsEnds) {
 
 TEST(ScrollRange, WithAMaximumBelowItsMinimumHoldsTheMinimumOnly) { EXPECT_EQ((ScrollRange{10, -50}.clamped(0)), 10); }
 
+TEST(ScrollRange, OfContentReachesFromTheSpaceBeforeItToTheSpaceAfterIt) {
+    EXPECT_EQ(ScrollRange::ofContent(1000, 400, 20, 34), (ScrollRange{-20, 634}));
+    EXPECT_EQ(ScrollRange::ofContent(300, 400, 20, 34), (ScrollRange{-20, -20}));
+}
+
 TEST(RubberBand, LeavesOffsetsInsideTheRangeAlone) {
     for (double offset : {0.0, 1.0, 450.0, 900.0}) EXPECT_EQ(rubberBanded(offset, hundreds, viewport), offset);
 }
