@@ -7,8 +7,15 @@ namespace {
 
 constexpr double hold_s = 0.4;
 constexpr double fade_s = 0.3;
+constexpr double thickness = 3;
+constexpr double margin = 3;
 constexpr double shortestBar = 36;
 constexpr double shortestPulledBar = 8;
+
+geometry::Rect uncovered(const geometry::Rect& viewport, const geometry::PhysicalInsets& covered) {
+    return {{viewport.minX() + covered.left, viewport.minY() + covered.top},
+            {viewport.width() - covered.left - covered.right, viewport.height() - covered.top - covered.bottom}};
+}
 
 } // namespace
 
@@ -18,16 +25,19 @@ double ScrollIndicator::end_s() const { return m_shownUntil_s + hold_s + fade_s;
 
 geometry::Rect ScrollIndicator::bar(const Track& track) {
     const bool isHorizontal = track.axis == geometry::Axis::horizontal;
-    const double trackLength = isHorizontal ? track.rect.width() : track.rect.height();
-    const double travel = track.contentLength - track.viewportLength;
-    if (!(travel > 0) || !(trackLength > 0)) return {};
+    const geometry::Rect seen = uncovered(track.viewport, track.covered), room = seen.insetBy(margin, margin);
+    const double seenLength = isHorizontal ? seen.width() : seen.height();
+    const double roomLength = isHorizontal ? room.width() : room.height();
+    const double travel = track.contentLength - seenLength;
+    if (!(travel > 0) || !(roomLength > 0)) return {};
 
-    const double pulled = std::max({0.0, -track.offset, track.offset - travel});
-    const double natural = std::max(shortestBar, trackLength * track.viewportLength / track.contentLength);
-    const double length = std::min(trackLength, std::max(shortestPulledBar, natural - pulled));
-    const double start = (trackLength - length) * std::clamp(track.offset / travel, 0.0, 1.0);
-    if (isHorizontal) return {{track.rect.minX() + start, track.rect.minY()}, {length, track.rect.height()}};
-    return {{track.rect.minX(), track.rect.minY() + start}, {track.rect.width(), length}};
+    const double travelled = track.offset + (isHorizontal ? track.covered.left : track.covered.top);
+    const double pulled = std::max({0.0, -travelled, travelled - travel});
+    const double natural = std::max(shortestBar, roomLength * seenLength / track.contentLength);
+    const double length = std::min(roomLength, std::max(shortestPulledBar, natural - pulled));
+    const double start = (roomLength - length) * std::clamp(travelled / travel, 0.0, 1.0);
+    if (isHorizontal) return {{room.minX() + start, room.maxY() - thickness}, {length, thickness}};
+    return {{track.isRightToLeft ? room.minX() : room.maxX() - thickness, room.minY() + start}, {thickness, length}};
 }
 
 void ScrollIndicator::paint(PaintContext& context, const PaintState& state, const Track& track, double now_s) const {

@@ -1,4 +1,4 @@
-// The thin bar that shows, while content moves, where in it one is.
+// The thin bar that shows where one is in the content, while the content moves.
 #pragma once
 
 #include "Platform/Geometry/Axis.hpp"
@@ -11,10 +11,11 @@ public:
     // What there is to show.
     struct Track {
         geometry::Axis axis = geometry::Axis::vertical;
-        geometry::Rect rect; // along the viewport's edge, in its coordinates
-        double viewportLength = 0;
+        geometry::Rect viewport;
+        geometry::PhysicalInsets covered; // of the viewport; nothing is shown there
+        bool isRightToLeft = false;       // a vertical bar stands at the trailing edge
         double contentLength = 0;
-        double offset = 0; // 0 at the content's start
+        double offset = 0; // of the viewport's left or top edge in the content
     };
 
     // The content moves until then.
@@ -24,7 +25,8 @@ public:
     // When it has faded.
     double end_s() const;
     void paint(PaintContext& context, const PaintState& state, const Track& track, double now_s) const;
-    // Where the bar stands; empty where the content fits. It shrinks against the end that the content is pulled away from.
+    // Where the bar stands in the viewport's coordinates; empty where the content fits. It shrinks where the content is pulled past
+    // an end.
     static geometry::Rect bar(const Track& track);
 
 private:

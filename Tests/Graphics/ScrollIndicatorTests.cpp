@@ -6,8 +6,7 @@ namespace proupsells::graphics {
 namespace {
 
 TEST(ScrollIndicator, StandsWhereTheContentStands) {
-    ScrollIndicator::Track track{
-        .axis = geometry::Axis::vertical, .rect = {{294, 3}, {3, 394}}, .viewportLength = 400, .contentLength = 1600};
+    ScrollIndicator::Track track{.viewport = {{0, 0}, {300, 400}}, .contentLength = 1600};
     EXPECT_EQ(ScrollIndicator::bar(track).minY(), 3);
     EXPECT_NEAR(ScrollIndicator::bar(track).height(), 394 / 4.0, 1e-9);
 

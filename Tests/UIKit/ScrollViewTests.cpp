@@ -95,6 +95,27 @@ TEST_F(ScrollViewTest, ADelegateIsToldOfStepsAndOfTheAnimationsEnd) {
     EXPECT_EQ(bed.loop().nextDueTime_s(), std::nullopt);
 }
 
+TEST_F(ScrollViewTest, AMovementThatADelegateBeginsDuringAnotherOneReplacesIt) {
+    struct Interrupting : UIScrollViewDelegate {
+        bool interrupts = false;
+        void scrollViewDidScroll(UIScrollView& view) override {
+            if (std::exchange(interrupts, false)) view.setContentOffset({0, 300}, true);
+        }
+    };
+    const auto delegate = std::make_shared<Interrupting>();
+    list->setDelegate(delegate);
+    list->setContentOffset({0, 100}, true);
+    bed.runFor(0.105); // between two steps
+
+    delegate->interrupts = true;
+    list->setContentOffset({0, 200}, true);
+    bed.runFor(1);
+
+    EXPECT_FALSE(delegate->interrupts);
+    EXPECT_EQ(y(), 300);
+    EXPECT_EQ(bed.loop().nextDueTime_s(), std::nullopt);
+}
+
 // --- Fingers ---
 
 TEST_F(ScrollViewTest, FollowsAFingerAfterTenPoints) {
@@ -129,30 +150,6 @@ TEST_F(ScrollViewTest, GoesOnAfterAFlickAndComesToRest) {
     EXPECT_FALSE(list->isDecelerating());
     EXPECT_THAT(delegate->calls, ElementsAre("willBeginDragging", "didEndDragging, goes on", "didEndDecelerating"));
     EXPECT_EQ(bed.loop().nextDueTime_s(), std::nullopt);
-}
-
-TEST_F(ScrollViewTest, AFlickBeyondTheEndSpringsBack) {
-    list->setContentOffset({0, 1100});
-    drag({100, 600}, {100, 400});
-    lift({100, 400});
-
-    double furthest = 0;
-    for (int i = 0; i < 300; ++i) {
-        bed.runFor(0.01);
-        furthest = std::max(furthest, y());
-    }
-
-    EXPECT_GT(furthest, 1200);
-    EXPECT_EQ(y(), 1200);
-}
-
-TEST_F(ScrollViewTest, ContentFollowsLessAndLessBeyondItsEnds) {
-    drag({100, 100}, {100, 310});
-
-    EXPECT_THAT(y(), DoubleNear(motion::rubberBanded(-200, {0, 1200}, 800), 1e-9));
-    lift({100, 310});
-    bed.runFor(5);
-    EXPECT_EQ(y(), 0);
 }
 
 TEST_F(ScrollViewTest, ATouchHoldsMovingContent) {

@@ -1,11 +1,10 @@
-#include "Tests/UIKit/Screen.hpp"
-
 #include "Platform/UIKit/Controllers/UINavigationController.hpp"
 #include "Platform/UIKit/Controls/UIPageControl.hpp"
 #include "Platform/UIKit/Views/UIImageView.hpp"
 #include "Platform/UIKit/Views/UILabel.hpp"
 #include "Platform/UIKit/Views/UIStackView.hpp"
 #include "Tests/Support/AllocationCounter.hpp"
+#include "Tests/UIKit/ScrollScene.hpp"
 
 namespace proupsells::uikit {
 namespace {
@@ -40,6 +39,17 @@ TEST_F(ScreenTest, ASteadyFrameAllocatesNothing) {
     EXPECT_EQ(allocations, 0u);
     EXPECT_GT(commands, 5u);
     EXPECT_EQ(list.commands.size(), commands);
+}
+
+TEST_F(ScrollViewTest, AFrameOfMovingContentAllocatesNothing) {
+    graphics::DisplayList picture;
+    list->setContentOffset({0, 1000}, {motion::TimingCurve::linear(), 1});
+    bed.runFor(0.2);
+    window->paint(picture);
+    bed.runFor(0.2);
+
+    EXPECT_EQ(tests::allocationsDuring([&] { window->paint(picture); }), 0u);
+    EXPECT_THAT(list->bounds().minY(), testing::DoubleNear(400, 1e-9));
 }
 
 } // namespace

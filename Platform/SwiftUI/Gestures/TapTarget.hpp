@@ -1,4 +1,4 @@
-// Something with an action, for fingers and for those who act without one.
+// Something with an action, for fingers and for keyboards and other means to act.
 #pragma once
 
 #include <functional>
@@ -16,7 +16,7 @@ public:
     ~TapTarget();
 
     void adopt(Node& node, Action action);
-    // Runs the newest action, which may do anything: take the node out of the tree, or let go of everything.
+    // Runs the newest action. The action may do anything: take the node out of the tree, or release everything.
     void act() const;
     // The same from outside, at any later time; does nothing once the node is gone.
     std::function<void()> activation() const;

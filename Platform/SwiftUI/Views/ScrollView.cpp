@@ -3,9 +3,10 @@
 #include <algorithm>
 
 #include "Platform/Graphics/ScrollIndicator.hpp"
+#include "Platform/Motion/DragOrigin.hpp"
+#include "Platform/Motion/ScrollAxis.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
-#include "Platform/SwiftUI/Gestures/DragRecognizer.hpp"
-#include "Platform/SwiftUI/Gestures/ScrollAxis.hpp"
+#include "Platform/SwiftUI/Tree/GestureHandler.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/SemanticContext.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
@@ -14,10 +15,8 @@
 namespace proupsells::swiftui {
 namespace {
 
-// Views learn that they come on screen this often while content moves by itself.
+// How often views learn that they come on screen while the content moves by itself.
 constexpr double step_s = 1.0 / 60;
-constexpr double indicatorThickness = 3;
-constexpr double indicatorInset = 3;
 
 View contentOf(const ScrollView& view) {
     if (view.content.size() == 1) return view.content[0];
@@ -52,7 +51,7 @@ public:
     // --- Touches
     GestureHandler* gestureHandler() override { return this; }
     bool interceptsTouch(const TouchEvent& event) override {
-        m_isHeld = m_offset.isCoastingAt(event.time_s);
+        m_isHeld = m_offset.isMovingAt(event.time_s);
         return m_isHeld;
     }
     bool touchBegan(const TouchEvent& event) override {
@@ -64,7 +63,7 @@ public:
     void touchCancelled() override;
     bool claims(const TouchEvent& event) override {
         m_isHeld = false;
-        return dragOrigin(m_axis, event).has_value();
+        return motion::dragOrigin(m_axis, event.start, event.location).has_value();
     }
     bool holdsTouch() const override { return m_offset.isTracking(); }
     bool scrolled(geometry::Point delta) override;
@@ -81,7 +80,7 @@ protected:
     void describe(accessibility::Node& node, const graphics::PaintState& state, double now_s) const override;
 
 private:
-    // The part of the tree that a semantic tree showed, for those who reveal something in it later.
+    // What a semantic tree showed of this view, for somebody who reveals something in it later.
     struct Sight {
         geometry::Rect viewportInWindow;
         double offset = 0;
@@ -93,8 +92,12 @@ private:
     double length() const { return m_axis == Axis::vertical ? frame().height() : frame().width(); }
     double contentLength() const { return m_axis == Axis::vertical ? m_contentSize.height : m_contentSize.width; }
     double shownOffset(double now_s) const { return m_offset.offsetAt(now_s) + m_correction.valueAt(now_s); }
+    // Of the viewport's left or top edge in the content.
+    double offsetFromLeftOrTop(double now_s) const {
+        return isMirrored() ? m_contentSize.width - frame().width() - shownOffset(now_s) : shownOffset(now_s);
+    }
     // Grows as the content is pulled towards its start.
-    double fingerAt(geometry::Point location) const { return isMirrored() ? -location.x : along(m_axis, location); }
+    double fingerAt(geometry::Point location) const { return isMirrored() ? -location.x : motion::along(m_axis, location); }
     geometry::ProposedSize contentProposal(std::optional<double> cross) const {
         return m_axis == Axis::vertical ? geometry::ProposedSize{cross, std::nullopt} : geometry::ProposedSize{std::nullopt, cross};
     }
@@ -106,21 +109,20 @@ private:
     void stopStepping();
     void step();
     void noteMoved();
-    graphics::ScrollIndicator::Track indicatorTrack(double now_s) const;
     geometry::Point revealed(const geometry::Rect& inWindow, const Sight& sight);
 
     Axis m_axis = Axis::vertical;
     bool m_showsIndicators = true;
     geometry::Size m_contentSize;
     geometry::PhysicalInsets m_insets;
-    ScrollAxis m_offset;
-    // What is left of a movement that a change of the content has caused, while that change is animated.
+    motion::ScrollAxis m_offset;
+    // A change of the content may move the offset; while the change is animated, this is what is left of that movement.
     Animated<double> m_correction{0};
     bool m_isHeld = false; // the next touch takes hold at once
     bool m_hasRange = false;
     graphics::ScrollIndicator m_indicator;
     std::shared_ptr<runloop::Timer> m_stepping;
-    std::shared_ptr<ScrollViewNode*> m_self; // made for those who reveal things
+    std::shared_ptr<ScrollViewNode*> m_self; // points here while the node lives; made for those who reveal things
 };
 
 // --- Layout
@@ -137,7 +139,7 @@ geometry::Size ScrollViewNode::measure(const geometry::ProposedSize& proposal) {
 void ScrollViewNode::layOut(const geometry::ProposedSize& proposal, geometry::Size size) {
     setDependsOnPosition();
     const bool isVertical = m_axis == Axis::vertical;
-    // What was measured with: a content that asks for more than it is offered stays as it is.
+    // The same proposal as in measure: content that asks for more than it is offered keeps its size.
     const geometry::ProposedSize offered = contentProposal(isVertical ? proposal.width : proposal.height);
     m_contentSize = onlyChild() ? onlyChild()->sizeThatFits(offered) : geometry::Size{};
     if (onlyChild()) {
@@ -149,7 +151,7 @@ void ScrollViewNode::layOut(const geometry::ProposedSize& proposal, geometry::Si
     adoptRange(host().now_s());
 }
 
-// By how much the view reaches over the edges of the safe area, in the direction in which it scrolls.
+// How far the view reaches over the edges of the safe area along its axis.
 geometry::PhysicalInsets ScrollViewNode::coveredSafeArea() const {
     geometry::Point origin = frame().origin;
     for (const Node* outer = parent(); outer; outer = outer->parent()) origin = origin + outer->frame().origin;
@@ -167,11 +169,8 @@ geometry::PhysicalInsets ScrollViewNode::coveredSafeArea() const {
 void ScrollViewNode::adoptRange(double now_s) {
     const double start = m_axis == Axis::vertical ? m_insets.top : isMirrored() ? m_insets.right : m_insets.left;
     const double end = m_insets.top + m_insets.bottom + m_insets.left + m_insets.right - start;
-    const motion::ScrollRange range{-start, std::max(-start, contentLength() + end - length())};
     const double before = shownOffset(now_s);
-    const bool wasAtStart = !m_hasRange || m_offset.offsetAt(now_s) == m_offset.range().minimum;
-    m_offset.setRange(range, length(), now_s);
-    if (wasAtStart && !m_offset.isTracking() && !m_offset.isCoastingAt(now_s)) m_offset.moveTo(range.minimum);
+    m_offset.setRange(motion::ScrollRange::ofContent(contentLength(), length(), start, end), length(), now_s);
     const double after = m_offset.offsetAt(now_s);
     if (m_hasRange && before != after + m_correction.valueAt(now_s)) {
         m_correction = Animated<double>(before - after);
@@ -179,7 +178,7 @@ void ScrollViewNode::adoptRange(double now_s) {
         if (m_correction.isAnimatingAt(now_s)) host().noteScrolling(m_correction.end_s());
     }
     m_hasRange = true;
-    if (m_offset.isCoastingAt(now_s)) coast();
+    if (m_offset.isMovingAt(now_s)) coast();
 }
 
 // --- Touches
@@ -193,7 +192,8 @@ void ScrollViewNode::beginDragging(double finger, double now_s) {
 
 void ScrollViewNode::touchMoved(const TouchEvent& event) {
     if (!m_offset.isTracking()) {
-        if (const auto origin = dragOrigin(m_axis, event)) beginDragging(isMirrored() ? -*origin : *origin, event.time_s);
+        if (const auto origin = motion::dragOrigin(m_axis, event.start, event.location))
+            beginDragging(fingerAt(*origin), event.time_s);
     }
     if (!m_offset.isTracking()) return;
     m_offset.track(fingerAt(event.location), event.time_s);
@@ -210,33 +210,30 @@ void ScrollViewNode::touchEnded(const TouchEvent& event) {
 void ScrollViewNode::touchCancelled() {
     m_isHeld = false;
     if (!m_offset.isTracking()) return;
-    m_offset.cancelTracking(host().now_s());
+    m_offset.comeToRest(host().now_s());
     coast();
 }
 
 bool ScrollViewNode::scrolled(geometry::Point delta) {
-    const double now_s = host().now_s(), before = m_offset.offsetAt(now_s);
-    const double wanted = m_offset.range().clamped(before + (isMirrored() ? -delta.x : along(m_axis, delta)));
-    if (m_offset.isTracking() || wanted == before) return false;
-    m_offset.moveTo(wanted);
+    if (!m_offset.scrollBy(isMirrored() ? -delta.x : motion::along(m_axis, delta), host().now_s())) return false;
     coast();
     noteMoved();
     return true;
 }
 
-// Goes on by itself, or rests where nothing moves.
+// Goes on by itself, or rests if nothing moves.
 void ScrollViewNode::coast() {
     const double now_s = host().now_s(), end_s = std::max(now_s, m_offset.end_s());
     m_indicator.show(end_s);
     host().noteScrolling(m_indicator.end_s());
     setNeedsDisplay();
-    if (!m_offset.isCoastingAt(now_s)) return stopStepping();
+    if (!m_offset.isMovingAt(now_s)) return stopStepping();
     if (!m_stepping) m_stepping = runloop::MainRunLoop::main().scheduleRepeating(step_s, [this] { step(); });
 }
 
 void ScrollViewNode::step() {
     noteMoved();
-    if (!m_offset.isCoastingAt(host().now_s())) stopStepping();
+    if (!m_offset.isMovingAt(host().now_s())) stopStepping();
 }
 
 void ScrollViewNode::stopStepping() {
@@ -251,34 +248,24 @@ void ScrollViewNode::noteMoved() {
 
 // --- Picture
 
-graphics::ScrollIndicator::Track ScrollViewNode::indicatorTrack(double now_s) const {
-    graphics::ScrollIndicator::Track track{.axis = m_axis};
-    const double inset = indicatorInset, breadth = indicatorThickness;
-    const geometry::Rect room{{inset + m_insets.left, inset + m_insets.top},
-                              {frame().width() - m_insets.left - m_insets.right - 2 * inset,
-                               frame().height() - m_insets.top - m_insets.bottom - 2 * inset}};
-    const motion::ScrollRange range = m_offset.range();
-    const double trailing = environment().isRightToLeft() ? room.minX() : room.maxX() - breadth;
-    track.rect = m_axis == Axis::vertical ? geometry::Rect{{trailing, room.minY()}, {breadth, room.height()}}
-                                          : geometry::Rect{{room.minX(), room.maxY() - breadth}, {room.width(), breadth}};
-    track.contentLength = contentLength();
-    track.viewportLength = contentLength() - (range.maximum - range.minimum);
-    track.offset = shownOffset(now_s) - range.minimum;
-    if (isMirrored()) track.offset = range.maximum - range.minimum - track.offset;
-    return track;
-}
-
 void ScrollViewNode::paintOverlay(graphics::PaintContext& context, const graphics::PaintState& state, double now_s) {
-    if (m_showsIndicators) m_indicator.paint(context, state, indicatorTrack(now_s), now_s);
+    if (!m_showsIndicators) return;
+    m_indicator.paint(context, state,
+                      {.axis = m_axis,
+                       .viewport = bounds(),
+                       .covered = m_insets,
+                       .isRightToLeft = environment().isRightToLeft(),
+                       .contentLength = contentLength(),
+                       .offset = offsetFromLeftOrTop(now_s)},
+                      now_s);
 }
 
 // --- Semantics
 
 void ScrollViewNode::describe(accessibility::Node& node, const graphics::PaintState&, double now_s) const {
-    const double offset = shownOffset(now_s);
-    const double fromLeft = isMirrored() ? m_contentSize.width - frame().width() - offset : offset;
+    const double offset = offsetFromLeftOrTop(now_s);
     node.scroll = accessibility::ScrollInfo{
-        .contentOffset = m_axis == Axis::vertical ? geometry::Point{0, offset} : geometry::Point{fromLeft, 0},
+        .contentOffset = m_axis == Axis::vertical ? geometry::Point{0, offset} : geometry::Point{offset, 0},
         .contentSize = m_contentSize,
         .contentInset = m_insets,
     };
@@ -300,17 +287,16 @@ void ScrollViewNode::appendSemantics(SemanticContext& context, const graphics::P
     context.reveal = outer;
 }
 
-// Moves by as little as brings the rectangle's centre into the viewport; returns by how much that has moved the rectangle in the
+// Scrolls by as little as brings the rectangle's centre into the viewport. Returns by how much the rectangle has moved in the
 // window since the sight.
 geometry::Point ScrollViewNode::revealed(const geometry::Rect& inWindow, const Sight& sight) {
     const geometry::Point centre = inWindow.center() - sight.viewportInWindow.origin;
-    const double fromStart = isMirrored() ? sight.viewportInWindow.width() - centre.x : along(m_axis, centre);
+    const double fromStart = isMirrored() ? sight.viewportInWindow.width() - centre.x : motion::along(m_axis, centre);
     const double inContent = fromStart * sight.pointsPerWindowPoint + sight.offset;
     const double now_s = host().now_s(), offset = m_offset.offsetAt(now_s);
-    // A point's room at the far edge, which is no longer part of the viewport.
+    // One point less at the far edge, which is not part of the viewport.
     const double wanted = inContent < offset ? inContent : inContent < offset + length() ? offset : inContent - length() + 1;
-    if (wanted != offset) {
-        m_offset.moveTo(wanted);
+    if (wanted != offset && m_offset.scrollTo(wanted, now_s)) {
         m_correction = Animated<double>(0);
         coast();
         noteMoved();

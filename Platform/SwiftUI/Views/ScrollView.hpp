@@ -6,9 +6,9 @@
 
 namespace proupsells::swiftui {
 
-// Takes the length that it is offered along its axis, and its content's across. Content may be as long as it likes; several views
-// make a stack. Follows the finger, coasts after a flick, and gives at its ends like rubber, also where the content is shorter than
-// the view. Where it reaches over a safe area's edge, the content can be scrolled clear of it.
+// Along its axis it takes the length that it is offered, across it the content's. Content may be as long as it likes; several views
+// make a stack. It follows the finger, coasts after a flick, and gives at its ends like rubber, even if the content is shorter than
+// the view. Where it reaches over an edge of the safe area, the content can be scrolled clear of that edge.
 struct ScrollView {
     Axis axis = Axis::vertical;
     bool showsIndicators = true; // while it moves

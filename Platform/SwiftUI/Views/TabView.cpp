@@ -1,16 +1,21 @@
 #include "Platform/SwiftUI/Views/TabView.hpp"
 
 #include <algorithm>
+#include <cmath>
 
+#include "Platform/Motion/DragOrigin.hpp"
+#include "Platform/Motion/ScrollAxis.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Platform/SwiftUI/Animation/Transaction.hpp"
-#include "Platform/SwiftUI/Gestures/DragRecognizer.hpp"
-#include "Platform/SwiftUI/Gestures/PagePosition.hpp"
+#include "Platform/SwiftUI/Tree/GestureHandler.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
 namespace proupsells::swiftui {
 namespace {
+
+// A finger that is faster than this turns the page, however far it has come. Points a second.
+constexpr double turningSpeed = 250;
 
 class TagNode final : public ModifierNode {
 public:
@@ -21,7 +26,7 @@ private:
     int m_tag = 0;
 };
 
-// The tag written behind a page, which may itself be a view made of others.
+// The tag of a page, which may itself be a view made of others.
 const TagNode* tagOf(const Node* node) {
     while (node) {
         if (const auto* tagged = dynamic_cast<const TagNode*>(node)) return tagged;
@@ -38,7 +43,7 @@ public:
 
     LengthRange lengthRange(Axis, std::optional<double>) override { return {0, geometry::infinity}; }
     geometry::Point contentTranslation(double now_s) const override {
-        const double shift = m_position.positionAt(now_s) * frame().width();
+        const double shift = m_position.offsetAt(now_s) * frame().width();
         return {environment().isRightToLeft() ? shift : -shift, 0};
     }
     std::optional<geometry::Rect> viewport() const override { return bounds(); }
@@ -51,7 +56,7 @@ public:
         return m_isHeld;
     }
     bool touchBegan(const TouchEvent& event) override {
-        if (m_isHeld) beginDragging(fingerAt(event.location.x), event.time_s);
+        if (m_isHeld) beginDragging(event.location, event.time_s);
         return true;
     }
     void touchMoved(const TouchEvent& event) override;
@@ -59,7 +64,7 @@ public:
     void touchCancelled() override { letGo(host().now_s()); }
     bool claims(const TouchEvent& event) override {
         m_isHeld = false;
-        return dragOrigin(Axis::horizontal, event).has_value();
+        return motion::dragOrigin(Axis::horizontal, event.start, event.location).has_value();
     }
     bool holdsTouch() const override { return m_position.isTracking(); }
 
@@ -71,18 +76,26 @@ protected:
 
 private:
     geometry::Rect bounds() const { return {{}, frame().size}; }
-    double fingerAt(double x) const { return environment().isRightToLeft() ? -x : x; }
-    // The page of the selection; the one shown so far where no page has it.
+    // In pages.
+    double fingerAt(geometry::Point location) const {
+        return (environment().isRightToLeft() ? -location.x : location.x) / frame().width();
+    }
+    int lastPage() const { return std::max(0, int(m_pages.size()) - 1); }
+    // The page of the selection; the one shown so far if no page has it.
     int selectedPage() const;
     int tagOfPage(int page) const;
-    void beginDragging(double finger, double now_s);
+    // The page to go to when the finger lifts now.
+    int pageForLift(double now_s) const;
+    void keepToExistingPages(double now_s);
+    void beginDragging(geometry::Point finger, double now_s);
     void letGo(double now_s);
     void noteMoving();
     void stopWaiting();
 
     std::optional<Binding<int>> m_selection;
     std::vector<Node*> m_pages;
-    PagePosition m_position;
+    motion::ScrollAxis m_position;
+    int m_target = 0;      // the page that is shown at rest
     bool m_isHeld = false; // the next touch takes hold at once
     std::shared_ptr<runloop::Timer> m_arrival;
 };
@@ -93,18 +106,32 @@ void TabViewNode::adopt(TabView&& view, UpdatePass& pass) {
     updateChildren(view.content, pass);
     m_pages.clear();
     collectLayoutChildren(m_pages);
-    m_position.setPages(int(m_pages.size()), frame().width(), pass.now_s);
+    keepToExistingPages(pass.now_s);
     const int page = selectedPage();
-    if (!isFirst && page == m_position.target()) return;
-    m_position.turnTo(page, isFirst ? nullptr : pass.animation, pass.now_s);
+    if (!isFirst && page == m_target) return;
+    m_target = page;
+    // A finger keeps what it holds.
+    if (m_position.isTracking()) return;
+    if (pass.animation && !isFirst)
+        m_position.animateTo(page, *pass.animation, pass.now_s);
+    else
+        m_position.moveTo(page);
     noteMoving();
+}
+
+void TabViewNode::keepToExistingPages(double now_s) {
+    const int last = lastPage();
+    m_position.setPages(int(m_pages.size()), frame().width(), now_s);
+    if (m_target <= last && m_position.offsetAt(now_s) <= last) return;
+    m_target = std::min(m_target, last);
+    if (!m_position.isTracking()) m_position.moveTo(m_target);
 }
 
 int TabViewNode::selectedPage() const {
     const int selected = m_selection->get();
     for (int page = 0; page < int(m_pages.size()); ++page)
         if (tagOfPage(page) == selected) return page;
-    return m_position.target();
+    return m_target;
 }
 
 int TabViewNode::tagOfPage(int page) const {
@@ -137,32 +164,43 @@ void TabViewNode::layOut(const geometry::ProposedSize&, geometry::Size size) {
 
 // --- Touches
 
-void TabViewNode::beginDragging(double finger, double now_s) {
+void TabViewNode::beginDragging(geometry::Point finger, double now_s) {
     stopWaiting();
-    m_position.beginTracking(finger, now_s);
+    m_position.beginTracking(fingerAt(finger), now_s);
     setNeedsDisplay();
 }
 
 void TabViewNode::touchMoved(const TouchEvent& event) {
     if (!m_position.isTracking()) {
-        if (const auto origin = dragOrigin(Axis::horizontal, event)) beginDragging(fingerAt(*origin), event.time_s);
+        if (const auto origin = motion::dragOrigin(Axis::horizontal, event.start, event.location))
+            beginDragging(*origin, event.time_s);
     }
     if (!m_position.isTracking()) return;
-    m_position.track(fingerAt(event.location.x), event.time_s);
+    m_position.track(fingerAt(event.location), event.time_s);
     setNeedsDisplay();
     host().setNeedsAppearanceUpdate();
 }
 
 void TabViewNode::touchEnded(const TouchEvent& event) { letGo(event.time_s); }
 
+int TabViewNode::pageForLift(double now_s) const {
+    const double position = m_position.offsetAt(now_s), speed = m_position.velocityAt(now_s) * frame().width();
+    const double page = speed > turningSpeed    ? std::floor(position) + 1
+                        : speed < -turningSpeed ? std::ceil(position) - 1
+                                                : std::round(position);
+    return std::clamp(int(page), 0, lastPage());
+}
+
 void TabViewNode::letGo(double now_s) {
     m_isHeld = false;
     if (!m_position.isTracking()) return;
-    const int page = m_position.pageForLift(now_s);
+    const int page = pageForLift(now_s);
     const Binding<int> selection = *m_selection;
-    if (selection.get() != tagOfPage(page)) withAnimation([&] { selection.set(tagOfPage(page)); });
+    const bool hasTurned = !m_pages.empty() && selection.get() != tagOfPage(page);
+    if (hasTurned) withAnimation([&] { selection.set(tagOfPage(page)); });
     // Whoever owns the selection may have chosen otherwise.
-    m_position.settle(selectedPage(), now_s);
+    m_target = selectedPage();
+    m_position.settleAt(m_target, now_s);
     noteMoving();
 }
 

@@ -6,9 +6,9 @@
 
 namespace proupsells::swiftui {
 
-// Fills what it is offered, and so does each page. The finger turns the pages; the selection is written when it lifts. A selection
-// that is changed from outside slides there directly, by the animation of the change. A page is selected by its tag, or by its
-// place in the list, from 0, where it has none; a selection that no page has shows the page that was shown before.
+// It fills what it is offered, and so does each page. A finger turns the pages; the selection is written when the finger lifts.
+// When the selection changes from outside, the pages slide there directly, with the animation of the change. A page without a tag
+// is selected by its place in the list, from 0. A selection that no page has leaves the page that is shown.
 struct TabView {
     Binding<int> selection;
     ViewList content;
@@ -22,7 +22,7 @@ struct TagModifier {
     View modified(View content) &&;
     bool operator==(const TagModifier&) const = default;
 };
-// What selects the view in a TabView.
+// The selection that shows this view in a TabView.
 inline TagModifier tag(int tag) { return {tag}; }
 
 } // namespace proupsells::swiftui

@@ -45,21 +45,18 @@ void UIScrollView::adoptContentSize() {
                               length(m_constrainedHeight.value_or(m_ownContentSize.height))};
     if (m_contentSize == size) return;
     m_contentSize = size;
-    adoptInset();
-    keepOffsetInRange();
+    adoptRanges();
     setNeedsDisplay();
 }
 
 void UIScrollView::setContentInset(const geometry::PhysicalInsets& inset) {
     m_contentInset = inset;
-    adoptInset();
-    keepOffsetInRange();
+    adoptRanges();
 }
 
 void UIScrollView::setContentInsetAdjustmentBehavior(ContentInsetAdjustmentBehavior behavior) {
     m_adjustmentBehavior = behavior;
-    adoptInset();
-    keepOffsetInRange();
+    adoptRanges();
 }
 
 // Safe areas count along the axes that can be scrolled.
@@ -67,53 +64,55 @@ geometry::PhysicalInsets UIScrollView::adjustedContentInset() const {
     geometry::PhysicalInsets inset = m_contentInset;
     if (m_adjustmentBehavior == ContentInsetAdjustmentBehavior::never) return inset;
     const geometry::PhysicalInsets unsafe = safeAreaInsets();
-    if (m_alwaysBounces[0] || m_contentSize.width > frame().width()) {
+    if (m_contentSize.width > frame().width()) {
         inset.left += unsafe.left;
         inset.right += unsafe.right;
     }
-    if (m_alwaysBounces[1] || m_contentSize.height > frame().height()) {
+    if (m_alwaysBouncesVertically || m_contentSize.height > frame().height()) {
         inset.top += unsafe.top;
         inset.bottom += unsafe.bottom;
     }
     return inset;
 }
 
-// Content that stands at its start stays there.
-void UIScrollView::adoptInset() {
-    const geometry::PhysicalInsets before = m_adoptedInset, after = adjustedContentInset();
-    m_adoptedInset = after;
-    if (before == after || m_movement || m_isTracking) return;
-    geometry::Point offset = bounds().origin;
-    if (offset.x == -before.left) offset.x = -after.left;
-    if (offset.y == -before.top) offset.y = -after.top;
-    applyOffset(offset);
+void UIScrollView::adoptRanges() {
+    const geometry::PhysicalInsets inset = adjustedContentInset();
+    const double now = now_s(), width = frame().width(), height = frame().height();
+    const auto horizontal = motion::ScrollRange::ofContent(m_contentSize.width, width, inset.left, inset.right);
+    const auto vertical = motion::ScrollRange::ofContent(m_contentSize.height, height, inset.top, inset.bottom);
+    axisAlong(Axis::horizontal).setRange(horizontal, width, now);
+    axisAlong(Axis::vertical).setRange(vertical, height, now);
+    if (m_movementEnd) m_indicator.show(movementEnd_s());
+    adoptOffset();
 }
 
-void UIScrollView::safeAreaInsetsDidChange() {
-    adoptInset();
-    keepOffsetInRange();
-}
+void UIScrollView::safeAreaInsetsDidChange() { adoptRanges(); }
 
 void UIScrollView::frameDidChange(const geometry::Rect& previous) {
     if (previous.size == frame().size) return;
-    adoptInset();
-    keepOffsetInRange();
+    adoptRanges();
 }
 
-motion::ScrollRange UIScrollView::rangeAlong(Axis axis) const {
-    const geometry::PhysicalInsets inset = adjustedContentInset();
-    if (axis == Axis::horizontal) return {-inset.left, std::max(-inset.left, m_contentSize.width + inset.right - frame().width())};
-    return {-inset.top, std::max(-inset.top, m_contentSize.height + inset.bottom - frame().height())};
+void UIScrollView::setAlwaysBounceVertical(bool bounces) {
+    m_alwaysBouncesVertically = bounces;
+    adoptRanges();
+}
+
+bool UIScrollView::overflows(Axis axis) const {
+    const motion::ScrollRange& range = axisAlong(axis).range();
+    return range.maximum > range.minimum;
 }
 
 bool UIScrollView::canScroll(Axis axis) const {
-    const motion::ScrollRange range = rangeAlong(axis);
-    return m_isScrollEnabled && (range.maximum > range.minimum || m_alwaysBounces[std::size_t(axis)]);
+    return m_isScrollEnabled && (overflows(axis) || (axis == Axis::vertical && m_alwaysBouncesVertically));
 }
 
 // --- Offset ---
 
-geometry::Point UIScrollView::contentOffset() const { return m_movement ? m_movement->offsetAt(now_s()) : bounds().origin; }
+geometry::Point UIScrollView::contentOffset() const {
+    const double now = now_s();
+    return {axisAlong(Axis::horizontal).offsetAt(now), axisAlong(Axis::vertical).offsetAt(now)};
+}
 
 void UIScrollView::setContentOffset(geometry::Point offset, bool animated) {
     setContentOffset(offset, motion::Animation{motion::TimingCurve::easeInOut(), animated ? 0.3 : 0});
@@ -122,38 +121,26 @@ void UIScrollView::setContentOffset(geometry::Point offset, bool animated) {
 void UIScrollView::setContentOffset(geometry::Point offset, const motion::Animation& animation) {
     if (!std::isfinite(offset.x) || !std::isfinite(offset.y)) return;
     const auto kept = strongReference(*this);
-    stopMovement();
-    m_isOffsetOfPerson = false;
-    if (animation.end_s() > 0) {
-        if (offset != bounds().origin) startMovement(ScrollMovement::animation(bounds().origin, offset, animation, now_s()));
-        return;
-    }
-    applyOffset(offset);
-    if (m_isDragging) holdContentAt(m_finger);
+    const double now = now_s();
+    axisAlong(Axis::horizontal).animateTo(offset.x, animation, now);
+    axisAlong(Axis::vertical).animateTo(offset.y, animation, now);
+    endMovement();
+    if (isMovingAt(now)) startMovement(&UIScrollViewDelegate::scrollViewDidEndScrollingAnimation);
+    adoptOffset();
 }
 
 bool UIScrollView::isDecelerating() const {
-    return m_movement && m_movement->kind() == ScrollMovement::Kind::deceleration && !m_movement->isOverAt(now_s());
-}
-
-void UIScrollView::keepOffsetInRange() {
-    if (m_isOffsetOfPerson) clampOffset();
+    const double now = now_s();
+    return axisAlong(Axis::horizontal).isCoastingAt(now) || axisAlong(Axis::vertical).isCoastingAt(now);
 }
 
 void UIScrollView::clampOffset() {
-    if (m_isTracking) return;
-    if (isDecelerating()) {
-        const double now = now_s();
-        const geometry::Point velocity = m_movement->velocityAt(now);
-        stopMovement();
-        decelerate(velocity, now);
-    } else if (!m_movement) {
-        const geometry::Point offset = bounds().origin;
-        applyOffset({rangeAlong(Axis::horizontal).clamped(offset.x), rangeAlong(Axis::vertical).clamped(offset.y)});
-    }
+    for (motion::ScrollAxis& axis : m_axes) axis.moveIntoRange(now_s());
+    adoptOffset();
 }
 
-void UIScrollView::applyOffset(geometry::Point offset) {
+void UIScrollView::adoptOffset() {
+    const geometry::Point offset = contentOffset();
     if (offset == bounds().origin) return;
     const auto kept = strongReference(*this);
     setBoundsOrigin(offset);
@@ -161,16 +148,20 @@ void UIScrollView::applyOffset(geometry::Point offset) {
     tellDelegate(&UIScrollViewDelegate::scrollViewDidScroll);
 }
 
-void UIScrollView::tellDelegate(void (UIScrollViewDelegate::*call)(UIScrollView&)) {
-    if (const auto delegate = m_delegate.lock()) ((*delegate).*call)(*this);
+void UIScrollView::tellDelegate(Event event) {
+    if (const auto delegate = m_delegate.lock()) ((*delegate).*event)(*this);
 }
 
 // --- Movement ---
 
-void UIScrollView::startMovement(const ScrollMovement& movement) {
-    m_movement = movement;
+bool UIScrollView::isMovingAt(double now_s) const { return m_axes[0].isMovingAt(now_s) || m_axes[1].isMovingAt(now_s); }
+
+double UIScrollView::movementEnd_s() const { return std::max(m_axes[0].end_s(), m_axes[1].end_s()); }
+
+void UIScrollView::startMovement(Event atEnd) {
+    m_movementEnd = atEnd;
     movingScrollViews().push_back(this);
-    m_indicator.show(movement.end_s());
+    m_indicator.show(movementEnd_s());
     setNeedsDisplay();
     const auto self = weakReference(*this);
     if (!followsMovement() || self.expired()) return;
@@ -179,46 +170,40 @@ void UIScrollView::startMovement(const ScrollMovement& movement) {
     });
 }
 
-void UIScrollView::stopMovement() {
-    if (!m_movement) return;
-    const geometry::Point offset = contentOffset();
-    m_movement.reset();
+void UIScrollView::endMovement() {
+    if (!m_movementEnd) return;
+    m_movementEnd = nullptr;
     std::erase(movingScrollViews(), this);
     if (m_steps) m_steps->invalidate();
     m_steps.reset();
     m_indicator.show(now_s());
-    applyOffset(offset);
+}
+
+void UIScrollView::stopMovement() {
+    for (motion::ScrollAxis& axis : m_axes) axis.stop(now_s());
+    endMovement();
+    adoptOffset();
 }
 
 void UIScrollView::stepMovement() {
-    if (!m_movement) return;
     const auto kept = strongReference(*this);
-    const double now = now_s();
-    if (m_movement->isOverAt(now))
-        finishMovement();
-    else
-        applyOffset(m_movement->offsetAt(now));
-}
-
-void UIScrollView::finishMovement() {
-    const auto kind = m_movement->kind();
+    if (isMovingAt(now_s())) return adoptOffset();
+    const Event event = m_movementEnd;
     stopMovement();
-    if (m_movement) return; // somebody told of the last step has started another one
-    tellDelegate(kind == ScrollMovement::Kind::deceleration ? &UIScrollViewDelegate::scrollViewDidEndDecelerating
-                                                            : &UIScrollViewDelegate::scrollViewDidEndScrollingAnimation);
+    const bool hasBegunAnother = m_movementEnd; // somebody who was told of the last step
+    if (event && !hasBegunAnother) tellDelegate(event);
 }
 
+// Backwards and by index: a view may start, stop or release others during its step, and none of the rest may be left out.
 void UIScrollView::followTime() {
-    const auto moving = movingScrollViews();
-    for (UIScrollView* const view : moving) {
-        const auto& now = movingScrollViews();
-        if (std::find(now.begin(), now.end(), view) != now.end()) view->stepMovement();
-    }
+    const auto& moving = movingScrollViews();
+    for (std::size_t i = moving.size(); i-- > 0;)
+        if (i < moving.size()) moving[i]->stepMovement();
 }
 
 bool UIScrollView::isAnimating() const {
     if (isHidden()) return false;
-    if (m_movement && !m_movement->isOverAt(now_s())) return true;
+    if (isMovingAt(now_s())) return true;
     const bool hasIndicator = showsIndicator(Axis::horizontal) || showsIndicator(Axis::vertical);
     if (hasIndicator && !m_isDragging && now_s() < m_indicator.end_s()) return true;
     const geometry::Rect seen = bounds();
@@ -229,10 +214,7 @@ bool UIScrollView::isAnimating() const {
 
 // --- Picture ---
 
-bool UIScrollView::showsIndicator(Axis axis) const {
-    const motion::ScrollRange range = rangeAlong(axis);
-    return m_showsIndicators[std::size_t(axis)] && range.maximum > range.minimum;
-}
+bool UIScrollView::showsIndicator(Axis axis) const { return m_showsIndicators[std::size_t(axis)] && overflows(axis); }
 
 void UIScrollView::setShowsVerticalScrollIndicator(bool shows) {
     m_showsIndicators[std::size_t(Axis::vertical)] = shows;
@@ -257,26 +239,16 @@ void UIScrollView::paintSubviews(graphics::PaintContext& context, const graphics
 }
 
 void UIScrollView::paintIndicator(Axis axis, graphics::PaintContext& context, const graphics::PaintState& state) const {
-    constexpr double breadth = 3, margin = 3;
-    const double now = now_s();
-    if (now >= m_indicator.end_s()) return;
-    const geometry::PhysicalInsets inset = adjustedContentInset();
     const geometry::Rect seen = bounds();
-    const geometry::Rect room{
-        {seen.minX() + inset.left + margin, seen.minY() + inset.top + margin},
-        {seen.width() - inset.left - inset.right - 2 * margin, seen.height() - inset.top - inset.bottom - 2 * margin}};
-    const double trailing = isRightToLeft() ? room.minX() : room.maxX() - breadth;
     const bool isVertical = axis == Axis::vertical;
-    const motion::ScrollRange range = rangeAlong(axis);
-    const double length = isVertical ? m_contentSize.height : m_contentSize.width;
     m_indicator.paint(context, state,
                       {.axis = axis,
-                       .rect = isVertical ? geometry::Rect{{trailing, room.minY()}, {breadth, room.height()}}
-                                          : geometry::Rect{{room.minX(), room.maxY() - breadth}, {room.width(), breadth}},
-                       .viewportLength = length - (range.maximum - range.minimum),
-                       .contentLength = length,
-                       .offset = (isVertical ? seen.minY() : seen.minX()) - range.minimum},
-                      now);
+                       .viewport = seen,
+                       .covered = adjustedContentInset(),
+                       .isRightToLeft = isRightToLeft(),
+                       .contentLength = isVertical ? m_contentSize.height : m_contentSize.width,
+                       .offset = isVertical ? seen.minY() : seen.minX()},
+                      now_s());
 }
 
 void UIScrollView::describe(accessibility::Node& node, const graphics::PaintState&) const {

@@ -2,17 +2,15 @@
 #pragma once
 
 #include "Platform/Graphics/ScrollIndicator.hpp"
-#include "Platform/Motion/TimingCurve.hpp"
-#include "Platform/Motion/VelocityTracker.hpp"
+#include "Platform/Motion/ScrollAxis.hpp"
 #include "Platform/RunLoop/Timer.hpp"
-#include "Platform/UIKit/Views/ScrollMovement.hpp"
 #include "Platform/UIKit/Views/UIScrollViewDelegate.hpp"
 #include "Platform/UIKit/Views/UIView.hpp"
 
 namespace proupsells::uikit {
 
-// Its subviews' frames are in content coordinates; the content offset is the origin of its bounds. Seen from the content, the
-// scroll view's edge anchors are the content's edges; its width, height and centre are the frame's.
+// The frames of its subviews are in content coordinates; the content offset is the origin of its bounds. For its subviews, the edge
+// anchors of a scroll view are the content's edges; width, height and centre are those of its frame.
 class UIScrollView : public UIView {
 public:
     enum class ContentInsetAdjustmentBehavior { automatic, never };
@@ -26,12 +24,12 @@ public:
 
     // --- Content ---
 
-    // What the constraints between the content and this view's edges say comes before what is set.
+    // A length that constraints between the content and this view's edges give wins over the one that is set.
     geometry::Size contentSize() const { return m_contentSize; }
     void setContentSize(geometry::Size size);
     geometry::PhysicalInsets contentInset() const { return m_contentInset; }
     void setContentInset(const geometry::PhysicalInsets& inset);
-    // With the safe area's insets, as far as the behaviour says so.
+    // The content inset, plus the safe area's insets where the behaviour asks for them.
     geometry::PhysicalInsets adjustedContentInset() const;
     ContentInsetAdjustmentBehavior contentInsetAdjustmentBehavior() const { return m_adjustmentBehavior; }
     void setContentInsetAdjustmentBehavior(ContentInsetAdjustmentBehavior behavior);
@@ -40,10 +38,10 @@ public:
 
     // Where the content stands at this very moment.
     geometry::Point contentOffset() const;
-    // Goes there even where nothing is to be seen. An offset that the program has set is left alone when sizes change; one that a
-    // person has scrolled to is moved back to where there is content.
+    // Goes there even if there is nothing to see. When sizes change, an offset that the program has set stays; one that a person
+    // has scrolled to moves back to where there is content. A finger that drags the content holds it in the new place, without an
+    // animation.
     void setContentOffset(geometry::Point offset, bool animated = false);
-    // With an animation of one's own.
     void setContentOffset(geometry::Point offset, const motion::Animation& animation);
 
     // A finger is down on the content.
@@ -56,17 +54,15 @@ public:
     bool isScrollEnabled() const { return m_isScrollEnabled; }
     // Only for fingers and wheels.
     void setScrollEnabled(bool enabled);
-    // Whether content that fits can be pulled all the same.
-    bool alwaysBounceVertical() const { return m_alwaysBounces[1]; }
-    void setAlwaysBounceVertical(bool bounces) { m_alwaysBounces[1] = bounces; }
-    bool alwaysBounceHorizontal() const { return m_alwaysBounces[0]; }
-    void setAlwaysBounceHorizontal(bool bounces) { m_alwaysBounces[0] = bounces; }
+    // Whether a finger can pull content that fits, too.
+    bool alwaysBounceVertical() const { return m_alwaysBouncesVertically; }
+    void setAlwaysBounceVertical(bool bounces);
     bool showsVerticalScrollIndicator() const { return m_showsIndicators[1]; }
     void setShowsVerticalScrollIndicator(bool shows);
     bool showsHorizontalScrollIndicator() const { return m_showsIndicators[0]; }
     void setShowsHorizontalScrollIndicator(bool shows);
 
-    // Brings all scroll views that move to where they stand at this moment.
+    // Moves the bounds of all moving scroll views to where their content stands at this moment.
     static void followTime();
 
     // --- UIView ---
@@ -84,11 +80,9 @@ public:
     void safeAreaInsetsDidChange() override;
 
 protected:
-    // Moves an offset that a person has scrolled to back to where there is content, unless it moves.
-    void keepOffsetInRange();
-    // The same, whoever has set the offset.
+    // Moves the offset back to where there is content, whoever has set it. Content that is held or moves stays where it is.
     void clampOffset();
-    // After every change of the offset.
+    // Called after every change of the offset.
     virtual void contentOffsetDidChange() {}
     // Whether contentOffsetDidChange must be called while the content moves by itself, and not only when the picture is made.
     virtual bool followsMovement() const { return !m_delegate.expired(); }
@@ -100,30 +94,43 @@ protected:
 private:
     friend class LayoutSystem;
 
-    motion::ScrollRange rangeAlong(Axis axis) const;
+    // A call of the delegate.
+    using Event = void (UIScrollViewDelegate::*)(UIScrollView&);
+
+    // The content offset is the only way to move the bounds.
+    using UIView::setBounds;
+    using UIView::setBoundsOrigin;
+
+    motion::ScrollAxis& axisAlong(Axis axis) { return m_axes[std::size_t(axis)]; }
+    const motion::ScrollAxis& axisAlong(Axis axis) const { return m_axes[std::size_t(axis)]; }
+    // Whether there is more content than the viewport shows.
+    bool overflows(Axis axis) const;
     bool canScroll(Axis axis) const;
     void setContentSizeFromConstraints(std::optional<double> width, std::optional<double> height);
     void adoptContentSize();
-    void adoptInset();
+    // After a change of the content's, the viewport's or the insets' size.
+    void adoptRanges();
 
     // The finger in the viewport, whose origin stands still.
     geometry::Point fingerAt(geometry::Point location) const { return location - bounds().origin; }
     std::optional<geometry::Point> dragOrigin(const UITouch& touch) const;
     void beginDragging(geometry::Point finger, double time_s);
-    void holdContentAt(geometry::Point finger);
-    void drag(geometry::Point finger, double time_s);
     void endTouch(double time_s, bool isFlick);
-    // Goes on within the ranges. Returns whether there is a way to go.
-    bool decelerate(geometry::Point velocity, double now_s);
+    // Scrolls by as little as makes what lies between the two visible; returns whether it has moved.
+    bool reveal(Axis axis, double first, double last);
 
-    void startMovement(const ScrollMovement& movement);
-    // Where it stands now.
+    bool isMovingAt(double now_s) const;
+    double movementEnd_s() const;
+    // The axes have been set going: follows them until they come to rest, and then tells the delegate.
+    void startMovement(Event atEnd);
+    // Does not follow the axes any more.
+    void endMovement();
+    // Stops the axes where they stand now.
     void stopMovement();
     void stepMovement();
-    void finishMovement();
-    void applyOffset(geometry::Point offset);
-    void tellDelegate(void (UIScrollViewDelegate::*call)(UIScrollView&));
-    // Whether there is something that a bar could show.
+    // Moves the bounds to where the axes stand.
+    void adoptOffset();
+    void tellDelegate(Event event);
     bool showsIndicator(Axis axis) const;
     void paintIndicator(Axis axis, graphics::PaintContext& context, const graphics::PaintState& state) const;
 
@@ -131,19 +138,15 @@ private:
     geometry::Size m_ownContentSize, m_contentSize;
     std::optional<double> m_constrainedWidth, m_constrainedHeight;
     geometry::PhysicalInsets m_contentInset;
-    geometry::PhysicalInsets m_adoptedInset; // what the offset was last brought in line with
     ContentInsetAdjustmentBehavior m_adjustmentBehavior = ContentInsetAdjustmentBehavior::automatic;
-    bool m_alwaysBounces[2] = {false, false};
+    bool m_alwaysBouncesVertically = false;
     bool m_showsIndicators[2] = {true, true};
     bool m_isScrollEnabled = true;
-    bool m_isOffsetOfPerson = false; // not the program's
 
     bool m_isTracking = false;
     bool m_isDragging = false;
-    geometry::Point m_finger, m_fingerAtStart;
-    geometry::Point m_draggedAtStart; // the offset before the rubber band, when the finger took hold
-    motion::VelocityTracker m_speeds[2];
-    std::optional<ScrollMovement> m_movement;
+    motion::ScrollAxis m_axes[2];
+    Event m_movementEnd = nullptr; // what the delegate is told then; null while nothing moves by itself
     std::shared_ptr<runloop::Timer> m_steps;
     graphics::ScrollIndicator m_indicator;
 };

@@ -1,4 +1,4 @@
-// Told of what a scroll view does.
+// What a scroll view tells about its movements.
 #pragma once
 
 namespace proupsells::uikit {
@@ -13,7 +13,7 @@ public:
     virtual void scrollViewDidScroll(UIScrollView&) {}
     virtual void scrollViewWillBeginDragging(UIScrollView&) {}
     virtual void scrollViewDidEndDragging(UIScrollView&, bool /*willDecelerate*/) {}
-    // Came to rest after a flick or after being pulled past an end.
+    // The content has come to rest after a flick, or after a pull past an end.
     virtual void scrollViewDidEndDecelerating(UIScrollView&) {}
     virtual void scrollViewDidEndScrollingAnimation(UIScrollView&) {}
 };
