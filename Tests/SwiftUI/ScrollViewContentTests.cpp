@@ -1,7 +1,6 @@
 // What a scroll view does with its content: changes, safe areas, revealing, what is on screen.
 #include <gmock/gmock.h>
 
-#include "Platform/Motion/ScrollMotion.hpp"
 #include "Tests/SwiftUI/Rows.hpp"
 
 using namespace proupsells;
@@ -39,33 +38,6 @@ TEST(ScrollView, MovesInWithTheAnimationOfTheChange) {
     EXPECT_NEAR(screen.offset().y, 400, 1e-9);
 
     screen.wait(0.5);
-    EXPECT_EQ(screen.offset().y, 200);
-}
-
-TEST(ScrollView, KeepsItsPlaceWhenItsContentGrows) {
-    int count = 10;
-    TouchScreen screen{[&] { return rows(count); }};
-    screen.host().scroll({150, 200}, {0, 600});
-
-    count = 20;
-    screen.rebuild();
-
-    EXPECT_EQ(screen.offset().y, 600);
-}
-
-TEST(ScrollView, IsNotMovedUnderTheFinger) {
-    int count = 10;
-    TouchScreen screen{[&] { return rows(count); }};
-    screen.host().scroll({150, 200}, {0, 600});
-    screen.pull({150, 200}, {150, 185}, 0.1);
-    const double held = screen.offset().y;
-
-    count = 6;
-    screen.rebuild();
-    EXPECT_EQ(screen.offset().y, held);
-
-    screen.up({150, 185});
-    screen.wait(4);
     EXPECT_EQ(screen.offset().y, 200);
 }
 

@@ -2,7 +2,6 @@
 
 #include <random>
 
-#include "Platform/Motion/ScrollMotion.hpp"
 #include "Tests/SwiftUI/Rows.hpp"
 
 using namespace proupsells;
@@ -61,35 +60,6 @@ TEST(ScrollView, IgnoresAFingerThatMovesAcross) {
     EXPECT_EQ(rows.offset(), 0);
 }
 
-TEST(ScrollView, GivesLikeRubberAtItsStart) {
-    Rows rows;
-
-    rows.screen.pull({150, 100}, {150, 210}, 0.5);
-
-    EXPECT_DOUBLE_EQ(rows.offset(), motion::rubberBanded(-100, {0, 600}, 400));
-    EXPECT_GT(rows.offset(), -100);
-}
-
-TEST(ScrollView, GivesLikeRubberAtItsEnd) {
-    Rows rows;
-    rows.screen.host().scroll({150, 200}, {0, 5000});
-    EXPECT_EQ(rows.offset(), 600);
-
-    rows.screen.pull({150, 300}, {150, 190}, 0.5);
-
-    EXPECT_DOUBLE_EQ(rows.offset(), motion::rubberBanded(700, {0, 600}, 400));
-}
-
-TEST(ScrollView, SpringsBackIntoItsRange) {
-    Rows rows;
-
-    rows.screen.drag({150, 100}, {150, 210}, 0.5);
-    EXPECT_LT(rows.offset(), 0);
-
-    rows.screen.wait(3);
-    EXPECT_EQ(rows.offset(), 0);
-}
-
 TEST(ScrollView, BouncesAlsoWhereTheContentFits) {
     TouchScreen screen{[] { return rows(2); }};
 
@@ -99,55 +69,6 @@ TEST(ScrollView, BouncesAlsoWhereTheContentFits) {
     screen.up({150, 160});
     screen.wait(3);
     EXPECT_EQ(screen.offset().y, 0);
-}
-
-TEST(ScrollView, CoastsWithTheFingersSpeed) {
-    Rows rows;
-
-    rows.screen.drag({150, 380}, {150, 300}, 0.1); // 800 points a second
-    const double atLift = rows.offset();
-    rows.screen.wait(0.1);
-    EXPECT_NEAR(rows.offset() - atLift, 800 * 0.1, 12);
-
-    rows.screen.wait(10);
-    EXPECT_NEAR(rows.offset() - atLift, 800 / 2.002, 8);
-}
-
-TEST(ScrollView, DoesNotCoastAfterTheFingerHasRested) {
-    Rows rows;
-
-    rows.screen.pull({150, 380}, {150, 300}, 0.1);
-    rows.screen.wait(0.2);
-    rows.screen.up({150, 300});
-    rows.screen.wait(5);
-
-    EXPECT_DOUBLE_EQ(rows.offset(), 70);
-}
-
-TEST(ScrollView, RunsOverItsEndAndComesBack) {
-    Rows rows;
-    rows.screen.host().scroll({150, 200}, {0, 550});
-
-    rows.screen.drag({150, 380}, {150, 200}, 0.1);
-    double furthest = 0;
-    for (int frame = 0; frame < 120; ++frame) {
-        rows.screen.wait(1.0 / 60);
-        furthest = std::max(furthest, rows.offset());
-    }
-
-    EXPECT_GT(furthest, 620);
-    EXPECT_EQ(rows.offset(), 600);
-}
-
-TEST(ScrollView, IsSampledExactlyBetweenItsSteps) {
-    const auto offsetAfterHalfASecondIn = [](int steps) {
-        Rows rows;
-        rows.screen.drag({150, 380}, {150, 280}, 0.2);
-        for (int step = 0; step < steps; ++step) rows.screen.wait(0.5 / steps);
-        return rows.offset();
-    };
-
-    EXPECT_NEAR(offsetAfterHalfASecondIn(1), offsetAfterHalfASecondIn(97), 1e-9);
 }
 
 TEST(ScrollView, LeavesNothingRunningAtRest) {
@@ -202,126 +123,6 @@ TEST(ScrollView, SettlesAfterBeingCaughtBeyondItsEnd) {
     rows.screen.wait(3);
 
     EXPECT_EQ(rows.offset(), 0);
-}
-
-// --- Controls inside
-
-struct RowOfButtons {
-    int taps = 0;
-    bool wasPressed = false;
-    TouchScreen screen{[this] {
-        return ScrollView{.content = {VStack{.spacing = 0,
-                                             .content = {Button{.action = [this] { ++taps; }, .label = box(300, 100, "button")},
-                                                         box(300, 900, "rest")}}}};
-    }};
-    bool isPressed() { return screen.find("button").opacity < 1; }
-};
-
-TEST(ScrollViewTouches, GoToAControlInside) {
-    RowOfButtons row;
-
-    row.screen.tap({150, 50});
-
-    EXPECT_EQ(row.taps, 1);
-}
-
-TEST(ScrollViewTouches, AreTakenFromAControlThatIsDragged) {
-    RowOfButtons row;
-    row.screen.down({150, 90});
-    EXPECT_TRUE(row.isPressed());
-
-    row.screen.move({150, 84});
-    EXPECT_TRUE(row.isPressed());
-
-    row.screen.move({150, 79});
-    EXPECT_FALSE(row.isPressed());
-    EXPECT_DOUBLE_EQ(row.screen.offset().y, 1);
-
-    row.screen.move({150, 90}); // back where it came from
-    row.screen.up({150, 90});
-    EXPECT_EQ(row.taps, 0);
-}
-
-TEST(ScrollViewTouches, StayWithAControlThatIsDraggedAcross) {
-    RowOfButtons row;
-
-    row.screen.down({100, 50});
-    row.screen.move({180, 60});
-    row.screen.up({180, 60});
-
-    EXPECT_EQ(row.taps, 1);
-    EXPECT_EQ(row.screen.offset().y, 0);
-}
-
-TEST(ScrollViewTouches, DragAlsoWithoutAMoveInBetween) {
-    RowOfButtons row;
-
-    row.screen.down({150, 90});
-    row.screen.up({150, 40});
-
-    EXPECT_EQ(row.taps, 0);
-    EXPECT_DOUBLE_EQ(row.screen.offset().y, 40);
-}
-
-TEST(ScrollViewTouches, DoNotReachWhatIsScrolledAway) {
-    RowOfButtons row;
-    row.screen.host().scroll({150, 200}, {0, 100});
-    row.screen.settle();
-
-    row.screen.tap({150, 20});
-
-    EXPECT_EQ(row.taps, 0);
-}
-
-TEST(ScrollViewTouches, SurviveTheControlThatTheyBeganOn) {
-    bool isThere = true;
-    TouchScreen screen{[&] {
-        View button = isThere ? View{Button{.action = [] {}, .label = box(300, 100, "button")}} : View{};
-        return ScrollView{.content = {VStack{.spacing = 0, .content = {button, box(300, 900, "rest")}}}};
-    }};
-    screen.down({150, 90});
-
-    isThere = false;
-    screen.rebuild();
-    screen.move({150, 60});
-
-    EXPECT_DOUBLE_EQ(screen.offset().y, 20);
-}
-
-TEST(ScrollViewTouches, AcrossGoToTheStripInside) {
-    TouchScreen screen{[] {
-        return ScrollView{
-            .content = {VStack{.spacing = 0,
-                               .content = {ScrollView{.axis = Axis::horizontal, .content = {box(1000, 100, "strip")}} |
-                                               frame(300, 100) | accessibilityIdentifier("stripView"),
-                                           box(300, 900, "rest")}}}};
-    }};
-
-    screen.pull({200, 50}, {150, 45}, 0.2);
-    EXPECT_DOUBLE_EQ(screen.frame("strip").minX(), -40);
-    EXPECT_EQ(screen.offset().y, 0);
-
-    // Once it is dragged across, it is not dragged along.
-    screen.move({150, 0});
-    EXPECT_EQ(screen.offset().y, 0);
-    screen.up({150, 0});
-    screen.wait(3);
-
-    screen.pull({200, 50}, {195, 0}, 0.2);
-    EXPECT_DOUBLE_EQ(screen.offset().y, 40);
-}
-
-TEST(ScrollViewTouches, GoToTheInnerOfTwoAlongTheSameAxis) {
-    TouchScreen screen{[] {
-        return ScrollView{.content = {VStack{.spacing = 0,
-                                             .content = {ScrollView{.content = {box(300, 1000, "inner")}} | frame(300, 200),
-                                                         box(300, 900, "outer")}}}};
-    }};
-
-    screen.pull({150, 150}, {150, 100}, 0.2);
-
-    EXPECT_DOUBLE_EQ(screen.frame("inner").minY(), -40);
-    EXPECT_DOUBLE_EQ(screen.frame("outer").minY(), 200);
 }
 
 // --- Wheel
