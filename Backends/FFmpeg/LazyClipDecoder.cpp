@@ -8,33 +8,31 @@ namespace proupsells::ffmpegbackend {
 
 namespace {
 
-// Stands for a clip that the plug-in plays as soon as it is there.
+// Stands for a clip until the plug-in is loaded, then passes everything on to it. Not playable when there is no plug-in.
 class LazyClip final : public host::Clip {
 public:
     LazyClip(std::filesystem::path file, std::weak_ptr<PluginLoader> plugin)
         : m_file(std::move(file)), m_plugin(std::move(plugin)) {}
 
     host::ClipFrame frameAt(double time_s) override {
-        openWhenPossible();
+        if (!m_clip) openWhenPossible();
         return m_clip ? m_clip->frameAt(time_s) : host::ClipFrame{};
     }
 
-    bool isPlayable() const override {
-        if (m_clip) return m_clip->isPlayable();
-        const auto plugin = m_plugin.lock();
-        return plugin && !plugin->hasFailed();
-    }
+    bool isPlayable() const override { return m_clip ? m_clip->isPlayable() : m_mayBeOpened; }
 
 private:
     void openWhenPossible() {
-        if (m_clip) return;
         const auto plugin = m_plugin.lock();
-        if (host::ClipDecoder* decoder = plugin ? plugin->decoder() : nullptr) m_clip = decoder->open(m_file);
+        host::ClipDecoder* const decoder = plugin ? plugin->decoder() : nullptr;
+        if (decoder) m_clip = decoder->open(m_file);
+        m_mayBeOpened = plugin && !plugin->hasFailed();
     }
 
     std::filesystem::path m_file;
     std::weak_ptr<PluginLoader> m_plugin;
-    std::shared_ptr<host::Clip> m_clip;
+    std::shared_ptr<host::Clip> m_clip; // null until the plug-in is there
+    bool m_mayBeOpened = true;
 };
 
 } // namespace
@@ -60,7 +58,6 @@ bool LazyClipDecoder::isLoaded() const { return m_plugin && m_plugin->isLoaded()
 
 std::shared_ptr<host::Clip> LazyClipDecoder::open(const std::filesystem::path& file) {
     if (!m_plugin) m_plugin = std::make_shared<PluginLoader>(m_pace, m_folders);
-    if (!m_plugin->decoder() && m_plugin->hasFailed()) return nullptr;
     std::erase_if(m_clips, [](const auto& entry) { return entry.second.expired(); });
     auto& known = m_clips[file];
     if (auto clip = known.lock()) return clip;

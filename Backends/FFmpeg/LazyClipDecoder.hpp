@@ -12,8 +12,8 @@ namespace proupsells::ffmpegbackend {
 
 class PluginLoader;
 
-// At Pace::realTime nothing here waits: until the plug-in is loaded, clips show nothing. Without the plug-in no clip plays, which
-// costs one log line.
+// At Pace::realTime nothing here waits: clips show nothing until the plug-in is loaded. When it cannot be loaded, every clip is
+// unplayable at either pace, and that is logged once.
 class LazyClipDecoder final : public host::ClipDecoder {
 public:
     // `folders` are searched for the plug-in, first one first.

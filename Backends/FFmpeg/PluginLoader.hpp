@@ -17,11 +17,10 @@ public:
     // `folders` are searched for the plug-in, first one first.
     PluginLoader(Pace pace, const std::vector<std::filesystem::path>& folders);
 
-    // Null while it is being loaded and when it cannot be; the latter costs one log line, when it turns out. At Pace::exact it
-    // waits.
+    // Null while the plug-in is being loaded, and when it cannot be loaded, which is logged once. Waits at Pace::exact.
     host::ClipDecoder* decoder();
     bool isLoaded() const { return m_decoder != nullptr; }
-    // Whether it has turned out that there is no decoder.
+    // True once `decoder` has found out that there is none.
     bool hasFailed() const { return m_hasFailed; }
 
 private:

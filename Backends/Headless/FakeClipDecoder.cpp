@@ -9,8 +9,9 @@ namespace proupsells::headless {
 
 class FakeClipDecoder::FakeClip final : public host::Clip {
 public:
-    FakeClip(Film film, bool isPlayable, std::string complaint, std::shared_ptr<Shared> shared)
-        : m_film(film), m_isPlayable(isPlayable), m_complaint(std::move(complaint)), m_shared(std::move(shared)) {
+    // `brokenName` is empty for a file that is not logged.
+    FakeClip(Film film, bool isPlayable, std::string brokenName, std::shared_ptr<Shared> shared)
+        : m_film(film), m_isPlayable(isPlayable), m_brokenName(std::move(brokenName)), m_shared(std::move(shared)) {
         ++m_shared->openCount;
     }
     ~FakeClip() override { --m_shared->openCount; }
@@ -18,34 +19,39 @@ public:
     host::ClipFrame frameAt(double time_s) override {
         ++m_shared->questionCount;
         if (!m_isPlayable) {
-            if (const std::string complaint = std::exchange(m_complaint, {}); !complaint.empty())
-                commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity, complaint, "ClipDecoder");
+            complain();
             return {};
         }
+        if (m_shared->isHeldBack) return m_lastFrame;
         constexpr double tolerance = 1e-9; // a moment that is due counts as due, whatever the rounding
         const double moment_s = std::fmod(std::max(0.0, time_s) + tolerance, m_film.duration_s);
-        return {picture(int(moment_s / m_film.pictureDuration_s)),
-                std::floor(moment_s / m_film.pictureDuration_s) * m_film.pictureDuration_s};
+        const double number = std::floor(moment_s / m_film.pictureDuration_s);
+        return m_lastFrame = {picture(int(number)), number * m_film.pictureDuration_s};
     }
     bool isPlayable() const override { return m_isPlayable; }
 
 private:
-    const std::shared_ptr<const graphics::Bitmap>& picture(int number) {
-        if (m_picture && pictureNumber(*m_picture) == number) return m_picture;
+    void complain() {
+        if (m_brokenName.empty() || !m_shared->complainedOf.insert(m_brokenName).second) return;
+        commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity, m_brokenName + " cannot be played",
+                                             "ClipDecoder");
+    }
+
+    std::shared_ptr<const graphics::Bitmap> picture(int number) {
+        if (m_lastFrame.picture && pictureNumber(*m_lastFrame.picture) == number) return m_lastFrame.picture;
         ++m_shared->decodedCount;
         auto made = std::make_shared<graphics::Bitmap>();
         made->width = m_film.width;
         made->height = m_film.height;
         made->pixels.assign(std::size_t(m_film.width * m_film.height), 0xFF000000u | std::uint32_t(number));
-        m_picture = std::move(made);
-        return m_picture;
+        return made;
     }
 
     Film m_film;
     bool m_isPlayable;
-    std::string m_complaint;
+    std::string m_brokenName;
     std::shared_ptr<Shared> m_shared;
-    std::shared_ptr<const graphics::Bitmap> m_picture;
+    host::ClipFrame m_lastFrame;
 };
 
 FakeClipDecoder::FakeClipDecoder() : FakeClipDecoder(Film{}) {}
@@ -63,8 +69,7 @@ std::shared_ptr<host::Clip> FakeClipDecoder::open(const std::filesystem::path& f
     m_shared->openedFiles.push_back(name);
     std::error_code error;
     const bool isThere = std::filesystem::exists(file, error), isBroken = m_brokenFiles.contains(name);
-    auto clip =
-        std::make_shared<FakeClip>(m_film, isThere && !isBroken, isBroken ? name + " cannot be played" : std::string{}, m_shared);
+    auto clip = std::make_shared<FakeClip>(m_film, isThere && !isBroken, isBroken ? name : std::string{}, m_shared);
     known = clip;
     return clip;
 }

@@ -26,8 +26,10 @@ public:
     explicit FakeClipDecoder(Film film);
     ~FakeClipDecoder() override;
 
-    // From now on `fileName` cannot be played, which costs one log line.
+    // From now on `fileName` cannot be played. That is logged once, however often it is opened.
     void breakFile(const std::string& fileName);
+    // While held back, clips answer with the last picture they had, as on a real clock.
+    void setHeldBack(bool isHeldBack) { m_shared->isHeldBack = isHeldBack; }
     std::shared_ptr<host::Clip> open(const std::filesystem::path& file) override;
 
     // The files that were opened, in order; one that is still open is not opened again.
@@ -46,9 +48,11 @@ private:
     class FakeClip;
     struct Shared {
         std::vector<std::string> openedFiles;
+        std::set<std::string> complainedOf;
         int questionCount = 0;
         int decodedCount = 0;
         int openCount = 0;
+        bool isHeldBack = false;
     };
 
     Film m_film;

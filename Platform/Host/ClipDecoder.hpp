@@ -20,10 +20,11 @@ class Clip {
 public:
     virtual ~Clip() = default;
 
-    // The frame due `time_s` after the clip's start; the clip repeats without end. A decoder on a real clock never blocks: until it
-    // has caught up it answers with the last frame it had. One on a virtual clock waits, so the same time gives the same frame.
+    // The frame due `time_s` after the clip's start; the clip repeats without end, from the end of its last picture. The same time
+    // gives the same frame, whatever was asked for before. A decoder on a virtual clock waits for that frame. One on a real clock
+    // never blocks: until it has caught up it answers with the last frame it had.
     virtual ClipFrame frameAt(double time_s) = 0;
-    // False once the file has turned out to hold no picture that can be decoded.
+    // False once `frameAt` has found out that there will never be a frame.
     virtual bool isPlayable() const = 0;
 };
 
@@ -31,8 +32,9 @@ class ClipDecoder {
 public:
     virtual ~ClipDecoder() = default;
 
-    // Returns at once, with the same clip for the same file as long as somebody holds it. Null when no clip can be played at all. A
-    // missing file makes a silent clip without frames, a broken one costs one log line.
+    // Returns at once, and never null; the same clip for the same file as long as somebody holds it. A missing file makes a silent
+    // clip without frames. So does a broken one, which costs one log line when its first frame is asked for, and no other when it
+    // is opened again. One that is cut short plays what it has, and costs a line likewise.
     virtual std::shared_ptr<Clip> open(const std::filesystem::path& file) = 0;
 };
 

@@ -23,18 +23,17 @@ ClipPlayback::ClipPlayback(Creation, std::filesystem::path file)
 
 void ClipPlayback::open() {
     m_hasOpened = true;
-    const auto decoder = host::Installation::current().clipDecoder;
-    if (decoder) m_clip = decoder->open(m_file);
+    if (const auto decoder = host::Installation::current().clipDecoder) m_clip = decoder->open(m_file);
     m_isPlayable = m_clip != nullptr;
 }
 
-host::ClipFrame ClipPlayback::currentFrame() {
+host::ClipFrame ClipPlayback::currentFrame() { return frameAt(runloop::MainRunLoop::main().now_s() - m_start_s); }
+
+host::ClipFrame ClipPlayback::frameAt(double time_s) {
     if (!m_hasOpened) open();
     if (!m_clip) return {};
-    // A decoder complains of a broken file when it is asked for a picture, so an unplayable clip is asked once more.
-    const bool isPlayable = m_clip->isPlayable();
-    host::ClipFrame frame = m_clip->frameAt(runloop::MainRunLoop::main().now_s() - m_start_s);
-    m_isPlayable = isPlayable;
+    host::ClipFrame frame = m_clip->frameAt(time_s);
+    m_isPlayable = m_clip->isPlayable();
     return frame;
 }
 

@@ -21,11 +21,14 @@ public:
     const std::filesystem::path& file() const { return m_file; }
     // The picture due at the main run loop's time; none when there is none yet, or none at all.
     host::ClipFrame currentFrame();
+    // The one that the clip begins with, or, until it is there, the one shown last.
+    host::ClipFrame firstFrame() { return frameAt(0); }
     // False once there will never be a picture.
     bool isPlayable() const { return m_isPlayable; }
 
 private:
     void open();
+    host::ClipFrame frameAt(double time_s);
 
     std::filesystem::path m_file;
     double m_start_s;

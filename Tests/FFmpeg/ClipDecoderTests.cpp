@@ -1,73 +1,32 @@
 // Clips as the program meets them: through the plug-in, on either kind of clock.
 
-#include <chrono>
-#include <fstream>
-#include <thread>
-
-#include <gmock/gmock.h>
-
-#include "Backends/FFmpeg/LazyClipDecoder.hpp"
-#include "Platform/Commons/DefaultLogger.hpp"
+#include "Tests/FFmpeg/Clips.hpp"
 
 using namespace proupsells;
 
 using namespace ffmpegbackend;
+using namespace tests;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace {
 
-// Twenty pictures, ten a second; the picture of number n has the luminance 16 + 10 n.
-const std::filesystem::path counting = "Tests/FFmpeg/Data/counting.mp4";
 // Forty pictures, ten a second, only the first of which stands by itself.
 const std::filesystem::path oneKeyPicture = "Tests/FFmpeg/Data/one-key-picture.mp4";
 const std::filesystem::path large = "Tests/FFmpeg/Data/large.mp4";
 
-class ClipDecoder : public testing::Test {
-protected:
-    ClipDecoder() {
-        m_former = commons::DefaultLogger::shared().setSink(
-            [this](const commons::LogRecord& record) { complaints.push_back(record.message); });
-    }
-    ~ClipDecoder() override { commons::DefaultLogger::shared().setSink(m_former); }
-
-    static LazyClipDecoder exactDecoder() { return {Pace::exact, LazyClipDecoder::defaultFolders()}; }
-
-    std::filesystem::path fileWith(const std::string& bytes) {
-        const auto file = std::filesystem::path(testing::TempDir()) / "proupsells-clip.mp4";
-        std::ofstream(file, std::ios::binary) << bytes;
-        return file;
-    }
-
-    std::vector<std::string> complaints;
-
-private:
-    commons::DefaultLogger::Sink m_former;
-};
-
-std::string bytesOf(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-// The number of the counting clip's picture, read back from its brightness.
-int numberOf(const host::ClipFrame& frame) {
-    if (!frame.picture) return -1;
-    const double brightness = frame.picture->pixels[frame.picture->pixels.size() / 2] & 0xFF;
-    return static_cast<int>(brightness * 219 / 255 / 10 + 0.5);
-}
+class ClipDecoder : public ClipTest {};
 
 } // namespace
 
-TEST_F(ClipDecoder, LoadsThePlugInWhenTheFirstClipIsWanted) {
+TEST_F(ClipDecoder, LoadsThePlugInWhenTheFirstPictureIsWanted) {
     LazyClipDecoder decoder = exactDecoder();
     EXPECT_FALSE(decoder.isLoaded());
 
-    const auto clip = decoder.open(counting);
+    decoder.open(counting)->frameAt(0);
 
     EXPECT_TRUE(decoder.isLoaded());
-    EXPECT_TRUE(clip);
 }
 
 TEST_F(ClipDecoder, ShowsTheFrameThatIsDue) {
@@ -87,6 +46,15 @@ TEST_F(ClipDecoder, RepeatsWithoutEnd) {
     EXPECT_EQ(numberOf(clip->frameAt(2.0)), 0);
     EXPECT_EQ(numberOf(clip->frameAt(3.55)), 15);
     EXPECT_EQ(numberOf(clip->frameAt(3601.3)), 13);
+}
+
+TEST_F(ClipDecoder, BeginsANewRoundWhereTheTimeIsRoundedDown) {
+    LazyClipDecoder decoder = exactDecoder();
+    const auto clip = decoder.open(counting);
+
+    EXPECT_EQ(numberOf(clip->frameAt(2.0 - 1e-9)), 0);
+    EXPECT_EQ(numberOf(clip->frameAt(1999 * 0.1 + 1999 * 0.1 + 0.2 - 1e-9)), 0);
+    EXPECT_EQ(numberOf(clip->frameAt(1.9 - 1e-9)), 19);
 }
 
 TEST_F(ClipDecoder, ShowsTheSameFrameOnEveryWayToATime) {
@@ -139,75 +107,34 @@ TEST_F(ClipDecoder, KeepsLargePicturesSmall) {
     EXPECT_NEAR(double(frame.picture->width) / frame.picture->height, 16.0 / 9, 0.02);
 }
 
-TEST_F(ClipDecoder, SaysNothingOfAMissingFile) {
-    LazyClipDecoder decoder = exactDecoder();
-    const auto clip = decoder.open("no-such-clip.mp4");
-
-    EXPECT_FALSE(clip->frameAt(1).picture);
-    EXPECT_FALSE(clip->isPlayable());
-    EXPECT_THAT(complaints, IsEmpty());
-}
-
-TEST_F(ClipDecoder, ComplainsOnceOfABrokenFile) {
-    LazyClipDecoder decoder = exactDecoder();
-    const auto clip = decoder.open(fileWith("this is no film"));
-
-    EXPECT_FALSE(clip->frameAt(0).picture);
-    EXPECT_FALSE(clip->frameAt(1).picture);
-
-    EXPECT_THAT(complaints, ElementsAre(HasSubstr("proupsells-clip.mp4")));
-}
-
-TEST_F(ClipDecoder, ComplainsOnceOfAnEmptyFile) {
-    LazyClipDecoder decoder = exactDecoder();
-    const auto clip = decoder.open(fileWith(""));
-
-    EXPECT_FALSE(clip->frameAt(0).picture);
-    EXPECT_EQ(complaints.size(), 1u);
-}
-
-TEST_F(ClipDecoder, SurvivesTruncationAtEveryLength) {
-    const std::string whole = bytesOf(counting);
-    for (std::size_t length = 0; length < whole.size(); length += whole.size() / 23) {
-        SCOPED_TRACE(length);
-        LazyClipDecoder decoder = exactDecoder();
-        const auto clip = decoder.open(fileWith(whole.substr(0, length)));
-        for (const double time_s : {0.0, 0.7, 1.9, 4.2}) clip->frameAt(time_s);
-    }
-}
-
 TEST_F(ClipDecoder, NeverBlocksOnTheRealClock) {
-    LazyClipDecoder decoder{Pace::realTime, LazyClipDecoder::defaultFolders()};
+    LazyClipDecoder decoder = decoderAt(Pace::realTime);
     const auto clip = decoder.open(counting);
 
-    const auto first = clip->frameAt(1.0); // nothing has been decoded yet
-    EXPECT_FALSE(first.picture);
+    EXPECT_FALSE(clip->frameAt(1.0).picture); // nothing has been decoded yet
 
-    const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-    while (numberOf(clip->frameAt(1.0)) != 10 && std::chrono::steady_clock::now() < limit) std::this_thread::yield();
-    EXPECT_EQ(numberOf(clip->frameAt(1.0)), 10);
+    EXPECT_TRUE(waitUntil([&] { return numberOf(clip->frameAt(1.0)) == 10; }));
 }
 
-TEST_F(ClipDecoder, DoesNotWaitForThePlugInOnTheRealClock) {
-    LazyClipDecoder decoder{Pace::realTime, {"no-such-folder"}};
-    const auto clip = decoder.open(counting);
-    ASSERT_TRUE(clip); // that there is no plug-in has not turned out yet, or is said later
-    EXPECT_EQ(decoder.open(counting), clip);
+TEST_F(ClipDecoder, WithoutThePlugInCostsOneLineAndPlaysNothingOnEitherClock) {
+    for (const Pace pace : {Pace::exact, Pace::realTime}) {
+        SCOPED_TRACE(pace == Pace::exact ? "exact" : "real time");
+        LazyClipDecoder decoder{pace, {"no-such-folder"}};
+        const auto first = decoder.open(counting), second = decoder.open(large);
+        const std::size_t complaintsBefore = complaints().size();
+        ASSERT_TRUE(first && second);
+        EXPECT_EQ(decoder.open(counting), first);
 
-    const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-    while (clip->isPlayable() && std::chrono::steady_clock::now() < limit) EXPECT_FALSE(clip->frameAt(0).picture);
+        const auto areGivenUp = [&] {
+            EXPECT_FALSE(first->frameAt(0).picture);
+            EXPECT_FALSE(second->frameAt(0).picture);
+            return !first->isPlayable() && !second->isPlayable();
+        };
+        EXPECT_TRUE(waitUntil(areGivenUp));
 
-    EXPECT_FALSE(clip->isPlayable());
-    EXPECT_THAT(complaints, ElementsAre(HasSubstr("cannot be played")));
-}
-
-TEST_F(ClipDecoder, WithoutThePlugInCostsOneLineAndShowsNothing) {
-    LazyClipDecoder decoder{Pace::exact, {"no-such-folder"}};
-
-    EXPECT_FALSE(decoder.open(counting));
-    EXPECT_FALSE(decoder.open(large));
-
-    EXPECT_THAT(complaints, ElementsAre(HasSubstr("cannot be played")));
+        EXPECT_EQ(complaints().size(), complaintsBefore + 1);
+        EXPECT_THAT(complaints().back(), HasSubstr("cannot be played"));
+    }
 }
 
 TEST_F(ClipDecoder, OutlivesNobody) {

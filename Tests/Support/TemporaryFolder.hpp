@@ -1,9 +1,10 @@
-// A folder that is there for one test.
+// Files that are there for one test.
 #pragma once
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -23,14 +24,22 @@ public:
 
     const std::filesystem::path& path() const { return m_path; }
 
-    // Makes the folders on the way.
-    void write(const std::string& name, std::string_view bytes) const {
-        std::filesystem::create_directories((m_path / name).parent_path());
-        std::ofstream(m_path / name, std::ios::binary) << bytes;
+    // Makes the folders on the way. Returns the file.
+    std::filesystem::path write(const std::string& name, std::string_view bytes) const {
+        const std::filesystem::path file = m_path / name;
+        std::filesystem::create_directories(file.parent_path());
+        std::ofstream(file, std::ios::binary) << bytes;
+        return file;
     }
 
 private:
     std::filesystem::path m_path;
 };
+
+// Empty for a file that is not there.
+inline std::string bytesOf(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
 
 } // namespace proupsells::tests

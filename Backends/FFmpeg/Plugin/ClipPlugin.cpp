@@ -1,5 +1,6 @@
 #include "Backends/FFmpeg/ClipPlugin.hpp"
 
+#include "Backends/FFmpeg/Plugin/Complaints.hpp"
 #include "Backends/FFmpeg/Plugin/PlayedClip.hpp"
 #include "Backends/FFmpeg/Plugin/Worker.hpp"
 
@@ -7,17 +8,19 @@ namespace proupsells::ffmpegbackend {
 
 namespace {
 
-// Asked once for a file that is shown: the program's side shares its clips.
+// Opens a file each time it is asked: LazyClipDecoder, in the program, shares the clips.
 class FFmpegClipDecoder final : public host::ClipDecoder {
 public:
-    explicit FFmpegClipDecoder(const PluginHost& host) : m_host(host), m_worker(std::make_shared<Worker>()) {}
+    explicit FFmpegClipDecoder(const PluginHost& host)
+        : m_pace(host.pace), m_complaints(std::make_shared<Complaints>(host)), m_worker(std::make_shared<Worker>()) {}
 
     std::shared_ptr<host::Clip> open(const std::filesystem::path& file) override {
-        return std::make_shared<PlayedClip>(file, m_host, m_worker);
+        return std::make_shared<PlayedClip>(file, m_pace, m_complaints, m_worker);
     }
 
 private:
-    PluginHost m_host;
+    Pace m_pace;
+    std::shared_ptr<Complaints> m_complaints; // with clips that outlive the decoder
     std::shared_ptr<Worker> m_worker;
 };
 

@@ -4,32 +4,34 @@
 #include <cmath>
 #include <utility>
 
+#include "Backends/FFmpeg/Plugin/Complaints.hpp"
 #include "Backends/FFmpeg/Plugin/Worker.hpp"
 
 namespace proupsells::ffmpegbackend {
 
 namespace {
 
-// Times in files are rounded to their time base; a picture counts as due this much early.
+// Times are rounded, in files and when they are added up. A picture, or the next round, counts as due this much early.
 constexpr double timeTolerance_s = 1e-6;
-// Going forward by more than this is quicker by looking for a key picture.
+// Seeking is quicker than decoding everything on the way when the way is longer than this.
 constexpr double longestWalk_s = 1.0;
-// A clip that cannot keep up with the time leaves room for the others after so many.
+// After this many pictures a clip lets the others have their turn.
 constexpr int picturesATurn = 8;
 
 } // namespace
 
-PlayedClip::PlayedClip(std::filesystem::path file, const PluginHost& host, std::weak_ptr<Worker> worker)
-    : m_file(std::move(file)), m_host(host), m_worker(std::move(worker)) {}
+PlayedClip::PlayedClip(std::filesystem::path file, Pace pace, std::shared_ptr<Complaints> complaints, std::weak_ptr<Worker> worker)
+    : m_file(std::move(file)), m_pace(pace), m_worker(std::move(worker)), m_complaints(std::move(complaints)) {}
 
-bool PlayedClip::isPlayable() const {
-    const std::lock_guard guard(m_lock);
-    return m_state != State::unplayable;
+double PlayedClip::momentAt(double time_s) const {
+    if (!(m_duration_s > 0) || !std::isfinite(time_s)) return 0;
+    const double moment_s = std::fmod(time_s + timeTolerance_s, m_duration_s);
+    return moment_s < 0 ? moment_s + m_duration_s : moment_s;
 }
 
 std::optional<host::ClipFrame> PlayedClip::dueFrame(double moment_s) const {
     for (std::size_t i = m_window.size(); i-- > 0;) {
-        if (m_window[i].time_s > moment_s + timeTolerance_s) continue;
+        if (m_window[i].time_s > moment_s) continue;
         const bool isLast = i + 1 == m_window.size();
         if (isLast && !m_windowReachesEnd) return std::nullopt;
         return m_window[i];
@@ -39,34 +41,30 @@ std::optional<host::ClipFrame> PlayedClip::dueFrame(double moment_s) const {
 
 host::ClipFrame PlayedClip::frameAt(double time_s) {
     std::unique_lock guard(m_lock);
-    const auto momentOf = [&] {
-        if (!(m_duration_s > 0) || !std::isfinite(time_s)) return 0.0;
-        const double moment_s = std::fmod(time_s, m_duration_s);
-        return moment_s < 0 ? moment_s + m_duration_s : moment_s;
-    };
     const auto ask = [&] {
-        m_wanted_s = momentOf();
+        m_askedTime_s = time_s;
         const auto worker = m_worker.lock();
         if (worker && !std::exchange(m_isQueued, true)) worker->enqueue(weak_from_this());
         return worker != nullptr;
     };
 
     for (;;) {
-        if (m_state == State::unplayable) {
-            const std::string complaint = std::exchange(m_complaint, {});
+        if (const std::string complaint = std::exchange(m_complaint, {}); !complaint.empty()) {
             guard.unlock();
-            if (!complaint.empty() && m_host.complain) m_host.complain(complaint.c_str());
-            return {};
+            m_complaints->complainAbout(m_file, complaint);
+            guard.lock();
         }
+        m_isPlayable = m_state != State::unplayable;
+        if (!m_isPlayable) return {};
         if (m_state == State::open) {
-            if (const auto due = dueFrame(momentOf())) {
+            if (const auto due = dueFrame(momentAt(time_s))) {
                 m_lastShown = *due;
-                // Stays some pictures ahead; costs nothing once nobody asks any more.
+                // Decodes some pictures ahead, but only while somebody asks.
                 if (!m_windowReachesEnd && picturesAfter(*due) < picturesAhead / 2) ask();
                 return m_lastShown;
             }
         }
-        if (!ask() || m_host.pace == Pace::realTime) return m_lastShown;
+        if (!ask() || m_pace == Pace::realTime) return m_lastShown;
         m_changed.wait(guard);
     }
 }
@@ -78,9 +76,9 @@ std::size_t PlayedClip::picturesAfter(const host::ClipFrame& frame) const {
 }
 
 bool PlayedClip::needsSeek(double moment_s) const {
-    if (!m_window.empty() && moment_s + timeTolerance_s < m_window.front().time_s) return true;
-    // The key picture may be far before the moment: from there on it is walked, not sought again.
-    const double reached_s = std::max(m_window.empty() ? 0 : m_window.back().time_s, m_soughtMoment_s);
+    if (m_window.empty() || moment_s < m_window.front().time_s) return true;
+    // The last seek may have led to a key picture far before the moment. From there on, pictures are decoded one by one.
+    const double reached_s = std::max(m_window.back().time_s, m_soughtMoment_s);
     return moment_s > reached_s + longestWalk_s;
 }
 
@@ -89,25 +87,12 @@ void PlayedClip::openFile() {
     std::error_code error;
     const bool isThere = std::filesystem::exists(m_file, error);
     m_video = isThere ? VideoFile::open(m_file, complaint) : nullptr;
-    // A file is a clip when its first picture can be had.
-    host::ClipFrame first;
-    if (m_video) {
-        first = m_video->next();
-        if (!first.picture) {
-            m_video.reset();
-            complaint = "no picture in it can be decoded";
-        }
-    }
 
     const std::lock_guard guard(m_lock);
     m_state = m_video ? State::open : State::unplayable;
-    if (!m_video) {
-        if (isThere) m_complaint = "The clip \"" + m_file.filename().string() + "\" cannot be played: " + complaint;
-        return;
-    }
-    m_duration_s = m_video->duration_s();
-    first.time_s = 0;
-    m_window.push_back(std::move(first));
+    if (m_video) m_duration_s = m_video->extent().duration_s;
+    if (m_video && m_video->extent().isCutShort) m_complaint = "is cut short: only its beginning is played";
+    if (isThere && !m_video) m_complaint = "cannot be played: " + complaint;
 }
 
 bool PlayedClip::decodeOne() {
@@ -115,9 +100,9 @@ bool PlayedClip::decodeOne() {
     bool seeks;
     {
         const std::lock_guard guard(m_lock);
-        wanted_s = m_wanted_s;
+        wanted_s = momentAt(m_askedTime_s);
         seeks = needsSeek(wanted_s);
-        while (m_window.size() > 1 && m_window[1].time_s <= wanted_s + timeTolerance_s && !seeks) m_window.pop_front();
+        while (m_window.size() > 1 && m_window[1].time_s <= wanted_s && !seeks) m_window.pop_front();
         const bool isDue = !seeks && dueFrame(wanted_s).has_value();
         if (isDue && (m_windowReachesEnd || m_window.size() > picturesAhead)) return false;
         if (seeks) {
@@ -126,23 +111,18 @@ bool PlayedClip::decodeOne() {
             m_soughtMoment_s = wanted_s;
         }
     }
-    if (seeks) m_video->seek(wanted_s);
-    host::ClipFrame frame = m_video->next();
+    host::ClipFrame frame = seeks ? m_video->seek(wanted_s) : m_video->next();
 
     const std::lock_guard guard(m_lock);
-    if (!frame.picture) {
-        m_windowReachesEnd = true;
-        // Broken from here on: what there is stands for the rest.
-        if (m_window.empty()) {
-            if (!m_lastShown.picture)
-                m_state = State::unplayable;
-            else
-                m_window.push_back({m_lastShown.picture, 0});
-        }
+    if (frame.picture) {
+        m_window.push_back(std::move(frame));
         return true;
     }
-    if (m_window.empty() && frame.time_s > wanted_s) frame.time_s = std::min(frame.time_s, wanted_s);
-    m_window.push_back(std::move(frame));
+    m_windowReachesEnd = true;
+    if (!m_window.empty()) return true;
+    // Somebody has changed the file since it was opened.
+    m_state = State::unplayable;
+    m_complaint = "cannot be played any more: its pictures have gone";
     return true;
 }
 

@@ -1,4 +1,4 @@
-// A file that is being shown: the pictures around the moment, decoded ahead by a worker.
+// A clip that is being shown: the pictures around the present moment, decoded ahead by the worker.
 #pragma once
 
 #include <condition_variable>
@@ -12,49 +12,56 @@
 
 namespace proupsells::ffmpegbackend {
 
+class Complaints;
 class Worker;
 
-// Holds at most `picturesAhead` + 1 pictures of at most VideoFile::maximumPixels pixels, 4 bytes each.
+// Holds at most `picturesAhead` + 1 pictures of at most PictureConverter::maximumPixels pixels, 4 bytes each.
 class PlayedClip final : public host::Clip, public std::enable_shared_from_this<PlayedClip> {
 public:
     static constexpr std::size_t picturesAhead = 4;
 
-    PlayedClip(std::filesystem::path file, const PluginHost& host, std::weak_ptr<Worker> worker);
+    PlayedClip(std::filesystem::path file, Pace pace, std::shared_ptr<Complaints> complaints, std::weak_ptr<Worker> worker);
 
     host::ClipFrame frameAt(double time_s) override;
-    bool isPlayable() const override;
+    bool isPlayable() const override { return m_isPlayable; }
 
-    // Called by the worker: opens the file and decodes a few pictures. Returns whether there is more to do until the wanted moment
-    // and some pictures ahead are there.
+    // Called by the worker: opens the file and decodes a few pictures. False when the picture asked for last and some after it are
+    // there.
     bool work();
 
 private:
     enum class State { unopened, open, unplayable };
 
-    // The newest picture that is due at `moment_s`, when it is certain that no later one is due as well.
+    // Where the clip is `time_s` after its start, in [0, duration).
+    double momentAt(double time_s) const;
+    // The picture due at `moment_s`; absent when it has not been decoded yet, or when a later one might be due instead.
     std::optional<host::ClipFrame> dueFrame(double moment_s) const;
     std::size_t picturesAfter(const host::ClipFrame& frame) const;
     bool needsSeek(double moment_s) const;
     void openFile();
     bool isState(State state) const;
-    // Decodes one picture into the window. False at the end of what there is to do.
+    // Decodes one picture into the window. False when there is nothing to do.
     bool decodeOne();
 
     const std::filesystem::path m_file;
-    const PluginHost m_host;
-    // The decoder owns it; a clip that outlives the decoder stands still.
+    const Pace m_pace;
+    // Owned by the decoder. A clip that outlives the decoder stands still.
     const std::weak_ptr<Worker> m_worker;
 
-    // The worker's own.
+    // Used by the asking thread only.
+    const std::shared_ptr<Complaints> m_complaints;
+    bool m_isPlayable = true;
+
+    // Used by the worker only.
     std::unique_ptr<VideoFile> m_video;
 
     // Shared, under the lock.
     mutable std::mutex m_lock;
     std::condition_variable m_changed;
     State m_state = State::unopened;
-    std::string m_complaint; // to be made by the thread that asks for frames
+    std::string m_complaint; // to be made by the thread that asks
     double m_duration_s = 0;
-    double m_wanted_s = 0;                // in [0, duration)
+    double m_askedTime_s = 0;             // since the clip's start
     std::deque<host::ClipFrame> m_window; // ascending times
     double m_soughtMoment_s = 0;          // what the decoder was last sent to
     bool m_windowReachesEnd = false;      // nothing follows the last picture before the clip starts again

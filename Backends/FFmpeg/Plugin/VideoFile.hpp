@@ -3,36 +3,39 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 
+#include "Backends/FFmpeg/Plugin/PictureConverter.hpp"
+#include "Backends/FFmpeg/Plugin/PictureExtent.hpp"
 #include "Platform/Host/ClipDecoder.hpp"
 
 namespace proupsells::ffmpegbackend {
 
+class PictureStream;
+
 // Used by one thread at a time.
 class VideoFile {
 public:
-    // Pictures with more pixels are scaled down to about this many.
-    static constexpr int maximumPixels = 400'000;
-
-    // Null with the reason in `complaint` when the file holds no pictures that can be decoded.
+    // Null with the reason in `complaint` when the file holds no picture that can be decoded.
     static std::unique_ptr<VideoFile> open(const std::filesystem::path& file, std::string& complaint);
     ~VideoFile();
 
-    double duration_s() const;
-    // The next picture in order of time; a null one at the end, or where the rest is broken. Broken stretches are skipped.
+    const PictureExtent& extent() const { return m_extent; }
+    // The next picture in the order of time; without a picture at the end. Broken stretches are skipped. The first picture has time
+    // 0.
     host::ClipFrame next();
-    // Goes to a place from which `next` leads to the picture due at `time_s`, at it or before it.
-    void seek(double time_s);
+    // Goes to the picture due at `time_s` or to one before it, and returns it; next() then leads on to the one due. Without a
+    // picture when the file has none any more.
+    host::ClipFrame seek(double time_s);
 
 private:
-    struct Contexts;
-    explicit VideoFile(std::unique_ptr<Contexts> contexts);
+    VideoFile(std::unique_ptr<PictureStream> stream, PictureExtent extent);
 
-    bool receivePicture();
-    std::shared_ptr<const graphics::Bitmap> convertedPicture();
-
-    std::unique_ptr<Contexts> m_contexts;
+    std::unique_ptr<PictureStream> m_stream;
+    PictureExtent m_extent;
+    PictureConverter m_converter;
+    double m_firstTime_s = 0; // of the first picture, as the stream counts
 };
 
 } // namespace proupsells::ffmpegbackend

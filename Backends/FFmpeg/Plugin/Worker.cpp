@@ -6,7 +6,7 @@ namespace proupsells::ffmpegbackend {
 
 namespace {
 
-// Lets go of the clip, and may close its file with that, before the lock is taken again.
+// Releases the clip, which may close its file, before the worker takes the lock again.
 bool workOn(std::shared_ptr<PlayedClip> clip) { return clip && clip->work(); }
 
 } // namespace

@@ -14,11 +14,11 @@ class PlayedClip;
 class Worker {
 public:
     Worker();
-    // Finishes the turn of the clip in hand, forgets the others.
+    // Waits until the clip at work has finished its turn; the others get none.
     ~Worker();
     Worker(const Worker&) = delete;
 
-    // The clip is held weakly: one that nobody shows any more is not worked on.
+    // The clip is held weakly, so one that nobody shows any more gets no more turns.
     void enqueue(std::weak_ptr<PlayedClip> clip);
 
 private:

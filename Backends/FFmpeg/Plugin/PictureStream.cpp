@@ -1,0 +1,111 @@
+#include "Backends/FFmpeg/Plugin/PictureStream.hpp"
+
+#include <algorithm>
+
+extern "C" {
+#include <libavutil/log.h>
+}
+
+namespace proupsells::ffmpegbackend {
+
+namespace {
+
+constexpr double standInFrameRate = 24; // where a file does not say
+
+std::string reasonOf(int error) {
+    char text[AV_ERROR_MAX_STRING_SIZE] = {};
+    av_strerror(error, text, sizeof text);
+    return text;
+}
+
+} // namespace
+
+std::unique_ptr<PictureStream> PictureStream::open(const std::filesystem::path& file, std::string& complaint) {
+    std::unique_ptr<PictureStream> stream(new PictureStream);
+    complaint = stream->begin(file);
+    return complaint.empty() ? std::move(stream) : nullptr;
+}
+
+std::string PictureStream::begin(const std::filesystem::path& file) {
+    av_log_set_level(AV_LOG_QUIET);
+    AVFormatContext* format = nullptr;
+    if (const int error = avformat_open_input(&format, file.c_str(), nullptr, nullptr); error < 0) return reasonOf(error);
+    m_format.reset(format);
+    if (const int error = avformat_find_stream_info(format, nullptr); error < 0) return reasonOf(error);
+    const AVCodec* decoder = nullptr;
+    const int index = av_find_best_stream(format, AVMEDIA_TYPE_VIDEO, -1, -1, &decoder, 0);
+    if (index < 0 || !decoder) return "there are no pictures in it";
+    m_stream = format->streams[index];
+    m_codec.reset(avcodec_alloc_context3(decoder));
+    avcodec_parameters_to_context(m_codec.get(), m_stream->codecpar);
+    m_codec->thread_count = 1;
+    if (const int error = avcodec_open2(m_codec.get(), decoder, nullptr); error < 0) return reasonOf(error);
+    return {};
+}
+
+double PictureStream::declaredDuration_s() const {
+    const double stream_s = m_stream->duration == AV_NOPTS_VALUE ? 0 : secondsOf(m_stream->duration);
+    if (stream_s > 0) return stream_s;
+    const double file_s = m_format->duration == AV_NOPTS_VALUE ? 0 : double(m_format->duration) / AV_TIME_BASE;
+    return file_s > 0 ? file_s : pictureDuration_s();
+}
+
+double PictureStream::pictureDuration_s() const {
+    const double rate = av_q2d(m_stream->avg_frame_rate);
+    return 1 / (rate > 0 ? rate : standInFrameRate);
+}
+
+const AVPacket* PictureStream::readPacket() {
+    for (;;) {
+        av_packet_unref(m_packet.get());
+        if (av_read_frame(m_format.get(), m_packet.get()) < 0) return nullptr;
+        if (m_packet->stream_index == m_stream->index) return m_packet.get();
+    }
+}
+
+const AVFrame* PictureStream::readFrame() {
+    for (;;) {
+        const int received = avcodec_receive_frame(m_codec.get(), m_frame.get());
+        const bool isDamaged = m_frame->decode_error_flags != 0 || (m_frame->flags & AV_FRAME_FLAG_CORRUPT);
+        if (received == 0 && !isDamaged) return m_frame.get();
+        if (received == 0) continue;
+        if (received != AVERROR(EAGAIN) || m_isDraining) return nullptr;
+        feedDecoder();
+    }
+}
+
+void PictureStream::feedDecoder() {
+    const AVPacket* packet = readPacket();
+    m_isDraining = packet == nullptr;
+    if (m_isDraining) {
+        avcodec_send_packet(m_codec.get(), nullptr);
+        return;
+    }
+    if (packet->flags & AV_PKT_FLAG_KEY) m_needsKey = false;
+    if (m_needsKey) return;
+    // From half a packet the decoder would make up the rest of a picture, and an empty packet would end the stream.
+    const bool isWhole = packet->size > 0 && !(packet->flags & AV_PKT_FLAG_CORRUPT);
+    // What builds on a broken picture would look different on every way to it.
+    m_needsKey = !isWhole || avcodec_send_packet(m_codec.get(), packet) < 0;
+}
+
+double PictureStream::timeOf(std::int64_t stamp) {
+    if (stamp == AV_NOPTS_VALUE) return m_lastTime_s;
+    const std::int64_t start = m_stream->start_time == AV_NOPTS_VALUE ? 0 : m_stream->start_time;
+    return m_lastTime_s = secondsOf(stamp) - secondsOf(start);
+}
+
+double PictureStream::secondsOf(std::int64_t duration) const { return static_cast<double>(duration) * av_q2d(m_stream->time_base); }
+
+void PictureStream::seek(double time_s) {
+    const std::int64_t start = m_stream->start_time == AV_NOPTS_VALUE ? 0 : m_stream->start_time;
+    const auto stamp = static_cast<std::int64_t>((std::max(0.0, time_s) + secondsOf(start)) / av_q2d(m_stream->time_base));
+    if (av_seek_frame(m_format.get(), m_stream->index, stamp, AVSEEK_FLAG_BACKWARD) < 0)
+        av_seek_frame(m_format.get(), -1, 0, AVSEEK_FLAG_BYTE);
+    avcodec_flush_buffers(m_codec.get());
+    m_isDraining = false;
+    m_needsKey = true;
+    m_lastTime_s = 0;
+}
+
+} // namespace proupsells::ffmpegbackend
