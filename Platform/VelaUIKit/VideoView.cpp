@@ -25,9 +25,13 @@ void VideoView::updatePlayback() {
     setNeedsDisplay();
 }
 
+host::ClipFrame VideoView::dueFrame() const { return standsStill() ? m_playback->firstFrame() : m_playback->currentFrame(); }
+
 bool VideoView::isAnimating() const {
     if (UIView::isAnimating()) return true;
-    return m_playback && m_playback->isPlayable() && window() && m_lastPaint == window()->paintCount();
+    if (!m_playback || !m_playback->isPlayable() || !window() || m_lastPaint != window()->paintCount()) return false;
+    // On a real clock the first picture may come some frames late.
+    return !standsStill() || !m_showsFirstPicture;
 }
 
 geometry::Rect VideoView::pictureFrame(const graphics::Bitmap& picture) const {
@@ -41,7 +45,8 @@ geometry::Rect VideoView::pictureFrame(const graphics::Bitmap& picture) const {
 void VideoView::draw(graphics::PaintContext& context, const graphics::PaintState& state) const {
     if (!m_playback || state.hides(bounds())) return;
     if (window()) m_lastPaint = window()->paintCount();
-    const host::ClipFrame frame = m_playback->currentFrame();
+    const host::ClipFrame frame = dueFrame();
+    m_showsFirstPicture = frame.picture && frame.time_s == 0;
     if (frame.picture && frame.picture->width > 0 && frame.picture->height > 0)
         context.bitmap(state, pictureFrame(*frame.picture), frame.picture);
 }
@@ -50,7 +55,7 @@ void VideoView::describe(accessibility::Node& node, const graphics::PaintState&)
     if (!m_file) return;
     node.clipView = accessibility::ClipInfo{m_file->stem().string(), {}};
     if (!m_playback || !node.isOnScreen) return;
-    if (const host::ClipFrame frame = m_playback->currentFrame(); frame.picture) node.clipView->time_s = frame.time_s;
+    if (const host::ClipFrame frame = dueFrame(); frame.picture) node.clipView->time_s = frame.time_s;
 }
 
 } // namespace proupsells::velauikit

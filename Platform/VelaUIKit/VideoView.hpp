@@ -13,7 +13,7 @@ namespace proupsells::velauikit {
 
 // Shows nothing without a file, with a missing one or with one that cannot be played, and until it is told to play. Costs nothing
 // while it is not painted. The picture keeps its shape and fits in; it fills the view, cut at the edges, when the view clips to its
-// bounds. Without a natural size.
+// bounds. Without a natural size. For somebody who wants less motion it stands still at its first picture.
 class VideoView : public uikit::UIView {
 public:
     VideoView();
@@ -33,12 +33,15 @@ protected:
 
 private:
     void updatePlayback();
+    bool standsStill() const { return traitCollection().reduceMotion; }
+    host::ClipFrame dueFrame() const;
     geometry::Rect pictureFrame(const graphics::Bitmap& picture) const;
 
     std::optional<std::filesystem::path> m_file;
     bool m_isPlaying = false;
     std::shared_ptr<ClipPlayback> m_playback;         // null while nothing plays
     mutable std::optional<std::uint64_t> m_lastPaint; // the window's count when this view was painted last
+    mutable bool m_showsFirstPicture = false;         // as painted last
 };
 
 } // namespace proupsells::velauikit

@@ -42,6 +42,11 @@ protected:
         video.setFile(folder.path() / name);
         video.play();
     }
+    void setReduceMotion(bool reduces) {
+        uikit::UITraitCollection traits;
+        traits.reduceMotion = reduces;
+        window->setTraits(traits);
+    }
     uikit::UIView& root() { return *window->rootViewController()->view(); }
     graphics::DisplayList painted() {
         graphics::DisplayList list;
@@ -128,6 +133,78 @@ TEST_F(VideoViewTest, LeavesOneLineForABrokenFileHoweverManyViewsShowIt) {
 
     EXPECT_FALSE(window->isAnimating());
     EXPECT_EQ(bed.takeLogRecords().size(), 1u);
+}
+
+TEST_F(VideoViewTest, LeavesNoOtherLineForABrokenFileWhenItReturns) {
+    decoder->breakFile("one.mp4");
+    play(*view);
+    painted();
+    view->setFile({});
+    painted();
+    view->setFile(folder.path() / "one.mp4");
+
+    painted();
+
+    EXPECT_THAT(decoder->openedFiles(), ElementsAre("one.mp4", "one.mp4"));
+    EXPECT_EQ(bed.takeLogRecords().size(), 1u);
+}
+
+TEST_F(VideoViewTest, RestsOnItsFirstPictureWhereLessMotionIsWanted) {
+    setReduceMotion(true);
+    play(*view);
+    bed.runUntil(1.3);
+
+    EXPECT_THAT(shownPictures(), ElementsAre(0));
+    EXPECT_FALSE(window->isAnimating());
+    EXPECT_EQ(node().clipView->time_s, 0);
+}
+
+TEST_F(VideoViewTest, FollowsTheWishForLessMotionAtOnce) {
+    play(*view);
+    bed.runUntil(1.3);
+    EXPECT_THAT(shownPictures(), ElementsAre(10));
+    int repaints = 0;
+    window->setNeedsDisplayHandler([&] { ++repaints; });
+
+    setReduceMotion(true);
+    bed.runUntil(1.4);
+    EXPECT_EQ(repaints, 1);
+    EXPECT_THAT(shownPictures(), ElementsAre(0));
+    EXPECT_FALSE(window->isAnimating());
+
+    setReduceMotion(false);
+    bed.runUntil(1.5);
+    EXPECT_EQ(repaints, 2);
+    EXPECT_THAT(shownPictures(), ElementsAre(12));
+    EXPECT_TRUE(window->isAnimating());
+}
+
+TEST_F(VideoViewTest, WaitsForItsFirstPictureWhereLessMotionIsWanted) {
+    setReduceMotion(true);
+    decoder->setHeldBack(true);
+    play(*view);
+    EXPECT_THAT(shownPictures(), IsEmpty());
+    EXPECT_TRUE(window->isAnimating());
+
+    decoder->setHeldBack(false);
+
+    EXPECT_THAT(shownPictures(), ElementsAre(0));
+    EXPECT_FALSE(window->isAnimating());
+}
+
+TEST_F(VideoViewTest, GoesBackToItsFirstPictureWhenTheDecoderHasIt) {
+    play(*view);
+    bed.runUntil(1.3);
+    painted();
+    decoder->setHeldBack(true);
+    setReduceMotion(true);
+    EXPECT_THAT(shownPictures(), ElementsAre(10));
+    EXPECT_TRUE(window->isAnimating());
+
+    decoder->setHeldBack(false);
+
+    EXPECT_THAT(shownPictures(), ElementsAre(0));
+    EXPECT_FALSE(window->isAnimating());
 }
 
 TEST_F(VideoViewTest, ShowsNothingWhereThereIsNoDecoder) {

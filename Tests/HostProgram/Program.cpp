@@ -1,21 +1,13 @@
 #include "Tests/HostProgram/Program.hpp"
 
-#include <atomic>
 #include <cstdlib>
-#include <fstream>
 #include <sstream>
 
 #include <sys/wait.h>
-#include <unistd.h>
 
 namespace proupsells::tests {
 
 namespace {
-
-std::string bytesOf(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 std::string quoted(const std::string& argument) {
     std::string result = "'";
@@ -58,28 +50,9 @@ std::vector<Json> Outcome::events(const std::string& kind) const {
 
 std::vector<std::string> Outcome::errorLines() const { return lines(errors); }
 
-Folder::Folder() {
-    static std::atomic<int> count = 0;
-    m_path =
-        std::filesystem::temp_directory_path() / ("proupsells-test-" + std::to_string(getpid()) + "-" + std::to_string(count++));
-    std::filesystem::create_directories(m_path);
-}
-
-Folder::~Folder() {
-    std::error_code error;
-    std::filesystem::remove_all(m_path, error);
-}
-
-std::filesystem::path Folder::write(const std::string& name, const std::string& bytes) const {
-    const auto file = m_path / name;
-    std::filesystem::create_directories(file.parent_path());
-    std::ofstream(file, std::ios::binary) << bytes;
-    return file;
-}
-
-Outcome runProgram(const std::vector<std::string>& arguments) {
+Outcome runProgram(const std::vector<std::string>& arguments, const std::filesystem::path& program) {
     const Folder folder;
-    std::string command = quoted(PROUPSELLS_PROGRAM);
+    std::string command = quoted(program.string());
     for (const std::string& argument : arguments) command += " " + quoted(argument);
     command += " > " + quoted(folder.path() / "output") + " 2> " + quoted(folder.path() / "errors") + " < /dev/null";
     const int status = std::system(command.c_str());
@@ -90,12 +63,12 @@ Outcome runProgram(const std::vector<std::string>& arguments) {
     return outcome;
 }
 
-Outcome play(const Json& scenario) {
+Outcome play(const Json& scenario, const std::filesystem::path& program) {
     const Folder folder;
     Json whole = scenario;
     if (!whole.contains("offers")) whole["offers"] = sampleOffers();
     if (!whole["device"].contains("fonts")) whole["device"]["fonts"] = "fixed";
-    return runProgram({"run", folder.write("scenario.json", whole).string(), "--out", folder.path().string()});
+    return runProgram({"run", folder.write("scenario.json", whole).string(), "--out", folder.path().string()}, program);
 }
 
 Json sampleOffers() {

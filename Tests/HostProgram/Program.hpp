@@ -7,6 +7,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "Tests/Support/TemporaryFolder.hpp"
+
 namespace proupsells::tests {
 
 using Json = nlohmann::json;
@@ -24,23 +26,20 @@ struct Outcome {
 };
 
 // A fresh folder that goes with the object.
-class Folder {
+class Folder : public TemporaryFolder {
 public:
-    Folder();
-    ~Folder();
-    Folder(const Folder&) = delete;
-
-    const std::filesystem::path& path() const { return m_path; }
-    std::filesystem::path write(const std::string& name, const std::string& bytes) const;
+    using TemporaryFolder::write;
+    std::filesystem::path write(const std::string& name, const std::string& bytes) const {
+        return write(name, std::string_view(bytes));
+    }
     std::filesystem::path write(const std::string& name, const Json& value) const { return write(name, value.dump()); }
-
-private:
-    std::filesystem::path m_path;
 };
 
-Outcome runProgram(const std::vector<std::string>& arguments);
+inline const std::filesystem::path builtProgram = PROUPSELLS_PROGRAM;
+
+Outcome runProgram(const std::vector<std::string>& arguments, const std::filesystem::path& program = builtProgram);
 // Plays a scenario with fixed fonts unless its device says otherwise; pictures go to the scenario's folder.
-Outcome play(const Json& scenario);
+Outcome play(const Json& scenario, const std::filesystem::path& program = builtProgram);
 // The sample offers' options and referrer.
 Json sampleOffers();
 // The node with an identifier in a dumped screen; null when there is none.
