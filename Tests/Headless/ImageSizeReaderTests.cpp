@@ -1,11 +1,9 @@
-#include <filesystem>
-#include <fstream>
-
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
 #include "Backends/Headless/ImageSizeReader.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
+#include "Tests/Support/TemporaryFolder.hpp"
 
 namespace proupsells::headless {
 namespace {
@@ -69,14 +67,14 @@ TEST(PngSize, IsAbsentForOtherFiles) {
 }
 
 TEST(ImageSizeReader, ReadsFiles) {
-    const auto file = std::filesystem::temp_directory_path() / "ImageSizeReaderTests.svg";
-    std::ofstream(file) << "<svg width='7' height='8'/>";
+    const tests::TemporaryFolder folder;
+    const auto file = folder.write("picture.svg", "<svg width='7' height='8'/>");
 
     EXPECT_EQ(ImageSizeReader().naturalSize(file), (Size{7, 8}));
 
     std::filesystem::remove(file);
     EXPECT_EQ(ImageSizeReader().naturalSize(file), std::nullopt);
-    EXPECT_EQ(ImageSizeReader().naturalSize(std::filesystem::temp_directory_path()), std::nullopt);
+    EXPECT_EQ(ImageSizeReader().naturalSize(folder.path()), std::nullopt);
 }
 
 RC_GTEST_PROP(SvgSizeInvariants, SurvivesWhateverItIsGivenAndNeverAnswersWithASizeOfNothing, ()) {

@@ -154,7 +154,9 @@ TEST(QtTextShaper, ReportsAFamilyThatIsNotInstalledOnce) {
     const auto& face = graphics::registerFontFace("ShaperTests-Missing", "No Such Family", 400);
     const auto& bold = graphics::registerFontFace("ShaperTests-MissingBold", "No Such Family", 700);
 
-    const ShapedRef text = shapeRuns({{"text", {.face = &face, .size = 16}, 0}, {"text", {.face = &bold, .size = 16}, 0}});
+    const std::vector<StyledRun> runs{{"text", {.face = &face, .size = 16}, 0}, {"text", {.face = &bold, .size = 16}, 0}};
+
+    const ShapedRef text = qtbackend::QtTextShaper().shape(runs, "en", LayoutDirection::leftToRight);
 
     EXPECT_GT(width(*text), 0);
     EXPECT_THAT(log.messages(), ElementsAre(testing::HasSubstr("No Such Family")));
