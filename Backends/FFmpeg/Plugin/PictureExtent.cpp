@@ -2,6 +2,10 @@
 
 #include <algorithm>
 
+extern "C" {
+#include <libavcodec/avcodec.h>
+}
+
 #include "Backends/FFmpeg/Plugin/PictureStream.hpp"
 
 namespace proupsells::ffmpegbackend {

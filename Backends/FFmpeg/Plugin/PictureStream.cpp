@@ -3,6 +3,8 @@
 #include <algorithm>
 
 extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavformat/avformat.h>
 #include <libavutil/log.h>
 }
 
@@ -19,6 +21,16 @@ std::string reasonOf(int error) {
 }
 
 } // namespace
+
+void PictureStream::Free::operator()(AVFormatContext* format) const { avformat_close_input(&format); }
+
+void PictureStream::Free::operator()(AVCodecContext* codec) const { avcodec_free_context(&codec); }
+
+void PictureStream::Free::operator()(AVPacket* packet) const { av_packet_free(&packet); }
+
+void PictureStream::Free::operator()(AVFrame* frame) const { av_frame_free(&frame); }
+
+PictureStream::PictureStream() : m_packet(av_packet_alloc()), m_frame(av_frame_alloc()) {}
 
 std::unique_ptr<PictureStream> PictureStream::open(const std::filesystem::path& file, std::string& complaint) {
     std::unique_ptr<PictureStream> stream(new PictureStream);
@@ -67,9 +79,10 @@ const AVFrame* PictureStream::readFrame() {
     for (;;) {
         const int received = avcodec_receive_frame(m_codec.get(), m_frame.get());
         const bool isDamaged = m_frame->decode_error_flags != 0 || (m_frame->flags & AV_FRAME_FLAG_CORRUPT);
-        if (received == 0 && !isDamaged) return m_frame.get();
-        if (received == 0) continue;
-        if (received != AVERROR(EAGAIN) || m_isDraining) return nullptr;
+        if (received == 0 && isDamaged) continue;
+        if (received == 0) return m_frame.get();
+        if (m_isDraining) return nullptr;
+        if (received != AVERROR(EAGAIN)) m_needsKey = true;
         feedDecoder();
     }
 }
@@ -104,7 +117,7 @@ void PictureStream::seek(double time_s) {
         av_seek_frame(m_format.get(), -1, 0, AVSEEK_FLAG_BYTE);
     avcodec_flush_buffers(m_codec.get());
     m_isDraining = false;
-    m_needsKey = true;
+    m_needsKey = false;
     m_lastTime_s = 0;
 }
 

@@ -1,14 +1,16 @@
 // Reads the pictures of a file with FFmpeg, either as the packets that are stored in it or as decoded frames.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
 
-extern "C" {
-#include <libavcodec/avcodec.h>
-#include <libavformat/avformat.h>
-}
+struct AVCodecContext;
+struct AVFormatContext;
+struct AVFrame;
+struct AVPacket;
+struct AVStream;
 
 namespace proupsells::ffmpegbackend {
 
@@ -37,25 +39,25 @@ public:
 
 private:
     struct Free {
-        void operator()(AVFormatContext* format) const { avformat_close_input(&format); }
-        void operator()(AVCodecContext* codec) const { avcodec_free_context(&codec); }
-        void operator()(AVPacket* packet) const { av_packet_free(&packet); }
-        void operator()(AVFrame* frame) const { av_frame_free(&frame); }
+        void operator()(AVFormatContext* format) const;
+        void operator()(AVCodecContext* codec) const;
+        void operator()(AVPacket* packet) const;
+        void operator()(AVFrame* frame) const;
     };
 
-    PictureStream() = default;
+    PictureStream();
     // Empty when all went well.
     std::string begin(const std::filesystem::path& file);
     void feedDecoder();
 
     std::unique_ptr<AVFormatContext, Free> m_format;
     std::unique_ptr<AVCodecContext, Free> m_codec;
-    std::unique_ptr<AVPacket, Free> m_packet{av_packet_alloc()};
-    std::unique_ptr<AVFrame, Free> m_frame{av_frame_alloc()};
+    std::unique_ptr<AVPacket, Free> m_packet;
+    std::unique_ptr<AVFrame, Free> m_frame;
     AVStream* m_stream = nullptr;
     double m_lastTime_s = 0;
     bool m_isDraining = false; // the decoder has got all packets
-    bool m_needsKey = true;    // nothing before the next key picture can be decoded
+    bool m_needsKey = false;   // a picture was broken: those up to the next key picture build on it
 };
 
 } // namespace proupsells::ffmpegbackend

@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+extern "C" {
+#include <libavutil/frame.h>
+}
+
 #include "Backends/FFmpeg/Plugin/PictureStream.hpp"
 
 namespace proupsells::ffmpegbackend {
