@@ -1,5 +1,6 @@
 #include "Apps/ProUpsellsHost/CommandLine.hpp"
 
+#include <array>
 #include <charconv>
 #include <iostream>
 
@@ -27,45 +28,69 @@ Json numbersOr(const std::string& text, char separator) {
     }
 }
 
+Json text(const std::string& given) { return given; }
+Json size(const std::string& given) { return numbersOr(given, 'x'); }
+Json insets(const std::string& given) { return numbersOr(given, ','); }
+Json number(const std::string& given) {
+    const Json numbers = numbersOr(given, ' ');
+    return numbers.is_array() ? numbers.front() : numbers;
+}
+
+Json flag(const std::string& given) { return given == "true"; }
+
+// An option that stands for a key of the device.
+struct DeviceOption {
+    const char* name;
+    const char* key;
+    const char* help;
+    Json (*read)(const std::string& given);
+};
+
+constexpr DeviceOption deviceOptions[] = {
+    {"--size", "size", "The window in points, such as 375x800", size},
+    {"--scale", "scale", "Pixels a point", number},
+    {"--appearance", "appearance", "light or dark", text},
+    {"--locale", "locale", "Language and region, such as de_AT", text},
+    {"--layout-direction", "layoutDirection", "auto, ltr or rtl", text},
+    {"--text-size", "textSize", "extraSmall ... accessibilityExtraExtraExtraLarge", text},
+    {"--reduce-motion", "reduceMotion", "Less movement", flag},
+    {"--safe-area", "safeArea", "Top, left, bottom, right in points, such as 0,0,34,0", insets},
+    {"--strings", "strings", "A folder of <language>.lproj/Localizable.strings", text},
+};
+
+constexpr Word<StartScreen> startScreens[] = {
+    {"paywall", StartScreen::paywall},
+    {"comparison", StartScreen::comparison},
+    {"store", StartScreen::store},
+};
+
 struct ShowOptions {
-    std::string offers, size, scale, appearance, locale, layoutDirection, textSize, safeArea, strings, start = "paywall";
-    bool reduceMotion = false;
+    std::string offers, start = "paywall";
+    std::array<std::string, std::size(deviceOptions)> device; // empty where an option is left out
 
     void addTo(CLI::App& command) {
         command.add_option("OFFERS.json", offers, "The offers; the sample ones when left out");
-        command.add_option("--size", size, "The window in points, such as 375x800");
-        command.add_option("--scale", scale, "Pixels a point");
-        command.add_option("--appearance", appearance, "light or dark");
-        command.add_option("--locale", locale, "Language and region, such as de_AT");
-        command.add_option("--layout-direction", layoutDirection, "auto, ltr or rtl");
-        command.add_option("--text-size", textSize, "extraSmall ... accessibilityExtraExtraExtraLarge");
-        command.add_flag("--reduce-motion", reduceMotion, "Less movement");
-        command.add_option("--safe-area", safeArea, "Top, left, bottom, right in points, such as 0,0,34,0");
-        command.add_option("--strings", strings, "A folder of <language>.lproj/Localizable.strings");
+        for (std::size_t i = 0; i < device.size(); ++i) {
+            const auto& [name, key, help, read] = deviceOptions[i];
+            if (read == flag)
+                command.add_flag(name, device[i], help);
+            else
+                command.add_option(name, device[i], help);
+        }
         command.add_option("--start", start, "paywall, comparison or store");
     }
 
     ShowArguments read() const {
-        Json device = Json::object();
-        if (!size.empty()) device["size"] = numbersOr(size, 'x');
-        if (!scale.empty()) {
-            const Json numbers = numbersOr(scale, ' ');
-            device["scale"] = numbers.is_array() ? numbers.front() : numbers;
-        }
-        if (!appearance.empty()) device["appearance"] = appearance;
-        if (!locale.empty()) device["locale"] = locale;
-        if (!layoutDirection.empty()) device["layoutDirection"] = layoutDirection;
-        if (!textSize.empty()) device["textSize"] = textSize;
-        if (reduceMotion) device["reduceMotion"] = true;
-        if (!safeArea.empty()) device["safeArea"] = numbersOr(safeArea, ',');
-        if (!strings.empty()) device["strings"] = strings;
-        const Json all{{"device", device}, {"start", start}};
+        Json values = Json::object();
+        for (std::size_t i = 0; i < device.size(); ++i)
+            if (!device[i].empty()) values[deviceOptions[i].key] = deviceOptions[i].read(device[i]);
+        const Json all{{"device", values}, {"start", start}};
 
         const JsonCursor cursor{all, place};
         ShowArguments result;
         if (!offers.empty()) result.offers = offers;
         result.device = readDevice(cursor.at("device"), std::filesystem::current_path());
-        result.start = static_cast<StartScreen>(cursor.at("start").oneOf({"paywall", "comparison", "store"}));
+        result.start = cursor.at("start").oneOf(startScreens);
         return result;
     }
 };

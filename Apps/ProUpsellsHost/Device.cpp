@@ -1,7 +1,6 @@
 #include "Apps/ProUpsellsHost/Device.hpp"
 
 #include <algorithm>
-#include <array>
 
 namespace proupsells::hostprogram {
 
@@ -16,6 +15,8 @@ geometry::Size readSize(const JsonCursor& value) {
         value.fail("a length is out of range, expected a width and a height from 1 to 20000 points");
     return {lengths[0], lengths[1]};
 }
+
+double readScale(const JsonCursor& value) { return value.number(0.25, 8, "pixels a point, from 0.25 to 8"); }
 
 geometry::PhysicalInsets readSafeArea(const JsonCursor& value) {
     const auto insets = value.numbers(4, 0, "the insets top, left, bottom, right in points, not negative");
@@ -41,42 +42,64 @@ std::filesystem::path readStrings(const JsonCursor& value, const std::filesystem
     return path;
 }
 
-graphics::ContentSizeCategory readTextSize(const JsonCursor& value) {
-    return static_cast<graphics::ContentSizeCategory>(value.oneOf(
-        {"extraSmall", "small", "medium", "large", "extraLarge", "extraExtraLarge", "extraExtraExtraLarge", "accessibilityMedium",
-         "accessibilityLarge", "accessibilityExtraLarge", "accessibilityExtraExtraLarge", "accessibilityExtraExtraExtraLarge"}));
-}
+constexpr Word<graphics::ColorScheme> appearances[] = {
+    {"light", graphics::ColorScheme::light},
+    {"dark", graphics::ColorScheme::dark},
+};
+constexpr Word<DirectionChoice> directions[] = {
+    {"auto", DirectionChoice::automatic},
+    {"ltr", DirectionChoice::leftToRight},
+    {"rtl", DirectionChoice::rightToLeft},
+};
+constexpr Word<FontChoice> fontChoices[] = {
+    {"bundled", FontChoice::bundled},
+    {"fixed", FontChoice::fixed},
+};
+constexpr Word<graphics::ContentSizeCategory> textSizes[] = {
+    {"extraSmall", graphics::ContentSizeCategory::extraSmall},
+    {"small", graphics::ContentSizeCategory::small},
+    {"medium", graphics::ContentSizeCategory::medium},
+    {"large", graphics::ContentSizeCategory::large},
+    {"extraLarge", graphics::ContentSizeCategory::extraLarge},
+    {"extraExtraLarge", graphics::ContentSizeCategory::extraExtraLarge},
+    {"extraExtraExtraLarge", graphics::ContentSizeCategory::extraExtraExtraLarge},
+    {"accessibilityMedium", graphics::ContentSizeCategory::accessibilityMedium},
+    {"accessibilityLarge", graphics::ContentSizeCategory::accessibilityLarge},
+    {"accessibilityExtraLarge", graphics::ContentSizeCategory::accessibilityExtraLarge},
+    {"accessibilityExtraExtraLarge", graphics::ContentSizeCategory::accessibilityExtraExtraLarge},
+    {"accessibilityExtraExtraExtraLarge", graphics::ContentSizeCategory::accessibilityExtraExtraExtraLarge},
+};
 
-constexpr std::array<std::string_view, 10> deviceKeys{"size",     "scale",        "appearance", "locale",  "layoutDirection",
-                                                      "textSize", "reduceMotion", "safeArea",   "strings", "fonts"};
+using Folder = std::filesystem::path;
+using ReadKey = void (*)(Device&, const JsonCursor&, const Folder&);
+
+constexpr Word<ReadKey> deviceKeys[] = {
+    {"size", [](Device& device, const JsonCursor& value, const Folder&) { device.size = readSize(value); }},
+    {"scale", [](Device& device, const JsonCursor& value, const Folder&) { device.scale = readScale(value); }},
+    {"appearance", [](Device& device, const JsonCursor& value, const Folder&) { device.appearance = value.oneOf(appearances); }},
+    {"locale", [](Device& device, const JsonCursor& value, const Folder&) { device.locale = readLocale(value); }},
+    {"layoutDirection",
+     [](Device& device, const JsonCursor& value, const Folder&) { device.layoutDirection = value.oneOf(directions); }},
+    {"textSize", [](Device& device, const JsonCursor& value, const Folder&) { device.textSize = value.oneOf(textSizes); }},
+    {"reduceMotion", [](Device& device, const JsonCursor& value, const Folder&) { device.reduceMotion = value.boolean(); }},
+    {"safeArea", [](Device& device, const JsonCursor& value, const Folder&) { device.safeArea = readSafeArea(value); }},
+    {"strings", [](Device& device, const JsonCursor& value, const Folder& folder) { device.strings = readStrings(value, folder); }},
+    {"fonts", [](Device& device, const JsonCursor& value, const Folder&) { device.fonts = value.oneOf(fontChoices); }},
+};
+
+const ReadKey* readerOf(std::string_view key) {
+    const auto entry = std::ranges::find(deviceKeys, key, &Word<ReadKey>::word);
+    return entry == std::end(deviceKeys) ? nullptr : &entry->value;
+}
 
 } // namespace
 
-bool isDeviceKey(std::string_view key) { return std::find(deviceKeys.begin(), deviceKeys.end(), key) != deviceKeys.end(); }
+bool isDeviceKey(std::string_view key) { return readerOf(key) != nullptr; }
 
 void readDeviceKey(Device& device, std::string_view key, const JsonCursor& value, const std::filesystem::path& folder) {
-    if (key == "size")
-        device.size = readSize(value);
-    else if (key == "scale")
-        device.scale = value.number(0.25, 8, "pixels a point, from 0.25 to 8");
-    else if (key == "appearance")
-        device.appearance = value.oneOf({"light", "dark"}) == 1 ? graphics::ColorScheme::dark : graphics::ColorScheme::light;
-    else if (key == "locale")
-        device.locale = readLocale(value);
-    else if (key == "layoutDirection")
-        device.layoutDirection = static_cast<DirectionChoice>(value.oneOf({"auto", "ltr", "rtl"}));
-    else if (key == "textSize")
-        device.textSize = readTextSize(value);
-    else if (key == "reduceMotion")
-        device.reduceMotion = value.boolean();
-    else if (key == "safeArea")
-        device.safeArea = readSafeArea(value);
-    else if (key == "strings")
-        device.strings = readStrings(value, folder);
-    else if (key == "fonts")
-        device.fonts = static_cast<FontChoice>(value.oneOf({"bundled", "fixed"}));
-    else
-        value.fail("unknown key \"" + std::string(key) + "\", expected a key of a device");
+    const ReadKey* const read = readerOf(key);
+    if (!read) value.fail("unknown key \"" + std::string(key) + "\", expected a key of a device");
+    (*read)(device, value, folder);
 
     if (device.size.width * device.scale > maximumPixels || device.size.height * device.scale > maximumPixels)
         value.fail("the window is out of range, expected at most 32000 pixels a side");
@@ -87,11 +110,10 @@ void readDeviceKey(Device& device, std::string_view key, const JsonCursor& value
 }
 
 Device readDevice(const JsonCursor& object, const std::filesystem::path& folder) {
-    object.expectObject(
-        {"size", "scale", "appearance", "locale", "layoutDirection", "textSize", "reduceMotion", "safeArea", "strings", "fonts"});
+    object.expectObject(wordsOf(deviceKeys));
     Device device;
     // Insets are held against the size, whichever comes first in the file.
-    for (const std::string_view key : deviceKeys)
+    for (const std::string_view key : wordsOf(deviceKeys))
         if (object.has(key)) readDeviceKey(device, key, object.at(key), folder);
     return device;
 }

@@ -5,23 +5,19 @@
 
 namespace proupsells::hostprogram {
 
-using proupsells::Referrer;
-using proupsells::SubscriptionOption;
-
-void LedgerDelegate::proUpsellViewControllerDidContinueWith(proupsells::VelaProUpsellViewController&,
-                                                            const SubscriptionOption& option) {
+void LedgerDelegate::proUpsellViewControllerDidContinueWith(VelaProUpsellViewController&, const SubscriptionOption& option) {
     m_log->write("delegate", {{"operation", "proUpsellViewController(_:didContinueWith:)"}, {"option", toJson(option)}});
 }
 
-void LedgerDelegate::proUpsellViewControllerDidTapRestore(proupsells::VelaProUpsellViewController&) {
+void LedgerDelegate::proUpsellViewControllerDidTapRestore(VelaProUpsellViewController&) {
     m_log->write("delegate", {{"operation", "proUpsellViewControllerDidTapRestore(_:)"}});
 }
 
-void LedgerDelegate::proUpsellViewControllerDidTapPrivacyPolicy(proupsells::VelaProUpsellViewController&) {
+void LedgerDelegate::proUpsellViewControllerDidTapPrivacyPolicy(VelaProUpsellViewController&) {
     m_log->write("delegate", {{"operation", "proUpsellViewControllerDidTapPrivacyPolicy(_:)"}});
 }
 
-void LedgerDelegate::proUpsellViewControllerDidTapTermsOfService(proupsells::VelaProUpsellViewController&) {
+void LedgerDelegate::proUpsellViewControllerDidTapTermsOfService(VelaProUpsellViewController&) {
     m_log->write("delegate", {{"operation", "proUpsellViewControllerDidTapTermsOfService(_:)"}});
 }
 

@@ -11,37 +11,34 @@
 
 namespace proupsells::hostprogram {
 
-class LedgerDelegate final : public proupsells::VelaProUpsellViewControllerDelegate {
+class LedgerDelegate final : public VelaProUpsellViewControllerDelegate {
 public:
     explicit LedgerDelegate(std::shared_ptr<EventLog> log) : m_log(std::move(log)) {}
 
-    void proUpsellViewControllerDidContinueWith(proupsells::VelaProUpsellViewController&,
-                                                const proupsells::SubscriptionOption& option) override;
-    void proUpsellViewControllerDidTapRestore(proupsells::VelaProUpsellViewController&) override;
-    void proUpsellViewControllerDidTapPrivacyPolicy(proupsells::VelaProUpsellViewController&) override;
-    void proUpsellViewControllerDidTapTermsOfService(proupsells::VelaProUpsellViewController&) override;
+    void proUpsellViewControllerDidContinueWith(VelaProUpsellViewController&, const SubscriptionOption& option) override;
+    void proUpsellViewControllerDidTapRestore(VelaProUpsellViewController&) override;
+    void proUpsellViewControllerDidTapPrivacyPolicy(VelaProUpsellViewController&) override;
+    void proUpsellViewControllerDidTapTermsOfService(VelaProUpsellViewController&) override;
 
 private:
     std::shared_ptr<EventLog> m_log;
 };
 
-class LedgerTracker final : public proupsells::ProUpsellEventTracker {
+class LedgerTracker final : public ProUpsellEventTracker {
 public:
     explicit LedgerTracker(std::shared_ptr<EventLog> log) : m_log(std::move(log)) {}
 
-    void trackUpsellViewed(const proupsells::Referrer&, const std::string& screenTitle, const std::string& entitlement) override;
-    void trackSubscriptionOptionSelected(const proupsells::SubscriptionOption&, const proupsells::Referrer&,
-                                         const std::string& screenTitle) override;
-    void trackPurchaseTapped(const proupsells::SubscriptionOption&, const proupsells::Referrer&, const std::string& screenTitle,
+    void trackUpsellViewed(const Referrer&, const std::string& screenTitle, const std::string& entitlement) override;
+    void trackSubscriptionOptionSelected(const SubscriptionOption&, const Referrer&, const std::string& screenTitle) override;
+    void trackPurchaseTapped(const SubscriptionOption&, const Referrer&, const std::string& screenTitle,
                              const std::string& entitlement) override;
     void trackReservedEvent() override;
-    void trackUpsellDismissed(const proupsells::Referrer&, const std::string& screenTitle, const std::string& entitlement) override;
-    void trackRestoreTapped(const proupsells::Referrer&, const std::string& screenTitle) override;
-    void trackPrivacyPolicyTapped(const proupsells::Referrer&, const std::string& screenTitle) override;
-    void trackTermsOfServiceTapped(const proupsells::Referrer&, const std::string& screenTitle) override;
-    void trackComparePlansTapped(const proupsells::Referrer&, const std::string& screenTitle) override;
-    void trackChoosePlanTapped(const proupsells::Referrer&, const std::string& screenTitle,
-                               const std::string& entitlement) override;
+    void trackUpsellDismissed(const Referrer&, const std::string& screenTitle, const std::string& entitlement) override;
+    void trackRestoreTapped(const Referrer&, const std::string& screenTitle) override;
+    void trackPrivacyPolicyTapped(const Referrer&, const std::string& screenTitle) override;
+    void trackTermsOfServiceTapped(const Referrer&, const std::string& screenTitle) override;
+    void trackComparePlansTapped(const Referrer&, const std::string& screenTitle) override;
+    void trackChoosePlanTapped(const Referrer&, const std::string& screenTitle, const std::string& entitlement) override;
 
 private:
     std::shared_ptr<EventLog> m_log;

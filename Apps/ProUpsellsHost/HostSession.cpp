@@ -13,8 +13,6 @@
 
 namespace proupsells::hostprogram {
 
-using proupsells::UpsellViewModel;
-
 HostSession::HostSession(Offers offers, const Device& device, HostParts parts, ffmpegbackend::Pace pace,
                          std::shared_ptr<EventLog> log)
     : m_device(device), m_log(std::move(log)),
@@ -23,6 +21,7 @@ HostSession::HostSession(Offers offers, const Device& device, HostParts parts, f
         log->write("log", {{"severity", record.severity}, {"message", record.message}, {"function", record.function}});
     });
     installServices();
+    setLanguage();
 
     m_window = uikit::UIWindow::create(device.size, device.safeArea);
     m_window->setTraits(traits());
@@ -30,9 +29,9 @@ HostSession::HostSession(Offers offers, const Device& device, HostParts parts, f
     m_window->setPresentationObserver(m_observer);
     m_window->setRootViewController(std::make_shared<HostViewController>());
 
-    proupsells::VelaProStorePageViewController::shouldMentioniCloudSync = offers.shouldMentioniCloudSync;
-    m_entry = proupsells::VelaProUpsellViewController::create(std::move(offers.options), offers.variant, std::move(offers.referrer),
-                                                              offers.entitlement, offers.showLoginOnSuccess);
+    VelaProStorePageViewController::shouldMentioniCloudSync = offers.shouldMentioniCloudSync;
+    m_entry = VelaProUpsellViewController::create(std::move(offers.options), offers.variant, std::move(offers.referrer),
+                                                  offers.entitlement, offers.showLoginOnSuccess);
     if (parts.tracker) m_tracker = std::make_shared<LedgerTracker>(m_log);
     if (parts.delegate) m_delegate = std::make_shared<LedgerDelegate>(m_log);
     m_entry->setTracker(m_tracker);
@@ -49,8 +48,6 @@ HostSession::~HostSession() {
 }
 
 void HostSession::installServices() {
-    foundation::Locale::setCurrent(foundation::Locale{m_device.locale});
-    foundation::Bundle::setMain(m_device.strings);
     host::Services services;
     if (m_device.fonts == FontChoice::fixed)
         services.textShaper = std::make_shared<headless::FixedTextShaper>();
@@ -61,6 +58,11 @@ void HostSession::installServices() {
     services.localeServices = std::make_shared<icubackend::IcuLocaleServices>();
     m_services.reset();
     m_services = std::make_unique<host::Installation>(std::move(services));
+}
+
+void HostSession::setLanguage() {
+    foundation::Locale::setCurrent(foundation::Locale{m_device.locale});
+    foundation::Bundle::setMain(m_device.strings);
 }
 
 uikit::UITraitCollection HostSession::traits() const {
@@ -84,10 +86,11 @@ bool HostSession::isShowing() const { return m_entry->presentingViewController()
 void HostSession::present() { m_window->rootViewController()->present(m_entry, true); }
 
 void HostSession::setDevice(const Device& device) {
-    const bool needsServices =
-        device.locale != m_device.locale || device.strings != m_device.strings || device.fonts != m_device.fonts;
+    const bool hasOtherFonts = device.fonts != m_device.fonts;
+    const bool hasOtherLanguage = device.locale != m_device.locale || device.strings != m_device.strings;
     m_device = device;
-    if (needsServices) installServices();
+    if (hasOtherFonts) installServices();
+    if (hasOtherLanguage) setLanguage();
     m_window->setSize(device.size, device.safeArea);
     m_window->setTraits(traits());
 }
@@ -96,14 +99,13 @@ void HostSession::set(const SetStep& step) {
     if (step.options) m_entry->setOptions(*step.options);
     if (step.annualPrice) m_entry->setAnnualSubscriptionPriceForComparisonWithPromotionalPrice(*step.annualPrice);
     if (step.monthlyPrice) m_entry->setMonthlySubscriptionPriceForComparisonWithPromotionalPrice(*step.monthlyPrice);
-    if (step.shouldMentioniCloudSync)
-        proupsells::VelaProStorePageViewController::shouldMentioniCloudSync = *step.shouldMentioniCloudSync;
+    if (step.shouldMentioniCloudSync) VelaProStorePageViewController::shouldMentioniCloudSync = *step.shouldMentioniCloudSync;
     if (step.device) setDevice(*step.device);
 }
 
 void HostSession::send(SentEvent event) {
     const auto& children = m_entry->children();
-    const auto paywall = children.empty() ? nullptr : std::dynamic_pointer_cast<proupsells::UpsellViewController>(children.front());
+    const auto paywall = children.empty() ? nullptr : std::dynamic_pointer_cast<UpsellViewController>(children.front());
     if (!paywall) return;
     const auto& stream = paywall->upsellViewModel()->tapEventOccurred;
     switch (event) {

@@ -28,7 +28,7 @@ public:
     // The same, for whoever shows it.
     std::shared_ptr<host::WindowContent> windowContent() { return m_window; }
     const Device& device() const { return m_device; }
-    proupsells::VelaProUpsellViewController& entryController() { return *m_entry; }
+    VelaProUpsellViewController& entryController() { return *m_entry; }
     // False once the entry controller has been dismissed.
     bool isShowing() const;
 
@@ -42,6 +42,7 @@ public:
 
 private:
     void installServices();
+    void setLanguage();
     uikit::UITraitCollection traits() const;
 
     Device m_device;
@@ -52,7 +53,7 @@ private:
     std::shared_ptr<LedgerTracker> m_tracker;
     std::shared_ptr<LedgerObserver> m_observer;
     std::shared_ptr<uikit::UIWindow> m_window;
-    std::shared_ptr<proupsells::VelaProUpsellViewController> m_entry;
+    std::shared_ptr<VelaProUpsellViewController> m_entry;
 };
 
 } // namespace proupsells::hostprogram

@@ -4,12 +4,13 @@
 #include <cmath>
 
 #include "Apps/ProUpsellsHost/InputError.hpp"
+#include "Apps/ProUpsellsHost/JsonPointer.hpp"
 
 namespace proupsells::hostprogram {
 
 namespace {
 
-std::string quotedList(std::initializer_list<std::string_view> words) {
+std::string quotedList(std::span<const std::string_view> words) {
     std::string result;
     for (const std::string_view word : words) {
         if (!result.empty()) result += ", ";
@@ -39,29 +40,23 @@ const Json* JsonCursor::find(std::string_view key) const {
 }
 
 JsonCursor JsonCursor::child(const Json& value, std::string_view token) const {
-    std::string pointer = m_pointer + '/';
-    for (const char c : token) {
-        if (c == '~')
-            pointer += "~0";
-        else if (c == '/')
-            pointer += "~1";
-        else
-            pointer += c;
-    }
-    return {value, m_file, std::move(pointer)};
+    return {value, m_file, m_pointer + pointerStep(token)};
 }
 
-void JsonCursor::expectObject(std::initializer_list<std::string_view> keys) const {
-    if (!m_value->is_object()) fail(kind() + " stands here, expected an object");
-    for (const auto& [name, value] : m_value->get_ref<const Json::object_t&>())
+void JsonCursor::expectObject(std::span<const std::string_view> keys) const {
+    for (const auto& [name, value] : members())
         if (std::find(keys.begin(), keys.end(), name) == keys.end())
             child(value, name).fail("unknown key \"" + name + "\", expected one of " + quotedList(keys));
 }
 
-std::vector<std::string> JsonCursor::keys() const {
+const Json::object_t& JsonCursor::members() const {
     if (!m_value->is_object()) fail(kind() + " stands here, expected an object");
+    return m_value->get_ref<const Json::object_t&>();
+}
+
+std::vector<std::string> JsonCursor::keys() const {
     std::vector<std::string> result;
-    for (const auto& [name, value] : m_value->get_ref<const Json::object_t&>()) result.push_back(name);
+    for (const auto& [name, value] : members()) result.push_back(name);
     return result;
 }
 
@@ -126,7 +121,7 @@ std::int64_t JsonCursor::wholeNumber() const {
     return static_cast<std::int64_t>(value);
 }
 
-std::size_t JsonCursor::oneOf(std::initializer_list<std::string_view> words) const {
+std::size_t JsonCursor::indexAmong(std::span<const std::string_view> words) const {
     const std::string expectation = "expected one of " + quotedList(words);
     if (!m_value->is_string()) fail(kind() + " stands here, " + expectation);
     const auto found = std::find(words.begin(), words.end(), m_value->get_ref<const std::string&>());

@@ -5,11 +5,13 @@
 #include <initializer_list>
 #include <limits>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "Apps/ProUpsellsHost/JsonFile.hpp"
+#include "Apps/ProUpsellsHost/Word.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -27,7 +29,8 @@ public:
     std::size_t memberCount() const { return m_value->size(); }
 
     // The object must not have other keys than these.
-    void expectObject(std::initializer_list<std::string_view> keys) const;
+    void expectObject(std::span<const std::string_view> keys) const;
+    void expectObject(std::initializer_list<std::string_view> keys) const { expectObject(std::span(keys.begin(), keys.size())); }
     // The object's keys in the file's order.
     std::vector<std::string> keys() const;
     bool has(std::string_view key) const;
@@ -44,8 +47,11 @@ public:
     bool boolean() const;
     double number(double minimum, double maximum, std::string_view meaning) const;
     std::int64_t wholeNumber() const;
-    // One of these words; returns its index.
-    std::size_t oneOf(std::initializer_list<std::string_view> words) const;
+    // One of the table's words; returns the value beside it.
+    template <class Value, std::size_t count>
+    const Value& oneOf(const Word<Value> (&table)[count]) const {
+        return table[indexAmong(wordsOf(table))].value;
+    }
 
     [[noreturn]] void fail(const std::string& complaint) const;
 
@@ -55,7 +61,9 @@ private:
 
     // "a number" and the like, for complaints.
     std::string kind() const;
+    const Json::object_t& members() const;
     const Json* find(std::string_view key) const;
+    std::size_t indexAmong(std::span<const std::string_view> words) const;
     JsonCursor child(const Json& value, std::string_view token) const;
 
     const Json* m_value;

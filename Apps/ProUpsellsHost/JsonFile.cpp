@@ -6,25 +6,13 @@
 #include <vector>
 
 #include "Apps/ProUpsellsHost/InputError.hpp"
+#include "Apps/ProUpsellsHost/JsonPointer.hpp"
 
 namespace proupsells::hostprogram {
 
 namespace {
 
 constexpr std::size_t maximumDepth = 100;
-
-std::string escapedToken(const std::string& key) {
-    std::string result;
-    for (const char c : key) {
-        if (c == '~')
-            result += "~0";
-        else if (c == '/')
-            result += "~1";
-        else
-            result += c;
-    }
-    return result;
-}
 
 // Builds the value and knows at every moment where it is; stops at the first thing that is wrong.
 class Builder : public nlohmann::json_sax<Json> {
@@ -69,9 +57,9 @@ public:
         std::string result;
         for (const Level& level : m_levels) {
             if (level.value->is_array())
-                result += "/" + std::to_string(level.value->size());
+                result += pointerStep(std::to_string(level.value->size()));
             else if (!level.key.empty() || !level.keys.empty())
-                result += "/" + escapedToken(level.key);
+                result += pointerStep(level.key);
         }
         return result;
     }

@@ -2,9 +2,6 @@
 
 namespace proupsells::hostprogram {
 
-using proupsells::Referrer;
-using proupsells::SubscriptionOption;
-
 namespace {
 
 std::optional<std::string> optionalText(const JsonCursor& object, std::string_view key) {
@@ -16,30 +13,53 @@ bool optionalBoolean(const JsonCursor& object, std::string_view key, bool fallba
     return object.has(key) ? object.at(key).boolean() : fallback;
 }
 
-SubscriptionOption readOption(const JsonCursor& option) {
-    option.keys(); // an object, before its type is asked for
-    const std::size_t type = option.at("type").oneOf({"monthly", "yearly", "lifetime"});
-    if (type == 0)
-        option.expectObject({"SKU", "type", "price", "introductoryPrice", "introductoryPeriodLength", "hasUsedFreeTrial"});
-    if (type == 1)
-        option.expectObject(
+enum class OptionType { monthly, yearly, lifetime };
+
+constexpr Word<OptionType> optionTypes[] = {
+    {"monthly", OptionType::monthly},
+    {"yearly", OptionType::yearly},
+    {"lifetime", OptionType::lifetime},
+};
+constexpr Word<VelaProUpsellViewController::Variant> variants[] = {
+    {"comparisonPaywall", VelaProUpsellViewController::Variant::comparisonPaywall},
+};
+constexpr Word<Entitlement> entitlements[] = {
+    {"velaPRO", Entitlement::velaPRO},
+};
+
+OptionType typeOf(const SubscriptionOption& option) {
+    return option.isMonthly() ? OptionType::monthly : option.isYearly() ? OptionType::yearly : OptionType::lifetime;
+}
+
+void expectKeysOf(OptionType type, const JsonCursor& option) {
+    switch (type) {
+    case OptionType::monthly:
+        return option.expectObject({"SKU", "type", "price", "introductoryPrice", "introductoryPeriodLength", "hasUsedFreeTrial"});
+    case OptionType::yearly:
+        return option.expectObject(
             {"SKU", "type", "price", "monthlyEffectivePrice", "introductoryPrice", "introductoryPeriodLength", "hasUsedFreeTrial"});
-    if (type == 2) option.expectObject({"SKU", "type", "price", "hasUsedFreeTrial"});
+    case OptionType::lifetime: return option.expectObject({"SKU", "type", "price", "hasUsedFreeTrial"});
+    }
+}
+
+SubscriptionOption readOption(const JsonCursor& option) {
+    using Type = SubscriptionOption::SubscriptionType;
+    option.keys(); // an object, before its type is asked for
+    const OptionType type = option.at("type").oneOf(optionTypes);
+    expectKeysOf(type, option);
 
     const std::string sku = option.at("SKU").text();
     const std::string price = option.at("price").text();
-    const bool hasUsedFreeTrial = option.optional("hasUsedFreeTrial") ? option.at("hasUsedFreeTrial").boolean() : false;
-    if (type == 2) return {sku, SubscriptionOption::SubscriptionType::Lifetime{price}, hasUsedFreeTrial};
+    const auto usedFreeTrial = option.optional("hasUsedFreeTrial");
+    const bool hasUsedFreeTrial = usedFreeTrial && usedFreeTrial->boolean();
+    if (type == OptionType::lifetime) return {sku, Type::Lifetime{price}, hasUsedFreeTrial};
 
     const auto introductoryPrice = optionalText(option, "introductoryPrice");
     const auto introductoryPeriodLength = optionalText(option, "introductoryPeriodLength");
-    if (type == 0)
-        return {sku, SubscriptionOption::SubscriptionType::Monthly{price, introductoryPrice, introductoryPeriodLength},
-                hasUsedFreeTrial};
+    if (type == OptionType::monthly)
+        return {sku, Type::Monthly{price, introductoryPrice, introductoryPeriodLength}, hasUsedFreeTrial};
     const std::string monthlyEffectivePrice = option.at("monthlyEffectivePrice").text();
-    return {sku,
-            SubscriptionOption::SubscriptionType::Yearly{price, monthlyEffectivePrice, introductoryPrice, introductoryPeriodLength},
-            hasUsedFreeTrial};
+    return {sku, Type::Yearly{price, monthlyEffectivePrice, introductoryPrice, introductoryPeriodLength}, hasUsedFreeTrial};
 }
 
 Referrer readReferrer(const JsonCursor& value) {
@@ -71,8 +91,8 @@ Offers readOffers(const JsonCursor& object) {
     Offers offers;
     offers.options = readOptions(object.at("options"));
     if (const auto referrer = object.optional("referrer")) offers.referrer = readReferrer(*referrer);
-    if (object.has("variant")) object.at("variant").oneOf({"comparisonPaywall"});
-    if (object.has("entitlement")) object.at("entitlement").oneOf({"velaPRO"});
+    if (object.has("variant")) offers.variant = object.at("variant").oneOf(variants);
+    if (object.has("entitlement")) offers.entitlement = object.at("entitlement").oneOf(entitlements);
     offers.showLoginOnSuccess = optionalBoolean(object, "showLoginOnSuccess", true);
     offers.annualSubscriptionPriceForComparisonWithPromotionalPrice =
         optionalText(object, "annualSubscriptionPriceForComparisonWithPromotionalPrice");
@@ -90,7 +110,7 @@ Offers readOffersFile(const std::filesystem::path& file) {
 Json toJson(const SubscriptionOption& option) {
     Json result;
     result["SKU"] = option.SKU();
-    result["type"] = option.isMonthly() ? "monthly" : option.isYearly() ? "yearly" : "lifetime";
+    result["type"] = wordFor(typeOf(option), optionTypes);
     result["price"] = option.price();
     if (option.isYearly()) result["monthlyEffectivePrice"] = option.monthlyEffectivePrice();
     if (!option.isLifetime()) {

@@ -13,21 +13,21 @@
 namespace proupsells::hostprogram {
 
 struct Offers {
-    std::vector<proupsells::SubscriptionOption> options;
-    proupsells::Referrer referrer{"proupsells"};
-    proupsells::VelaProUpsellViewController::Variant variant = proupsells::VelaProUpsellViewController::Variant::comparisonPaywall;
-    proupsells::Entitlement entitlement = proupsells::Entitlement::velaPRO;
+    std::vector<SubscriptionOption> options;
+    Referrer referrer{"proupsells"};
+    VelaProUpsellViewController::Variant variant = VelaProUpsellViewController::Variant::comparisonPaywall;
+    Entitlement entitlement = Entitlement::velaPRO;
     bool showLoginOnSuccess = true;
     std::optional<std::string> annualSubscriptionPriceForComparisonWithPromotionalPrice;
     std::optional<std::string> monthlySubscriptionPriceForComparisonWithPromotionalPrice;
     bool shouldMentioniCloudSync = false;
 };
 
-std::vector<proupsells::SubscriptionOption> readOptions(const JsonCursor& array);
+std::vector<SubscriptionOption> readOptions(const JsonCursor& array);
 Offers readOffers(const JsonCursor& object);
 Offers readOffersFile(const std::filesystem::path& file);
 
 // An option with every key that its type has, absent ones as null.
-Json toJson(const proupsells::SubscriptionOption& option);
+Json toJson(const SubscriptionOption& option);
 
 } // namespace proupsells::hostprogram

@@ -1,5 +1,7 @@
 #include "Apps/ProUpsellsHost/Scenario.hpp"
 
+#include <algorithm>
+
 namespace proupsells::hostprogram {
 
 namespace {
@@ -97,28 +99,43 @@ ExpectStep readExpect(const JsonCursor& value) {
     return step;
 }
 
-SendStep readSend(const JsonCursor& value) {
-    return {static_cast<SentEvent>(
-        value.oneOf({"cancel", "restorePurchases", "whatIsPro", "privacyPolicy", "termsOfService", "comparePlans"}))};
-}
+constexpr Word<SentEvent> sentEvents[] = {
+    {"cancel", SentEvent::cancel},
+    {"restorePurchases", SentEvent::restorePurchases},
+    {"whatIsPro", SentEvent::whatIsPro},
+    {"privacyPolicy", SentEvent::privacyPolicy},
+    {"termsOfService", SentEvent::termsOfService},
+    {"comparePlans", SentEvent::comparePlans},
+};
+constexpr Word<HostPart> hostParts[] = {
+    {"delegate", HostPart::delegate},
+    {"tracker", HostPart::tracker},
+};
+constexpr Word<DumpStep> dumps[] = {
+    {"screen", {}},
+};
+
+using ReadStep = Step (*)(const JsonCursor&, Surroundings&);
+
+constexpr Word<ReadStep> stepReaders[] = {
+    {"tap", [](const JsonCursor& value, Surroundings&) -> Step { return readTap(value); }},
+    {"drag", [](const JsonCursor& value, Surroundings&) -> Step { return readDrag(value); }},
+    {"press", [](const JsonCursor& value, Surroundings&) -> Step { return readPress(value); }},
+    {"wait", [](const JsonCursor& value, Surroundings&) -> Step { return WaitStep{readTime(value)}; }},
+    {"send", [](const JsonCursor& value, Surroundings&) -> Step { return SendStep{value.oneOf(sentEvents)}; }},
+    {"set", [](const JsonCursor& value, Surroundings& surroundings) -> Step { return readSet(value, surroundings); }},
+    {"release", [](const JsonCursor& value, Surroundings&) -> Step { return ReleaseStep{value.oneOf(hostParts)}; }},
+    {"dump", [](const JsonCursor& value, Surroundings&) -> Step { return value.oneOf(dumps); }},
+    {"snapshot", [](const JsonCursor& value, Surroundings&) -> Step { return readSnapshot(value); }},
+    {"expect", [](const JsonCursor& value, Surroundings&) -> Step { return readExpect(value); }},
+};
 
 Step readStep(const JsonCursor& step, Surroundings& surroundings) {
-    step.expectObject({"tap", "drag", "press", "wait", "send", "set", "release", "dump", "snapshot", "expect"});
+    step.expectObject(wordsOf(stepReaders));
     const auto keys = step.keys();
     if (keys.size() != 1) step.fail(std::to_string(keys.size()) + " keys stand here, expected exactly one");
-    const std::string& key = keys.front();
-    const JsonCursor value = step.at(key);
-    if (key == "tap") return readTap(value);
-    if (key == "drag") return readDrag(value);
-    if (key == "press") return readPress(value);
-    if (key == "wait") return WaitStep{readTime(value)};
-    if (key == "send") return readSend(value);
-    if (key == "set") return readSet(value, surroundings);
-    if (key == "release") return ReleaseStep{static_cast<HostPart>(value.oneOf({"delegate", "tracker"}))};
-    if (key == "snapshot") return readSnapshot(value);
-    if (key == "expect") return readExpect(value);
-    value.oneOf({"screen"});
-    return DumpStep{};
+    const auto entry = std::ranges::find(stepReaders, keys.front(), &Word<ReadStep>::word);
+    return entry->value(step.at(keys.front()), surroundings);
 }
 
 Offers readScenarioOffers(const JsonCursor& value, const std::filesystem::path& folder) {

@@ -43,7 +43,7 @@ struct SendStep {
 
 // Only what is there is set.
 struct SetStep {
-    std::optional<std::vector<proupsells::SubscriptionOption>> options;
+    std::optional<std::vector<SubscriptionOption>> options;
     std::optional<std::optional<std::string>> annualPrice;
     std::optional<std::optional<std::string>> monthlyPrice;
     std::optional<bool> shouldMentioniCloudSync;

@@ -1,8 +1,7 @@
 #include "Apps/ProUpsellsHost/ScreenDump.hpp"
 
-#include <utility>
-
 #include "Apps/ProUpsellsHost/Numbers.hpp"
+#include "Apps/ProUpsellsHost/Word.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -62,13 +61,13 @@ void addScroll(Json& result, const accessibility::ScrollInfo& scroll) {
 } // namespace
 
 std::vector<std::string> traitNames(Traits traits) {
-    static constexpr std::pair<Traits, const char*> names[] = {
-        {Traits::button, "button"},         {Traits::selected, "selected"}, {Traits::disabled, "disabled"},
-        {Traits::header, "header"},         {Traits::image, "image"},       {Traits::staticText, "staticText"},
-        {Traits::adjustable, "adjustable"}, {Traits::link, "link"},
+    static constexpr Word<Traits> names[] = {
+        {"button", Traits::button},         {"selected", Traits::selected}, {"disabled", Traits::disabled},
+        {"header", Traits::header},         {"image", Traits::image},       {"staticText", Traits::staticText},
+        {"adjustable", Traits::adjustable}, {"link", Traits::link},
     };
     std::vector<std::string> result;
-    for (const auto& [trait, name] : names)
+    for (const auto& [name, trait] : names)
         if (accessibility::contains(traits, trait)) result.emplace_back(name);
     return result;
 }
