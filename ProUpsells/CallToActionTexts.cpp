@@ -8,26 +8,18 @@ namespace proupsells {
 
 using foundation::localizedString;
 
-namespace {
-
-bool offersTrial(const SubscriptionOption& option) {
-    return option.introductoryPeriodLength().has_value() && !option.hasUsedFreeTrial();
-}
-
-} // namespace
-
 std::string CallToActionTexts::subscribeButtonTitle(const SubscriptionOption& option) {
-    return offersTrial(option) ? localizedString("Start Your Free Trial") : localizedString("Subscribe Now");
+    return option.offersTrial() ? localizedString("Start Your Free Trial") : localizedString("Subscribe Now");
 }
 
 std::string CallToActionTexts::paymentDisclaimer(const SubscriptionOption& option, const UpsellViewModel& model) {
-    // The seven days are fixed text, deliberately: a yearly trial says so whatever its own length is.
-    if (offersTrial(option) && option.isYearly())
+    // The seven days are fixed text: every yearly trial says so, whatever its own length is. This is deliberate.
+    if (option.offersTrial() && option.isYearly())
         return localizedString(
             "Cancel within 7 days, and you won\u2019t be charged. Payment will be made automatically after the trial "
             "ends.",
             "Subscription option details");
-    if (offersTrial(option) && option.isMonthly())
+    if (option.offersTrial() && option.isMonthly())
         return foundation::format(localizedString("%1$@ trial."), {*option.introductoryPeriodLength()}) + "\n" +
                localizedString("Payment will be made automatically after the trial ends.");
     if (option.isYearly()) {

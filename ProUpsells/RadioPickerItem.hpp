@@ -5,11 +5,12 @@
 #include <string>
 
 #include "Platform/Graphics/AttributedString.hpp"
+#include "ProUpsells/SubscriptionOption.hpp"
 
 namespace proupsells {
 
 struct RadioPickerItem {
-    std::string id; // unique in its picker
+    std::string id; // plans with the same one are marked together
     std::string title;
     graphics::AttributedString subtitle;
     std::optional<std::string> trialLength; // absent when the plan has no free trial
@@ -17,7 +18,7 @@ struct RadioPickerItem {
     std::optional<std::string> badge; // absent for none
 
     // Whether the card tells of a free trial.
-    bool offersTrial() const { return trialLength.has_value() && !hasUsedFreeTrial; }
+    bool offersTrial() const { return proupsells::offersTrial(trialLength, hasUsedFreeTrial); }
 
     bool operator==(const RadioPickerItem&) const = default;
 };

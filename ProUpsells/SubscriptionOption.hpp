@@ -7,6 +7,11 @@
 
 namespace proupsells {
 
+// A trial is on offer where a plan has one that the user has not had yet. `trialLength` is absent when the plan has none.
+inline bool offersTrial(const std::optional<std::string>& trialLength, bool hasUsedFreeTrial) {
+    return trialLength.has_value() && !hasUsedFreeTrial;
+}
+
 // All prices are texts that the host has already formatted in the store's currency; nothing is checked.
 class SubscriptionOption {
 public:
@@ -63,6 +68,8 @@ public:
     bool isMonthly() const { return std::holds_alternative<SubscriptionType::Monthly>(m_type.plan); }
     bool isYearly() const { return std::holds_alternative<SubscriptionType::Yearly>(m_type.plan); }
     bool isLifetime() const { return std::holds_alternative<SubscriptionType::Lifetime>(m_type.plan); }
+    // Whether a free trial can be had with the plan.
+    bool offersTrial() const { return proupsells::offersTrial(introductoryPeriodLength(), m_hasUsedFreeTrial); }
     // The same kind of plan, whatever its prices.
     bool isSameSubscriptionCategory(const SubscriptionOption& other) const;
 
