@@ -16,11 +16,13 @@ namespace {
 
 const uikit::UIColor& pageBackground() { return velauikit::dynamicColor(2); }
 
+std::string closeLabel() { return foundation::localizedString("Close"); }
+
 } // namespace
 
 void VelaProStorePageViewController::viewDidLoad() {
     UIViewController::viewDidLoad();
-    setTitle(foundation::localizedString("Marwick Folio Pro"));
+    applyTexts();
     view()->setBackgroundColor(pageBackground());
     collectionView()->setBackgroundColor(pageBackground());
     view()->addSubview(collectionView());
@@ -34,6 +36,11 @@ void VelaProStorePageViewController::viewDidLoad() {
 
     layoutDismissButton();
     startLoadingClips();
+}
+
+void VelaProStorePageViewController::applyTexts() {
+    setTitle(foundation::localizedString("Marwick Folio Pro"));
+    if (m_dismissIconButton) m_dismissIconButton->accessibilityLabel = closeLabel();
 }
 
 const std::shared_ptr<uikit::UICollectionView>& VelaProStorePageViewController::collectionView() {
@@ -81,7 +88,7 @@ const std::shared_ptr<velauikit::ChargedButton>& VelaProStorePageViewController:
     m_dismissIconButton = std::make_shared<velauikit::ChargedButton>();
     m_dismissIconButton->setTranslatesAutoresizingMaskIntoConstraints(false);
     m_dismissIconButton->setImage(image(ImageResource::closeStorePageButton()));
-    m_dismissIconButton->accessibilityLabel = foundation::localizedString("Close");
+    m_dismissIconButton->accessibilityLabel = closeLabel();
     m_dismissIconButton->accessibilityIdentifier = "store.close";
     m_dismissIconButton->addTarget(
         uikit::weakReference(*this), [](VelaProStorePageViewController& page) { page.dismissView(); },

@@ -30,7 +30,7 @@ class VelaProStorePageViewController : public uikit::UIViewController,
 public:
     using Shelves = std::vector<std::shared_ptr<VelaProStorePageShelf>>;
 
-    // Whether pages created from now on have the shelf about synchronisation.
+    // Whether pages that are created from now on list the shelf about synchronisation.
     inline static bool shouldMentioniCloudSync = false;
 
     // The page with its usual shelves, configured with the plans and index 0.
@@ -44,7 +44,7 @@ public:
 
     // The screen's name in analytics.
     std::string subscriptionScreenVariantTitle = "Vela Pro Store Page";
-    // What the plan button does; empty: nothing more than being tracked.
+    // What the plan button does. When it is empty, the tap is only tracked.
     std::function<void()> continueToSelectPlan;
 
     const std::vector<SubscriptionOption>& subscriptionsOptions() const { return m_subscriptionsOptions; }
@@ -66,7 +66,7 @@ public:
 
     // Hands the plans on to the shelves that show some.
     virtual void configure(std::vector<SubscriptionOption> options, int selectedIndex);
-    // The same with the index that is selected already.
+    // The same, keeping the selected index.
     void updateOptions(const std::vector<SubscriptionOption>& options) override;
 
     // Stored only.
@@ -78,6 +78,8 @@ public:
     // Built when they are first asked for.
     const std::shared_ptr<velauikit::ChargedButton>& dismissIconButton();
     const std::shared_ptr<uikit::UICollectionView>& collectionView();
+    // Reads the page's own texts anew, in the language of the moment. Its shelves and its plan button have texts of their own.
+    void applyTexts();
 
     void viewDidLoad() override;
     void viewDidAppear(bool animated) override;

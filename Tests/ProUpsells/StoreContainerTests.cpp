@@ -10,6 +10,7 @@
 #include "ProUpsells/TitleSubtitleContainerViewController.hpp"
 #include "ProUpsells/VelaProHeaderView.hpp"
 #include "ProUpsells/VerticallyStackedContainerViewController.hpp"
+#include "Tests/ProUpsells/HostTranslations.hpp"
 #include "Tests/ProUpsells/StoreScreen.hpp"
 
 namespace proupsells::tests {
@@ -111,6 +112,43 @@ TEST_F(StoreContainer, ShowsTheSameTextsAsAFooter) {
     EXPECT_EQ(footer->subtitleLabel()->attributedText().runs().front().attributes.kern, 0.2);
 }
 
+TEST_F(StoreContainer, ReadsItsShelfsTextsAnew) {
+    const auto shelf = std::make_shared<BrandAssetsShelf>();
+    TitleSubtitleContainerViewController texts(*shelf);
+    const HostTranslations german({{"Upload brand assets", "Marke hochladen"}}, "de");
+
+    texts.applyTexts();
+
+    EXPECT_EQ(texts.titleText(), "Marke hochladen");
+    EXPECT_EQ(texts.titleLabel()->text(), "Marke hochladen");
+    EXPECT_EQ(texts.subtitleText(), "Add your logos, fonts and color palettes to use within your projects.");
+}
+
+TEST_F(StoreContainer, KeepsItsTextsOnceItsShelfIsGone) {
+    auto shelf = std::make_shared<BrandAssetsShelf>();
+    TitleSubtitleContainerViewController texts(*shelf);
+    shelf.reset();
+    const HostTranslations german({{"Upload brand assets", "Marke hochladen"}}, "de");
+
+    texts.applyTexts();
+
+    EXPECT_EQ(texts.titleText(), "Upload brand assets");
+}
+
+TEST_F(StoreContainer, ReadsItsHeadlineAnew) {
+    VelaProHeaderView header{geometry::Rect{}};
+    LabelHeaderView otherHeader{geometry::Rect{}};
+    const HostTranslations german({{"It's never been easier to look professional.", "So leicht war es nie."},
+                                   {"All the templates. All the fonts. Graphics galore.", "Alles da."}},
+                                  "de");
+
+    header.applyTexts();
+    otherHeader.applyTexts();
+
+    EXPECT_EQ(header.titleLabel()->text(), "So leicht war es nie.");
+    EXPECT_EQ(otherHeader.titleLabel()->text(), "Alles da.");
+}
+
 TEST_F(StoreContainer, CentresTheLogoOverTheHeadline) {
     const auto root = std::make_shared<uikit::UIViewController>();
     const auto header = std::make_shared<VelaProHeaderView>(geometry::Rect{{0, 0}, {375, 220}});
@@ -168,7 +206,10 @@ TEST_F(StoreContainer, PlaysTheDarkClipFromTheStartWhereItIsDark) {
 TEST_F(StoreContainer, CannotComeFromAnArchiveOrHaveAFrameOfItsOwn) {
     const foundation::Coder coder;
     EXPECT_DEATH(TemplatesVideoView{coder}, "init\\(coder:\\) has not been implemented");
-    EXPECT_DEATH(BrandAssetsVideoView(geometry::Rect{}), "init\\(frame:\\)");
+    EXPECT_DEATH(BrandAssetsVideoView(geometry::Rect{}),
+                 "unimplemented initializer 'init\\(frame:\\)' for class 'ProUpsells.BrandAssetsVideoView'");
+    EXPECT_DEATH(TemplatesVideoView(geometry::Rect{}),
+                 "unimplemented initializer 'init\\(frame:\\)' for class 'ProUpsells.TemplatesVideoView'");
     EXPECT_DEATH(VelaProHeaderView{coder}, "init\\(coder:\\) has not been implemented");
     EXPECT_DEATH(LabelHeaderView{coder}, "init\\(coder:\\) has not been implemented");
     EXPECT_DEATH(VerticallyStackedContainerViewController{coder}, "init\\(coder:\\)");

@@ -187,6 +187,16 @@ TEST_F(StorePage, SpeaksTheHostsLanguage) {
     EXPECT_EQ(page->title(), "Marwick Folio Profi");
 }
 
+TEST_F(StorePage, ReadsItsTextsAnew) {
+    const auto page = showPage();
+    const HostTranslations german({{"Close", "Schließen"}, {"Marwick Folio Pro", "Marwick Folio Profi"}}, "de");
+
+    page->applyTexts();
+
+    EXPECT_EQ(find("store.close").label, "Schließen");
+    EXPECT_EQ(page->title(), "Marwick Folio Profi");
+}
+
 // --- Sections ---
 
 TEST_F(StorePage, HasOneItemInEachOfEightOrNineSections) {
