@@ -18,6 +18,9 @@ class LedgerTracker final : public ProUpsellEventTracker {
 public:
     explicit LedgerTracker(Ledger& ledger) : m_ledger(ledger) {}
 
+    // What it does inside each of its calls.
+    std::function<void()> duringCall;
+
     void trackUpsellViewed(const Referrer& referrer, const std::string& title, const std::string& entitlement) override {
         write("viewed", {referrer.description(), title, entitlement});
     }
@@ -54,6 +57,7 @@ private:
         std::string line = operation + "(";
         for (std::size_t index = 0; index < arguments.size(); ++index) line += (index ? ", " : "") + arguments[index];
         m_ledger.push_back(line + ")");
+        if (duringCall) duringCall();
     }
     Ledger& m_ledger;
 };

@@ -32,6 +32,8 @@ inline SubscriptionOption lifetime(std::string price = "$299.99", std::string SK
     return {std::move(SKU), SubscriptionOption::SubscriptionType::Lifetime{std::move(price)}, false};
 }
 
+inline std::vector<SubscriptionOption> twoPlans() { return {yearly(), monthly()}; }
+
 inline std::vector<std::string> identifiers(const std::vector<SubscriptionOption>& options) {
     std::vector<std::string> result;
     for (const SubscriptionOption& option : options) result.push_back(option.SKU());

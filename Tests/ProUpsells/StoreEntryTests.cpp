@@ -12,9 +12,9 @@ namespace {
 
 class StoreEntry : public StoreTest {
 protected:
-    StoreEntry() : tracker(std::make_shared<RecordingTracker>(calls)) {
+    StoreEntry() : tracker(std::make_shared<LedgerTracker>(calls)) {
         show(std::make_shared<uikit::UIViewController>());
-        entry = VelaProUpsellViewController::create({yearly(), monthly()}, VelaProUpsellViewController::Variant::comparisonPaywall,
+        entry = VelaProUpsellViewController::create(twoPlans(), VelaProUpsellViewController::Variant::comparisonPaywall,
                                                     Referrer{"Home"}, Entitlement::velaPRO, true);
         entry->setTracker(tracker);
         window->rootViewController()->present(entry, true);
@@ -30,8 +30,8 @@ protected:
         return page ? uikit::strongReference(*page) : nullptr;
     }
 
-    std::vector<std::string> calls;
-    std::shared_ptr<RecordingTracker> tracker;
+    Ledger calls;
+    std::shared_ptr<LedgerTracker> tracker;
     std::shared_ptr<VelaProUpsellViewController> entry;
 };
 
@@ -59,7 +59,7 @@ TEST_F(StoreEntry, ComesBackThroughThePlanButton) {
 
     EXPECT_FALSE(entry->presentedViewController());
     EXPECT_TRUE(entry->presentingViewController());
-    EXPECT_THAT(calls, ElementsAre("choosePlan(Home, Vela Pro Store Page, VELA_PRO)")); // the paywall does not appear anew
+    EXPECT_THAT(calls, ElementsAre("choosePlanTapped(Home, Vela Pro Store Page, VELA_PRO)")); // the paywall does not appear anew
 }
 
 TEST_F(StoreEntry, LetsGoOfThePageOnceItIsClosed) {

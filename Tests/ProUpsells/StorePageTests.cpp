@@ -38,7 +38,7 @@ private:
 
 class StorePage : public StoreTest {
 protected:
-    StorePage() : tracker(std::make_shared<RecordingTracker>(calls)) {}
+    StorePage() : tracker(std::make_shared<LedgerTracker>(calls)) {}
 
     std::shared_ptr<VelaProStorePageViewController> presentPage() {
         show(std::make_shared<uikit::UIViewController>());
@@ -52,8 +52,8 @@ protected:
         return std::make_shared<VelaProStorePageViewController>(std::move(shelves), Referrer{"Home"}, Entitlement::velaPRO);
     }
 
-    std::vector<std::string> calls;
-    std::shared_ptr<RecordingTracker> tracker;
+    Ledger calls;
+    std::shared_ptr<LedgerTracker> tracker;
 };
 
 } // namespace
@@ -78,7 +78,7 @@ TEST_F(StorePage, HandsPlansOnToTheShelvesThatTakeSome) {
     const auto shelf = std::make_shared<PlainShelf>(100);
     const auto page = pageWith({shelf, std::make_shared<VideoImageLibrariesShelf>()});
 
-    page->configure({yearly(), monthly()}, 1);
+    page->configure(twoPlans(), 1);
     page->updateOptions({yearly()});
 
     EXPECT_THAT(shelf->optionCounts, ElementsAre(2u, 1u));
@@ -112,7 +112,7 @@ TEST_F(StorePage, SaysThatItIsClosedBeforeItGoes) {
     const auto page = presentPage();
     calls.clear();
     bool wasStillThere = false;
-    tracker->onDismissed = [&] { wasStillThere = !page->isBeingDismissed(); };
+    tracker->duringCall = [&] { wasStillThere = !page->isBeingDismissed(); };
 
     tap("store.close");
 
@@ -141,7 +141,7 @@ TEST_F(StorePage, HandsThePlanButtonToWhoeverWaitsForIt) {
     tap("store.choosePlan");
     bed.runFor(1);
 
-    EXPECT_THAT(calls, ElementsAre("choosePlan(Home, Vela Pro Store Page, VELA_PRO)", "continue"));
+    EXPECT_THAT(calls, ElementsAre("choosePlanTapped(Home, Vela Pro Store Page, VELA_PRO)", "continue"));
     EXPECT_TRUE(page->presentingViewController());
 }
 
@@ -151,7 +151,7 @@ TEST_F(StorePage, OnlyTracksThePlanButtonWhereNobodyWaitsForIt) {
 
     tap("store.choosePlan");
 
-    EXPECT_THAT(calls, ElementsAre("choosePlan(Home, Vela Pro Store Page, VELA_PRO)"));
+    EXPECT_THAT(calls, ElementsAre("choosePlanTapped(Home, Vela Pro Store Page, VELA_PRO)"));
     EXPECT_TRUE(page->presentingViewController());
 }
 
@@ -162,7 +162,7 @@ TEST_F(StorePage, SendsTheNameThatItHasAtTheTime) {
 
     tap("store.choosePlan");
 
-    EXPECT_THAT(calls, ElementsAre("choosePlan(Home, Another, VELA_PRO)"));
+    EXPECT_THAT(calls, ElementsAre("choosePlanTapped(Home, Another, VELA_PRO)"));
 }
 
 TEST_F(StorePage, LetsThePlanActionReleaseThePage) {

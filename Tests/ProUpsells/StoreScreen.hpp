@@ -13,6 +13,7 @@
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 #include "ProUpsells/StorePageShelfViewController.hpp"
 #include "ProUpsells/VelaProStorePageViewController.hpp"
+#include "Tests/ProUpsells/Ledger.hpp"
 #include "Tests/ProUpsells/Offers.hpp"
 #include "Tests/ProUpsells/SemanticSearch.hpp"
 #include "Tests/Support/FailOnUnexpectedLog.hpp"
@@ -51,7 +52,7 @@ protected:
         bed.settle();
     }
     std::shared_ptr<VelaProStorePageViewController> makePage() {
-        return VelaProStorePageViewController::create({yearly(), monthly()}, Referrer{"Home"}, Entitlement::velaPRO);
+        return VelaProStorePageViewController::create(twoPlans(), Referrer{"Home"}, Entitlement::velaPRO);
     }
     std::shared_ptr<VelaProStorePageViewController> showPage() {
         auto page = makePage();
@@ -91,51 +92,6 @@ protected:
     std::shared_ptr<headless::FakeClipDecoder> decoder;
     headless::TestBed bed;
     std::shared_ptr<uikit::UIWindow> window;
-};
-
-// Writes down what it is told.
-class RecordingTracker : public ProUpsellEventTracker {
-public:
-    explicit RecordingTracker(std::vector<std::string>& calls) : m_calls(calls) {}
-
-    void trackUpsellViewed(const Referrer& referrer, const std::string& title, const std::string& entitlement) override {
-        note("viewed", referrer, title, entitlement);
-    }
-    void trackSubscriptionOptionSelected(const SubscriptionOption&, const Referrer& referrer, const std::string& title) override {
-        note("selected", referrer, title, "");
-    }
-    void trackPurchaseTapped(const SubscriptionOption&, const Referrer& referrer, const std::string& title,
-                             const std::string& entitlement) override {
-        note("purchase", referrer, title, entitlement);
-    }
-    void trackReservedEvent() override { m_calls.push_back("reserved"); }
-    void trackUpsellDismissed(const Referrer& referrer, const std::string& title, const std::string& entitlement) override {
-        note("dismissed", referrer, title, entitlement);
-        if (onDismissed) onDismissed();
-    }
-    void trackRestoreTapped(const Referrer& referrer, const std::string& title) override { note("restore", referrer, title, ""); }
-    void trackPrivacyPolicyTapped(const Referrer& referrer, const std::string& title) override {
-        note("privacy", referrer, title, "");
-    }
-    void trackTermsOfServiceTapped(const Referrer& referrer, const std::string& title) override {
-        note("terms", referrer, title, "");
-    }
-    void trackComparePlansTapped(const Referrer& referrer, const std::string& title) override {
-        note("compare", referrer, title, "");
-    }
-    void trackChoosePlanTapped(const Referrer& referrer, const std::string& title, const std::string& entitlement) override {
-        note("choosePlan", referrer, title, entitlement);
-    }
-
-    std::function<void()> onDismissed;
-
-private:
-    void note(const std::string& event, const Referrer& referrer, const std::string& title, const std::string& entitlement) {
-        m_calls.push_back(event + "(" + referrer.description() + ", " + title + (entitlement.empty() ? "" : ", " + entitlement) +
-                          ")");
-    }
-
-    std::vector<std::string>& m_calls;
 };
 
 } // namespace proupsells::tests

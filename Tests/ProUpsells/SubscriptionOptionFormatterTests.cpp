@@ -142,6 +142,22 @@ TEST(PickerRow, CarriesTheOptionsOwnValues) {
     EXPECT_FALSE(row.badge.has_value());
 }
 
+TEST(PickerRow, IsTheSameAloneAndInTheList) {
+    MainThread main;
+    UpsellViewModel model;
+    model.options = std::vector{yearly("99.99", {.introductoryPeriodLength = "1 week"}), yearly("60", {}, "pro.other"),
+                                monthly("14.99"), lifetime()};
+    model.annualSubscriptionPriceForComparisonWithPromotionalPrice = "$119";
+
+    std::vector<RadioPickerItem> rows;
+    for (const SubscriptionOption& option : model.options.get()) rows.push_back(Formatter::makePickerRow(option, model));
+
+    EXPECT_EQ(Formatter::makePickerRows(model), rows);
+    EXPECT_EQ(rows[0].badge, "Save 45%");
+    EXPECT_EQ(rows[1].badge, "Save 45%");
+    EXPECT_FALSE(rows[2].badge.has_value());
+}
+
 TEST(PickerRow, DoesNotReadPlaceholdersInPrices) {
     MainThread main;
 

@@ -190,7 +190,7 @@ TEST_F(UpsellController, ReadsAndWritesTheComparisonPricesInItsModel) {
 }
 
 TEST_F(UpsellController, ShowsThePaywallOnItsBackground) {
-    const auto controller = make({yearly(), monthly()});
+    const auto controller = make(twoPlans());
     present(controller);
 
     EXPECT_EQ(controller->view()->backgroundColor()->name, "velaBackground");

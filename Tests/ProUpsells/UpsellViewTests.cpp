@@ -14,8 +14,6 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
-std::vector<SubscriptionOption> twoPlans() { return {yearly(), monthly()}; }
-
 // Scrolls by as little as makes the control reachable, then taps it.
 void revealAndTap(Paywall& paywall, std::string_view identifier) {
     if (const auto reveal = paywall.find(identifier).reveal) reveal();
