@@ -14,7 +14,7 @@ public:
     const std::shared_ptr<velauikit::VideoView>& videoView() const { return m_videoView; }
 
     void traitCollectionDidChange(const uikit::UITraitCollection& previous) override;
-    // Before it comes into a window a view cannot be sure of the appearance.
+    // The appearance is known for sure only when the view is in a window.
     void didMoveToWindow() override;
 
 protected:

@@ -13,7 +13,7 @@ using namespace swiftui;
 
 namespace {
 
-// Fades in while it is revealed from its top edge downwards.
+// Fades in while it opens from its top edge downwards.
 AnyTransition revealTransition() {
     return AnyTransition::opacity().combined(
         AnyTransition::modifier(ClipShapeModifier<ScaledRect>{ScaledRect{0}}, ClipShapeModifier<ScaledRect>{ScaledRect{1}}));

@@ -11,7 +11,7 @@ using namespace swiftui;
 namespace ContentColor = lumokit::ContentColor;
 
 View ComparePlansButton::body(BuildContext& context) const {
-    // The symbol points to the right; what lies ahead is on the left where the language runs that way.
+    // The symbol points to the right. Where the language runs from right to left, it is turned.
     const double turn_degrees = context.environment().isRightToLeft() ? 180 : 0;
     View row =
         HStack{.content = {

@@ -26,7 +26,7 @@ public:
     static const std::string& freeHeading();
     static const std::string& proHeading();
 
-    // Whether the headings are so long that the columns' capsules take their smaller form.
+    // Whether the headings are too long for capsules of the usual size.
     static bool requiresSmallCapsule();
     // The same for given headings. The Pro heading is asked for only when the Free one is short.
     static bool requiresSmallCapsule(std::string_view freeHeading, const std::function<std::string()>& proHeading);

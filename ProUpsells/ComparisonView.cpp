@@ -18,7 +18,7 @@ namespace {
 
 using Expanded = Binding<ExpandedCategories>;
 
-// A category that comes on screen is as open as the catalogue says; what the user did to it before is forgotten, deliberately.
+// A category that appears is open or closed as the catalogue says. What the user did to it before is forgotten; this is deliberate.
 void seed(const Expanded& expanded, const FeatureCategory& category) {
     ExpandedCategories changed = expanded.get();
     changed.expandedCategories[category.name] = category.expanded;
@@ -43,7 +43,7 @@ View ComparisonView::headerRow() const {
                               lumokit::textStyle(lumokit::headingH2) | foregroundStyle(lumokit::ContentColor::primary) |
                               accessibilityTraits(accessibility::Traits::header) |
                               frame({.maxWidth = geometry::infinity, .alignment = Alignment::leading}),
-                          // The two capsules' line spacings differ, deliberately.
+                          // The two capsules have different line spacings. This is deliberate.
                           ComparisonColumnCapsule{.heading = ComparisonCatalogue::freeHeading(),
                                                   .fill = lumokit::ValidationColor::neutralSubdued,
                                                   .textColor = lumokit::ValidationColor::neutralImportant,

@@ -13,7 +13,7 @@ using namespace swiftui;
 
 namespace {
 
-// Larger words than these would be broken beside the two columns of a small screen.
+// Beside the two columns of a small screen, larger words would be broken.
 const auto largestRowTextSize = lumokit::largestTextSize(graphics::ContentSizeCategory::extraExtraExtraLarge);
 
 } // namespace

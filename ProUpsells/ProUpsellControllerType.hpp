@@ -11,6 +11,7 @@ class ProUpsellControllerType {
 public:
     virtual ~ProUpsellControllerType() = default;
 
+    // A paywall takes an empty list, or one that has a plan at the selected place.
     virtual void updateOptions(const std::vector<SubscriptionOption>& options) = 0;
 };
 

@@ -32,7 +32,7 @@ TextAttributes boldAttributes() {
     return attributes;
 }
 
-// A run without text would be one that nobody sees.
+// Empty runs are left out: nobody sees them.
 void appendRun(AttributedString& result, std::string_view text, const TextAttributes& attributes) {
     if (!text.empty()) result.append(AttributedString{std::string(text), attributes});
 }
@@ -67,7 +67,7 @@ RadioPickerItem SubscriptionOptionFormatter::makePickerRow(const SubscriptionOpt
 
 std::vector<RadioPickerItem> SubscriptionOptionFormatter::makePickerRows(const UpsellViewModel& model) {
     runloop::MainActor::assertIsolated();
-    // All yearly plans share one badge; finding the saving anew for each would make long lists slow.
+    // All yearly plans share one badge: to work out the saving for each of them would make long lists slow.
     const SubscriptionOption* yearly = model.yearlyOption();
     const std::optional<std::string> yearlyBadge = yearly ? badgeText(*yearly, model) : std::nullopt;
     std::vector<RadioPickerItem> rows;
@@ -92,7 +92,7 @@ SubscriptionOptionFormatter::titleAndSubtitle(const SubscriptionOption& option, 
         sentence = foundation::format(localizedString("**%@** per month"), {option.price()});
     }
     if (comparisonPrice && !comparisonPrice->empty()) result.subtitle = struckThroughPrice(*comparisonPrice);
-    // The blank stands also where no comparison price comes before it. This is deliberate: the subtitle then starts with a blank.
+    // The blank is there even without a comparison price. This is deliberate: the subtitle then starts with a blank.
     appendRun(result.subtitle, " ", plainAttributes());
     result.subtitle.append(boldMarkup(sentence));
     return result;
@@ -109,7 +109,7 @@ std::int64_t SubscriptionOptionFormatter::savingsPercentage(const UpsellViewMode
 
     const double saved = std::round(*yearlyPrice / (*monthlyPrice * -12) * 100 + 100);
     constexpr double limit = 0x1p63; // the first whole number that 64 bits cannot hold
-    // Written so that not-a-number stops here, too.
+    // Not-a-number fails both comparisons, so it stops here as well.
     if (!(saved >= -limit && saved < limit)) commons::fatalError("The savings percentage is not a whole number that can be shown");
     return snappedToMultipleOfFive(static_cast<std::int64_t>(saved));
 }

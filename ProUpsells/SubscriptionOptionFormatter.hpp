@@ -30,7 +30,8 @@ public:
     static TitleAndSubtitle titleAndSubtitle(const SubscriptionOption& option, const std::optional<std::string>& comparisonPrice);
 
     // What paying yearly saves against twelve monthly payments, in percent, snapped to a multiple of five; 45 when the price
-    // texts are not plain numbers. Stops the program when they are numbers whose saving is none that fits in 64 bits.
+    // texts are not plain numbers. When the result is not finite, as with a monthly price of 0, or does not fit in 64 bits, the
+    // program stops: "The savings percentage is not a whole number that can be shown".
     static std::int64_t savingsPercentage(const UpsellViewModel& model);
     // 44 becomes 45, 43 becomes 40: only the last of five rounds up.
     static std::int64_t snappedToMultipleOfFive(std::int64_t percentage);

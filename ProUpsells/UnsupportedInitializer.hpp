@@ -1,4 +1,4 @@
-// Ways of making things that exist in name only.
+// Stops for initializers that are declared but not supported.
 #pragma once
 
 #include <string_view>

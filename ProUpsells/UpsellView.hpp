@@ -18,7 +18,7 @@ struct UpsellView {
     swiftui::View body(swiftui::BuildContext& context) const;
     bool operator==(const UpsellView&) const = default;
 
-    // The four things that the subscription is praised for.
+    // What the subscription is good for, in four pages.
     static std::shared_ptr<const std::vector<Page>> defaultCarouselPageList();
 };
 

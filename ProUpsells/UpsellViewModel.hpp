@@ -46,7 +46,8 @@ public:
         bool operator==(const TapEvent&) const = default;
     };
 
-    // The plans in display order.
+    // The plans in display order. Empty, or with a plan at the place that the paywall has selected; otherwise the paywall stops the
+    // program.
     combine::Published<std::vector<SubscriptionOption>> options{*this};
     // Prices shown struck through before a plan's subtitle; absent when no promotion is on.
     combine::Published<std::optional<std::string>> annualSubscriptionPriceForComparisonWithPromotionalPrice{*this};

@@ -19,7 +19,7 @@ VelaProHeaderView::VelaProHeaderView(const geometry::Rect& frame)
       m_proLogoImageView(std::make_shared<uikit::UIImageView>(velauikit::VelaUIKitImage::marwickFolioWithProBadge())) {
     m_proLogoImageView->setTintColor(velauikit::velaLabel);
     m_proLogoImageView->setContentMode(uikit::UIImageView::ContentMode::aspectFit);
-    // The shelf's height is fixed: a long headline is set smaller before it is cut.
+    // The shelf's height is fixed, so a long headline is set smaller before it is cut.
     titleLabel()->setMinimumScaleFactor(0.7);
     layOut();
 }

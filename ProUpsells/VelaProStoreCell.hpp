@@ -8,7 +8,7 @@
 
 namespace proupsells {
 
-// Borrows the shelf's controller, which it holds weakly, for as long as it can be seen.
+// Shows the shelf's controller while the cell can be seen, and holds it weakly.
 class VelaProStoreCell : public uikit::UICollectionViewCell {
 public:
     std::string_view typeName() const override { return "VelaProStoreCell"; }

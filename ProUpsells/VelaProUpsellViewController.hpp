@@ -21,8 +21,8 @@
 
 namespace proupsells {
 
-// Embeds the paywall, forwards each of its actions to the delegate and reports it to the tracker; both are held weakly, and a
-// missing one skips its call and nothing else. Main thread only.
+// Embeds the paywall, forwards each of its actions to the delegate and reports it to the tracker. Both are held weakly; when one is
+// missing, its call is skipped and nothing else. Main thread only.
 class VelaProUpsellViewController : public uikit::UIViewController,
                                     public UpsellViewControllerDelegate,
                                     public ComparisonViewControllerDelegate {
@@ -53,8 +53,12 @@ public:
     std::shared_ptr<VelaProUpsellViewControllerDelegate> delegate() const { return m_delegate.lock(); }
     void setDelegate(std::weak_ptr<VelaProUpsellViewControllerDelegate> delegate) { m_delegate = std::move(delegate); }
 
-    // What is set after the view has loaded reaches the paywall at once.
+    // Options and prices that are set after the view has loaded reach the paywall at once.
     const std::vector<SubscriptionOption>& options() const { return m_options; }
+    // May be called at any time, also from inside a delegate's call, with an empty list or with one that has a plan at the selected
+    // place. Places are those on the paywall: yearly plans come first, then monthly ones, without lifetime plans. A list that is too
+    // short stops the program: "Index out of range: the selected option is number 1 of 1". So does one whose first monthly plan has
+    // the price "0" while its first yearly price is a number: "The savings percentage is not a whole number that can be shown".
     void setOptions(std::vector<SubscriptionOption> options);
     // Absent: no promotion, nothing to compare with.
     const std::optional<std::string>& annualSubscriptionPriceForComparisonWithPromotionalPrice() const {
@@ -79,7 +83,7 @@ public:
     void upsellViewControllerDidTapWhatIsProButton(UpsellViewController& sender) override;
     void upsellViewControllerDidTapPrivacyPolicyButton(UpsellViewController& sender) override;
     void upsellViewControllerDidTapTermsOfServiceButton(UpsellViewController& sender) override;
-    // Does what the operation with the longer name does.
+    // Does the same as the operation with the longer name.
     void upsellViewControllerDidTapTermsOfService(UpsellViewController& sender);
     void upsellViewControllerDidTapComparePlans(UpsellViewController& sender) override;
 

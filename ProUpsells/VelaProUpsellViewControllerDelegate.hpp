@@ -7,7 +7,8 @@ namespace proupsells {
 
 class VelaProUpsellViewController;
 
-// Always held weakly. From inside a call it may change, present, dismiss or let go of anything, the sender too.
+// Always held weakly. From inside a call it may present, dismiss or let go of anything, the sender too, and change options; see
+// VelaProUpsellViewController::setOptions for the lists that are allowed.
 class VelaProUpsellViewControllerDelegate {
 public:
     virtual ~VelaProUpsellViewControllerDelegate() = default;

@@ -25,7 +25,7 @@ public:
     // The one with the plan comparison and the header carousel.
     enum class Variant : std::uint8_t { comparisonPaywall };
 
-    // Options with neither a yearly nor a monthly plan cost one log line and make an empty list.
+    // Options with neither a yearly nor a monthly plan write one log line and give an empty list.
     static std::shared_ptr<UpsellViewController> create(const std::vector<SubscriptionOption>& subscriptionOptions,
                                                         Variant variant);
     // Stops the program: "init(coder:) has not been implemented".
@@ -46,8 +46,8 @@ public:
     std::optional<std::string> monthlySubscriptionPriceForComparisonWithPromotionalPrice() const override;
     void setMonthlySubscriptionPriceForComparisonWithPromotionalPrice(std::optional<std::string> price) override;
 
-    // A personalised header image on its way; while it is present when the view appears, a placeholder covers the paywall. Nobody
-    // in the module sets it.
+    // The download of a personalised header image. When it is present as the view appears, a placeholder covers the paywall. The
+    // module itself never sets it.
     std::optional<combine::AnyCancellable> imageDownloadTask;
 
     void viewDidLoad() override;
