@@ -49,6 +49,15 @@ double endOfPicturesFrom(PictureStream& stream, double time_s) {
     return end_s;
 }
 
+// The end of the last picture of all. The last key picture may be broken: then further back.
+double endOfPictures(PictureStream& stream, double lastKey_s) {
+    for (double wayBack_s = 0;; wayBack_s = std::max(1.0, 2 * wayBack_s)) {
+        const double place_s = std::max(0.0, lastKey_s - wayBack_s);
+        const double end_s = endOfPicturesFrom(stream, place_s);
+        if (end_s > 0 || place_s == 0) return end_s;
+    }
+}
+
 } // namespace
 
 PictureExtent extentOf(PictureStream& stream) {
@@ -58,8 +67,7 @@ PictureExtent extentOf(PictureStream& stream) {
 
     const Packets packets = readPackets(stream);
     if (!packets.someAreMissing && reachesDeclared(packets.end_s)) return {declared_s, false};
-    double end_s = endOfPicturesFrom(stream, packets.lastKey_s);
-    if (end_s == 0) end_s = endOfPicturesFrom(stream, 0);
+    const double end_s = endOfPictures(stream, packets.lastKey_s);
     if (reachesDeclared(end_s)) return {declared_s, false};
     return {end_s, true};
 }

@@ -11,7 +11,7 @@ struct PictureExtent {
 };
 
 // Reads all packets but decodes nothing as long as none is missing: then the file's own duration is right. When some are missing,
-// decodes from the last key picture to the end, or the whole file when that gives no picture. Call seek() before reading on.
+// decodes what follows the last key picture that can be decoded. Call seek() before reading on.
 PictureExtent extentOf(PictureStream& stream);
 
 } // namespace proupsells::ffmpegbackend

@@ -76,9 +76,9 @@ std::size_t PlayedClip::picturesAfter(const host::ClipFrame& frame) const {
 }
 
 bool PlayedClip::needsSeek(double moment_s) const {
-    if (m_window.empty() || moment_s < m_window.front().time_s) return true;
+    if (!m_window.empty() && moment_s < m_window.front().time_s) return true;
     // The last seek may have led to a key picture far before the moment. From there on, pictures are decoded one by one.
-    const double reached_s = std::max(m_window.back().time_s, m_soughtMoment_s);
+    const double reached_s = std::max(m_window.empty() ? 0 : m_window.back().time_s, m_soughtMoment_s);
     return moment_s > reached_s + longestWalk_s;
 }
 

@@ -21,16 +21,17 @@ std::unique_ptr<VideoFile> VideoFile::open(const std::filesystem::path& file, st
     const PictureExtent extent = extentOf(*stream);
     std::unique_ptr<VideoFile> video(new VideoFile(std::move(stream), extent));
     video->m_stream->seek(0);
-    const host::ClipFrame first = video->next();
-    if (!first.picture || extent.duration_s <= 0) {
+    video->m_first = video->next();
+    if (!video->m_first.picture || extent.duration_s <= 0) {
         complaint = "no picture in it can be decoded";
         return nullptr;
     }
-    video->m_firstTime_s = first.time_s;
+    video->m_firstTime_s = std::exchange(video->m_first.time_s, 0);
     return video;
 }
 
 host::ClipFrame VideoFile::next() {
+    if (m_first.picture) return std::exchange(m_first, {});
     while (const AVFrame* frame = m_stream->readFrame()) {
         const double time_s = m_stream->timeOf(frame->best_effort_timestamp);
         // The first picture is shown from the beginning, even if its own time is later.
@@ -40,6 +41,7 @@ host::ClipFrame VideoFile::next() {
 }
 
 host::ClipFrame VideoFile::seek(double time_s) {
+    m_first = {};
     // When the pictures there are broken, or all of them are later, the search begins further back.
     for (double wayBack_s = 0;; wayBack_s = std::max(1.0, 2 * wayBack_s)) {
         const double place_s = std::max(0.0, time_s - wayBack_s);

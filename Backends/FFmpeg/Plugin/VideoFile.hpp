@@ -36,6 +36,7 @@ private:
     PictureExtent m_extent;
     PictureConverter m_converter;
     double m_firstTime_s = 0; // of the first picture, as the stream counts
+    host::ClipFrame m_first;  // decoded when the file was opened; empty once it has been handed out
 };
 
 } // namespace proupsells::ffmpegbackend
