@@ -14,7 +14,7 @@ namespace {
 
 constexpr const char* place = "command line";
 
-// Numbers between separators, as a JSON array; anything else is left a text, which the device's reader then refuses.
+// The numbers between separators as a JSON array. Anything else stays a text, which the device's reader refuses.
 Json numbersOr(const std::string& text, char separator) {
     Json numbers = Json::array();
     for (std::size_t start = 0;;) {

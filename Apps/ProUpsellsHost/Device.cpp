@@ -112,7 +112,7 @@ void readDeviceKey(Device& device, std::string_view key, const JsonCursor& value
 Device readDevice(const JsonCursor& object, const std::filesystem::path& folder) {
     object.expectObject(wordsOf(deviceKeys));
     Device device;
-    // Insets are held against the size, whichever comes first in the file.
+    // In the order of the table: the insets are checked against the size, wherever the two stand in the file.
     for (const std::string_view key : wordsOf(deviceKeys))
         if (object.has(key)) readDeviceKey(device, key, object.at(key), folder);
     return device;

@@ -31,7 +31,7 @@ struct Device {
 
 // Whether the key is one of a device's.
 bool isDeviceKey(std::string_view key);
-// Reads one key of a device; `folder` is what a relative path in it is relative to.
+// Reads one key of a device. Relative paths count from `folder`.
 void readDeviceKey(Device& device, std::string_view key, const JsonCursor& value, const std::filesystem::path& folder);
 // Reads an object of device keys.
 Device readDevice(const JsonCursor& object, const std::filesystem::path& folder);

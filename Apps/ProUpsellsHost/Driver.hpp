@@ -14,7 +14,7 @@ public:
     Driver(runloop::MainRunLoop& loop, HostSession& session) : m_loop(loop), m_session(session) {}
 
     void wait(double duration_s);
-    // Lets presentations and dismissals that are on their way come to their end.
+    // Lets time pass until no presentation or dismissal is under way.
     void finishTransitions();
     // Touches and lifts at once; takes no time.
     void tap(geometry::Point point);

@@ -18,7 +18,7 @@ bool isClose(const geometry::Rect& a, const geometry::Rect& b) {
     return close(a.minX(), b.minX()) && close(a.minY(), b.minY()) && close(a.width(), b.width()) && close(a.height(), b.height());
 }
 
-// The node's text, or, where it has none, those of what is inside it, one blank between two.
+// The node's text. When it has none, the texts inside it, with blanks between them.
 std::string shownText(const accessibility::Node& node) {
     std::string result;
     for (const std::string& text : accessibility::shownTexts(node)) result += (result.empty() ? "" : " ") + text;

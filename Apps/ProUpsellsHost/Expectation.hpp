@@ -1,4 +1,4 @@
-// Holding a screen against what a scenario expects of it.
+// Compares a screen with what a scenario expects of it.
 #pragma once
 
 #include <optional>
@@ -9,7 +9,7 @@
 
 namespace proupsells::hostprogram {
 
-// What does not hold, in words; absent when all of it does. Frames may differ by a hundredth of a point.
+// Says what differs; absent when everything is as expected. Frames may differ by a hundredth of a point.
 std::optional<std::string> contradiction(const ExpectStep& expected, const accessibility::Node& root);
 
 } // namespace proupsells::hostprogram

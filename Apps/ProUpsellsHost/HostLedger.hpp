@@ -1,5 +1,4 @@
-// The host's side of every conversation: delegate, tracker and presentation observer, each of which only writes down what it is
-// told.
+// The host's delegate, tracker and presentation observer. Each of them only writes down what it is told.
 #pragma once
 
 #include <memory>

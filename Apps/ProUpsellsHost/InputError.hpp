@@ -1,4 +1,4 @@
-// What the program says of input that it cannot use.
+// What the program says about input that it cannot use.
 #pragma once
 
 #include <stdexcept>

@@ -1,4 +1,4 @@
-// A place in a JSON file, read with complaints that name it.
+// A value in a JSON file. Complaints about it name its place.
 #pragma once
 
 #include <cstdint>

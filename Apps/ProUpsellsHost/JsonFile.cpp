@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t maximumDepth = 100;
 
-// Builds the value and knows at every moment where it is; stops at the first thing that is wrong.
+// Builds the value while the file is parsed. Stops at the first thing that is wrong, and knows its place.
 class Builder : public nlohmann::json_sax<Json> {
 public:
     explicit Builder(std::string file) : m_file(std::move(file)) {}
@@ -93,7 +93,7 @@ private:
 
     bool enter(Json value) {
         if (m_levels.size() == maximumDepth) fail("nested too deeply, expected at most 100 levels");
-        // The container's address holds: its parent grows only after the container has been left.
+        // The container does not move: its parent only grows after the container has been left.
         Json* placed = place(std::move(value));
         m_levels.push_back({placed, {}, {}});
         return true;

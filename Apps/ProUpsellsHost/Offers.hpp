@@ -1,4 +1,4 @@
-// What the host sells and why it was asked: the offers file.
+// The offers file: what the host sells, and what led the person to it.
 #pragma once
 
 #include <filesystem>

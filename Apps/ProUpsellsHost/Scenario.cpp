@@ -8,7 +8,7 @@ namespace {
 
 constexpr double longestTime_s = 1e7;
 
-// What a step's reader may need besides the step.
+// What reading a step may need besides the step.
 struct Surroundings {
     std::filesystem::path folder;
     Device device; // as the steps before have left it

@@ -41,7 +41,7 @@ struct SendStep {
     SentEvent event;
 };
 
-// Only what is there is set.
+// Absent members change nothing.
 struct SetStep {
     std::optional<std::vector<SubscriptionOption>> options;
     std::optional<std::optional<std::string>> annualPrice;
@@ -59,7 +59,7 @@ struct SnapshotStep {
     std::string file;
 };
 
-// Absent members are not looked at.
+// Absent members are not compared.
 struct ExpectStep {
     std::string identifier;
     bool isAbsent = false;

@@ -21,7 +21,7 @@ std::vector<const Node*> controlsIdentified(const Node& root, const std::string&
     return found;
 }
 
-// How a person would name the control, after its identifier.
+// The control's identifier, and the name that a person sees.
 std::string describe(const Node& control) {
     const std::string name = accessibility::nameOf(control);
     if (control.identifier.empty()) return '"' + name + '"';

@@ -12,7 +12,7 @@ namespace proupsells::hostprogram {
 namespace {
 
 constexpr int done = 0, noDisplay = 3;
-// How often a closed paywall is looked for, so that the window does not stay behind it.
+// How often to look whether the paywall has been closed, which closes the window.
 constexpr double closedCheckInterval_s = 0.25;
 
 std::filesystem::path sampleOffers() {
@@ -42,7 +42,7 @@ int showOffers(const std::optional<std::filesystem::path>& offersFile, const Dev
     const qtbackend::QtRunLoopDriver driver(loop);
     window.show();
 
-    // The screen asked for opens once the paywall stands; a paywall that has been closed closes the window.
+    // Opens the screen asked for once the paywall is shown, and closes the window once the paywall is gone.
     bool hasStood = false;
     const auto watch = loop.scheduleRepeating(closedCheckInterval_s, [&] {
         if (session->window().isTransitioning()) return;

@@ -1,5 +1,8 @@
 // What the program writes while it plays a scenario.
 
+#include <cstdlib>
+#include <optional>
+
 #include <gmock/gmock.h>
 
 #include "Tests/HostProgram/Program.hpp"
@@ -17,6 +20,23 @@ namespace {
 const std::string paywallTitle = "ProUpsell Phase 2: with Comparison List and Carousel Sept24";
 
 Json scenario(const char* steps, const char* host = "{}") { return {{"host", Json::parse(host)}, {"steps", Json::parse(steps)}}; }
+
+// The environment without a variable, for as long as this lives.
+class WithoutVariable {
+public:
+    explicit WithoutVariable(const char* name) : m_name(name) {
+        if (const char* value = getenv(name)) m_former = value;
+        unsetenv(name);
+    }
+    ~WithoutVariable() {
+        if (m_former) setenv(m_name, m_former->c_str(), 1);
+    }
+    WithoutVariable(const WithoutVariable&) = delete;
+
+private:
+    const char* m_name;
+    std::optional<std::string> m_former;
+};
 
 // "event operation" of every line after the presentation.
 std::vector<std::string> story(const Outcome& outcome) {
@@ -219,9 +239,7 @@ TEST(Scenario, TenThousandOptionsStayUsable) {
 }
 
 TEST(HostProgram, ShowSaysWhereThereIsNoDisplay) {
-    unsetenv("DISPLAY");
-    unsetenv("WAYLAND_DISPLAY");
-    unsetenv("QT_QPA_PLATFORM");
+    const WithoutVariable display("DISPLAY"), wayland("WAYLAND_DISPLAY"), platform("QT_QPA_PLATFORM");
 
     const Outcome outcome = runProgram({"show"});
 
