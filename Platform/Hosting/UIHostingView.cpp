@@ -20,6 +20,7 @@ std::unordered_map<const swiftui::ViewHost*, UIHostingView*>& showingViews() {
 UIHostingView::UIHostingView(Creation, std::shared_ptr<swiftui::ViewHost> host) : m_host(std::move(host)) {
     showingViews()[m_host.get()] = this;
     m_host->setVisible(false);
+    m_host->setInWindow(false);
 }
 
 std::shared_ptr<UIHostingView> UIHostingView::create(std::function<swiftui::View()> root) {
@@ -73,6 +74,7 @@ void UIHostingView::traitCollectionDidChange(const uikit::UITraitCollection& pre
 
 void UIHostingView::didMoveToWindow() {
     if (window()) adoptEnvironment();
+    m_host->setInWindow(window() != nullptr);
     updateVisibility();
 }
 

@@ -34,6 +34,21 @@ IdModifier id(const Key& key) {
     return {kept};
 }
 
+void detail::TimerNode::adopt(ReceiveModifier<combine::TimerPublisher, double>&& modifier, UpdatePass&) {
+    if (isNew()) m_windowChanges = host().inWindowChanges().sink([this](bool) { followWindow(); });
+    if (!(modifier.source == m_timer)) m_ticks.cancel();
+    m_timer = modifier.source;
+    m_action = std::move(modifier.action);
+    followWindow();
+}
+
+void detail::TimerNode::followWindow() {
+    if (!host().isInWindow())
+        m_ticks.cancel();
+    else if (!m_ticks)
+        m_ticks = m_timer.sink([this](double time_s) { m_action(time_s); });
+}
+
 View AppearanceModifier::modified(View content) && { return newModifier<AppearanceNode>(std::move(*this), content); }
 
 View IdModifier::modified(View content) && {

@@ -1,6 +1,7 @@
 // Modifiers that tell when something happens to a view.
 #pragma once
 
+#include <concepts>
 #include <functional>
 #include <type_traits>
 #include <utility>
@@ -66,7 +67,7 @@ ReceiveModifier<SubjectSource<Value>, Value> onReceive(const combine::Passthroug
                                                        std::type_identity_t<Callback<void(const Value&)>> action) {
     return {{&subject}, std::move(action)};
 }
-// Gets the times of the ticks.
+// Gets the times of the ticks. The timer runs while the host is in a window; each time the host comes back it starts anew.
 inline ReceiveModifier<combine::TimerPublisher, double> onReceive(const combine::TimerPublisher& timer,
                                                                   Callback<void(const double&)> action) {
     return {timer, std::move(action)};
@@ -122,6 +123,19 @@ private:
     combine::AnyCancellable m_subscription;
 };
 
+class TimerNode final : public ModifierNode {
+public:
+    void adopt(ReceiveModifier<combine::TimerPublisher, double>&& modifier, UpdatePass& pass);
+
+private:
+    void followWindow();
+
+    combine::TimerPublisher m_timer;
+    Callback<void(const double&)> m_action;
+    combine::AnyCancellable m_windowChanges;
+    combine::AnyCancellable m_ticks; // empty while the host is in no window
+};
+
 } // namespace detail
 
 template <class Value>
@@ -130,7 +144,9 @@ View ChangeModifier<Value>::modified(View content) && {
 }
 template <class Source, class Value>
 View ReceiveModifier<Source, Value>::modified(View content) && {
-    return newModifier<detail::ReceiveNode<Source, Value>>(std::move(*this), content);
+    using NodeType =
+        std::conditional_t<std::same_as<Source, combine::TimerPublisher>, detail::TimerNode, detail::ReceiveNode<Source, Value>>;
+    return newModifier<NodeType>(std::move(*this), content);
 }
 
 } // namespace proupsells::swiftui

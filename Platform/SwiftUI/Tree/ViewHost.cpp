@@ -64,6 +64,12 @@ void ViewHost::setVisible(bool isVisible) {
     setNeedsAppearanceUpdate();
 }
 
+void ViewHost::setInWindow(bool isInWindow) {
+    if (m_isInWindow == isInWindow) return;
+    m_isInWindow = isInWindow;
+    m_inWindowChanges.send(isInWindow);
+}
+
 void ViewHost::setNeedsUpdate() {
     if (const auto& animation = Transaction::currentAnimation()) m_rootAnimation = animation;
     setNeedsBuild();

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Platform/Accessibility/Node.hpp"
+#include "Platform/Combine/PassthroughSubject.hpp"
 #include "Platform/Graphics/DisplayList.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
 #include "Platform/Host/WindowContent.hpp"
@@ -50,6 +51,11 @@ public:
     // While invisible nothing appears; the change is told to onAppear and onDisappear.
     void setVisible(bool isVisible);
     bool isVisible() const { return m_isVisible; }
+    // Whether the host stands in a window, be it covered by another screen; true unless set. Timers of views tick only then.
+    void setInWindow(bool isInWindow);
+    bool isInWindow() const { return m_isInWindow; }
+    // Sends the new value after each change.
+    const combine::PassthroughSubject<bool>& inWindowChanges() const { return m_inWindowChanges; }
 
     // --- Bringing up to date
     // The root and everything that has changed is built again at the end of the turn.
@@ -148,6 +154,7 @@ private:
     graphics::DisplayList m_displayList;
     std::function<void()> m_needsDisplayHandler;
     std::function<void()> m_layoutHandler;
+    combine::PassthroughSubject<bool> m_inWindowChanges;
     std::vector<PostLayoutObserver*> m_observers;
     std::vector<PostLayoutObserver*> m_runningObservers;
     std::vector<AppearanceObserver*> m_appearances;
@@ -163,6 +170,7 @@ private:
     int m_holdCount = 0;
     bool m_hasSize = false;
     bool m_isVisible = true;
+    bool m_isInWindow = true;
     bool m_isUpdating = false;
     bool m_needsBuild = true;
     bool m_needsLayout = true;
