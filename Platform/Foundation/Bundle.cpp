@@ -10,6 +10,7 @@
 
 #include "Platform/Commons/DefaultLogger.hpp"
 #include "Platform/Foundation/Ascii.hpp"
+#include "Platform/Foundation/LanguageChanges.hpp"
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/Foundation/StringsFile.hpp"
 #include "Platform/RunLoop/MainActor.hpp"
@@ -116,7 +117,7 @@ std::optional<fs::path> Bundle::pathForResource(std::string_view name, std::stri
     return std::nullopt;
 }
 
-const std::string& Bundle::localizedString(const std::string& key) const {
+std::string Bundle::localizedString(const std::string& key) const {
     runloop::MainActor::assertIsolated();
     for (const std::string& language : Locale::current().languageChain()) {
         const StringsFile::Texts& texts = m_tables->forLanguage(language);
@@ -138,7 +139,9 @@ const Bundle& Bundle::main() { return *mainBundle(); }
 
 void Bundle::setMain(fs::path folder) {
     runloop::MainActor::assertIsolated();
+    if (mainBundle()->folder() == folder) return;
     mainBundle() = std::make_unique<const Bundle>(std::move(folder));
+    LanguageChanges::add();
 }
 
 std::string localizedString(const std::string& key, std::string_view) { return Bundle::main().localizedString(key); }

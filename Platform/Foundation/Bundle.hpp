@@ -26,11 +26,12 @@ public:
     // The translation of `key` from <language>.lproj/Localizable.strings, by the current locale's language chain; the key itself
     // when there is none. Folder names match in any case, with "-" or "_". Tables are read once; a broken one costs one log line
     // and counts as empty. Main thread only.
-    const std::string& localizedString(const std::string& key) const;
+    std::string localizedString(const std::string& key) const;
 
     // The host application's bundle: where texts come from. Empty until it is set.
     static const Bundle& main();
-    // Texts and bundles handed out before are no longer valid.
+    // Screens that are shown follow in the next update. The same folder again changes nothing. Ends the main bundle that was there
+    // before.
     static void setMain(std::filesystem::path folder);
 
 private:

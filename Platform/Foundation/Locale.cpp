@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "Platform/Foundation/LanguageChanges.hpp"
 #include "Platform/RunLoop/MainActor.hpp"
 
 namespace proupsells::foundation {
@@ -41,7 +42,9 @@ const Locale& Locale::current() { return currentLocale(); }
 
 void Locale::setCurrent(Locale locale) {
     runloop::MainActor::assertIsolated();
+    if (currentLocale() == locale) return;
     currentLocale() = std::move(locale);
+    LanguageChanges::add();
 }
 
 } // namespace proupsells::foundation

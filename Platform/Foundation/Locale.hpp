@@ -19,8 +19,9 @@ public:
     // "zh". What follows "@" or "." in the identifier does not count; empty for an empty identifier.
     const std::vector<std::string>& languageChain() const { return m_languageChain; }
 
-    // The locale that texts and formats follow from now on; "en_US" until it is set.
+    // The locale that texts and formats follow; "en_US" until it is set.
     static const Locale& current();
+    // Screens that are shown follow in the next update. The same locale again changes nothing.
     static void setCurrent(Locale locale);
 
     bool operator==(const Locale& other) const { return m_identifier == other.m_identifier; }

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "Platform/Foundation/BuiltInLocaleServices.hpp"
+#include "Platform/Foundation/LanguageChanges.hpp"
 #include "Platform/RunLoop/MainActor.hpp"
 
 namespace proupsells::foundation {
@@ -23,7 +24,10 @@ const LocaleServices& LocaleServices::current() {
 
 std::shared_ptr<const LocaleServices> LocaleServices::setCurrent(std::shared_ptr<const LocaleServices> services) {
     runloop::MainActor::assertIsolated();
-    return std::exchange(installedServices(), std::move(services));
+    if (installedServices() == services) return services;
+    auto previous = std::exchange(installedServices(), std::move(services));
+    LanguageChanges::add();
+    return previous;
 }
 
 } // namespace proupsells::foundation

@@ -33,7 +33,8 @@ public:
     virtual geometry::LayoutDirection layoutDirection(const Locale& locale) const = 0;
 
     static const LocaleServices& current();
-    // Null restores the built-in services. Returns the previous ones (null for the built-in ones).
+    // Null restores the built-in services. Screens that are shown follow in the next update. Returns the previous ones (null for
+    // the built-in ones).
     static std::shared_ptr<const LocaleServices> setCurrent(std::shared_ptr<const LocaleServices> services);
 };
 

@@ -2,6 +2,7 @@
 
 #include <unordered_map>
 
+#include "Platform/Foundation/LanguageChanges.hpp"
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/Hosting/RepresentableStage.hpp"
 #include "Platform/Hosting/Traits.hpp"
@@ -57,6 +58,7 @@ void UIHostingView::adoptEnvironment() {
     swiftui::EnvironmentValues environment = m_host->environment();
     hosting::adoptTraits(environment, traitCollection());
     environment.localeIdentifier = foundation::Locale::current().identifier();
+    environment.languageChangeCount = foundation::LanguageChanges::count();
     if (!environment.hasSameContent(m_host->environment())) m_host->setEnvironment(environment);
 }
 

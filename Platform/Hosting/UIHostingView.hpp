@@ -33,6 +33,7 @@ public:
     geometry::Size sizeThatFits(const geometry::ProposedSize& proposal) const override;
     void didMoveToWindow() override;
     void traitCollectionDidChange(const uikit::UITraitCollection& previous) override;
+    void languageDidChange() override { adoptEnvironment(); }
     void safeAreaInsetsDidChange() override { setNeedsLayout(); }
 
     uikit::UIView* hitTest(geometry::Point point) override;

@@ -44,6 +44,7 @@ struct EnvironmentValues {
     bool isEnabled = true;
     double displayScale = 2;
     std::string localeIdentifier = "en_US";
+    std::uint64_t languageChangeCount = 0;   // another one: texts are to be read again
     geometry::PhysicalInsets safeAreaInsets; // of the host's window
 
     graphics::Font font{.size = 17, .name = "body"};

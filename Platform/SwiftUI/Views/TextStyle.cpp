@@ -19,6 +19,7 @@ TextStyle TextStyle::of(const Text& text, const EnvironmentValues& environment) 
     style.minimumScaleFactor = environment.minimumScaleFactor;
     style.language = environment.localeIdentifier;
     std::replace(style.language.begin(), style.language.end(), '_', '-');
+    style.languageChangeCount = environment.languageChangeCount;
     if (const auto& paragraph = text.attributed().paragraphStyle) {
         style.alignment = paragraph->alignment;
         style.lineSpacing = paragraph->lineSpacing;

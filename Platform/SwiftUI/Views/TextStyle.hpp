@@ -24,6 +24,7 @@ struct TextStyle {
     double lineSpacing = 0;
     double minimumScaleFactor = 1;
     std::string language; // "de-AT"
+    std::uint64_t languageChangeCount = 0;
 
     bool operator==(const TextStyle&) const = default;
 

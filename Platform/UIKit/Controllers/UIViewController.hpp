@@ -52,6 +52,8 @@ public:
     UITraitCollection traitCollection() const;
     // Told of changes while the view is shown.
     virtual void traitCollectionDidChange(const UITraitCollection& /*previous*/) {}
+    // Told after the view (see there): texts that the controller keeps are to be read again.
+    virtual void languageDidChange() {}
 
     // --- Containment ---
 

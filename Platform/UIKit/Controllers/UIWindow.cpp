@@ -10,6 +10,7 @@ UIWindow::UIWindow(Creation)
     : m_presentations(std::make_unique<PresentationStack>(*this)), m_touches(std::make_unique<TouchRouter>(*this)) {
     m_window = this;
     m_traits = m_windowTraits;
+    m_languageChanges = foundation::LanguageChanges::publisher().sink([this](std::uint64_t) { requestUpdate(); });
 }
 
 UIWindow::~UIWindow() {
@@ -92,8 +93,10 @@ void UIWindow::subtreeNeedsDisplay() {
     requestUpdate();
 }
 
+// A change of the language in the middle of an update waits for another one in the same turn.
 void UIWindow::requestUpdate() {
-    if (m_updateIsRequested || m_isUpdating || !runloop::MainRunLoop::exists()) return;
+    const bool isUpToDate = m_isUpdating && m_languageChangeCount == foundation::LanguageChanges::count();
+    if (m_updateIsRequested || isUpToDate || !runloop::MainRunLoop::exists()) return;
     const auto self = weakReference(*this);
     if (self.expired()) return; // still being made; setSize follows
     m_updateIsRequested = true;
@@ -104,10 +107,15 @@ void UIWindow::update() {
     const auto kept = strongReference(*this);
     m_updateIsRequested = false;
     m_isUpdating = true;
-    layoutIfNeeded();
+    layOutInCurrentLanguage();
     m_isUpdating = false;
     if (!std::exchange(m_needsDisplay, false)) return;
     if (const auto handler = m_needsDisplayHandler) handler();
+}
+
+void UIWindow::layOutInCurrentLanguage() {
+    if (m_languageChangeCount != foundation::LanguageChanges::count()) followLanguage();
+    layoutIfNeeded();
 }
 
 void UIWindow::setNeedsDisplayHandler(std::function<void()> handler) { m_needsDisplayHandler = std::move(handler); }
@@ -132,7 +140,7 @@ void UIWindow::paint(graphics::DisplayList& list) {
     m_isUpdating = true;
     ++m_paintCount;
     UIScrollView::followTime();
-    layoutIfNeeded();
+    layOutInCurrentLanguage();
     list.clear();
     graphics::PaintContext context(list);
     const graphics::PaintState state = windowState();
@@ -150,7 +158,7 @@ bool UIWindow::isAnimating() const {
 
 accessibility::Node UIWindow::semanticTree() {
     UIScrollView::followTime();
-    layoutIfNeeded();
+    layOutInCurrentLanguage();
     if (const UIPresentationView* front = m_presentations->frontMostView()) return front->contentNode(windowState());
     if (m_root && m_root->viewIfLoaded()) return m_root->viewIfLoaded()->semanticNode(windowState());
     return semanticNode(windowState());
@@ -164,7 +172,7 @@ void UIWindow::touch(const host::Touch& touch) {
         if (isTransitioning()) return cancelTouch();
         m_focus.reset();
         UIScrollView::followTime();
-        layoutIfNeeded();
+        layOutInCurrentLanguage();
     }
     m_touches->touch(touch);
 }
@@ -175,7 +183,7 @@ void UIWindow::scroll(geometry::Point location, geometry::Point delta) {
     if (isTransitioning()) return;
     const auto kept = strongReference(*this);
     UIScrollView::followTime();
-    layoutIfNeeded();
+    layOutInCurrentLanguage();
     if (UIView* hit = hitTest(location)) hit->scrollBy(hit->convertFrom(location, nullptr), delta);
 }
 

@@ -71,6 +71,7 @@ private:
     // The finger that is down, if any, has nobody any more.
     void cancelTouch();
     void adoptWindowTraits(UITraitCollection traits);
+    void layOutInCurrentLanguage();
     void requestUpdate();
     graphics::PaintState windowState() const;
     std::size_t firstVisibleLayer() const;
@@ -86,6 +87,7 @@ private:
     geometry::PhysicalInsets m_safeArea;
     std::function<void()> m_needsDisplayHandler;
     std::uint64_t m_paintCount = 0;
+    combine::AnyCancellable m_languageChanges;
     bool m_needsDisplay = false;
     bool m_updateIsRequested = false;
     bool m_isUpdating = false;

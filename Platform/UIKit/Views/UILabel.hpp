@@ -42,6 +42,7 @@ public:
     // Where the label may have several lines and has no preferred width of its own: wrapped at the given one.
     geometry::Size naturalSizeFor(geometry::Size given) const override;
     void traitCollectionDidChange(const UITraitCollection& previous) override;
+    void languageDidChange() override { contentDidChange(); }
 
 protected:
     void draw(graphics::PaintContext& context, const graphics::PaintState& state) const override;

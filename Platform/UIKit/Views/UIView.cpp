@@ -102,13 +102,14 @@ void UIView::movedToWindow(UIWindow* window) {
     const auto kept = strongReference(*this);
     m_window = window;
     if (window && m_superview) adoptTraits(m_superview->traitsForSubviews());
+    if (window) noticeLanguage();
     didMoveToWindow();
     const auto subviews = m_subviews;
     for (const auto& subview : subviews)
         if (subview->m_superview == this) subview->movedToWindow(window);
 }
 
-// --- Traits and safe area ---
+// --- Traits, language and safe area ---
 
 UITraitCollection UIView::traitCollection() const {
     if (m_overrideTraits) return *m_overrideTraits;
@@ -140,6 +141,23 @@ void UIView::adoptTraits(const UITraitCollection& inherited) {
     const auto subviews = m_subviews;
     for (const auto& subview : subviews)
         if (subview->m_superview == this && subview->m_window) subview->adoptTraits(traitsForSubviews());
+}
+
+void UIView::noticeLanguage() {
+    const std::uint64_t count = foundation::LanguageChanges::count();
+    if (std::exchange(m_languageChangeCount, count) == count) return;
+    const auto kept = strongReference(*this);
+    setNeedsLayout();
+    setNeedsDisplay();
+    languageDidChange();
+    if (m_viewController) m_viewController->languageDidChange();
+}
+
+void UIView::followLanguage() {
+    noticeLanguage();
+    const auto subviews = m_subviews;
+    for (const auto& subview : subviews)
+        if (subview->m_superview == this && subview->m_window) subview->followLanguage();
 }
 
 geometry::PhysicalInsets UIView::safeAreaInsets() const { return safeAreaInsetsOf(bounds()); }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Platform/Accessibility/Node.hpp"
+#include "Platform/Foundation/LanguageChanges.hpp"
 #include "Platform/Geometry/Transform.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
 #include "Platform/UIKit/Constraints/NSLayoutAnchor.hpp"
@@ -136,12 +137,15 @@ public:
     // Whether the view places this subview in its layoutSubviews, whatever constraints say.
     virtual bool arranges(const UIView& /*subview*/) const { return false; }
 
-    // --- Traits and safe area ---
+    // --- Traits, language and safe area ---
 
     // The window's traits as they arrive here; before the view is in a window, those of the place that it is made for.
     UITraitCollection traitCollection() const;
     // Told of changes while the view is shown, not of the first traits.
     virtual void traitCollectionDidChange(const UITraitCollection& previous);
+    // The texts read so far may be in another language now: those that the view keeps are to be read again. Told in the window's
+    // next update, or when the view comes back into a window, however often the language has changed meanwhile.
+    virtual void languageDidChange() {}
     // Stands in for what the superview hands down; absent again: inherits.
     void setOverrideTraitCollection(const std::optional<UITraitCollection>& traits);
     // What a subview inherits.
@@ -241,6 +245,9 @@ private:
     std::vector<std::shared_ptr<UIViewController>> outermostControllers();
     void movedToWindow(UIWindow* window);
     void adoptTraits(const UITraitCollection& inherited);
+    void noticeLanguage();
+    // The same for the views inside as well.
+    void followLanguage();
     void noticeSafeArea();
     // Of a rectangle in the view's coordinates.
     geometry::PhysicalInsets safeAreaInsetsOf(const geometry::Rect& rect) const;
@@ -292,6 +299,7 @@ private:
 
     std::optional<UITraitCollection> m_traits; // absent until the view has been in a window
     std::optional<UITraitCollection> m_overrideTraits;
+    std::uint64_t m_languageChangeCount = foundation::LanguageChanges::count(); // when the texts were read
     geometry::PhysicalInsets m_lastSafeArea;
 
     std::optional<UIColor> m_backgroundColor;

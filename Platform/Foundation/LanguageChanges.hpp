@@ -1,0 +1,26 @@
+// Tells when texts that are read again may read otherwise.
+#pragma once
+
+#include <cstdint>
+
+#include "Platform/Combine/PassthroughSubject.hpp"
+
+namespace proupsells::foundation {
+
+// A change of the current locale, of the locale services or of the main bundle. Main thread only.
+class LanguageChanges {
+public:
+    // How many there have been so far. Texts read at the same count are in the same language.
+    static std::uint64_t count();
+    // Sends the new count after each change. Read texts later, at the next update: a host may be in the middle of several changes.
+    static const combine::PassthroughSubject<std::uint64_t>& publisher();
+
+private:
+    friend class Bundle;
+    friend class Locale;
+    friend class LocaleServices;
+
+    static void add();
+};
+
+} // namespace proupsells::foundation
