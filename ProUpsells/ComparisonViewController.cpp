@@ -10,18 +10,26 @@ namespace proupsells {
 
 void ComparisonViewController::viewDidLoad() {
     UIViewController::viewDidLoad();
+    makeCloseButton();
+
     const auto weakSelf = uikit::weakReference(*this);
-
-    uikit::UIBarButtonItem closeButton =
-        velauikit::barButtonItem(velauikit::BarButtonStyle::close, weakSelf, &ComparisonViewController::dismissController);
-    closeButton.accessibilityIdentifier = "comparison.close";
-    setRightBarButtonItem(std::move(closeButton));
-
     const auto hostingController = hosting::UIHostingController::create(ComparisonView{.chooseYourPlanHandler = [weakSelf] {
         if (const auto self = weakSelf.lock()) self->chooseYourPlan();
     }});
     hostingController->view()->setBackgroundColor(velauikit::velaBackground);
     velauikit::addHostingController(*this, hostingController);
+}
+
+void ComparisonViewController::languageDidChange() {
+    UIViewController::languageDidChange();
+    makeCloseButton();
+}
+
+void ComparisonViewController::makeCloseButton() {
+    uikit::UIBarButtonItem closeButton = velauikit::barButtonItem(velauikit::BarButtonStyle::close, uikit::weakReference(*this),
+                                                                  &ComparisonViewController::dismissController);
+    closeButton.accessibilityIdentifier = "comparison.close";
+    setRightBarButtonItem(std::move(closeButton));
 }
 
 void ComparisonViewController::chooseYourPlan() {

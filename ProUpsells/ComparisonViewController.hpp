@@ -17,10 +17,12 @@ public:
     void setDelegate(std::weak_ptr<ComparisonViewControllerDelegate> delegate) { m_delegate = std::move(delegate); }
 
     void viewDidLoad() override;
+    void languageDidChange() override;
     // The bar-button's action.
     void dismissController();
 
 private:
+    void makeCloseButton();
     void chooseYourPlan();
 
     std::weak_ptr<ComparisonViewControllerDelegate> m_delegate;

@@ -41,7 +41,7 @@ View HeaderCarousel::page(int index) const {
     return ColorView{graphics::Color::clear} | overlay(ResizableImage{page.image, ContentMode::fill}) | clipped();
 }
 
-View HeaderCarousel::bottomRow(const Binding<int>& currentPage) const {
+View HeaderCarousel::bottomRow(const Binding<int>& currentPage, const EnvironmentValues& environment) const {
     const int count = static_cast<int>(pages->size());
     const std::string& title = (*pages)[static_cast<std::size_t>(currentPage.get())].title;
     return HStack{.alignment = VerticalAlignment::bottom,
@@ -53,10 +53,12 @@ View HeaderCarousel::bottomRow(const Binding<int>& currentPage) const {
                               foregroundStyle(lumokit::ContentColor::primary) | padding(Edge::bottom, 18) |
                               padding(Edge::leading, 10) | allowsHitTesting(false) | transition(titleTransition()) | id(title),
                           Spacer{},
-                          CustomPageControl{.numberOfPages = count, .currentPage = currentPage} | frame({.width = count * 10.0}) |
-                              padding(Edge::trailing, 30) | padding(Edge::bottom, 30),
+                          CustomPageControl{.numberOfPages = count,
+                                            .currentPage = currentPage} |
+                              frame({.width = count * 10.0}) | padding(Edge::trailing, 30) | padding(Edge::bottom, 30),
                       }} |
-           colorScheme(graphics::ColorScheme::dark);
+           // In another language it is another row: titles change at once then, without their transition.
+           id(static_cast<std::int64_t>(environment.languageChangeCount)) | colorScheme(graphics::ColorScheme::dark);
 }
 
 View HeaderCarousel::body(BuildContext& context) const {
@@ -66,8 +68,8 @@ View HeaderCarousel::body(BuildContext& context) const {
     const int count = static_cast<int>(pages->size());
 
     return TabView{.selection = currentPage, .content = ForEach(count, [&](int index) { return page(index) | tag(index); })} |
-           frame({.height = 254}) | frame({.maxWidth = geometry::infinity}) | overlay(bottomRow(currentPage), Alignment::bottom) |
-           accessibilityIdentifier("carousel") |
+           frame({.height = 254}) | frame({.maxWidth = geometry::infinity}) |
+           overlay(bottomRow(currentPage, context.environment()), Alignment::bottom) | accessibilityIdentifier("carousel") |
            onReceive(combine::TimerPublisher{advanceInterval_s},
                      [currentPage, isUserInteracting, count](double) {
                          if (isUserInteracting.get()) return;

@@ -18,7 +18,7 @@ struct HeaderCarousel {
 
 private:
     swiftui::View page(int index) const;
-    swiftui::View bottomRow(const swiftui::Binding<int>& currentPage) const;
+    swiftui::View bottomRow(const swiftui::Binding<int>& currentPage, const swiftui::EnvironmentValues& environment) const;
 };
 
 } // namespace proupsells

@@ -28,6 +28,12 @@ struct Overloaded : Handlers... {
 template <class... Handlers>
 Overloaded(Handlers...) -> Overloaded<Handlers...>;
 
+std::function<swiftui::View()> paywall(const std::shared_ptr<UpsellViewModel>& model) {
+    return [view = UpsellView{.model = model}, environment = std::make_shared<UpsellEnvironment>()]() -> swiftui::View {
+        return UpsellView(view) | swiftui::environmentObject(environment);
+    };
+}
+
 bool canBeSold(const SubscriptionOption& option) { return option.isYearly() || option.isMonthly(); }
 
 } // namespace
@@ -97,13 +103,16 @@ void UpsellViewController::viewDidLoad() {
     UIViewController::viewDidLoad();
     view()->setBackgroundColor(velauikit::velaBackground);
 
-    const UpsellView paywall{.model = m_upsellViewModel};
-    const auto environment = std::make_shared<UpsellEnvironment>();
-    const auto hostingController = hosting::UIHostingController::create(std::function(
-        [paywall, environment]() -> swiftui::View { return UpsellView(paywall) | swiftui::environmentObject(environment); }));
-    velauikit::addHostingController(*this, hostingController);
-    hostingController->view()->setContentCompressionResistancePriority(uikit::layoutPriorityHigh, uikit::Axis::vertical);
-    hostingController->view()->setBackgroundColor(velauikit::velaBackground);
+    m_hostingController = hosting::UIHostingController::create(paywall(m_upsellViewModel));
+    velauikit::addHostingController(*this, m_hostingController);
+    m_hostingController->view()->setContentCompressionResistancePriority(uikit::layoutPriorityHigh, uikit::Axis::vertical);
+    m_hostingController->view()->setBackgroundColor(velauikit::velaBackground);
+}
+
+// A view's carousel titles are in the language in which it was made. The states, such as the page, pass to the new view.
+void UpsellViewController::languageDidChange() {
+    UIViewController::languageDidChange();
+    if (m_hostingController) m_hostingController->setRootView(paywall(m_upsellViewModel));
 }
 
 void UpsellViewController::viewWillAppear(bool animated) {

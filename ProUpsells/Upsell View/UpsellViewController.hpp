@@ -8,6 +8,7 @@
 
 #include "Platform/Combine/AnyCancellable.hpp"
 #include "Platform/Foundation/Coder.hpp"
+#include "Platform/Hosting/UIHostingController.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 #include "Platform/VelaUIKit/EmptyStateView.hpp"
 #include "ProUpsells/ProUpsellControllerType.hpp"
@@ -52,6 +53,7 @@ public:
 
     void viewDidLoad() override;
     void viewWillAppear(bool animated) override;
+    void languageDidChange() override;
 
 private:
     void start(const std::vector<SubscriptionOption>& subscriptionOptions);
@@ -61,6 +63,7 @@ private:
     std::shared_ptr<UpsellViewModel> m_upsellViewModel = std::make_shared<UpsellViewModel>();
     combine::AnyCancellable m_upsellModelTapEventObserver;
     std::weak_ptr<UpsellViewControllerDelegate> m_delegate;
+    std::shared_ptr<hosting::UIHostingController> m_hostingController; // null until the view is loaded
     std::shared_ptr<velauikit::EmptyStateView> m_emptyStateView = std::make_shared<velauikit::EmptyStateView>();
 };
 

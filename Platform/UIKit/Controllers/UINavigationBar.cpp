@@ -11,29 +11,47 @@ UINavigationBar::UINavigationBar() : m_title(std::make_shared<UILabel>()) {
 void UINavigationBar::setItem(const UINavigationItem& item) {
     m_title->setText(item.title);
     m_title->setHidden(item.title.empty());
-    if (m_button) m_button->removeFromSuperview();
-    m_button = item.rightBarButtonItem ? makeButton(*item.rightBarButtonItem) : nullptr;
-    if (m_button) addSubview(m_button);
+    showButton(item.rightBarButtonItem);
     setNeedsLayout();
 }
 
-std::shared_ptr<UIButton> UINavigationBar::makeButton(const UIBarButtonItem& item) {
+// A button that looks as before stays, and keeps the finger that is on it.
+void UINavigationBar::showButton(const std::optional<UIBarButtonItem>& item) {
+    const bool isSameButton = m_button && item && item->image == m_item.image && item->title == m_item.title &&
+                              item->selector == m_item.selector && bool(item->action) == bool(m_item.action);
+    m_item = item.value_or(UIBarButtonItem{});
+    if (!isSameButton) {
+        if (m_button) m_button->removeFromSuperview();
+        m_button = item ? makeButton() : nullptr;
+        if (m_button) addSubview(m_button);
+    }
+    if (!m_button) return;
+    m_button->accessibilityIdentifier = m_item.accessibilityIdentifier;
+    m_button->accessibilityLabel = m_item.accessibilityLabel;
+}
+
+std::shared_ptr<UIButton> UINavigationBar::makeButton() {
     auto button = std::make_shared<UIButton>();
-    button->accessibilityIdentifier = item.accessibilityIdentifier;
-    button->accessibilityLabel = item.accessibilityLabel;
-    if (item.image) {
-        button->setImage(item.image);
+    if (m_item.image) {
+        button->setImage(m_item.image);
     } else {
         auto title = std::make_shared<UILabel>();
-        title->setText(item.title);
+        title->setText(m_item.title);
         title->setTextAlignment(graphics::TextAlignment::center);
         title->fillSuperview();
         button->addSubview(title);
     }
-    if (item.action)
-        button->addAction([action = item.action](UIControl&) { action(); }, UIControl::Event::touchUpInside);
-    else if (!item.selector.name.empty())
-        button->addTarget(nullptr, item.selector, UIControl::Event::touchUpInside);
+    if (m_item.action) {
+        // The newest action; a copy, since it may take the button away.
+        const auto run = [bar = weakReference(*this)](UIControl&) {
+            const auto held = bar.lock();
+            const auto action = held ? held->m_item.action : nullptr;
+            if (action) action();
+        };
+        button->addAction(run, UIControl::Event::touchUpInside);
+    } else if (!m_item.selector.name.empty()) {
+        button->addTarget(nullptr, m_item.selector, UIControl::Event::touchUpInside);
+    }
     return button;
 }
 

@@ -17,10 +17,12 @@ public:
     void layoutSubviews() override;
 
 private:
-    std::shared_ptr<UIButton> makeButton(const UIBarButtonItem& item);
+    void showButton(const std::optional<UIBarButtonItem>& item);
+    std::shared_ptr<UIButton> makeButton();
 
     std::shared_ptr<UILabel> m_title;
     std::shared_ptr<UIButton> m_button; // null without an item
+    UIBarButtonItem m_item;             // of the button
 };
 
 } // namespace proupsells::uikit
