@@ -16,6 +16,7 @@ public:
     const std::shared_ptr<uikit::UILabel>& titleLabel() const { return m_titleLabel; }
     // Reads the title anew, in the language of the moment.
     void applyTexts();
+    void languageDidChange() override { applyTexts(); }
 
 private:
     void layOut(const std::shared_ptr<uikit::UIView>& arrow);

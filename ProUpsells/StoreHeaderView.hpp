@@ -14,6 +14,7 @@ public:
     const std::shared_ptr<uikit::UILabel>& titleLabel() const { return m_titleLabel; }
     // Reads the headline anew, in the language of the moment.
     void applyTexts();
+    void languageDidChange() override { applyTexts(); }
 
 protected:
     // `headline` is the English text, which is the key of its translations. The label is the first subview.

@@ -25,6 +25,7 @@ public:
     const std::shared_ptr<uikit::UILabel>& subtitleLabel() const { return m_labels.subtitleLabel(); }
     // Reads the shelf's texts anew; keeps what it shows once the shelf is gone.
     void applyTexts();
+    void languageDidChange() override { applyTexts(); }
 
     void viewDidLoad() override;
 

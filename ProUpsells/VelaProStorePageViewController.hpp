@@ -80,6 +80,7 @@ public:
     const std::shared_ptr<uikit::UICollectionView>& collectionView();
     // Reads the page's own texts anew, in the language of the moment. Its shelves and its plan button have texts of their own.
     void applyTexts();
+    void languageDidChange() override { applyTexts(); }
 
     void viewDidLoad() override;
     void viewDidAppear(bool animated) override;
