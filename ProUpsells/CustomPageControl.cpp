@@ -15,7 +15,8 @@ std::shared_ptr<uikit::UIPageControl> CustomPageControl::makeUIView(const Contex
     return pageControl;
 }
 
-void CustomPageControl::updateUIView(uikit::UIPageControl& pageControl, const Context&) const {
+void CustomPageControl::updateUIView(uikit::UIPageControl& pageControl, const Context& context) const {
+    context.coordinator->setParent(*this);
     pageControl.setNumberOfPages(numberOfPages);
     pageControl.setCurrentPage(currentPage.get());
 }

@@ -29,6 +29,8 @@ class CustomPageControl::Coordinator {
 public:
     explicit Coordinator(CustomPageControl parent) : m_parent(std::move(parent)) {}
 
+    // The newest value: its binding may write otherwise.
+    void setParent(CustomPageControl parent) { m_parent = std::move(parent); }
     void pageChanged(uikit::UIControl& sender);
 
 private:

@@ -28,6 +28,11 @@ AnyTransition titleTransition() {
     return AnyTransition::asymmetric(AnyTransition::opacity().animation(entering), AnyTransition::opacity().animation(leaving));
 }
 
+// Writes with an animation, by which the pages fade.
+Binding<int> fading(const Binding<int>& page) {
+    return Binding<int>([page] { return page.get(); }, [page](const int& value) { withAnimation([&] { page.set(value); }); });
+}
+
 // Each change has a reset of its own, so the flag falls 5 s after the first of several quick ones.
 void pauseAdvance(const Binding<bool>& isUserInteracting) {
     isUserInteracting.set(true);
@@ -54,7 +59,7 @@ View HeaderCarousel::bottomRow(const Binding<int>& currentPage, const Environmen
                               padding(Edge::leading, 10) | allowsHitTesting(false) | transition(titleTransition()) | id(title),
                           Spacer{},
                           CustomPageControl{.numberOfPages = count,
-                                            .currentPage = currentPage} |
+                                            .currentPage = environment.reduceMotion ? fading(currentPage) : currentPage} |
                               frame({.width = count * 10.0}) | padding(Edge::trailing, 30) | padding(Edge::bottom, 30),
                       }} |
            // In another language it is another row: titles change at once then, without their transition.

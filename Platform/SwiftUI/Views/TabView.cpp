@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "Platform/Motion/DragOrigin.hpp"
 #include "Platform/Motion/ScrollAxis.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
+#include "Platform/SwiftUI/Animation/PageFade.hpp"
 #include "Platform/SwiftUI/Animation/Transaction.hpp"
 #include "Platform/SwiftUI/Tree/GestureHandler.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
@@ -17,19 +19,32 @@ namespace {
 // A finger that is faster than this turns the page, however far it has come. Points a second.
 constexpr double turningSpeed = 250;
 
+class TabViewNode;
+
 class TagNode final : public ModifierNode {
 public:
     void adopt(TagModifier&& modifier, UpdatePass&) { m_tag = modifier.tag; }
     int tag() const { return m_tag; }
+    void setPlace(const TabViewNode& tabView, int page) {
+        m_tabView = &tabView;
+        m_page = page;
+    }
+
+    void applyEffects(graphics::PaintState& state, double now_s) const override;
+
+protected:
+    bool allowsHitTesting() const override;
 
 private:
     int m_tag = 0;
+    const TabViewNode* m_tabView = nullptr; // null outside pages
+    int m_page = 0;
 };
 
 // The tag of a page, which may itself be a view made of others.
-const TagNode* tagOf(const Node* node) {
+TagNode* tagOf(Node* node) {
     while (node) {
-        if (const auto* tagged = dynamic_cast<const TagNode*>(node)) return tagged;
+        if (auto* tagged = dynamic_cast<TagNode*>(node)) return tagged;
         node = node->children().size() == 1 ? node->onlyChild() : nullptr;
     }
     return nullptr;
@@ -47,6 +62,9 @@ public:
         return {environment().isRightToLeft() ? shift : -shift, 0};
     }
     std::optional<geometry::Rect> viewport() const override { return bounds(); }
+    // Puts a page that fades where the one is that stays.
+    void applyFade(graphics::PaintState& state, int page, double now_s) const;
+    bool isFadingOut(int page, double now_s) const { return page != m_target && m_fade.includes(page, now_s); }
     void applyEffects(graphics::PaintState& state, double) const override { state = state.clippedTo(bounds()); }
 
     // --- Touches
@@ -76,6 +94,9 @@ protected:
 
 private:
     geometry::Rect bounds() const { return {{}, frame().size}; }
+    void turnTo(int page, const motion::Animation* animation, double now_s);
+    // A page that slides in by an animation is there at once.
+    void endSlide(double now_s);
     // In pages.
     double fingerAt(geometry::Point location) const {
         return (environment().isRightToLeft() ? -location.x : location.x) / frame().width();
@@ -96,6 +117,7 @@ private:
     std::vector<Node*> m_pages;
     motion::ScrollAxis m_position;
     int m_target = 0;      // the page that is shown at rest
+    PageFade m_fade;       // while it is under way, the position is at rest
     bool m_isHeld = false; // the next touch takes hold at once
     std::shared_ptr<runloop::Timer> m_arrival;
 };
@@ -106,17 +128,42 @@ void TabViewNode::adopt(TabView&& view, UpdatePass& pass) {
     updateChildren(view.content, pass);
     m_pages.clear();
     collectLayoutChildren(m_pages);
+    for (std::size_t page = 0; page < m_pages.size(); ++page)
+        if (TagNode* tagged = tagOf(m_pages[page])) tagged->setPlace(*this, int(page));
     keepToExistingPages(pass.now_s);
+    if (environmentChanged() && environment().reduceMotion) endSlide(pass.now_s);
     const int page = selectedPage();
     if (!isFirst && page == m_target) return;
-    m_target = page;
+    turnTo(page, isFirst ? nullptr : pass.animation, pass.now_s);
+}
+
+void TabViewNode::turnTo(int page, const motion::Animation* animation, double now_s) {
+    const int former = std::exchange(m_target, page);
     // A finger keeps what it holds.
     if (m_position.isTracking()) return;
-    if (pass.animation && !isFirst)
-        m_position.animateTo(page, *pass.animation, pass.now_s);
+    const bool fades = animation && environment().reduceMotion;
+    if (fades)
+        m_fade.begin(int(m_pages.size()), former, page, *animation, now_s);
+    else
+        m_fade.end();
+    if (animation && !fades)
+        m_position.animateTo(page, *animation, now_s);
     else
         m_position.moveTo(page);
+    host().noteAnimation(m_fade.end_s());
     noteMoving();
+}
+
+void TabViewNode::endSlide(double now_s) {
+    if (!m_position.isMovingAt(now_s) || m_position.isCoastingAt(now_s)) return;
+    m_position.moveTo(m_target);
+    noteMoving();
+}
+
+void TabViewNode::applyFade(graphics::PaintState& state, int page, double now_s) const {
+    if (!m_fade.includes(page, now_s)) return;
+    const double shift = (m_position.offsetAt(now_s) - page) * frame().width();
+    state = state.movedBy({environment().isRightToLeft() ? -shift : shift, 0}).fadedBy(m_fade.opacityOf(page, now_s));
 }
 
 void TabViewNode::keepToExistingPages(double now_s) {
@@ -166,6 +213,7 @@ void TabViewNode::layOut(const geometry::ProposedSize&, geometry::Size size) {
 
 void TabViewNode::beginDragging(geometry::Point finger, double now_s) {
     stopWaiting();
+    m_fade.end();
     m_position.beginTracking(fingerAt(finger), now_s);
     setNeedsDisplay();
 }
@@ -218,6 +266,12 @@ void TabViewNode::stopWaiting() {
     if (m_arrival) m_arrival->invalidate();
     m_arrival = nullptr;
 }
+
+void TagNode::applyEffects(graphics::PaintState& state, double now_s) const {
+    if (m_tabView) m_tabView->applyFade(state, m_page, now_s);
+}
+
+bool TagNode::allowsHitTesting() const { return !m_tabView || !m_tabView->isFadingOut(m_page, host().now_s()); }
 
 } // namespace
 

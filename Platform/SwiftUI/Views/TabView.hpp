@@ -7,7 +7,8 @@
 namespace proupsells::swiftui {
 
 // It fills what it is offered, and so does each page. A finger turns the pages; the selection is written when the finger lifts.
-// When the selection changes from outside, the pages slide there directly, with the animation of the change. A page without a tag
+// When the selection changes from outside, the pages slide there directly, with the animation of the change; where motion is to be
+// reduced, the new page fades over the old one instead, as far as both have tags. A page without a tag
 // is selected by its place in the list, from 0. A selection that no page has leaves the page that is shown.
 struct TabView {
     Binding<int> selection;
