@@ -1,5 +1,7 @@
 #include "ProUpsells/StorePageShelfViewController.hpp"
 
+#include <algorithm>
+
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
 #include "Platform/UIKit/Views/UIImageView.hpp"
@@ -121,16 +123,34 @@ void StorePageShelfViewController::resetScrollOffset() {
 
 void StorePageShelfViewController::viewWillAppear(bool animated) {
     UIViewController::viewWillAppear(animated);
+    m_isShown = true;
     startAutoScrollTimer();
 }
 
 void StorePageShelfViewController::viewDidDisappear(bool animated) {
     UIViewController::viewDidDisappear(animated);
+    m_isShown = false;
     stopAutoScrollTimer();
 }
 
+void StorePageShelfViewController::traitCollectionDidChange(const uikit::UITraitCollection& previous) {
+    UIViewController::traitCollectionDidChange(previous);
+    if (traitCollection().reduceMotion)
+        stopAutoScrollTimer();
+    else if (m_isShown)
+        startAutoScrollTimer();
+}
+
+// A strip that cannot work its way back to its content shows the end of it.
+void StorePageShelfViewController::viewDidLayoutSubviews() {
+    UIViewController::viewDidLayoutSubviews();
+    if (m_scrollDirection != ScrollDirection::right || !traitCollection().reduceMotion) return;
+    const double end = std::max(0.0, m_scrollView->contentSize().width - view()->bounds().width());
+    if (m_scrollView->contentOffset().x > end) m_scrollView->setContentOffset({end, m_scrollView->contentOffset().y});
+}
+
 void StorePageShelfViewController::startAutoScrollTimer() {
-    if (m_scrollDirection == ScrollDirection::none || isAutoScrolling()) return;
+    if (m_scrollDirection == ScrollDirection::none || isAutoScrolling() || traitCollection().reduceMotion) return;
     m_autoScrollTimer = runloop::MainRunLoop::main().scheduleRepeating(tickInterval_s, [weakSelf = uikit::weakReference(*this)] {
         if (const auto self = weakSelf.lock()) self->autoScroll();
     });

@@ -11,7 +11,8 @@
 
 namespace proupsells {
 
-// Drifts only while it is on the screen and nobody touches it, at 50 points a second, until it comes to its end.
+// Drifts only while it is on the screen and nobody touches it, at 50 points a second, until it comes to its end. Stands still where
+// motion is to be reduced.
 class StorePageShelfViewController : public uikit::UIViewController {
 public:
     // Where the content drifts.
@@ -44,6 +45,8 @@ public:
     void viewDidLoad() override;
     void viewWillAppear(bool animated) override;
     void viewDidDisappear(bool animated) override;
+    void viewDidLayoutSubviews() override;
+    void traitCollectionDidChange(const uikit::UITraitCollection& previous) override;
 
 protected:
     StorePageShelfViewController();
@@ -60,6 +63,7 @@ private:
     std::shared_ptr<uikit::UIScrollView> m_scrollView;
     std::shared_ptr<runloop::Timer> m_autoScrollTimer;
     ScrollDirection m_scrollDirection = ScrollDirection::none;
+    bool m_isShown = false; // between viewWillAppear and viewDidDisappear
 };
 
 } // namespace proupsells

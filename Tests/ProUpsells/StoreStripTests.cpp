@@ -43,6 +43,12 @@ protected:
         strip->setScrollDirection(direction);
         return strip;
     }
+    void setReduceMotion(bool reduceMotion) {
+        uikit::UITraitCollection traits = window->traits();
+        traits.reduceMotion = reduceMotion;
+        window->setTraits(traits);
+        bed.settle();
+    }
     static double offset(const StorePageShelfViewController& strip) { return strip.scrollView()->contentOffset().x; }
 
     static constexpr double width = 2452;
@@ -261,6 +267,55 @@ TEST_F(StoreStrip, IsNotKeptAliveByItsTimer) {
 
 TEST_F(StoreStrip, CannotComeFromAnArchive) {
     EXPECT_DEATH(StorePageShelfViewController::create(foundation::Coder{}), "unimplemented initializer 'init\\(coder:\\)'");
+}
+
+// --- Where motion is to be reduced
+
+TEST_F(StoreStrip, StandsStillWhereMotionIsToBeReduced) {
+    setReduceMotion(true);
+    const auto strip = drifting(ScrollDirection::left);
+    show(strip);
+
+    EXPECT_FALSE(strip->isAutoScrolling());
+    EXPECT_FALSE(bed.loop().nextDueTime_s().has_value());
+    bed.runUntil(10);
+    EXPECT_EQ(offset(*strip), 0);
+}
+
+TEST_F(StoreStrip, ShowsItsEndWhereItMayNotDriftBackToIt) {
+    setReduceMotion(true);
+    const auto strip = drifting(ScrollDirection::right);
+    show(strip);
+
+    EXPECT_EQ(offset(*strip), width - 375);
+}
+
+TEST_F(StoreStrip, FollowsTheSettingWhileItIsShown) {
+    const auto strip = drifting(ScrollDirection::left);
+    show(strip);
+    bed.runUntil(2);
+    setReduceMotion(true);
+    bed.runUntil(2.2);
+    const double rest = offset(*strip);
+    bed.runUntil(10);
+    EXPECT_EQ(offset(*strip), rest);
+
+    setReduceMotion(false);
+    bed.runUntil(12.1);
+    EXPECT_THAT(offset(*strip), DoubleNear(rest + 100, 1e-6));
+}
+
+TEST_F(StoreStrip, DoesNotBeginToDriftUnseenWhenTheSettingIsTakenBack) {
+    setReduceMotion(true);
+    const auto strip = drifting(ScrollDirection::left);
+    show(strip);
+    window->setRootViewController(std::make_shared<uikit::UIViewController>());
+
+    setReduceMotion(false);
+    EXPECT_FALSE(strip->isAutoScrolling());
+    show(strip);
+
+    EXPECT_TRUE(strip->isAutoScrolling());
 }
 
 } // namespace proupsells::tests
