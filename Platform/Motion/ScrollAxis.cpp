@@ -6,7 +6,7 @@
 namespace proupsells::motion {
 namespace {
 
-// Faster fingers do not throw content any further. Points a second.
+// Points a second. A faster finger does not throw the content further, nor out of sight past its end.
 constexpr double fastestFlick = 8000;
 // Moments that are equal but for rounding count as equal, so that evenly timed steps meet each other.
 constexpr double rounding_s = 1e-9;

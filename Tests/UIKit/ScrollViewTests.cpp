@@ -179,6 +179,21 @@ TEST_F(ScrollViewTest, ATouchHoldsAnAnimationToo) {
     EXPECT_THAT(y(), DoubleNear(50, 1e-9));
 }
 
+TEST_F(ScrollViewTest, AnAnimationGoesOnWhenAFingerThatOnlyRestedLifts) {
+    const auto delegate = std::make_shared<RecordingScrollDelegate>();
+    list->setDelegate(delegate);
+    touch(host::TouchPhase::began, {100, 300});
+    list->setContentOffset({0, 100}, {motion::TimingCurve::linear(), 1});
+    bed.runFor(0.5);
+
+    lift({100, 300});
+    bed.runFor(1);
+
+    EXPECT_EQ(y(), 100);
+    EXPECT_EQ(list->bounds().minY(), 100);
+    EXPECT_THAT(delegate->calls, ElementsAre("didEndScrollingAnimation"));
+}
+
 TEST_F(ScrollViewTest, AStripThatTheProgramPutBeyondItsEndComesBackOnceAPersonLetsGoOfIt) {
     list->setContentOffset({0, 2000});
 

@@ -116,7 +116,7 @@ private:
     std::optional<Binding<int>> m_selection;
     std::vector<Node*> m_pages;
     motion::ScrollAxis m_position;
-    int m_target = 0;      // the page that is shown at rest
+    int m_target = 0;      // the page to rest on
     PageFade m_fade;       // while it is under way, the position is at rest
     bool m_isHeld = false; // the next touch takes hold at once
     std::shared_ptr<runloop::Timer> m_arrival;

@@ -124,8 +124,10 @@ void UIScrollView::setContentOffset(geometry::Point offset, const motion::Animat
     const double now = now_s();
     axisAlong(Axis::horizontal).animateTo(offset.x, animation, now);
     axisAlong(Axis::vertical).animateTo(offset.y, animation, now);
-    endMovement();
-    if (isMovingAt(now)) startMovement(&UIScrollViewDelegate::scrollViewDidEndScrollingAnimation);
+    if (isMovingAt(now))
+        startMovement(&UIScrollViewDelegate::scrollViewDidEndScrollingAnimation);
+    else
+        endMovement();
     adoptOffset();
 }
 
@@ -159,6 +161,7 @@ bool UIScrollView::isMovingAt(double now_s) const { return m_axes[0].isMovingAt(
 double UIScrollView::movementEnd_s() const { return std::max(m_axes[0].end_s(), m_axes[1].end_s()); }
 
 void UIScrollView::startMovement(Event atEnd) {
+    endMovement();
     m_movementEnd = atEnd;
     movingScrollViews().push_back(this);
     m_indicator.show(movementEnd_s());

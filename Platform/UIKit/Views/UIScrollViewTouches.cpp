@@ -63,7 +63,7 @@ void UIScrollView::touchesCancelled(const UITouch& touch) {
 
 void UIScrollView::beginDragging(geometry::Point finger, double time_s) {
     stopMovement();
-    if (!m_isTracking) return; // somebody who was told has forbidden it
+    if (!m_isTracking) return; // whoever was told of the stop may have forbidden scrolling
     m_isDragging = true;
     for (const Axis axis : {Axis::horizontal, Axis::vertical})
         if (canScroll(axis)) axisAlong(axis).beginTracking(motion::along(axis, finger), time_s);
@@ -82,7 +82,6 @@ void UIScrollView::endTouch(double time_s, bool isFlick) {
         isFlick ? axis.endTracking(time_s) : axis.comeToRest(time_s);
         goesOn = goesOn || axis.isCoastingAt(time_s);
     }
-    endMovement();
     if (goesOn) startMovement(&UIScrollViewDelegate::scrollViewDidEndDecelerating);
     setNeedsDisplay();
     if (!wasDragging) return;
