@@ -14,9 +14,7 @@ void TapTarget::adopt(Node& node, Action action) {
 
 void TapTarget::act() const {
     const ViewHost::Hold hold(m_node->host());
-    // A copy, since an update during the call replaces it.
-    const Action action = m_action;
-    if (action) action();
+    m_action();
 }
 
 std::function<void()> TapTarget::activation() const {

@@ -31,9 +31,9 @@ public:
                 commons::fatalError("A view's body asks for its states in another order than before");
             return Binding<Value>(std::static_pointer_cast<StateSlot<Value>>(*existing));
         }
-        auto slot = std::make_shared<StateSlot<Value>>(std::move(initial));
+        const auto slot = std::make_shared<StateSlot<Value>>(std::move(initial));
         addSlot(slot);
-        return Binding<Value>(std::move(slot));
+        return Binding<Value>(slot);
     }
 
     // The view is built again after each change that the object announces.

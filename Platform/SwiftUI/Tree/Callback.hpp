@@ -4,100 +4,61 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
-#include <new>
 #include <type_traits>
 #include <utility>
+
+#include "Platform/Commons/FatalError.hpp"
+#include "Platform/SwiftUI/Tree/Connection.hpp"
 
 namespace proupsells::swiftui {
 
 template <class Signature>
 class Callback;
 
-// A function value that is part of a view. Two callbacks always compare equal, since what a control does changes neither its
-// place nor its picture; the node adopts the newest. Captures of up to six pointers' size need no memory of their own.
+// A function value that is part of a view; see Connection for what its copies do. The function stays alive while it runs,
+// whatever it does to the view.
 template <class Result, class... Arguments>
-class Callback<Result(Arguments...)> {
+class Callback<Result(Arguments...)> : public Connection {
 public:
     Callback() = default;
     Callback(std::nullptr_t) {}
 
-    template <class Function>
-    requires(!std::is_same_v<std::remove_cvref_t<Function>, Callback> && std::is_invocable_r_v<Result, Function&, Arguments...>)
-        Callback(Function&& function) {
-        using Held = std::remove_cvref_t<Function>;
-        if constexpr (fits<Held>) {
-            ::new (m_storage) Held(std::forward<Function>(function));
-            m_operations = &InPlace<Held>::operations;
-        } else {
-            ::new (m_storage) std::shared_ptr<Held>(std::make_shared<Held>(std::forward<Function>(function)));
-            m_operations = &Shared<Held>::operations;
-        }
-    }
-    Callback(const Callback& other) : m_operations(other.m_operations) {
-        if (m_operations) m_operations->copy(other.m_storage, m_storage);
-    }
-    Callback(Callback&& other) noexcept : m_operations(other.m_operations) {
-        if (m_operations) m_operations->move(other.m_storage, m_storage);
-    }
-    Callback& operator=(const Callback& other) {
-        if (this != &other) *this = Callback(other);
-        return *this;
-    }
-    Callback& operator=(Callback&& other) noexcept {
-        if (this == &other) return *this;
-        if (m_operations) m_operations->destroy(m_storage);
-        m_operations = other.m_operations;
-        if (m_operations) m_operations->move(other.m_storage, m_storage);
-        return *this;
-    }
-    ~Callback() {
-        if (m_operations) m_operations->destroy(m_storage);
+    template <class Called>
+    requires(!std::is_same_v<std::remove_cvref_t<Called>, Callback> && std::is_invocable_r_v<Result, Called&, Arguments...>)
+        Callback(Called&& called)
+        : Connection(std::make_shared<FunctionOf<std::remove_cvref_t<Called>>>(std::forward<Called>(called))) {}
+
+    explicit operator bool() const { return target() != nullptr; }
+    // An empty callback does nothing. Where a result is expected of it, it stops the program.
+    Result operator()(Arguments... arguments) const {
+        const std::shared_ptr<Target> function = target();
+        if (function) return static_cast<Function&>(*function).call(std::forward<Arguments>(arguments)...);
+        if constexpr (!std::is_void_v<Result>) commons::fatalError("An empty callback was asked for a result");
     }
 
-    explicit operator bool() const { return m_operations != nullptr; }
-    // An empty callback must not be called.
-    Result operator()(Arguments... arguments) const {
-        return m_operations->invoke(m_storage, std::forward<Arguments>(arguments)...);
+    // Always equal, since what a control does changes neither its place nor its picture. A callback that gives something back
+    // may well change it, and cannot be compared.
+    bool operator==(const Callback& newer) const requires std::is_void_v<Result> {
+        meet(newer);
+        return true;
     }
-    bool operator==(const Callback&) const { return true; }
 
 private:
-    static constexpr std::size_t capacity = 6 * sizeof(void*);
-
-    struct Operations {
-        Result (*invoke)(void*, Arguments...);
-        void (*copy)(const void*, void*);
-        void (*move)(void*, void*);
-        void (*destroy)(void*);
+    struct Function : Target {
+        virtual Result call(Arguments... arguments) = 0;
     };
     template <class Held>
-    static constexpr bool fits = sizeof(Held) <= capacity && alignof(Held) <= alignof(std::max_align_t) &&
-                                 std::is_nothrow_move_constructible_v<Held>&& std::is_copy_constructible_v<Held>;
-
-    template <class Held>
-    struct InPlace {
-        static Result invoke(void* held, Arguments... arguments) {
-            return std::invoke(*static_cast<Held*>(held), std::forward<Arguments>(arguments)...);
+    struct FunctionOf final : Function {
+        template <class Called>
+        explicit FunctionOf(Called&& called) : held(std::forward<Called>(called)) {}
+        Result call(Arguments... arguments) override {
+            if constexpr (std::is_void_v<Result>)
+                std::invoke(held, std::forward<Arguments>(arguments)...);
+            else
+                return std::invoke(held, std::forward<Arguments>(arguments)...);
         }
-        static void copy(const void* from, void* to) { ::new (to) Held(*static_cast<const Held*>(from)); }
-        static void move(void* from, void* to) { ::new (to) Held(std::move(*static_cast<Held*>(from))); }
-        static void destroy(void* held) { static_cast<Held*>(held)->~Held(); }
-        static constexpr Operations operations{invoke, copy, move, destroy};
+        Held held;
     };
-    template <class Held>
-    struct Shared {
-        using Pointer = std::shared_ptr<Held>;
-        static Result invoke(void* held, Arguments... arguments) {
-            return std::invoke(**static_cast<Pointer*>(held), std::forward<Arguments>(arguments)...);
-        }
-        static void copy(const void* from, void* to) { ::new (to) Pointer(*static_cast<const Pointer*>(from)); }
-        static void move(void* from, void* to) { ::new (to) Pointer(std::move(*static_cast<Pointer*>(from))); }
-        static void destroy(void* held) { static_cast<Pointer*>(held)->~Pointer(); }
-        static constexpr Operations operations{invoke, copy, move, destroy};
-    };
-
-    alignas(std::max_align_t) mutable std::byte m_storage[capacity];
-    const Operations* m_operations = nullptr;
 };
 
 using Action = Callback<void()>;

@@ -15,10 +15,7 @@ public:
     explicit TypedCompositeNode(Value&& value) : m_value(std::move(value)) {}
 
     void adopt(Value&& value, UpdatePass& pass) {
-        bool isSame = false;
-        if constexpr (std::equality_comparable<Value>) isSame = m_value == value;
-        // Also when it is the same: its actions are newer.
-        m_value = std::move(value);
+        const bool isSame = Connection::takeOver(m_value, std::move(value));
         buildUnless(isSame, pass);
     }
 

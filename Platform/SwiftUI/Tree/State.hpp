@@ -5,13 +5,20 @@
 #include <memory>
 #include <utility>
 
-#include "Platform/Commons/FatalError.hpp"
 #include "Platform/SwiftUI/Tree/Callback.hpp"
 #include "Platform/SwiftUI/Tree/TypeKey.hpp"
 
 namespace proupsells::swiftui {
 
 class CompositeNode;
+
+// Where a value is kept that views read and write.
+template <class Value>
+class ValuePlace : public Connection::Target {
+public:
+    virtual Value get() const = 0;
+    virtual void set(Value value) = 0;
+};
 
 // One value that a composite's node keeps from build to build. May outlive its node; writes then go unnoticed.
 class StateSlotBase {
@@ -29,14 +36,14 @@ protected:
 };
 
 template <class Value>
-class StateSlot final : public StateSlotBase {
+class StateSlot final : public StateSlotBase, public ValuePlace<Value> {
 public:
     explicit StateSlot(Value initial) : m_value(std::move(initial)) {}
 
     TypeKey type() const override { return typeKey<Value>(); }
-    const Value& get() const { return m_value; }
+    Value get() const override { return m_value; }
     // A value equal to the old one changes nothing.
-    void set(Value value) {
+    void set(Value value) override {
         if constexpr (std::equality_comparable<Value>)
             if (value == m_value) return;
         m_value = std::move(value);
@@ -47,14 +54,14 @@ private:
     Value m_value;
 };
 
-// A value that somebody else owns, to be read and written. Two bindings are equal when the values that they had when they were
-// made are. Copies are cheap as far as the value is.
+// A value that somebody else owns, to be read and written; see Connection for what copies do. Two bindings are equal when the
+// values that they had when they were made are: a view that is given a binding to another place of the same value looks the same.
 template <class Value>
-class Binding {
+class Binding : public Connection {
 public:
-    explicit Binding(std::shared_ptr<StateSlot<Value>> slot) : m_slot(std::move(slot)), m_snapshot(m_slot->get()) {}
+    explicit Binding(const std::shared_ptr<ValuePlace<Value>>& place) : Connection(place), m_snapshot(place->get()) {}
     Binding(Callback<Value()> get, Callback<void(const Value&)> set)
-        : m_get(std::move(get)), m_set(std::move(set)), m_snapshot(m_get()) {}
+        : Binding(std::make_shared<Functions>(std::move(get), std::move(set))) {}
 
     // Always `value`; writes go nowhere.
     static Binding constant(Value value) {
@@ -62,12 +69,12 @@ public:
     }
 
     // The value at this moment.
-    Value get() const { return m_slot ? m_slot->get() : m_get ? m_get() : m_snapshot; }
+    Value get() const {
+        const auto place = target();
+        return place ? static_cast<const ValuePlace<Value>&>(*place).get() : m_snapshot;
+    }
     void set(Value value) const {
-        if (m_slot)
-            m_slot->set(std::move(value));
-        else if (m_set)
-            m_set(value);
+        if (const auto place = target()) static_cast<ValuePlace<Value>&>(*place).set(std::move(value));
     }
     // A binding to something derived from the value.
     template <class Derived>
@@ -76,12 +83,23 @@ public:
                                 [source = *this, write = std::move(write)](const Derived& value) { source.set(write(value)); });
     }
 
-    bool operator==(const Binding& other) const { return m_snapshot == other.m_snapshot; }
+    bool operator==(const Binding& newer) const {
+        meet(newer);
+        return m_snapshot == newer.m_snapshot;
+    }
 
 private:
-    std::shared_ptr<StateSlot<Value>> m_slot;
-    Callback<Value()> m_get;
-    Callback<void(const Value&)> m_set;
+    class Functions final : public ValuePlace<Value> {
+    public:
+        Functions(Callback<Value()> get, Callback<void(const Value&)> set) : m_get(std::move(get)), m_set(std::move(set)) {}
+        Value get() const override { return m_get(); }
+        void set(Value value) override { m_set(value); }
+
+    private:
+        Callback<Value()> m_get;
+        Callback<void(const Value&)> m_set;
+    };
+
     Value m_snapshot;
 };
 
