@@ -18,7 +18,11 @@
 // its own until a scroll view around it claims them.
 #pragma once
 
+#include <optional>
+
 #include "Platform/Hosting/RepresentableNode.hpp"
+#include "Platform/SwiftUI/Tree/Connection.hpp"
+#include "Platform/SwiftUI/Tree/ValueElement.hpp"
 
 namespace proupsells::hosting {
 
@@ -52,21 +56,27 @@ template <class Value>
 class TypedRepresentableNode final : public RepresentableNode {
 public:
     void adopt(Value&& value, swiftui::UpdatePass& pass) {
+        // The coordinator has copies of the first value's bindings and actions, which must lead to the newest.
+        if (isNew())
+            m_value.emplace(std::move(value));
+        else
+            swiftui::Connection::takeOver(*m_value, std::move(value));
         if constexpr (detail::HasCoordinator<Value>)
-            if (isNew()) m_coordinator = value.makeCoordinator();
+            if (isNew()) m_coordinator = m_value->makeCoordinator();
         const UIViewRepresentableContext<Value> context{m_coordinator, *pass.environment};
         if (isNew()) {
-            m_typedView = value.makeUIView(context);
+            m_typedView = m_value->makeUIView(context);
             setView(m_typedView, pass);
         }
         adoptEnvironment(*pass.environment);
-        value.updateUIView(*m_typedView, context);
+        m_value->updateUIView(*m_typedView, context);
     }
 
 protected:
     std::string_view semanticType() const override { return swiftui::typeNameOf<Value>(); }
 
 private:
+    std::optional<Value> m_value;
     std::shared_ptr<typename detail::CoordinatorOf<Value>::Type> m_coordinator;
     std::shared_ptr<typename Value::UIViewType> m_typedView;
 };

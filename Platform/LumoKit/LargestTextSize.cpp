@@ -2,10 +2,6 @@
 
 #include <algorithm>
 
-#include "Platform/SwiftUI/Modifiers/EnvironmentNode.hpp"
-
-template struct proupsells::swiftui::EnvironmentModifier<proupsells::lumokit::LargestTextSize>;
-
 namespace proupsells::lumokit {
 
 void LargestTextSize::apply(swiftui::EnvironmentValues& values) const {

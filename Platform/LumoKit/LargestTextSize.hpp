@@ -13,6 +13,6 @@ struct LargestTextSize {
     bool operator==(const LargestTextSize&) const = default;
 };
 
-inline swiftui::EnvironmentModifier<LargestTextSize> largestTextSize(graphics::ContentSizeCategory largest) { return {{largest}}; }
+inline swiftui::EnvironmentChange<LargestTextSize> largestTextSize(graphics::ContentSizeCategory largest) { return {{largest}}; }
 
 } // namespace proupsells::lumokit

@@ -2,10 +2,6 @@
 
 #include <algorithm>
 
-#include "Platform/SwiftUI/Modifiers/EnvironmentNode.hpp"
-
-template struct proupsells::swiftui::EnvironmentModifier<proupsells::lumokit::TextStyle>;
-
 namespace proupsells::lumokit {
 
 using swiftui::TextCase;

@@ -42,6 +42,6 @@ extern const TextStyle labelSmall;
 extern const TextStyle labelCapsSmall;
 extern const TextStyle labelCapsLarge;
 
-inline swiftui::EnvironmentModifier<TextStyle> textStyle(const TextStyle& style) { return {style}; }
+inline swiftui::EnvironmentChange<TextStyle> textStyle(const TextStyle& style) { return {style}; }
 
 } // namespace proupsells::lumokit

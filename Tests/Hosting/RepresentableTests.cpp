@@ -116,6 +116,30 @@ TEST_F(RepresentableTest, ATouchOnItWritesBackThroughTheCoordinator) {
     EXPECT_EQ(find("dots").value, "page 3 of 4");
 }
 
+TEST_F(RepresentableTest, ItsCoordinatorWritesToTheNewestPlace) {
+    struct Repointed {
+        std::shared_ptr<Settings> settings;
+        std::shared_ptr<int> other;
+        View body(BuildContext& context) const {
+            if (context.observe(settings)->isDark.get())
+                return Dots{4,
+                            Binding<int>([other = other] { return *other; }, [other = other](const int& page) { *other = page; })};
+            return Dots{4, Binding<int>([settings = settings] { return settings->page.get(); },
+                                        [settings = settings](const int& page) { settings->page = page; })};
+        }
+    };
+    const auto other = std::make_shared<int>(0);
+    show(Repointed{settings, other});
+    bed.settle();
+    settings->isDark = true;
+    bed.settle();
+
+    find("dots").adjust(1);
+
+    EXPECT_EQ(settings->page.get(), 0);
+    EXPECT_EQ(*other, 1);
+}
+
 TEST_F(RepresentableTest, ItIsPaintedWhereItStandsInTheEnvironmentOfItsPlace) {
     settings->page = 1;
     settings->isDark = true;

@@ -20,7 +20,8 @@ constexpr geometry::Rect interpolated(const geometry::Rect& from, const geometry
 // Both appearances, under the target's name.
 graphics::Color interpolated(const graphics::Color& from, const graphics::Color& to, double progress);
 
-// A function of time: nothing happens between two readings. A new target starts from the value shown at that moment.
+// The value is a function of time, so nothing needs to happen between two readings. A movement to a new target starts from the
+// value at that moment.
 template <class Value>
 class Animated {
 public:
@@ -35,7 +36,7 @@ public:
     // When the target is reached; in the past when nothing moves.
     double end_s() const { return m_end_s; }
 
-    // `animation` null: at once. The target that is there already changes nothing, also while it is being moved to.
+    // Null: at once. Setting the same target again changes nothing, not even while the value is on its way to it.
     void set(Value target, const motion::Animation* animation, double now_s) {
         if (target == m_to) return;
         if (!animation) {

@@ -33,8 +33,8 @@ public:
     static AnyTransition scale();
     // From and to the edge, by the view's own size.
     static AnyTransition move(Edge edge);
-    // Clipped to a shape whose animatable data goes from the active one's to the identity one's. The modifier types have a `shape`
-    // that is a Shape or turns into one.
+    // Cut to a shape. Its animatable data goes from that of the active modifier's shape (absent) to that of the identity
+    // modifier's (present). Both modifiers have a member `shape`.
     template <class Modifier>
     static AnyTransition modifier(const Modifier& active, const Modifier& identity) {
         return clip(Shape(active.shape), Shape(identity.shape));
@@ -45,7 +45,7 @@ public:
 
     // Both at once.
     AnyTransition combined(const AnyTransition& other) const;
-    // Moves by this animation, whatever is in force around the change, and even when nothing is.
+    // Always uses this animation, also when the change around it has another one or none.
     AnyTransition animation(const motion::Animation& animation) const;
 
     struct Part {
@@ -60,7 +60,7 @@ public:
         std::optional<motion::Animation> animation;
 
         void apply(double presence, geometry::Size size, TransitionEffect& effect) const;
-        // Whether opacity is part of it, which stays when motion is to be reduced.
+        // Whether the part only fades. Such parts stay when motion is to be reduced.
         bool fades() const;
     };
     const Way& insertion() const { return m_ways->insertion; }
@@ -85,8 +85,8 @@ struct TransitionModifier {
     View modified(View content) &&;
 };
 
-// How the view comes when it enters a tree that is already on screen, and goes when it leaves it: by the transition's own
-// animation, else by the one of the change, else at once. While it goes it is painted in its old place and takes no touches.
+// How the view comes into a tree that is on screen, and how it goes. It does so by the transition's own animation, otherwise by
+// that of the change, otherwise at once. While it goes it is painted in its old place and takes no touches.
 inline TransitionModifier transition(AnyTransition transition) { return {std::move(transition)}; }
 
 } // namespace proupsells::swiftui

@@ -13,7 +13,7 @@ public:
     // Absent outside withAnimation.
     static const std::optional<motion::Animation>& currentAnimation();
 
-    // Sets the animation for its own life; the newest counts.
+    // The animation is in force while this lives. The newest one counts.
     class Scope {
     public:
         explicit Scope(std::optional<motion::Animation> animation);

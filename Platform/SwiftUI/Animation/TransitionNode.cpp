@@ -31,7 +31,7 @@ double TransitionNode::leave(const UpdatePass& pass) {
 }
 
 void TransitionNode::comeBack(const UpdatePass& pass) {
-    // Backwards along the way that it was leaving by, from where it is.
+    // It goes back the way by which it was leaving, from where it is now.
     const AnyTransition::Way& way = m_isLeavingWay ? m_transition.removal() : m_transition.insertion();
     m_presence.set(1, animationOf(way, pass), pass.now_s);
     host().noteAnimation(m_presence.end_s());

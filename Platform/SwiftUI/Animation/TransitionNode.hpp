@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Platform/SwiftUI/Animation/AnyTransition.hpp"
-#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ModifierNode.hpp"
 
 namespace proupsells::swiftui {
 
@@ -12,7 +12,7 @@ public:
 
     // Told by the parent that inserts, removes or takes back the subtree.
     void enter(const UpdatePass& pass);
-    // When it will be gone; not in the future when it goes at once.
+    // Begins to leave. Returns when it will be gone; that is now or earlier if it goes at once.
     double leave(const UpdatePass& pass);
     void comeBack(const UpdatePass& pass);
 

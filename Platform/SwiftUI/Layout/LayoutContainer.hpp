@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ValueElement.hpp"
 
 namespace proupsells::swiftui {
 

@@ -8,11 +8,11 @@ namespace proupsells::swiftui {
 
 class Node;
 
-// The host's safe-area insets along those edges of the node's frame that touch or cross the safe area's; 0 along the others.
-// Good while the node is laid out.
+// The host's safe-area insets at those edges where the node's frame touches or crosses the safe area's edge; 0 at the others. To
+// be asked while the node is laid out.
 geometry::EdgeInsets touchedSafeArea(const Node& node);
 
-// By how much the node's frame must grow along `edges` to reach the host's edges from where it touches the safe area's.
+// By how much the node's frame must grow at `edges`, where it touches the safe area's edge, to reach the host's edge.
 geometry::EdgeInsets reachToHostEdges(const Node& node, Edge edges);
 
 } // namespace proupsells::swiftui

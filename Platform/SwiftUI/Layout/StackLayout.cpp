@@ -77,7 +77,8 @@ void StackLayout::sortByFlexibility(std::optional<double> cross) {
         if (firstFlexibility != secondFlexibility) return firstFlexibility < secondFlexibility;
         return a < b;
     };
-    // The order is total, so that the unstable sort, which needs no memory, gives one result.
+    // No two items are equal in this order, so the result is certain even with a sort that is not stable. A stable one needs
+    // memory.
     std::sort(m_order.begin(), m_order.end(), comesFirst);
 }
 
@@ -85,7 +86,7 @@ double StackLayout::alignAcross(std::optional<double> alignment) {
     if (!alignment) return alignBaselines();
     double extent = 0;
     for (const Item& item : m_items) extent = std::max(extent, across(item.size));
-    // Views in an unlimited stack do not move away from its start.
+    // In a stack of unlimited extent, views stay at its start.
     for (Item& item : m_items) item.crossPosition = std::isfinite(extent) ? (extent - across(item.size)) * *alignment : 0;
     return extent;
 }

@@ -9,8 +9,8 @@
 
 namespace proupsells::swiftui {
 
-// The lengths of a stack's views along its axis. Views of higher priority first, among equals the least flexible first, each gets
-// an equal part of what is left; what it does not take is left to the others. Keeps its memory.
+// Finds the lengths of a stack's views along its axis. Views of higher priority come first, and among equals the least flexible
+// ones. Each is offered an equal part of what is left; what it does not take is left to the others. Memory is used again.
 class StackLayout {
 public:
     struct Item {
@@ -27,8 +27,8 @@ public:
 
     // The views to lay out; in order.
     void setNodes(const std::vector<Node*>& nodes);
-    // Decides on every item for the proposal and returns the stack's size. `alignment` is a share of the other dimension;
-    // absent: first baselines meet.
+    // Decides on every item for the proposal and returns the stack's size. `alignment` is a share of the other dimension, from 0
+    // (leading or top) to 1. Absent: the first baselines meet.
     geometry::Size arrange(const geometry::ProposedSize& proposal, double spacing, std::optional<double> alignment);
 
     std::vector<Item>& items() { return m_items; }

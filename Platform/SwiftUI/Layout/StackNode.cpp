@@ -22,7 +22,7 @@ Size StackNode::measure(const ProposedSize& proposal) {
     return m_layout.arrange(proposal, m_spacing, m_alignment);
 }
 
-// The last arrangement may have been for another proposal than the one that counts.
+// The last arrangement may have been made for another proposal.
 void StackNode::arrangeFor(const ProposedSize& proposal) {
     if (m_arranged == proposal) return;
     m_arranged = proposal;

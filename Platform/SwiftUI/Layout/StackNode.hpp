@@ -32,7 +32,7 @@ private:
     std::vector<Node*> m_nodes;
 };
 
-// Children belong to the container around; a node that is laid out by itself makes them a column.
+// The container around lays the children out. Without one they make a column.
 class TransparentNode : public StackNode {
 public:
     TransparentNode() : StackNode(Axis::vertical) {}

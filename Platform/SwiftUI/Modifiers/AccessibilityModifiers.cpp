@@ -1,6 +1,6 @@
 #include "Platform/SwiftUI/Modifiers/AccessibilityModifiers.hpp"
 
-#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ModifierNode.hpp"
 #include "Platform/SwiftUI/Tree/SemanticContext.hpp"
 
 namespace proupsells::swiftui {
@@ -18,7 +18,7 @@ protected:
         SemanticAttributes& pending = context.pending;
         const geometry::Rect inWindow = state.toWindow({{}, presentationFrame(context.now_s).size});
         const bool identifies = !m_modifier.identifier.empty() && pending.identifier.empty();
-        // Further out has been before: it stays, unless its frame goes with less than an identifier.
+        // Modifiers further out come first. Their frame stays, unless it came without an identifier and this one has one.
         if (!pending.frame || (identifies && !pending.isFrameIdentified)) {
             pending.frame = inWindow;
             pending.isFrameIdentified = identifies;

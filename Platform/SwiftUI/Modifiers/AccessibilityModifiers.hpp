@@ -9,8 +9,8 @@
 
 namespace proupsells::swiftui {
 
-// Said of the first view inside that stands in the semantic tree, whose frame there becomes the modified view's. Of several
-// identifiers the outermost counts; frames go with identifiers before labels.
+// Describes the first view inside that appears in the semantic tree, and gives it the frame of the modified view. Where modifiers
+// stand around each other, the outermost identifier is used, with its frame; without any identifier, the outermost frame.
 struct AccessibilityModifier {
     std::string identifier;
     std::string label;

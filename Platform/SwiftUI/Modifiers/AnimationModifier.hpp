@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "Platform/Motion/TimingCurve.hpp"
-#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ModifierNode.hpp"
 
 namespace proupsells::swiftui {
 
@@ -17,7 +17,7 @@ struct AnimationModifier {
     View modified(View content) &&;
 };
 
-// Changes inside the view are shown by the animation when the value differs from the build before.
+// When the value is another one than in the build before, the changes inside the view are shown by the animation.
 template <class Value>
 AnimationModifier<std::decay_t<Value>> animation(std::optional<motion::Animation> animation, Value&& value) {
     return {animation, std::forward<Value>(value)};

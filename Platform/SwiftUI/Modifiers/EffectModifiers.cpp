@@ -3,7 +3,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ModifierNode.hpp"
 #include "Platform/SwiftUI/Tree/SemanticContext.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
@@ -51,7 +51,7 @@ public:
 protected:
     virtual Transform transformAt(double now_s, geometry::Size size) const = 0;
     Rect effectBounds(const Rect& bounds) const override {
-        // Of where it will be, and of where it would be without, which it may be coming from.
+        // Where it will be, and where it would be without the transform: it may be on its way between the two.
         return transformAt(geometry::infinity, frame().size).apply(bounds).united(bounds);
     }
 };

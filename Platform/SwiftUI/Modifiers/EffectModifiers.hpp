@@ -32,8 +32,7 @@ struct RotationEffectModifier {
 };
 inline RotationEffectModifier rotationEffect(double angle_degrees) { return {angle_degrees}; }
 
-// Cuts off what is outside the shape. Rectangles, rounded ones, circles and capsules are exact; a shape of one's own cuts to
-// its path's bounds.
+// Cuts off what is outside the shape. Of a custom shape only the bounds of its path count.
 struct ClipModifier {
     Shape shape;
 
@@ -44,7 +43,7 @@ inline ClipModifier clipped() { return {Rectangle()}; }
 inline ClipModifier clipShape(const Shape& shape) { return {shape}; }
 inline ClipModifier cornerRadius(double radius) { return {RoundedRectangle(radius)}; }
 
-// Of the view's rectangle.
+// The shadow of the view's rectangle.
 struct ShadowModifier {
     graphics::Color color;
     double opacity = 1;
@@ -67,7 +66,7 @@ struct HitTestingModifier {
 // False: touches reach what is behind.
 inline HitTestingModifier allowsHitTesting(bool isAllowed) { return {isAllowed}; }
 
-// The whole frame answers touches for what is inside.
+// A touch anywhere in the frame goes to what is inside.
 struct ContentShapeModifier {
     View modified(View content) &&;
     bool operator==(const ContentShapeModifier&) const = default;

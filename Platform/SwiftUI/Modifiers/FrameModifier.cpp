@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "Platform/SwiftUI/Modifiers/LayoutModifiers.hpp"
-#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ModifierNode.hpp"
 
 namespace proupsells::swiftui {
 

@@ -1,7 +1,7 @@
 // Backgrounds and overlays.
 #include "Platform/SwiftUI/Layout/SafeArea.hpp"
 #include "Platform/SwiftUI/Modifiers/LayoutModifiers.hpp"
-#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ModifierNode.hpp"
 #include "Platform/SwiftUI/Views/Shapes.hpp"
 
 namespace proupsells::swiftui {

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "Platform/SwiftUI/Layout/SafeArea.hpp"
-#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ModifierNode.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
 namespace proupsells::swiftui {

@@ -16,12 +16,12 @@ struct PaddingModifier {
     bool operator==(const PaddingModifier&) const = default;
 };
 
-// Room around the view. Negative lengths make it count for less than it shows.
+// Room around the view. With negative lengths the view takes less room than it is seen in.
 PaddingModifier padding(double length = defaultPadding);
 PaddingModifier padding(Edge edges, double length = defaultPadding);
 PaddingModifier padding(const geometry::EdgeInsets& insets);
 
-// Lengths that are absent leave that dimension to the view. Fixed lengths come before flexible ones.
+// A dimension without any length is left to the view. A fixed length is used before flexible ones.
 struct FrameOptions {
     std::optional<double> width;
     std::optional<double> height;
@@ -54,7 +54,7 @@ struct FixedSizeModifier {
     bool operator==(const FixedSizeModifier&) const = default;
 };
 
-// Held at its ideal size, whatever it is offered.
+// The view takes its ideal size, whatever it is offered.
 inline FixedSizeModifier fixedSize(bool horizontal = true, bool vertical = true) { return {horizontal, vertical}; }
 
 enum class ContentMode : std::uint8_t { fit, fill };
@@ -87,7 +87,7 @@ struct OffsetModifier {
     bool operator==(const OffsetModifier&) const = default;
 };
 
-// Shown elsewhere, laid out as if it were not.
+// The view is shown somewhere else. The layout does not change.
 OffsetModifier offset(double x, double y);
 
 struct IgnoresSafeAreaModifier {
@@ -97,10 +97,10 @@ struct IgnoresSafeAreaModifier {
     bool operator==(const IgnoresSafeAreaModifier&) const = default;
 };
 
-// Reaches the window's edge where it touches the safe area's.
+// Where the view touches an edge of the safe area, it goes on to the window's edge.
 inline IgnoresSafeAreaModifier ignoresSafeArea(Edge edges = Edge::all) { return {edges}; }
 
-// A second view behind or in front of the first, which alone decides on the size; the second gets that size offered.
+// A second view behind or in front of the first. The first alone decides on the size, which the second is offered.
 struct LayerModifier {
     View layer;
     Alignment alignment = Alignment::center;

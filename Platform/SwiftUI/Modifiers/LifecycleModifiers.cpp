@@ -20,7 +20,7 @@ private:
     AppearanceModifier m_modifier;
 };
 
-// Only there for its key.
+// Carries a key and does nothing else.
 class IdNode final : public ModifierNode {
 public:
     void adopt(IdModifier&&, UpdatePass&) {}

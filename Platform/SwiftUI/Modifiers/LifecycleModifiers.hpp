@@ -9,6 +9,7 @@
 #include "Platform/Combine/PassthroughSubject.hpp"
 #include "Platform/Combine/TimerPublisher.hpp"
 #include "Platform/SwiftUI/Tree/Callback.hpp"
+#include "Platform/SwiftUI/Tree/ModifierNode.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 

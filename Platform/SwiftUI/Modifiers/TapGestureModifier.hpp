@@ -11,8 +11,8 @@ struct TapGestureModifier {
 
     View modified(View content) &&;
 };
-// Acts when a finger comes down anywhere in the frame, save on a control inside, and lifts without having moved. Not while
-// disabled.
+// Acts when a finger comes down anywhere in the frame and lifts without having moved. A finger on a control inside is that
+// control's. Does nothing while it is disabled.
 inline TapGestureModifier onTapGesture(Action action) { return {std::move(action)}; }
 
 } // namespace proupsells::swiftui

@@ -22,8 +22,8 @@ public:
     // The view is built again whenever it changes.
     const EnvironmentValues& environment() const { return m_environment; }
 
-    // A value that the view owns, from its first build until it leaves the tree. `initial` counts in the first build only. A body
-    // asks for its states in the same order every time; otherwise the program is stopped.
+    // A value that the view owns from its first build until it leaves the tree. `initial` is used in the first build only. A body
+    // must ask for its states in the same order every time; otherwise the program is stopped.
     template <class Value>
     Binding<Value> state(Value initial) {
         if (auto* existing = nextSlot()) {
@@ -44,7 +44,7 @@ public:
         return object;
     }
 
-    // The nearest object of the type that a view further out has put into the environment; observed. Stops the program when
+    // The object of the type that the nearest view around has put into the environment. It is observed. Stops the program when
     // there is none.
     template <class Object>
     std::shared_ptr<Object> environmentObject() {
@@ -55,7 +55,7 @@ public:
     }
 
 private:
-    // Null when the body asks for one more than before.
+    // Null when the body asks for more states than before.
     std::shared_ptr<StateSlotBase>* nextSlot();
     void addSlot(std::shared_ptr<StateSlotBase> slot);
     [[noreturn]] static void missingObject(std::string_view type);

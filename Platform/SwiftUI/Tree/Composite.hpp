@@ -8,7 +8,7 @@
 
 namespace proupsells::swiftui {
 
-// Owns the newest value; closures that a body makes may use `this` for as long as the view is on screen.
+// Owns the newest value of the view. Closures that a body makes may use `this` for as long as the view is on screen.
 template <class Value>
 class TypedCompositeNode final : public CompositeNode {
 public:
@@ -46,7 +46,7 @@ private:
     Value m_value;
 };
 
-// A value that stays what it is for as long as its node: compared and copied never again.
+// A value that never changes while its node lives. It is copied once and never compared.
 template <class Value>
 class LastingCompositeElement final : public Element {
 public:

@@ -16,7 +16,7 @@ public:
 
     // Evaluates the body and brings what is inside up to date.
     void build(UpdatePass& pass);
-    // The same, but only where the value, a state, an observed object or the environment has changed, here or inside.
+    // Does so only if the value is another one, or the environment is, or a state or an observed object has changed here or inside.
     void buildUnless(bool isSameValue, UpdatePass& pass);
     void stateChanged() { setNeedsBuild(); }
 

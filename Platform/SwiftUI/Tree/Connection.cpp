@@ -2,7 +2,7 @@
 
 namespace proupsells::swiftui {
 
-// Stands between a connection and its copies, so that all of them can be led elsewhere.
+// Stands between a connection and its copies. Leading it elsewhere leads all of them there.
 struct Connection::Relay final : Target {
     explicit Relay(std::shared_ptr<Target> next) : next(std::move(next)) { m_isRelay = true; }
 
@@ -36,7 +36,7 @@ std::shared_ptr<Connection::Target> Connection::relay() const {
 void Connection::takeCopiesOf(const Connection& older) const {
     const std::shared_ptr<Relay> relay = older.m_relay;
     if (!relay || relay == m_relay) return;
-    // The newer one may itself be a copy of the older one, which then goes on reaching what it has reached.
+    // The newer one may be a copy of the older one. Then the relay must not be led in a circle.
     if (!leadsTo(*relay)) relay->next = m_target;
     if (m_relay) m_relay->next = relay;
     m_relay = relay;

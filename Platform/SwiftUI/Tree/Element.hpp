@@ -11,7 +11,7 @@ namespace proupsells::swiftui {
 class Node;
 struct UpdatePass;
 
-// Lives in the frame arena. Elements of one type meet nodes of one type.
+// Lives in the element arena for one build. All elements of one type go to nodes of one type.
 class Element {
 public:
     explicit Element(TypeKey type) : m_type(type) {}
@@ -20,7 +20,7 @@ public:
 
     TypeKey type() const { return m_type; }
     virtual std::unique_ptr<Node> makeNode() = 0;
-    // Hands the value to the node: called once, on a new node or on the one of the last build.
+    // Hands the value over to a node that makeNode() has made, now or in an earlier build. Called once.
     virtual void update(Node& node, UpdatePass& pass) = 0;
 
     Key key;

@@ -11,8 +11,8 @@ namespace proupsells::swiftui {
 
 class Element;
 
-// Elements and lists of views live here until the outermost build that made them has ended; then all are destroyed at once and
-// the memory is used again. Builds nest: a build inside a build only adds.
+// Elements and lists of views live here until the build that made them has ended. Then all are destroyed at once, and the memory
+// is used again. A build inside a build adds to the outer one, and ends with it.
 class ElementArena {
 public:
     static ElementArena& current();
@@ -26,15 +26,14 @@ public:
         adopt(element);
         return element;
     }
-    // Room for trivially destructible things.
+    // Room for things that need no destructor.
     void* allocate(std::size_t size, std::size_t alignment);
     std::string_view copy(std::string_view text);
 
-    // Changes whenever everything in the arena has been destroyed.
+    // Another number each time that everything here has been destroyed.
     unsigned generation() const { return m_generation; }
-    bool isBuilding() const { return m_depth > 0; }
 
-    // Brackets a build.
+    // Lives as long as a build does.
     class Build {
     public:
         Build() { ++current().m_depth; }

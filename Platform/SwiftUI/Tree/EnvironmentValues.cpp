@@ -13,16 +13,6 @@ graphics::Font EnvironmentValues::scaled(graphics::Font scaledFont) const {
     return scaledFont;
 }
 
-bool EnvironmentValues::hasSameContent(const EnvironmentValues& other) const {
-    return colorScheme == other.colorScheme && layoutDirection == other.layoutDirection && contentSize == other.contentSize &&
-           horizontalSizeClass == other.horizontalSizeClass && reduceMotion == other.reduceMotion && isEnabled == other.isEnabled &&
-           displayScale == other.displayScale && localeIdentifier == other.localeIdentifier &&
-           languageChangeCount == other.languageChangeCount && safeAreaInsets == other.safeAreaInsets && font == other.font &&
-           foregroundStyle == other.foregroundStyle && multilineTextAlignment == other.multilineTextAlignment &&
-           textCase == other.textCase && lineLimit == other.lineLimit && lineSpacing == other.lineSpacing &&
-           minimumScaleFactor == other.minimumScaleFactor && buttonStyle == other.buttonStyle && objects == other.objects;
-}
-
 void EnvironmentValues::adopt(const EnvironmentValues& other) {
     if (version != 0 && hasSameContent(other)) return;
     *this = other;

@@ -23,7 +23,7 @@ class ButtonStyle;
 enum class SizeClass : std::uint8_t { compact, regular };
 enum class TextCase : std::uint8_t { asWritten, uppercase };
 
-// Models by their types. Shared by all environments that add none.
+// Models, found by their types. All environments that add none share one list.
 struct EnvironmentObjects {
     struct Entry {
         TypeKey type;
@@ -34,8 +34,8 @@ struct EnvironmentObjects {
     const std::shared_ptr<combine::ObservableObject>* find(TypeKey type) const;
 };
 
-// Copied only where something in it is overridden.
-struct EnvironmentValues {
+// The values themselves. A new one is a member here; views set it with EnvironmentModifier<&EnvironmentValues::member>.
+struct InheritedValues {
     graphics::ColorScheme colorScheme = graphics::ColorScheme::light;
     geometry::LayoutDirection layoutDirection = geometry::LayoutDirection::leftToRight;
     graphics::ContentSizeCategory contentSize = graphics::ContentSizeCategory::large;
@@ -51,22 +51,27 @@ struct EnvironmentValues {
     graphics::Color foregroundStyle{"primary", graphics::rgb(0x000000), graphics::rgb(0xFFFFFF)};
     graphics::TextAlignment multilineTextAlignment = graphics::TextAlignment::leading;
     TextCase textCase = TextCase::asWritten;
-    std::optional<int> lineLimit;
+    std::optional<int> lineLimit; // absent: as many lines as it takes
     double lineSpacing = 0;
-    double minimumScaleFactor = 1;
+    double minimumScaleFactor = 1; // a text that would be cut is shown smaller instead, down to this share of its size
 
     std::shared_ptr<const ButtonStyle> buttonStyle; // null: the automatic one
     std::shared_ptr<const EnvironmentObjects> objects;
 
-    // Differs between any two contents that differ; a node compares it to see whether its environment is still the same.
+    bool operator==(const InheritedValues&) const = default;
+};
+
+// The values with a mark by which nodes see whether they are still the same. Copied only where one of them is overridden.
+struct EnvironmentValues : InheritedValues {
+    // Differs between any two contents that differ.
     std::uint64_t version = 0;
 
     bool isRightToLeft() const { return layoutDirection == geometry::LayoutDirection::rightToLeft; }
     // The font as large as it is shown here.
     graphics::Font scaled(graphics::Font font) const;
     // Equal in everything but the version.
-    bool hasSameContent(const EnvironmentValues& other) const;
-    // Takes the content over, with a new version where it differs.
+    bool hasSameContent(const InheritedValues& other) const { return static_cast<const InheritedValues&>(*this) == other; }
+    // Takes the content over. The version becomes a new one if the content differs.
     void adopt(const EnvironmentValues& other);
     static std::uint64_t nextVersion();
 };

@@ -8,7 +8,7 @@
 
 namespace proupsells::swiftui {
 
-// A number or a text; the text belongs to somebody else, for as long as the build that it is used in.
+// A number or a text. The text is not copied: it must last as long as the build.
 struct Key {
     std::int64_t number = 0;
     std::string_view text;

@@ -13,7 +13,7 @@ using geometry::Size;
 
 namespace {
 
-// Whatever a measure makes of odd input, nothing around it has to cope with.
+// Keeps the odd answers of a measure, such as not-a-number, from all other nodes.
 double soundLength(double length, const std::optional<double>& proposed) {
     if (!(length > 0)) return 0;
     if (std::isinf(length) && !(proposed && std::isinf(*proposed))) return 0;
@@ -22,7 +22,7 @@ double soundLength(double length, const std::optional<double>& proposed) {
 
 double finiteLength(double length) { return std::isfinite(length) ? length : 0; }
 
-// An infinite room is a room of unknown size when it comes to placing something in it.
+// Nothing can be centred in an infinite room, so for placing it counts as a room of unknown size.
 ProposedSize finiteProposal(ProposedSize proposal) {
     if (proposal.width && !std::isfinite(*proposal.width)) proposal.width.reset();
     if (proposal.height && !std::isfinite(*proposal.height)) proposal.height.reset();
@@ -139,19 +139,6 @@ void Node::updatePaintBounds() {
     Rect bounds = Rect{{}, m_frame.size}.insetBy(-outset, -outset);
     forEachPainted([&](const Node& child) { bounds = bounds.united(child.m_paintBounds.offsetBy(child.m_frame.origin)); });
     m_paintBounds = effectBounds(bounds);
-}
-
-Size ModifierNode::measure(const ProposedSize& proposal) { return onlyChild() ? onlyChild()->sizeThatFits(proposal) : Size{}; }
-
-void ModifierNode::layOut(const ProposedSize& proposal, Size) {
-    if (!onlyChild() || onlyChild()->isAbsent()) return;
-    onlyChild()->place({}, proposal);
-}
-
-double ModifierNode::firstBaseline(const ProposedSize& proposal) { return onlyChild() ? onlyChild()->firstBaseline(proposal) : 0; }
-
-LengthRange ModifierNode::lengthRange(Axis axis, std::optional<double> cross) {
-    return onlyChild() ? onlyChild()->lengthRange(axis, cross) : LengthRange{};
 }
 
 } // namespace proupsells::swiftui

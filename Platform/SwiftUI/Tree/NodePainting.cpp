@@ -29,7 +29,7 @@ PaintState stateOfContent(const Node& node, const PaintState& state, double now_
 } // namespace
 
 void Node::paint(graphics::PaintContext& context, const PaintState& parentState, double now_s) {
-    // While things move they may be outside of where they will be in the end.
+    // While things move they may be outside the bounds, which are those of the end of the movement.
     if (parentState.hides(m_paintBounds.offsetBy(m_frame.origin)) && !m_host->isMoving()) return;
     const PaintState state = stateInside(*this, parentState, now_s);
     if (!(state.opacity > 0)) return;

@@ -35,14 +35,14 @@ void Node::reconcile(std::unique_ptr<Node>& slot, std::size_t index, const View&
     if (slot && element && matches(*element, slot->m_type, slot->m_key)) return updateNode(*slot, *element, pass);
     if (!slot && !element) return;
     std::unique_ptr<Node> old = std::move(slot);
-    // Found before the old one leaves, so that the two cannot be taken for each other.
+    // Looked for before the old one starts to leave, or it would find that one.
     std::unique_ptr<Node> revived = element ? revive(*element, index, pass) : nullptr;
     if (old) remove(std::move(old), index, pass);
     if (revived) {
         slot = std::move(revived);
         updateNode(*slot, *element, pass);
     } else if (element) {
-        slot = insert(*element, index, pass);
+        slot = insert(*element, pass);
     }
     invalidateLayout();
 }
@@ -51,7 +51,7 @@ void Node::updateNode(Node& node, Element& element, UpdatePass& pass) {
     node.m_environmentChanged = node.m_isNew || node.m_environmentVersion != pass.environment->version;
     node.m_environmentVersion = pass.environment->version;
     node.m_environment = pass.environment;
-    // Everything stands the other way round then.
+    // When the direction changes, everything is placed anew.
     const bool wasRightToLeft = std::exchange(node.m_isRightToLeft, pass.environment->isRightToLeft());
     if (!node.m_isNew && wasRightToLeft != node.m_isRightToLeft) node.invalidateLayout();
     node.m_mustBuild = node.m_needsBuild || node.m_hasDirtyDescendant;
@@ -70,7 +70,7 @@ void Node::updateNode(Node& node, Element& element, UpdatePass& pass) {
     node.m_mustBuild = false;
 }
 
-std::unique_ptr<Node> Node::insert(Element& element, std::size_t, UpdatePass& pass) {
+std::unique_ptr<Node> Node::insert(Element& element, UpdatePass& pass) {
     std::unique_ptr<Node> node = element.makeNode();
     node->m_parent = this;
     node->m_host = m_host;
@@ -149,7 +149,7 @@ void Node::updateKeyedChildren(const ViewList& views, UpdatePass& pass) {
 void Node::matchKeyedChildren(const ViewList& views, UpdatePass& pass) {
     std::vector<std::unique_ptr<Node>> before = std::move(m_children);
     std::unordered_multimap<std::size_t, std::size_t> byKey;
-    // Backwards, because the newest entry of equal ones is found first: equal keys meet in their order.
+    // Backwards, because of equal keys the entry made last is found first. So nodes with equal keys keep their order.
     for (std::size_t slot = before.size(); slot-- > 0;)
         if (before[slot]) byKey.emplace(before[slot]->m_key.key().hash(), slot);
 

@@ -10,7 +10,7 @@ using graphics::PaintState;
 
 namespace {
 
-// A view that is on its way out is still seen, but it is nobody's any more.
+// A view that is leaving can still be seen, but not used.
 void makeUnreachable(accessibility::Node& node) {
     node.identifier.clear();
     node.isControl = false;

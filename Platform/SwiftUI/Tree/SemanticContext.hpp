@@ -11,7 +11,7 @@
 
 namespace proupsells::swiftui {
 
-// What modifiers say about the first structural node inside them.
+// What modifiers say about the first node inside them that appears in the semantic tree.
 struct SemanticAttributes {
     std::string identifier;
     std::string label;
@@ -30,13 +30,13 @@ struct SemanticAttributes {
 struct SemanticContext {
     geometry::Rect window; // what can be seen at all, in window points
     double now_s = 0;
-    // Consumed by the next structural node.
+    // Goes to the next node that appears.
     SemanticAttributes pending;
-    // Scrolls the scroll views around the current place; see accessibility::Node::reveal. Scroll views replace it for their
-    // content.
+    // Scrolls the scroll views around until a rectangle can be reached; see accessibility::Node::reveal. Each scroll view puts
+    // its own in place for its content.
     std::function<void(const geometry::Rect& inWindow)> reveal;
 
-    // A node of the type with the pending attributes, which are empty afterwards.
+    // Makes a node of the type. The pending attributes go into it and are empty afterwards.
     accessibility::Node makeNode(std::string_view type, const graphics::PaintState& state, const geometry::Rect& frame);
 };
 

@@ -20,7 +20,7 @@ public:
     virtual void set(Value value) = 0;
 };
 
-// One value that a composite's node keeps from build to build. May outlive its node; writes then go unnoticed.
+// One value that a composite's node keeps from build to build. It may outlive its node; then nobody is told of changes.
 class StateSlotBase {
 public:
     virtual ~StateSlotBase() = default;
@@ -29,7 +29,7 @@ public:
 
 protected:
     friend class CompositeNode;
-    // The owner's views are built again, by the animation in force.
+    // The owner's views are built again. The changes are shown by the animation in force now.
     void announceChange() const;
 
     CompositeNode* m_owner = nullptr;

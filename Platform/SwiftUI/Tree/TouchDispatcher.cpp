@@ -24,7 +24,7 @@ bool TouchDispatcher::touch(const host::Touch& touch) {
         cancel();
         return wasActive;
     }
-    // A finger that lifts somewhere else has moved there first.
+    // A finger that lifts at another place must have moved there.
     if (touch.phase == host::TouchPhase::moved || !(touch.location == m_location)) move(touch);
     if (touch.phase == host::TouchPhase::ended) {
         const TouchEvent event = eventAt(touch.location);

@@ -43,7 +43,7 @@ void ViewHost::setSize(Size size, geometry::PhysicalInsets safeArea) {
         m_environment.version = EnvironmentValues::nextVersion();
         setNeedsUpdate();
     }
-    // Places count from the window's edges, which have moved.
+    // Some layouts depend on where the window's edges are, and those have moved.
     m_hasResized = true;
     m_rootNode->invalidateLayout();
 }
@@ -125,7 +125,7 @@ bool ViewHost::isMoving() const { return now_s() < m_movingUntil_s; }
 Size ViewHost::sizeThatFits(const ProposedSize& proposal) {
     if (!m_isUpdating) bringUpToDate();
     const Size size = m_rootNode->sizeThatFits(proposal);
-    // Sizes are remembered from here on, so that what is invalid from now on is so anew.
+    // Nodes now remember sizes again, so a later invalidation must not count as done already.
     ++m_layoutCount;
     return size;
 }

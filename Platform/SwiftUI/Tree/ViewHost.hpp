@@ -26,7 +26,7 @@ class RootNode;
 // update.
 class ViewHost final : public runloop::UpdateClient, public std::enable_shared_from_this<ViewHost> {
 public:
-    // `root` is called at every update; what it returns is compared with what is on screen.
+    // `root` is called in every update that builds. What it returns is compared with what is on screen.
     static std::shared_ptr<ViewHost> create(std::function<View()> root);
     template <class Value>
     requires(CompositeView<Value> || PrimitiveView<Value>) static std::shared_ptr<ViewHost> create(Value value) {
@@ -41,14 +41,14 @@ public:
 
     // --- What and where
     void setRoot(std::function<View()> root);
-    // In points; the insets are those of the own rectangle. The content is laid out in what the insets leave.
+    // In points. The content is laid out in what the insets leave of the rectangle.
     void setSize(geometry::Size size, geometry::PhysicalInsets safeArea = {});
     geometry::Size size() const { return m_size; }
     const geometry::PhysicalInsets& safeArea() const { return m_environment.safeAreaInsets; }
-    // What the whole tree inherits; its safe-area insets are ignored, setSize gives them.
+    // What the whole tree inherits. The safe-area insets in it are ignored: setSize gives them.
     void setEnvironment(const EnvironmentValues& environment);
     const EnvironmentValues& environment() const { return m_environment; }
-    // While invisible nothing appears; the change is told to onAppear and onDisappear.
+    // Views count as on screen only while the host is visible; onAppear and onDisappear are told.
     void setVisible(bool isVisible);
     bool isVisible() const { return m_isVisible; }
     // Whether the host stands in a window, be it covered by another screen; true unless set. Timers of views tick only then.
@@ -71,7 +71,7 @@ public:
     // --- Showing
     // Writes the picture at now_s(). `state.origin` is where the host's top left corner stands in the window.
     void paint(graphics::PaintContext& context, const graphics::PaintState& state);
-    // The picture alone, with the corner at (0, 0): the list of the last call where nothing has changed or moves since.
+    // The picture with the corner at (0, 0). As long as nothing changes or moves, this is the list of the last call.
     const graphics::DisplayList& displayList();
     // One tree for each outermost view, in window points; `window` is what can be seen at all.
     std::vector<accessibility::Node> semanticNodes(const graphics::PaintState& state, const geometry::Rect& window,
@@ -85,7 +85,7 @@ public:
     void setLayoutHandler(std::function<void()> handler) { m_layoutHandler = std::move(handler); }
 
     // --- Input, in the host's coordinates
-    // Whether the touch that began here belongs to something inside; moved, ended and cancelled touches follow the one that began.
+    // Whether something inside has the touch. What has it when it begins gets its moves and its end too.
     bool touch(const host::Touch& touch) { return m_touches.touch(touch); }
     bool hits(geometry::Point location);
     bool scroll(geometry::Point location, geometry::Point delta) { return m_touches.scroll(location, delta); }
@@ -96,23 +96,23 @@ public:
     // --- For nodes
     double now_s() const { return runloop::MainRunLoop::main().now_s(); }
     void setNeedsDisplay();
-    // The picture moves by itself until then.
+    // The picture moves by itself until `end_s`.
     void noteAnimation(double end_s);
-    // The same, where everything stays inside the places that it has been laid out in: content that is scrolled.
+    // The same for scrolled content, which stays inside the places that the layout has given it.
     void noteScrolling(double end_s);
-    // Whether views may be seen outside their places.
+    // Whether views may be seen outside the places that the layout has given them.
     bool isMoving() const;
-    // Its `afterLayout` is called once, after the layout of the update under way or, outside updates, of the next one.
+    // Calls its afterLayout() once: after the layout of the update under way, or of the next one if there is none.
     void addPostLayoutObserver(PostLayoutObserver& observer);
-    // Views may have come on screen or left it without a new layout: a scroll view moved. Told to onAppear and onDisappear in the
-    // update that follows.
+    // To be called when views may have come on screen or left it without a layout, as when a scroll view moves. onAppear and
+    // onDisappear are told in the next update.
     void setNeedsAppearanceUpdate();
     Node* rootNode() const;
     // The animation by which frames change in the layout under way; null outside layouts and for changes that are not animated.
     const motion::Animation* layoutAnimation() const { return m_layoutAnimation; }
     void setLayoutAnimation(const motion::Animation* animation) { m_layoutAnimation = animation; }
 
-    // While it lives the host stays alive, and so do nodes that leave the tree: for calls to actions, which may do anything.
+    // Keeps the host alive, and also the nodes that leave the tree meanwhile. Held during calls to actions, which may do anything.
     class Hold {
     public:
         explicit Hold(ViewHost& host);
@@ -132,7 +132,7 @@ private:
 
     explicit ViewHost(std::function<View()> root);
     void requestUpdate();
-    // For changes inside: only what has changed is shown by the animation in force.
+    // For changes inside the tree: the animation in force is used only for what has changed.
     void setNeedsBuild();
     void bringUpToDate();
     void build();
@@ -178,8 +178,8 @@ private:
     bool m_hasToldDisplay = false;
     bool m_needsAppearanceUpdate = true;
     bool m_hasResized = false;
-    bool m_listIsOwn = false;          // m_displayList is what has been painted last
-    bool m_hasPositionChanged = false; // of something around the node being placed
+    bool m_listIsOwn = false;          // m_displayList is the newest picture
+    bool m_hasPositionChanged = false; // a node around the one being placed has moved
 };
 
 // Something that waits for a layout to end: change and appearance handlers.
@@ -189,7 +189,7 @@ public:
     virtual void afterLayout() = 0;
 
 protected:
-    // Where it is known, so that it is not called after its end.
+    // The host that knows it, which must forget it when it ends.
     ViewHost* m_observedHost = nullptr;
     friend class ViewHost;
 };

@@ -18,7 +18,7 @@ namespace {
 // Handlers that keep changing what they watch would never end.
 constexpr int maximumPassCount = 32;
 
-// A view without length is on screen where it would stand.
+// A view of no length is on screen if its place is.
 bool isPartlyInside(double start, double end, double windowStart, double windowEnd) {
     return start < windowEnd && (end > windowStart || (end == start && start == windowStart));
 }
@@ -101,7 +101,7 @@ void ViewHost::addPostLayoutObserver(PostLayoutObserver& observer) {
 bool ViewHost::runObservers() {
     if (m_observers.empty()) return false;
     std::swap(m_observers, m_runningObservers);
-    // By index, because an observer that goes away leaves a null in its place.
+    // By index: the list may change in a call, and an observer that goes away leaves a null in its place.
     for (std::size_t i = 0; i < m_runningObservers.size(); ++i)
         if (m_runningObservers[i]) m_runningObservers[i]->afterLayout();
     m_runningObservers.clear();

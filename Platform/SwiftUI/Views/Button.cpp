@@ -3,14 +3,14 @@
 #include "Platform/SwiftUI/Gestures/TapTarget.hpp"
 #include "Platform/SwiftUI/Tree/BuildContext.hpp"
 #include "Platform/SwiftUI/Tree/GestureHandler.hpp"
-#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ValueElement.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 #include "Platform/SwiftUI/Views/ButtonStyle.hpp"
 
 namespace proupsells::swiftui {
 namespace {
 
-// How far past its edges a button still counts as held: fingers roll.
+// How far off its edges the finger may slip while the button still counts as held.
 constexpr double slack = 44;
 
 // What the style makes of the label.
@@ -42,7 +42,7 @@ public:
     }
     GestureHandler* gestureHandler() override { return this; }
 
-    // A disabled button keeps the touch from what is around it all the same.
+    // A disabled button takes the touch too, so that nothing around it gets it.
     bool touchBegan(const TouchEvent&) override {
         setPressed(environment().isEnabled);
         return true;

@@ -6,8 +6,8 @@
 
 namespace proupsells::swiftui {
 
-// Acts when a finger that came down on it lifts, however long it stayed, unless it has slipped off further than a finger's width or
-// a scroll view has claimed it. The whole frame answers. Looks as the style in force makes it; see ButtonStyle.
+// Acts when a finger that came down on it lifts. It does not act if the finger has slipped off by more than a finger's width, or if
+// a scroll view has claimed the touch. The whole frame answers. The style in force decides how it looks; see ButtonStyle.
 struct Button {
     Action action;
     View label;

@@ -22,7 +22,7 @@ public:
     // Called at every build, and when the finger comes and goes.
     virtual View body(const ButtonStyleConfiguration& configuration, BuildContext& context) const = 0;
 
-    // The label, dimmed while it is pressed and while it is disabled. What buttons have unless told otherwise.
+    // The label, dimmed while it is pressed or disabled. Buttons have this style unless they are given another one.
     static const std::shared_ptr<const ButtonStyle>& automatic();
     // The label alone, pressed or not.
     static const std::shared_ptr<const ButtonStyle>& plain();

@@ -2,6 +2,7 @@
 
 #include "Platform/SwiftUI/Layout/StackNode.hpp"
 #include "Platform/SwiftUI/Modifiers/LifecycleModifiers.hpp"
+#include "Platform/SwiftUI/Tree/ValueElement.hpp"
 
 namespace proupsells::swiftui {
 

@@ -8,7 +8,7 @@
 
 namespace proupsells::swiftui {
 
-// Views are known by their keys: one that moves in the list keeps its state. A key that occurs twice is told apart by its order.
+// Views are known by their keys, so one that moves in the list keeps its state. Views with equal keys are known by their order.
 class ForEach {
 public:
     // `key(element)` gives a number or a text, `view(element)` the view.

@@ -1,7 +1,7 @@
 #include "Platform/SwiftUI/Views/GeometryReader.hpp"
 
 #include "Platform/SwiftUI/Layout/SafeArea.hpp"
-#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ValueElement.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
 namespace proupsells::swiftui {
@@ -15,7 +15,7 @@ public:
     void adopt(GeometryReader&& reader, UpdatePass& pass) {
         m_content = std::move(reader.content);
         if (isNew()) setDependsOnPosition();
-        // With the size of the last layout; should it change in the next one, the content is made once more.
+        // With the size of the last layout. If the next layout changes it, the content is made again.
         else if (m_isSized)
             build(pass);
     }

@@ -12,8 +12,8 @@ struct GeometryProxy {
     geometry::EdgeInsets safeAreaInsets; // of those that the reader touches
 };
 
-// Takes all that it is offered and puts its content at its top leading corner. The content is made when the size is known, again
-// when it changes, and whenever the view around is built: it must not capture Views.
+// Takes all that it is offered and puts its content at its top leading corner. `content` is called once the size is known, when
+// the size changes, and whenever the view around is built. It must not capture Views, which are good for one build only.
 struct GeometryReader {
     Callback<View(const GeometryProxy&)> content;
 

@@ -1,6 +1,6 @@
 #include "Platform/SwiftUI/Views/Image.hpp"
 
-#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ValueElement.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
 namespace proupsells::swiftui {

@@ -6,8 +6,8 @@
 
 namespace proupsells::swiftui {
 
-// Natural size unless resizable, which takes the size it is offered. A tinted image is painted in the foreground style. Absent
-// images have no size.
+// Has the image's natural size; a resizable one takes the size that it is offered. A tinted image is painted in the foreground
+// style. An absent image has no size.
 struct Image {
     graphics::ImageRef image;
     bool isResizable = false;

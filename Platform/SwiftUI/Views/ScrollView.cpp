@@ -7,8 +7,8 @@
 #include "Platform/Motion/ScrollAxis.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Platform/SwiftUI/Tree/GestureHandler.hpp"
-#include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/SemanticContext.hpp"
+#include "Platform/SwiftUI/Tree/ValueElement.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 #include "Platform/SwiftUI/Views/Stacks.hpp"
 

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ValueElement.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 #include "Platform/SwiftUI/Views/Shapes.hpp"
 

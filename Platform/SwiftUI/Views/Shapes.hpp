@@ -13,7 +13,7 @@
 
 namespace proupsells::swiftui {
 
-// A shape of one's own: `path(in: rect)`, with one number that animates. Same type and same number: same path.
+// A custom shape: a path for a rectangle, with one number that may animate. The same type and number must give the same path.
 struct CustomShape {
     geometry::Path (*path)(const geometry::Rect& rect, double animatableData) = nullptr;
     double animatableData = 0;
@@ -48,7 +48,7 @@ public:
     const std::optional<graphics::Color>& color() const { return m_color; }
     double animatableData() const { return m_custom.animatableData; }
     Shape withAnimatableData(double value) const;
-    // Of the rectangle that the shape stands in, cut to half its shorter side.
+    // The corners' radius in this rectangle: at most half of its shorter side.
     double cornerRadiusIn(const geometry::Rect& rect) const;
     // The outline's own rectangle: inset applied, circles made square.
     geometry::Rect outlineRect(const geometry::Rect& rect) const;

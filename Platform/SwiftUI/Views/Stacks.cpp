@@ -1,6 +1,7 @@
 #include "Platform/SwiftUI/Views/Stacks.hpp"
 
 #include "Platform/SwiftUI/Layout/StackNode.hpp"
+#include "Platform/SwiftUI/Tree/ValueElement.hpp"
 
 namespace proupsells::swiftui {
 
@@ -86,7 +87,7 @@ public:
     }
 
     bool isSpacer() const override { return true; }
-    // Everything else is served first; a spacer gets what is left over its minimum.
+    // All other views come first. A spacer takes what they leave, if that is more than its minimum.
     double layoutPriority() const override { return -geometry::infinity; }
     LengthRange lengthRange(Axis axis, std::optional<double>) override {
         const auto stretched = axisAround();
@@ -107,7 +108,7 @@ protected:
     }
 
 private:
-    // Looked up every time: the stack around may be another one after a rebuild.
+    // Not remembered, because a rebuild may put another stack around it.
     const Node* containerAround() const {
         for (const Node* outer = parent(); outer; outer = outer->parent()) {
             if (outer->stackAxis()) return outer;

@@ -34,14 +34,14 @@ struct ZStack {
     Element* makeElement() &&;
 };
 
-// Takes the room that the other views of its stack leave; both ways outside stacks.
+// Takes the room that the other views of its stack leave. Outside stacks it takes all room in both directions.
 struct Spacer {
     double minLength = defaultSpacing;
 
     Element* makeElement() &&;
 };
 
-// Views without a layout of their own: the container around lays them out. Alone, they make a column.
+// Views that the container around lays out as if they were its own. Without a container they make a column.
 struct Group {
     ViewList content;
 

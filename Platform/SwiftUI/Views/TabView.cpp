@@ -10,7 +10,8 @@
 #include "Platform/SwiftUI/Animation/PageFade.hpp"
 #include "Platform/SwiftUI/Animation/Transaction.hpp"
 #include "Platform/SwiftUI/Tree/GestureHandler.hpp"
-#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ModifierNode.hpp"
+#include "Platform/SwiftUI/Tree/ValueElement.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
 namespace proupsells::swiftui {

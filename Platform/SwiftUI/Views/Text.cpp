@@ -5,7 +5,7 @@
 
 #include "Platform/Graphics/TextPainting.hpp"
 #include "Platform/Host/TextCache.hpp"
-#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ValueElement.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 #include "Platform/SwiftUI/Views/TextStyle.hpp"
 
