@@ -1,6 +1,9 @@
 // A headline and an explanation as a section's footer.
 #pragma once
 
+#include <string>
+#include <utility>
+
 #include "Platform/UIKit/Collection/UICollectionViewCell.hpp"
 #include "ProUpsells/TitleSubtitleLabels.hpp"
 

@@ -1,6 +1,10 @@
 // A shelf's headline and explanation.
 #pragma once
 
+#include <memory>
+#include <string>
+#include <utility>
+
 #include "Platform/Foundation/Coder.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 #include "ProUpsells/TitleSubtitleLabels.hpp"

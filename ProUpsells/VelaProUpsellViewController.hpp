@@ -56,9 +56,9 @@ public:
     // Options and prices that are set after the view has loaded reach the paywall at once.
     const std::vector<SubscriptionOption>& options() const { return m_options; }
     // May be called at any time, also from inside a delegate's call, with an empty list or with one that has a plan at the selected
-    // place. Places are those on the paywall: yearly plans come first, then monthly ones, without lifetime plans. A list that is too
-    // short stops the program: "Index out of range: the selected option is number 1 of 1". So does one whose first monthly plan has
-    // the price "0" while its first yearly price is a number: "The savings percentage is not a whole number that can be shown".
+    // place. Places are those on the paywall: yearly plans come first, then monthly ones, without lifetime plans. A list that is
+    // too short stops the program: "Index out of range: the selected option is number 1 of 1". So does one whose first monthly plan
+    // has the price "0" while its first yearly price is a number: "The savings percentage is not a whole number that can be shown".
     void setOptions(std::vector<SubscriptionOption> options);
     // Absent: no promotion, nothing to compare with.
     const std::optional<std::string>& annualSubscriptionPriceForComparisonWithPromotionalPrice() const {

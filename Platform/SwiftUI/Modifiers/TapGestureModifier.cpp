@@ -4,8 +4,9 @@
 
 #include "Platform/SwiftUI/Gestures/TapTarget.hpp"
 #include "Platform/SwiftUI/Tree/GestureHandler.hpp"
-#include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/ModifierNode.hpp"
 #include "Platform/SwiftUI/Tree/SemanticContext.hpp"
+#include "Platform/SwiftUI/Tree/ValueElement.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
 namespace proupsells::swiftui {
