@@ -1,6 +1,7 @@
 #include "ProUpsells/Version.hpp"
 
+// No code reads them, so the linker is told to keep them.
 extern "C" {
-const double ProUpsellsVersionNumber = 1;
-const unsigned char ProUpsellsVersionString[] = "@(#)PROGRAM:ProUpsells  PROJECT:ProUpsells-1\n";
+[[gnu::used, gnu::retain]] const double ProUpsellsVersionNumber = 1;
+[[gnu::used, gnu::retain]] const unsigned char ProUpsellsVersionString[] = "@(#)PROGRAM:ProUpsells  PROJECT:ProUpsells-1\n";
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 extern "C" {
-extern const double ProUpsellsVersionNumber;
+[[gnu::visibility("default")]] extern const double ProUpsellsVersionNumber;
 // Ends with a line feed.
-extern const unsigned char ProUpsellsVersionString[];
+[[gnu::visibility("default")]] extern const unsigned char ProUpsellsVersionString[];
 }
