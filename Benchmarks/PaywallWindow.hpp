@@ -5,7 +5,7 @@
 
 #include "Platform/Hosting/UIHostingController.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
-#include "ProUpsells/Upsell View/UpsellViewController.hpp"
+#include "ProUpsells/UpsellViewController.hpp"
 #include "ProUpsells/VelaProUpsellViewController.hpp"
 
 namespace proupsells::benchmarks {

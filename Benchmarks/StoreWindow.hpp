@@ -3,6 +3,7 @@
 
 #include "Backends/Qt/RasterSurface.hpp"
 #include "Benchmarks/PaywallWindow.hpp"
+#include "Platform/UIKit/Collection/UICollectionView.hpp"
 #include "ProUpsells/VelaProStorePageViewController.hpp"
 
 namespace proupsells::benchmarks {

@@ -2,7 +2,9 @@
 #include <limits>
 
 #include "Platform/Foundation/Bundle.hpp"
+#include "Platform/UIKit/Collection/UICollectionView.hpp"
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
+#include "Platform/VelaUIKit/ChargedButton.hpp"
 #include "Platform/VelaUIKit/Colors.hpp"
 #include "ProUpsells/CallToActionButtonProvider.hpp"
 #include "ProUpsells/FooterView.hpp"

@@ -4,7 +4,9 @@
 #include <utility>
 
 #include "Platform/RunLoop/MainRunLoop.hpp"
+#include "Platform/UIKit/Collection/UICollectionView.hpp"
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
+#include "Platform/VelaUIKit/VideoView.hpp"
 #include "ProUpsells/BrandAssetsShelf.hpp"
 #include "ProUpsells/LayoutCollectionsShelf.hpp"
 #include "ProUpsells/LibraryClips.hpp"

@@ -8,16 +8,20 @@
 #include <vector>
 
 #include "Platform/Foundation/Coder.hpp"
-#include "Platform/UIKit/Collection/UICollectionView.hpp"
+#include "Platform/UIKit/Collection/UICollectionViewDataSource.hpp"
+#include "Platform/UIKit/Collection/UICollectionViewDelegateFlowLayout.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
-#include "Platform/VelaUIKit/ChargedButton.hpp"
-#include "Platform/VelaUIKit/VideoView.hpp"
 #include "ProUpsells/Entitlement.hpp"
 #include "ProUpsells/ProUpsellControllerType.hpp"
 #include "ProUpsells/ProUpsellEventTracker.hpp"
 #include "ProUpsells/PromotionalPricingUpsell.hpp"
 #include "ProUpsells/Referrer.hpp"
 #include "ProUpsells/VelaProStorePageShelf.hpp"
+
+namespace proupsells::velauikit {
+class ChargedButton;
+class VideoView;
+} // namespace proupsells::velauikit
 
 namespace proupsells {
 

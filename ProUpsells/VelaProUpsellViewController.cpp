@@ -7,7 +7,7 @@
 #include "ProUpsells/PromotionalPricingUpsell.hpp"
 #include "ProUpsells/Tell.hpp"
 #include "ProUpsells/UnsupportedInitializer.hpp"
-#include "ProUpsells/Upsell View/UpsellViewController.hpp"
+#include "ProUpsells/UpsellViewController.hpp"
 #include "ProUpsells/VelaProStorePageViewController.hpp"
 
 namespace proupsells {

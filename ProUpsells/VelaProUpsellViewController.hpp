@@ -16,7 +16,7 @@
 #include "ProUpsells/ProUpsellEventTracker.hpp"
 #include "ProUpsells/Promotion.hpp"
 #include "ProUpsells/Referrer.hpp"
-#include "ProUpsells/Upsell View/UpsellViewControllerDelegate.hpp"
+#include "ProUpsells/UpsellViewControllerDelegate.hpp"
 #include "ProUpsells/VelaProUpsellViewControllerDelegate.hpp"
 
 namespace proupsells {

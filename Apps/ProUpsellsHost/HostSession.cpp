@@ -8,7 +8,7 @@
 #include "Backends/Qt/QtTextShaper.hpp"
 #include "Platform/Commons/DefaultLogger.hpp"
 #include "Platform/Foundation/Bundle.hpp"
-#include "ProUpsells/Upsell View/UpsellViewController.hpp"
+#include "ProUpsells/UpsellViewController.hpp"
 #include "ProUpsells/VelaProStorePageViewController.hpp"
 
 namespace proupsells::hostprogram {

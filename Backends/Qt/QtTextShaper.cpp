@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "Backends/Qt/BidiLevels.hpp"
+#include "Backends/Qt/FontCatalog.hpp"
 #include "Backends/Qt/QtShapedText.hpp"
 #include "Backends/Qt/TextClusters.hpp"
 
@@ -227,12 +228,16 @@ std::uint32_t endOfPiece(const QtShapedText& text, const std::vector<std::uint32
 
 } // namespace
 
+QtTextShaper::QtTextShaper() : m_catalog(std::make_unique<FontCatalog>()) {}
+
+QtTextShaper::~QtTextShaper() = default;
+
 std::shared_ptr<const graphics::ShapedText> QtTextShaper::shape(std::span<const StyledRun> runs, std::string_view,
                                                                 LayoutDirection direction) {
     auto result = std::make_shared<QtShapedText>();
     result->runs.assign(runs.begin(), runs.end());
     for (const StyledRun& run : runs) {
-        const InstalledFace& face = m_catalog.face(run.font.face);
+        const InstalledFace& face = m_catalog->face(run.font.face);
         result->metrics.push_back({face.ascent * pointSize(run), face.descent * pointSize(run)});
     }
 
@@ -243,7 +248,7 @@ std::shared_ptr<const graphics::ShapedText> QtTextShaper::shape(std::span<const 
     const auto count = std::uint32_t(result->clusters.size());
     result->groupStarts.resize(count);
     result->glyphStarts.resize(count + 1);
-    PieceShaper shaper(*result, text, unitStarts, m_catalog);
+    PieceShaper shaper(*result, text, unitStarts, *m_catalog);
     for (std::uint32_t first = 0; first < count;) {
         const std::uint32_t end = endOfPiece(*result, unitStarts, first);
         if (end > first) shaper.shape(first, end);

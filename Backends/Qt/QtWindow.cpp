@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "Backends/Qt/QtAccessibility.hpp"
+#include "Backends/Qt/RasterSurface.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
 namespace proupsells::qtbackend {
@@ -36,6 +37,7 @@ std::optional<host::Key> keyOf(int key) {
 
 QtWindow::QtWindow(std::shared_ptr<host::WindowContent> content, const WindowOptions& options)
     : m_content(std::move(content)), m_safeArea(options.safeArea), m_store(this),
+      m_surface(std::make_unique<qtbackend::RasterSurface>()),
       m_accessibility(std::make_unique<QtAccessibility>(*this, *m_content)) {
     setSurfaceType(QSurface::RasterSurface);
     setTitle(QString::fromStdString(options.title));
@@ -93,8 +95,8 @@ void QtWindow::showFrame(bool isWhole) {
     // What a touch has changed is brought up to date before it is shown.
     loop.runDueTurns();
     m_content->paint(m_list);
-    m_surface.present(m_list, sizeInPoints(), devicePixelRatio());
-    const bool hasChanged = !m_surface.lastDamage().empty();
+    m_surface->present(m_list, sizeInPoints(), devicePixelRatio());
+    const bool hasChanged = !m_surface->lastDamage().empty();
     if (hasChanged || isWhole) flush(isWhole);
     if (hasChanged) m_accessibility->update();
     if (m_content->isAnimating()) scheduleNextFrame(start_s);
@@ -102,7 +104,7 @@ void QtWindow::showFrame(bool isWhole) {
 }
 
 void QtWindow::flush(bool isWhole) {
-    const QImage& image = m_surface.image();
+    const QImage& image = m_surface->image();
     if (image.isNull()) return;
     ++m_frameCount;
     if (m_store.size() != size()) {
@@ -111,7 +113,7 @@ void QtWindow::flush(bool isWhole) {
     }
     const double scale = devicePixelRatio();
     QRegion region;
-    for (const PixelRect& rect : m_surface.lastDamage()) {
+    for (const PixelRect& rect : m_surface->lastDamage()) {
         const int left = int(std::floor(rect.left / scale)), top = int(std::floor(rect.top / scale));
         region += QRect(left, top, int(std::ceil(rect.right / scale)) - left, int(std::ceil(rect.bottom / scale)) - top);
     }

@@ -9,12 +9,12 @@
 #include <optional>
 #include <string>
 
-#include "Backends/Qt/RasterSurface.hpp"
 #include "Platform/Host/WindowContent.hpp"
 
 namespace proupsells::qtbackend {
 
 class QtAccessibility;
+class RasterSurface;
 
 struct WindowOptions {
     std::string title;
@@ -33,7 +33,7 @@ public:
     // Told when the person has closed the window; it must not be destroyed there.
     void setCloseHandler(std::function<void()> handler) { m_closeHandler = std::move(handler); }
 
-    const qtbackend::RasterSurface& surface() const { return m_surface; }
+    const qtbackend::RasterSurface& surface() const { return *m_surface; }
     // How many frames were shown so far.
     int frameCount() const { return m_frameCount; }
 
@@ -64,7 +64,7 @@ private:
     geometry::PhysicalInsets m_safeArea;
     std::function<void()> m_closeHandler;
     QBackingStore m_store;
-    qtbackend::RasterSurface m_surface;
+    std::unique_ptr<qtbackend::RasterSurface> m_surface;
     graphics::DisplayList m_list;
     QTimer m_frameTimer;
     int m_frameCount = 0;

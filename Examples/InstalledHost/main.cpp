@@ -1,11 +1,8 @@
 // Embedding the paywall in a test: no window, a virtual clock, and a tap that ends in a purchase.
 
+#include <ProUpsells/Headless.hpp>
+#include <ProUpsells/ProUpsells.hpp>
 #include <iostream>
-
-#include "Backends/Headless/TestBed.hpp"
-#include "Platform/Accessibility/Search.hpp"
-#include "Platform/UIKit/Controllers/UIWindow.hpp"
-#include "ProUpsells/VelaProUpsellViewController.hpp"
 
 using namespace proupsells;
 

@@ -1,4 +1,4 @@
-#include "ProUpsells/Upsell View/UpsellViewController.hpp"
+#include "ProUpsells/UpsellViewController.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -7,9 +7,9 @@
 #include "Platform/SwiftUI/Modifiers/EnvironmentModifiers.hpp"
 #include "Platform/VelaUIKit/Colors.hpp"
 #include "Platform/VelaUIKit/HostingControllers.hpp"
+#include "ProUpsells/PreparedOptions.hpp"
 #include "ProUpsells/Tell.hpp"
 #include "ProUpsells/UnsupportedInitializer.hpp"
-#include "ProUpsells/Upsell View/PreparedOptions.hpp"
 #include "ProUpsells/UpsellEnvironment.hpp"
 #include "ProUpsells/UpsellView.hpp"
 

@@ -5,7 +5,7 @@
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
-#include "ProUpsells/Upsell View/UpsellViewController.hpp"
+#include "ProUpsells/UpsellViewController.hpp"
 #include "ProUpsells/VelaProUpsellViewController.hpp"
 #include "Tests/ProUpsells/Ledger.hpp"
 #include "Tests/ProUpsells/Offers.hpp"

@@ -1,5 +1,5 @@
 // The way from the paywall to the store page and back.
-#include "ProUpsells/Upsell View/UpsellViewController.hpp"
+#include "ProUpsells/UpsellViewController.hpp"
 #include "ProUpsells/VelaProUpsellViewController.hpp"
 #include "Tests/ProUpsells/StoreScreen.hpp"
 

@@ -10,7 +10,9 @@
 
 #include "Backends/Headless/FakeClipDecoder.hpp"
 #include "Backends/Headless/TestBed.hpp"
+#include "Platform/UIKit/Collection/UICollectionView.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
+#include "Platform/VelaUIKit/ChargedButton.hpp"
 #include "ProUpsells/StorePageShelfViewController.hpp"
 #include "ProUpsells/VelaProStorePageViewController.hpp"
 #include "Tests/ProUpsells/Ledger.hpp"

@@ -1,4 +1,4 @@
-#include "ProUpsells/Upsell View/UpsellViewController.hpp"
+#include "ProUpsells/UpsellViewController.hpp"
 
 #include <gmock/gmock.h>
 

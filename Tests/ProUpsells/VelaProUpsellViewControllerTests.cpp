@@ -4,7 +4,7 @@
 
 #include "Platform/UIKit/Controllers/PresentationObserver.hpp"
 #include "ProUpsells/ComparisonViewController.hpp"
-#include "ProUpsells/Upsell View/UpsellViewController.hpp"
+#include "ProUpsells/UpsellViewController.hpp"
 #include "Tests/ProUpsells/Ledger.hpp"
 #include "Tests/ProUpsells/Offers.hpp"
 #include "Tests/ProUpsells/Screen.hpp"

@@ -1,12 +1,16 @@
 // Says what a collection shows.
 #pragma once
 
+#include <cstddef>
+#include <memory>
+
 #include "Platform/UIKit/Collection/IndexPath.hpp"
-#include "Platform/UIKit/Collection/UICollectionViewCell.hpp"
 
 namespace proupsells::uikit {
 
+class UICollectionReusableView;
 class UICollectionView;
+class UICollectionViewCell;
 
 enum class UICollectionElementKind { sectionHeader, sectionFooter };
 

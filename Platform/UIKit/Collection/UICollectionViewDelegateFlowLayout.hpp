@@ -1,8 +1,10 @@
 // Says how large a collection's items are, and is told which of them can be seen.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 
+#include "Platform/Geometry/Geometry.hpp"
 #include "Platform/UIKit/Collection/UICollectionViewDataSource.hpp"
 #include "Platform/UIKit/Views/UIScrollViewDelegate.hpp"
 

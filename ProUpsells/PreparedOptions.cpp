@@ -1,4 +1,4 @@
-#include "ProUpsells/Upsell View/PreparedOptions.hpp"
+#include "ProUpsells/PreparedOptions.hpp"
 
 #include <algorithm>
 

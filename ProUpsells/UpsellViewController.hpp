@@ -13,7 +13,7 @@
 #include "Platform/VelaUIKit/EmptyStateView.hpp"
 #include "ProUpsells/ProUpsellControllerType.hpp"
 #include "ProUpsells/PromotionalPricingUpsell.hpp"
-#include "ProUpsells/Upsell View/UpsellViewControllerDelegate.hpp"
+#include "ProUpsells/UpsellViewControllerDelegate.hpp"
 #include "ProUpsells/UpsellViewModel.hpp"
 
 namespace proupsells {

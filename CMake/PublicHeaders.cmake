@@ -1,0 +1,105 @@
+# What a host may include, library by library: these headers are installed, and nothing else is. A host names the umbrella headers of
+# Include/; the others are what those include. Everything that is not listed is free to change.
+# The test PublicHeaders holds the list against the includes and against what is installed.
+
+include_guard(GLOBAL)
+
+set(PROUPSELLS_Platform_HEADERS
+  Platform/Accessibility/Node.hpp
+  Platform/Accessibility/Search.hpp
+  Platform/Combine/AnyCancellable.hpp
+  Platform/Combine/AnyPublisher.hpp
+  Platform/Combine/ObservableObject.hpp
+  Platform/Combine/PassthroughSubject.hpp
+  Platform/Commons/DefaultLogger.hpp
+  Platform/Commons/SourceLocation.hpp
+  Platform/Foundation/Bundle.hpp
+  Platform/Foundation/Coder.hpp
+  Platform/Foundation/Locale.hpp
+  Platform/Foundation/LocaleServices.hpp
+  Platform/Geometry/Axis.hpp
+  Platform/Geometry/Geometry.hpp
+  Platform/Geometry/Path.hpp
+  Platform/Geometry/Transform.hpp
+  Platform/Graphics/AttributedString.hpp
+  Platform/Graphics/Color.hpp
+  Platform/Graphics/ContentSize.hpp
+  Platform/Graphics/DisplayList.hpp
+  Platform/Graphics/Font.hpp
+  Platform/Graphics/Image.hpp
+  Platform/Graphics/PaintContext.hpp
+  Platform/Graphics/ShapedText.hpp
+  Platform/Graphics/TextLayout.hpp
+  Platform/Host/ClipDecoder.hpp
+  Platform/Host/ImageDecoder.hpp
+  Platform/Host/Services.hpp
+  Platform/Host/TextShaper.hpp
+  Platform/Host/WindowContent.hpp
+  Platform/RunLoop/Clock.hpp
+  Platform/RunLoop/MainRunLoop.hpp
+  Platform/RunLoop/Timer.hpp
+  Platform/RunLoop/UpdateClient.hpp
+  Platform/UIKit/Collection/IndexPath.hpp
+  Platform/UIKit/Collection/UICollectionViewDataSource.hpp
+  Platform/UIKit/Collection/UICollectionViewDelegateFlowLayout.hpp
+  Platform/UIKit/Constraints/LayoutItem.hpp
+  Platform/UIKit/Constraints/NSLayoutAnchor.hpp
+  Platform/UIKit/Controllers/PresentationObserver.hpp
+  Platform/UIKit/Controllers/UIModalPresentationStyle.hpp
+  Platform/UIKit/Controllers/UINavigationItem.hpp
+  Platform/UIKit/Controllers/UIViewController.hpp
+  Platform/UIKit/Controllers/UIWindow.hpp
+  Platform/UIKit/Controls/UIBarButtonItem.hpp
+  Platform/UIKit/Controls/UIButton.hpp
+  Platform/UIKit/Controls/UIControl.hpp
+  Platform/UIKit/Views/UIKitTypes.hpp
+  Platform/UIKit/Views/UIResponder.hpp
+  Platform/UIKit/Views/UIScrollViewDelegate.hpp
+  Platform/UIKit/Views/UITouch.hpp
+  Platform/UIKit/Views/UITraitCollection.hpp
+  Platform/UIKit/Views/UIView.hpp
+  Platform/VelaUIKit/EmptyStateView.hpp
+)
+set(PROUPSELLS_ProUpsells_HEADERS
+  Include/ProUpsells/ProUpsells.hpp
+  ProUpsells/CallToActionButtonProvider.hpp
+  ProUpsells/ComparisonViewControllerDelegate.hpp
+  ProUpsells/Entitlement.hpp
+  ProUpsells/PersonalizedInfo.hpp
+  ProUpsells/ProUpsellControllerType.hpp
+  ProUpsells/ProUpsellEventTracker.hpp
+  ProUpsells/Promotion.hpp
+  ProUpsells/PromotionalPricingUpsell.hpp
+  ProUpsells/Referrer.hpp
+  ProUpsells/SubscriptionOption.hpp
+  ProUpsells/UpsellViewController.hpp
+  ProUpsells/UpsellViewControllerDelegate.hpp
+  ProUpsells/UpsellViewModel.hpp
+  ProUpsells/VelaProStorePageShelf.hpp
+  ProUpsells/VelaProStorePageViewController.hpp
+  ProUpsells/VelaProUpsellViewController.hpp
+  ProUpsells/VelaProUpsellViewControllerDelegate.hpp
+  ProUpsells/Version.hpp
+)
+set(PROUPSELLS_Headless_HEADERS
+  Backends/Headless/FixedTextShaper.hpp
+  Backends/Headless/TestBed.hpp
+  Include/ProUpsells/Headless.hpp
+)
+set(PROUPSELLS_Qt_HEADERS
+  Backends/Qt/Application.hpp
+  Backends/Qt/QtImageDecoder.hpp
+  Backends/Qt/QtRunLoopDriver.hpp
+  Backends/Qt/QtTextShaper.hpp
+  Backends/Qt/QtWindow.hpp
+  Include/ProUpsells/Qt.hpp
+)
+set(PROUPSELLS_Icu_HEADERS
+  Backends/Icu/IcuLocaleServices.hpp
+  Include/ProUpsells/Icu.hpp
+)
+set(PROUPSELLS_FFmpeg_HEADERS
+  Backends/FFmpeg/ClipPlugin.hpp
+  Backends/FFmpeg/LazyClipDecoder.hpp
+  Include/ProUpsells/FFmpeg.hpp
+)

@@ -1,0 +1,4 @@
+// Clips by FFmpeg.
+#pragma once
+
+#include "Backends/FFmpeg/LazyClipDecoder.hpp"

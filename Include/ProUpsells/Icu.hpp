@@ -1,0 +1,4 @@
+// Locale data from ICU.
+#pragma once
+
+#include "Backends/Icu/IcuLocaleServices.hpp"

@@ -1,0 +1,25 @@
+// Everything that a host needs of the module and of the toolkit under it. A backend has a header of its own beside this one.
+#pragma once
+
+// The screens, what they sell, and who is told.
+#include "ProUpsells/CallToActionButtonProvider.hpp"
+#include "ProUpsells/SubscriptionOption.hpp"
+#include "ProUpsells/UpsellViewController.hpp"
+#include "ProUpsells/VelaProStorePageViewController.hpp"
+#include "ProUpsells/VelaProUpsellViewController.hpp"
+#include "ProUpsells/Version.hpp"
+
+// Showing them.
+#include "Platform/UIKit/Controllers/UIViewController.hpp"
+#include "Platform/UIKit/Controllers/UIWindow.hpp"
+
+// What they need around them.
+#include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/Foundation/Bundle.hpp"
+#include "Platform/Foundation/Locale.hpp"
+#include "Platform/Host/Services.hpp"
+#include "Platform/RunLoop/Clock.hpp"
+#include "Platform/RunLoop/MainRunLoop.hpp"
+
+// Reading the screen back, as a test does.
+#include "Platform/Accessibility/Search.hpp"
