@@ -3,9 +3,10 @@
 
 usage: check_includes.py ROOT
 
-A room may include itself and the rooms below it. ProUpsells/ and Platform/ include nothing but the project's own
-headers and the C++ standard library's. A backend includes Platform/ and its library. Exit status 1 when an include
-points up or out, one line each."""
+A room may include itself and the rooms below it. ProUpsells/ and Platform/ include nothing but the project's own headers and the C++
+standard library's. A backend includes Platform/ and its library. The module's files belong to screens, as
+Docs/architecture.md lists them; no screen includes another. Exit status 1 when an include points up or out, or when a file and that
+list disagree, one line each."""
 import pathlib
 import re
 import sys
@@ -27,6 +28,11 @@ FLOORS = [
     ["Platform/Geometry"],
     ["Platform/Commons"],
 ]
+# A screen of the module includes what it shares with the others, and the entry includes all of them.
+SCREENS_DOCUMENT = "Docs/architecture.md"
+SCREENS = ["Entry", "Paywall", "Comparison", "Store page", "Shared"]
+SCREEN_ROW = re.compile(rf"^\| ({'|'.join(SCREENS)}) \| (.*) \|$", re.MULTILINE)
+
 FLOOR_OF = {room: number for number, floor in enumerate(FLOORS) for room in floor}
 
 STANDARD = set("""algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv chrono cinttypes
@@ -49,8 +55,21 @@ def room_of(path: str) -> str | None:
     return None
 
 
-def complaint(source_room: str, bracket: str, target: str) -> str | None:
-    target_room = room_of(target)
+def listed_screens(document: str) -> dict[str, str]:
+    """The screen of each file name without its ending."""
+    return {name: screen for screen, names in SCREEN_ROW.findall(document) for name in re.findall(r"`([^`]+)`", names)}
+
+
+def complaint_between_screens(screens: dict[str, str], source: str, target: str) -> str | None:
+    """Files that are in no screen have a complaint of their own."""
+    from_screen, to_screen = (screens.get(pathlib.PurePosixPath(path).stem, "Shared") for path in (source, target))
+    if from_screen in ("Entry", to_screen) or to_screen == "Shared":
+        return None
+    return f"{from_screen} never includes {to_screen}"
+
+
+def complaint(screens: dict[str, str], source: str, bracket: str, target: str) -> str | None:
+    source_room, target_room = room_of(source), room_of(target)
     if source_room.startswith("Backends/"):
         if target_room == "ProUpsells":
             return "a backend never includes ProUpsells/"
@@ -65,6 +84,8 @@ def complaint(source_room: str, bracket: str, target: str) -> str | None:
         return "the module and its platform never include a backend"
     if target_room not in FLOOR_OF:
         return f"{target_room} is not a room"
+    if target_room == "ProUpsells" == source_room:
+        return complaint_between_screens(screens, source, target)
     if target_room == source_room:
         return None
     if FLOOR_OF[target_room] <= FLOOR_OF[source_room]:
@@ -72,28 +93,33 @@ def complaint(source_room: str, bracket: str, target: str) -> str | None:
     return None
 
 
+def complaints_about(root: pathlib.Path, path: pathlib.Path, screens: dict[str, str]) -> list[str]:
+    relative = path.relative_to(root).as_posix()
+    room = room_of(relative)
+    if not room.startswith("Backends/") and room not in FLOOR_OF:
+        return [f"{relative}: {room} is not a room"]
+    found = []
+    if room == "ProUpsells" and path.stem not in screens:
+        found.append(f"{relative}: is in no screen of {SCREENS_DOCUMENT}")
+    for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+        if (match := INCLUDE.match(line)) and (why := complaint(screens, relative, *match.groups())):
+            found.append(f"{relative}:{number}: {match.group(2)}: {why}")
+    return found
+
+
 def main() -> int:
     if len(sys.argv) != 2:
         print(__doc__, file=sys.stderr)
         return 2
     root = pathlib.Path(sys.argv[1])
-    failures = files = 0
-    for top in ("ProUpsells", "Platform", "Backends"):
-        for path in sorted(p for p in (root / top).rglob("*") if p.suffix in (".hpp", ".cpp")):
-            files += 1
-            relative = path.relative_to(root).as_posix()
-            room = room_of(relative)
-            if not room.startswith("Backends/") and room not in FLOOR_OF:
-                print(f"{relative}: {room} is not a room")
-                failures += 1
-                continue
-            for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
-                if match := INCLUDE.match(line):
-                    if why := complaint(room, *match.groups()):
-                        print(f"{relative}:{number}: {match.group(2)}: {why}")
-                        failures += 1
-    print(f"{files} files, {failures} includes point the wrong way")
-    return 1 if failures or not files else 0
+    files = [path for top in ("ProUpsells", "Platform", "Backends") for path in sorted((root / top).rglob("*"))
+             if path.suffix in (".hpp", ".cpp")]
+    screens = listed_screens((root / SCREENS_DOCUMENT).read_text(encoding="utf-8"))
+    found = [complaint for path in files for complaint in complaints_about(root, path, screens)]
+    stems = {path.stem for path in files if room_of(path.relative_to(root).as_posix()) == "ProUpsells"}
+    found += [f"{SCREENS_DOCUMENT}: there is no {name}" for name in sorted(set(screens) - stems)]
+    print("\n".join([*found, f"{len(files)} files, {len(found)} complaints"]))
+    return 1 if found or not files else 0
 
 
 if __name__ == "__main__":
