@@ -1,12 +1,11 @@
 # Shared by ./run, ./test and .ci/run; sourced from the repository's root.
 
-# Installs the packages of a list that the machine lacks.
+# Installs the packages of the lists that the machine lacks.
 install_packages() {
-    local list=$1 missing=() package
-    while read -r package; do
-        [[ -z $package || $package == \#* ]] && continue
-        dpkg-query -W -f='${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
-    done < "$list"
+    local wanted missing
+    mapfile -t wanted < <(grep -hv -e '^#' -e '^$' "$@")
+    mapfile -t missing < <(printf '%s\n' "${wanted[@]}" |
+        grep -vxF -f <(dpkg-query -W -f '${Package} ${db:Status-Status}\n' "${wanted[@]}" 2> /dev/null | sed -n 's/ installed$//p'))
     ((${#missing[@]})) || return 0
 
     local as_root=()
@@ -19,14 +18,31 @@ install_packages() {
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" > /dev/null
 }
 
-# Configures and builds a preset. Prints nothing but errors when there is nothing to do.
-build_preset() {
-    local preset=$1 log
+# is_configured PRESET [NAME=VALUE...]: whether the preset's folder is, since the presets last changed and with these options.
+is_configured() {
+    local folder=build/$1 option
+    shift
+    [[ -f $folder/CMakeCache.txt && $folder/build.ninja -nt CMakePresets.json ]] || return 1
+    for option in "$@"; do
+        grep -qE "^${option%%=*}:[A-Z]+=${option#*=}$" "$folder/CMakeCache.txt" || return 1
+    done
+}
+
+# configure_preset PRESET [NAME=VALUE...]: where that is due. Prints nothing but errors. A changed CMake file is the build's own affair.
+configure_preset() {
+    local preset=$1 log status=0
+    is_configured "$@" && return 0
     shift
     log=$(mktemp)
-    if [[ ! -f build/$preset/build.ninja ]]; then
-        cmake --preset "$preset" "$@" > "$log" || { cat "$log" >&2; rm -f "$log"; return 1; }
-    fi
+    cmake --preset "$preset" "${@/#/-D}" > "$log" 2>&1 || status=$?
+    ((status == 0)) || cat "$log" >&2
     rm -f "$log"
-    cmake --build --preset "$preset" -- --quiet
+    return "$status"
+}
+
+# build_preset PRESET [TARGET...]: everything where no target is named. Prints nothing when there is nothing to do.
+build_preset() {
+    local preset=$1
+    shift
+    cmake --build --preset "$preset" ${1:+--target "$@"} -- --quiet
 }
