@@ -77,8 +77,8 @@ TEST_F(LanguageOfTheHost, SetWhileTheComparisonIsShownLeavesItsCatalogueAndHeadi
     const Json root = screen(device("en_US"), openings[1], {{"locale", "de_AT"}}).at(0);
 
     const auto shown = texts(root);
-    EXPECT_THAT(shown, testing::IsSupersetOf({"Content And Assets", "FREE", "auf Deutsch Compare Plans",
-                                              "auf Deutsch Choose Your Plan", "auf Deutsch 3 free"}));
+    EXPECT_THAT(shown,
+                testing::IsSupersetOf({"Content And Assets", "FREE", "auf Deutsch Compare Plans", "auf Deutsch Choose Your Plan"}));
     EXPECT_EQ(find(root, "comparison.close")["label"], "auf Deutsch Close");
 }
 
@@ -93,5 +93,5 @@ TEST_F(LanguageOfTheHost, IsFollowedByPercentagesAndTheDirection) {
     const Json root = screen({{"locale", "en_US"}}, openings[0], {{"locale", "ar_EG"}}).at(0);
 
     EXPECT_THAT(texts(root), Contains(testing::HasSubstr("٤٥")));
-    EXPECT_GT(find(root, "close")["frame"][0], 200);
+    EXPECT_LT(find(root, "close")["frame"][0], 100);
 }
