@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
+#include "ProUpsells/Upsell View/UpsellViewController.hpp"
 #include "ProUpsells/VelaProUpsellViewController.hpp"
 #include "Tests/ProUpsells/Offers.hpp"
 #include "Tests/ProUpsells/Screen.hpp"
@@ -67,6 +68,22 @@ TEST_F(CarouselLifetime, LeavesNothingThatTicksWhenItIsDismissed) {
     bed.runUntil(13); // the pause after the change at 5 s ends unseen
 
     EXPECT_FALSE(bed.loop().nextDueTime_s().has_value());
+}
+
+TEST_F(CarouselLifetime, LeavesNothingThatTicksWhenScreensOverItAreDismissedWithIt) {
+    using TapEvent = UpsellViewModel::TapEvent;
+    for (const TapEvent& event : {TapEvent{TapEvent::ComparePlans{}}, TapEvent{TapEvent::WhatIsPro{}}}) {
+        present();
+        auto& paywall = dynamic_cast<UpsellViewController&>(*entry->children().front());
+        paywall.upsellViewModel()->tapEventOccurred.send(event);
+        bed.runFor(7);
+        ASSERT_TRUE(entry->presentedViewController());
+        dismiss();
+
+        bed.runFor(6);
+
+        EXPECT_FALSE(bed.loop().nextDueTime_s().has_value());
+    }
 }
 
 TEST_F(CarouselLifetime, KeepsAPauseThatEndsBeforeTheFirstTickOfTheNextPresentation) {
