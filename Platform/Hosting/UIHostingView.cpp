@@ -137,7 +137,7 @@ void UIHostingView::paintSubviews(graphics::PaintContext& context, const graphic
 void UIHostingView::appendSubviewNodes(std::vector<accessibility::Node>& nodes, const graphics::PaintState& state) const {
     const auto reveal = [self = uikit::weakReference(const_cast<UIHostingView&>(*this))](const geometry::Rect& inWindow) {
         const auto held = self.lock();
-        if (held) held->scrollRectToVisible({held->convertFrom(inWindow.origin, nullptr), inWindow.size});
+        if (held && held->window()) held->scrollRectToVisible({held->convertFrom(inWindow.origin, nullptr), inWindow.size});
     };
     for (accessibility::Node& node : m_host->semanticNodes(state, state.clip, reveal)) nodes.push_back(std::move(node));
     for (const auto& subview : subviews())

@@ -185,6 +185,29 @@ TEST_F(ControlTest, ActivatingDoesWhatATapDoes) {
     EXPECT_THAT(calls, IsEmpty());
 }
 
+TEST_F(ControlTest, ActivatingRestsForWhatIsDisabledHiddenClosedToTouchesOrGone) {
+    note(UIControl::Event::touchUpInside, "inside");
+    const auto activate = window->semanticTree().children.at(0).activate;
+    UIView& around = *button->superview();
+
+    button->setEnabled(false);
+    activate();
+    button->setEnabled(true);
+    button->setHidden(true);
+    activate();
+    button->setHidden(false);
+    around.setUserInteractionEnabled(false);
+    activate();
+    around.setUserInteractionEnabled(true);
+    EXPECT_THAT(calls, IsEmpty());
+    activate();
+    EXPECT_THAT(takeCalls(), ElementsAre("inside"));
+
+    button->removeFromSuperview();
+    activate();
+    EXPECT_THAT(calls, IsEmpty());
+}
+
 // --- The responder chain ---
 
 class Answering : public RecordingController {

@@ -113,6 +113,21 @@ TEST_F(PageControlTest, AssistiveTechnologyReadsAndAdjustsThePage) {
     EXPECT_EQ(pages->currentPage(), 2);
 }
 
+TEST_F(PageControlTest, AssistiveTechnologyChangesNothingOnceTheControlIsDisabledOrGone) {
+    const accessibility::Node node = window->semanticTree().children.at(0);
+
+    pages->setEnabled(false);
+    node.adjust(1);
+    node.activate();
+    pages->setEnabled(true);
+    pages->removeFromSuperview();
+    node.adjust(1);
+    node.activate();
+
+    EXPECT_THAT(changes, IsEmpty());
+    EXPECT_EQ(pages->currentPage(), 0);
+}
+
 TEST_F(PageControlTest, TheArrowKeysFollowTheLayoutDirection) {
     window->key(host::Key::tab);
     window->key(host::Key::right);

@@ -14,13 +14,23 @@ void TapTarget::adopt(Node& node, Action action) {
 
 void TapTarget::act() const {
     const ViewHost::Hold hold(m_node->host());
-    m_action();
+    if (m_node->environment().isEnabled) m_action();
+}
+
+// Whoever acts without a finger may have looked at the screen long ago, and the update that disables the node or takes it away may
+// still be due.
+void TapTarget::activate() const {
+    ViewHost& host = m_node->host();
+    if (host.weak_from_this().expired()) return;
+    const ViewHost::Hold hold(host);
+    host.update();
+    if (host.isVisible() && !m_node->hasLeft()) act();
 }
 
 std::function<void()> TapTarget::activation() const {
     if (!m_self) m_self = std::make_shared<const TapTarget*>(this);
     return [target = std::weak_ptr(m_self)] {
-        if (const auto living = target.lock()) (*living)->act();
+        if (const auto living = target.lock()) (*living)->activate();
     };
 }
 

@@ -16,12 +16,15 @@ public:
     ~TapTarget();
 
     void adopt(Node& node, Action action);
-    // Runs the newest action. The action may do anything: take the node out of the tree, or release everything.
+    // Runs the newest action, which may do anything: take the node out of the tree, or let go of everything. Does nothing while
+    // the node is disabled.
     void act() const;
-    // The same from outside, at any later time; does nothing once the node is gone.
+    // The same from outside, at any later time. Does nothing where the node has gone or cannot be seen any more.
     std::function<void()> activation() const;
 
 private:
+    void activate() const;
+
     Node* m_node = nullptr;
     Action m_action;
     // Points here for as long as the target lives; made when it is first asked for.

@@ -29,7 +29,7 @@ public:
         if (std::hypot(moved.x, moved.y) > slack) m_isTap = false;
     }
     void touchEnded(const TouchEvent&) override {
-        if (m_isTap && environment().isEnabled) m_target.act();
+        if (m_isTap) m_target.act();
     }
 
 protected:

@@ -35,14 +35,14 @@ void UIControl::setHighlighted(bool highlighted) {
     setNeedsDisplay();
 }
 
-void UIControl::setSelected(bool selected) {
-    if (m_isSelected == selected) return;
-    m_isSelected = selected;
-    setNeedsDisplay();
-}
-
 bool UIControl::isInside(const UITouch& touch) const {
     return bounds().insetBy(-trackingMargin, -trackingMargin).contains(touch.location(*this));
+}
+
+bool UIControl::canBeOperated() const {
+    for (const UIView* view = this; view; view = view->superview())
+        if (view->isHidden() || !view->isUserInteractionEnabled()) return false;
+    return m_isEnabled && window();
 }
 
 void UIControl::touchesBegan(const UITouch&) {
@@ -76,13 +76,12 @@ void UIControl::touchesCancelled(const UITouch&) {
 
 void UIControl::describe(accessibility::Node& node, const graphics::PaintState&) const {
     node.isControl = isUserInteractionEnabled();
-    if (m_isSelected) node.traits = node.traits | accessibility::Traits::selected;
     if (!m_isEnabled) {
         node.traits = node.traits | accessibility::Traits::disabled;
         return;
     }
     node.activate = [control = weakReference(const_cast<UIControl&>(*this))] {
-        if (const auto held = control.lock(); held && held->isEnabled()) held->activate();
+        if (const auto held = control.lock(); held && held->canBeOperated()) held->activate();
     };
 }
 

@@ -43,8 +43,6 @@ public:
     void setEnabled(bool enabled);
     // While a finger is down inside.
     bool isHighlighted() const { return m_isHighlighted; }
-    bool isSelected() const { return m_isSelected; }
-    void setSelected(bool selected);
     // From the finger's coming down to its lifting.
     bool isTracking() const { return m_isTracking; }
 
@@ -63,6 +61,8 @@ protected:
 
     void setHighlighted(bool highlighted);
     bool isInside(const UITouch& touch) const;
+    // Whether those who look at the screen could operate it now: enabled, in a window, and neither hidden nor closed to touches.
+    bool canBeOperated() const;
     void describe(accessibility::Node& node, const graphics::PaintState& state) const override;
 
 private:
@@ -78,7 +78,6 @@ private:
     std::vector<Entry> m_entries;
     bool m_isEnabled = true;
     bool m_isHighlighted = false;
-    bool m_isSelected = false;
     bool m_isTracking = false;
 };
 

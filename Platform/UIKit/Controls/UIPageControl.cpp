@@ -75,7 +75,7 @@ void UIPageControl::describe(accessibility::Node& node, const graphics::PaintSta
     node.traits = node.traits | accessibility::Traits::adjustable;
     if (!isEnabled()) return;
     node.adjust = [control = weakReference(const_cast<UIPageControl&>(*this))](int step) {
-        if (const auto held = control.lock(); held && held->isEnabled()) held->goToPage(held->m_currentPage + step);
+        if (const auto held = control.lock(); held && held->canBeOperated()) held->goToPage(held->m_currentPage + step);
     };
 }
 

@@ -12,7 +12,7 @@ void UIView::setNeedsDisplay() {
 
 graphics::PaintState UIView::contentState(const graphics::PaintState& state) const {
     const geometry::Transform transform = presentationTransform();
-    graphics::PaintState inside = transform.isIdentity() ? state : state.transformedBy(transform.about(center()));
+    graphics::PaintState inside = transform.isIdentity() ? state : state.transformedBy(transform.about(m_frame.center()));
     inside = inside.movedBy(m_frame.origin - m_boundsOrigin);
     const double alpha = m_isHidden ? 0 : presentationAlpha();
     if (alpha != 1) inside = inside.fadedBy(alpha);
@@ -98,7 +98,7 @@ void UIView::describeReveal(accessibility::Node& node) const {
             const auto held = std::const_pointer_cast<UIResponder>(view.lock());
             if (!held) return;
             auto& self = static_cast<UIView&>(*held);
-            self.scrollRectToVisible({self.bounds().center(), {1, 1}});
+            if (self.window()) self.scrollRectToVisible({self.bounds().center(), {1, 1}});
         };
         return;
     }
