@@ -22,13 +22,8 @@ View ComparePlansButton::body(BuildContext& context) const {
                    Image{lumokit::SystemSymbol::chevronRight()}.resizable() | rotationEffect(turn_degrees) | frame(10, 10) |
                        foregroundStyle(ContentColor::secondary) | padding(Edge::trailing, 16),
                }};
-    return Button{.action =
-                      [this] {
-                          const Action run = action;
-                          run();
-                      },
-                  .label = row | contentShape()} |
-           accessibilityIdentifier("comparePlans") | accessibilityLabel(text);
+    return Button{.action = action, .label = row | contentShape()} | accessibilityIdentifier("comparePlans") |
+           accessibilityLabel(text);
 }
 
 } // namespace proupsells

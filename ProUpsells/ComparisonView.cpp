@@ -79,12 +79,7 @@ View ComparisonView::categoryList(const Expanded& expanded) const {
 View ComparisonView::bottomBar() const {
     const std::string title = localizedString("Choose Your Plan", "Button that a user clicks to go back to upsell page");
     return Rectangle().fill(velauikit::velaBackground) | frame({.height = 80}) | shadow(graphics::Color::black, 0.1, 10, 4, -10) |
-           overlay(Button{.action =
-                              [this] {
-                                  const Action run = chooseYourPlanHandler;
-                                  run();
-                              },
-                          .label = Text{title}} |
+           overlay(Button{.action = chooseYourPlanHandler, .label = Text{title}} |
                        buttonStyle(velauikit::VelaPrimaryButtonStyle::rounded()) |
                        accessibilityIdentifier("comparison.choosePlan") | accessibilityLabel(title) | padding(Edge::horizontal) |
                        padding(Edge::top),

@@ -12,12 +12,7 @@ View ContainerWithCloseButton::body(BuildContext&) const {
     return ZStack{.alignment = Alignment::topTrailing,
                   .content = {
                       contentView(),
-                      Button{.action =
-                                 [this] {
-                                     const Action run = closeButtonAction;
-                                     run();
-                                 },
-                             .label = Image{velauikit::VelaUIKitImage::inAppMessageCloseIcon()}} |
+                      Button{.action = closeButtonAction, .label = Image{velauikit::VelaUIKitImage::inAppMessageCloseIcon()}} |
                           buttonStyle(ButtonStyle::plain()) | padding(Edge::top | Edge::trailing, 18) | frame(44, 44) |
                           contentShape() | accessibilityIdentifier("close") |
                           accessibilityLabel(foundation::localizedString("Close")),

@@ -9,11 +9,7 @@ namespace proupsells {
 using namespace swiftui;
 
 View InfoButton::body(BuildContext&) const {
-    return Button{.action =
-                      [this] {
-                          const Action run = action;
-                          run();
-                      },
+    return Button{.action = action,
                   .label = HStack{.spacing = 2,
                                   .content =
                                       {

@@ -64,13 +64,8 @@ std::string RadioPickerButton::spokenLabel() const {
 }
 
 View RadioPickerButton::body(BuildContext& context) const {
-    return Button{.action =
-                      [this] {
-                          const Action run = action;
-                          run();
-                      },
-                  .label = card(context.environment().contentSize)} |
-           buttonStyle(ButtonStyle::plain()) | accessibilityIdentifier("plan." + item.id) | accessibilityLabel(spokenLabel()) |
+    return Button{.action = action, .label = card(context.environment().contentSize)} | buttonStyle(ButtonStyle::plain()) |
+           accessibilityIdentifier("plan." + item.id) | accessibilityLabel(spokenLabel()) |
            accessibilityTraits(selected ? Traits::selected : Traits::none) | overlay(selectedBorder()) |
            overlay(badge(), Alignment::topTrailing);
 }

@@ -8,15 +8,10 @@ namespace proupsells {
 using namespace swiftui;
 
 View SubscribeButton::body(BuildContext&) const {
-    return Button{.action =
-                      [this] {
-                          const Action run = action;
-                          run();
-                      },
-                  .label = Text{text}} |
-           buttonStyle(velauikit::VelaPrimaryButtonStyle::rounded()) | disabled(!isEnabled) |
-           frame({.minHeight = 56, .idealHeight = 56, .maxHeight = 56}) | accessibilityIdentifier("subscribe") |
-           accessibilityLabel(text) | padding(Edge::horizontal) | padding(Edge::top, 12) | padding(Edge::bottom, -8);
+    return Button{.action = action, .label = Text{text}} | buttonStyle(velauikit::VelaPrimaryButtonStyle::rounded()) |
+           disabled(!isEnabled) | frame({.minHeight = 56, .idealHeight = 56, .maxHeight = 56}) |
+           accessibilityIdentifier("subscribe") | accessibilityLabel(text) | padding(Edge::horizontal) | padding(Edge::top, 12) |
+           padding(Edge::bottom, -8);
 }
 
 } // namespace proupsells

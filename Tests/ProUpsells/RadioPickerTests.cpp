@@ -210,6 +210,25 @@ TEST(RadioPickerSelectionIndicator, IsABorderedDiscOrARingWithADot) {
     EXPECT_EQ(marked[3].opacity, 1);
 }
 
+TEST(RadioPicker, WritesToTheNewestPlaceOfItsSelection) {
+    std::string before = "a", now = "a";
+    std::string* place = &before;
+    Screen screen(std::function<swiftui::View()>([&]() -> swiftui::View {
+                      return RadioPicker{.items = plans({"a", "b"}),
+                                         .selectedItem = Binding<std::string>([place] { return *place; },
+                                                                              [place](const std::string& id) { *place = id; })};
+                  }),
+                  Size{343, 400});
+    const auto plan = screen.find("plan.b");
+    place = &now;
+    static_cast<hosting::UIHostingController&>(*screen.window().rootViewController()).host().setNeedsUpdate();
+
+    plan.activate();
+
+    EXPECT_EQ(before, "a");
+    EXPECT_EQ(now, "b");
+}
+
 TEST(FreeTrialCapsule, StandsInACapsuleAroundItsText) {
     Screen screen(FreeTrialCapsule{}, Size{343, 100});
     const auto text = firstOfType(screen.tree(), "Text"), capsule = firstOfType(screen.tree(), "Capsule");
