@@ -34,12 +34,12 @@ std::shared_ptr<Connection::Target> Connection::relay() const {
 }
 
 void Connection::takeCopiesOf(const Connection& older) const {
-    const std::shared_ptr<Relay> relay = older.m_relay;
-    if (!relay || relay == m_relay) return;
+    Relay* const relay = older.m_relay.get();
+    if (!relay || relay == m_relay.get()) return;
     // The newer one may be a copy of the older one. Then the relay must not be led in a circle.
     if (!leadsTo(*relay)) relay->next = m_target;
-    if (m_relay) m_relay->next = relay;
-    m_relay = relay;
+    if (m_relay) m_relay->next = older.m_relay;
+    m_relay = older.m_relay;
 }
 
 bool Connection::leadsTo(const Target& relay) const {
