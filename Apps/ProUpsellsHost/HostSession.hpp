@@ -28,7 +28,6 @@ public:
     // The same, for whoever shows it.
     std::shared_ptr<host::WindowContent> windowContent() { return m_window; }
     const Device& device() const { return m_device; }
-    VelaProUpsellViewController& entryController() { return *m_entry; }
     // False once the entry controller has been dismissed.
     bool isShowing() const;
 

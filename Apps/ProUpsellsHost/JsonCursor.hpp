@@ -26,7 +26,6 @@ public:
     bool isObject() const { return m_value->is_object(); }
     bool isArray() const { return m_value->is_array(); }
     bool isNumber() const { return m_value->is_number(); }
-    std::size_t memberCount() const { return m_value->size(); }
 
     // The object must not have other keys than these.
     void expectObject(std::span<const std::string_view> keys) const;

@@ -25,8 +25,6 @@ public:
     bool scroll(geometry::Point location, geometry::Point delta);
     // Takes the touch away from whoever has it.
     void cancel();
-    // The handler that has the touch; null when none has.
-    GestureHandler* activeHandler() const { return m_active; }
     // The node goes away with everything inside, handlers included. The touch stays with the handlers around it, who may still
     // claim it.
     void nodeGone(const Node& node);

@@ -73,10 +73,6 @@ public:
                                                                     double constant = 0) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::equal, other.m_term, multiplier, constant);
     }
-    std::shared_ptr<NSLayoutConstraint> constraintLessThanOrEqualToMultiplier(const NSLayoutDimension& other, double multiplier,
-                                                                              double constant = 0) const {
-        return makeLayoutConstraint(m_term, NSLayoutRelation::lessThanOrEqual, other.m_term, multiplier, constant);
-    }
     std::shared_ptr<NSLayoutConstraint> constraintGreaterThanOrEqualToMultiplier(const NSLayoutDimension& other, double multiplier,
                                                                                  double constant = 0) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::greaterThanOrEqual, other.m_term, multiplier, constant);

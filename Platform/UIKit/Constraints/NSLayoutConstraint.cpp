@@ -122,7 +122,7 @@ std::shared_ptr<NSLayoutConstraint> NSLayoutConstraint::withPriority(UILayoutPri
 }
 
 std::shared_ptr<NSLayoutConstraint> NSLayoutConstraint::withIdentifier(std::string identifier) {
-    setIdentifier(std::move(identifier));
+    m_identifier = std::move(identifier);
     return shared_from_this();
 }
 

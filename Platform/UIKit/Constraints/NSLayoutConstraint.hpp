@@ -41,8 +41,7 @@ public:
     void setPriority(UILayoutPriority priority);
     // Names it in the log.
     const std::string& identifier() const { return m_identifier; }
-    void setIdentifier(std::string identifier) { m_identifier = std::move(identifier); }
-    // The setters for use right after the making.
+    // For use right after the making.
     std::shared_ptr<NSLayoutConstraint> withPriority(UILayoutPriority priority);
     std::shared_ptr<NSLayoutConstraint> withIdentifier(std::string identifier);
 

@@ -39,11 +39,6 @@ void UIViewController::setTitle(std::string title) {
     navigationItemChanged();
 }
 
-void UIViewController::setNavigationItem(UINavigationItem item) {
-    m_navigationItem = std::move(item);
-    navigationItemChanged();
-}
-
 void UIViewController::setRightBarButtonItem(UIBarButtonItem item) {
     m_navigationItem.rightBarButtonItem = std::move(item);
     navigationItemChanged();

@@ -43,7 +43,6 @@ public:
     const std::string& title() const { return m_title; }
     void setTitle(std::string title);
     const UINavigationItem& navigationItem() const { return m_navigationItem; }
-    void setNavigationItem(UINavigationItem item);
     void setRightBarButtonItem(UIBarButtonItem item);
 
     // --- Traits ---

@@ -9,10 +9,6 @@ void UIStackView::addArrangedSubview(const std::shared_ptr<UIView>& view) {
     invalidateIntrinsicContentSize();
 }
 
-void UIStackView::removeArrangedSubview(UIView& view) {
-    if (view.superview() == this) view.removeFromSuperview();
-}
-
 void UIStackView::willRemoveSubview(UIView& view) {
     std::erase_if(m_arranged, [&](const auto& arranged) { return arranged.get() == &view; });
     invalidateIntrinsicContentSize();

@@ -21,8 +21,6 @@ public:
 
     const std::vector<std::shared_ptr<UIView>>& arrangedSubviews() const { return m_arranged; }
     void addArrangedSubview(const std::shared_ptr<UIView>& view);
-    // Takes it out of the row, and out of the stack.
-    void removeArrangedSubview(UIView& view);
 
     Axis axis() const { return m_axis; }
     void setAxis(Axis axis);

@@ -20,10 +20,6 @@ struct UITraitCollection {
     bool reduceMotion = false;
     UIUserInterfaceSizeClass horizontalSizeClass = UIUserInterfaceSizeClass::compact;
 
-    // Whether colours may resolve to other values.
-    bool hasDifferentColorAppearance(const UITraitCollection& other) const {
-        return userInterfaceStyle != other.userInterfaceStyle;
-    }
     bool operator==(const UITraitCollection&) const = default;
 };
 

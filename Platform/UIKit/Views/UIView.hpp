@@ -66,8 +66,6 @@ public:
     geometry::Rect bounds() const { return {m_boundsOrigin, m_frame.size}; }
     void setBounds(const geometry::Rect& bounds);
     void setBoundsOrigin(geometry::Point origin);
-    geometry::Point center() const { return m_frame.center(); }
-    void setCenter(geometry::Point center);
     // About the centre. Moves what is painted and touched, not the layout.
     const geometry::Transform& transform() const { return m_transform; }
     void setTransform(const geometry::Transform& transform);

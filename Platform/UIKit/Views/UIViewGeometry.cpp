@@ -16,7 +16,7 @@ void UIView::setFrame(const geometry::Rect& frame) {
 
 void UIView::setBounds(const geometry::Rect& bounds) {
     setBoundsOrigin(bounds.origin);
-    const geometry::Point middle = center();
+    const geometry::Point middle = m_frame.center();
     setFrame({{middle.x - bounds.width() / 2, middle.y - bounds.height() / 2}, bounds.size});
 }
 
@@ -24,10 +24,6 @@ void UIView::setBoundsOrigin(geometry::Point origin) {
     if (m_boundsOrigin == origin) return;
     m_boundsOrigin = origin;
     setNeedsDisplay();
-}
-
-void UIView::setCenter(geometry::Point center) {
-    setFrame({{center.x - m_frame.width() / 2, center.y - m_frame.height() / 2}, m_frame.size});
 }
 
 void UIView::setTransform(const geometry::Transform& transform) {
@@ -39,7 +35,7 @@ void UIView::setTransform(const geometry::Transform& transform) {
 geometry::Transform UIView::toSuperview() const {
     const geometry::Point offset = m_frame.origin - m_boundsOrigin;
     const auto moved = geometry::Transform::translation(offset.x, offset.y);
-    return m_transform.isIdentity() ? moved : moved.then(m_transform.about(center()));
+    return m_transform.isIdentity() ? moved : moved.then(m_transform.about(m_frame.center()));
 }
 
 geometry::Transform UIView::toOutermost() const {
