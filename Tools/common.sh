@@ -40,9 +40,9 @@ configure_preset() {
     return "$status"
 }
 
-# build_preset PRESET [TARGET...]: everything where no target is named. Prints nothing when there is nothing to do.
+# build_preset PRESET [TARGET...]: everything where no target is named. What it has to say goes to standard error.
 build_preset() {
     local preset=$1
     shift
-    cmake --build --preset "$preset" ${1:+--target "$@"} -- --quiet
+    cmake --build --preset "$preset" ${1:+--target "$@"} -- --quiet >&2
 }
