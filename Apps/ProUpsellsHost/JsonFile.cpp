@@ -7,6 +7,7 @@
 
 #include "Apps/ProUpsellsHost/InputError.hpp"
 #include "Apps/ProUpsellsHost/JsonPointer.hpp"
+#include "Platform/Foundation/Utf8.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -130,28 +131,6 @@ std::string readBytes(const std::filesystem::path& file) {
     return bytes;
 }
 
-// The byte offset of the first byte that is not UTF-8; npos when there is none.
-std::size_t firstInvalidByte(const std::string& text) {
-    const auto byte = [&](std::size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0u; };
-    for (std::size_t i = 0; i < text.size();) {
-        const unsigned lead = byte(i);
-        const int length = lead < 0x80                   ? 1
-                           : lead >= 0xC2 && lead < 0xE0 ? 2
-                           : lead >= 0xE0 && lead < 0xF0 ? 3
-                           : lead >= 0xF0 && lead < 0xF5 ? 4
-                                                         : 0;
-        if (length == 0) return i;
-        for (int k = 1; k < length; ++k)
-            if ((byte(i + k) & 0xC0) != 0x80) return i;
-        const unsigned second = byte(i + 1);
-        const bool isOverlong = (lead == 0xE0 && second < 0xA0) || (lead == 0xF0 && second < 0x90);
-        const bool isOutside = (lead == 0xED && second >= 0xA0) || (lead == 0xF4 && second >= 0x90);
-        if (isOverlong || isOutside) return i;
-        i += static_cast<std::size_t>(length);
-    }
-    return std::string::npos;
-}
-
 std::string lineAndColumn(const std::string& text, std::size_t offset) {
     std::size_t line = 1, column = 1;
     for (std::size_t i = 0; i < offset && i < text.size(); ++i) {
@@ -168,8 +147,8 @@ std::string lineAndColumn(const std::string& text, std::size_t offset) {
 
 Json readJsonFile(const std::filesystem::path& file) {
     const std::string bytes = readBytes(file);
-    if (const std::size_t offset = firstInvalidByte(bytes); offset != std::string::npos)
-        throw InputError(file.string(), "", "invalid UTF-8 at " + lineAndColumn(bytes, offset) + ", expected UTF-8");
+    if (const auto offset = foundation::firstInvalidUtf8(bytes))
+        throw InputError(file.string(), "", "invalid UTF-8 at " + lineAndColumn(bytes, *offset) + ", expected UTF-8");
 
     Builder builder(file.string());
     if (!Json::sax_parse(bytes, &builder)) {

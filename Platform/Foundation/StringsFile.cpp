@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "Platform/Foundation/TextDecoding.hpp"
+#include "Platform/Foundation/Utf16.hpp"
 #include "Platform/Foundation/Utf8.hpp"
 
 namespace proupsells::foundation {
@@ -137,15 +138,14 @@ private:
         const std::size_t start = m_position - 1;
         char32_t character = 0;
         if (!parseUtf16Unit(character)) return false;
-        const bool isHigh = character >= 0xD800 && character <= 0xDBFF;
-        const bool isLow = character >= 0xDC00 && character <= 0xDFFF;
+        const bool isHigh = isHighSurrogate(character);
         if (isHigh && (startsWith("\\U") || startsWith("\\u"))) {
             char32_t low = 0;
             ++m_position;
             if (!parseUtf16Unit(low)) return false;
-            if (low < 0xDC00 || low > 0xDFFF) return fail(start, "expected the second half of a surrogate pair");
-            character = 0x10000 + ((character - 0xD800) << 10) + (low - 0xDC00);
-        } else if (isHigh || isLow) {
+            if (!isLowSurrogate(low)) return fail(start, "expected the second half of a surrogate pair");
+            character = joinedSurrogates(character, low);
+        } else if (isHigh || isLowSurrogate(character)) {
             return fail(start, "expected both halves of a surrogate pair");
         }
         appendUtf8(text, character);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "Platform/Foundation/Utf16.hpp"
 #include "Platform/Foundation/Utf8.hpp"
 
 namespace proupsells::foundation {
@@ -9,9 +10,6 @@ namespace proupsells::foundation {
 namespace {
 
 enum class ByteOrder { littleEndian, bigEndian };
-
-bool isLowSurrogate(char32_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
-bool isHighSurrogate(char32_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 
 DecodedText decodeUtf16(std::string_view bytes, ByteOrder order) {
     const std::size_t high = order == ByteOrder::bigEndian ? 0 : 1;
@@ -31,7 +29,7 @@ DecodedText decodeUtf16(std::string_view bytes, ByteOrder order) {
         }
         if (isPair) {
             offset += 2;
-            character = 0x10000 + ((character - 0xD800) << 10) + (unitAt(offset) - 0xDC00);
+            character = joinedSurrogates(character, unitAt(offset));
         }
         appendUtf8(decoded.text, character);
     }

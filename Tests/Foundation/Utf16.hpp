@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "Platform/Foundation/Utf8.hpp"
+#include "Platform/Foundation/Utf16.hpp"
 
 namespace proupsells::tests {
 
@@ -18,16 +18,8 @@ inline void appendUnit(std::string& bytes, char32_t unit, ByteOrder order) {
 // The valid UTF-8 text in UTF-16, without a byte order mark.
 inline std::string utf16(std::string_view text, ByteOrder order) {
     std::string bytes;
-    for (std::size_t offset = 0; offset < text.size();) {
-        const foundation::DecodedCharacter character = foundation::decodeUtf8(text, offset);
-        offset += character.length;
-        if (character.value < 0x10000) {
-            appendUnit(bytes, character.value, order);
-        } else {
-            appendUnit(bytes, 0xD7C0 + (character.value >> 10), order);
-            appendUnit(bytes, 0xDC00 + (character.value & 0x3FF), order);
-        }
-    }
+    const foundation::Utf16Text units(text);
+    for (const char16_t unit : units.units()) appendUnit(bytes, unit, order);
     return bytes;
 }
 
