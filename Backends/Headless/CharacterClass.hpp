@@ -15,13 +15,7 @@ bool isIdeograph(char32_t character);
 // Punctuation that does not begin a line, or does not end one.
 bool isClosing(char32_t character);
 bool isOpening(char32_t character);
-// Letters of scripts written from right to left.
-bool isHebrewLetter(char32_t character);
-bool isArabicLetter(char32_t character);
-bool isArabicDigit(char32_t character);
-// Letters of scripts written from left to right.
-bool isLeftToRightLetter(char32_t character);
-// Stands by a number without being one: a sign of currency, per cent, degree.
-bool isNumberTerminator(char32_t character);
+// A letter of an alphabet; those beyond U+1FFF are left out.
+bool isLetter(char32_t character);
 
 } // namespace proupsells::headless

@@ -1,6 +1,5 @@
 #include "Backends/Headless/FixedTextShaper.hpp"
 
-#include "Backends/Headless/BidiLevels.hpp"
 #include "Backends/Headless/CharacterClass.hpp"
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/Foundation/Locale.hpp"
@@ -14,12 +13,6 @@ using graphics::Cluster;
 using graphics::LineBreak;
 using graphics::ShapedText;
 using graphics::StyledRun;
-
-std::string joinedText(std::span<const StyledRun> runs) {
-    std::string text;
-    for (const StyledRun& run : runs) text += run.text;
-    return text;
-}
 
 // A character on both sides of a run's end belongs to the run in which it begins.
 void addClusters(ShapedText& shaped, std::string_view text) {
@@ -51,7 +44,7 @@ bool isAllowedBetween(char32_t before, char32_t current, char32_t next) {
     if (current == '-' && isDigit(next)) return false;
     if (isHyphen(current)) return before != 0 && !isBreakingSpace(before) && !isClosing(next) && !isHyphen(next);
     if (!isIdeograph(current) && !isIdeograph(next)) return false;
-    const auto mayTouchBreak = [](char32_t c) { return isIdeograph(c) || isLeftToRightLetter(c) || isDigit(c) || c >= 0x3000; };
+    const auto mayTouchBreak = [](char32_t c) { return isIdeograph(c) || isLetter(c) || isDigit(c) || c >= 0x3000; };
     return mayTouchBreak(current) && mayTouchBreak(next) && !isOpening(current) && !isClosing(next);
 }
 
@@ -86,12 +79,10 @@ std::shared_ptr<const ShapedText> FixedTextShaper::shape(std::span<const StyledR
     for (const StyledRun& run : runs) {
         shaped->metrics.push_back({run.font.size * ascentPerSize, run.font.size * descentPerSize});
     }
-    const std::string text = joinedText(runs);
+    const std::string text = graphics::joinedText(runs);
     addClusters(*shaped, text);
-    const std::vector<char32_t> characters = firstCharacters(*shaped, text);
-    measureClusters(*shaped, characters);
-    const std::vector<std::uint8_t> levels = bidiLevels(characters, direction);
-    for (std::size_t index = 0; index < levels.size(); ++index) shaped->clusters[index].bidiLevel = levels[index];
+    measureClusters(*shaped, firstCharacters(*shaped, text));
+    graphics::assignBidiLevels(*shaped, direction);
     return shaped;
 }
 

@@ -7,10 +7,12 @@
 #include <unicode/casemap.h>
 #include <unicode/locid.h>
 #include <unicode/numberformatter.h>
+#include <unicode/ubidi.h>
 #include <unicode/utext.h>
 
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/Foundation/Locale.hpp"
+#include "Platform/Foundation/Utf16.hpp"
 #include "Platform/Foundation/Utf8.hpp"
 
 namespace proupsells::icubackend {
@@ -55,6 +57,8 @@ struct IcuLocaleServices::Cache {
     std::string percentLocale;
     int percentFractionDigits = -1;
     icu::number::LocalizedNumberFormatter percent;
+
+    std::unique_ptr<UBiDi, decltype(&ubidi_close)> directions{ubidi_open(), ubidi_close};
 
     ~Cache() { utext_close(&text); }
 
@@ -126,6 +130,31 @@ std::vector<std::size_t> IcuLocaleServices::graphemeEnds(std::string_view text) 
 geometry::LayoutDirection IcuLocaleServices::layoutDirection(const foundation::Locale& locale) const {
     return icu::Locale(locale.identifier().c_str()).isRightToLeft() ? geometry::LayoutDirection::rightToLeft
                                                                     : geometry::LayoutDirection::leftToRight;
+}
+
+// One paragraph at a time: in a text of several, ICU lets numbers look across a paragraph's end.
+std::vector<foundation::BidiRun> IcuLocaleServices::bidiRuns(std::string_view text, geometry::LayoutDirection fallback) const {
+    const bool isRightToLeft = fallback == geometry::LayoutDirection::rightToLeft;
+    const UBiDiLevel direction = isRightToLeft ? UBIDI_DEFAULT_RTL : UBIDI_DEFAULT_LTR;
+    const foundation::Utf16Text utf16(text);
+    const std::u16string& units = utf16.units();
+    UBiDi* directions = m_cache->directions.get();
+    std::vector<foundation::BidiRun> runs;
+    for (std::size_t first = 0; first < units.size();) {
+        std::size_t end = first;
+        while (end < units.size() && u_charDirection(units[end]) != U_BLOCK_SEPARATOR) ++end;
+        end = std::min(end + 1, units.size());
+
+        UErrorCode status = U_ZERO_ERROR;
+        ubidi_setPara(directions, &units[first], static_cast<std::int32_t>(end - first), direction, nullptr, &status);
+        const UBiDiLevel* levels = ubidi_getLevels(directions, &status);
+        if (U_FAILURE(status)) commons::fatalError("ICU cannot find the directions of a text");
+        const UBiDiLevel paragraphLevel = ubidi_getParaLevel(directions);
+        for (std::size_t unit = first; unit < end; ++unit)
+            foundation::appendBidiRun(runs, {utf16.byteOffset(unit + 1), levels[unit - first], paragraphLevel});
+        first = end;
+    }
+    return runs;
 }
 
 } // namespace proupsells::icubackend

@@ -8,8 +8,8 @@
 namespace proupsells::icubackend {
 
 // Knows every language that ICU knows; an unknown locale is treated as ICU's root locale. Main thread only: it keeps what is costly
-// to make (the formatter and the word breaks of the locale used last, the iterator over user-perceived characters). Creating it
-// stops the program when ICU's data is missing.
+// to make (the formatter and the word breaks of the locale used last, the iterator over user-perceived characters, the
+// memory for directions). Creating it stops the program when ICU's data is missing.
 class IcuLocaleServices final : public foundation::LocaleServices {
 public:
     IcuLocaleServices();
@@ -24,6 +24,7 @@ public:
     std::size_t graphemeCount(std::string_view text) const override;
     std::vector<std::size_t> graphemeEnds(std::string_view text) const override;
     geometry::LayoutDirection layoutDirection(const foundation::Locale& locale) const override;
+    std::vector<foundation::BidiRun> bidiRuns(std::string_view text, geometry::LayoutDirection fallback) const override;
 
 private:
     struct Cache;

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "Backends/Qt/BidiLevels.hpp"
 #include "Backends/Qt/FontCatalog.hpp"
 #include "Backends/Qt/QtShapedText.hpp"
 #include "Backends/Qt/TextClusters.hpp"
@@ -16,7 +15,6 @@ namespace proupsells::qtbackend {
 namespace {
 
 using geometry::LayoutDirection;
-using graphics::Cluster;
 using graphics::LineBreak;
 using graphics::StyledRun;
 
@@ -38,7 +36,7 @@ QFont designFont(const StyledRun& run, FontCatalog& catalog) {
 // Shapes pieces of a paragraph: some clusters of one direction, laid out by Qt on one endless line.
 class PieceShaper {
 public:
-    PieceShaper(QtShapedText& result, const DecodedText& text, const std::vector<std::uint32_t>& unitStarts, FontCatalog& catalog)
+    PieceShaper(QtShapedText& result, const RunUnits& text, const std::vector<std::uint32_t>& unitStarts, FontCatalog& catalog)
         : m_result(result), m_text(text), m_unitStarts(unitStarts), m_catalog(catalog) {}
 
     void shape(std::uint32_t first, std::uint32_t end);
@@ -59,7 +57,7 @@ private:
     }
 
     QtShapedText& m_result;
-    const DecodedText& m_text;
+    const RunUnits& m_text;
     const std::vector<std::uint32_t>& m_unitStarts;
     FontCatalog& m_catalog;
     std::uint32_t m_first = 0, m_end = 0;
@@ -199,19 +197,6 @@ void PieceShaper::takeGlyphs(const QList<QGlyphRun>& runs, QPointF origin, doubl
     }
 }
 
-// Whether the whole text reads from left to right, so that nobody need ask.
-bool isPlain(const QString& units, LayoutDirection direction) {
-    return direction == LayoutDirection::leftToRight &&
-           std::all_of(units.begin(), units.end(), [](QChar unit) { return isSimple(unit) || unit == '\n'; });
-}
-
-void assignLevels(const DecodedText& text, const std::vector<std::uint32_t>& unitStarts, LayoutDirection direction,
-                  std::vector<Cluster>& clusters) {
-    if (isPlain(text.units(), direction)) return;
-    const std::vector<std::uint8_t> levels = bidiLevels(text.units(), direction == LayoutDirection::rightToLeft ? 1 : 0);
-    for (std::size_t index = 0; index < clusters.size(); ++index) clusters[index].bidiLevel = levels[unitStarts[index]];
-}
-
 // The end of the piece that starts at a cluster: where the direction changes or the paragraph ends, without its line feed, or the
 // last break before it gets too long.
 std::uint32_t endOfPiece(const QtShapedText& text, const std::vector<std::uint32_t>& unitStarts, std::uint32_t first) {
@@ -241,10 +226,10 @@ std::shared_ptr<const graphics::ShapedText> QtTextShaper::shape(std::span<const 
         result->metrics.push_back({face.ascent * pointSize(run), face.descent * pointSize(run)});
     }
 
-    const DecodedText text(runs);
+    const RunUnits text(runs);
     std::vector<std::uint32_t> unitStarts;
     makeClusters(text, result->clusters, unitStarts);
-    assignLevels(text, unitStarts, direction, result->clusters);
+    graphics::assignBidiLevels(*result, direction);
     const auto count = std::uint32_t(result->clusters.size());
     result->groupStarts.resize(count);
     result->glyphStarts.resize(count + 1);

@@ -9,7 +9,9 @@ namespace proupsells::qtbackend {
 
 class FontCatalog;
 
-// Needs a QGuiApplication. Lines break where Unicode's default rules allow it; of the language, Qt takes no notice.
+// Needs a QGuiApplication. The order of mixed text is that of the installed locale services: with the built-in ones, texts that mix
+// directions by invisible marks or in brackets may be ordered wrongly. Lines break where Unicode's default rules allow it; Qt
+// ignores the language.
 class QtTextShaper final : public host::TextShaper {
 public:
     QtTextShaper();

@@ -17,7 +17,7 @@ bool isRegionalIndicatorPair(const QString& units, qsizetype at) {
     return isIndicator(at) && isIndicator(at + 2);
 }
 
-std::vector<std::uint32_t> clusterStarts(const DecodedText& text) {
+std::vector<std::uint32_t> clusterStarts(const RunUnits& text) {
     std::vector<std::uint32_t> starts;
     const QString& units = text.units();
     starts.reserve(std::size_t(units.size()) + 1);
@@ -60,12 +60,12 @@ bool isBlank(QChar unit) {
     }
 }
 
-// Not a soft hyphen, since none would be shown, and not a solidus, which keeps a price and its period together.
+// A soft hyphen would not be shown, and a solidus keeps a price and its period together ("$8.33/month").
 bool mayEndALine(QChar last) { return last != QChar(u'\u00AD') && last != u'/'; }
 
 } // namespace
 
-void makeClusters(const DecodedText& text, std::vector<Cluster>& clusters, std::vector<std::uint32_t>& unitStarts) {
+void makeClusters(const RunUnits& text, std::vector<Cluster>& clusters, std::vector<std::uint32_t>& unitStarts) {
     unitStarts = clusterStarts(text);
     clusters.resize(unitStarts.size() - 1);
     QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text.units());

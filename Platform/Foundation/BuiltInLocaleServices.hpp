@@ -14,6 +14,9 @@ public:
     std::size_t graphemeCount(std::string_view text) const override;
     std::vector<std::size_t> graphemeEnds(std::string_view text) const override;
     geometry::LayoutDirection layoutDirection(const Locale& locale) const override;
+    // Knows Hebrew and Arabic letters by their blocks, keeps numbers and their signs together, and gives blanks and punctuation the
+    // direction around them. Has no rules for invisible marks, for brackets in pairs and for the numbers of Arabic texts.
+    std::vector<BidiRun> bidiRuns(std::string_view text, geometry::LayoutDirection fallback) const override;
 };
 
 } // namespace proupsells::foundation

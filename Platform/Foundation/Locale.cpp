@@ -11,18 +11,13 @@ namespace proupsells::foundation {
 
 namespace {
 
-std::vector<std::string> chainOf(std::string_view identifier) {
-    std::string language;
+std::vector<std::string> chainOf(std::string tag) {
     std::vector<std::string> chain;
-    identifier = identifier.substr(0, identifier.find_first_of("@."));
-    while (!identifier.empty()) {
-        const std::string_view part = identifier.substr(0, identifier.find('_'));
-        identifier.remove_prefix(std::min(identifier.size(), part.size() + 1));
-        if (part.empty()) continue;
-        if (!language.empty()) language += '-';
-        chain.push_back(language += part);
+    while (!tag.empty()) {
+        chain.push_back(tag);
+        const std::size_t lastPart = tag.rfind('-');
+        tag.resize(lastPart == std::string::npos ? 0 : lastPart);
     }
-    std::reverse(chain.begin(), chain.end());
     return chain;
 }
 
@@ -33,9 +28,26 @@ Locale& currentLocale() {
 
 } // namespace
 
+std::string languageTagOf(std::string_view identifier) {
+    std::string tag;
+    for (const char c : identifier.substr(0, identifier.find_first_of("@."))) {
+        const bool isSeparator = c == '_' || c == '-';
+        if (!isSeparator)
+            tag += c;
+        else if (!tag.empty() && tag.back() != '-')
+            tag += '-';
+    }
+    if (!tag.empty() && tag.back() == '-') tag.pop_back();
+    return tag;
+}
+
 Locale::Locale(std::string identifier) : m_identifier(std::move(identifier)) {
     std::replace(m_identifier.begin(), m_identifier.end(), '-', '_');
-    m_languageChain = chainOf(m_identifier);
+    m_languageChain = chainOf(languageTagOf(m_identifier));
+}
+
+std::string_view Locale::languageTag() const {
+    return m_languageChain.empty() ? std::string_view() : std::string_view(m_languageChain.front());
 }
 
 const Locale& Locale::current() { return currentLocale(); }

@@ -2,11 +2,16 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Platform/Foundation/LocaleServices.hpp"
 
 namespace proupsells::foundation {
+
+// "de-AT" for "de_AT@currency=EUR": the language, script and region that an identifier names. Empty where it names none, as in an
+// empty identifier.
+std::string languageTagOf(std::string_view identifier);
 
 // A locale such as "de_AT" or "en-US"; "-" and "_" mean the same.
 class Locale {
@@ -15,8 +20,10 @@ public:
 
     // As given, with "_" between its parts.
     const std::string& identifier() const { return m_identifier; }
+    // See languageTagOf().
+    std::string_view languageTag() const;
     // Where texts are looked for, most exact first: "de-AT", "de". A script part stays with its language: "zh-Hant-TW", "zh-Hant",
-    // "zh". What follows "@" or "." in the identifier does not count; empty for an empty identifier.
+    // "zh". Empty where the identifier names no language.
     const std::vector<std::string>& languageChain() const { return m_languageChain; }
 
     // The locale that texts and formats follow; "en_US" until it is set.

@@ -11,8 +11,8 @@ namespace proupsells::foundation {
 // Stands for what is no character.
 inline constexpr char32_t replacementCharacter = U'\uFFFD';
 
-// One step of decoding. `length` is in bytes, at least 1; what is not well-formed counts as a replacement character per maximal
-// ill-formed part, as every other decoder does it.
+// One step of decoding. `length` is in bytes, at least 1. Each maximal ill-formed part becomes one replacement character, as with
+// every other decoder.
 struct DecodedCharacter {
     char32_t value = 0;
     std::size_t length = 1;

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
+#include "Platform/Geometry/Geometry.hpp"
 #include "Platform/Graphics/Font.hpp"
 
 namespace proupsells::graphics {
@@ -14,11 +16,12 @@ enum class LineBreak : std::uint8_t { none, allowed, mandatory };
 
 // A user-perceived character.
 struct Cluster {
-    std::uint32_t textOffset = 0; // bytes, counted through all runs' texts
-    std::uint32_t textLength = 0; // bytes
-    double advance = 0;           // points, letter spacing included
-    std::uint16_t run = 0;        // index of its styled run
-    std::uint8_t bidiLevel = 0;   // odd: right to left
+    std::uint32_t textOffset = 0;    // bytes, counted through all runs' texts
+    std::uint32_t textLength = 0;    // bytes
+    double advance = 0;              // points, letter spacing included
+    std::uint16_t run = 0;           // index of its styled run
+    std::uint8_t bidiLevel = 0;      // odd: right to left
+    std::uint8_t paragraphLevel = 0; // its paragraph's; odd: right to left
     LineBreak breakAfter = LineBreak::none;
     bool isWhitespace = false; // takes no room at a line's end; a line feed has no advance at all
 };
@@ -45,5 +48,12 @@ public:
     std::vector<RunMetrics> metrics; // one for each run
     std::vector<Cluster> clusters;
 };
+
+// All runs' texts, one after the other.
+std::string joinedText(std::span<const StyledRun> runs);
+
+// Gives the clusters the levels that the current locale services find in the text. A paragraph without a letter reads in
+// `fallback`.
+void assignBidiLevels(ShapedText& text, geometry::LayoutDirection fallback);
 
 } // namespace proupsells::graphics

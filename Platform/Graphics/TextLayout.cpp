@@ -7,8 +7,6 @@ namespace proupsells::graphics {
 
 namespace {
 
-using geometry::LayoutDirection;
-
 // Forgives the rounding of sums, so that a text that is given its own measured size keeps its lines.
 constexpr double tolerance = 1e-6;
 
@@ -136,7 +134,7 @@ void LineMaker::measureHeight(Candidate& line) const {
 
 bool LineMaker::isLast(const Candidate& line) const { return line.next == m_count && !line.endsParagraph; }
 
-// Whether the line after `line`, of which nothing else is known yet, would be kept.
+// Whether the line after `line` would be kept. Nothing else is known about it yet.
 bool LineMaker::mayFollow(const Candidate& line) const {
     if (m_request.lineLimit && int(m_result.lines.size()) + 1 >= *m_request.lineLimit) return false;
     if (!m_request.height) return true;
@@ -166,6 +164,7 @@ void LineMaker::add(const Candidate& candidate, bool isTruncated) {
     line.width = candidate.width;
     line.ascent = candidate.ascent;
     line.height = candidate.ascent + candidate.descent;
+    line.isRightToLeft = line.firstCluster < m_count && m_text.clusters[line.firstCluster].paragraphLevel % 2 == 1;
     line.isTruncated = isTruncated;
     if (isTruncated) {
         line.ellipsisWidth = m_request.ellipsisWidth;
@@ -197,7 +196,7 @@ void LineMaker::addFragments(const TextLine& line) {
     const auto endFragment = std::uint32_t(m_result.fragments.size());
     reorderFragments(firstFragment, endFragment);
 
-    double x = m_request.direction == LayoutDirection::rightToLeft ? line.ellipsisWidth : 0;
+    double x = line.isRightToLeft ? line.ellipsisWidth : 0;
     for (std::uint32_t index = firstFragment; index < endFragment; ++index) {
         m_result.fragments[index].x = x;
         x += m_result.fragments[index].width;

@@ -16,7 +16,7 @@ struct TextFragment {
     std::uint32_t endCluster = 0;
     std::uint16_t run = 0;
     bool isRightToLeft = false;
-    double x = 0; // of its left edge, from the line's left edge (where a right-to-left line has its ellipsis)
+    double x = 0; // of its left edge, from the line's left edge (where a line of a right-to-left paragraph has its ellipsis)
     double width = 0;
 
     bool operator==(const TextFragment&) const = default;
@@ -30,7 +30,8 @@ struct TextLine {
     double width = 0;
     double ascent = 0;
     double height = 0;
-    // The line ends in an ellipsis of `ellipsisWidth`, which `width` includes; it stands at the line's trailing end.
+    bool isRightToLeft = false; // reads like its paragraph
+    // The line ends in an ellipsis of `ellipsisWidth`, which `width` includes; it stands where the paragraph's lines end.
     bool isTruncated = false;
     double ellipsisWidth = 0;
     std::uint16_t ellipsisRun = 0;
@@ -43,7 +44,7 @@ struct TextLayoutRequest {
     std::optional<double> height; // absent: no limit; otherwise lines that do not fit are cut, the first one never
     std::optional<int> lineLimit;
     double lineSpacing = 0;
-    geometry::LayoutDirection direction = geometry::LayoutDirection::leftToRight;
+    geometry::LayoutDirection direction = geometry::LayoutDirection::leftToRight; // the screen's, for the alignment
     double ellipsisWidth = 0; // of "…" in the text's font; used when something is cut
 };
 

@@ -40,8 +40,7 @@ private:
     }
 
     void paintEllipsis(const TextLine& line, Point topLeft, const std::shared_ptr<const ShapedText>& ellipsis) {
-        const bool isRightToLeft = m_layout.direction == LayoutDirection::rightToLeft;
-        const double x = topLeft.x + (isRightToLeft ? 0 : line.width - line.ellipsisWidth);
+        const double x = topLeft.x + (line.isRightToLeft ? 0 : line.width - line.ellipsisWidth);
         m_context.text(m_state, {x, topLeft.y + line.ascent}, {{x, topLeft.y}, {line.ellipsisWidth, line.height}}, ellipsis, 0,
                        std::uint32_t(ellipsis->clusters.size()), paintOf(line.ellipsisRun).color);
     }

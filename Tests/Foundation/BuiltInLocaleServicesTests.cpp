@@ -5,6 +5,7 @@
 #include "Platform/Foundation/BuiltInLocaleServices.hpp"
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/Foundation/NumberFormatter.hpp"
+#include "Tests/Foundation/BidiLevels.hpp"
 #include "Tests/Foundation/LocaleFixture.hpp"
 
 using namespace proupsells;
@@ -98,6 +99,51 @@ TEST_F(BuiltInServices, KnowWhoWritesFromRightToLeft) {
         EXPECT_EQ(services.layoutDirection(Locale(identifier)), LayoutDirection::rightToLeft) << identifier;
     for (const char* identifier : {"en_US", "de", "", "pa", "ar_Latn", "zh_Hant_TW", "de_1996", "tr_TR"})
         EXPECT_EQ(services.layoutDirection(Locale(identifier)), LayoutDirection::leftToRight) << identifier;
+}
+
+class BuiltInBidi : public BuiltInServices {
+protected:
+    std::string levels(const std::string& text, LayoutDirection fallback = LayoutDirection::leftToRight) const {
+        return tests::levelsOf(text, services.bidiRuns(text, fallback));
+    }
+};
+
+TEST_F(BuiltInBidi, ReadsAParagraphLikeItsFirstLetter) {
+    for (const LayoutDirection fallback : {LayoutDirection::leftToRight, LayoutDirection::rightToLeft}) {
+        EXPECT_EQ(levels("7 days אב.", fallback), "0:0000000110");
+        EXPECT_EQ(levels("7 אב days.", fallback), "1:2111122221");
+    }
+}
+
+TEST_F(BuiltInBidi, ReadsAParagraphWithoutLettersLikeTheScreen) {
+    EXPECT_EQ(levels("$9.99!"), "0:000000");
+    EXPECT_EQ(levels("$9.99!", LayoutDirection::rightToLeft), "1:222221");
+}
+
+TEST_F(BuiltInBidi, StartsAnewWithEveryParagraph) {
+    EXPECT_EQ(levels("ab\nאב\r\n12"), "0:0001:1110:000");
+    EXPECT_EQ(levels("\n", LayoutDirection::rightToLeft), "1:1");
+}
+
+TEST_F(BuiltInBidi, KeepsAPriceTogether) {
+    EXPECT_EQ(levels("רק $99.99 לשנה"), "1:11122222211111");
+    EXPECT_EQ(levels("ב 1,234.50 ₪"), "1:112222222211");
+    EXPECT_EQ(levels("ב45% ٤٥٪"), "1:12221222");
+}
+
+TEST_F(BuiltInBidi, GivesBlanksAndPunctuationTheDirectionAroundThem) {
+    EXPECT_EQ(levels("ab: (אב, גד) - cd"), "0:00000111111000000");
+    EXPECT_EQ(levels("אב: (ab, cd) - גד"), "1:11111222222111111");
+}
+
+TEST_F(BuiltInBidi, PutsNumbersInRightToLeftWordsOneLevelUp) {
+    EXPECT_EQ(levels("a אב 12"), "0:0011122");
+    EXPECT_EQ(levels("אב ab 12"), "1:11122222");
+}
+
+TEST_F(BuiltInBidi, TakesAnyBytes) {
+    EXPECT_EQ(levels("a\xD7\x90\xD7"), "0:010");
+    EXPECT_EQ(levels(""), "");
 }
 
 // Answers everything with what it was asked.

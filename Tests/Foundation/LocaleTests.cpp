@@ -19,6 +19,17 @@ TEST(LocaleIdentifier, MeansTheSameWithEitherSign) {
     EXPECT_FALSE(Locale("de-AT") == Locale("de"));
 }
 
+TEST(LanguageTag, IsTheMostExactLanguage) {
+    EXPECT_EQ(Locale("de_AT").languageTag(), "de-AT");
+    EXPECT_EQ(Locale("zh_Hant_TW@calendar=roc").languageTag(), "zh-Hant-TW");
+    EXPECT_EQ(Locale("de__AT_").languageTag(), "de-AT");
+}
+
+TEST(LanguageTag, IsEmptyWhereNoLanguageIsNamed) {
+    for (const char* identifier : {"", "@euro", "_", "__", ".UTF-8", "-"})
+        EXPECT_EQ(Locale(identifier).languageTag(), "") << identifier;
+}
+
 TEST(LanguageChain, GoesFromTheMostExactToTheLanguage) {
     EXPECT_THAT(Locale("de_AT").languageChain(), ElementsAre("de-AT", "de"));
     EXPECT_THAT(Locale("en").languageChain(), ElementsAre("en"));

@@ -118,7 +118,7 @@ RC_GTEST_PROP(TextLayoutInvariants, FragmentsTileTheirLineFromLeftToRight, ()) {
     const TextLayout layout = laidOut(*text, someRequest(direction));
 
     for (const TextLine& line : layout.lines) {
-        double x = direction == LayoutDirection::rightToLeft ? line.ellipsisWidth : 0;
+        double x = line.isRightToLeft ? line.ellipsisWidth : 0;
         double sum = line.ellipsisWidth;
         for (std::uint32_t index = line.firstFragment; index < line.endFragment; ++index) {
             const TextFragment& fragment = layout.fragments[index];

@@ -211,16 +211,24 @@ TEST(Truncation, StylesTheEllipsisLikeTheTextBeforeIt) {
     EXPECT_EQ(laidOut(*text, cutAfter(1, 5)).lines[0].ellipsisRun, 1);
 }
 
-TEST(Truncation, PutsTheEllipsisOfARightToLeftLineOnTheLeft) {
-    const auto text = shaped("אבג דהו", geometry::LayoutDirection::rightToLeft);
-    TextLayoutRequest request = cutAfter(1, 5);
-    request.direction = geometry::LayoutDirection::rightToLeft;
-    const TextLayout layout = laidOut(*text, request);
+TEST(Truncation, LeavesTheEllipsisRoomOnTheLeftOfARightToLeftParagraph) {
+    const auto text = shaped("אבג דהו");
+    const TextLayout layout = laidOut(*text, cutAfter(1, 5));
 
     EXPECT_EQ(linesOf(*text, layout), (Lines{"אבג…"}));
     ASSERT_EQ(layout.fragments.size(), 1u);
     EXPECT_EQ(layout.fragments[0].x, 5);
     EXPECT_EQ(layout.lines[0].width, 20);
+}
+
+TEST(Truncation, LeavesTheEllipsisRoomOnTheRightOfALeftToRightParagraph) {
+    const auto text = shaped("one two", geometry::LayoutDirection::rightToLeft);
+    TextLayoutRequest request = cutAfter(1, 5);
+    request.direction = geometry::LayoutDirection::rightToLeft;
+    const TextLayout layout = laidOut(*text, request);
+
+    ASSERT_EQ(layout.fragments.size(), 1u);
+    EXPECT_EQ(layout.fragments[0].x, 0);
 }
 
 TEST(TextLayout, KeepsNothingOfAnEarlierLayout) {

@@ -92,11 +92,17 @@ TEST_F(TextPaintingTest, EndsACutLineWithTheEllipsis) {
     EXPECT_EQ(list.texts.back(), ellipsis);
 }
 
-TEST_F(TextPaintingTest, PutsTheEllipsisOfARightToLeftLineOnItsLeft) {
-    paint(shaped("אבגדהו", LayoutDirection::rightToLeft),
+TEST_F(TextPaintingTest, PutsTheEllipsisWhereTheParagraphReadsTo) {
+    paint(shaped("אבגדהו"), {.width = 20, .lineLimit = 1, .ellipsisWidth = 5}, TextAlignment::leading);
+
+    EXPECT_THAT(baselines(), ElementsAre(Point{105, 210}, Point{100, 210}));
+}
+
+TEST_F(TextPaintingTest, AlignsAParagraphLikeTheScreenWhateverItsOwnDirection) {
+    paint(shaped("wonderful", LayoutDirection::rightToLeft),
           {.width = 20, .lineLimit = 1, .direction = LayoutDirection::rightToLeft, .ellipsisWidth = 5}, TextAlignment::leading);
 
-    EXPECT_THAT(baselines(), ElementsAre(Point{135, 210}, Point{130, 210}));
+    EXPECT_THAT(baselines(), ElementsAre(Point{130, 210}, Point{145, 210}));
 }
 
 TEST_F(TextPaintingTest, LeavesOutLinesThatAreClippedAway) {

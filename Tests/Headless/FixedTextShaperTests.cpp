@@ -35,17 +35,6 @@ std::string withBreaks(const std::string& text) {
     return result;
 }
 
-// One digit for each character.
-std::string levels(const std::string& text, LayoutDirection direction) {
-    std::string result;
-    const auto shaped = shape({run(text)}, direction);
-    for (const Cluster& cluster : shaped->clusters) result += char('0' + cluster.bidiLevel);
-    return result;
-}
-
-std::string leftToRightLevels(const std::string& text) { return levels(text, LayoutDirection::leftToRight); }
-std::string rightToLeftLevels(const std::string& text) { return levels(text, LayoutDirection::rightToLeft); }
-
 TEST(FixedTextShaper, MakesEveryCharacterHalfItsSizeWide) {
     const auto text = shape({run("iW ", 14)});
 
@@ -136,35 +125,17 @@ TEST(LineBreaks, AreMandatoryAfterEndsOfLines) {
     EXPECT_EQ(withBreaks("a \n"), "a \n¶");
 }
 
-TEST(BidiLevels, AreTheBaseOnesInPlainTexts) {
-    EXPECT_EQ(leftToRightLevels("abc 123!"), "00000000");
-    EXPECT_EQ(rightToLeftLevels("אבג דהו!"), "11111111");
+TEST(FixedTextShaper, GivesEveryCharacterItsLevelAndItsParagraphs) {
+    const auto text = shape({run("ab א"), run("ב\n$1")}, LayoutDirection::rightToLeft);
+
+    std::string levels, paragraphLevels;
+    for (const Cluster& cluster : text->clusters) {
+        levels += char('0' + cluster.bidiLevel);
+        paragraphLevels += char('0' + cluster.paragraphLevel);
+    }
+    EXPECT_EQ(levels, "00011022");
+    EXPECT_EQ(paragraphLevels, "00000011");
 }
-
-TEST(BidiLevels, AreOddForRightToLeftLettersInLeftToRightTexts) { EXPECT_EQ(leftToRightLevels("ab אב cd"), "00011000"); }
-
-TEST(BidiLevels, AreTwoForLatinLettersAndDigitsInRightToLeftTexts) { EXPECT_EQ(rightToLeftLevels("אב ab 12 ג"), "1112222211"); }
-
-TEST(BidiLevels, GiveNeutralsTheirSurroundingsDirection) {
-    EXPECT_EQ(leftToRightLevels("אב גד"), "11111");
-    EXPECT_EQ(leftToRightLevels("אב! ab"), "110000");
-    EXPECT_EQ(rightToLeftLevels("ab cd"), "22222");
-    EXPECT_EQ(rightToLeftLevels("ab!"), "221");
-}
-
-TEST(BidiLevels, KeepAPriceTogether) {
-    EXPECT_EQ(rightToLeftLevels("רק $99.99 לשנה"), "11122222211111");
-    EXPECT_EQ(rightToLeftLevels("1,234.50 ₪"), "222222221"
-                                               "1");
-    EXPECT_EQ(rightToLeftLevels("45%"), "222");
-}
-
-TEST(BidiLevels, PutNumbersInRightToLeftWordsOneLevelUp) {
-    EXPECT_EQ(leftToRightLevels("אב 12"), "11122");
-    EXPECT_EQ(leftToRightLevels("ab 12"), "00000");
-}
-
-TEST(BidiLevels, StartAnewAfterALineFeed) { EXPECT_EQ(leftToRightLevels("אב\n12"), "11000"); }
 
 RC_GTEST_PROP(FixedTextShaperInvariants, ClustersTileTheText, ()) {
     std::string text;

@@ -20,6 +20,7 @@ public:
     std::size_t graphemeCount(std::string_view) const override { return 0; }
     std::vector<std::size_t> graphemeEnds(std::string_view) const override { return {}; }
     geometry::LayoutDirection layoutDirection(const foundation::Locale&) const override { return {}; }
+    std::vector<foundation::BidiRun> bidiRuns(std::string_view, geometry::LayoutDirection) const override { return {}; }
 
 private:
     std::string m_name;

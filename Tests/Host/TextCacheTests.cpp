@@ -2,7 +2,6 @@
 
 #include "Backends/Headless/TestBed.hpp"
 #include "Platform/Host/TextCache.hpp"
-#include "Tests/Support/AllocationCounter.hpp"
 #include "Tests/Support/FailOnUnexpectedLog.hpp"
 
 namespace proupsells::host {
@@ -77,13 +76,6 @@ TEST_F(TextCacheTest, ForgetsTheTextNotUsedForLongest) {
     EXPECT_EQ(shapeCount(), 4u);
     shaped(run("b"));
     EXPECT_EQ(shapeCount(), 5u);
-}
-
-TEST_F(TextCacheTest, FindsATextWithoutAllocating) {
-    const StyledRun text = run("A text that is longer than what a string keeps within itself");
-    shaped(text);
-
-    EXPECT_EQ(tests::allocationsDuring([&] { shaped(text); }), 0u);
 }
 
 TEST_F(TextCacheTest, MeasuresTheEllipsis) {

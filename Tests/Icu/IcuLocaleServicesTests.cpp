@@ -7,6 +7,7 @@
 
 #include "Backends/Icu/IcuLocaleServices.hpp"
 #include "Platform/Foundation/Locale.hpp"
+#include "Tests/Foundation/BidiLevels.hpp"
 
 using namespace proupsells;
 
@@ -95,6 +96,59 @@ TEST_F(Icu, RaisesEachWordsFirstLetter) {
     EXPECT_EQ(title("ijsvrij", "en"), "Ijsvrij");
     EXPECT_EQ(title("\u00E9l\u00E9ments cr\u00E9atifs", "fr"), "\u00C9l\u00E9ments Cr\u00E9atifs");
     EXPECT_EQ(title(""), "");
+}
+
+class IcuBidi : public Icu {
+protected:
+    std::string levels(const std::string& text, LayoutDirection fallback = LayoutDirection::leftToRight) const {
+        return tests::levelsOf(text, services.bidiRuns(text, fallback));
+    }
+};
+
+TEST_F(IcuBidi, ReadsAParagraphLikeItsFirstLetter) {
+    for (const LayoutDirection fallback : {LayoutDirection::leftToRight, LayoutDirection::rightToLeft}) {
+        EXPECT_EQ(levels("7 days אב.", fallback), "0:0000000110");
+        EXPECT_EQ(levels("7 אב days.", fallback), "1:2111122221");
+    }
+}
+
+TEST_F(IcuBidi, ReadsAParagraphWithoutLettersLikeTheScreen) {
+    EXPECT_EQ(levels("$9.99!"), "0:000000");
+    EXPECT_EQ(levels("$9.99!", LayoutDirection::rightToLeft), "1:222221");
+    EXPECT_EQ(levels("", LayoutDirection::rightToLeft), "");
+}
+
+TEST_F(IcuBidi, StartsAnewWithEveryParagraph) {
+    EXPECT_EQ(levels("ab\nאב\n12"), "0:0001:1110:00");
+    EXPECT_EQ(levels("ab\nאב\n12", LayoutDirection::rightToLeft), "0:0001:11122");
+}
+
+TEST_F(IcuBidi, ObeysInvisibleMarks) {
+    EXPECT_EQ(levels("a\u2067b\u2069c"), "0:00200");               // an isolate from right to left
+    EXPECT_EQ(levels("a\u2068א!\u2069c"), "0:001100");             // one like its own first letter
+    EXPECT_THAT(levels("\u200Fab"), testing::StartsWith("1:122")); // a letter that is not seen
+}
+
+TEST_F(IcuBidi, KeepsBracketsInPairs) { EXPECT_EQ(levels("a (אב) ב"), "0:00011001"); }
+
+TEST_F(IcuBidi, KnowsTheNumbersOfArabicTexts) {
+    EXPECT_EQ(levels("سعر 1-2"), "1:1111212");
+    EXPECT_EQ(levels("מחיר 1-2"), "1:11111222");
+}
+
+TEST_F(IcuBidi, CountsTheBytesOfLongAndOfIllFormedCharacters) {
+    using foundation::BidiRun;
+    EXPECT_THAT(services.bidiRuns("\U00010900a", LayoutDirection::leftToRight), // a Phoenician letter
+                ElementsAre(BidiRun{4, 1, 1}, BidiRun{5, 2, 1}));
+    EXPECT_THAT(services.bidiRuns("a\u05D0\xD7", LayoutDirection::leftToRight),
+                ElementsAre(BidiRun{1, 0, 0}, BidiRun{3, 1, 0}, BidiRun{4, 0, 0}));
+}
+
+TEST_F(IcuBidi, SurvivesDeepNesting) {
+    std::string text;
+    for (int depth = 0; depth < 200; ++depth) text += depth % 2 ? "\u202Bא" : "\u202Aa";
+
+    EXPECT_EQ(services.bidiRuns(text, LayoutDirection::leftToRight).back().end, text.size());
 }
 
 struct Cluster {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <string>
 
 #include "Backends/Icu/IcuLocaleServices.hpp"
@@ -15,6 +16,7 @@ using namespace proupsells;
 
 using foundation::BuiltInLocaleServices;
 using foundation::Locale;
+using geometry::LayoutDirection;
 using icubackend::IcuLocaleServices;
 
 namespace {
@@ -72,6 +74,35 @@ RC_GTEST_PROP(IcuProperty, ChangesAsciiLikeTheBuiltInServices, ()) {
     RC_ASSERT(services.upperCased(text, english) == BuiltInLocaleServices{}.upperCased(text, english));
     RC_ASSERT(services.titleCased(text, english) == BuiltInLocaleServices{}.titleCased(text, english));
     RC_ASSERT(services.graphemeEnds(text) == BuiltInLocaleServices{}.graphemeEnds(text));
+}
+
+LayoutDirection anyDirection() { return *rc::gen::element(LayoutDirection::leftToRight, LayoutDirection::rightToLeft); }
+
+RC_GTEST_PROP(IcuProperty, CutsAnyBytesIntoRunsThatMakeThemUp, ()) {
+    static const IcuLocaleServices services;
+    const std::string bytes = *tests::anyBytes();
+
+    const auto runs = services.bidiRuns(bytes, anyDirection());
+
+    RC_ASSERT(runs.empty() == bytes.empty());
+    std::size_t begin = 0;
+    for (const foundation::BidiRun& run : runs) {
+        RC_ASSERT(run.end > begin);
+        RC_ASSERT(run.paragraphLevel <= 1);
+        begin = run.end;
+    }
+    RC_ASSERT(begin == bytes.size());
+}
+
+RC_GTEST_PROP(IcuProperty, OrdersHebrewPricesLikeTheBuiltInServices, ()) {
+    static const IcuLocaleServices services;
+    const std::string text = *rc::gen::map(
+        rc::gen::container<std::vector<std::string>>(
+            rc::gen::element<std::string>("a", "b", "א", "ב", "1", "23", " ", ".", ",", "-", "+", "%", "$", "₪", "!", "\n")),
+        [](const std::vector<std::string>& pieces) { return std::accumulate(pieces.begin(), pieces.end(), std::string()); });
+    const LayoutDirection fallback = anyDirection();
+
+    RC_ASSERT(services.bidiRuns(text, fallback) == BuiltInLocaleServices{}.bidiRuns(text, fallback));
 }
 
 } // namespace

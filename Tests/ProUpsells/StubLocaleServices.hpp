@@ -40,6 +40,7 @@ private:
         geometry::LayoutDirection layoutDirection(const foundation::Locale&) const override {
             return geometry::LayoutDirection::leftToRight;
         }
+        std::vector<foundation::BidiRun> bidiRuns(std::string_view, geometry::LayoutDirection) const override { return {}; }
     };
     std::shared_ptr<Services> m_services;
     std::shared_ptr<const foundation::LocaleServices> m_previous;

@@ -193,7 +193,7 @@ TEST(TextPainting, PaintsEmojiInTheirOwnColors) {
     emoji.picture.fill(qRgb(0, 128, 0));
     auto text = std::make_shared<qtbackend::QtShapedText>();
     text->runs = {{"ab", {.size = 10}, 0}};
-    text->clusters = {{0, 1, 10, 0, 0, graphics::LineBreak::none, false}, {1, 1, 10, 0, 0, graphics::LineBreak::none, false}};
+    text->clusters = {{.textOffset = 0, .textLength = 1, .advance = 10}, {.textOffset = 1, .textLength = 1, .advance = 10}};
     text->groupStarts = {0, 1};
     text->glyphStarts = {0, 1, 2};
     text->glyphs = {{&plain, 0, 0}, {&emoji, 0, 0}};

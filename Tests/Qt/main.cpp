@@ -1,6 +1,7 @@
-// Fonts and pictures need Qt's application object around all tests.
+// Fonts and pictures need Qt's application object around all tests, and mixed text the full bidirectional algorithm.
 #include <gtest/gtest.h>
 
+#include "Backends/Icu/IcuLocaleServices.hpp"
 #include "Backends/Qt/Application.hpp"
 
 using namespace proupsells;
@@ -8,5 +9,6 @@ using namespace proupsells;
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     const qtbackend::Application application({.isHeadless = true});
+    foundation::LocaleServices::setCurrent(std::make_shared<icubackend::IcuLocaleServices>());
     return RUN_ALL_TESTS();
 }

@@ -60,6 +60,15 @@ TEST(Text, ShrinksBeforeItIsCut) {
     EXPECT_NEAR(node.frame.width(), 40, 0.01);
 }
 
+TEST(Text, ShrinksAsFarAsItMay) {
+    Screen screen{[] { return words("aaaaaaaaaa") | lineLimit(1) | minimumScaleFactor(0.72); }, {36.5, 100}};
+
+    const auto node = screen.text("aaaaaaaaaa");
+
+    EXPECT_FALSE(node.text->isTruncated);
+    EXPECT_NEAR(node.text->size, 7.2, 1e-9);
+}
+
 TEST(Text, LinesStandApartByTheLineSpacing) {
     Screen screen{[] { return words("aaaa bbbb") | lineSpacing(8); }, {25, 100}};
 
@@ -74,6 +83,21 @@ TEST(Text, LinesAreAlignedInTheTextsOwnWidth) {
     ASSERT_EQ(commands.size(), 2u);
     EXPECT_EQ(commands[0].frame.minX(), 0);
     EXPECT_EQ(commands[1].frame.minX(), 5);
+}
+
+TEST(Text, KeepsItsOwnOrderOnAScreenFromRightToLeft) {
+    Screen screen{[] {
+                      return words("7 free days. אב") | frame(100, 20, Alignment::leading) |
+                             layoutDirection(geometry::LayoutDirection::rightToLeft);
+                  },
+                  {100, 20}};
+
+    const auto& commands = screen.host().displayList().commands;
+
+    ASSERT_EQ(commands.size(), 2u);
+    EXPECT_EQ(commands[0].firstCluster, 0u);
+    EXPECT_EQ(commands[0].frame.minX(), 25); // at the right edge
+    EXPECT_LT(commands[0].frame.minX(), commands[1].frame.minX());
 }
 
 TEST(Text, IsShownInCapitalsAndDescribedAsWritten) {

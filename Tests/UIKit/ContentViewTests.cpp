@@ -1,5 +1,6 @@
 #include "Tests/UIKit/Screen.hpp"
 
+#include "Platform/Host/TextCache.hpp"
 #include "Platform/UIKit/Views/UIImageView.hpp"
 #include "Platform/UIKit/Views/UILabel.hpp"
 #include "Platform/UIKit/Views/UIStackView.hpp"
@@ -74,6 +75,33 @@ TEST_F(LabelTest, KeepsItsSizeWhereItFits) {
     label->setMinimumScaleFactor(0.5);
 
     EXPECT_EQ(node().text->size, 16);
+}
+
+TEST_F(LabelTest, IsNotLaidOutAgainToBeDescribed) {
+    label->setText("one two three");
+    label->setFrame({{0, 0}, {60, 20}});
+    label->setMinimumScaleFactor(0.5);
+    painted();
+    host::TextCache::shared().clear();
+    const std::size_t before = bed.fixedTextShaper()->shapeCount();
+
+    EXPECT_EQ(node().text->lineCount, 1);
+
+    EXPECT_EQ(bed.fixedTextShaper()->shapeCount(), before);
+}
+
+TEST_F(LabelTest, FollowsTheCurrentLanguageAndManagesWithoutOne) {
+    label->setText("one");
+    label->setFrame({{0, 0}, {60, 20}});
+    painted();
+    for (const char* identifier : {"de_AT", ""}) {
+        const std::size_t before = bed.fixedTextShaper()->shapeCount();
+        foundation::Locale::setCurrent(foundation::Locale(identifier));
+
+        EXPECT_EQ(node().text->lineCount, 1);
+
+        EXPECT_EQ(bed.fixedTextShaper()->shapeCount(), before + 2); // the text and its ellipsis
+    }
 }
 
 TEST_F(LabelTest, StandsInTheMiddleOfItsHeightAndAlignsItsLines) {

@@ -2,21 +2,10 @@
 
 #include <algorithm>
 
+#include "Platform/Foundation/LanguageChanges.hpp"
 #include "Platform/Foundation/Locale.hpp"
-#include "Platform/Host/TextCache.hpp"
 
 namespace proupsells::uikit {
-
-namespace {
-
-std::string_view language() { return foundation::Locale::current().languageChain().front(); }
-
-std::string_view nameOf(const UIFont& font) {
-    if (!font.name.empty()) return font.name;
-    return font.face ? std::string_view(font.face->name) : std::string_view("system");
-}
-
-} // namespace
 
 UILabel::UILabel() {
     constexpr UILayoutPriority hugging = 251; // before plain views
@@ -24,6 +13,7 @@ UILabel::UILabel() {
     setContentHuggingPriority(hugging, Axis::horizontal);
     setContentHuggingPriority(hugging, Axis::vertical);
     setUserInteractionEnabled(false);
+    m_rules.lineLimit = 1;
     m_attributes.font.size = defaultSize;
     m_attributes.color = {"label", graphics::rgb(0x000000), graphics::rgb(0xFFFFFF)};
     contentDidChange();
@@ -64,8 +54,7 @@ void UILabel::setTextAlignment(graphics::TextAlignment alignment) {
 }
 
 void UILabel::setNumberOfLines(int count) {
-    m_numberOfLines = std::max(0, count);
-    m_drawn.reset();
+    m_rules.lineLimit = count > 0 ? std::optional(count) : std::nullopt;
     invalidateIntrinsicContentSize();
 }
 
@@ -76,123 +65,69 @@ void UILabel::setPreferredMaxLayoutWidth(double width) {
 }
 
 void UILabel::setMinimumScaleFactor(double factor) {
-    m_minimumScaleFactor = std::clamp(factor, 0.0, 1.0);
-    m_drawn.reset();
+    m_rules.minimumScale = std::clamp(factor, 0.0, 1.0);
     setNeedsDisplay();
 }
 
 void UILabel::contentDidChange() {
-    m_drawn.reset();
-    m_runs.clear();
+    std::vector<graphics::StyledRun> runs;
     for (const graphics::AttributedRun& run : m_content.runs())
-        m_runs.push_back({run.text, run.attributes.font, run.attributes.kern});
-    if (m_runs.empty()) m_runs.push_back({{}, m_attributes.font, 0});
+        runs.push_back({run.text, run.attributes.font, run.attributes.kern});
+    if (runs.empty()) runs.push_back({{}, m_attributes.font, 0});
+    m_fitted.setRuns(std::move(runs));
+    m_rules.lineSpacing = m_content.paragraphStyle ? m_content.paragraphStyle->lineSpacing : 0;
     invalidateIntrinsicContentSize();
     setNeedsDisplay();
 }
 
 void UILabel::traitCollectionDidChange(const UITraitCollection& previous) {
     UIView::traitCollectionDidChange(previous);
-    if (previous.layoutDirection != direction()) invalidateIntrinsicContentSize();
+    if (previous.layoutDirection != traitCollection().layoutDirection) invalidateIntrinsicContentSize();
 }
 
 // --- Measures ---
 
-const UIFont& UILabel::firstFont() const { return m_runs.front().font; }
-
-const std::shared_ptr<const graphics::ShapedText>& UILabel::shaped(const std::vector<graphics::StyledRun>& runs) const {
-    return host::TextCache::shared().shaped(runs, language(), direction());
-}
-
-std::vector<graphics::StyledRun> UILabel::runsScaledBy(double scale) const {
-    std::vector<graphics::StyledRun> runs = m_runs;
-    for (graphics::StyledRun& run : runs) run.font.size *= scale;
-    return runs;
-}
-
-double UILabel::scaleIn(geometry::Size size) const {
-    constexpr double step = 0.05;
-    for (double scale = 1; scale > m_minimumScaleFactor; scale = std::max(scale - step, m_minimumScaleFactor))
-        if (!laidOut(runsScaledBy(scale), size).isTruncated) return scale;
-    return m_minimumScaleFactor;
-}
-
-std::shared_ptr<const graphics::ShapedText> UILabel::ellipsis() const {
-    return host::TextCache::shared().ellipsis(firstFont(), language(), direction());
-}
-
-graphics::TextLayout UILabel::laidOut(const std::vector<graphics::StyledRun>& runs, const geometry::ProposedSize& proposal) const {
-    graphics::TextLayoutRequest request;
-    request.width = proposal.width;
-    request.height = proposal.height;
-    if (m_numberOfLines > 0) request.lineLimit = m_numberOfLines;
-    if (m_content.paragraphStyle) request.lineSpacing = m_content.paragraphStyle->lineSpacing;
-    request.direction = direction();
-    request.ellipsisWidth = host::totalAdvance(*ellipsis());
-    graphics::TextLayout layout;
-    graphics::layOutText(*shaped(runs), request, layout);
-    return layout;
+host::FittedText& UILabel::fitted() const {
+    m_rules.language = foundation::Locale::current().languageTag();
+    m_rules.languageChangeCount = foundation::LanguageChanges::count();
+    m_rules.direction = traitCollection().layoutDirection;
+    m_fitted.setRules(m_rules);
+    return m_fitted;
 }
 
 geometry::Size UILabel::intrinsicContentSize() const {
-    const bool wraps = m_numberOfLines != 1 && m_preferredMaxLayoutWidth > 0;
+    const bool wraps = numberOfLines() != 1 && m_preferredMaxLayoutWidth > 0;
     if (m_content.isEmpty()) return {0, 0};
-    return laidOut(m_runs, {wraps ? std::optional(m_preferredMaxLayoutWidth) : std::nullopt, std::nullopt}).size;
+    return fitted().sizeIn({wraps ? std::optional(m_preferredMaxLayoutWidth) : std::nullopt, std::nullopt});
 }
 
 geometry::Size UILabel::naturalSizeFor(geometry::Size given) const {
     const geometry::Size natural = intrinsicContentSize();
-    if (m_numberOfLines == 1 || m_preferredMaxLayoutWidth > 0 || given.width >= natural.width) return natural;
+    if (numberOfLines() == 1 || m_preferredMaxLayoutWidth > 0 || given.width >= natural.width) return natural;
     return sizeThatFits({given.width, std::nullopt});
 }
 
 geometry::Size UILabel::sizeThatFits(const geometry::ProposedSize& proposal) const {
     if (m_content.isEmpty()) return {0, 0};
-    return laidOut(m_runs, proposal).size;
+    return fitted().sizeIn(proposal);
 }
 
 // --- Picture ---
 
-const UILabel::Drawn& UILabel::drawn(graphics::ColorScheme scheme) const {
-    const bool isCurrent = m_drawn && m_drawn->size == bounds().size && m_drawn->direction == direction() &&
-                           m_drawn->scheme == scheme && m_drawn->language == language();
-    if (isCurrent) return *m_drawn;
-    const auto runs = runsScaledBy(scaleIn(bounds().size));
-    Drawn drawn{bounds().size, direction(), scheme, std::string(language()), laidOut(runs, bounds().size),
-                shaped(runs),  ellipsis(),  {}};
-    for (const graphics::AttributedRun& run : m_content.runs())
-        drawn.paints.push_back({run.attributes.color.resolved(scheme), run.attributes.isStruckThrough});
-    m_drawn = std::move(drawn);
-    return *m_drawn;
-}
-
 void UILabel::draw(graphics::PaintContext& context, const graphics::PaintState& state) const {
     if (m_content.isEmpty() || state.hides(bounds())) return;
-    const Drawn& drawn = this->drawn(state.scheme);
-    const double height = drawn.layout.size.height;
+    fitted().showIn(bounds().size);
+    const double height = m_fitted.shownSize().height;
     const geometry::Rect box{{bounds().minX(), bounds().midY() - height / 2}, {bounds().width(), height}};
-    graphics::paintTextLayout(context, state, drawn.layout, drawn.text, drawn.ellipsis, box, m_alignment, drawn.paints);
+    m_fitted.paint(context, state, box, m_alignment, m_content, m_attributes.color);
 }
 
 void UILabel::describe(accessibility::Node& node, const graphics::PaintState&) const {
     node.traits = node.traits | accessibility::Traits::staticText;
-    const double scale = scaleIn(bounds().size);
-    const graphics::TextLayout layout = laidOut(runsScaledBy(scale), bounds().size);
-    const graphics::TextAttributes first = m_content.isEmpty() ? m_attributes : m_content.runs().front().attributes;
-    accessibility::TextInfo info;
-    info.text = m_content.text();
-    info.font = nameOf(first.font);
-    info.size = first.font.size * scale;
-    info.weight = first.font.weightOption;
-    info.color = first.color.name;
-    info.lineCount = m_content.isEmpty() ? 0 : int(layout.lines.size());
-    info.isTruncated = layout.isTruncated;
-    if (m_content.runs().size() > 1)
-        for (const graphics::AttributedRun& run : m_content.runs())
-            info.runs.push_back({run.text, std::string(nameOf(run.attributes.font)), run.attributes.font.size * scale,
-                                 run.attributes.font.weightOption, std::string(run.attributes.color.name),
-                                 run.attributes.isStruckThrough});
-    node.text = std::move(info);
+    fitted().showIn(bounds().size);
+    node.text = m_fitted.described(m_content, m_attributes.color);
+    if (m_content.isEmpty()) node.text->lineCount = 0;
+    if (m_content.runs().size() < 2) node.text->runs.clear();
 }
 
 } // namespace proupsells::uikit

@@ -1,8 +1,7 @@
 // Text that is only read.
 #pragma once
 
-#include "Platform/Graphics/TextLayout.hpp"
-#include "Platform/Graphics/TextPainting.hpp"
+#include "Platform/Host/FittedText.hpp"
 #include "Platform/UIKit/Views/UIView.hpp"
 
 namespace proupsells::uikit {
@@ -26,11 +25,11 @@ public:
     void setTextColor(const UIColor& color);
     graphics::TextAlignment textAlignment() const { return m_alignment; }
     void setTextAlignment(graphics::TextAlignment alignment);
-    // 0: as many as are needed. 1 unless set.
-    int numberOfLines() const { return m_numberOfLines; }
+    // 0: as many as are needed. It is 1 until it is set.
+    int numberOfLines() const { return m_rules.lineLimit.value_or(0); }
     void setNumberOfLines(int count);
-    // The smallest share of its size to which a text that would be cut is set instead; 1, unless set, never shrinks it.
-    double minimumScaleFactor() const { return m_minimumScaleFactor; }
+    // A text that would be cut is set smaller instead, down to this share of its size. It is 1 until it is set, which means never.
+    double minimumScaleFactor() const { return m_rules.minimumScale; }
     void setMinimumScaleFactor(double factor);
     // The width at which the natural size is measured where the label may have several lines; 0: the text's own width.
     double preferredMaxLayoutWidth() const { return m_preferredMaxLayoutWidth; }
@@ -49,38 +48,18 @@ protected:
     void describe(accessibility::Node& node, const graphics::PaintState& state) const override;
 
 private:
-    // What is painted, kept until the text, its room or the way of reading changes.
-    struct Drawn {
-        geometry::Size size;
-        geometry::LayoutDirection direction;
-        graphics::ColorScheme scheme;
-        std::string language;
-        graphics::TextLayout layout;
-        std::shared_ptr<const graphics::ShapedText> text, ellipsis;
-        std::vector<graphics::TextRunPaint> paints;
-    };
-
     void contentDidChange();
     void restylePlainText();
-    const std::shared_ptr<const graphics::ShapedText>& shaped(const std::vector<graphics::StyledRun>& runs) const;
-    // The share of its size at which the text is set in `size`.
-    double scaleIn(geometry::Size size) const;
-    std::vector<graphics::StyledRun> runsScaledBy(double scale) const;
-    std::shared_ptr<const graphics::ShapedText> ellipsis() const;
-    graphics::TextLayout laidOut(const std::vector<graphics::StyledRun>& runs, const geometry::ProposedSize& proposal) const;
-    const UIFont& firstFont() const;
-    const Drawn& drawn(graphics::ColorScheme scheme) const;
-    geometry::LayoutDirection direction() const { return traitCollection().layoutDirection; }
+    // The text in the current language and direction.
+    host::FittedText& fitted() const;
 
     graphics::AttributedString m_content;
-    std::vector<graphics::StyledRun> m_runs;
     graphics::TextAttributes m_attributes;
     graphics::TextAlignment m_alignment = graphics::TextAlignment::leading;
     bool m_isPlain = true;
-    int m_numberOfLines = 1;
     double m_preferredMaxLayoutWidth = 0;
-    double m_minimumScaleFactor = 1;
-    mutable std::optional<Drawn> m_drawn;
+    mutable host::TextRules m_rules;
+    mutable host::FittedText m_fitted;
 };
 
 } // namespace proupsells::uikit

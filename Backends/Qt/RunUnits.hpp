@@ -1,32 +1,30 @@
-// Styled runs as one UTF-16 text that remembers where its bytes came from.
+// Styled runs in the encoding that Qt reads.
 #pragma once
 
 #include <QString>
-#include <cstdint>
 #include <span>
 #include <vector>
 
+#include "Platform/Foundation/Utf16.hpp"
 #include "Platform/Graphics/ShapedText.hpp"
 
 namespace proupsells::qtbackend {
 
-// Bytes that are no UTF-8 become replacement characters, one for each longest piece that a character could have begun with.
-class DecodedText {
+// All runs' texts as one UTF-16 text that knows where its bytes and runs begin.
+class RunUnits {
 public:
-    explicit DecodedText(std::span<const graphics::StyledRun> runs);
+    explicit RunUnits(std::span<const graphics::StyledRun> runs);
 
     const QString& units() const { return m_units; }
     // Where a unit's character starts, in bytes of all runs' texts, one after the other; the end for units().size().
-    std::uint32_t byteOffset(std::uint32_t unit) const { return m_byteOffsets[unit]; }
+    std::uint32_t byteOffset(std::uint32_t unit) const { return m_text.byteOffset(unit); }
     // First unit of a run; the end for the number of runs.
     std::uint32_t runStart(std::size_t run) const { return m_runStarts[run]; }
     std::size_t runCount() const { return m_runStarts.size() - 1; }
 
 private:
-    void append(const std::string& text, std::uint32_t textStart);
-
+    foundation::Utf16Text m_text;
     QString m_units;
-    std::vector<std::uint32_t> m_byteOffsets;
     std::vector<std::uint32_t> m_runStarts;
 };
 

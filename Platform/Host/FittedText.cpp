@@ -1,0 +1,159 @@
+#include "Platform/Host/FittedText.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+#include "Platform/Host/TextCache.hpp"
+
+namespace proupsells::host {
+
+using geometry::ProposedSize;
+using geometry::Size;
+using graphics::AttributedString;
+using graphics::Color;
+
+namespace {
+
+// Room that is short of a line by less than this is a rounding error.
+constexpr double tolerance = 0.005;
+// A text shrinks by this share of its size at a time, and at last to its minimum.
+constexpr double scaleStep = 0.05;
+
+std::optional<double> withTolerance(const std::optional<double>& length) {
+    return length && std::isfinite(*length) ? std::optional(*length + tolerance) : std::nullopt;
+}
+
+std::string_view nameOf(const graphics::Font& font) {
+    if (!font.name.empty()) return font.name;
+    return font.face ? std::string_view(font.face->name) : std::string_view("system");
+}
+
+const Color& colorOf(const graphics::AttributedRun& run, const Color& inherited) {
+    return run.attributes.color.name.empty() ? inherited : run.attributes.color;
+}
+
+} // namespace
+
+bool FittedText::setRuns(std::vector<graphics::StyledRun> runs) {
+    if (runs == m_runs) return false;
+    m_runs = std::move(runs);
+    forgetLines();
+    return true;
+}
+
+bool FittedText::setRules(const TextRules& rules) {
+    if (rules == m_rules) return false;
+    m_rules = rules;
+    forgetLines();
+    return true;
+}
+
+// What is shown stays until the text is shown anew.
+void FittedText::forgetLines() {
+    for (Lines* lines : {&m_measured, &m_shown}) {
+        lines->scale.reset();
+        lines->room.reset();
+    }
+    m_idealSize.reset();
+}
+
+// --- Measures ---
+
+const Size& FittedText::idealSize() {
+    if (!m_idealSize) {
+        measure(1, {});
+        m_measured.room.emplace();
+        m_idealSize = m_measured.layout.size;
+        m_idealLineCount = int(m_measured.layout.lines.size());
+        m_idealIsCut = m_measured.layout.isTruncated;
+    }
+    return *m_idealSize;
+}
+
+Size FittedText::sizeIn(const ProposedSize& room) {
+    const ProposedSize limits = limitsIn(room);
+    return limits == ProposedSize{} ? *m_idealSize : linesWithin(limits).layout.size;
+}
+
+double FittedText::firstBaselineIn(const ProposedSize& room) { return linesWithin(limitsIn(room)).layout.lines.front().ascent; }
+
+void FittedText::showIn(const ProposedSize& room) {
+    if (&linesWithin(limitsIn(room)) == &m_measured) std::swap(m_shown, m_measured);
+}
+
+ProposedSize FittedText::limitsIn(const ProposedSize& room) {
+    const Size& ideal = idealSize();
+    const bool fits = !m_idealIsCut && (!room.width || *room.width + tolerance >= ideal.width) &&
+                      (!room.height || m_idealLineCount <= 1 || *room.height + tolerance >= ideal.height);
+    return fits ? ProposedSize{} : room;
+}
+
+const FittedText::Lines& FittedText::linesWithin(const ProposedSize& limits) {
+    if (m_shown.room == limits) return m_shown;
+    if (m_measured.room == limits) return m_measured;
+    measure(1, limits);
+    const double minimum = limits == ProposedSize{} ? 1 : std::max(0.0, m_rules.minimumScale);
+    for (int step = 1; m_measured.layout.isTruncated && m_measured.scale > minimum; ++step)
+        measure(std::max(1 - step * scaleStep, minimum), limits);
+    m_measured.room = limits;
+    return m_measured;
+}
+
+void FittedText::measure(double scale, const ProposedSize& limits) {
+    TextCache& cache = TextCache::shared();
+    if (m_measured.scale != scale) {
+        m_scaledRuns = m_runs;
+        for (graphics::StyledRun& run : m_scaledRuns) run.font.size *= scale;
+        m_measured.shaped = cache.shaped(m_scaledRuns, m_rules.language, m_rules.direction);
+        m_measured.ellipsis = nullptr;
+        m_measured.scale = scale;
+    }
+    graphics::TextLayoutRequest request{.width = withTolerance(limits.width),
+                                        .height = withTolerance(limits.height),
+                                        .lineLimit = m_rules.lineLimit,
+                                        .lineSpacing = m_rules.lineSpacing,
+                                        .direction = m_rules.direction};
+    if (request.height || request.lineLimit) {
+        const graphics::Font& font = m_measured.shaped->runs.front().font;
+        if (!m_measured.ellipsis) m_measured.ellipsis = cache.ellipsis(font, m_rules.language, m_rules.direction);
+        request.ellipsisWidth = totalAdvance(*m_measured.ellipsis);
+    }
+    graphics::layOutText(*m_measured.shaped, request, m_measured.layout);
+}
+
+// --- Picture ---
+
+void FittedText::paint(graphics::PaintContext& context, const graphics::PaintState& state, const geometry::Rect& box,
+                       graphics::TextAlignment alignment, const AttributedString& words, const Color& inherited) {
+    m_paints.clear();
+    for (const graphics::AttributedRun& run : words.runs())
+        m_paints.push_back({colorOf(run, inherited).resolved(state.scheme), run.attributes.isStruckThrough});
+    if (m_paints.empty()) m_paints.push_back({inherited.resolved(state.scheme)});
+    graphics::paintTextLayout(context, state, m_shown.layout, m_shown.shaped, m_shown.ellipsis, box, alignment, m_paints);
+}
+
+const graphics::Font& FittedText::shownFont(std::size_t run) const {
+    const auto& runs = m_shown.shaped && run < m_shown.shaped->runs.size() ? m_shown.shaped->runs : m_runs;
+    return runs[std::min(run, runs.size() - 1)].font;
+}
+
+accessibility::TextInfo FittedText::described(const AttributedString& words, const Color& inherited) const {
+    accessibility::TextInfo info;
+    info.text = words.text();
+    const graphics::Font& font = shownFont(0);
+    info.font = nameOf(font);
+    info.size = font.size;
+    info.weight = font.weightOption;
+    info.color = words.isEmpty() ? inherited.name : colorOf(words.runs().front(), inherited).name;
+    info.lineCount = int(m_shown.layout.lines.size());
+    info.isTruncated = m_shown.layout.isTruncated;
+    for (std::size_t index = 0; index < words.runs().size(); ++index) {
+        const graphics::AttributedRun& run = words.runs()[index];
+        const graphics::Font& runFont = shownFont(index);
+        info.runs.push_back({run.text, std::string(nameOf(runFont)), runFont.size, runFont.weightOption,
+                             std::string(colorOf(run, inherited).name), run.attributes.isStruckThrough});
+    }
+    return info;
+}
+
+} // namespace proupsells::host

@@ -1,0 +1,183 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "Backends/Headless/TestBed.hpp"
+#include "Platform/Host/FittedText.hpp"
+#include "Platform/Host/TextCache.hpp"
+#include "Tests/Support/FailOnUnexpectedLog.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
+
+namespace proupsells::host {
+namespace {
+
+using geometry::Rect;
+using geometry::Size;
+using graphics::AttributedString;
+using graphics::Color;
+using ::testing::IsEmpty;
+
+constexpr Color ink{"ink", graphics::rgb(0x111111), graphics::rgb(0xEEEEEE)};
+
+// At size 10 a character is 5 wide and a line 12.5 high.
+class FittedTextTest : public ::testing::Test {
+protected:
+    FittedTextTest() { setText("aaaa bb cccccc"); }
+
+    void setText(std::string words) { text.setRuns({{std::move(words), {.size = 10, .name = "ten"}, 0}}); }
+    void setRules(TextRules rules) { text.setRules(rules); }
+    accessibility::TextInfo shownIn(const geometry::ProposedSize& room) {
+        text.showIn(room);
+        return text.described({}, ink);
+    }
+    const graphics::DisplayList& painted(graphics::ColorScheme scheme = graphics::ColorScheme::light) {
+        list = {};
+        graphics::PaintContext context(list);
+        graphics::PaintState state;
+        state.scheme = scheme;
+        text.paint(context, state, Rect{{0, 0}, {100, 100}}, graphics::TextAlignment::leading, {}, ink);
+        return list;
+    }
+    std::size_t shapeCount() const { return bed.fixedTextShaper()->shapeCount(); }
+
+    headless::TestBed bed;
+    FittedText text;
+    graphics::DisplayList list;
+};
+
+TEST_F(FittedTextTest, IsAsWideAsItsWidestLine) {
+    EXPECT_EQ(text.idealSize(), (Size{70, 12.5}));
+    EXPECT_EQ(text.sizeIn({69, std::nullopt}), (Size{35, 25}));
+    EXPECT_EQ(text.sizeIn({geometry::infinity, 5}), (Size{70, 12.5}));
+}
+
+TEST_F(FittedTextTest, ForgivesRoundingErrors) { EXPECT_EQ(text.sizeIn({69.996, 12.496}), (Size{70, 12.5})); }
+
+TEST_F(FittedTextTest, KnowsTheBaselineOfItsFirstLine) { EXPECT_EQ(text.firstBaselineIn({35, std::nullopt}), 10); }
+
+TEST_F(FittedTextTest, KeepsWhatItShowsWhileItIsMeasured) {
+    text.showIn({35, std::nullopt});
+
+    EXPECT_EQ(text.sizeIn({20, std::nullopt}), (Size{20, 50}));
+    EXPECT_EQ(text.shownSize(), (Size{35, 25}));
+}
+
+TEST_F(FittedTextTest, IsLaidOutOnceForEachOfTwoRooms) {
+    text.showIn({35, 100});
+    text.sizeIn({20, 100});
+    TextCache::shared().clear();
+    const std::size_t before = shapeCount();
+
+    text.showIn({35, 100});
+    text.sizeIn({20, 100});
+    text.sizeIn({35, 100});
+
+    EXPECT_EQ(shapeCount(), before);
+}
+
+TEST_F(FittedTextTest, ShrinksStepByStepAndAtLastToItsMinimum) {
+    setText("aaaaaaaaaa");
+    setRules({.lineLimit = 1, .minimumScale = 0.72});
+
+    EXPECT_EQ(shownIn({50, 20}).size, 10);
+    EXPECT_NEAR(shownIn({40, 20}).size, 8, 1e-9);
+    EXPECT_NEAR(shownIn({36.5, 20}).size, 7.2, 1e-9);
+    EXPECT_FALSE(shownIn({36.5, 20}).isTruncated);
+    EXPECT_TRUE(shownIn({30, 20}).isTruncated);
+}
+
+TEST_F(FittedTextTest, CutsAShrunkTextWithAnEllipsisAsSmall) {
+    setText("aaaaaaaaaa");
+    setRules({.lineLimit = 1, .minimumScale = 0.5});
+
+    EXPECT_EQ(text.sizeIn({20, 20}), (Size{20, 6.25})); // seven characters and the ellipsis, 2.5 wide each
+    text.showIn({20, 20});
+    EXPECT_EQ(painted().commands.back().frame.minX(), 17.5);
+}
+
+TEST_F(FittedTextTest, NeverShrinksWhereRoomIsNotWhatItLacks) {
+    setText("a\nb");
+    setRules({.lineLimit = 1, .minimumScale = 0.5});
+
+    EXPECT_TRUE(shownIn({}).isTruncated);
+    EXPECT_EQ(shownIn({}).size, 10);
+}
+
+TEST_F(FittedTextTest, IsMeasuredAnewWhereItChanges) {
+    EXPECT_EQ(text.sizeIn({35, std::nullopt}), (Size{35, 25}));
+
+    EXPECT_TRUE(text.setRules({.lineSpacing = 5}));
+    EXPECT_EQ(text.sizeIn({35, std::nullopt}), (Size{35, 30}));
+    EXPECT_TRUE(text.setRuns({{"aaaa bb cccccc", {.size = 20}, 0}}));
+    EXPECT_EQ(text.idealSize(), (Size{140, 25}));
+}
+
+TEST_F(FittedTextTest, IsNotMeasuredAnewWhereNothingChanges) {
+    setRules({.language = "de", .lineLimit = 3});
+
+    EXPECT_FALSE(text.setRules({.language = "de", .lineLimit = 3}));
+    EXPECT_FALSE(text.setRuns({{"aaaa bb cccccc", {.size = 10, .name = "ten"}, 0}}));
+}
+
+TEST_F(FittedTextTest, IsShapedInItsLanguage) {
+    text.showIn({});
+    const std::size_t before = shapeCount();
+
+    EXPECT_TRUE(text.setRules({.language = "de"}));
+    text.showIn({});
+
+    EXPECT_EQ(shapeCount(), before + 1);
+}
+
+TEST_F(FittedTextTest, KeepsItsPictureUntilItIsShownAnew) {
+    text.showIn({});
+
+    setText("b");
+
+    EXPECT_EQ(painted().commands.back().frame.width(), 70);
+    text.showIn({});
+    EXPECT_EQ(painted().commands.back().frame.width(), 5);
+}
+
+TEST_F(FittedTextTest, TakesTheColourOfTheScheme) {
+    text.showIn({});
+
+    EXPECT_EQ(painted().commands.back().color, graphics::rgb(0x111111));
+    EXPECT_EQ(painted(graphics::ColorScheme::dark).commands.back().color, graphics::rgb(0xEEEEEE));
+}
+
+TEST_F(FittedTextTest, DescribesAPlainTextByItsFont) {
+    const accessibility::TextInfo info = shownIn({35, std::nullopt});
+
+    EXPECT_EQ(info.font, "ten");
+    EXPECT_EQ(info.color, "ink");
+    EXPECT_EQ(info.lineCount, 2);
+    EXPECT_THAT(info.runs, IsEmpty());
+}
+
+TEST_F(FittedTextTest, DescribesEachRunOfARichText) {
+    AttributedString words("was ", {.font = {.size = 12, .name = "twelve"}, .color = Color::white, .isStruckThrough = true});
+    words.append({"now", {}});
+    text.setRuns({{"WAS ", {.size = 12, .name = "twelve"}, 0}, {"NOW", {.size = 10, .name = "ten"}, 0}});
+    text.showIn({});
+
+    const accessibility::TextInfo info = text.described(words, ink);
+
+    EXPECT_EQ(info.text, "was now");
+    ASSERT_EQ(info.runs.size(), 2u);
+    EXPECT_EQ(info.runs[0].color, "white");
+    EXPECT_TRUE(info.runs[0].isStruckThrough);
+    EXPECT_EQ(info.runs[1].font, "ten");
+    EXPECT_EQ(info.runs[1].color, "ink");
+}
+
+TEST_F(FittedTextTest, NamesAFontWithoutADesignNameByItsFace) {
+    const auto& face = graphics::registerFontFace("FittedTextTests-Face", "Family", 400);
+    text.setRuns({{"a", {.face = &face, .size = 10}, 0}});
+    EXPECT_EQ(shownIn({}).font, "FittedTextTests-Face");
+
+    text.setRuns({{"a", {.size = 10}, 0}});
+    EXPECT_EQ(shownIn({}).font, "system");
+}
+
+} // namespace
+} // namespace proupsells::host
