@@ -62,14 +62,16 @@ TEST_F(FittedTextTest, KeepsWhatItShowsWhileItIsMeasured) {
 }
 
 TEST_F(FittedTextTest, IsLaidOutOnceForEachOfTwoRooms) {
-    text.showIn({35, 100});
-    text.sizeIn({20, 100});
+    setText("aaaaaaaaaa");
+    setRules({.lineLimit = 1, .minimumScale = 0.5}); // a text that shrinks is shaped again in every other room
+    text.showIn({40, 100});
+    text.sizeIn({30, 100});
     TextCache::shared().clear();
     const std::size_t before = shapeCount();
 
-    text.showIn({35, 100});
-    text.sizeIn({20, 100});
-    text.sizeIn({35, 100});
+    text.showIn({40, 100});
+    text.sizeIn({30, 100});
+    text.sizeIn({40, 100});
 
     EXPECT_EQ(shapeCount(), before);
 }
