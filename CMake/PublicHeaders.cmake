@@ -13,8 +13,10 @@ set(PROUPSELLS_Platform_HEADERS
   Platform/Combine/PassthroughSubject.hpp
   Platform/Commons/DefaultLogger.hpp
   Platform/Commons/SourceLocation.hpp
+  Platform/Foundation/BidiRun.hpp
   Platform/Foundation/Bundle.hpp
   Platform/Foundation/Coder.hpp
+  Platform/Foundation/LanguageChanges.hpp
   Platform/Foundation/Locale.hpp
   Platform/Foundation/LocaleServices.hpp
   Platform/Geometry/Axis.hpp

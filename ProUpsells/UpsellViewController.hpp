@@ -8,13 +8,16 @@
 
 #include "Platform/Combine/AnyCancellable.hpp"
 #include "Platform/Foundation/Coder.hpp"
-#include "Platform/Hosting/UIHostingController.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 #include "Platform/VelaUIKit/EmptyStateView.hpp"
 #include "ProUpsells/ProUpsellControllerType.hpp"
 #include "ProUpsells/PromotionalPricingUpsell.hpp"
 #include "ProUpsells/UpsellViewControllerDelegate.hpp"
 #include "ProUpsells/UpsellViewModel.hpp"
+
+namespace proupsells::hosting {
+class UIHostingController;
+}
 
 namespace proupsells {
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/Hosting/UIHostingController.hpp"
 #include "Platform/SwiftUI/Modifiers/EnvironmentModifiers.hpp"
 #include "Platform/VelaUIKit/Colors.hpp"
 #include "Platform/VelaUIKit/HostingControllers.hpp"
