@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
-#include "ProUpsells/Upsell View/UpsellViewController.hpp"
+#include "ProUpsells/UpsellViewController.hpp"
 #include "ProUpsells/VelaProUpsellViewController.hpp"
 #include "Tests/ProUpsells/Offers.hpp"
 #include "Tests/ProUpsells/Screen.hpp"

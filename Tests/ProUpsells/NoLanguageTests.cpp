@@ -3,7 +3,7 @@
 
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/UIKit/Controllers/UINavigationController.hpp"
-#include "ProUpsells/Upsell View/UpsellViewController.hpp"
+#include "ProUpsells/UpsellViewController.hpp"
 #include "Tests/ProUpsells/StoreScreen.hpp"
 
 namespace proupsells::tests {
