@@ -4,9 +4,12 @@
 
 include_guard(GLOBAL)
 
-# proupsells_add_room(<name> <folder> [DEPENDS <room>...])
+# proupsells_add_room(<name> <folder> [DEPENDS <room>...] [PRECOMPILED <set>]): the set is StandardHeaders where none is named.
 function(proupsells_add_room name folder)
-  cmake_parse_arguments(ROOM "" "" "DEPENDS" ${ARGN})
+  cmake_parse_arguments(ROOM "" "PRECOMPILED" "DEPENDS" ${ARGN})
+  if(NOT ROOM_PRECOMPILED)
+    set(ROOM_PRECOMPILED StandardHeaders)
+  endif()
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.cpp")
   if(NOT sources)
     set(sources "${PROJECT_SOURCE_DIR}/CMake/EmptyRoom.cpp")
@@ -14,7 +17,7 @@ function(proupsells_add_room name folder)
   add_library(${name} OBJECT ${sources})
   target_include_directories(${name} PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
   target_link_libraries(${name} PUBLIC ProUpsellsFlags)
-  proupsells_use_precompiled(${name} StandardHeaders)
+  proupsells_use_precompiled(${name} ${ROOM_PRECOMPILED})
   proupsells_check_headers(${name} ${folder})
   set(closure ${name})
   foreach(room IN LISTS ROOM_DEPENDS)
