@@ -2,7 +2,7 @@
 
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
-#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 #include "ProUpsells/CallToActionTexts.hpp"
 #include "ProUpsells/ComparePlansButton.hpp"
 #include "ProUpsells/ContainerWithCloseButton.hpp"
@@ -108,12 +108,12 @@ std::shared_ptr<const std::vector<Page>> UpsellView::defaultCarouselPageList() {
 }
 
 View UpsellView::body(BuildContext& context) const {
-    const Paywall paywall{.upsellEnvironment = context.environmentObject<UpsellEnvironment>(),
-                          .model = context.observe(model),
-                          .pages = carouselPageList,
-                          .selectedIndex = context.state(0),
-                          .isLight = context.environment().colorScheme == graphics::ColorScheme::light};
-    return GeometryReader{[paywall](const GeometryProxy& proxy) { return paywall.screen(proxy.size.height); }};
+    Paywall paywall{.upsellEnvironment = context.environmentObject<UpsellEnvironment>(),
+                    .model = context.observe(model),
+                    .pages = carouselPageList,
+                    .selectedIndex = context.state(0),
+                    .isLight = context.environment().colorScheme == graphics::ColorScheme::light};
+    return GeometryReader{[paywall = std::move(paywall)](const GeometryProxy& proxy) { return paywall.screen(proxy.size.height); }};
 }
 
 } // namespace proupsells

@@ -34,12 +34,11 @@ std::shared_ptr<Connection::Target> Connection::relay() const {
 }
 
 void Connection::takeCopiesOf(const Connection& older) const {
-    Relay* const relay = older.m_relay.get();
-    if (!relay || relay == m_relay.get()) return;
-    // The newer one may be a copy of the older one. Then the relay must not be led in a circle.
-    if (!leadsTo(*relay)) relay->next = m_target;
+    if (!older.m_relay) return;
     if (m_relay) m_relay->next = older.m_relay;
-    m_relay = older.m_relay;
+    m_relay = std::move(older.m_relay);
+    // The newer one may be a copy of the older one. Then the relay must not be led in a circle.
+    if (!leadsTo(*m_relay)) m_relay->next = m_target;
 }
 
 bool Connection::leadsTo(const Target& relay) const {

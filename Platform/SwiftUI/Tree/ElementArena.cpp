@@ -1,7 +1,6 @@
 #include "Platform/SwiftUI/Tree/ElementArena.hpp"
 
 #include <algorithm>
-#include <cstdint>
 
 #include "Platform/SwiftUI/Tree/Element.hpp"
 
@@ -11,26 +10,24 @@ namespace {
 constexpr std::size_t chunkSize = 64 * 1024;
 }
 
-ElementArena& ElementArena::current() {
-    static ElementArena arena;
-    return arena;
-}
+constinit ElementArena ElementArena::s_current;
 
 ElementArena::~ElementArena() { reset(); }
 
-void* ElementArena::allocate(std::size_t size, std::size_t alignment) {
-    for (; m_chunk < m_chunks.size(); ++m_chunk, m_used = 0) {
-        Chunk& chunk = m_chunks[m_chunk];
-        const auto base = reinterpret_cast<std::uintptr_t>(chunk.bytes.get());
-        const std::size_t start = ((base + m_used + alignment - 1) & ~(alignment - 1)) - base;
-        if (start + size > chunk.size) continue;
-        m_used = start + size;
-        return chunk.bytes.get() + start;
+void* ElementArena::allocateElsewhere(std::size_t size, std::size_t alignment) {
+    const std::size_t next = m_next ? m_chunk + 1 : 0;
+    if (next == m_chunks.size()) {
+        const std::size_t length = std::max(chunkSize, size + alignment);
+        m_chunks.push_back({std::make_unique<std::byte[]>(length), length});
     }
-    const std::size_t length = std::max(chunkSize, size + alignment);
-    m_chunks.push_back({std::make_unique<std::byte[]>(length), length});
-    m_used = 0;
+    use(next);
     return allocate(size, alignment);
+}
+
+void ElementArena::use(std::size_t chunk) {
+    m_chunk = chunk;
+    m_next = m_chunks[chunk].bytes.get();
+    m_end = m_next + m_chunks[chunk].size;
 }
 
 std::string_view ElementArena::copy(std::string_view text) {
@@ -51,8 +48,7 @@ void ElementArena::reset() {
         m_newest = element->m_older;
         element->~Element();
     }
-    m_chunk = 0;
-    m_used = 0;
+    if (!m_chunks.empty()) use(0);
     ++m_generation;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -15,7 +16,7 @@ class Element;
 // is used again. A build inside a build adds to the outer one, and ends with it.
 class ElementArena {
 public:
-    static ElementArena& current();
+    static ElementArena& current() { return s_current; }
 
     ~ElementArena();
 
@@ -27,7 +28,12 @@ public:
         return element;
     }
     // Room for things that need no destructor.
-    void* allocate(std::size_t size, std::size_t alignment);
+    void* allocate(std::size_t size, std::size_t alignment) {
+        std::byte* const start = m_next + (-reinterpret_cast<std::uintptr_t>(m_next) & (alignment - 1));
+        if (start > m_end || size > std::size_t(m_end - start)) return allocateElsewhere(size, alignment);
+        m_next = start + size;
+        return start;
+    }
     std::string_view copy(std::string_view text);
 
     // Another number each time that everything here has been destroyed.
@@ -50,12 +56,18 @@ private:
         std::size_t size = 0;
     };
 
+    void* allocateElsewhere(std::size_t size, std::size_t alignment);
+    void use(std::size_t chunk);
     void adopt(Element* element);
     void reset();
 
+    static ElementArena s_current;
+
     std::vector<Chunk> m_chunks;
     std::size_t m_chunk = 0;
-    std::size_t m_used = 0;
+    // What is free in the chunk in use; null before the first chunk.
+    std::byte* m_next = nullptr;
+    std::byte* m_end = nullptr;
     Element* m_newest = nullptr;
     unsigned m_generation = 0;
     int m_depth = 0;

@@ -3,6 +3,7 @@
 
 #include <concepts>
 #include <memory>
+#include <type_traits>
 #include <utility>
 
 #include "Platform/SwiftUI/Tree/Callback.hpp"
@@ -60,8 +61,9 @@ template <class Value>
 class Binding : public Connection {
 public:
     explicit Binding(const std::shared_ptr<ValuePlace<Value>>& place) : Connection(place), m_snapshot(place->get()) {}
-    Binding(Callback<Value()> get, Callback<void(const Value&)> set)
-        : Binding(std::make_shared<Functions>(std::move(get), std::move(set))) {}
+    template <class Get, class Set>
+    requires(std::is_invocable_r_v<Value, Get&>&& std::is_invocable_v<Set&, const Value&>) Binding(Get get, Set set)
+        : Binding(std::make_shared<Functions<Get, Set>>(std::move(get), std::move(set))) {}
 
     // Always `value`; writes go nowhere.
     static Binding constant(Value value) {
@@ -77,8 +79,8 @@ public:
         if (const auto place = target()) static_cast<ValuePlace<Value>&>(*place).set(std::move(value));
     }
     // A binding to something derived from the value.
-    template <class Derived>
-    Binding<Derived> map(Callback<Derived(const Value&)> read, Callback<Value(const Derived&)> write) const {
+    template <class Derived, class Read, class Write>
+    Binding<Derived> map(Read read, Write write) const {
         return Binding<Derived>([source = *this, read = std::move(read)] { return read(source.get()); },
                                 [source = *this, write = std::move(write)](const Derived& value) { source.set(write(value)); });
     }
@@ -89,15 +91,16 @@ public:
     }
 
 private:
+    template <class Get, class Set>
     class Functions final : public ValuePlace<Value> {
     public:
-        Functions(Callback<Value()> get, Callback<void(const Value&)> set) : m_get(std::move(get)), m_set(std::move(set)) {}
+        Functions(Get get, Set set) : m_get(std::move(get)), m_set(std::move(set)) {}
         Value get() const override { return m_get(); }
-        void set(Value value) override { m_set(value); }
+        void set(Value value) override { m_set(std::as_const(value)); }
 
     private:
-        Callback<Value()> m_get;
-        Callback<void(const Value&)> m_set;
+        mutable Get m_get;
+        Set m_set;
     };
 
     Value m_snapshot;

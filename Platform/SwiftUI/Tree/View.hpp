@@ -45,12 +45,17 @@ public:
 
     bool isAbsent() const { return m_element == nullptr; }
     // Null for an absent branch.
-    Element* element() const;
+    Element* element() const {
+        if (m_element && m_generation != ElementArena::current().generation()) stopForBeingTooOld();
+        return m_element;
+    }
 
     // Only absent branches are known to be alike.
     bool operator==(const View& other) const { return !m_element && !other.m_element; }
 
 private:
+    [[noreturn]] static void stopForBeingTooOld();
+
     Element* m_element = nullptr;
     unsigned m_generation = 0;
 };
