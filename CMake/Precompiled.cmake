@@ -7,13 +7,19 @@ include_guard(GLOBAL)
 function(proupsells_add_precompiled name)
   add_library(${name} OBJECT "${PROJECT_SOURCE_DIR}/CMake/EmptyRoom.cpp")
   target_link_libraries(${name} PRIVATE ProUpsellsFlags)
-  target_precompile_headers(${name} PRIVATE ${ARGN})
-  # Else clang writes the time into the file, and no two builds of it are the same to ccache.
-  target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>)
+  proupsells_precompile(${name} ${ARGN})
 endfunction()
 
 function(proupsells_use_precompiled target name)
   target_precompile_headers(${target} REUSE_FROM ${name})
   # What ccache needs of g++ to see which headers went into a precompiled one.
   target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+endfunction()
+
+# proupsells_precompile(<target> <header>...): a set of the target's own.
+function(proupsells_precompile target)
+  target_precompile_headers(${target} PRIVATE ${ARGN})
+  # Else clang writes the time into the file, and no two builds of it are the same to ccache.
+  target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>
+    $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 endfunction()

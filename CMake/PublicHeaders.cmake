@@ -5,7 +5,7 @@
 include_guard(GLOBAL)
 
 set(PROUPSELLS_Platform_HEADERS
-  Platform/Accessibility/Node.hpp
+  Platform/Accessibility/SemanticNode.hpp
   Platform/Accessibility/Search.hpp
   Platform/Combine/AnyCancellable.hpp
   Platform/Combine/AnyPublisher.hpp
@@ -44,8 +44,8 @@ set(PROUPSELLS_Platform_HEADERS
   Platform/UIKit/Collection/IndexPath.hpp
   Platform/UIKit/Collection/UICollectionViewDataSource.hpp
   Platform/UIKit/Collection/UICollectionViewDelegateFlowLayout.hpp
-  Platform/UIKit/Constraints/LayoutItem.hpp
-  Platform/UIKit/Constraints/NSLayoutAnchor.hpp
+  Platform/UIKit/Views/LayoutItem.hpp
+  Platform/UIKit/Views/NSLayoutAnchor.hpp
   Platform/UIKit/Controllers/PresentationObserver.hpp
   Platform/UIKit/Controllers/UIModalPresentationStyle.hpp
   Platform/UIKit/Controllers/UINavigationItem.hpp

@@ -1,6 +1,6 @@
 #include "ProUpsells/CategoryView.hpp"
 
-#include "Platform/LumoKit/Colors.hpp"
+#include "Platform/LumoKit/RoleColors.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
 #include "ProUpsells/ClipShapeModifier.hpp"
 #include "ProUpsells/FeatureCategoryHeader.hpp"

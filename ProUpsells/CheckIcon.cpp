@@ -1,6 +1,6 @@
 #include "ProUpsells/CheckIcon.hpp"
 
-#include "Platform/LumoKit/Colors.hpp"
+#include "Platform/LumoKit/RoleColors.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
 #include "ProUpsells/ImageResource.hpp"
 

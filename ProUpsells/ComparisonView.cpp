@@ -1,10 +1,10 @@
 #include "ProUpsells/ComparisonView.hpp"
 
 #include "Platform/Foundation/Bundle.hpp"
-#include "Platform/LumoKit/Colors.hpp"
+#include "Platform/LumoKit/RoleColors.hpp"
 #include "Platform/LumoKit/TextStyle.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
-#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 #include "Platform/VelaUIKit/VelaPrimaryButtonStyle.hpp"
 #include "ProUpsells/CategoryView.hpp"
 #include "ProUpsells/ComparisonColumnCapsule.hpp"

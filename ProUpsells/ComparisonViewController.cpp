@@ -1,8 +1,8 @@
 #include "ProUpsells/ComparisonViewController.hpp"
 
-#include "Platform/VelaUIKit/Colors.hpp"
 #include "Platform/VelaUIKit/HostingControllers.hpp"
 #include "Platform/VelaUIKit/Navigation.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 #include "ProUpsells/ComparisonView.hpp"
 #include "ProUpsells/Tell.hpp"
 

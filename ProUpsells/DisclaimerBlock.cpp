@@ -1,11 +1,11 @@
 #include "ProUpsells/DisclaimerBlock.hpp"
 
 #include "Platform/Foundation/Bundle.hpp"
-#include "Platform/LumoKit/Colors.hpp"
+#include "Platform/LumoKit/RoleColors.hpp"
 #include "Platform/LumoKit/TextStyle.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
-#include "Platform/VelaUIKit/Colors.hpp"
 #include "Platform/VelaUIKit/FlowLayout.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 #include "ProUpsells/InfoButton.hpp"
 
 namespace proupsells {

@@ -1,7 +1,7 @@
 #include "ProUpsells/FeatureCategoryHeader.hpp"
 
-#include "Platform/LumoKit/Colors.hpp"
 #include "Platform/LumoKit/Icon.hpp"
+#include "Platform/LumoKit/RoleColors.hpp"
 #include "Platform/LumoKit/TextStyle.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
 

@@ -1,10 +1,10 @@
 #include "ProUpsells/FreeTrialCapsule.hpp"
 
 #include "Platform/Foundation/Bundle.hpp"
-#include "Platform/LumoKit/Colors.hpp"
+#include "Platform/LumoKit/RoleColors.hpp"
 #include "Platform/LumoKit/TextStyle.hpp"
 #include "Platform/SwiftUI/Modifiers/LayoutModifiers.hpp"
-#include "Platform/SwiftUI/Views/Shapes.hpp"
+#include "Platform/SwiftUI/Shapes/Shapes.hpp"
 #include "Platform/SwiftUI/Views/Text.hpp"
 
 namespace proupsells {

@@ -1,6 +1,6 @@
 #include "ProUpsells/FreeUsageLimitIndicator.hpp"
 
-#include "Platform/LumoKit/Colors.hpp"
+#include "Platform/LumoKit/RoleColors.hpp"
 #include "Platform/LumoKit/TextStyle.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
 #include "ProUpsells/ComparisonCatalogue.hpp"

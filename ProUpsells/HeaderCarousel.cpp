@@ -1,8 +1,8 @@
 #include "ProUpsells/HeaderCarousel.hpp"
 
 #include "Platform/Commons/FatalError.hpp"
-#include "Platform/LumoKit/Colors.hpp"
 #include "Platform/LumoKit/LargestTextSize.hpp"
+#include "Platform/LumoKit/RoleColors.hpp"
 #include "Platform/LumoKit/TextStyle.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"

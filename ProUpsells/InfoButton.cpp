@@ -1,6 +1,6 @@
 #include "ProUpsells/InfoButton.hpp"
 
-#include "Platform/LumoKit/Colors.hpp"
+#include "Platform/LumoKit/RoleColors.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
 #include "Platform/VelaUIKit/Fonts.hpp"
 

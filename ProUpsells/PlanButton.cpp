@@ -6,8 +6,8 @@
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
 #include "Platform/UIKit/Views/UIImageView.hpp"
-#include "Platform/VelaUIKit/Colors.hpp"
 #include "Platform/VelaUIKit/Fonts.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 #include "ProUpsells/ImageResource.hpp"
 
 namespace proupsells {

@@ -1,9 +1,9 @@
 #include "ProUpsells/RadioPickerButton.hpp"
 
-#include "Platform/LumoKit/Colors.hpp"
+#include "Platform/LumoKit/RoleColors.hpp"
 #include "Platform/LumoKit/TextStyle.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
-#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 #include "ProUpsells/FreeTrialCapsule.hpp"
 #include "ProUpsells/RadioPickerButtonBadge.hpp"
 #include "ProUpsells/RadioPickerSelectionIndicator.hpp"

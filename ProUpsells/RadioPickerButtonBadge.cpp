@@ -3,10 +3,10 @@
 #include "Platform/LumoKit/LargestTextSize.hpp"
 #include "Platform/SwiftUI/Modifiers/EnvironmentModifiers.hpp"
 #include "Platform/SwiftUI/Modifiers/LayoutModifiers.hpp"
-#include "Platform/SwiftUI/Views/Shapes.hpp"
+#include "Platform/SwiftUI/Shapes/Shapes.hpp"
 #include "Platform/SwiftUI/Views/Text.hpp"
-#include "Platform/VelaUIKit/Colors.hpp"
 #include "Platform/VelaUIKit/Fonts.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 
 namespace proupsells {
 

@@ -2,9 +2,9 @@
 
 #include "Platform/SwiftUI/Modifiers/EffectModifiers.hpp"
 #include "Platform/SwiftUI/Modifiers/LayoutModifiers.hpp"
-#include "Platform/SwiftUI/Views/Shapes.hpp"
+#include "Platform/SwiftUI/Shapes/Shapes.hpp"
 #include "Platform/SwiftUI/Views/Stacks.hpp"
-#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 
 namespace proupsells {
 

@@ -1,7 +1,7 @@
 // The upper part of a rectangle.
 #pragma once
 
-#include "Platform/SwiftUI/Views/Shapes.hpp"
+#include "Platform/SwiftUI/Shapes/Shapes.hpp"
 
 namespace proupsells {
 

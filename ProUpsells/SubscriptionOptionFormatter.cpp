@@ -7,8 +7,8 @@
 #include "Platform/Foundation/Format.hpp"
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/RunLoop/MainActor.hpp"
-#include "Platform/VelaUIKit/Colors.hpp"
 #include "Platform/VelaUIKit/Fonts.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 
 namespace proupsells {
 

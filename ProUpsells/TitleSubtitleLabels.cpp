@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
-#include "Platform/VelaUIKit/Colors.hpp"
 #include "Platform/VelaUIKit/Fonts.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 #include "ProUpsells/CenteredText.hpp"
 
 namespace proupsells {

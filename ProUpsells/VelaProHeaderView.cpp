@@ -4,7 +4,7 @@
 
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
 #include "Platform/UIKit/Views/UIStackView.hpp"
-#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 #include "Platform/VelaUIKit/VelaUIKitImage.hpp"
 
 namespace proupsells {

@@ -5,7 +5,7 @@
 #include "Platform/UIKit/Collection/UICollectionView.hpp"
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
 #include "Platform/VelaUIKit/ChargedButton.hpp"
-#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 #include "ProUpsells/CallToActionButtonProvider.hpp"
 #include "ProUpsells/FooterView.hpp"
 #include "ProUpsells/ImageResource.hpp"

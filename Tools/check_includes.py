@@ -3,10 +3,10 @@
 
 usage: check_includes.py ROOT
 
-A room may include itself and the rooms below it. ProUpsells/ and Platform/ include nothing but the project's own headers and the C++
-standard library's. A backend includes Platform/ and its library. The module's files belong to screens, as
-Docs/architecture.md lists them; no screen includes another. Exit status 1 when an include points up or out, or when a file and that
-list disagree, one line each."""
+A room may include itself and the rooms below it, and so may a folder inside a room that has floors of its own. ProUpsells/ and
+Platform/ include nothing but the project's own headers and the C++ standard library's. A backend includes Platform/ and its library.
+The module's files belong to screens, as Docs/architecture.md lists them; no screen includes another. Exit status 1 when an include
+points up or out, or when a file and that list disagree, one line each."""
 import pathlib
 import re
 import sys
@@ -28,6 +28,11 @@ FLOORS = [
     ["Platform/Geometry"],
     ["Platform/Commons"],
 ]
+# The same inside the two layers. What lies in the room's own folder stands on top.
+FLOORS_WITHIN = {
+    "Platform/SwiftUI": ["Views", "Modifiers", "Shapes", "Gestures", "Layout", "Tree", "Animation"],
+    "Platform/UIKit": ["Collection", "Controllers", "Controls", "Constraints", "Views"],
+}
 # A screen of the module includes what it shares with the others, and the entry includes all of them.
 SCREENS_DOCUMENT = "Docs/architecture.md"
 SCREENS = ["Entry", "Paywall", "Comparison", "Store page", "Shared"]
@@ -60,6 +65,21 @@ def listed_screens(document: str) -> dict[str, str]:
     return {name: screen for screen, names in SCREEN_ROW.findall(document) for name in re.findall(r"`([^`]+)`", names)}
 
 
+def folder_within(room: str, path: str) -> str:
+    return path.removeprefix(room + "/").rpartition("/")[0]
+
+
+def complaint_within(room: str, source: str, target: str) -> str | None:
+    folders = FLOORS_WITHIN.get(room, [])
+    from_folder, to_folder = folder_within(room, source), folder_within(room, target)
+    if not folders or from_folder in ("", to_folder):
+        return None
+    for folder in (from_folder, to_folder):
+        if folder not in folders:
+            return f"{room}/{folder} has no floor in {room}"
+    return None if folders.index(from_folder) < folders.index(to_folder) else f"{from_folder} stands below {to_folder}"
+
+
 def complaint_between_screens(screens: dict[str, str], source: str, target: str) -> str | None:
     """Files that are in no screen have a complaint of their own."""
     from_screen, to_screen = (screens.get(pathlib.PurePosixPath(path).stem, "Shared") for path in (source, target))
@@ -87,7 +107,7 @@ def complaint(screens: dict[str, str], source: str, bracket: str, target: str) -
     if target_room == "ProUpsells" == source_room:
         return complaint_between_screens(screens, source, target)
     if target_room == source_room:
-        return None
+        return complaint_within(source_room, source, target)
     if FLOOR_OF[target_room] <= FLOOR_OF[source_room]:
         return f"{source_room} stands below or beside {target_room}"
     return None

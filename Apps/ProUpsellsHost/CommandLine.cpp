@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 
 #include "Apps/ProUpsellsHost/InputError.hpp"
 

@@ -2,6 +2,8 @@
 
 #include <ostream>
 
+#include <nlohmann/json.hpp>
+
 #include "Apps/ProUpsellsHost/Numbers.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
@@ -13,6 +15,10 @@ void EventLog::write(std::string_view event, const Json& details) {
     line["event"] = event;
     for (const auto& [key, value] : details.items()) line[key] = value;
     m_stream << line.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n' << std::flush;
+}
+
+void EventLog::write(const commons::LogRecord& record) {
+    write("log", {{"severity", record.severity}, {"message", record.message}, {"function", record.function}});
 }
 
 } // namespace proupsells::hostprogram

@@ -4,7 +4,8 @@
 #include <iosfwd>
 #include <string_view>
 
-#include "Apps/ProUpsellsHost/JsonFile.hpp"
+#include "Apps/ProUpsellsHost/Json.hpp"
+#include "Platform/Commons/DefaultLogger.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -15,6 +16,8 @@ public:
 
     // Adds "time" (the main run loop's) and "event" before the keys of `details`.
     void write(std::string_view event, const Json& details);
+    // The event "log".
+    void write(const commons::LogRecord& record);
 
 private:
     std::ostream& m_stream;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <nlohmann/json.hpp>
+
 #include "Apps/ProUpsellsHost/Numbers.hpp"
 #include "Apps/ProUpsellsHost/ScreenDump.hpp"
 #include "Platform/Accessibility/Search.hpp"
@@ -19,7 +21,7 @@ bool isClose(const geometry::Rect& a, const geometry::Rect& b) {
 }
 
 // The node's text. When it has none, the texts inside it, with blanks between them.
-std::string shownText(const accessibility::Node& node) {
+std::string shownText(const accessibility::SemanticNode& node) {
     std::string result;
     for (const std::string& text : accessibility::shownTexts(node)) result += (result.empty() ? "" : " ") + text;
     return result;
@@ -31,8 +33,8 @@ std::string differs(const char* what, const Json& found, const Json& expected) {
 
 } // namespace
 
-std::optional<std::string> contradiction(const ExpectStep& expected, const accessibility::Node& root) {
-    const accessibility::Node* node = accessibility::findByIdentifier(root, expected.identifier);
+std::optional<std::string> contradiction(const ExpectStep& expected, const accessibility::SemanticNode& root) {
+    const accessibility::SemanticNode* node = accessibility::findByIdentifier(root, expected.identifier);
     const std::string name = "\"" + expected.identifier + "\"";
     if (expected.isAbsent) return node ? std::optional(name + " is there, expected it to be absent") : std::nullopt;
     if (!node) return name + " is not there, expected it on the screen";

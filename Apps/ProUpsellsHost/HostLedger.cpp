@@ -1,5 +1,7 @@
 #include "Apps/ProUpsellsHost/HostLedger.hpp"
 
+#include <nlohmann/json.hpp>
+
 #include "Apps/ProUpsellsHost/Numbers.hpp"
 #include "Apps/ProUpsellsHost/Offers.hpp"
 

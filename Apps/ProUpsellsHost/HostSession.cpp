@@ -17,9 +17,7 @@ HostSession::HostSession(Offers offers, const Device& device, HostParts parts, f
                          std::shared_ptr<EventLog> log)
     : m_device(device), m_log(std::move(log)),
       m_clipDecoder(std::make_shared<ffmpegbackend::LazyClipDecoder>(pace, ffmpegbackend::LazyClipDecoder::defaultFolders())) {
-    commons::DefaultLogger::shared().setSink([log = m_log](const commons::LogRecord& record) {
-        log->write("log", {{"severity", record.severity}, {"message", record.message}, {"function", record.function}});
-    });
+    commons::DefaultLogger::shared().setSink([log = m_log](const commons::LogRecord& record) { log->write(record); });
     installServices();
     setLanguage();
 
@@ -103,19 +101,10 @@ void HostSession::set(const SetStep& step) {
     if (step.device) setDevice(*step.device);
 }
 
-void HostSession::send(SentEvent event) {
+void HostSession::send(const UpsellViewModel::TapEvent& event) {
     const auto& children = m_entry->children();
-    const auto paywall = children.empty() ? nullptr : std::dynamic_pointer_cast<UpsellViewController>(children.front());
-    if (!paywall) return;
-    const auto& stream = paywall->upsellViewModel()->tapEventOccurred;
-    switch (event) {
-    case SentEvent::cancel: return stream.send({UpsellViewModel::TapEvent::Cancel{}});
-    case SentEvent::restorePurchases: return stream.send({UpsellViewModel::TapEvent::RestorePurchases{}});
-    case SentEvent::whatIsPro: return stream.send({UpsellViewModel::TapEvent::WhatIsPro{}});
-    case SentEvent::privacyPolicy: return stream.send({UpsellViewModel::TapEvent::PrivacyPolicy{}});
-    case SentEvent::termsOfService: return stream.send({UpsellViewModel::TapEvent::TermsOfService{}});
-    case SentEvent::comparePlans: return stream.send({UpsellViewModel::TapEvent::ComparePlans{}});
-    }
+    if (const auto paywall = children.empty() ? nullptr : std::dynamic_pointer_cast<UpsellViewController>(children.front()))
+        paywall->upsellViewModel()->tapEventOccurred.send(event);
 }
 
 void HostSession::release(HostPart part) {

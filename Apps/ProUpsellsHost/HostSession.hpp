@@ -36,7 +36,7 @@ public:
     void setDevice(const Device& device);
     void set(const SetStep& step);
     // Sends one of the paywall's tap events, as if a control had.
-    void send(SentEvent event);
+    void send(const UpsellViewModel::TapEvent& event);
     void release(HostPart part);
 
 private:

@@ -1,6 +1,6 @@
 #include "Apps/ProUpsellsHost/HostViewController.hpp"
 
-#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 
 namespace proupsells::hostprogram {
 

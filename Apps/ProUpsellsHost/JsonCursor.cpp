@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <nlohmann/json.hpp>
+
 #include "Apps/ProUpsellsHost/InputError.hpp"
 #include "Apps/ProUpsellsHost/JsonPointer.hpp"
 
@@ -20,6 +22,12 @@ std::string quotedList(std::span<const std::string_view> words) {
 }
 
 } // namespace
+
+bool JsonCursor::isNull() const { return m_value->is_null(); }
+bool JsonCursor::isText() const { return m_value->is_string(); }
+bool JsonCursor::isObject() const { return m_value->is_object(); }
+bool JsonCursor::isArray() const { return m_value->is_array(); }
+bool JsonCursor::isNumber() const { return m_value->is_number(); }
 
 void JsonCursor::fail(const std::string& complaint) const { throw InputError(m_file, m_pointer, complaint); }
 
@@ -44,19 +52,19 @@ JsonCursor JsonCursor::child(const Json& value, std::string_view token) const {
 }
 
 void JsonCursor::expectObject(std::span<const std::string_view> keys) const {
-    for (const auto& [name, value] : members())
+    for (const auto& [name, value] : members().items())
         if (std::find(keys.begin(), keys.end(), name) == keys.end())
             child(value, name).fail("unknown key \"" + name + "\", expected one of " + quotedList(keys));
 }
 
-const Json::object_t& JsonCursor::members() const {
+const Json& JsonCursor::members() const {
     if (!m_value->is_object()) fail(kind() + " stands here, expected an object");
-    return m_value->get_ref<const Json::object_t&>();
+    return *m_value;
 }
 
 std::vector<std::string> JsonCursor::keys() const {
     std::vector<std::string> result;
-    for (const auto& [name, value] : members()) result.push_back(name);
+    for (const auto& [name, value] : members().items()) result.push_back(name);
     return result;
 }
 

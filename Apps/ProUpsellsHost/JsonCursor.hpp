@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "Apps/ProUpsellsHost/JsonFile.hpp"
+#include "Apps/ProUpsellsHost/Json.hpp"
 #include "Apps/ProUpsellsHost/Word.hpp"
 
 namespace proupsells::hostprogram {
@@ -21,11 +21,11 @@ public:
     JsonCursor(const Json& value, std::string file) : m_value(&value), m_file(std::move(file)) {}
 
     const std::string& file() const { return m_file; }
-    bool isNull() const { return m_value->is_null(); }
-    bool isText() const { return m_value->is_string(); }
-    bool isObject() const { return m_value->is_object(); }
-    bool isArray() const { return m_value->is_array(); }
-    bool isNumber() const { return m_value->is_number(); }
+    bool isNull() const;
+    bool isText() const;
+    bool isObject() const;
+    bool isArray() const;
+    bool isNumber() const;
 
     // The object must not have other keys than these.
     void expectObject(std::span<const std::string_view> keys) const;
@@ -60,7 +60,8 @@ private:
 
     // "a number" and the like, for complaints.
     std::string kind() const;
-    const Json::object_t& members() const;
+    // The object itself.
+    const Json& members() const;
     const Json* find(std::string_view key) const;
     std::size_t indexAmong(std::span<const std::string_view> words) const;
     JsonCursor child(const Json& value, std::string_view token) const;

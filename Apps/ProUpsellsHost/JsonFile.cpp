@@ -5,6 +5,8 @@
 #include <sstream>
 #include <vector>
 
+#include <nlohmann/json.hpp>
+
 #include "Apps/ProUpsellsHost/InputError.hpp"
 #include "Apps/ProUpsellsHost/JsonPointer.hpp"
 #include "Platform/Foundation/Utf8.hpp"

@@ -3,13 +3,10 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <string>
 
-#include <nlohmann/json.hpp>
+#include "Apps/ProUpsellsHost/Json.hpp"
 
 namespace proupsells::hostprogram {
-
-using Json = nlohmann::ordered_json;
 
 inline constexpr std::uintmax_t maximumFileSize = 64u << 20; // bytes
 

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include <nlohmann/json.hpp>
+
 namespace proupsells::hostprogram {
 
 Json toJson(double number) {

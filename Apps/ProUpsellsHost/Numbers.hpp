@@ -1,7 +1,7 @@
 // Numbers as the program writes them.
 #pragma once
 
-#include "Apps/ProUpsellsHost/JsonFile.hpp"
+#include "Apps/ProUpsellsHost/Json.hpp"
 #include "Platform/Geometry/Geometry.hpp"
 
 namespace proupsells::hostprogram {

@@ -1,5 +1,9 @@
 #include "Apps/ProUpsellsHost/Offers.hpp"
 
+#include <nlohmann/json.hpp>
+
+#include "Apps/ProUpsellsHost/JsonFile.hpp"
+
 namespace proupsells::hostprogram {
 
 namespace {

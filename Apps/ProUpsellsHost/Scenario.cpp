@@ -2,6 +2,10 @@
 
 #include <algorithm>
 
+#include <nlohmann/json.hpp>
+
+#include "Apps/ProUpsellsHost/JsonFile.hpp"
+
 namespace proupsells::hostprogram {
 
 namespace {
@@ -99,13 +103,15 @@ ExpectStep readExpect(const JsonCursor& value) {
     return step;
 }
 
-constexpr Word<SentEvent> sentEvents[] = {
-    {"cancel", SentEvent::cancel},
-    {"restorePurchases", SentEvent::restorePurchases},
-    {"whatIsPro", SentEvent::whatIsPro},
-    {"privacyPolicy", SentEvent::privacyPolicy},
-    {"termsOfService", SentEvent::termsOfService},
-    {"comparePlans", SentEvent::comparePlans},
+using TapEvent = UpsellViewModel::TapEvent;
+
+const Word<TapEvent> sentEvents[] = {
+    {"cancel", {TapEvent::Cancel{}}},
+    {"restorePurchases", {TapEvent::RestorePurchases{}}},
+    {"whatIsPro", {TapEvent::WhatIsPro{}}},
+    {"privacyPolicy", {TapEvent::PrivacyPolicy{}}},
+    {"termsOfService", {TapEvent::TermsOfService{}}},
+    {"comparePlans", {TapEvent::ComparePlans{}}},
 };
 constexpr Word<HostPart> hostParts[] = {
     {"delegate", HostPart::delegate},

@@ -9,6 +9,7 @@
 
 #include "Apps/ProUpsellsHost/Device.hpp"
 #include "Apps/ProUpsellsHost/Offers.hpp"
+#include "ProUpsells/UpsellViewModel.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -36,9 +37,8 @@ struct WaitStep {
     double duration_s = 0;
 };
 
-enum class SentEvent { cancel, restorePurchases, whatIsPro, privacyPolicy, termsOfService, comparePlans };
 struct SendStep {
-    SentEvent event;
+    UpsellViewModel::TapEvent event;
 };
 
 // Absent members change nothing.

@@ -2,6 +2,8 @@
 
 #include <iostream>
 
+#include <nlohmann/json.hpp>
+
 #include "Apps/ProUpsellsHost/Expectation.hpp"
 #include "Apps/ProUpsellsHost/InputError.hpp"
 #include "Apps/ProUpsellsHost/Numbers.hpp"
@@ -11,18 +13,18 @@
 
 namespace proupsells::hostprogram {
 
-using accessibility::Node;
+using accessibility::SemanticNode;
 
 namespace {
 
-std::vector<const Node*> controlsIdentified(const Node& root, const std::string& identifier) {
+std::vector<const SemanticNode*> controlsIdentified(const SemanticNode& root, const std::string& identifier) {
     auto found = accessibility::findAllByIdentifier(root, identifier);
-    std::erase_if(found, [](const Node* node) { return !node->isControl; });
+    std::erase_if(found, [](const SemanticNode* node) { return !node->isControl; });
     return found;
 }
 
 // The control's identifier, and the name that a person sees.
-std::string describe(const Node& control) {
+std::string describe(const SemanticNode& control) {
     const std::string name = accessibility::nameOf(control);
     if (control.identifier.empty()) return '"' + name + '"';
     return control.identifier + (name.empty() ? "" : " (\"" + name + "\")");
@@ -46,9 +48,9 @@ bool ScenarioRunner::run() {
 
 std::string ScenarioRunner::stepPointer() const { return "/steps/" + std::to_string(m_step); }
 
-void ScenarioRunner::failTap(const std::string& complaint, const Node& root) const {
+void ScenarioRunner::failTap(const std::string& complaint, const SemanticNode& root) const {
     std::string tappable;
-    for (const Node* control : accessibility::controls(root)) tappable += "\n  " + describe(*control);
+    for (const SemanticNode* control : accessibility::controls(root)) tappable += "\n  " + describe(*control);
     const InputError error(m_scenario.file.string(), stepPointer() + "/tap",
                            complaint + ", expected exactly one of the controls below");
     throw InputErrorWithList(error, tappable);
@@ -58,11 +60,11 @@ geometry::Point ScenarioRunner::pointOf(const TapTarget& target) {
     if (const auto* point = std::get_if<geometry::Point>(&target)) return *point;
     const auto* identifier = std::get_if<TapIdentifier>(&target);
     const std::string wanted = identifier ? identifier->identifier : std::get<TapText>(target).text;
-    const auto find = [&](const Node& root) {
+    const auto find = [&](const SemanticNode& root) {
         return identifier ? controlsIdentified(root, wanted) : accessibility::controlsNamed(root, wanted);
     };
 
-    const Node before = m_session.window().semanticTree();
+    const SemanticNode before = m_session.window().semanticTree();
     const auto found = find(before);
     const std::string what = identifier ? "the identifier \"" + wanted + "\"" : "the text \"" + wanted + "\"";
     if (found.empty()) failTap("no control has " + what, before);
@@ -71,7 +73,7 @@ geometry::Point ScenarioRunner::pointOf(const TapTarget& target) {
 
     found.front()->reveal();
     m_driver.wait(0);
-    const Node after = m_session.window().semanticTree();
+    const SemanticNode after = m_session.window().semanticTree();
     const auto revealed = find(after);
     if (revealed.empty()) failTap("no control has " + what + " any more", after);
     return revealed.front()->frame.center();
@@ -92,7 +94,7 @@ void ScenarioRunner::perform(const SetStep& step) { m_session.set(step); }
 void ScenarioRunner::perform(const ReleaseStep& step) { m_session.release(step.part); }
 
 void ScenarioRunner::perform(const DumpStep&) {
-    const Node root = m_session.window().semanticTree();
+    const SemanticNode root = m_session.window().semanticTree();
     const auto* controller = m_session.window().frontMostViewController();
     m_log->write("screen", {{"controller", controller ? controller->typeName() : ""},
                             {"size", toJson(m_session.device().size)},

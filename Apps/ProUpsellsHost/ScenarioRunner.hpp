@@ -34,7 +34,7 @@ private:
     void perform(const ExpectStep&);
 
     geometry::Point pointOf(const TapTarget& target);
-    [[noreturn]] void failTap(const std::string& complaint, const accessibility::Node& root) const;
+    [[noreturn]] void failTap(const std::string& complaint, const accessibility::SemanticNode& root) const;
     std::string stepPointer() const;
 
     const Scenario& m_scenario;

@@ -1,11 +1,13 @@
 #include "Apps/ProUpsellsHost/ScreenDump.hpp"
 
+#include <nlohmann/json.hpp>
+
 #include "Apps/ProUpsellsHost/Numbers.hpp"
 #include "Apps/ProUpsellsHost/Word.hpp"
 
 namespace proupsells::hostprogram {
 
-using accessibility::Node;
+using accessibility::SemanticNode;
 using accessibility::Traits;
 
 namespace {
@@ -31,7 +33,7 @@ void addText(Json& result, const accessibility::TextInfo& text) {
     for (const auto& run : text.runs) runs.push_back(runJson(run));
 }
 
-void addAccessibility(Json& result, const Node& node) {
+void addAccessibility(Json& result, const SemanticNode& node) {
     if (!node.identifier.empty()) result["identifier"] = node.identifier;
     if (!node.label.empty()) result["label"] = node.label;
     if (!node.value.empty()) result["value"] = node.value;
@@ -45,7 +47,7 @@ void addShape(Json& result, const accessibility::ShapeInfo& shape) {
     if (shape.cornerRadius) result["cornerRadius"] = toJson(*shape.cornerRadius);
 }
 
-void addEffects(Json& result, const Node& node) {
+void addEffects(Json& result, const SemanticNode& node) {
     if (node.opacity != 1) result["opacity"] = toJson(node.opacity);
     if (node.scale) result["scale"] = toJson(*node.scale);
     if (node.rotation_degrees) result["rotation"] = toJson(*node.rotation_degrees);
@@ -72,7 +74,7 @@ std::vector<std::string> traitNames(Traits traits) {
     return result;
 }
 
-Json toJson(const Node& node) {
+Json toJson(const SemanticNode& node) {
     Json result{{"type", node.type}, {"frame", toJson(node.frame)}, {"onScreen", node.isOnScreen}};
     addAccessibility(result, node);
     if (node.text) addText(result, *node.text);
@@ -86,7 +88,7 @@ Json toJson(const Node& node) {
     }
     if (!node.children.empty()) {
         Json& children = result["children"] = Json::array();
-        for (const Node& child : node.children) children.push_back(toJson(child));
+        for (const SemanticNode& child : node.children) children.push_back(toJson(child));
     }
     return result;
 }

@@ -4,13 +4,13 @@
 #include <string>
 #include <vector>
 
-#include "Apps/ProUpsellsHost/JsonFile.hpp"
-#include "Platform/Accessibility/Node.hpp"
+#include "Apps/ProUpsellsHost/Json.hpp"
+#include "Platform/Accessibility/SemanticNode.hpp"
 
 namespace proupsells::hostprogram {
 
 // A node with all its children; keys that say nothing are left out.
-Json toJson(const accessibility::Node& node);
+Json toJson(const accessibility::SemanticNode& node);
 
 // "button", "selected" and so on, in a fixed order.
 std::vector<std::string> traitNames(accessibility::Traits traits);

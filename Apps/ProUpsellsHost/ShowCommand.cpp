@@ -22,8 +22,8 @@ std::filesystem::path sampleOffers() {
 }
 
 void open(HostSession& session, StartScreen start) {
-    if (start == StartScreen::comparison) session.send(SentEvent::comparePlans);
-    if (start == StartScreen::store) session.send(SentEvent::whatIsPro);
+    if (start == StartScreen::comparison) session.send({UpsellViewModel::TapEvent::ComparePlans{}});
+    if (start == StartScreen::store) session.send({UpsellViewModel::TapEvent::WhatIsPro{}});
 }
 
 } // namespace

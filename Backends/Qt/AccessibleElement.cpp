@@ -8,12 +8,12 @@
 namespace proupsells::qtbackend {
 
 using accessibility::contains;
-using accessibility::Node;
+using accessibility::SemanticNode;
 using accessibility::Traits;
 
-void AccessibleElement::become(Node node) {
+void AccessibleElement::become(SemanticNode node) {
     if (!m_owner) return;
-    const Node former = std::exchange(m_node, std::move(node));
+    const SemanticNode former = std::exchange(m_node, std::move(node));
     const auto tell = [this](QAccessible::Event type) {
         QAccessibleEvent event(this, type);
         m_owner->tell(event);
@@ -89,7 +89,7 @@ QStringList AccessibleElement::actionNames() const {
 void AccessibleElement::doAction(const QString& name) {
     // Copies, because the action may change the screen and this element with it.
     if (!m_owner) return;
-    const Node node = m_node;
+    const SemanticNode node = m_node;
     if (!node.isOnScreen && node.reveal) node.reveal();
     if (name == pressAction() && node.activate) node.activate();
     if (name == increaseAction() && node.adjust) node.adjust(1);

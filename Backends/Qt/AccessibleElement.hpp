@@ -3,7 +3,7 @@
 
 #include <QtGui/qaccessible.h>
 
-#include "Platform/Accessibility/Node.hpp"
+#include "Platform/Accessibility/SemanticNode.hpp"
 
 namespace proupsells::qtbackend {
 
@@ -11,11 +11,11 @@ class QtAccessibility;
 
 class AccessibleElement final : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
-    AccessibleElement(QtAccessibility& owner, accessibility::Node node) : m_owner(&owner), m_node(std::move(node)) {}
+    AccessibleElement(QtAccessibility& owner, accessibility::SemanticNode node) : m_owner(&owner), m_node(std::move(node)) {}
 
-    const accessibility::Node& node() const { return m_node; }
+    const accessibility::SemanticNode& node() const { return m_node; }
     // Takes over what the element has become, and tells those who listen.
-    void become(accessibility::Node node);
+    void become(accessibility::SemanticNode node);
     // The owner is gone; a screen reader may hold on to the element a little longer.
     void detach() { m_owner = nullptr; }
 
@@ -40,7 +40,7 @@ public:
 
 private:
     QtAccessibility* m_owner;
-    accessibility::Node m_node;
+    accessibility::SemanticNode m_node;
 };
 
 } // namespace proupsells::qtbackend

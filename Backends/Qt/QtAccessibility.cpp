@@ -8,7 +8,7 @@
 
 namespace proupsells::qtbackend {
 
-using accessibility::Node;
+using accessibility::SemanticNode;
 
 namespace {
 
@@ -55,9 +55,9 @@ private:
     QtAccessibility* m_owner;
 };
 
-std::string joinedTexts(const Node& node) {
+std::string joinedTexts(const SemanticNode& node) {
     std::string joined = node.text ? node.text->text : std::string();
-    for (const Node& child : node.children) {
+    for (const SemanticNode& child : node.children) {
         const std::string text = joinedTexts(child);
         if (!joined.empty() && !text.empty()) joined += ", ";
         joined += text;
@@ -66,20 +66,20 @@ std::string joinedTexts(const Node& node) {
 }
 
 // Texts, images with a label, and controls; what is inside of a control belongs to it.
-void collect(const Node& node, std::vector<Node>& result) {
+void collect(const SemanticNode& node, std::vector<SemanticNode>& result) {
     const bool canBeReached = node.opacity > 0 && (node.isOnScreen || node.reveal);
     const bool isElement = node.isControl || node.text || !node.label.empty();
     if (isElement && canBeReached) {
-        Node element = node;
+        SemanticNode element = node;
         element.children.clear();
         if (element.label.empty()) element.label = joinedTexts(node);
         if (!element.label.empty() || element.isControl) result.push_back(std::move(element));
         if (node.isControl) return;
     }
-    for (const Node& child : node.children) collect(child, result);
+    for (const SemanticNode& child : node.children) collect(child, result);
 }
 
-bool isSameElement(const Node& a, const Node& b) {
+bool isSameElement(const SemanticNode& a, const SemanticNode& b) {
     return a.type == b.type && a.identifier == b.identifier && (!a.identifier.empty() || a.label == b.label);
 }
 
@@ -111,7 +111,7 @@ QAccessibleInterface* QtAccessibility::root() {
 const std::vector<AccessibleElement*>& QtAccessibility::elements() {
     if (!m_isRead) {
         m_isRead = true;
-        std::vector<Node> nodes;
+        std::vector<SemanticNode> nodes;
         collect(m_content.semanticTree(), nodes);
         adopt(std::move(nodes));
     }
@@ -125,17 +125,17 @@ void QtAccessibility::update() {
     }
     if (!m_root) return;
     m_isRead = true;
-    std::vector<Node> nodes;
+    std::vector<SemanticNode> nodes;
     collect(m_content.semanticTree(), nodes);
     adopt(std::move(nodes));
 }
 
 // What is still there keeps its object, so that a screen reader keeps its place.
-void QtAccessibility::adopt(std::vector<Node> nodes) {
+void QtAccessibility::adopt(std::vector<SemanticNode> nodes) {
     std::vector<AccessibleElement*> former = std::exchange(m_elements, {});
     const std::vector<AccessibleElement*> formerOrder = former;
-    std::vector<std::pair<AccessibleElement*, Node>> kept;
-    for (Node& node : nodes) {
+    std::vector<std::pair<AccessibleElement*, SemanticNode>> kept;
+    for (SemanticNode& node : nodes) {
         const auto found =
             std::find_if(former.begin(), former.end(), [&](const AccessibleElement* e) { return isSameElement(e->node(), node); });
         if (found == former.end()) {

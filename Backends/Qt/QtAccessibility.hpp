@@ -38,7 +38,7 @@ public:
     const std::vector<AccessibleElement*>& elements();
 
 private:
-    void adopt(std::vector<accessibility::Node> nodes);
+    void adopt(std::vector<accessibility::SemanticNode> nodes);
 
     QWindow& m_window;
     host::WindowContent& m_content;

@@ -36,8 +36,8 @@ int main() {
     window->rootViewController()->present(paywall, true);
     bed.runFor(1);
 
-    const accessibility::Node screen = window->semanticTree();
-    const accessibility::Node* subscribe = accessibility::findByIdentifier(screen, "subscribe");
+    const accessibility::SemanticNode screen = window->semanticTree();
+    const accessibility::SemanticNode* subscribe = accessibility::findByIdentifier(screen, "subscribe");
     if (!subscribe || !subscribe->activate) return 1;
     subscribe->activate();
     bed.settle();

@@ -7,21 +7,21 @@ namespace proupsells::accessibility {
 namespace {
 
 template <typename Visitor>
-void visit(const Node& node, Visitor&& visitor) {
+void visit(const SemanticNode& node, Visitor&& visitor) {
     visitor(node);
-    for (const Node& child : node.children) visit(child, visitor);
+    for (const SemanticNode& child : node.children) visit(child, visitor);
 }
 
 template <typename Predicate>
-std::vector<const Node*> findAll(const Node& root, Predicate&& matches) {
-    std::vector<const Node*> found;
-    visit(root, [&](const Node& node) {
+std::vector<const SemanticNode*> findAll(const SemanticNode& root, Predicate&& matches) {
+    std::vector<const SemanticNode*> found;
+    visit(root, [&](const SemanticNode& node) {
         if (matches(node)) found.push_back(&node);
     });
     return found;
 }
 
-std::string joinedTexts(const Node& node) {
+std::string joinedTexts(const SemanticNode& node) {
     std::string joined;
     for (const std::string& text : shownTexts(node)) {
         if (!joined.empty() && !text.empty()) joined += ' ';
@@ -30,24 +30,24 @@ std::string joinedTexts(const Node& node) {
     return joined;
 }
 
-const std::string* firstImage(const Node& node) {
+const std::string* firstImage(const SemanticNode& node) {
     if (!node.image.empty()) return &node.image;
-    for (const Node& child : node.children) {
+    for (const SemanticNode& child : node.children) {
         if (const std::string* image = firstImage(child)) return image;
     }
     return nullptr;
 }
 
-bool isNamed(const Node& control, std::string_view name) {
+bool isNamed(const SemanticNode& control, std::string_view name) {
     if (control.label == name) return true;
     const std::vector<std::string> texts = shownTexts(control);
     return std::ranges::find(texts, name) != texts.end() || (!texts.empty() && joinedTexts(control) == name);
 }
 
 // Returns whether the node or something in it was added.
-bool addControlsNamed(const Node& node, std::string_view name, std::vector<const Node*>& found) {
+bool addControlsNamed(const SemanticNode& node, std::string_view name, std::vector<const SemanticNode*>& found) {
     bool isFoundInside = false;
-    for (const Node& child : node.children) isFoundInside |= addControlsNamed(child, name, found);
+    for (const SemanticNode& child : node.children) isFoundInside |= addControlsNamed(child, name, found);
     if (isFoundInside || !node.isControl || !isNamed(node, name)) return isFoundInside;
     found.push_back(&node);
     return true;
@@ -55,46 +55,46 @@ bool addControlsNamed(const Node& node, std::string_view name, std::vector<const
 
 } // namespace
 
-const Node* findByIdentifier(const Node& root, std::string_view identifier) {
+const SemanticNode* findByIdentifier(const SemanticNode& root, std::string_view identifier) {
     if (root.identifier == identifier) return &root;
-    for (const Node& child : root.children) {
-        if (const Node* found = findByIdentifier(child, identifier)) return found;
+    for (const SemanticNode& child : root.children) {
+        if (const SemanticNode* found = findByIdentifier(child, identifier)) return found;
     }
     return nullptr;
 }
 
-std::vector<const Node*> findAllByIdentifier(const Node& root, std::string_view identifier) {
-    return findAll(root, [&](const Node& node) { return node.identifier == identifier; });
+std::vector<const SemanticNode*> findAllByIdentifier(const SemanticNode& root, std::string_view identifier) {
+    return findAll(root, [&](const SemanticNode& node) { return node.identifier == identifier; });
 }
 
-std::vector<const Node*> findAllByType(const Node& root, std::string_view type) {
-    return findAll(root, [&](const Node& node) { return node.type == type; });
+std::vector<const SemanticNode*> findAllByType(const SemanticNode& root, std::string_view type) {
+    return findAll(root, [&](const SemanticNode& node) { return node.type == type; });
 }
 
-std::vector<const Node*> findAllByText(const Node& root, std::string_view text) {
-    return findAll(root, [&](const Node& node) { return node.text && node.text->text == text; });
+std::vector<const SemanticNode*> findAllByText(const SemanticNode& root, std::string_view text) {
+    return findAll(root, [&](const SemanticNode& node) { return node.text && node.text->text == text; });
 }
 
-std::vector<const Node*> controls(const Node& root) {
-    return findAll(root, [](const Node& node) { return node.isControl; });
+std::vector<const SemanticNode*> controls(const SemanticNode& root) {
+    return findAll(root, [](const SemanticNode& node) { return node.isControl; });
 }
 
-std::string nameOf(const Node& node) {
+std::string nameOf(const SemanticNode& node) {
     if (!node.label.empty()) return node.label;
     if (std::string texts = joinedTexts(node); !texts.empty()) return texts;
     const std::string* image = firstImage(node);
     return image ? *image : std::string();
 }
 
-std::vector<const Node*> controlsNamed(const Node& root, std::string_view name) {
-    std::vector<const Node*> found;
+std::vector<const SemanticNode*> controlsNamed(const SemanticNode& root, std::string_view name) {
+    std::vector<const SemanticNode*> found;
     if (!name.empty()) addControlsNamed(root, name, found);
     return found;
 }
 
-std::vector<std::string> shownTexts(const Node& root) {
+std::vector<std::string> shownTexts(const SemanticNode& root) {
     std::vector<std::string> texts;
-    visit(root, [&](const Node& node) {
+    visit(root, [&](const SemanticNode& node) {
         if (node.text) texts.push_back(node.text->text);
     });
     return texts;

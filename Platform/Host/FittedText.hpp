@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "Platform/Accessibility/Node.hpp"
+#include "Platform/Accessibility/SemanticNode.hpp"
 #include "Platform/Graphics/TextLayout.hpp"
 #include "Platform/Graphics/TextPainting.hpp"
 

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "Platform/Accessibility/Node.hpp"
+#include "Platform/Accessibility/SemanticNode.hpp"
 #include "Platform/Graphics/DisplayList.hpp"
 
 namespace proupsells::host {
@@ -37,7 +37,7 @@ public:
     // Told when the picture has changed.
     virtual void setNeedsDisplayHandler(std::function<void()> handler) = 0;
 
-    virtual accessibility::Node semanticTree() = 0;
+    virtual accessibility::SemanticNode semanticTree() = 0;
 };
 
 } // namespace proupsells::host

@@ -47,7 +47,7 @@ void RepresentableNode::paintContent(graphics::PaintContext& context, const grap
     m_view->paint(context, state);
 }
 
-void RepresentableNode::describe(accessibility::Node& node, const graphics::PaintState& state, double) const {
+void RepresentableNode::describe(accessibility::SemanticNode& node, const graphics::PaintState& state, double) const {
     m_stage->layoutIfNeeded();
     node.children.push_back(m_view->semanticNode(state));
 }

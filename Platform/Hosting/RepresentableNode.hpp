@@ -22,7 +22,7 @@ protected:
     geometry::Size measure(const geometry::ProposedSize& proposal) override;
     void layOut(const geometry::ProposedSize& proposal, geometry::Size size) override;
     void paintContent(graphics::PaintContext& context, const graphics::PaintState& state, double now_s) override;
-    void describe(accessibility::Node& node, const graphics::PaintState& state, double now_s) const override;
+    void describe(accessibility::SemanticNode& node, const graphics::PaintState& state, double now_s) const override;
     bool isHittable() const override { return true; }
     swiftui::GestureHandler* gestureHandler() override { return this; }
 

@@ -134,12 +134,12 @@ void UIHostingView::paintSubviews(graphics::PaintContext& context, const graphic
         if (!dynamic_cast<const RepresentableStage*>(subview.get())) subview->paint(context, state);
 }
 
-void UIHostingView::appendSubviewNodes(std::vector<accessibility::Node>& nodes, const graphics::PaintState& state) const {
+void UIHostingView::appendSubviewNodes(std::vector<accessibility::SemanticNode>& nodes, const graphics::PaintState& state) const {
     const auto reveal = [self = uikit::weakReference(const_cast<UIHostingView&>(*this))](const geometry::Rect& inWindow) {
         const auto held = self.lock();
         if (held && held->window()) held->scrollRectToVisible({held->convertFrom(inWindow.origin, nullptr), inWindow.size});
     };
-    for (accessibility::Node& node : m_host->semanticNodes(state, state.clip, reveal)) nodes.push_back(std::move(node));
+    for (accessibility::SemanticNode& node : m_host->semanticNodes(state, state.clip, reveal)) nodes.push_back(std::move(node));
     for (const auto& subview : subviews())
         if (!dynamic_cast<const RepresentableStage*>(subview.get())) nodes.push_back(subview->semanticNode(state));
 }

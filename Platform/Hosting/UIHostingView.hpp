@@ -46,7 +46,7 @@ public:
 
 protected:
     void paintSubviews(graphics::PaintContext& context, const graphics::PaintState& state) const override;
-    void appendSubviewNodes(std::vector<accessibility::Node>& nodes, const graphics::PaintState& state) const override;
+    void appendSubviewNodes(std::vector<accessibility::SemanticNode>& nodes, const graphics::PaintState& state) const override;
 
 private:
     void adoptEnvironment();

@@ -1,16 +1,17 @@
 // Everything that views are written with.
 #pragma once
 
-#include "Platform/SwiftUI/Animation/AnyTransition.hpp"
 #include "Platform/SwiftUI/Animation/Transaction.hpp"
-#include "Platform/SwiftUI/Layout/Alignment.hpp"
 #include "Platform/SwiftUI/Modifiers/AccessibilityModifiers.hpp"
 #include "Platform/SwiftUI/Modifiers/AnimationModifier.hpp"
+#include "Platform/SwiftUI/Modifiers/AnyTransition.hpp"
 #include "Platform/SwiftUI/Modifiers/EffectModifiers.hpp"
 #include "Platform/SwiftUI/Modifiers/EnvironmentModifiers.hpp"
 #include "Platform/SwiftUI/Modifiers/LayoutModifiers.hpp"
 #include "Platform/SwiftUI/Modifiers/LifecycleModifiers.hpp"
 #include "Platform/SwiftUI/Modifiers/TapGestureModifier.hpp"
+#include "Platform/SwiftUI/Shapes/Shapes.hpp"
+#include "Platform/SwiftUI/Tree/Alignment.hpp"
 #include "Platform/SwiftUI/Tree/BuildContext.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 #include "Platform/SwiftUI/Views/Button.hpp"
@@ -19,7 +20,6 @@
 #include "Platform/SwiftUI/Views/GeometryReader.hpp"
 #include "Platform/SwiftUI/Views/Image.hpp"
 #include "Platform/SwiftUI/Views/ScrollView.hpp"
-#include "Platform/SwiftUI/Views/Shapes.hpp"
 #include "Platform/SwiftUI/Views/Stacks.hpp"
 #include "Platform/SwiftUI/Views/TabView.hpp"
 #include "Platform/SwiftUI/Views/Text.hpp"

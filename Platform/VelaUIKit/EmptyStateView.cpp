@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 
 namespace proupsells::velauikit {
 

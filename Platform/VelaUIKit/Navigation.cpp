@@ -3,7 +3,7 @@
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Host/NamedImage.hpp"
 #include "Platform/LumoKit/ResourceBundle.hpp"
-#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 
 namespace proupsells::velauikit {
 

@@ -2,8 +2,8 @@
 
 #include "Platform/LumoKit/LargestTextSize.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
-#include "Platform/VelaUIKit/Colors.hpp"
 #include "Platform/VelaUIKit/Fonts.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 
 namespace proupsells::velauikit {
 

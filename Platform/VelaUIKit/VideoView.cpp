@@ -51,7 +51,7 @@ void VideoView::draw(graphics::PaintContext& context, const graphics::PaintState
         context.bitmap(state, pictureFrame(*frame.picture), frame.picture);
 }
 
-void VideoView::describe(accessibility::Node& node, const graphics::PaintState&) const {
+void VideoView::describe(accessibility::SemanticNode& node, const graphics::PaintState&) const {
     if (!m_file) return;
     node.clipView = accessibility::ClipInfo{m_file->stem().string(), {}};
     if (!m_playback || !node.isOnScreen) return;

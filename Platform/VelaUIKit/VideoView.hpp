@@ -29,7 +29,7 @@ public:
 
 protected:
     void draw(graphics::PaintContext& context, const graphics::PaintState& state) const override;
-    void describe(accessibility::Node& node, const graphics::PaintState& state) const override;
+    void describe(accessibility::SemanticNode& node, const graphics::PaintState& state) const override;
 
 private:
     void updatePlayback();

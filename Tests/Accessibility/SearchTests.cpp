@@ -10,13 +10,13 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-Node textNode(std::string text) {
-    Node node{.type = "Text"};
+SemanticNode textNode(std::string text) {
+    SemanticNode node{.type = "Text"};
     node.text = TextInfo{.text = std::move(text)};
     return node;
 }
 
-Node button(std::string identifier, std::vector<Node> children, std::string label = {}) {
+SemanticNode button(std::string identifier, std::vector<SemanticNode> children, std::string label = {}) {
     return {.type = "Button",
             .identifier = std::move(identifier),
             .label = std::move(label),
@@ -24,14 +24,14 @@ Node button(std::string identifier, std::vector<Node> children, std::string labe
             .children = std::move(children)};
 }
 
-std::vector<std::string> identifiersOf(const std::vector<const Node*>& nodes) {
+std::vector<std::string> identifiersOf(const std::vector<const SemanticNode*>& nodes) {
     std::vector<std::string> identifiers;
-    for (const Node* node : nodes) identifiers.push_back(node->identifier);
+    for (const SemanticNode* node : nodes) identifiers.push_back(node->identifier);
     return identifiers;
 }
 
-const Node& screen() {
-    static const Node root{
+const SemanticNode& screen() {
+    static const SemanticNode root{
         .type = "Screen",
         .children =
             {
@@ -70,7 +70,7 @@ TEST(NameOfANode, IsItsLabelThenItsTextsThenItsImage) {
     EXPECT_EQ(nameOf(*findByIdentifier(screen(), "terms")), "Terms of Service");
     EXPECT_EQ(nameOf(*findByIdentifier(screen(), "plan.yearly")), "Yearly $99.99");
     EXPECT_EQ(nameOf(*findByIdentifier(screen(), "close")), "closeIcon");
-    EXPECT_EQ(nameOf(Node{}), "");
+    EXPECT_EQ(nameOf(SemanticNode{}), "");
 }
 
 TEST(ControlsNamed, AreFoundByLabelByOneOfTheirTextsOrByAll) {

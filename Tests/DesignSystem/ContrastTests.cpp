@@ -3,8 +3,8 @@
 
 #include <gmock/gmock.h>
 
-#include "Platform/LumoKit/Colors.hpp"
-#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/LumoKit/RoleColors.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 
 using namespace proupsells;
 

@@ -37,15 +37,15 @@ public:
 
     ViewHost& host() { return *m_host; }
     Rect frameOf(const std::string& identifier) {
-        const accessibility::Node root = m_host->semanticTree();
-        const accessibility::Node* node = accessibility::findByIdentifier(root, identifier);
+        const accessibility::SemanticNode root = m_host->semanticTree();
+        const accessibility::SemanticNode* node = accessibility::findByIdentifier(root, identifier);
         if (!node) ADD_FAILURE() << "Nothing has the identifier " << identifier;
         return node ? node->frame : Rect{};
     }
     std::vector<Rect> spacers() {
-        const accessibility::Node root = m_host->semanticTree();
+        const accessibility::SemanticNode root = m_host->semanticTree();
         std::vector<Rect> result;
-        for (const accessibility::Node* node : accessibility::findAllByType(root, "Spacer")) result.push_back(node->frame);
+        for (const accessibility::SemanticNode* node : accessibility::findAllByType(root, "Spacer")) result.push_back(node->frame);
         return result;
     }
 

@@ -62,7 +62,7 @@ protected:
                 numbers.push_back(FakeClipDecoder::pictureNumber(*list.bitmaps[std::size_t(command.resource)]));
         return numbers;
     }
-    accessibility::Node node() { return window->semanticTree().children.front(); }
+    accessibility::SemanticNode node() { return window->semanticTree().children.front(); }
 
     tests::TemporaryFolder folder;
     std::shared_ptr<FakeClipDecoder> decoder;

@@ -4,10 +4,10 @@
 #include "Platform/LumoKit/Icon.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 #include "Platform/VelaUIKit/ChargedButton.hpp"
-#include "Platform/VelaUIKit/Colors.hpp"
 #include "Platform/VelaUIKit/EmptyStateView.hpp"
 #include "Platform/VelaUIKit/Navigation.hpp"
 #include "Platform/VelaUIKit/Theme.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 #include "Platform/VelaUIKit/VelaUIKitImage.hpp"
 
 using namespace proupsells;

@@ -36,10 +36,10 @@ protected:
     }
     std::vector<std::string> texts() { return accessibility::shownTexts(window->semanticTree()); }
     // Stays good until the next call.
-    const accessibility::Node& find(std::string_view identifier) {
-        static const accessibility::Node missing;
+    const accessibility::SemanticNode& find(std::string_view identifier) {
+        static const accessibility::SemanticNode missing;
         m_tree = window->semanticTree();
-        const accessibility::Node* node = accessibility::findByIdentifier(m_tree, identifier);
+        const accessibility::SemanticNode* node = accessibility::findByIdentifier(m_tree, identifier);
         EXPECT_TRUE(node) << "there is no " << identifier;
         return node ? *node : missing;
     }
@@ -54,7 +54,7 @@ protected:
     std::shared_ptr<uikit::UIWindow> window = uikit::UIWindow::create({400, 800});
 
 private:
-    accessibility::Node m_tree;
+    accessibility::SemanticNode m_tree;
 };
 
 } // namespace proupsells::hosting

@@ -158,7 +158,7 @@ TEST_F(RepresentableTest, ItIsPaintedWhereItStandsInTheEnvironmentOfItsPlace) {
 }
 
 TEST_F(RepresentableTest, ItIsDescribedOnceInsideItsValue) {
-    const accessibility::Node tree = window->semanticTree();
+    const accessibility::SemanticNode tree = window->semanticTree();
 
     const auto values = accessibility::findAllByType(tree, "Dots");
     ASSERT_EQ(values.size(), 1u);

@@ -39,7 +39,7 @@ protected:
         touch(host::TouchPhase::ended, {from.x, from.y - swipe.distance});
     }
     double offset() {
-        const accessibility::Node root = window->semanticTree();
+        const accessibility::SemanticNode root = window->semanticTree();
         auto found = accessibility::findAllByType(root, "ScrollView");
         if (found.empty()) found = accessibility::findAllByType(root, "UIScrollView");
         return found.at(0)->scroll->contentOffset.y;

@@ -63,7 +63,7 @@ Reveal reveal(const Comparison& comparison, const std::string& category) {
     const auto rows = allOfType(comparison.find(identifier(category)), "FeatureChildRow");
     if (rows.empty()) return {.opacity = 0};
     const auto stack =
-        allWhere(comparison.find(identifier(category)), [](const accessibility::Node& node) {
+        allWhere(comparison.find(identifier(category)), [](const accessibility::SemanticNode& node) {
             return node.type == "VStack" && !node.children.empty() && node.children.front().type == "FeatureChildRow";
         }).front();
     return {.opacity = stack.opacity,
@@ -183,9 +183,10 @@ TEST(ComparisonView, ShowsOneCheckForProAndTheLimitWithACheck) {
     comparison.toggle(tools);
     comparison.runUntil(1);
     const auto row = [&](const std::string& name) {
-        return allWhere(
-                   comparison.tree(),
-                   [&](const accessibility::Node& node) { return node.type == "FeatureChildRow" && texts(node).front() == name; })
+        return allWhere(comparison.tree(),
+                        [&](const accessibility::SemanticNode& node) {
+                            return node.type == "FeatureChildRow" && texts(node).front() == name;
+                        })
             .front();
     };
 
@@ -314,7 +315,7 @@ TEST(ComparisonView, CutsNoTextAndBreaksNoWordAtAnyTextSize) {
         options.traits.preferredContentSizeCategory = graphics::ContentSizeCategory(category);
         for (const double width : {320.0, 375.0}) {
             const Comparison comparison({width, 1400}, options);
-            visit(comparison.tree(), [&](const accessibility::Node& node) {
+            visit(comparison.tree(), [&](const accessibility::SemanticNode& node) {
                 if (!node.text) return;
                 EXPECT_FALSE(node.text->isTruncated) << node.text->text << " at " << category << ", " << width;
                 EXPECT_THAT(brokenWords(node), IsEmpty()) << " at " << category << ", " << width;

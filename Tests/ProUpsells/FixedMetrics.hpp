@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "Platform/Accessibility/Node.hpp"
+#include "Platform/Accessibility/SemanticNode.hpp"
 
 namespace proupsells::tests {
 
@@ -40,7 +40,7 @@ inline std::vector<double> lineWidths(const std::string& text, double size, doub
 }
 
 // The words of a plain text that are wider than its frame, so that they stand on more than one line.
-inline std::vector<std::string> brokenWords(const accessibility::Node& node) {
+inline std::vector<std::string> brokenWords(const accessibility::SemanticNode& node) {
     std::vector<std::string> result;
     if (!node.text || !node.text->runs.empty()) return result;
     std::istringstream words(node.text->text);

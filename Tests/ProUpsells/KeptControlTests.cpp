@@ -11,7 +11,7 @@ using ::testing::IsEmpty;
 class KeptControl : public testing::Test {
 protected:
     Paywall paywall{{yearly(), monthly()}};
-    const accessibility::Node subscribe = paywall.find("subscribe"), monthlyPlan = paywall.find("plan.pro.monthly");
+    const accessibility::SemanticNode subscribe = paywall.find("subscribe"), monthlyPlan = paywall.find("plan.pro.monthly");
 };
 
 TEST_F(KeptControl, SellsNothingOnceThereIsNothingToSell) {

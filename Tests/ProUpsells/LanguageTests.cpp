@@ -62,7 +62,7 @@ public:
         window->touch({host::TouchPhase::ended, location, bed.now_s()});
         bed.settle();
     }
-    accessibility::Node tree() { return window->semanticTree(); }
+    accessibility::SemanticNode tree() { return window->semanticTree(); }
     std::string dump() { return described(tree()); }
     std::vector<std::string> texts() { return tests::texts(tree()); }
 

@@ -191,7 +191,7 @@ TEST(PaywallLayout, IsMirroredWhereTheLanguageRunsFromTheRight) {
 TEST(PaywallLayout, CutsNoText) {
     for (const double width : {320.0, 375.0, 744.0}) {
         const Paywall paywall(yearlyTrialAndMonthly(), {width, 568});
-        visit(paywall.tree(), [&](const accessibility::Node& node) {
+        visit(paywall.tree(), [&](const accessibility::SemanticNode& node) {
             if (node.text) {
                 EXPECT_FALSE(node.text->isTruncated) << node.text->text << " at " << width;
             }
@@ -205,7 +205,7 @@ TEST(PaywallLayout, CutsNoTextAndBreaksNoWordAtTheLargestTextSize) {
 
     for (const double width : {320.0, 375.0}) {
         const Paywall paywall(yearlyTrialAndMonthly(), {width, 800}, largest);
-        visit(paywall.tree(), [](const accessibility::Node& node) {
+        visit(paywall.tree(), [](const accessibility::SemanticNode& node) {
             if (!node.text) return;
             EXPECT_FALSE(node.text->isTruncated) << node.text->text;
             EXPECT_THAT(brokenWords(node), IsEmpty());

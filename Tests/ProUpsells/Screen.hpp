@@ -40,15 +40,15 @@ public:
         settle();
     }
 
-    accessibility::Node tree() const { return m_window->semanticTree(); }
-    accessibility::Node find(std::string_view identifier) const { return tests::find(tree(), identifier); }
+    accessibility::SemanticNode tree() const { return m_window->semanticTree(); }
+    accessibility::SemanticNode find(std::string_view identifier) const { return tests::find(tree(), identifier); }
     bool has(std::string_view identifier) const { return tests::has(tree(), identifier); }
     geometry::Rect frame(std::string_view identifier) const { return find(identifier).frame; }
     geometry::Rect frameOfType(std::string_view type) const { return firstOfType(tree(), type).frame; }
     // The identifiers of the controls that are marked.
     std::vector<std::string> selectedIdentifiers() const {
         std::vector<std::string> result;
-        visit(tree(), [&](const accessibility::Node& node) {
+        visit(tree(), [&](const accessibility::SemanticNode& node) {
             if (contains(node.traits, accessibility::Traits::selected)) result.push_back(node.identifier);
         });
         return result;

@@ -4,11 +4,11 @@
 #include <sstream>
 #include <string>
 
-#include "Platform/Accessibility/Node.hpp"
+#include "Platform/Accessibility/SemanticNode.hpp"
 
 namespace proupsells::tests {
 
-inline void describe(const accessibility::Node& node, int depth, std::ostream& stream) {
+inline void describe(const accessibility::SemanticNode& node, int depth, std::ostream& stream) {
     const geometry::Rect& frame = node.frame;
     stream << std::string(std::size_t(depth), ' ') << node.type << " [" << frame.minX() << ' ' << frame.minY() << ' '
            << frame.width() << ' ' << frame.height() << "] " << node.isOnScreen << ' ' << node.identifier << '|' << node.label
@@ -19,11 +19,11 @@ inline void describe(const accessibility::Node& node, int depth, std::ostream& s
     }
     if (node.scroll) stream << " at " << node.scroll->contentOffset.x << ' ' << node.scroll->contentOffset.y;
     stream << '\n';
-    for (const accessibility::Node& child : node.children) describe(child, depth + 1, stream);
+    for (const accessibility::SemanticNode& child : node.children) describe(child, depth + 1, stream);
 }
 
 // A line for each view, with what can be seen and heard of it.
-inline std::string described(const accessibility::Node& root) {
+inline std::string described(const accessibility::SemanticNode& root) {
     std::ostringstream stream;
     describe(root, 0, stream);
     return stream.str();

@@ -76,7 +76,7 @@ TEST_F(StoreContainer, SetsTheHeadlineOverItsExplanation) {
     EXPECT_EQ(texts->titleLabel()->frame(), (geometry::Rect{{25, 0}, {325, 27.5}}));
     // The longest of them has 31 characters of 8.2 points.
     EXPECT_THAT(texts->subtitleLabel()->frame(), tests::FrameNear(geometry::Rect{{60.4, 43.5}, {254.2, 3 * 20 + 2 * 9}}));
-    const accessibility::Node title = tests::firstOfType(tree(), "UILabel");
+    const accessibility::SemanticNode title = tests::firstOfType(tree(), "UILabel");
     EXPECT_EQ(title.text->font, "velaDefaultFont");
     EXPECT_EQ(title.text->size, 22);
     EXPECT_EQ(title.text->weight, 2);

@@ -62,7 +62,7 @@ TEST_P(StorePageLayout, PutsEveryShelfWhereItBelongs) {
         SCOPED_TRACE(row.shelf);
         scrollTo(*page, row.top);
 
-        const accessibility::Node cell = find("store.shelf." + row.shelf);
+        const accessibility::SemanticNode cell = find("store.shelf." + row.shelf);
         EXPECT_EQ(cell.type, "VelaProStoreCell");
         EXPECT_EQ(cell.frame, (geometry::Rect{{0, 0}, {width, row.height}}));
         double y = 0;
@@ -89,7 +89,7 @@ TEST_P(StorePageLayout, PutsPicturesIntoTheStrips) {
     const double width = GetParam().width;
     const auto page = showPageOf({width, 800});
     const auto contentOf = [&](const std::string& strip) {
-        const accessibility::Node node = find("store.strip." + strip);
+        const accessibility::SemanticNode node = find("store.strip." + strip);
         return node.children.front().frame.offsetBy({-node.frame.minX() + node.scroll->contentOffset.x, -node.frame.minY()});
     };
 
@@ -112,7 +112,7 @@ TEST_P(StorePageLayout, PutsPicturesIntoTheStrips) {
     EXPECT_EQ(contentOf("VideoImageLibrariesShelf.0"), (geometry::Rect{{16, 0}, {21 * 1222 + 320, 93}}));
     EXPECT_EQ(contentOf("VideoImageLibrariesShelf.1"), (geometry::Rect{{16, 0}, {25 * 94 + 24 * 16, 167}}));
     const auto clips = tests::allOfType(find("store.strip.VideoImageLibrariesShelf.1"), "VideoView");
-    for (const accessibility::Node& clip : clips) EXPECT_EQ(clip.frame.size, (geometry::Size{94, 167}));
+    for (const accessibility::SemanticNode& clip : clips) EXPECT_EQ(clip.frame.size, (geometry::Size{94, 167}));
 }
 
 // At 375 points "Get full access to all templates", "Create with premium fonts and graphics" and "Get inspired with videos and
@@ -156,7 +156,7 @@ TEST_F(StorePageChrome, MirrorsWhereTextRunsFromRightToLeft) {
     showPage();
 
     EXPECT_EQ(frame("store.close"), (geometry::Rect{{375 - 23 - 30, 37}, {30, 30}}));
-    const accessibility::Node button = find("store.choosePlan");
+    const accessibility::SemanticNode button = find("store.choosePlan");
     EXPECT_LT(tests::firstOfType(button, "UIImageView").frame.maxX(), tests::firstOfType(button, "UILabel").frame.minX());
 }
 

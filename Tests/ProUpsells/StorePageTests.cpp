@@ -249,7 +249,7 @@ TEST_F(StorePage, CouldFillAFooterIfTheListAskedForOne) {
     show(std::make_shared<PageWithFooters>(VelaProStorePageViewController::Shelves{std::make_shared<PlainShelf>(100)},
                                            Referrer{"Home"}, Entitlement::velaPRO));
 
-    const accessibility::Node footer = tests::firstOfType(tree(), "FooterView");
+    const accessibility::SemanticNode footer = tests::firstOfType(tree(), "FooterView");
 
     EXPECT_EQ(footer.frame, (geometry::Rect{{0, 3 + 100 + 7}, {375, 120}}));
     EXPECT_THAT(tests::texts(footer), ElementsAre("Headline", "Explanation"));

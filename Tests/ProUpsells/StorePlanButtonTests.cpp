@@ -50,8 +50,8 @@ protected:
         window->setTraits(traits);
         bed.settle();
     }
-    accessibility::Node label() { return tests::firstOfType(find("store.choosePlan"), "UILabel"); }
-    accessibility::Node arrow() { return tests::firstOfType(find("store.choosePlan"), "UIImageView"); }
+    accessibility::SemanticNode label() { return tests::firstOfType(find("store.choosePlan"), "UILabel"); }
+    accessibility::SemanticNode arrow() { return tests::firstOfType(find("store.choosePlan"), "UIImageView"); }
     // How the arrow is turned where it is painted.
     geometry::Transform paintedArrow() {
         const graphics::DisplayList list = painted();
@@ -91,11 +91,11 @@ TEST_F(StorePlanButton, AsksUpTheResponderChainWithoutATarget) {
 TEST_F(StorePlanButton, ShowsItsTitleAndAnArrowInTheMiddle) {
     showButton();
 
-    const accessibility::Node node = tests::firstOfType(tree(), "UIButton");
+    const accessibility::SemanticNode node = tests::firstOfType(tree(), "UIButton");
     EXPECT_EQ(node.shape->fill, "dynamicColor.22");
     EXPECT_EQ(node.label, "Choose Your Plan");
     // 16 characters of 9 points and 2 more after each, 16 points, an arrow of 24 × 16: 216 points in the middle of 331.
-    const accessibility::Node label = tests::firstOfType(node, "UILabel"), arrow = tests::firstOfType(node, "UIImageView");
+    const accessibility::SemanticNode label = tests::firstOfType(node, "UILabel"), arrow = tests::firstOfType(node, "UIImageView");
     EXPECT_EQ(label.frame, (geometry::Rect{{22 + 57.5, 118.75}, {176, 22.5}}));
     EXPECT_EQ(arrow.frame, (geometry::Rect{{22 + 57.5 + 192, 122}, {24, 16}}));
     EXPECT_EQ(arrow.image, "Button_Arrow_Right");

@@ -72,8 +72,8 @@ protected:
         window->setTraits(traits);
         bed.settle();
     }
-    accessibility::Node tree() { return window->semanticTree(); }
-    accessibility::Node find(std::string_view identifier) { return tests::find(tree(), identifier); }
+    accessibility::SemanticNode tree() { return window->semanticTree(); }
+    accessibility::SemanticNode find(std::string_view identifier) { return tests::find(tree(), identifier); }
     bool has(std::string_view identifier) { return tests::has(tree(), identifier); }
     geometry::Rect frame(std::string_view identifier) { return find(identifier).frame; }
     double stripOffset(std::string_view identifier) { return find(identifier).scroll->contentOffset.x; }

@@ -21,7 +21,7 @@ void revealAndTap(Paywall& paywall, std::string_view identifier) {
     paywall.tap(identifier);
 }
 
-accessibility::Node termsGradient(const Paywall& paywall) {
+accessibility::SemanticNode termsGradient(const Paywall& paywall) {
     return allWhere(paywall.tree(), [](const auto& node) { return node.image == "TermsGradient"; }).front();
 }
 
@@ -243,7 +243,7 @@ TEST(UpsellView, DoesNotRestartTheCarouselWhenItIsRebuilt) {
 
 TEST(UpsellView, NamesEveryControl) {
     Paywall paywall(twoPlans());
-    visit(paywall.tree(), [](const accessibility::Node& node) {
+    visit(paywall.tree(), [](const accessibility::SemanticNode& node) {
         if (node.isControl) {
             EXPECT_FALSE(node.identifier.empty()) << node.type;
             EXPECT_FALSE(node.label.empty() && node.value.empty()) << node.identifier;

@@ -8,7 +8,7 @@
 
 using namespace proupsells;
 
-using accessibility::Node;
+using accessibility::SemanticNode;
 using accessibility::Traits;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -24,23 +24,23 @@ public:
     void paint(graphics::DisplayList&) override {}
     bool isAnimating() const override { return false; }
     void setNeedsDisplayHandler(std::function<void()>) override {}
-    Node semanticTree() override {
+    SemanticNode semanticTree() override {
         ++readCount;
         return tree;
     }
 
-    Node tree;
+    SemanticNode tree;
     int readCount = 0;
 };
 
-Node textNode(const std::string& text) {
-    Node node{.type = "Text", .frame = {{1, 2}, {30, 10}}, .isOnScreen = true};
+SemanticNode textNode(const std::string& text) {
+    SemanticNode node{.type = "Text", .frame = {{1, 2}, {30, 10}}, .isOnScreen = true};
     node.text = accessibility::TextInfo{.text = text};
     return node;
 }
 
-Node buttonNode(const std::string& identifier, const std::string& text, std::function<void()> activate = {}) {
-    Node node{.type = "Button", .frame = {{10, 20}, {100, 44}}, .isOnScreen = true, .identifier = identifier};
+SemanticNode buttonNode(const std::string& identifier, const std::string& text, std::function<void()> activate = {}) {
+    SemanticNode node{.type = "Button", .frame = {{10, 20}, {100, 44}}, .isOnScreen = true, .identifier = identifier};
     node.traits = Traits::button;
     node.isControl = true;
     node.activate = std::move(activate);
@@ -80,7 +80,7 @@ protected:
 } // namespace
 
 TEST_F(Accessibility, OffersTextsAndControlsAsAFlatList) {
-    Node inner{.type = "VStack", .isOnScreen = true};
+    SemanticNode inner{.type = "VStack", .isOnScreen = true};
     inner.children = {textNode("Endless templates"), buttonNode("subscribe", "Subscribe Now")};
     content.tree.children = {inner, textNode("Disclaimer")};
 
@@ -94,15 +94,15 @@ TEST_F(Accessibility, OffersTextsAndControlsAsAFlatList) {
 }
 
 TEST_F(Accessibility, TellsRolesStatesAndPlaces) {
-    Node plan = buttonNode("plan.yearly", "Annually");
+    SemanticNode plan = buttonNode("plan.yearly", "Annually");
     plan.traits = Traits::button | Traits::selected;
     plan.value = "$99.99 per year";
-    Node heading = textNode("Free");
+    SemanticNode heading = textNode("Free");
     heading.traits = Traits::header;
-    Node pages{
+    SemanticNode pages{
         .type = "UIPageControl", .frame = {{0, 0}, {40, 10}}, .isOnScreen = true, .label = "Pages", .traits = Traits::adjustable};
     pages.isControl = true;
-    Node disabled = buttonNode("subscribe", "Subscribe");
+    SemanticNode disabled = buttonNode("subscribe", "Subscribe");
     disabled.traits = Traits::button | Traits::disabled;
     content.tree.children = {plan, heading, pages, disabled};
 
@@ -116,13 +116,13 @@ TEST_F(Accessibility, TellsRolesStatesAndPlaces) {
 }
 
 TEST_F(Accessibility, LeavesOutWhatNobodyCanReach) {
-    Node hidden = textNode("transparent");
+    SemanticNode hidden = textNode("transparent");
     hidden.isOnScreen = false;
     hidden.opacity = 0;
-    Node scrolledAway = textNode("further down");
+    SemanticNode scrolledAway = textNode("further down");
     scrolledAway.isOnScreen = false;
     scrolledAway.reveal = [] {};
-    Node decoration{.type = "Shape", .isOnScreen = true};
+    SemanticNode decoration{.type = "Shape", .isOnScreen = true};
     content.tree.children = {hidden, scrolledAway, decoration};
 
     EXPECT_THAT(names(), ElementsAre("further down"));
@@ -131,7 +131,7 @@ TEST_F(Accessibility, LeavesOutWhatNobodyCanReach) {
 
 TEST_F(Accessibility, PressesControls) {
     int presses = 0, reveals = 0;
-    Node button = buttonNode("close", "Close", [&] { ++presses; });
+    SemanticNode button = buttonNode("close", "Close", [&] { ++presses; });
     button.isOnScreen = false;
     button.reveal = [&] { ++reveals; };
     content.tree.children = {button};
@@ -148,7 +148,7 @@ TEST_F(Accessibility, PressesControls) {
 
 TEST_F(Accessibility, StepsAdjustableControls) {
     std::vector<int> steps;
-    Node pages{.type = "UIPageControl", .isOnScreen = true, .label = "Pages", .traits = Traits::adjustable};
+    SemanticNode pages{.type = "UIPageControl", .isOnScreen = true, .label = "Pages", .traits = Traits::adjustable};
     pages.isControl = true;
     pages.adjust = [&](int step) { steps.push_back(step); };
     content.tree.children = {pages};

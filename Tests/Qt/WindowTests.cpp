@@ -54,7 +54,7 @@ public:
     }
     bool isAnimating() const override { return animatedFrames > 0; }
     void setNeedsDisplayHandler(std::function<void()> newHandler) override { handler = std::move(newHandler); }
-    accessibility::Node semanticTree() override { return tree; }
+    accessibility::SemanticNode semanticTree() override { return tree; }
 
     void changed() {
         if (handler) handler();
@@ -69,7 +69,7 @@ public:
     int paintCount = 0;
     int animatedFrames = 0;
     std::function<void()> handler;
-    accessibility::Node tree;
+    accessibility::SemanticNode tree;
 };
 
 class QtWindowTest : public testing::Test {

@@ -203,9 +203,9 @@ protected:
         });
     }
     // Of the first view, which has no identifier while it leaves.
-    accessibility::Node branch() {
-        accessibility::Node root = screen->tree();
-        return root.children.size() > 1 ? root.children.front() : accessibility::Node{};
+    accessibility::SemanticNode branch() {
+        accessibility::SemanticNode root = screen->tree();
+        return root.children.size() > 1 ? root.children.front() : accessibility::SemanticNode{};
     }
 };
 

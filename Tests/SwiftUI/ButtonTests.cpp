@@ -218,7 +218,7 @@ TEST(Button, ThatLeavesUnderTheFingerDoesNotAct) {
 
 TEST(Button, IsAControlInTheSemanticTree) {
     CountedTaps taps;
-    const accessibility::Node button = taps.screen.find("button");
+    const accessibility::SemanticNode button = taps.screen.find("button");
 
     EXPECT_EQ(button.type, "Button");
     EXPECT_TRUE(button.isControl);
@@ -239,7 +239,7 @@ TEST(Button, CanBeActivatedAfterItHasGoneWithoutEffect) {
     bool isThere = true;
     int taps = 0;
     TouchScreen screen{[&] { return isThere ? buttonInTheMiddle([&taps] { ++taps; }) : View{}; }};
-    const accessibility::Node button = screen.find("button");
+    const accessibility::SemanticNode button = screen.find("button");
 
     isThere = false;
     screen.rebuild();

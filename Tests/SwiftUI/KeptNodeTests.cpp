@@ -25,7 +25,7 @@ protected:
     bool isThere = true, isDisabled = false, isWired = true;
     int taps = 0, tap = 1;
     TouchScreen screen{[this] { return root(); }};
-    const accessibility::Node button = screen.find("button"), gesture = screen.find("gesture");
+    const accessibility::SemanticNode button = screen.find("button"), gesture = screen.find("gesture");
 };
 
 TEST_F(KeptNode, ActsWhileNothingHasChanged) {
@@ -93,7 +93,7 @@ TEST_F(KeptNode, RestsWhileItIsOnItsWayOut) {
     withAnimation(motion::Animation{.duration_s = 2}, [&] { screen.host().setNeedsUpdate(); });
     screen.settle();
     screen.wait(1);
-    const accessibility::Node tree = screen.tree();
+    const accessibility::SemanticNode tree = screen.tree();
     ASSERT_EQ(accessibility::findAllByType(tree, "Button").size(), 1u) << "It should still be seen";
 
     activateBoth();
@@ -120,7 +120,7 @@ TEST_F(KeptNode, RestsAfterTheTree) {
 }
 
 TEST(KeptActivation, RestsWhileTheTreeEnds) {
-    accessibility::Node button;
+    accessibility::SemanticNode button;
     int taps = 0, farewells = 0;
     TouchScreen screen{[&] {
         return Button{.action = [&taps] { ++taps; }, .label = box(100, 50, "label")} | accessibilityIdentifier("button") |
@@ -143,7 +143,7 @@ TEST(KeptReveal, ScrollsNothingOnceTheViewHasGone) {
         return isThere ? View(ScrollView{.content = VStack{.spacing = 0, .content = {box(100, 1000, "top"), box(100, 50, "last")}}})
                        : View(box(100, 100, "other"));
     }};
-    const accessibility::Node last = screen.find("last");
+    const accessibility::SemanticNode last = screen.find("last");
     ASSERT_TRUE(last.reveal);
 
     isThere = false;

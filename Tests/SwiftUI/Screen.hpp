@@ -38,16 +38,16 @@ public:
     void settle() { m_bed.settle(); }
     void runFor(double duration_s) { m_bed.runFor(duration_s); }
 
-    accessibility::Node tree() { return m_host->semanticTree(); }
+    accessibility::SemanticNode tree() { return m_host->semanticTree(); }
     // The first node with the identifier, in the order of the tree; a failure and an empty node when there is none.
-    accessibility::Node node(const std::string& identifier) {
-        const accessibility::Node root = tree();
+    accessibility::SemanticNode node(const std::string& identifier) {
+        const accessibility::SemanticNode root = tree();
         if (const auto* found = findNode(root, [&](const auto& n) { return n.identifier == identifier; })) return *found;
         ADD_FAILURE() << "Nothing on screen is identified as " << identifier;
         return {};
     }
     bool has(const std::string& identifier) {
-        const accessibility::Node root = tree();
+        const accessibility::SemanticNode root = tree();
         return findNode(root, [&](const auto& n) { return n.identifier == identifier; }) != nullptr;
     }
     Rect frame(const std::string& identifier) { return node(identifier).frame; }
@@ -55,7 +55,7 @@ public:
     // All texts in the order of the tree.
     std::vector<std::string> texts() {
         std::vector<std::string> result;
-        const accessibility::Node root = tree();
+        const accessibility::SemanticNode root = tree();
         findNode(root, [&](const auto& n) {
             if (n.text) result.push_back(n.text->text);
             return false;
@@ -63,17 +63,17 @@ public:
         return result;
     }
     // The node of a text; a failure when it is not there.
-    accessibility::Node text(const std::string& words) {
-        const accessibility::Node root = tree();
+    accessibility::SemanticNode text(const std::string& words) {
+        const accessibility::SemanticNode root = tree();
         if (const auto* found = findNode(root, [&](const auto& n) { return n.text && n.text->text == words; })) return *found;
         ADD_FAILURE() << "No text says " << words;
         return {};
     }
 
     template <class Predicate>
-    static const accessibility::Node* findNode(const accessibility::Node& node, const Predicate& predicate) {
+    static const accessibility::SemanticNode* findNode(const accessibility::SemanticNode& node, const Predicate& predicate) {
         if (predicate(node)) return &node;
-        for (const accessibility::Node& child : node.children)
+        for (const accessibility::SemanticNode& child : node.children)
             if (const auto* found = findNode(child, predicate)) return found;
         return nullptr;
     }

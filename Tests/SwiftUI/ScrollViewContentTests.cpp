@@ -170,7 +170,7 @@ TEST(ScrollView, RevealsByAsLittleAsItTakes) {
 
 TEST(ScrollView, RevealsFromAnOldTreeToo) {
     Rows rows;
-    const accessibility::Node before = rows.screen.tree();
+    const accessibility::SemanticNode before = rows.screen.tree();
     rows.screen.host().scroll({150, 200}, {0, 300});
 
     accessibility::findByIdentifier(before, "row7")->reveal();
@@ -200,7 +200,7 @@ TEST(ScrollView, RevealsThroughScrollViewsAround) {
 TEST(ScrollView, RevealsNothingOnceItIsGone) {
     bool isThere = true;
     TouchScreen screen{[&] { return isThere ? rows() : View{}; }};
-    const accessibility::Node row = screen.find("row7");
+    const accessibility::SemanticNode row = screen.find("row7");
 
     isThere = false;
     screen.rebuild();

@@ -46,7 +46,7 @@ protected:
     }
     bool isHittable() const override { return true; }
     std::string_view semanticType() const override { return "Star"; }
-    void describe(accessibility::Node& node, const graphics::PaintState&, double) const override {
+    void describe(accessibility::SemanticNode& node, const graphics::PaintState&, double) const override {
         node.value = std::to_string(m_points);
     }
 

@@ -88,7 +88,7 @@ TEST(TapGesture, RestsWhileDisabled) {
 TEST(TapGesture, MakesTheViewAControlWithoutCallingItAButton) {
     int taps = 0;
     TouchScreen screen{[&] { return tappable(taps); }};
-    const accessibility::Node node = screen.find("tappable");
+    const accessibility::SemanticNode node = screen.find("tappable");
 
     EXPECT_TRUE(node.isControl);
     EXPECT_EQ(node.traits, accessibility::Traits::none);

@@ -69,20 +69,20 @@ public:
     }
 
     // --- What is there to be seen
-    accessibility::Node tree() { return m_host->semanticTree(); }
+    accessibility::SemanticNode tree() { return m_host->semanticTree(); }
     // Fails the test and returns an empty node where there is none.
-    accessibility::Node find(std::string_view identifier) {
-        const accessibility::Node root = tree();
-        const accessibility::Node* found = accessibility::findByIdentifier(root, identifier);
+    accessibility::SemanticNode find(std::string_view identifier) {
+        const accessibility::SemanticNode root = tree();
+        const accessibility::SemanticNode* found = accessibility::findByIdentifier(root, identifier);
         if (!found) ADD_FAILURE() << "Nothing has the identifier " << identifier;
-        return found ? *found : accessibility::Node{};
+        return found ? *found : accessibility::SemanticNode{};
     }
     geometry::Rect frame(std::string_view identifier) { return find(identifier).frame; }
     bool isOnScreen(std::string_view identifier) { return find(identifier).isOnScreen; }
     // Of the first scroll view.
     geometry::Point offset() { return scrollInfo().contentOffset; }
     accessibility::ScrollInfo scrollInfo() {
-        const accessibility::Node root = tree();
+        const accessibility::SemanticNode root = tree();
         const auto found = accessibility::findAllByType(root, "ScrollView");
         if (found.empty() || !found.front()->scroll) {
             ADD_FAILURE() << "There is no scroll view";

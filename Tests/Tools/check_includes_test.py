@@ -48,6 +48,21 @@ class Rooms(unittest.TestCase):
         self.assertEqual(len(complaints({"ProUpsells/Plans.cpp": '#include "Backends/Qt/Window.hpp"\n'})), 1)
 
 
+class FloorsWithinALayer(unittest.TestCase):
+    def test_a_folder_includes_those_below_it(self):
+        self.assertEqual(complaints({"Platform/UIKit/Controls/Button.cpp": '#include "Platform/UIKit/Views/View.hpp"\n',
+                                     "Platform/UIKit/Kit.hpp": '#include "Platform/UIKit/Collection/Cell.hpp"\n'}), [])
+
+    def test_an_arrow_up_is_named(self):
+        self.assertEqual(complaints({"Platform/UIKit/Views/View.cpp": '#include "Platform/UIKit/Controllers/Window.hpp"\n'}),
+                         ["Platform/UIKit/Views/View.cpp:1: Platform/UIKit/Controllers/Window.hpp: Views stands below Controllers"])
+
+    def test_every_folder_has_a_floor(self):
+        self.assertEqual(complaints({"Platform/UIKit/Attic/View.cpp": '#include "Platform/UIKit/Views/View.hpp"\n'}),
+                         ["Platform/UIKit/Attic/View.cpp:1: Platform/UIKit/Views/View.hpp: "
+                          "Platform/UIKit/Attic has no floor in Platform/UIKit"])
+
+
 class Screens(unittest.TestCase):
     def test_the_entry_includes_the_screens_and_they_what_they_share(self):
         self.assertEqual(complaints({"ProUpsells/Door.cpp": '#include "ProUpsells/Plans.hpp"\n#include "ProUpsells/Table.hpp"\n',

@@ -23,7 +23,7 @@ protected:
         label->setTextColor(ink);
         root->view()->addSubview(label);
     }
-    accessibility::Node node() { return window->semanticTree().children.at(0); }
+    accessibility::SemanticNode node() { return window->semanticTree().children.at(0); }
 
     std::shared_ptr<RecordingController> root;
     std::shared_ptr<UILabel> label;
@@ -51,7 +51,7 @@ TEST_F(LabelTest, CutsWhatDoesNotFitWithAnEllipsis) {
     label->setText("one two three");
     label->setFrame({{0, 0}, {60, 20}});
 
-    const accessibility::Node described = node();
+    const accessibility::SemanticNode described = node();
 
     EXPECT_TRUE(described.text->isTruncated);
     EXPECT_EQ(described.text->text, "one two three");
@@ -130,7 +130,7 @@ TEST_F(LabelTest, AttributedTextBringsItsOwnFontsColoursKerningAndSpacing) {
     EXPECT_EQ(label->sizeThatFits({40, std::nullopt}).height, 20 + 9 + 40);
     EXPECT_EQ(label->textAlignment(), graphics::TextAlignment::center);
     label->setFrame({{0, 0}, {200, 40}});
-    const accessibility::Node described = node();
+    const accessibility::SemanticNode described = node();
     ASSERT_EQ(described.text->runs.size(), 2u);
     EXPECT_EQ(described.text->font, "body");
     EXPECT_EQ(described.text->weight, 1);
@@ -184,7 +184,7 @@ TEST_F(ScreenTest, AnImageViewNamesItsAsset) {
     view->setFrame({{0, 0}, {100, 50}});
     showRoot()->view()->addSubview(view);
 
-    const accessibility::Node node = window->semanticTree().children.at(0);
+    const accessibility::SemanticNode node = window->semanticTree().children.at(0);
 
     EXPECT_EQ(node.image, "tile");
     EXPECT_EQ(painted().commands.at(0).frame, (Rect{{0, 0}, {100, 50}}));

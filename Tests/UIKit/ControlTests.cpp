@@ -115,7 +115,7 @@ TEST_F(ControlTest, ADisabledControlTakesTheTouchAndDoesNothing) {
     tap({120, 120});
 
     EXPECT_THAT(calls, IsEmpty());
-    const accessibility::Node node = window->semanticTree().children.at(0);
+    const accessibility::SemanticNode node = window->semanticTree().children.at(0);
     EXPECT_TRUE(accessibility::contains(node.traits, accessibility::Traits::disabled));
     EXPECT_FALSE(node.activate);
 }
@@ -165,7 +165,7 @@ TEST_F(ControlTest, AButtonIsAsLargeAsItsImageAndShowsItInTheMiddle) {
 
     EXPECT_EQ(button->intrinsicContentSize(), (geometry::Size{30, 20}));
     EXPECT_EQ(painted().commands.at(0).frame, (Rect{{110, 115}, {30, 20}}));
-    const accessibility::Node node = window->semanticTree().children.at(0);
+    const accessibility::SemanticNode node = window->semanticTree().children.at(0);
     EXPECT_EQ(node.type, "UIButton");
     EXPECT_EQ(node.image, "close");
     EXPECT_TRUE(node.isControl);

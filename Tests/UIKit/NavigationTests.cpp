@@ -22,8 +22,8 @@ protected:
         item.action = [this] { calls.push_back("close"); };
         return item;
     }
-    const accessibility::Node& find(const accessibility::Node& tree, std::string_view identifier) {
-        const accessibility::Node* node = accessibility::findByIdentifier(tree, identifier);
+    const accessibility::SemanticNode& find(const accessibility::SemanticNode& tree, std::string_view identifier) {
+        const accessibility::SemanticNode* node = accessibility::findByIdentifier(tree, identifier);
         EXPECT_TRUE(node) << identifier;
         return node ? *node : tree;
     }
@@ -54,7 +54,7 @@ TEST_F(NavigationTest, TheBarReachesUnderTheUnsafeTopAndTheContentKeepsTheBottom
 
     root->present(UINavigationController::create(content), false);
 
-    const accessibility::Node tree = window->semanticTree();
+    const accessibility::SemanticNode tree = window->semanticTree();
     EXPECT_EQ(find(tree, "content").frame, (Rect{{0, 76}, {375, 724}}));
     EXPECT_EQ(find(tree, "close").frame, (Rect{{323, 26}, {44, 44}}));
     EXPECT_EQ(whileLoading, (geometry::PhysicalInsets{0, 0, 34, 0}));
@@ -100,7 +100,7 @@ TEST_F(NavigationTest, TheTitleStandsInTheMiddleAndIsAHeader) {
     content->setTitle("Plans");
     root->present(UINavigationController::create(content), false);
 
-    const accessibility::Node tree = window->semanticTree();
+    const accessibility::SemanticNode tree = window->semanticTree();
     const auto titles = accessibility::findAllByText(tree, "Plans");
 
     ASSERT_EQ(titles.size(), 1u);

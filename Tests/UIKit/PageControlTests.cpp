@@ -100,7 +100,7 @@ TEST_F(PageControlTest, TheCurrentDotIsOpaqueAndTheOthersAreFaint) {
 
 TEST_F(PageControlTest, AssistiveTechnologyReadsAndAdjustsThePage) {
     pages->setCurrentPage(1);
-    const accessibility::Node node = window->semanticTree().children.at(0);
+    const accessibility::SemanticNode node = window->semanticTree().children.at(0);
 
     EXPECT_EQ(node.type, "UIPageControl");
     EXPECT_EQ(node.value, "page 2 of 4");
@@ -114,7 +114,7 @@ TEST_F(PageControlTest, AssistiveTechnologyReadsAndAdjustsThePage) {
 }
 
 TEST_F(PageControlTest, AssistiveTechnologyChangesNothingOnceTheControlIsDisabledOrGone) {
-    const accessibility::Node node = window->semanticTree().children.at(0);
+    const accessibility::SemanticNode node = window->semanticTree().children.at(0);
 
     pages->setEnabled(false);
     node.adjust(1);

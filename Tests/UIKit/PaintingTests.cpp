@@ -115,15 +115,15 @@ TEST_F(ScreenTest, ViewsDescribeThemselvesInWindowCoordinates) {
     outer->addSubview(away);
     root->view()->addSubview(outer);
 
-    const accessibility::Node tree = window->semanticTree();
+    const accessibility::SemanticNode tree = window->semanticTree();
 
     EXPECT_EQ(tree.type, "UIView");
-    const accessibility::Node& node = tree.children.at(0);
+    const accessibility::SemanticNode& node = tree.children.at(0);
     EXPECT_EQ(node.frame, (Rect{{110, 10}, {50, 50}}));
     EXPECT_EQ(node.clip, node.frame);
     EXPECT_EQ(node.shape->fill, "red");
     EXPECT_TRUE(node.isOnScreen);
-    const accessibility::Node* found = accessibility::findByIdentifier(tree, "inner");
+    const accessibility::SemanticNode* found = accessibility::findByIdentifier(tree, "inner");
     ASSERT_TRUE(found);
     EXPECT_EQ(found->frame, (Rect{{115, 15}, {10, 10}}));
     EXPECT_EQ(found->label, "Inner");

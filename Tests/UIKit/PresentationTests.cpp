@@ -124,7 +124,7 @@ TEST_F(PresentationTest, FadesWhereMotionIsToBeReduced) {
     root->present(sheet, true);
     bed.runUntil(0.25);
 
-    const accessibility::Node tree = window->semanticTree();
+    const accessibility::SemanticNode tree = window->semanticTree();
 
     EXPECT_EQ(tree.frame.minY(), 0);
     EXPECT_NEAR(tree.opacity, 0.5, 1e-6);

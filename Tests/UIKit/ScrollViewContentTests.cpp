@@ -135,7 +135,7 @@ TEST_F(ScrollViewTest, SaysHowFarItIsScrolled) {
     list->setContentInset({.bottom = 102});
     list->setContentOffset({0, 40});
 
-    const accessibility::Node node = window->semanticTree().children.at(0);
+    const accessibility::SemanticNode node = window->semanticTree().children.at(0);
 
     EXPECT_EQ(node.type, "UIScrollView");
     EXPECT_EQ(node.scroll->contentOffset, (Point{0, 40}));

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Platform/Geometry/Geometry.hpp"
-#include "Platform/SwiftUI/Layout/Alignment.hpp"
+#include "Platform/SwiftUI/Tree/Alignment.hpp"
 
 namespace proupsells::swiftui {
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "Platform/SwiftUI/Layout/Alignment.hpp"
+#include "Platform/SwiftUI/Tree/Alignment.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
 
 namespace proupsells::swiftui {

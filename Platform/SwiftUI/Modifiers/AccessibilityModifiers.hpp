@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "Platform/Accessibility/Node.hpp"
+#include "Platform/Accessibility/SemanticNode.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
 namespace proupsells::swiftui {

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Platform/Graphics/Color.hpp"
+#include "Platform/SwiftUI/Shapes/Shapes.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
-#include "Platform/SwiftUI/Views/Shapes.hpp"
 
 namespace proupsells::swiftui {
 

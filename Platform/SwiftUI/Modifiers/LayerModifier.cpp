@@ -1,8 +1,8 @@
 // Backgrounds and overlays.
 #include "Platform/SwiftUI/Layout/SafeArea.hpp"
 #include "Platform/SwiftUI/Modifiers/LayoutModifiers.hpp"
+#include "Platform/SwiftUI/Shapes/Shapes.hpp"
 #include "Platform/SwiftUI/Tree/ModifierNode.hpp"
-#include "Platform/SwiftUI/Views/Shapes.hpp"
 
 namespace proupsells::swiftui {
 

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "Platform/Graphics/Color.hpp"
-#include "Platform/SwiftUI/Layout/Alignment.hpp"
+#include "Platform/SwiftUI/Tree/Alignment.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
 namespace proupsells::swiftui {

@@ -6,12 +6,12 @@
 #include <string_view>
 #include <vector>
 
-#include "Platform/Accessibility/Node.hpp"
+#include "Platform/Accessibility/SemanticNode.hpp"
 #include "Platform/Geometry/Geometry.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
 #include "Platform/Motion/TimingCurve.hpp"
 #include "Platform/SwiftUI/Animation/Animated.hpp"
-#include "Platform/SwiftUI/Layout/Alignment.hpp"
+#include "Platform/SwiftUI/Tree/Alignment.hpp"
 #include "Platform/SwiftUI/Tree/Key.hpp"
 #include "Platform/SwiftUI/Tree/UpdatePass.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
@@ -23,7 +23,7 @@ class Timer;
 namespace proupsells::swiftui {
 
 class GestureHandler;
-class TransitionNode;
+class TransitionHandler;
 class ViewHost;
 struct SemanticContext;
 
@@ -107,7 +107,7 @@ public:
 
     // --- Semantics
     virtual void appendSemantics(SemanticContext& context, const graphics::PaintState& parentState,
-                                 std::vector<accessibility::Node>& result);
+                                 std::vector<accessibility::SemanticNode>& result);
 
 protected:
     // --- For subclasses to say what they are
@@ -127,13 +127,13 @@ protected:
     virtual bool forwardsTouches() const { return false; }
     // The type's name in the semantic tree; empty: no node of its own.
     virtual std::string_view semanticType() const { return {}; }
-    virtual void describe(accessibility::Node& node, const graphics::PaintState& state, double now_s) const;
+    virtual void describe(accessibility::SemanticNode& node, const graphics::PaintState& state, double now_s) const;
     // Modifiers that say something about the view inside write it to context.pending.
     virtual void addAttributes(SemanticContext& context, const graphics::PaintState& state) const;
     // The slot of the child that pending attributes go to, where the others are only layers around it.
     virtual std::size_t primarySlot() const { return 0; }
-    // The node as a transition; null for others. And whether the transitions of the only child act for this node too.
-    virtual TransitionNode* asTransition() { return nullptr; }
+    // How the node comes and goes; null: at once. And whether the transitions of the only child act for this node too.
+    virtual TransitionHandler* transitionHandler() { return nullptr; }
     virtual bool passesTransitionsOn() const { return false; }
     // To be called by a node whose layout depends on safe areas or on the window's edges.
     void setDependsOnPosition();
@@ -141,7 +141,7 @@ protected:
     // --- For subclasses to work with
     // Adds the semantic nodes of what is inside. `state` is the node's own, with its effects.
     void appendChildSemantics(SemanticContext& context, const graphics::PaintState& state,
-                              std::vector<accessibility::Node>& result);
+                              std::vector<accessibility::SemanticNode>& result);
     void updateChildren(const ViewList& views, UpdatePass& pass);
     void updateChild(std::size_t slot, const View& view, UpdatePass& pass);
     // By key: moved children keep their nodes. Keys that occur twice are told apart by their order.
@@ -167,7 +167,6 @@ protected:
 private:
     friend class CompositeNode;
     friend class RootNode;
-    friend class TransitionNode;
     friend class ViewHost;
     template <class NodeType, class Value>
     friend class ValueElement;
@@ -195,7 +194,7 @@ private:
     void remove(std::unique_ptr<Node> node, std::size_t index, UpdatePass& pass);
     std::unique_ptr<Node> revive(const Element& element, std::size_t index, UpdatePass& pass);
     // The transitions of a subtree that is about to come or go.
-    void collectTransitions(std::vector<TransitionNode*>& result);
+    void collectTransitions(std::vector<TransitionHandler*>& result);
     void matchKeyedChildren(const ViewList& views, UpdatePass& pass);
     void animateFrameTo(const geometry::Rect& target);
     void updatePaintBounds();

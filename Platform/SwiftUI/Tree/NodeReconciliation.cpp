@@ -3,8 +3,8 @@
 #include <unordered_map>
 
 #include "Platform/RunLoop/MainRunLoop.hpp"
-#include "Platform/SwiftUI/Animation/TransitionNode.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
+#include "Platform/SwiftUI/Tree/TransitionHandler.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
 namespace proupsells::swiftui {
@@ -78,9 +78,9 @@ std::unique_ptr<Node> Node::insert(Element& element, UpdatePass& pass) {
     node->m_key = StoredKey(element.key);
     updateNode(*node, element, pass);
     if (m_isNew) return node; // a part of what is being inserted further out
-    std::vector<TransitionNode*> transitions;
+    std::vector<TransitionHandler*> transitions;
     node->collectTransitions(transitions);
-    for (TransitionNode* transition : transitions) transition->enter(pass);
+    for (TransitionHandler* transition : transitions) transition->enter(pass);
     return node;
 }
 
@@ -88,10 +88,10 @@ void Node::remove(std::unique_ptr<Node> node, std::size_t index, UpdatePass& pas
     node->m_isLeaving = true;
     m_host->m_touches.nodeGone(*node);
     m_host->setNeedsDisplay();
-    std::vector<TransitionNode*> transitions;
+    std::vector<TransitionHandler*> transitions;
     node->collectTransitions(transitions);
     double end_s = pass.now_s;
-    for (TransitionNode* transition : transitions) end_s = std::max(end_s, transition->leave(pass));
+    for (TransitionHandler* transition : transitions) end_s = std::max(end_s, transition->leave(pass));
     if (!(end_s > pass.now_s)) return m_host->departed(std::move(node));
 
     m_host->noteLeaving(*node);
@@ -119,14 +119,14 @@ std::unique_ptr<Node> Node::revive(const Element& element, std::size_t index, Up
     std::unique_ptr<Node> node = std::move(leaving->node);
     m_leaving->erase(leaving);
     node->m_isLeaving = false;
-    std::vector<TransitionNode*> transitions;
+    std::vector<TransitionHandler*> transitions;
     node->collectTransitions(transitions);
-    for (TransitionNode* transition : transitions) transition->comeBack(pass);
+    for (TransitionHandler* transition : transitions) transition->comeBack(pass);
     return node;
 }
 
-void Node::collectTransitions(std::vector<TransitionNode*>& result) {
-    if (auto* transition = asTransition()) result.push_back(transition);
+void Node::collectTransitions(std::vector<TransitionHandler*>& result) {
+    if (auto* transition = transitionHandler()) result.push_back(transition);
     if (passesTransitionsOn() && onlyChild()) onlyChild()->collectTransitions(result);
 }
 

@@ -11,26 +11,26 @@ using graphics::PaintState;
 namespace {
 
 // A view that is leaving can still be seen, but not used.
-void makeUnreachable(accessibility::Node& node) {
+void makeUnreachable(accessibility::SemanticNode& node) {
     node.identifier.clear();
     node.isControl = false;
     node.activate = nullptr;
     node.reveal = nullptr;
-    for (accessibility::Node& child : node.children) makeUnreachable(child);
+    for (accessibility::SemanticNode& child : node.children) makeUnreachable(child);
 }
 
-Rect unionOfFrames(const std::vector<accessibility::Node>& nodes) {
+Rect unionOfFrames(const std::vector<accessibility::SemanticNode>& nodes) {
     Rect result;
-    for (const accessibility::Node& node : nodes) result = result.united(node.frame);
+    for (const accessibility::SemanticNode& node : nodes) result = result.united(node.frame);
     return result;
 }
 
 } // namespace
 
-accessibility::Node SemanticContext::makeNode(std::string_view type, const PaintState& state, const Rect& frame) {
+accessibility::SemanticNode SemanticContext::makeNode(std::string_view type, const PaintState& state, const Rect& frame) {
     SemanticAttributes attributes = std::move(pending);
     pending = {};
-    accessibility::Node node;
+    accessibility::SemanticNode node;
     node.type = type;
     node.frame = attributes.frame.value_or(state.toWindow(frame));
     node.isOnScreen = state.opacity > 0 && node.frame.intersection(state.clip).intersects(window);
@@ -48,7 +48,8 @@ accessibility::Node SemanticContext::makeNode(std::string_view type, const Paint
     return node;
 }
 
-void Node::appendSemantics(SemanticContext& context, const PaintState& parentState, std::vector<accessibility::Node>& result) {
+void Node::appendSemantics(SemanticContext& context, const PaintState& parentState,
+                           std::vector<accessibility::SemanticNode>& result) {
     const double now_s = context.now_s;
     const Rect frame = presentationFrame(now_s);
     PaintState state = parentState.movedBy(frame.origin);
@@ -65,7 +66,7 @@ void Node::appendSemantics(SemanticContext& context, const PaintState& parentSta
         context.pending = {};
         return;
     }
-    accessibility::Node node = context.makeNode(type, state, {{}, frame.size});
+    accessibility::SemanticNode node = context.makeNode(type, state, {{}, frame.size});
     const bool takesFrameFromChildren = isTransparent();
     describe(node, state, now_s);
     appendChildSemantics(context, state, node.children);
@@ -74,7 +75,8 @@ void Node::appendSemantics(SemanticContext& context, const PaintState& parentSta
     result.push_back(std::move(node));
 }
 
-void Node::appendChildSemantics(SemanticContext& context, const PaintState& state, std::vector<accessibility::Node>& result) {
+void Node::appendChildSemantics(SemanticContext& context, const PaintState& state,
+                                std::vector<accessibility::SemanticNode>& result) {
     const PaintState inner = state.movedBy(contentTranslation(context.now_s));
     const Node* primary = primarySlot() < m_children.size() ? m_children[primarySlot()].get() : nullptr;
     SemanticAttributes own = std::move(context.pending);
@@ -89,7 +91,7 @@ void Node::appendChildSemantics(SemanticContext& context, const PaintState& stat
     });
 }
 
-void Node::describe(accessibility::Node&, const PaintState&, double) const {}
+void Node::describe(accessibility::SemanticNode&, const PaintState&, double) const {}
 void Node::addAttributes(SemanticContext&, const PaintState&) const {}
 
 } // namespace proupsells::swiftui

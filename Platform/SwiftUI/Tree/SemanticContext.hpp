@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "Platform/Accessibility/Node.hpp"
+#include "Platform/Accessibility/SemanticNode.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
 
 namespace proupsells::swiftui {
@@ -24,7 +24,7 @@ struct SemanticAttributes {
     std::optional<double> rotation_degrees;
     std::optional<geometry::Rect> clip;
     bool isControl = false;         // a tap on it does something
-    std::function<void()> activate; // see accessibility::Node
+    std::function<void()> activate; // see accessibility::SemanticNode
 };
 
 struct SemanticContext {
@@ -32,12 +32,12 @@ struct SemanticContext {
     double now_s = 0;
     // Goes to the next node that appears.
     SemanticAttributes pending;
-    // Scrolls the scroll views around until a rectangle can be reached; see accessibility::Node::reveal. Each scroll view puts
-    // its own in place for its content.
+    // Scrolls the scroll views around until a rectangle can be reached; see accessibility::SemanticNode::reveal. Each scroll view
+    // puts its own in place for its content.
     std::function<void(const geometry::Rect& inWindow)> reveal;
 
     // Makes a node of the type. The pending attributes go into it and are empty afterwards.
-    accessibility::Node makeNode(std::string_view type, const graphics::PaintState& state, const geometry::Rect& frame);
+    accessibility::SemanticNode makeNode(std::string_view type, const graphics::PaintState& state, const geometry::Rect& frame);
 };
 
 } // namespace proupsells::swiftui

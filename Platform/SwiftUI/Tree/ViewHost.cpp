@@ -150,20 +150,20 @@ const graphics::DisplayList& ViewHost::displayList() {
     return m_displayList;
 }
 
-std::vector<accessibility::Node> ViewHost::semanticNodes(const PaintState& state, const Rect& window,
-                                                         std::function<void(const Rect&)> reveal) {
+std::vector<accessibility::SemanticNode> ViewHost::semanticNodes(const PaintState& state, const Rect& window,
+                                                                 std::function<void(const Rect&)> reveal) {
     update();
     SemanticContext context{.window = window, .now_s = now_s(), .pending = {}, .reveal = std::move(reveal)};
-    std::vector<accessibility::Node> result;
+    std::vector<accessibility::SemanticNode> result;
     m_rootNode->appendSemantics(context, state, result);
     return result;
 }
 
-accessibility::Node ViewHost::semanticTree() {
+accessibility::SemanticNode ViewHost::semanticTree() {
     const Rect window{{}, m_size};
-    std::vector<accessibility::Node> nodes = semanticNodes(PaintState{}.clippedTo(window), window);
+    std::vector<accessibility::SemanticNode> nodes = semanticNodes(PaintState{}.clippedTo(window), window);
     if (nodes.size() == 1) return std::move(nodes.front());
-    accessibility::Node root;
+    accessibility::SemanticNode root;
     root.type = "ViewHost";
     root.frame = window;
     root.isOnScreen = !window.isEmpty();

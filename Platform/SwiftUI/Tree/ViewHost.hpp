@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "Platform/Accessibility/Node.hpp"
+#include "Platform/Accessibility/SemanticNode.hpp"
 #include "Platform/Combine/PassthroughSubject.hpp"
 #include "Platform/Graphics/DisplayList.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
@@ -74,10 +74,10 @@ public:
     // The picture with the corner at (0, 0). As long as nothing changes or moves, this is the list of the last call.
     const graphics::DisplayList& displayList();
     // One tree for each outermost view, in window points; `window` is what can be seen at all.
-    std::vector<accessibility::Node> semanticNodes(const graphics::PaintState& state, const geometry::Rect& window,
-                                                   std::function<void(const geometry::Rect&)> reveal = {});
+    std::vector<accessibility::SemanticNode> semanticNodes(const graphics::PaintState& state, const geometry::Rect& window,
+                                                           std::function<void(const geometry::Rect&)> reveal = {});
     // The semantic tree with the host's corner at (0, 0) and its rectangle as window.
-    accessibility::Node semanticTree();
+    accessibility::SemanticNode semanticTree();
     bool isAnimating() const;
     // Told when the picture has changed, once until the next painting.
     void setNeedsDisplayHandler(std::function<void()> handler) { m_needsDisplayHandler = std::move(handler); }

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "Platform/Commons/DefaultLogger.hpp"
-#include "Platform/SwiftUI/Layout/Alignment.hpp"
+#include "Platform/SwiftUI/Tree/Alignment.hpp"
 #include "Platform/SwiftUI/Tree/RootNode.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 

@@ -64,7 +64,7 @@ protected:
     }
     bool isHittable() const override { return true; }
     std::string_view semanticType() const override { return "Button"; }
-    void describe(accessibility::Node& node, const graphics::PaintState&, double) const override {
+    void describe(accessibility::SemanticNode& node, const graphics::PaintState&, double) const override {
         using accessibility::Traits;
         node.isControl = true;
         node.traits = node.traits | Traits::button | (environment().isEnabled ? Traits::none : Traits::disabled);

@@ -39,7 +39,7 @@ protected:
         const graphics::RGBA tint = isTinted ? m_tint.valueAt(now_s).resolved(environment().colorScheme) : graphics::RGBA{};
         context.image(state, {{}, presentationFrame(now_s).size}, m_image.image, tint);
     }
-    void describe(accessibility::Node& node, const graphics::PaintState&, double) const override {
+    void describe(accessibility::SemanticNode& node, const graphics::PaintState&, double) const override {
         if (m_image.image) node.image = m_image.image->name;
     }
 

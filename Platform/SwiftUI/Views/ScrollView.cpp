@@ -69,7 +69,7 @@ public:
     bool scrolled(geometry::Point delta) override;
 
     void appendSemantics(SemanticContext& context, const graphics::PaintState& parentState,
-                         std::vector<accessibility::Node>& result) override;
+                         std::vector<accessibility::SemanticNode>& result) override;
 
 protected:
     geometry::Size measure(const geometry::ProposedSize& proposal) override;
@@ -77,7 +77,7 @@ protected:
     void paintOverlay(graphics::PaintContext& context, const graphics::PaintState& state, double now_s) override;
     bool isHittable() const override { return true; }
     std::string_view semanticType() const override { return "ScrollView"; }
-    void describe(accessibility::Node& node, const graphics::PaintState& state, double now_s) const override;
+    void describe(accessibility::SemanticNode& node, const graphics::PaintState& state, double now_s) const override;
 
 private:
     // What a semantic tree showed of this view, for somebody who reveals something in it later.
@@ -262,7 +262,7 @@ void ScrollViewNode::paintOverlay(graphics::PaintContext& context, const graphic
 
 // --- Semantics
 
-void ScrollViewNode::describe(accessibility::Node& node, const graphics::PaintState&, double now_s) const {
+void ScrollViewNode::describe(accessibility::SemanticNode& node, const graphics::PaintState&, double now_s) const {
     const double offset = offsetFromLeftOrTop(now_s);
     node.scroll = accessibility::ScrollInfo{
         .contentOffset = m_axis == Axis::vertical ? geometry::Point{0, offset} : geometry::Point{offset, 0},
@@ -272,7 +272,7 @@ void ScrollViewNode::describe(accessibility::Node& node, const graphics::PaintSt
 }
 
 void ScrollViewNode::appendSemantics(SemanticContext& context, const graphics::PaintState& parentState,
-                                     std::vector<accessibility::Node>& result) {
+                                     std::vector<accessibility::SemanticNode>& result) {
     if (!m_self) m_self = std::make_shared<ScrollViewNode*>(this);
     const geometry::Rect place = parentState.toWindow(presentationFrame(context.now_s));
     const double shown = m_axis == Axis::vertical ? place.height() : place.width();

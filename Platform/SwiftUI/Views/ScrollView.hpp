@@ -1,7 +1,7 @@
 // A window onto content that is longer than it.
 #pragma once
 
-#include "Platform/SwiftUI/Layout/Alignment.hpp"
+#include "Platform/SwiftUI/Tree/Alignment.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
 namespace proupsells::swiftui {

@@ -2,9 +2,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Platform/SwiftUI/Shapes/Shapes.hpp"
 #include "Platform/SwiftUI/Tree/ValueElement.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
-#include "Platform/SwiftUI/Views/Shapes.hpp"
 
 namespace proupsells::swiftui {
 
@@ -60,7 +60,7 @@ protected:
             paintFill(context, state, rect, color, now_s);
     }
 
-    void describe(accessibility::Node& node, const PaintState&, double now_s) const override {
+    void describe(accessibility::SemanticNode& node, const PaintState&, double now_s) const override {
         accessibility::ShapeInfo info;
         const std::string name(m_color.target().name);
         if (m_shape.isStroked()) {
@@ -130,7 +130,7 @@ protected:
         color.alpha = std::uint8_t(std::lround(color.alpha * std::clamp(m_view.opacity, 0.0, 1.0)));
         context.fillRectangle(state, {{}, presentationFrame(now_s).size}, color);
     }
-    void describe(accessibility::Node& node, const PaintState&, double) const override {
+    void describe(accessibility::SemanticNode& node, const PaintState&, double) const override {
         accessibility::ShapeInfo info;
         info.fill = std::string(m_view.color.name);
         node.shape = std::move(info);

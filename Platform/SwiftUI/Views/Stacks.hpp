@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "Platform/SwiftUI/Layout/Alignment.hpp"
+#include "Platform/SwiftUI/Tree/Alignment.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
 namespace proupsells::swiftui {

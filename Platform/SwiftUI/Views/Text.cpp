@@ -72,7 +72,7 @@ protected:
         m_fitted.paint(context, state, {{}, presentationFrame(now_s).size}, m_style.alignment, m_text.attributed(),
                        m_color.valueAt(now_s));
     }
-    void describe(accessibility::Node& node, const graphics::PaintState&, double) const override {
+    void describe(accessibility::SemanticNode& node, const graphics::PaintState&, double) const override {
         node.text = m_fitted.described(m_text.attributed(), m_color.target());
         if (!m_text.isAttributed()) node.text->text = m_text.plain();
     }

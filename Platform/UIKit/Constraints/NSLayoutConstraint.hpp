@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "Platform/UIKit/Constraints/NSLayoutAnchor.hpp"
+#include "Platform/UIKit/Views/NSLayoutAnchor.hpp"
 #include "Platform/UIKit/Views/UIKitTypes.hpp"
 
 namespace proupsells::uikit {

@@ -106,8 +106,8 @@ void UIPresentationView::draw(graphics::PaintContext& context, const graphics::P
     context.fillRectangle(state.fadedBy(dimming * progress()), bounds(), UIColor::black.resolved(state.scheme));
 }
 
-accessibility::Node UIPresentationView::contentNode(const graphics::PaintState& state) const {
-    accessibility::Node card = std::move(semanticNode(state).children.front());
+accessibility::SemanticNode UIPresentationView::contentNode(const graphics::PaintState& state) const {
+    accessibility::SemanticNode card = std::move(semanticNode(state).children.front());
     return std::move(card.children.front());
 }
 

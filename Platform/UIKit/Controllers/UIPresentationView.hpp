@@ -32,7 +32,7 @@ public:
     bool covers(const geometry::Rect& rect) const override;
     bool isAnimating() const override { return m_phase != Phase::resting || UIView::isAnimating(); }
     // The controller's view alone.
-    accessibility::Node contentNode(const graphics::PaintState& state) const;
+    accessibility::SemanticNode contentNode(const graphics::PaintState& state) const;
 
 protected:
     void draw(graphics::PaintContext& context, const graphics::PaintState& state) const override;

@@ -156,7 +156,7 @@ bool UIWindow::isAnimating() const {
     return false;
 }
 
-accessibility::Node UIWindow::semanticTree() {
+accessibility::SemanticNode UIWindow::semanticTree() {
     UIScrollView::followTime();
     layOutInCurrentLanguage();
     if (const UIPresentationView* front = m_presentations->frontMostView()) return front->contentNode(windowState());

@@ -51,7 +51,7 @@ public:
     std::uint64_t paintCount() const { return m_paintCount; }
     void setNeedsDisplayHandler(std::function<void()> handler) override;
     // Of the front-most presentation, from its controller's view on.
-    accessibility::Node semanticTree() override;
+    accessibility::SemanticNode semanticTree() override;
 
     void update() override;
     UIWindow* window() const override { return const_cast<UIWindow*>(this); }
@@ -75,7 +75,7 @@ private:
     void requestUpdate();
     graphics::PaintState windowState() const;
     std::size_t firstVisibleLayer() const;
-    std::vector<accessibility::Node> focusableControls();
+    std::vector<accessibility::SemanticNode> focusableControls();
     bool moveFocus(int step);
     bool useFocused(host::Key key);
     void paintFocusRing(graphics::PaintContext& context);

@@ -5,19 +5,19 @@ namespace proupsells::uikit {
 
 namespace {
 
-void collectControls(const accessibility::Node& node, std::vector<accessibility::Node>& controls) {
+void collectControls(const accessibility::SemanticNode& node, std::vector<accessibility::SemanticNode>& controls) {
     if (node.isControl && (node.activate || node.adjust)) {
-        accessibility::Node control = node;
+        accessibility::SemanticNode control = node;
         control.children.clear();
         controls.push_back(std::move(control));
     }
-    for (const accessibility::Node& child : node.children) collectControls(child, controls);
+    for (const accessibility::SemanticNode& child : node.children) collectControls(child, controls);
 }
 
 } // namespace
 
-std::vector<accessibility::Node> UIWindow::focusableControls() {
-    std::vector<accessibility::Node> controls;
+std::vector<accessibility::SemanticNode> UIWindow::focusableControls() {
+    std::vector<accessibility::SemanticNode> controls;
     collectControls(semanticTree(), controls);
     return controls;
 }
@@ -53,7 +53,7 @@ bool UIWindow::useFocused(host::Key key) {
     if (!m_focus) return false;
     const auto controls = focusableControls();
     if (*m_focus >= controls.size()) return false;
-    const accessibility::Node& control = controls[*m_focus];
+    const accessibility::SemanticNode& control = controls[*m_focus];
     if (key == host::Key::activate) {
         if (control.activate) control.activate();
         return control.activate != nullptr;

@@ -26,7 +26,7 @@ void UIButton::draw(graphics::PaintContext& context, const graphics::PaintState&
                   tintColor().value_or(UIColor::black).resolved(state.scheme));
 }
 
-void UIButton::describe(accessibility::Node& node, const graphics::PaintState& state) const {
+void UIButton::describe(accessibility::SemanticNode& node, const graphics::PaintState& state) const {
     UIControl::describe(node, state);
     node.traits = node.traits | accessibility::Traits::button;
     if (m_image) node.image = m_image->name;

@@ -74,7 +74,7 @@ void UIControl::touchesCancelled(const UITouch&) {
     sendActions(Event::touchCancel);
 }
 
-void UIControl::describe(accessibility::Node& node, const graphics::PaintState&) const {
+void UIControl::describe(accessibility::SemanticNode& node, const graphics::PaintState&) const {
     node.isControl = isUserInteractionEnabled();
     if (!m_isEnabled) {
         node.traits = node.traits | accessibility::Traits::disabled;

@@ -63,7 +63,7 @@ protected:
     bool isInside(const UITouch& touch) const;
     // Whether those who look at the screen could operate it now: enabled, in a window, and neither hidden nor closed to touches.
     bool canBeOperated() const;
-    void describe(accessibility::Node& node, const graphics::PaintState& state) const override;
+    void describe(accessibility::SemanticNode& node, const graphics::PaintState& state) const override;
 
 private:
     struct Entry {

@@ -70,7 +70,7 @@ void UIPageControl::draw(graphics::PaintContext& context, const graphics::PaintS
     }
 }
 
-void UIPageControl::describe(accessibility::Node& node, const graphics::PaintState& state) const {
+void UIPageControl::describe(accessibility::SemanticNode& node, const graphics::PaintState& state) const {
     UIControl::describe(node, state);
     node.traits = node.traits | accessibility::Traits::adjustable;
     if (!isEnabled()) return;

@@ -42,7 +42,7 @@ void UIImageView::draw(graphics::PaintContext& context, const graphics::PaintSta
     if (m_image) context.image(state, imageFrame(), m_image, tintColor().value_or(UIColor::black).resolved(state.scheme));
 }
 
-void UIImageView::describe(accessibility::Node& node, const graphics::PaintState&) const {
+void UIImageView::describe(accessibility::SemanticNode& node, const graphics::PaintState&) const {
     node.traits = node.traits | accessibility::Traits::image;
     if (m_image) node.image = m_image->name;
 }

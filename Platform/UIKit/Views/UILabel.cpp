@@ -122,7 +122,7 @@ void UILabel::draw(graphics::PaintContext& context, const graphics::PaintState& 
     m_fitted.paint(context, state, box, m_alignment, m_content, m_attributes.color);
 }
 
-void UILabel::describe(accessibility::Node& node, const graphics::PaintState&) const {
+void UILabel::describe(accessibility::SemanticNode& node, const graphics::PaintState&) const {
     node.traits = node.traits | accessibility::Traits::staticText;
     fitted().showIn(bounds().size);
     node.text = m_fitted.described(m_content, m_attributes.color);

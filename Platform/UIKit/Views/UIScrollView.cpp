@@ -254,7 +254,7 @@ void UIScrollView::paintIndicator(Axis axis, graphics::PaintContext& context, co
                       now_s());
 }
 
-void UIScrollView::describe(accessibility::Node& node, const graphics::PaintState&) const {
+void UIScrollView::describe(accessibility::SemanticNode& node, const graphics::PaintState&) const {
     node.scroll = accessibility::ScrollInfo{contentOffset(), m_contentSize, adjustedContentInset()};
 }
 

@@ -89,7 +89,7 @@ protected:
 
     void frameDidChange(const geometry::Rect& previous) override;
     void paintSubviews(graphics::PaintContext& context, const graphics::PaintState& state) const override;
-    void describe(accessibility::Node& node, const graphics::PaintState& state) const override;
+    void describe(accessibility::SemanticNode& node, const graphics::PaintState& state) const override;
 
 private:
     friend class LayoutSystem;

@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "Platform/Accessibility/Node.hpp"
+#include "Platform/Accessibility/SemanticNode.hpp"
 #include "Platform/Foundation/LanguageChanges.hpp"
 #include "Platform/Geometry/Transform.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
-#include "Platform/UIKit/Constraints/NSLayoutAnchor.hpp"
+#include "Platform/UIKit/Views/NSLayoutAnchor.hpp"
 #include "Platform/UIKit/Views/UIKitTypes.hpp"
 #include "Platform/UIKit/Views/UIResponder.hpp"
 #include "Platform/UIKit/Views/UITraitCollection.hpp"
@@ -210,15 +210,15 @@ public:
     void setAccessibilityValue(std::string value) { m_accessibilityValue = std::move(value); }
 
     // The view and what is inside it, as it stands now. `state` is the superview's.
-    accessibility::Node semanticNode(const graphics::PaintState& state) const;
+    accessibility::SemanticNode semanticNode(const graphics::PaintState& state) const;
 
 protected:
     // Paints what is above the background and below the subviews, in the view's coordinates.
     virtual void draw(graphics::PaintContext&, const graphics::PaintState&) const {}
     virtual void paintSubviews(graphics::PaintContext& context, const graphics::PaintState& state) const;
     // Adds what is particular to the class.
-    virtual void describe(accessibility::Node&, const graphics::PaintState&) const {}
-    virtual void appendSubviewNodes(std::vector<accessibility::Node>& nodes, const graphics::PaintState& state) const;
+    virtual void describe(accessibility::SemanticNode&, const graphics::PaintState&) const {}
+    virtual void appendSubviewNodes(std::vector<accessibility::SemanticNode>& nodes, const graphics::PaintState& state) const;
     // A change of the coordinates that is seen only: painted and described, but neither laid out nor touched.
     virtual geometry::Transform presentationTransform() const { return m_transform; }
     // Likewise of the opacity.
@@ -253,6 +253,7 @@ private:
     void layOutPinnedSubviews();
     void layOutConstrainedSubviews();
     void layOutTree();
+    void tellControllerOfLayout();
     // --- Of constraints ---
     const std::shared_ptr<LayoutItem>& layoutItem() { return m_layoutItem.itemOf(*this); }
     LayoutAnchors anchors() { return {layoutItem(), false}; }
@@ -269,8 +270,8 @@ private:
     geometry::Transform toSuperview() const;
     geometry::Transform toOutermost() const;
     graphics::PaintState contentState(const graphics::PaintState& state) const;
-    void describeTransform(accessibility::Node& node) const;
-    void describeReveal(accessibility::Node& node) const;
+    void describeTransform(accessibility::SemanticNode& node) const;
+    void describeReveal(accessibility::SemanticNode& node) const;
 
     UIView* m_superview = nullptr;
     std::vector<std::shared_ptr<UIView>> m_subviews;

@@ -1,5 +1,4 @@
 // Where views stand, and which of them is at a point.
-#include "Platform/UIKit/Controllers/UIViewController.hpp"
 #include "Platform/UIKit/Views/UIView.hpp"
 
 namespace proupsells::uikit {

@@ -1,5 +1,5 @@
 // The layout pass: from the outside in, only where it is due.
-#include "Platform/UIKit/Controllers/UIWindow.hpp"
+#include "Platform/UIKit/Views/UIView.hpp"
 
 namespace proupsells::uikit {
 
@@ -31,10 +31,7 @@ void UIView::layOutTree() {
         layOutPinnedSubviews();
         layOutConstrainedSubviews();
         layoutSubviews();
-        if (m_viewController) {
-            const auto controller = strongReference(*m_viewController);
-            m_viewController->viewDidLayoutSubviews();
-        }
+        tellControllerOfLayout();
         setNeedsDisplay();
     }
     if (!m_subtreeNeedsLayout) return;

@@ -2,7 +2,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "Platform/UIKit/Controllers/UIWindow.hpp"
+#include "Platform/UIKit/Views/UIView.hpp"
 
 namespace proupsells::uikit {
 
@@ -61,9 +61,9 @@ bool UIView::isAnimating() const {
     return false;
 }
 
-accessibility::Node UIView::semanticNode(const graphics::PaintState& state) const {
+accessibility::SemanticNode UIView::semanticNode(const graphics::PaintState& state) const {
     const graphics::PaintState inside = contentState(state);
-    accessibility::Node node;
+    accessibility::SemanticNode node;
     node.type = typeName();
     node.frame = inside.toWindow(bounds());
     node.isOnScreen = inside.opacity > 0 && !inside.hides(bounds());
@@ -84,14 +84,14 @@ accessibility::Node UIView::semanticNode(const graphics::PaintState& state) cons
     return node;
 }
 
-void UIView::describeTransform(accessibility::Node& node) const {
+void UIView::describeTransform(accessibility::SemanticNode& node) const {
     const geometry::Transform transform = presentationTransform();
     if (transform.isTranslation()) return;
     node.scale = std::hypot(transform.a, transform.b);
     node.rotation_degrees = std::atan2(transform.b, transform.a) * 180 / std::numbers::pi;
 }
 
-void UIView::describeReveal(accessibility::Node& node) const {
+void UIView::describeReveal(accessibility::SemanticNode& node) const {
     for (const UIView* ancestor = m_superview; ancestor; ancestor = ancestor->m_superview) {
         if (!ancestor->scrollsItsContent()) continue;
         node.reveal = [view = std::weak_ptr<const UIResponder>(weak_from_this())] {
@@ -104,7 +104,7 @@ void UIView::describeReveal(accessibility::Node& node) const {
     }
 }
 
-void UIView::appendSubviewNodes(std::vector<accessibility::Node>& nodes, const graphics::PaintState& state) const {
+void UIView::appendSubviewNodes(std::vector<accessibility::SemanticNode>& nodes, const graphics::PaintState& state) const {
     nodes.reserve(nodes.size() + m_subviews.size());
     for (const auto& subview : m_subviews) nodes.push_back(subview->semanticNode(state));
 }

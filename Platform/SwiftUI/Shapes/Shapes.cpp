@@ -1,4 +1,4 @@
-#include "Platform/SwiftUI/Views/Shapes.hpp"
+#include "Platform/SwiftUI/Shapes/Shapes.hpp"
 
 #include <algorithm>
 #include <cmath>

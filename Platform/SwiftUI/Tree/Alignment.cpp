@@ -1,4 +1,4 @@
-#include "Platform/SwiftUI/Layout/Alignment.hpp"
+#include "Platform/SwiftUI/Tree/Alignment.hpp"
 
 namespace proupsells::swiftui {
 

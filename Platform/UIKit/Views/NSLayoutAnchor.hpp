@@ -5,7 +5,7 @@
 #include <memory>
 #include <type_traits>
 
-#include "Platform/UIKit/Constraints/LayoutItem.hpp"
+#include "Platform/UIKit/Views/LayoutItem.hpp"
 
 namespace proupsells::uikit {
 

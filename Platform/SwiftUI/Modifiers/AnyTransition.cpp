@@ -1,4 +1,4 @@
-#include "Platform/SwiftUI/Animation/AnyTransition.hpp"
+#include "Platform/SwiftUI/Modifiers/AnyTransition.hpp"
 
 #include <algorithm>
 

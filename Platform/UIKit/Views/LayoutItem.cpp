@@ -1,4 +1,4 @@
-#include "Platform/UIKit/Constraints/LayoutItem.hpp"
+#include "Platform/UIKit/Views/LayoutItem.hpp"
 
 namespace proupsells::uikit {
 

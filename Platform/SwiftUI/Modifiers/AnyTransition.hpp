@@ -7,9 +7,9 @@
 
 #include "Platform/Geometry/Geometry.hpp"
 #include "Platform/Motion/TimingCurve.hpp"
-#include "Platform/SwiftUI/Layout/Alignment.hpp"
+#include "Platform/SwiftUI/Shapes/Shapes.hpp"
+#include "Platform/SwiftUI/Tree/Alignment.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
-#include "Platform/SwiftUI/Views/Shapes.hpp"
 
 namespace proupsells::swiftui {
 

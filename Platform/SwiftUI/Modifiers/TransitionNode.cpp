@@ -1,4 +1,4 @@
-#include "Platform/SwiftUI/Animation/TransitionNode.hpp"
+#include "Platform/SwiftUI/Modifiers/TransitionNode.hpp"
 
 #include "Platform/SwiftUI/Tree/SemanticContext.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"

@@ -1,28 +1,26 @@
 // The node that makes what is inside it come and go.
 #pragma once
 
-#include "Platform/SwiftUI/Animation/AnyTransition.hpp"
+#include "Platform/SwiftUI/Modifiers/AnyTransition.hpp"
 #include "Platform/SwiftUI/Tree/ModifierNode.hpp"
+#include "Platform/SwiftUI/Tree/TransitionHandler.hpp"
 
 namespace proupsells::swiftui {
 
-class TransitionNode final : public ModifierNode {
+class TransitionNode final : public ModifierNode, private TransitionHandler {
 public:
     void adopt(TransitionModifier&& modifier, UpdatePass& pass);
-
-    // Told by the parent that inserts, removes or takes back the subtree.
-    void enter(const UpdatePass& pass);
-    // Begins to leave. Returns when it will be gone; that is now or earlier if it goes at once.
-    double leave(const UpdatePass& pass);
-    void comeBack(const UpdatePass& pass);
 
     void applyEffects(graphics::PaintState& state, double now_s) const override;
 
 protected:
     void addAttributes(SemanticContext& context, const graphics::PaintState& state) const override;
-    TransitionNode* asTransition() override { return this; }
+    TransitionHandler* transitionHandler() override { return this; }
 
 private:
+    void enter(const UpdatePass& pass) override;
+    double leave(const UpdatePass& pass) override;
+    void comeBack(const UpdatePass& pass) override;
     const motion::Animation* animationOf(const AnyTransition::Way& way, const UpdatePass& pass) const;
     TransitionEffect effectAt(double now_s) const;
 

@@ -66,7 +66,7 @@ struct ClipInfo {
 };
 
 // A view and what is inside it, front-most last. Frames are in window points, after every transform.
-struct Node {
+struct SemanticNode {
     std::string type; // as in the code
     geometry::Rect frame;
     bool isOnScreen = false;
@@ -92,7 +92,7 @@ struct Node {
     // Scrolls whatever scroll views are around the node by as little as makes its centre reachable, at once. Empty outside scroll
     // views.
     std::function<void()> reveal;
-    std::vector<Node> children;
+    std::vector<SemanticNode> children;
 };
 
 } // namespace proupsells::accessibility

@@ -1,4 +1,4 @@
-#include "Platform/VelaUIKit/Colors.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 
 #include <string>
 
