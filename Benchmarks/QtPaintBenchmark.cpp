@@ -35,7 +35,7 @@ std::unique_ptr<Screen> screen;
 void wholeFrame(benchmark::State& state) {
     qtbackend::RasterPainter& painter = *qtbackend::RasterPainter::shared();
     QImage image(750, 1600, QImage::Format_RGB32);
-    const qtbackend::PixelRect whole{0, 0, 750, 1600};
+    const rasterbackend::PixelRect whole{0, 0, 750, 1600};
     for (auto _ : state) painter.paint(image, screen->lists[0], scale, {&whole, 1});
     state.counters["commands"] = double(screen->lists[0].commands.size());
 }

@@ -4,8 +4,8 @@
 #include <functional>
 #include <string_view>
 
-#include "Backends/Qt/Blending.hpp"
 #include "Backends/Qt/ImageFile.hpp"
+#include "Backends/Raster/Blending.hpp"
 #include "Platform/Commons/DefaultLogger.hpp"
 
 namespace proupsells::qtbackend {

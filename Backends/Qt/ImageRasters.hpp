@@ -6,13 +6,15 @@
 #include <memory>
 #include <unordered_set>
 
-#include "Backends/Qt/CoverageMask.hpp"
-#include "Backends/Qt/LruCache.hpp"
-#include "Backends/Qt/PixelRect.hpp"
+#include "Backends/Raster/CoverageMask.hpp"
+#include "Backends/Raster/LruCache.hpp"
+#include "Backends/Raster/PixelRect.hpp"
 #include "Platform/Geometry/Transform.hpp"
 #include "Platform/Graphics/DisplayList.hpp"
 
 namespace proupsells::qtbackend {
+
+using namespace rasterbackend;
 
 struct ImageRaster {
     QImage pixels; // premultiplied; null when the picture cannot be read

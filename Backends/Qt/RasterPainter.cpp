@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "Backends/Qt/Blending.hpp"
+#include "Backends/Raster/Blending.hpp"
 
 namespace proupsells::qtbackend {
 

@@ -7,12 +7,14 @@
 #include <vector>
 
 #include "Backends/Qt/ImageRasters.hpp"
-#include "Backends/Qt/PixelRect.hpp"
 #include "Backends/Qt/ShapeMasks.hpp"
 #include "Backends/Qt/TextRasters.hpp"
+#include "Backends/Raster/PixelRect.hpp"
 #include "Platform/Graphics/DisplayList.hpp"
 
 namespace proupsells::qtbackend {
+
+using namespace rasterbackend;
 
 // Every command becomes a colour under a mask or a picture, made for whole pixels and kept for the next time; so a part of a list
 // comes out the same whether it is painted alone or with the rest. Main thread only.

@@ -10,6 +10,8 @@
 
 namespace proupsells::qtbackend {
 
+using namespace rasterbackend;
+
 // Needs a QGuiApplication. A size that is no whole number of pixels is rounded up.
 class RasterSurface final : public host::Surface {
 public:

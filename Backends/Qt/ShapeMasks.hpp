@@ -4,11 +4,13 @@
 #include <array>
 #include <cstddef>
 
-#include "Backends/Qt/CoverageRasterizer.hpp"
-#include "Backends/Qt/LruCache.hpp"
-#include "Backends/Qt/PlacedMask.hpp"
+#include "Backends/Raster/CoverageRasterizer.hpp"
+#include "Backends/Raster/LruCache.hpp"
+#include "Backends/Raster/PlacedMask.hpp"
 
 namespace proupsells::qtbackend {
+
+using namespace rasterbackend;
 
 enum class LineJoin { mitred, round };
 

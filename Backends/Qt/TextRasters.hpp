@@ -6,14 +6,16 @@
 #include <memory>
 #include <unordered_map>
 
-#include "Backends/Qt/Blending.hpp"
-#include "Backends/Qt/CoverageRasterizer.hpp"
-#include "Backends/Qt/LruCache.hpp"
-#include "Backends/Qt/PlacedMask.hpp"
 #include "Backends/Qt/QtShapedText.hpp"
 #include "Backends/Qt/QtTextShaper.hpp"
+#include "Backends/Raster/Blending.hpp"
+#include "Backends/Raster/CoverageRasterizer.hpp"
+#include "Backends/Raster/LruCache.hpp"
+#include "Backends/Raster/PlacedMask.hpp"
 
 namespace proupsells::qtbackend {
+
+using namespace rasterbackend;
 
 // A mask to be painted in the text's colour; or, where there is emoji, the finished picture.
 struct TextRaster {

@@ -14,7 +14,7 @@ using namespace proupsells;
 using geometry::Rect;
 using graphics::DisplayList;
 using graphics::PaintState;
-using qtbackend::PixelRect;
+using rasterbackend::PixelRect;
 using qtbackend::RasterSurface;
 using namespace tests;
 using testing::ElementsAre;

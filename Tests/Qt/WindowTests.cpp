@@ -17,7 +17,7 @@ using namespace proupsells;
 using geometry::Point;
 using host::Key;
 using host::TouchPhase;
-using qtbackend::PixelRect;
+using rasterbackend::PixelRect;
 using testing::ElementsAre;
 using testing::Field;
 using testing::IsEmpty;

@@ -47,6 +47,10 @@ class Rooms(unittest.TestCase):
     def test_the_module_does_not_know_a_backend(self):
         self.assertEqual(len(complaints({"ProUpsells/Plans.cpp": '#include "Backends/Qt/Window.hpp"\n'})), 1)
 
+    def test_windows_stand_on_the_pixel_engine_and_no_other_backend_on_another(self):
+        self.assertEqual(complaints({"Backends/Qt/Window.cpp": '#include "Backends/Raster/Painter.hpp"\n'}), [])
+        self.assertEqual(len(complaints({"Backends/Raster/Painter.cpp": '#include "Backends/Qt/Window.hpp"\n'})), 1)
+
 
 class FloorsWithinALayer(unittest.TestCase):
     def test_a_folder_includes_those_below_it(self):

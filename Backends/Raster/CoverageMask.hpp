@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-namespace proupsells::qtbackend {
+namespace proupsells::rasterbackend {
 
 class CoverageMask {
 public:
@@ -38,4 +38,4 @@ private:
     std::vector<std::uint8_t> m_coverages;
 };
 
-} // namespace proupsells::qtbackend
+} // namespace proupsells::rasterbackend

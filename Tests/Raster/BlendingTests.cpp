@@ -1,5 +1,5 @@
 // Rows of pixels against the same, worked out channel by channel.
-#include "Backends/Qt/Blending.hpp"
+#include "Backends/Raster/Blending.hpp"
 
 #include <gmock/gmock.h>
 #include <rapidcheck/gtest.h>
@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace proupsells::qtbackend {
+namespace proupsells::rasterbackend {
 namespace {
 
 constexpr int channel(Pixel pixel, int index) { return int(pixel >> (8 * index)) & 0xFF; }
@@ -93,4 +93,4 @@ RC_GTEST_PROP(Blending, PaintsAColourWithACoverageForEveryPixel, ()) {
 }
 
 } // namespace
-} // namespace proupsells::qtbackend
+} // namespace proupsells::rasterbackend

@@ -6,7 +6,7 @@
 
 #include "Platform/Geometry/Geometry.hpp"
 
-namespace proupsells::qtbackend {
+namespace proupsells::rasterbackend {
 
 struct PixelRect {
     int left = 0, top = 0, right = 0, bottom = 0; // right and bottom are outside
@@ -56,4 +56,4 @@ inline geometry::Rect scaledBy(const geometry::Rect& rect, double scale) {
     return {{rect.origin.x * scale, rect.origin.y * scale}, {rect.size.width * scale, rect.size.height * scale}};
 }
 
-} // namespace proupsells::qtbackend
+} // namespace proupsells::rasterbackend

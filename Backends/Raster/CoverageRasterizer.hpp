@@ -3,10 +3,10 @@
 
 #include <vector>
 
-#include "Backends/Qt/CoverageMask.hpp"
+#include "Backends/Raster/CoverageMask.hpp"
 #include "Platform/Geometry/Path.hpp"
 
-namespace proupsells::qtbackend {
+namespace proupsells::rasterbackend {
 
 // Exact area coverage of outlines, filled by the non-zero rule, in a rectangle of pixels. The same outlines give the same
 // mask on every machine. May be used again and again; keeps its memory.
@@ -36,4 +36,4 @@ private:
     std::vector<std::uint8_t> m_row;
 };
 
-} // namespace proupsells::qtbackend
+} // namespace proupsells::rasterbackend

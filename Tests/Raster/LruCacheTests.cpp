@@ -3,13 +3,13 @@
 #include <functional>
 #include <string>
 
-#include "Backends/Qt/LruCache.hpp"
+#include "Backends/Raster/LruCache.hpp"
 
 using namespace proupsells;
 
 namespace {
 
-using Cache = qtbackend::LruCache<int, std::string, std::hash<int>>;
+using Cache = rasterbackend::LruCache<int, std::string, std::hash<int>>;
 
 } // namespace
 

@@ -1,6 +1,6 @@
-#include "Backends/Qt/CoverageMask.hpp"
+#include "Backends/Raster/CoverageMask.hpp"
 
-namespace proupsells::qtbackend {
+namespace proupsells::rasterbackend {
 
 namespace {
 
@@ -42,4 +42,4 @@ std::size_t CoverageMask::byteCount() const {
            sizeof(*this);
 }
 
-} // namespace proupsells::qtbackend
+} // namespace proupsells::rasterbackend

@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <utility>
 
-namespace proupsells::qtbackend {
+namespace proupsells::rasterbackend {
 
 // Asking for what is there allocates nothing.
 template <class Key, class Value, class Hash = typename Key::Hash>
@@ -51,4 +51,4 @@ private:
     std::unordered_map<Key, typename std::list<Entry>::iterator, Hash> m_index;
 };
 
-} // namespace proupsells::qtbackend
+} // namespace proupsells::rasterbackend

@@ -6,7 +6,7 @@
 
 #include "Platform/Graphics/Color.hpp"
 
-namespace proupsells::qtbackend {
+namespace proupsells::rasterbackend {
 
 using Pixel = std::uint32_t;
 
@@ -37,4 +37,4 @@ void blendColor(Pixel* to, std::size_t count, Pixel color, std::uint8_t coverage
 void blendColor(Pixel* to, std::size_t count, Pixel color, const std::uint8_t* coverages);
 void blendPixels(Pixel* to, std::size_t count, const Pixel* from, std::uint8_t opacity);
 
-} // namespace proupsells::qtbackend
+} // namespace proupsells::rasterbackend

@@ -1,4 +1,4 @@
-#include "Backends/Qt/Blending.hpp"
+#include "Backends/Raster/Blending.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -12,7 +12,7 @@
 #define PROUPSELLS_VECTORIZED
 #endif
 
-namespace proupsells::qtbackend {
+namespace proupsells::rasterbackend {
 
 namespace {
 
@@ -85,4 +85,4 @@ PROUPSELLS_VECTORIZED void blendPixels(Pixel* to, std::size_t count, const Pixel
     }
 }
 
-} // namespace proupsells::qtbackend
+} // namespace proupsells::rasterbackend

@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <memory>
 
-#include "Backends/Qt/CoverageMask.hpp"
-#include "Backends/Qt/PixelRect.hpp"
+#include "Backends/Raster/CoverageMask.hpp"
+#include "Backends/Raster/PixelRect.hpp"
 
-namespace proupsells::qtbackend {
+namespace proupsells::rasterbackend {
 
 // One column and one row of the mask may be repeated: so all rounded rectangles of a radius share a small mask. Every span
 // that holds the repeated column must share one coverage.
@@ -41,4 +41,4 @@ struct PlacedMask {
     }
 };
 
-} // namespace proupsells::qtbackend
+} // namespace proupsells::rasterbackend

@@ -1,9 +1,9 @@
-#include "Backends/Qt/CoverageRasterizer.hpp"
+#include "Backends/Raster/CoverageRasterizer.hpp"
 
 #include <algorithm>
 #include <cmath>
 
-namespace proupsells::qtbackend {
+namespace proupsells::rasterbackend {
 
 using geometry::Path;
 using geometry::Point;
@@ -147,4 +147,4 @@ CoverageMask CoverageRasterizer::finish() {
     return mask;
 }
 
-} // namespace proupsells::qtbackend
+} // namespace proupsells::rasterbackend

@@ -1,0 +1,41 @@
+// Pixels in memory.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+
+#include "Backends/Raster/Blending.hpp"
+
+namespace proupsells::rasterbackend {
+
+// Premultiplied pixels, the top row first, without gaps between the rows. Copies share the pixels; who makes a picture writes them
+// before handing it on.
+class Picture {
+public:
+    // Null: there is no picture.
+    Picture() = default;
+    // All transparent. Null where a length is not positive.
+    Picture(int width, int height)
+        : m_width(width > 0 && height > 0 ? width : 0), m_height(m_width > 0 ? height : 0),
+          m_pixels(m_width > 0 ? std::make_shared<Pixel[]>(pixelCount()) : nullptr) {}
+    // Pixels that somebody else owns. They must hold width × height and stay as they are.
+    Picture(std::shared_ptr<const Pixel[]> pixels, int width, int height)
+        : m_width(width), m_height(height), m_pixels(std::const_pointer_cast<Pixel[]>(std::move(pixels))) {}
+
+    bool isNull() const { return !m_pixels; }
+    int width() const { return m_width; }
+    int height() const { return m_height; }
+    const Pixel* row(int y) const { return m_pixels.get() + std::ptrdiff_t(y) * m_width; }
+    // For whoever makes the picture.
+    Pixel* row(int y) { return m_pixels.get() + std::ptrdiff_t(y) * m_width; }
+    std::size_t byteCount() const { return pixelCount() * sizeof(Pixel); }
+
+private:
+    std::size_t pixelCount() const { return std::size_t(m_width) * std::size_t(m_height); }
+
+    int m_width = 0;
+    int m_height = 0;
+    std::shared_ptr<Pixel[]> m_pixels;
+};
+
+} // namespace proupsells::rasterbackend
