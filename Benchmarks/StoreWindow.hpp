@@ -1,7 +1,7 @@
 // The store page in a window without a display, at 60 frames a second.
 #pragma once
 
-#include "Backends/Qt/RasterSurface.hpp"
+#include "Backends/Raster/RasterSurface.hpp"
 #include "Benchmarks/PaywallWindow.hpp"
 #include "Platform/UIKit/Collection/UICollectionView.hpp"
 #include "ProUpsells/VelaProStorePageViewController.hpp"
@@ -50,7 +50,7 @@ private:
     std::shared_ptr<uikit::UIWindow> m_window;
     std::shared_ptr<proupsells::VelaProStorePageViewController> m_page;
     graphics::DisplayList m_list;
-    qtbackend::RasterSurface m_surface;
+    rasterbackend::RasterSurface m_surface;
     bool m_needsDisplay = true;
     int m_frames = 0;
 };

@@ -88,11 +88,19 @@ set(PROUPSELLS_Headless_HEADERS
   Backends/Headless/TestBed.hpp
   Include/ProUpsells/Headless.hpp
 )
+set(PROUPSELLS_Raster_HEADERS
+  Backends/Raster/Picture.hpp
+  Backends/Raster/Pixel.hpp
+  Backends/Raster/PixelBuffer.hpp
+  Backends/Raster/PixelRect.hpp
+  Backends/Raster/RasterImageDecoder.hpp
+  Backends/Raster/RasterSurface.hpp
+  Backends/Raster/RasterTextShaper.hpp
+  Include/ProUpsells/Raster.hpp
+)
 set(PROUPSELLS_Qt_HEADERS
   Backends/Qt/Application.hpp
-  Backends/Qt/QtImageDecoder.hpp
   Backends/Qt/QtRunLoopDriver.hpp
-  Backends/Qt/QtTextShaper.hpp
   Backends/Qt/QtWindow.hpp
   Include/ProUpsells/Qt.hpp
 )

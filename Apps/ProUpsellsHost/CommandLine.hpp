@@ -6,7 +6,6 @@
 #include <variant>
 
 #include "Apps/ProUpsellsHost/Device.hpp"
-#include "Apps/ProUpsellsHost/ShowCommand.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -14,6 +13,8 @@ struct RunArguments {
     std::filesystem::path scenario;
     std::filesystem::path folder; // of snapshots
 };
+
+enum class StartScreen { paywall, comparison, store };
 
 struct ShowArguments {
     std::optional<std::filesystem::path> offers; // absent: the sample offers

@@ -4,8 +4,8 @@
 #include "Backends/FFmpeg/LazyClipDecoder.hpp"
 #include "Backends/Headless/FixedTextShaper.hpp"
 #include "Backends/Icu/IcuLocaleServices.hpp"
-#include "Backends/Qt/QtImageDecoder.hpp"
-#include "Backends/Qt/QtTextShaper.hpp"
+#include "Backends/Raster/RasterImageDecoder.hpp"
+#include "Backends/Raster/RasterTextShaper.hpp"
 #include "Platform/Commons/DefaultLogger.hpp"
 #include "Platform/Foundation/Bundle.hpp"
 #include "ProUpsells/UpsellViewController.hpp"
@@ -50,8 +50,8 @@ void HostSession::installServices() {
     if (m_device.fonts == FontChoice::fixed)
         services.textShaper = std::make_shared<headless::FixedTextShaper>();
     else
-        services.textShaper = std::make_shared<qtbackend::QtTextShaper>();
-    services.imageDecoder = std::make_shared<qtbackend::QtImageDecoder>();
+        services.textShaper = std::make_shared<rasterbackend::RasterTextShaper>();
+    services.imageDecoder = std::make_shared<rasterbackend::RasterImageDecoder>();
     services.clipDecoder = m_clipDecoder;
     services.localeServices = std::make_shared<icubackend::IcuLocaleServices>();
     m_services.reset();

@@ -18,7 +18,7 @@ struct HostParts {
     bool delegate = true;
 };
 
-// Needs a main run loop and a Qt application.
+// Needs a main run loop.
 class HostSession {
 public:
     HostSession(Offers offers, const Device& device, HostParts parts, ffmpegbackend::Pace pace, std::shared_ptr<EventLog> log);

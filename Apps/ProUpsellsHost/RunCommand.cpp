@@ -3,14 +3,12 @@
 #include <iostream>
 
 #include "Apps/ProUpsellsHost/ScenarioRunner.hpp"
-#include "Backends/Qt/Application.hpp"
 
 namespace proupsells::hostprogram {
 
 int runScenario(const std::filesystem::path& scenarioFile, const std::filesystem::path& folder) {
     constexpr int held = 0, contradicted = 1;
     const Scenario scenario = readScenario(scenarioFile);
-    const qtbackend::Application application({.name = "proupsells", .isHeadless = true});
     runloop::MainRunLoop loop(std::make_shared<runloop::VirtualClock>());
     const auto log = std::make_shared<EventLog>(std::cout);
     HostSession session(scenario.offers, scenario.device, {.tracker = scenario.hasTracker, .delegate = scenario.hasDelegate},

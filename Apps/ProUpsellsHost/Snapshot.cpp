@@ -1,7 +1,7 @@
 #include "Apps/ProUpsellsHost/Snapshot.hpp"
 
-#include "Backends/Qt/PngFile.hpp"
-#include "Backends/Qt/RasterSurface.hpp"
+#include "Backends/Raster/PngFile.hpp"
+#include "Backends/Raster/RasterSurface.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -9,13 +9,13 @@ std::optional<PixelSize> writeSnapshot(host::WindowContent& window, geometry::Si
                                        const std::filesystem::path& folder, const std::string& name) {
     graphics::DisplayList list;
     window.paint(list);
-    qtbackend::RasterSurface surface;
+    rasterbackend::RasterSurface surface;
     surface.present(list, size, scale);
 
     std::error_code error;
     std::filesystem::create_directories(folder, error);
-    if (error || !qtbackend::writePng(surface.image(), folder / name)) return std::nullopt;
-    return PixelSize{surface.image().width(), surface.image().height()};
+    if (error || !rasterbackend::writePng(surface.picture(), folder / name)) return std::nullopt;
+    return PixelSize{surface.picture().width(), surface.picture().height()};
 }
 
 } // namespace proupsells::hostprogram

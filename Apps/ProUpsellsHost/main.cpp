@@ -1,30 +1,27 @@
-#include <iostream>
+// The program without a window. It loads no toolkit: `show` is left to the program beside it that has windows.
+#include <unistd.h>
 
-#include "Apps/ProUpsellsHost/CommandLine.hpp"
+#include <cstring>
+#include <filesystem>
+
 #include "Apps/ProUpsellsHost/InputError.hpp"
-#include "Apps/ProUpsellsHost/RunCommand.hpp"
+#include "Apps/ProUpsellsHost/Program.hpp"
 
 using namespace proupsells;
 
 namespace {
 
-int perform(const hostprogram::RunArguments& arguments) { return hostprogram::runScenario(arguments.scenario, arguments.folder); }
-
-int perform(const hostprogram::ShowArguments& arguments) {
-    return hostprogram::showOffers(arguments.offers, arguments.device, arguments.start);
+// Only comes back when it fails.
+int becomeWindowProgram(char** arguments) {
+    std::error_code ignored;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path() / "proupsells-window";
+    execv(program.c_str(), arguments);
+    throw hostprogram::InputError(program.string(), "",
+                                  std::string(std::strerror(errno)) + ", expected the program that has windows");
 }
-
-int perform(const hostprogram::HelpShown&) { return 0; }
 
 } // namespace
 
 int main(int count, char** arguments) {
-    constexpr int unusableInput = 2;
-    try {
-        const auto command = hostprogram::readCommandLine(count, arguments);
-        return std::visit([](const auto& known) { return perform(known); }, command);
-    } catch (const std::runtime_error& error) {
-        std::cerr << error.what() << '\n';
-        return unusableInput;
-    }
+    return hostprogram::runProgram(count, arguments, [&](const auto&) { return becomeWindowProgram(arguments); });
 }

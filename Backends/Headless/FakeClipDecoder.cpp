@@ -43,7 +43,7 @@ private:
         auto made = std::make_shared<graphics::Bitmap>();
         made->width = m_film.width;
         made->height = m_film.height;
-        made->pixels.assign(std::size_t(m_film.width * m_film.height), 0xFF000000u | std::uint32_t(number));
+        made->pixels.assign(std::size_t(m_film.width) * std::size_t(m_film.height), 0xFF000000u | std::uint32_t(number));
         return made;
     }
 

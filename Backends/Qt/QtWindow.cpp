@@ -4,13 +4,12 @@
 #include <QExposeEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QScreen>
 #include <algorithm>
 #include <cmath>
 
 #include "Backends/Qt/QtAccessibility.hpp"
-#include "Backends/Qt/RasterSurface.hpp"
+#include "Backends/Raster/RasterSurface.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
 namespace proupsells::qtbackend {
@@ -37,7 +36,7 @@ std::optional<host::Key> keyOf(int key) {
 
 QtWindow::QtWindow(std::shared_ptr<host::WindowContent> content, const WindowOptions& options)
     : m_content(std::move(content)), m_safeArea(options.safeArea), m_store(this),
-      m_surface(std::make_unique<qtbackend::RasterSurface>()),
+      m_surface(std::make_unique<rasterbackend::RasterSurface>()),
       m_accessibility(std::make_unique<QtAccessibility>(*this, *m_content)) {
     setSurfaceType(QSurface::RasterSurface);
     setTitle(QString::fromStdString(options.title));
@@ -95,41 +94,41 @@ void QtWindow::showFrame(bool isWhole) {
     // What a touch has changed is brought up to date before it is shown.
     loop.runDueTurns();
     m_content->paint(m_list);
-    m_surface->present(m_list, sizeInPoints(), devicePixelRatio());
-    const bool hasChanged = !m_surface->lastDamage().empty();
-    if (hasChanged || isWhole) flush(isWhole);
+    const bool hasChanged = paint();
+    if (hasChanged || isWhole) {
+        ++m_frameCount;
+        m_store.flush(isWhole ? QRegion(QRect(QPoint(0, 0), size())) : damagedRegion());
+    }
     if (hasChanged) m_accessibility->update();
     if (m_content->isAnimating()) scheduleNextFrame(start_s);
     m_isShowing = false;
 }
 
-void QtWindow::flush(bool isWhole) {
-    const QImage& image = m_surface->image();
-    if (image.isNull()) return;
-    ++m_frameCount;
-    if (m_store.size() != size()) {
-        m_store.resize(size());
-        isWhole = true;
+// Paints the list straight into the backing store's memory. Returns whether that changed any pixel.
+bool QtWindow::paint() {
+    const bool isResized = m_store.size() != size();
+    if (isResized) m_store.resize(size());
+    m_store.beginPaint(QRect(QPoint(0, 0), size()));
+    if (auto* image = dynamic_cast<QImage*>(m_store.paintDevice())) {
+        const rasterbackend::PixelBuffer buffer{image->bits(), image->width(), image->height(), image->bytesPerLine(),
+                                                rasterbackend::PixelFormat::rgb32};
+        // Where a platform paints into two stores in turn, it copies what the one shows to the other.
+        m_surface->lend(buffer, !isResized && m_lentSize == image->size());
+        m_lentSize = image->size();
+        m_surface->present(m_list, sizeInPoints(), devicePixelRatio());
     }
+    m_store.endPaint();
+    return !m_surface->lastDamage().empty();
+}
+
+QRegion QtWindow::damagedRegion() const {
     const double scale = devicePixelRatio();
     QRegion region;
-    for (const PixelRect& rect : m_surface->lastDamage()) {
+    for (const rasterbackend::PixelRect& rect : m_surface->lastDamage()) {
         const int left = int(std::floor(rect.left / scale)), top = int(std::floor(rect.top / scale));
         region += QRect(left, top, int(std::ceil(rect.right / scale)) - left, int(std::ceil(rect.bottom / scale)) - top);
     }
-    region = isWhole ? QRegion(QRect(QPoint(0, 0), size())) : region.intersected(QRect(QPoint(0, 0), size()));
-
-    m_store.beginPaint(region);
-    // Another view of the same pixels, since setting the ratio of a shared image would copy them.
-    QImage pixels(const_cast<uchar*>(image.constBits()), image.width(), image.height(), image.bytesPerLine(), image.format());
-    pixels.setDevicePixelRatio(scale);
-    QPainter painter(m_store.paintDevice());
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.setClipRegion(region);
-    painter.drawImage(QPoint(0, 0), pixels);
-    painter.end();
-    m_store.endPaint();
-    m_store.flush(region);
+    return region.intersected(QRect(QPoint(0, 0), size()));
 }
 
 void QtWindow::scheduleNextFrame(double start_s) {

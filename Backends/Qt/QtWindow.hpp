@@ -11,10 +11,13 @@
 
 #include "Platform/Host/WindowContent.hpp"
 
+namespace proupsells::rasterbackend {
+class RasterSurface;
+}
+
 namespace proupsells::qtbackend {
 
 class QtAccessibility;
-class RasterSurface;
 
 struct WindowOptions {
     std::string title;
@@ -33,7 +36,8 @@ public:
     // Told when the person has closed the window; it must not be destroyed there.
     void setCloseHandler(std::function<void()> handler) { m_closeHandler = std::move(handler); }
 
-    const qtbackend::RasterSurface& surface() const { return *m_surface; }
+    // Where the window was painted anew by the last frame, in pixels. Empty when nothing differed.
+    const rasterbackend::RasterSurface& surface() const { return *m_surface; }
     // How many frames were shown so far.
     int frameCount() const { return m_frameCount; }
 
@@ -55,7 +59,8 @@ private:
     geometry::Size sizeInPoints() const { return {double(width()), double(height())}; }
     void requestFrame();
     void showFrame(bool isWhole);
-    void flush(bool isWhole);
+    bool paint();
+    QRegion damagedRegion() const;
     void scheduleNextFrame(double start_s);
     void sendTouch(host::TouchPhase phase, QPointF position);
     void cancelTouch();
@@ -64,7 +69,8 @@ private:
     geometry::PhysicalInsets m_safeArea;
     std::function<void()> m_closeHandler;
     QBackingStore m_store;
-    std::unique_ptr<qtbackend::RasterSurface> m_surface;
+    std::unique_ptr<rasterbackend::RasterSurface> m_surface;
+    QSize m_lentSize; // pixels
     graphics::DisplayList m_list;
     QTimer m_frameTimer;
     int m_frameCount = 0;

@@ -4,11 +4,10 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "Backends/Raster/Pixel.hpp"
 #include "Platform/Graphics/Color.hpp"
 
 namespace proupsells::rasterbackend {
-
-using Pixel = std::uint32_t;
 
 constexpr std::uint8_t alphaOf(Pixel pixel) { return std::uint8_t(pixel >> 24); }
 

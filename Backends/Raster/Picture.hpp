@@ -3,8 +3,9 @@
 
 #include <cstddef>
 #include <memory>
+#include <utility>
 
-#include "Backends/Raster/Blending.hpp"
+#include "Backends/Raster/Pixel.hpp"
 
 namespace proupsells::rasterbackend {
 

@@ -27,6 +27,14 @@ struct PixelRect {
     bool operator==(const PixelRect&) const = default;
 };
 
+struct PixelSize {
+    int width = 0;
+    int height = 0;
+
+    constexpr bool isEmpty() const { return width <= 0 || height <= 0; }
+    bool operator==(const PixelSize&) const = default;
+};
+
 // Products of points and scales miss whole pixels by a rounding error.
 inline constexpr double pixelTolerance = 1e-6;
 

@@ -4,14 +4,15 @@
 #include <ProUpsells/Icu.hpp>
 #include <ProUpsells/ProUpsells.hpp>
 #include <ProUpsells/Qt.hpp>
+#include <ProUpsells/Raster.hpp>
 
 using namespace proupsells;
 
 int main() {
     qtbackend::Application application({.name = "shop"});
     runloop::MainRunLoop loop(std::make_shared<runloop::RealClock>());
-    host::Installation services({.textShaper = std::make_shared<qtbackend::QtTextShaper>(),
-                                 .imageDecoder = std::make_shared<qtbackend::QtImageDecoder>(),
+    host::Installation services({.textShaper = std::make_shared<rasterbackend::RasterTextShaper>(),
+                                 .imageDecoder = std::make_shared<rasterbackend::RasterImageDecoder>(),
                                  .clipDecoder = std::make_shared<ffmpegbackend::LazyClipDecoder>(
                                      ffmpegbackend::Pace::realTime, ffmpegbackend::LazyClipDecoder::defaultFolders()),
                                  .localeServices = std::make_shared<icubackend::IcuLocaleServices>()});

@@ -1,8 +1,6 @@
-// Windows, glyphs and pictures by Qt.
+// Windows, input and assistive technology by Qt.
 #pragma once
 
 #include "Backends/Qt/Application.hpp"
-#include "Backends/Qt/QtImageDecoder.hpp"
 #include "Backends/Qt/QtRunLoopDriver.hpp"
-#include "Backends/Qt/QtTextShaper.hpp"
 #include "Backends/Qt/QtWindow.hpp"

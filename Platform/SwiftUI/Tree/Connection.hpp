@@ -19,7 +19,7 @@ public:
         const TakeOver scope;
         bool isSame = false;
         if constexpr (std::equality_comparable<Value>) isSame = held == newer;
-        held = std::move(newer);
+        held = std::forward<Value>(newer);
         return isSame;
     }
 

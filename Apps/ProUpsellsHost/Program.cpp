@@ -1,0 +1,23 @@
+#include "Apps/ProUpsellsHost/Program.hpp"
+
+#include <iostream>
+
+#include "Apps/ProUpsellsHost/InputError.hpp"
+#include "Apps/ProUpsellsHost/RunCommand.hpp"
+
+namespace proupsells::hostprogram {
+
+int runProgram(int count, const char* const* arguments, const std::function<int(const ShowArguments&)>& show) {
+    constexpr int done = 0, unusableInput = 2;
+    try {
+        const Arguments command = readCommandLine(count, arguments);
+        if (const auto* run = std::get_if<RunArguments>(&command)) return runScenario(run->scenario, run->folder);
+        if (const auto* shown = std::get_if<ShowArguments>(&command)) return show(*shown);
+        return done;
+    } catch (const std::runtime_error& error) {
+        std::cerr << error.what() << '\n';
+        return unusableInput;
+    }
+}
+
+} // namespace proupsells::hostprogram

@@ -1,0 +1,14 @@
+// What the two programs have in common: arguments in, an exit status out.
+#pragma once
+
+#include <functional>
+
+#include "Apps/ProUpsellsHost/CommandLine.hpp"
+
+namespace proupsells::hostprogram {
+
+// Reads the command line and does what it says; `show` is the caller's part. Input that cannot be used is a line on standard error.
+// Returns the exit status.
+int runProgram(int count, const char* const* arguments, const std::function<int(const ShowArguments&)>& show);
+
+} // namespace proupsells::hostprogram

@@ -1,0 +1,66 @@
+// Pictures at the sizes in pixels at which they are shown.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <unordered_set>
+
+#include "Backends/Raster/CoverageMask.hpp"
+#include "Backends/Raster/CoverageRasterizer.hpp"
+#include "Backends/Raster/LruCache.hpp"
+#include "Backends/Raster/Picture.hpp"
+#include "Backends/Raster/PixelRect.hpp"
+#include "Platform/Geometry/Transform.hpp"
+#include "Platform/Graphics/DisplayList.hpp"
+
+namespace proupsells::rasterbackend {
+
+struct ImageRaster {
+    Picture pixels; // null when the picture cannot be read
+    bool isOpaque = false;
+    std::shared_ptr<const CoverageMask> coverage; // of a tinted picture: where the tint goes
+    int x = 0, y = 0;                             // where it stands, of one that was transformed
+};
+
+class ImageRasters {
+public:
+    ImageRasters();
+
+    // A file that cannot be read is reported once and has null pixels. Good until the next call.
+    const ImageRaster& image(const graphics::Image& image, graphics::ColorScheme scheme, PixelSize size);
+    // Shares the bitmap's pixels where they need no scaling. Good until the next call, as long as the bitmap lives.
+    const ImageRaster& bitmap(const std::shared_ptr<const graphics::Bitmap>& bitmap, PixelSize size);
+
+    // Turned, or scaled by a passing animation: the picture that covers `frame`, as it is mapped to pixels, inside of `window`.
+    ImageRaster transformed(const ImageRaster& raster, const geometry::Rect& frame, const geometry::Transform& toPixels,
+                            const PixelRect& window);
+
+private:
+    struct Key {
+        std::size_t source; // hash of a file name, or an address
+        int width, height;
+        bool isTinted;
+
+        bool operator==(const Key&) const = default;
+        struct Hash {
+            std::size_t operator()(const Key& key) const;
+        };
+    };
+    struct Entry {
+        ImageRaster raster;
+        std::filesystem::path file;
+        std::shared_ptr<const graphics::Bitmap> bitmap; // kept so that its address stays its own
+    };
+
+    ImageRaster load(const std::filesystem::path& file, PixelSize size, bool isTinted);
+    using Cache = LruCache<Key, Entry>;
+    static const ImageRaster& insert(Cache& cache, const Key& key, Entry entry);
+
+    Cache m_files;
+    Cache m_bitmaps;
+    std::unordered_set<std::string> m_reportedFiles;
+    CoverageRasterizer m_rasterizer;
+    ImageRaster m_unshared;
+};
+
+} // namespace proupsells::rasterbackend

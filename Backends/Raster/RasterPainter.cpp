@@ -1,0 +1,287 @@
+#include "Backends/Raster/RasterPainter.hpp"
+
+#include <algorithm>
+#include <cstring>
+
+#include "Backends/Raster/Blending.hpp"
+
+namespace proupsells::rasterbackend {
+
+using geometry::Path;
+using geometry::Point;
+using geometry::Rect;
+using geometry::Transform;
+using graphics::Command;
+using graphics::CommandKind;
+
+namespace {
+
+// Shapes whose corners or curves are larger are made for their place in the window alone.
+constexpr double largestShape_px = 2048;
+constexpr std::uint32_t longestTextPiece = 256; // clusters
+
+// Calls paintRow(y, left, right, coverage) for the rows of an area, cut by a rounded clip where there is one.
+template <class PaintRow>
+void forEachRow(const PixelRect& area, const PlacedMask& clip, PaintRow&& paintRow) {
+    for (int y = area.top; y < area.bottom; ++y) {
+        if (!clip.mask) {
+            paintRow(y, area.left, area.right, std::uint8_t(255));
+            continue;
+        }
+        clip.visitRow(y, area.left, area.right, [&](int left, int right, const std::uint8_t* coverages, std::uint8_t shared) {
+            if (!coverages) return paintRow(y, left, right, shared);
+            for (int x = left; x < right; ++x)
+                if (coverages[x - left] > 0) paintRow(y, x, x + 1, coverages[x - left]);
+        });
+    }
+}
+
+// Whether points are mapped by one positive factor and moved, nothing else.
+bool isUniform(const Transform& toPixels) {
+    return toPixels.b == 0 && toPixels.c == 0 && toPixels.a == toPixels.d && toPixels.a > 0;
+}
+
+bool isFill(CommandKind kind) {
+    return kind == CommandKind::fillRectangle || kind == CommandKind::fillRoundedRectangle || kind == CommandKind::fillEllipse ||
+           kind == CommandKind::fillPath;
+}
+
+template <class Resource>
+const Resource* resourceOf(const std::vector<Resource>& resources, const Command& command) {
+    const bool exists = command.resource >= 0 && std::size_t(command.resource) < resources.size();
+    return exists ? &resources[std::size_t(command.resource)] : nullptr;
+}
+
+} // namespace
+
+// One call of paint().
+struct RasterPainter::Job {
+    Pixel* pixels;
+    std::ptrdiff_t pixelsPerRow;
+    const graphics::DisplayList& list;
+    const double scale;
+    const PixelRect region;
+    const PixelRect window;
+
+    Pixel* row(int y) const { return pixels + y * pixelsPerRow; }
+};
+
+// One command, in pixels.
+struct RasterPainter::Item {
+    const Command& command;
+    Transform toPixels;
+    PixelRect area; // nothing is painted outside; within the region
+    PlacedMask clip;
+    std::uint8_t opacity = 255;
+
+    Rect frame() const { return toPixels.apply(command.frame); }
+    double factor() const { return toPixels.a; }
+
+    template <class PaintRow>
+    void paintRows(const PixelRect& extent, PaintRow&& paintRow) const {
+        const PixelRect visible = area.intersection(extent);
+        if (!visible.isEmpty()) forEachRow(visible, clip, paintRow);
+    }
+
+    void paintColor(Job& job, const PixelRect& extent, Pixel color) const {
+        paintRows(extent, [&](int y, int left, int right, std::uint8_t coverage) {
+            blendColor(job.row(y) + left, std::size_t(right - left), color, coverage);
+        });
+    }
+
+    void paintMask(Job& job, const PlacedMask& mask, Pixel color) const {
+        if (!mask.mask || mask.mask->isEmpty()) return;
+        const PixelRect extent{job.window.left, mask.top(), job.window.right, mask.bottom()};
+        paintRows(extent, [&](int y, int left, int right, std::uint8_t coverage) {
+            Pixel* row = job.row(y);
+            const Pixel covered = coverage == 255 ? color : scaled(color, coverage);
+            mask.visitRow(y, left, right, [&](int from, int to, const std::uint8_t* coverages, std::uint8_t shared) {
+                if (coverages)
+                    blendColor(row + from, std::size_t(to - from), covered, coverages);
+                else
+                    blendColor(row + from, std::size_t(to - from), covered, shared);
+            });
+        });
+    }
+
+    void paintPixels(Job& job, const Picture& picture, int x, int y, bool isOpaque) const {
+        const PixelRect extent{x, y, x + picture.width(), y + picture.height()};
+        paintRows(extent, [&](int rowY, int left, int right, std::uint8_t coverage) {
+            const Pixel* from = picture.row(rowY - y) + (left - x);
+            const std::uint8_t factor = scaledByte(opacity, coverage);
+            Pixel* to = job.row(rowY) + left;
+            if (isOpaque && factor == 255)
+                std::memcpy(to, from, std::size_t(right - left) * sizeof(Pixel));
+            else
+                blendPixels(to, std::size_t(right - left), from, factor);
+        });
+    }
+};
+
+const std::shared_ptr<RasterPainter>& RasterPainter::shared() {
+    static const auto painter = std::make_shared<RasterPainter>();
+    return painter;
+}
+
+namespace {
+
+// A command that hides everything before it in a region.
+bool hides(const Command& command, double scale, const PixelRect& region) {
+    if (command.kind != CommandKind::fillRectangle || command.color.alpha != 255 || command.opacity < 1) return false;
+    if (command.clipRadius > 0 || command.transform >= 0) return false;
+    return coveredPixels(scaledBy(command.frame, scale)).contains(region) &&
+           nearestPixels(scaledBy(command.clip, scale)).contains(region);
+}
+
+} // namespace
+
+void RasterPainter::paint(const PaintTarget& target, const graphics::DisplayList& list, double scale,
+                          std::span<const PixelRect> regions) {
+    for (const PixelRect& region : regions) {
+        Job job{target.pixels, target.pixelsPerRow, list, scale, region, {0, 0, target.size.width, target.size.height}};
+        // Where a command hides all that is before it, neither that nor the white ground is painted.
+        std::size_t first = list.commands.size();
+        while (first > 0 && !hides(list.commands[first - 1], scale, region)) --first;
+        if (first > 0) {
+            --first;
+        } else {
+            for (int y = region.top; y < region.bottom; ++y)
+                std::fill_n(job.row(y) + region.left, region.width(), Pixel(0xFFFFFFFF));
+        }
+        for (; first < list.commands.size(); ++first) paintCommand(job, list.commands[first]);
+    }
+}
+
+void RasterPainter::paintCommand(Job& job, const Command& command) {
+    const PixelRect touched = touchedPixels(scaledBy(command.bounds, job.scale)).intersection(job.region);
+    if (touched.isEmpty()) return;
+    Item item{
+        command, {}, touched.intersection(nearestPixels(scaledBy(command.clip, job.scale))), {}, opacityFactor(command.opacity)};
+    if (item.area.isEmpty() || item.opacity == 0) return;
+
+    const Transform toPixels = Transform::scaling(job.scale, job.scale);
+    const bool hasTransform = command.transform >= 0 && std::size_t(command.transform) < job.list.transforms.size();
+    item.toPixels = hasTransform ? job.list.transforms[std::size_t(command.transform)].then(toPixels) : toPixels;
+    if (command.clipRadius > 0) {
+        const PixelRect clip = nearestPixels(scaledBy(command.roundedClip, job.scale));
+        if (clip.isEmpty()) return;
+        item.clip = m_shapes.roundedRectangle(
+            {{double(clip.left), double(clip.top)}, {double(clip.width()), double(clip.height())}},
+            std::min(command.clipRadius * job.scale, largestShape_px), geometry::CornerStyle::circular, 0);
+    }
+    switch (command.kind) {
+    case CommandKind::text: return paintText(job, item);
+    case CommandKind::image:
+    case CommandKind::bitmap: return paintImage(job, item);
+    default: return paintShape(job, item);
+    }
+}
+
+void RasterPainter::paintShape(Job& job, const Item& item) {
+    const Pixel color = premultiplied(item.command.color, item.opacity);
+    if (item.command.kind == CommandKind::fillRectangle && isUniform(item.toPixels)) {
+        const PixelRect covered = coveredPixels(item.frame());
+        if (covered == touchedPixels(item.frame())) return item.paintColor(job, covered, color);
+    }
+    item.paintMask(job, shapeMask(job, item), color);
+}
+
+PlacedMask RasterPainter::shapeMask(const Job& job, const Item& item) {
+    const Command& command = item.command;
+    const Rect frame = item.frame();
+    const double lineWidth = isFill(command.kind) ? 0 : command.lineWidth * item.factor();
+    if (command.kind == CommandKind::shadow)
+        return m_shapes.shadow(frame, std::min(command.blurRadius * std::abs(item.factor()), 500.0));
+    if (!isUniform(item.toPixels) || lineWidth > largestShape_px) return outlineMask(job, item);
+
+    const double radius = std::min({command.cornerRadius * item.factor(), frame.width() / 2, frame.height() / 2});
+    switch (command.kind) {
+    case CommandKind::fillRectangle: return m_shapes.roundedRectangle(frame, 0, geometry::CornerStyle::circular, 0);
+    case CommandKind::fillRoundedRectangle:
+    case CommandKind::strokeRoundedRectangle:
+        if (radius > largestShape_px) return outlineMask(job, item);
+        return m_shapes.roundedRectangle(frame, radius, command.cornerStyle, lineWidth);
+    case CommandKind::fillEllipse:
+    case CommandKind::strokeEllipse:
+        if (std::max(frame.width(), frame.height()) > largestShape_px) return outlineMask(job, item);
+        return m_shapes.ellipse(frame, lineWidth);
+    default: return outlineMask(job, item);
+    }
+}
+
+PlacedMask RasterPainter::outlineMask(const Job& job, const Item& item) {
+    const Command& command = item.command;
+    const bool isPath = command.kind == CommandKind::fillPath || command.kind == CommandKind::strokePath;
+    const Stroke stroke{isFill(command.kind) ? 0 : command.lineWidth, isPath ? LineJoin::round : LineJoin::mitred};
+    const auto mask = [&](const Path& path) { return m_shapes.path(path, item.toPixels, stroke, job.window); };
+    if (isPath) {
+        const Path* path = resourceOf(job.list.paths, command);
+        return path ? mask(*path) : PlacedMask{};
+    }
+    const bool isEllipse = command.kind == CommandKind::fillEllipse || command.kind == CommandKind::strokeEllipse;
+    return mask(isEllipse ? Path::ellipse(command.frame)
+                          : Path::roundedRectangle(command.frame, command.cornerRadius, command.cornerStyle));
+}
+
+void RasterPainter::paintText(Job& job, const Item& item) {
+    const std::shared_ptr<const graphics::ShapedText>* shaped = resourceOf(job.list.texts, item.command);
+    if (!shaped || !*shaped) return;
+    const std::shared_ptr<const RasterShapedText> text = m_texts.withGlyphs(*shaped);
+    const std::uint32_t end = std::min(item.command.endCluster, std::uint32_t(text->clusters.size()));
+    if (item.command.firstCluster >= end) return;
+
+    // A line that nobody has broken is painted in pieces, so that only those in sight are made.
+    const bool isRightToLeft = text->clusters[item.command.firstCluster].bidiLevel % 2 == 1;
+    const std::uint32_t pieceCount = (end - item.command.firstCluster + longestTextPiece - 1) / longestTextPiece;
+    Point baseline = item.command.frame.origin;
+    for (std::uint32_t piece = 0; piece < pieceCount; ++piece) {
+        const std::uint32_t index = isRightToLeft ? pieceCount - 1 - piece : piece;
+        const std::uint32_t first = item.command.firstCluster + index * longestTextPiece;
+        const FragmentRange range{first, std::min(end, first + longestTextPiece)};
+        paintTextPiece(job, item, *text, range, baseline);
+        for (std::uint32_t cluster = range.first; cluster < range.end; ++cluster) baseline.x += text->clusters[cluster].advance;
+    }
+}
+
+void RasterPainter::paintTextPiece(Job& job, const Item& item, const RasterShapedText& text, FragmentRange range, Point baseline) {
+    if (item.command.endCluster - item.command.firstCluster > longestTextPiece) {
+        double width = 0;
+        for (std::uint32_t cluster = range.first; cluster < range.end; ++cluster) width += text.clusters[cluster].advance;
+        const double size = text.runs[text.clusters[range.first].run].font.size;
+        const Rect reach{{baseline.x - size, baseline.y - 2 * size}, {width + 2 * size, 4 * size}};
+        if (touchedPixels(item.toPixels.apply(reach)).intersection(item.area).isEmpty()) return;
+    }
+    // A picture of emoji has the text's colour in it already, but not the opacity.
+    const TextRaster raster = m_texts.raster(text, range, baseline, item.toPixels, premultiplied(item.command.color, 255));
+    if (!raster.picture.isNull()) return item.paintPixels(job, raster.picture, raster.mask.x, raster.mask.y, false);
+    item.paintMask(job, raster.mask, premultiplied(item.command.color, item.opacity));
+}
+
+void RasterPainter::paintImage(Job& job, const Item& item) {
+    const Command& command = item.command;
+    const graphics::ImageRef* image = command.kind == CommandKind::image ? resourceOf(job.list.images, command) : nullptr;
+    const auto* bitmap = command.kind == CommandKind::bitmap ? resourceOf(job.list.bitmaps, command) : nullptr;
+    if (!(image && *image) && !(bitmap && *bitmap)) return;
+
+    // The size does not depend on the place, so that a picture that moves between pixels is not made anew.
+    constexpr double longestSide_px = 8192;
+    const auto side = [&](double length) { return std::max(1, nearestPixel(std::min(length * job.scale, longestSide_px))); };
+    const PixelSize size{side(command.frame.width()), side(command.frame.height())};
+    const ImageRaster& raster = image ? m_images.image(**image, command.scheme, size) : m_images.bitmap(*bitmap, size);
+    if (raster.pixels.isNull()) return;
+
+    const auto paintRaster = [&](const ImageRaster& shown, int x, int y) {
+        if (shown.coverage)
+            item.paintMask(job, {shown.coverage, x, y}, premultiplied(command.color, item.opacity));
+        else
+            item.paintPixels(job, shown.pixels, x, y, shown.isOpaque);
+    };
+    if (command.transform < 0) {
+        const Point place = item.toPixels.apply(command.frame.origin);
+        return paintRaster(raster, nearestPixel(place.x), nearestPixel(place.y));
+    }
+    const ImageRaster shown = m_images.transformed(raster, command.frame, item.toPixels, job.window);
+    if (!shown.pixels.isNull()) paintRaster(shown, shown.x, shown.y);
+}
+
+} // namespace proupsells::rasterbackend

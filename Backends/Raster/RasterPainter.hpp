@@ -1,0 +1,50 @@
+// Paints display lists into memory.
+#pragma once
+
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "Backends/Raster/ImageRasters.hpp"
+#include "Backends/Raster/PixelRect.hpp"
+#include "Backends/Raster/ShapeMasks.hpp"
+#include "Backends/Raster/TextRasters.hpp"
+#include "Platform/Graphics/DisplayList.hpp"
+
+namespace proupsells::rasterbackend {
+
+// Rows of pixels, as 32-bit numbers 0xAARRGGBB.
+struct PaintTarget {
+    Pixel* pixels = nullptr;
+    std::ptrdiff_t pixelsPerRow = 0;
+    PixelSize size;
+};
+
+// Every command becomes a colour under a mask or a picture, made for whole pixels and kept for the next time; so a part of a list
+// comes out the same whether it is painted alone or with the rest. Main thread only.
+class RasterPainter {
+public:
+    // The one that windows and pictures share, so that what one has prepared the other finds.
+    static const std::shared_ptr<RasterPainter>& shared();
+
+    // Paints the regions, which must not overlap and lie in the target, over white at `scale` pixels a point.
+    void paint(const PaintTarget& target, const graphics::DisplayList& list, double scale, std::span<const PixelRect> regions);
+
+private:
+    struct Job;
+    struct Item;
+
+    void paintCommand(Job& job, const graphics::Command& command);
+    void paintShape(Job& job, const Item& item);
+    void paintText(Job& job, const Item& item);
+    void paintTextPiece(Job& job, const Item& item, const RasterShapedText& text, FragmentRange range, geometry::Point baseline);
+    void paintImage(Job& job, const Item& item);
+    PlacedMask shapeMask(const Job& job, const Item& item);
+    PlacedMask outlineMask(const Job& job, const Item& item);
+
+    ShapeMasks m_shapes;
+    TextRasters m_texts;
+    ImageRasters m_images;
+};
+
+} // namespace proupsells::rasterbackend

@@ -1,0 +1,102 @@
+#include "Backends/Raster/RasterSurface.hpp"
+
+#include <algorithm>
+#include <bit>
+#include <cstdint>
+
+#include "Backends/Raster/RasterPainter.hpp"
+
+namespace proupsells::rasterbackend {
+
+RasterSurface::RasterSurface() : RasterSurface(RasterPainter::shared()) {}
+
+RasterSurface::RasterSurface(std::shared_ptr<RasterPainter> painter) : m_painter(std::move(painter)) {}
+
+RasterSurface::~RasterSurface() = default;
+
+PixelSize pixelSize(geometry::Size size, double scale) {
+    return {std::max(0, ceilPixel(size.width * scale)), std::max(0, ceilPixel(size.height * scale))};
+}
+
+void RasterSurface::lend(const std::optional<PixelBuffer>& buffer, bool holdsShown) {
+    if (buffer == m_buffer) return;
+    m_buffer = buffer;
+    if (holdsShown) return;
+    m_picture = {};
+    forgetShown();
+}
+
+// The painter writes 32-bit numbers in the machine's order.
+bool RasterSurface::paintsDirectly() const {
+    return m_buffer && m_buffer->format != PixelFormat::rgba && std::endian::native == std::endian::little &&
+           m_buffer->bytesPerRow % std::ptrdiff_t(sizeof(Pixel)) == 0 &&
+           reinterpret_cast<std::uintptr_t>(m_buffer->pixels) % alignof(Pixel) == 0;
+}
+
+PixelSize RasterSurface::sizeOfTarget(geometry::Size size, double scale) const {
+    const PixelSize wanted = pixelSize(size, scale);
+    if (!m_buffer) return wanted;
+    return {std::min(wanted.width, m_buffer->width), std::min(wanted.height, m_buffer->height)};
+}
+
+void RasterSurface::present(const graphics::DisplayList& list, geometry::Size size, double scale) {
+    m_damage.clear();
+    const PixelSize pixels = sizeOfTarget(size, scale);
+    const PixelRect window{0, 0, pixels.width, pixels.height};
+    if (size != m_size || scale != m_scale) {
+        m_size = size;
+        m_scale = scale;
+        m_picture = paintsDirectly() ? Picture{} : Picture(pixels.width, pixels.height);
+        if (!window.isEmpty()) m_damage.push_back(window);
+    } else {
+        findDamagedPixels(list, window);
+    }
+    if (window.isEmpty()) return;
+
+    const PaintTarget target = paintsDirectly() ? PaintTarget{static_cast<Pixel*>(m_buffer->pixels),
+                                                              m_buffer->bytesPerRow / std::ptrdiff_t(sizeof(Pixel)), pixels}
+                                                : PaintTarget{m_picture.row(0), pixels.width, pixels};
+    m_painter->paint(target, list, scale, m_damage);
+    if (m_buffer && !paintsDirectly())
+        for (const PixelRect& rect : m_damage) copyToBuffer(rect);
+    m_shown = list;
+}
+
+void RasterSurface::findDamagedPixels(const graphics::DisplayList& list, const PixelRect& window) {
+    graphics::findDamage(m_shown, list, m_damagedPoints);
+    for (const geometry::Rect& rect : m_damagedPoints) {
+        const PixelRect touched = touchedPixels(scaledBy(rect, m_scale)).intersection(window);
+        if (!touched.isEmpty()) addDamage(touched);
+    }
+}
+
+// Rectangles that do not overlap in points may do so in pixels.
+void RasterSurface::addDamage(PixelRect rect) {
+    for (std::size_t index = 0; index < m_damage.size();) {
+        if (m_damage[index].intersection(rect).isEmpty()) {
+            ++index;
+            continue;
+        }
+        rect = rect.united(m_damage[index]);
+        m_damage.erase(m_damage.begin() + std::ptrdiff_t(index));
+        index = 0;
+    }
+    m_damage.push_back(rect);
+}
+
+void RasterSurface::copyToBuffer(const PixelRect& rect) const {
+    const bool redFirst = m_buffer->format == PixelFormat::rgba;
+    for (int y = rect.top; y < rect.bottom; ++y) {
+        auto* to = static_cast<std::uint8_t*>(m_buffer->pixels) + y * m_buffer->bytesPerRow + std::ptrdiff_t(rect.left) * 4;
+        for (int x = rect.left; x < rect.right; ++x, to += 4) {
+            const Pixel pixel = m_picture.row(y)[x];
+            const std::uint8_t red = std::uint8_t(pixel >> 16), green = std::uint8_t(pixel >> 8), blue = std::uint8_t(pixel);
+            to[0] = redFirst ? red : blue;
+            to[1] = green;
+            to[2] = redFirst ? blue : red;
+            to[3] = alphaOf(pixel);
+        }
+    }
+}
+
+} // namespace proupsells::rasterbackend

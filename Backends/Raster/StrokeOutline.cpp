@@ -1,0 +1,156 @@
+#include "Backends/Raster/StrokeOutline.hpp"
+
+#include <ft2build.h>
+#include FT_FREETYPE_H
+#include FT_STROKER_H
+
+#include <algorithm>
+#include <cmath>
+#include <span>
+#include <utility>
+#include <vector>
+
+#include "Platform/Commons/FatalError.hpp"
+
+namespace proupsells::rasterbackend {
+
+using geometry::Path;
+using geometry::Point;
+
+namespace {
+
+// FreeType counts in whole numbers; a pixel has this many of them.
+constexpr double unitsPerPixel = 1024;
+constexpr double furthest = 1 << 28;          // of them, from the origin
+constexpr double miterLimit = 10;             // line widths
+constexpr FT_UInt maximumPointCount = 32'767; // of an outline of FreeType
+
+FT_Fixed toFixed(double value) { return FT_Fixed(std::lround(value * 65536)); }
+
+} // namespace
+
+struct StrokeOutliner::Stroker {
+    FT_Library library = nullptr;
+    FT_Stroker stroker = nullptr;
+    double factor = 1; // from the path's lengths to FreeType's
+
+    Stroker() {
+        if (FT_Init_FreeType(&library) != 0 || FT_Stroker_New(library, &stroker) != 0)
+            commons::fatalError("FreeType's stroker cannot be set up");
+    }
+    ~Stroker() {
+        FT_Stroker_Done(stroker);
+        FT_Done_FreeType(library);
+    }
+    Stroker(const Stroker&) = delete;
+    Stroker& operator=(const Stroker&) = delete;
+
+    FT_Vector vector(Point p) const {
+        const auto whole = [this](double length) { return FT_Pos(std::lround(std::clamp(length * factor, -furthest, furthest))); };
+        return {whole(p.x), whole(p.y)};
+    }
+    Point point(const FT_Vector& v) const { return {double(v.x) / factor, double(v.y) / factor}; }
+
+    void begin(Stroke stroke, double scale) {
+        factor = unitsPerPixel * std::max(scale, 1e-6);
+        const double radius = std::clamp(stroke.width / 2 * factor, 1.0, furthest);
+        const bool isRound = stroke.join == LineJoin::round;
+        FT_Stroker_Set(stroker, FT_Fixed(std::lround(radius)), isRound ? FT_STROKER_LINECAP_ROUND : FT_STROKER_LINECAP_BUTT,
+                       isRound ? FT_STROKER_LINEJOIN_ROUND : FT_STROKER_LINEJOIN_MITER_FIXED, toFixed(miterLimit));
+    }
+    void addPart(std::span<const Path::Verb> verbs, const Point* points, bool isClosed);
+    void appendTo(Path& result) const;
+};
+
+namespace {
+
+// One part of a path: its verbs without the close, and where its points begin.
+struct Part {
+    std::size_t firstVerb = 0, endVerb = 0, firstPoint = 0;
+    bool isClosed = false;
+};
+
+std::vector<Part> partsOf(const Path& path) {
+    std::vector<Part> parts;
+    std::size_t point = 0;
+    for (std::size_t verb = 0; verb < path.verbs().size(); ++verb) {
+        switch (path.verbs()[verb]) {
+        case Path::Verb::move: parts.push_back({verb, verb + 1, point, false}); break;
+        case Path::Verb::close:
+            if (!parts.empty()) parts.back().isClosed = true;
+            continue;
+        default:
+            if (parts.empty()) return parts;
+            parts.back().endVerb = verb + 1;
+        }
+        point += path.verbs()[verb] == Path::Verb::cubic ? 3 : 1;
+    }
+    return parts;
+}
+
+} // namespace
+
+void StrokeOutliner::Stroker::addPart(std::span<const Path::Verb> verbs, const Point* points, bool isClosed) {
+    FT_Vector at = vector(*points++);
+    FT_Stroker_BeginSubPath(stroker, &at, !isClosed);
+    for (const Path::Verb verb : verbs.subspan(1)) {
+        if (verb == Path::Verb::line) {
+            at = vector(*points++);
+            FT_Stroker_LineTo(stroker, &at);
+            continue;
+        }
+        FT_Vector control1 = vector(points[0]), control2 = vector(points[1]);
+        at = vector(points[2]);
+        points += 3;
+        FT_Stroker_CubicTo(stroker, &control1, &control2, &at);
+    }
+    FT_Stroker_EndSubPath(stroker);
+}
+
+void StrokeOutliner::Stroker::appendTo(Path& result) const {
+    FT_UInt pointCount = 0, contourCount = 0;
+    if (FT_Stroker_GetCounts(stroker, &pointCount, &contourCount) != 0 || pointCount > maximumPointCount) return;
+    FT_Outline outline;
+    if (FT_Outline_New(library, pointCount, FT_Int(contourCount), &outline) != 0) return;
+    outline.n_points = 0;
+    outline.n_contours = 0;
+    FT_Stroker_Export(stroker, &outline);
+
+    using Target = std::pair<const Stroker&, Path&>;
+    Target target{*this, result};
+    FT_Outline_Funcs functions{};
+    functions.move_to = [](const FT_Vector* to, void* user) {
+        const auto& [from, path] = *static_cast<Target*>(user);
+        return path.moveTo(from.point(*to)), 0;
+    };
+    functions.line_to = [](const FT_Vector* to, void* user) {
+        const auto& [from, path] = *static_cast<Target*>(user);
+        return path.lineTo(from.point(*to)), 0;
+    };
+    functions.cubic_to = [](const FT_Vector* control1, const FT_Vector* control2, const FT_Vector* to, void* user) {
+        const auto& [from, path] = *static_cast<Target*>(user);
+        return path.cubicTo(from.point(*control1), from.point(*control2), from.point(*to)), 0;
+    };
+    // The stroker makes none of these.
+    functions.conic_to = [](const FT_Vector*, const FT_Vector*, void*) { return 1; };
+    FT_Outline_Decompose(&outline, &functions, &target);
+    FT_Outline_Done(library, &outline);
+}
+
+StrokeOutliner::StrokeOutliner() = default;
+StrokeOutliner::~StrokeOutliner() = default;
+
+Path StrokeOutliner::outline(const Path& path, Stroke stroke, double scale) {
+    if (!m_stroker) m_stroker = std::make_unique<Stroker>();
+    m_stroker->begin(stroke, scale);
+    Path result;
+    for (const Part& part : partsOf(path)) {
+        const std::span verbs(path.verbs().data() + part.firstVerb, part.endVerb - part.firstVerb);
+        FT_Stroker_Rewind(m_stroker->stroker);
+        m_stroker->addPart(verbs, path.points().data() + part.firstPoint, part.isClosed);
+        m_stroker->appendTo(result);
+    }
+    return result;
+}
+
+} // namespace proupsells::rasterbackend
