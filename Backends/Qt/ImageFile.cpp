@@ -1,10 +1,10 @@
 #include "Backends/Qt/ImageFile.hpp"
 
-#include <QFile>
 #include <QImageReader>
-#include <QPainter>
-#include <QSvgRenderer>
-#include <QXmlStreamReader>
+
+#include "Backends/Qt/VectorFile.hpp"
+#include "Backends/Raster/PictureFile.hpp"
+#include "Platform/Graphics/PictureHeader.hpp"
 
 namespace proupsells::qtbackend {
 
@@ -12,52 +12,24 @@ namespace {
 
 QString toQString(const std::filesystem::path& path) { return QString::fromStdU16String(path.u16string()); }
 
-bool isVector(const std::filesystem::path& file) { return toQString(file.extension()).compare(".svg", Qt::CaseInsensitive) == 0; }
-
-// "24", "24px" and "24pt" are 24 points. Absent for shares and what is no length.
-std::optional<double> length(QStringView text) {
-    text = text.trimmed();
-    if (text.endsWith(QLatin1String("px")) || text.endsWith(QLatin1String("pt"))) text.chop(2);
-    bool isNumber = false;
-    const double value = text.toDouble(&isNumber);
-    if (!isNumber || !(value > 0)) return std::nullopt;
-    return value;
+bool isPictureFile(const std::filesystem::path& file) {
+    return file.extension().string() == "." + std::string(graphics::PictureHeader::fileExtension);
 }
 
-std::optional<geometry::Size> vectorSize(const std::filesystem::path& file) {
-    QFile device(toQString(file));
-    if (!device.open(QIODevice::ReadOnly)) return std::nullopt;
-    QXmlStreamReader reader(&device);
-    if (!reader.readNextStartElement() || reader.name() != QLatin1String("svg")) return std::nullopt;
-    const QXmlStreamAttributes attributes = reader.attributes();
-    const std::optional<double> width = length(attributes.value("width")), height = length(attributes.value("height"));
-    if (width && height) return geometry::Size{*width, *height};
-
-    const QStringList box = attributes.value("viewBox").toString().replace(',', ' ').simplified().split(' ');
-    if (box.size() != 4) return std::nullopt;
-    const std::optional<double> boxWidth = length(box[2]), boxHeight = length(box[3]);
-    if (!boxWidth || !boxHeight) return std::nullopt;
-    return geometry::Size{*boxWidth, *boxHeight};
-}
-
-QImage renderVector(const std::filesystem::path& file, QSize size) {
-    QSvgRenderer renderer(toQString(file));
-    if (!renderer.isValid()) return {};
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    if (image.isNull()) return {};
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    renderer.setAspectRatioMode(Qt::IgnoreAspectRatio);
-    renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
-    return image;
+// Shares the pixels.
+QImage toQImage(rasterbackend::Picture picture) {
+    if (picture.isNull()) return {};
+    auto* const owner = new rasterbackend::Picture(std::move(picture));
+    return QImage(
+        reinterpret_cast<const uchar*>(std::as_const(*owner).row(0)), owner->width(), owner->height(), owner->width() * 4,
+        QImage::Format_ARGB32_Premultiplied, [](void* owner) { delete static_cast<rasterbackend::Picture*>(owner); }, owner);
 }
 
 } // namespace
 
 std::optional<geometry::Size> naturalImageSize(const std::filesystem::path& file) {
-    if (isVector(file)) return vectorSize(file);
+    if (isPictureFile(file)) return rasterbackend::naturalPictureSize(file);
+    if (isVectorFile(file)) return vectorSize(file);
     QImageReader reader(toQString(file));
     QSize size = reader.size();
     if (!reader.canRead() || !size.isValid()) return std::nullopt;
@@ -67,7 +39,8 @@ std::optional<geometry::Size> naturalImageSize(const std::filesystem::path& file
 
 QImage readImage(const std::filesystem::path& file, QSize size) {
     if (size.isEmpty()) return {};
-    if (isVector(file)) return renderVector(file, size);
+    if (isPictureFile(file)) return toQImage(rasterbackend::readPicture(file, size.width(), size.height()));
+    if (isVectorFile(file)) return renderVector(file, size);
     QImageReader reader(toQString(file));
     reader.setAutoTransform(true);
     const QImage image = reader.read();

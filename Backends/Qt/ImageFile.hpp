@@ -1,4 +1,4 @@
-// Pictures in files: vector (SVG) or pixels (PNG, JPEG).
+// Pictures in files: those that the build has made, vectors (SVG), pixels (PNG, JPEG).
 #pragma once
 
 #include <QImage>
