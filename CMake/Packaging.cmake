@@ -37,7 +37,7 @@ function(proupsells_add_library name)
     FILE_SET umbrella DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/proupsells COMPONENT Headers)
 endfunction()
 
-# proupsells_install_package(): the files that find_package(ProUpsells) reads, and the resources.
+# proupsells_install_package(): the files that find_package(ProUpsells) reads.
 # PublicHeaders.txt in the build folder then names what the libraries install, a header a line.
 function(proupsells_install_package)
   get_property(headers GLOBAL PROPERTY PROUPSELLS_PUBLIC_HEADERS)
@@ -51,8 +51,4 @@ function(proupsells_install_package)
   write_basic_package_version_file("${PROJECT_BINARY_DIR}/ProUpsellsConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
   install(FILES "${PROJECT_BINARY_DIR}/ProUpsellsConfig.cmake" "${PROJECT_BINARY_DIR}/ProUpsellsConfigVersion.cmake"
     DESTINATION ${destination})
-  install(DIRECTORY "${PROJECT_SOURCE_DIR}/ProUpsells/Resources/" DESTINATION ${CMAKE_INSTALL_DATADIR}/proupsells/ProUpsells
-    PATTERN "*.md" EXCLUDE)
-  install(DIRECTORY "${PROJECT_SOURCE_DIR}/Platform/VelaUIKit/Resources/" DESTINATION ${CMAKE_INSTALL_DATADIR}/proupsells/VelaUIKit
-    PATTERN "*.md" EXCLUDE)
 endfunction()

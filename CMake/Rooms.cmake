@@ -60,6 +60,9 @@ function(proupsells_link_rooms target)
     target_link_libraries(${target} PRIVATE ${room})
   endforeach()
   target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}")
+  if(PlatformLumoKit IN_LIST closure)
+    add_dependencies(${target} ProUpsellsResources)
+  endif()
 endfunction()
 
 # proupsells_add_tests(<name> <folder> ROOMS <room>... [LIBRARIES <target>...] [PRECOMPILED <header>...]): the headers are those that

@@ -7,6 +7,8 @@
 #include <fstream>
 #include <string>
 
+#include "Platform/Graphics/PictureHeader.hpp"
+
 namespace proupsells::headless {
 
 namespace {
@@ -172,6 +174,8 @@ std::optional<Size> ImageSizeReader::naturalSize(const std::filesystem::path& fi
     std::string contents(maximumHeaderLength, '\0');
     stream.read(contents.data(), std::streamsize(contents.size()));
     contents.resize(std::size_t(std::max<std::streamsize>(0, stream.gcount())));
+    const std::uint64_t fileSize = std::filesystem::file_size(file, error);
+    if (const auto header = graphics::PictureHeader::parse(contents, error ? 0 : fileSize)) return header->naturalSize;
     if (const auto size = pngSize(contents)) return size;
     return svgSize(contents);
 }

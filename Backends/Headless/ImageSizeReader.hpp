@@ -7,7 +7,8 @@
 
 namespace proupsells::headless {
 
-// Knows SVG (the root element's width and height, or its view box) and PNG (a pixel is a point).
+// Knows the pictures that the build has made, SVG (the root element's width and height, or its view box) and PNG (a pixel is a
+// point).
 class ImageSizeReader final : public host::ImageDecoder {
 public:
     std::optional<geometry::Size> naturalSize(const std::filesystem::path& file) override;

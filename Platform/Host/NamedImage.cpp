@@ -4,6 +4,7 @@
 #include <tuple>
 
 #include "Platform/Commons/FatalError.hpp"
+#include "Platform/Graphics/PictureHeader.hpp"
 #include "Platform/Host/Services.hpp"
 
 namespace proupsells::host {
@@ -14,8 +15,14 @@ namespace {
     commons::fatalError("There is no image \"" + name + "\" in " + bundle.folder().string());
 }
 
+// The picture that the build has made, or what it is made of.
+std::optional<std::filesystem::path> pictureFile(const std::string& name, const foundation::Bundle& bundle) {
+    const auto file = bundle.pathForResource(name, graphics::PictureHeader::fileExtension);
+    return file ? file : bundle.pathForResource(name, "svg");
+}
+
 graphics::ImageRef readImage(const std::string& name, const foundation::Bundle& bundle, graphics::RenderingMode renderingMode) {
-    const auto file = bundle.pathForResource(name, "svg");
+    const auto file = pictureFile(name, bundle);
     if (!file) failToFind(name, bundle);
     const auto& decoder = Installation::current().imageDecoder;
     const auto size = decoder ? decoder->naturalSize(*file) : std::nullopt;
@@ -25,7 +32,7 @@ graphics::ImageRef readImage(const std::string& name, const foundation::Bundle& 
     image->name = name;
     image->size = *size;
     image->file = *file;
-    image->darkFile = bundle.pathForResource(name + "~dark", "svg");
+    image->darkFile = pictureFile(name + "~dark", bundle);
     image->renderingMode = renderingMode;
     return image;
 }

@@ -8,8 +8,8 @@
 
 namespace proupsells::host {
 
-// The image in `name`.svg of the bundle, with `name`~dark.svg beside it for the dark appearance if there is one. Read once, the
-// same object on every later call. A missing or unreadable asset stops the program.
+// The image in `name`.picture of the bundle, or else in `name`.svg, with `name`~dark beside it for the dark appearance if there is
+// one. Read once, the same object on every later call. A missing or unreadable asset stops the program.
 graphics::ImageRef namedImage(const std::string& name, const foundation::Bundle& bundle,
                               graphics::RenderingMode renderingMode = graphics::RenderingMode::original);
 

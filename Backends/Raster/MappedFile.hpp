@@ -1,0 +1,24 @@
+// A file's bytes, read when they are looked at.
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace proupsells::rasterbackend {
+
+class MappedFile {
+public:
+    // Has no bytes where the file is empty, absent, no regular file or cannot be read.
+    explicit MappedFile(const std::filesystem::path& file);
+    ~MappedFile();
+    MappedFile(const MappedFile&) = delete;
+    MappedFile& operator=(const MappedFile&) = delete;
+
+    // Good as long as this lives.
+    std::string_view bytes() const { return m_bytes; }
+
+private:
+    std::string_view m_bytes;
+};
+
+} // namespace proupsells::rasterbackend

@@ -1,0 +1,53 @@
+# The resources as programs find them: the folder share/proupsells beside the one of the programs has a folder for each library, with
+# pictures that are ready to show in place of the vector files, and links to everything else.
+
+include_guard(GLOBAL)
+
+add_custom_target(ProUpsellsResources ALL)
+
+# proupsells_add_resources(<name> <folder> [SIZES <picture>:<width>x<height>...])
+# The resources of a library. SIZES are those in points, beside their natural ones, at which pictures are shown.
+function(proupsells_add_resources name folder)
+  cmake_parse_arguments(RESOURCES "" "" "SIZES" ${ARGN})
+  set(from "${PROJECT_SOURCE_DIR}/${folder}")
+  set(installed ${CMAKE_INSTALL_DATADIR}/proupsells/${name})
+  if(NOT PROUPSELLS_BACKENDS)
+    install(DIRECTORY "${from}/" DESTINATION ${installed} PATTERN "*.md" EXCLUDE)
+    return()
+  endif()
+
+  cmake_path(SET to NORMALIZE "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/../share/proupsells/${name}")
+  file(MAKE_DIRECTORY "${to}/Images")
+  file(GLOB others CONFIGURE_DEPENDS "${from}/*")
+  list(FILTER others EXCLUDE REGEX "/Images$|\\.md$")
+  foreach(other IN LISTS others)
+    cmake_path(GET other FILENAME file)
+    file(CREATE_LINK "${other}" "${to}/${file}" SYMBOLIC)
+  endforeach()
+
+  file(GLOB vectors CONFIGURE_DEPENDS "${from}/Images/*.svg")
+  set(pictures)
+  foreach(vector IN LISTS vectors)
+    cmake_path(GET vector STEM LAST_ONLY picture)
+    set(sizes ${RESOURCES_SIZES})
+    string(REPLACE "~dark" "" name_of_both "${picture}")
+    list(FILTER sizes INCLUDE REGEX "^${name_of_both}:")
+    list(TRANSFORM sizes REPLACE "^.*:" "")
+    set(file "${to}/Images/${picture}.picture")
+    add_custom_command(OUTPUT "${file}" COMMAND MakePictures "${vector}" "${file}" ${sizes}
+      DEPENDS MakePictures "${vector}"
+      COMMENT "Drawing ${picture}" VERBATIM)
+    list(APPEND pictures "${file}")
+  endforeach()
+  # What was made of a vector file that is gone.
+  file(GLOB made "${to}/Images/*.picture")
+  list(REMOVE_ITEM made ${pictures})
+  if(made)
+    file(REMOVE ${made})
+  endif()
+
+  add_custom_target(${name}Pictures DEPENDS ${pictures})
+  add_dependencies(ProUpsellsResources ${name}Pictures)
+  install(DIRECTORY "${from}/" DESTINATION ${installed} PATTERN "*.md" EXCLUDE PATTERN "*.svg" EXCLUDE)
+  install(FILES ${pictures} DESTINATION ${installed}/Images)
+endfunction()

@@ -1,0 +1,96 @@
+// Makes a picture file of a vector file.
+//
+//   MakePictures IN.svg OUT.picture [WIDTHxHEIGHT...]
+//
+// The picture is drawn at 1, 2 and 3 pixels a point: over its natural size, and over each further size in points. Pictures with
+// texts in them are refused: what they look like would depend on the fonts of this machine.
+#include <charconv>
+#include <cmath>
+#include <cstring>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+
+#include "Tools/MakePictures/VectorFile.hpp"
+#include "Backends/Raster/PictureCodec.hpp"
+#include "Platform/Graphics/PictureHeader.hpp"
+
+using namespace proupsells;
+
+namespace {
+
+using geometry::Size;
+using graphics::PictureHeader;
+using rasterbackend::Picture;
+using rasterbackend::Pixel;
+
+constexpr int scales[] = {1, 2, 3};
+
+std::optional<Size> parsedSize(std::string_view text) {
+    Size size;
+    const char* const end = text.data() + text.size();
+    const auto [cross, widthError] = std::from_chars(text.data(), end, size.width);
+    if (widthError != std::errc() || cross == end || *cross != 'x') return std::nullopt;
+    const auto [rest, heightError] = std::from_chars(cross + 1, end, size.height);
+    if (heightError != std::errc() || rest != end || !(size.width > 0 && size.height > 0)) return std::nullopt;
+    return size;
+}
+
+bool hasText(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    const std::string contents{std::istreambuf_iterator<char>(stream), {}};
+    return contents.find("<text") != std::string::npos;
+}
+
+Picture picture(const QImage& image) {
+    Picture picture(image.width(), image.height());
+    for (int y = 0; y < picture.height(); ++y)
+        std::memcpy(picture.row(y), image.constScanLine(y), std::size_t(picture.width()) * sizeof(Pixel));
+    return picture;
+}
+
+// Empty where the picture cannot be drawn.
+std::string pictureFile(const std::filesystem::path& file, const std::vector<Size>& sizes) {
+    PictureHeader header{sizes.front(), {}};
+    std::string pixels;
+    std::size_t offset = PictureHeader::byteCount(sizes.size() * std::size(scales));
+    for (const Size& size : sizes)
+        for (const int scale : scales) {
+            const QImage image =
+                makepictures::renderVector(file, {int(std::lround(size.width * scale)), int(std::lround(size.height * scale))});
+            if (image.isNull()) return {};
+            const std::string bytes = rasterbackend::compressed(picture(image));
+            header.variants.push_back({std::uint32_t(image.width()), std::uint32_t(image.height()),
+                                       std::uint32_t(offset + pixels.size()), std::uint32_t(bytes.size())});
+            pixels += bytes;
+        }
+    return header.bytes() + pixels;
+}
+
+int fail(const std::string& complaint) {
+    std::cerr << "MakePictures: " << complaint << '\n';
+    return 1;
+}
+
+} // namespace
+
+int main(int count, char** arguments) {
+    if (count < 3) return fail("usage: MakePictures IN.svg OUT.picture [WIDTHxHEIGHT...]");
+    const std::filesystem::path in = arguments[1], out = arguments[2];
+
+    const std::optional<Size> naturalSize = makepictures::vectorSize(in);
+    if (!naturalSize) return fail(in.string() + " has no size");
+    if (hasText(in)) return fail(in.string() + " has text in it; make outlines of it");
+    std::vector<Size> sizes{*naturalSize};
+    for (int index = 3; index < count; ++index) {
+        const std::optional<Size> size = parsedSize(arguments[index]);
+        if (!size) return fail(std::string(arguments[index]) + " is no size");
+        sizes.push_back(*size);
+    }
+
+    const std::string bytes = pictureFile(in, sizes);
+    if (bytes.empty()) return fail(in.string() + " cannot be drawn");
+    std::ofstream stream(out, std::ios::binary);
+    if (!stream.write(bytes.data(), std::streamsize(bytes.size())).flush()) return fail(out.string() + " cannot be written");
+    return 0;
+}
