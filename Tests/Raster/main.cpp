@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "Backends/Icu/IcuLocaleServices.hpp"
+#include "Platform/Foundation/Locale.hpp"
 
 using namespace proupsells;
 

@@ -1,0 +1,136 @@
+#include "Backends/Raster/FontCatalog.hpp"
+
+#include <algorithm>
+
+#include "Backends/Raster/FallbackLanguage.hpp"
+#include "Platform/Commons/DefaultLogger.hpp"
+
+namespace proupsells::rasterbackend {
+
+namespace {
+
+const char* const defaultFamily = "Inter";
+constexpr double usualAscent = 0.97, usualDescent = 0.24; // where there is no font to ask
+
+void report(const std::string& message, std::string_view function) {
+    commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity, message, function);
+}
+
+} // namespace
+
+bool shows(const FontFile& font, std::u32string_view characters) {
+    const auto coversAll = [&](std::u32string_view spelling) {
+        return std::all_of(spelling.begin(), spelling.end(), [&](char32_t c) { return font.covers(c); });
+    };
+    return coversAll(characters) || coversAll(composed(characters)) || coversAll(decomposed(characters));
+}
+
+FontCatalog::FontCatalog(FontSources sources)
+    : m_shipped(facesInFolder(sources.shippedFaces)), m_system(std::move(sources.systemConfiguration)) {}
+
+void FontCatalog::registerFace(std::string family, int weight, std::filesystem::path file) {
+    const FaceFile face{std::move(family), weight, std::move(file)};
+    if (!open(face, weight)) return report("The file " + face.path.string() + " is no font", "FontCatalog::registerFace");
+    m_registered.push_back(face);
+    m_faces.clear();
+    m_fallbacks.clear();
+}
+
+const CatalogFace& FontCatalog::face(const graphics::FontFace* face) {
+    const auto found = m_faces.find(face);
+    if (found != m_faces.end()) return found->second;
+    return m_faces.emplace(face, face ? find(face->family, face->weight) : find(defaultFamily, 400)).first->second;
+}
+
+CatalogFace FontCatalog::find(const std::string& family, int weight) {
+    GlyphTableRef font = findFont(family, weight);
+    if (!font) font = standIn(family, weight);
+    if (!font) return {nullptr, weight, usualAscent, usualDescent};
+    return {font, weight, font->file().ascent(), font->file().descent()};
+}
+
+// A face of exactly this weight, from the first source that has one; else the nearest of all.
+GlyphTableRef FontCatalog::findFont(const std::string& family, int weight) {
+    std::vector<FaceFile> faces = m_registered;
+    faces.insert(faces.end(), m_shipped.begin(), m_shipped.end());
+    const FaceFile* nearest = nearestFace(faces, family, weight);
+    if (!nearest || nearest->weight != weight) {
+        const std::vector<FaceFile> installed = m_system.facesOf(family);
+        faces.insert(faces.end(), installed.begin(), installed.end());
+        nearest = nearestFace(faces, family, weight);
+    }
+    return nearest ? open(*nearest, weight) : nullptr;
+}
+
+GlyphTableRef FontCatalog::standIn(const std::string& missingFamily, int weight) {
+    GlyphTableRef font;
+    std::string family = defaultFamily;
+    if (const FaceFile* face = nearestFace(m_shipped, family, weight)) {
+        font = open(*face, weight);
+    } else if (const std::optional<FaceFile> installed = m_system.faceFor(U"a", {}, weight)) {
+        font = open(*installed, weight);
+        family = installed->family;
+    }
+    if (std::find(m_missingFamilies.begin(), m_missingFamilies.end(), missingFamily) != m_missingFamilies.end()) return font;
+    m_missingFamilies.push_back(missingFamily);
+    const std::string consequence = font ? "; \"" + family + "\" stands in for it" : ", and no other is; texts stay empty";
+    report("The font family \"" + missingFamily + "\" is not installed" + consequence, "FontCatalog::standIn");
+    return font;
+}
+
+// Null where the file is no font.
+const GlyphTableRef& FontCatalog::open(const FaceFile& face, int weight) {
+    GlyphTableRef& font = m_fonts[{face.path.string(), face.index, weight}];
+    if (!font)
+        if (auto file = FontFile::open(face.path, face.index, weight)) font = std::make_shared<GlyphTable>(std::move(file));
+    return font;
+}
+
+const GlyphTableRef& FontCatalog::fallback(const CatalogFace& face, const CharacterNeeds& needs, const std::string& language,
+                                           const std::string& script) {
+    FallbackKey key{face.font.get(), face.weight, needs.presentation, needs.characters, language, script};
+    const auto found = m_fallbacks.find(key);
+    if (found != m_fallbacks.end()) return found->second;
+    return m_fallbacks.emplace(std::move(key), findFallback(face, needs, fallbackLanguage(language, script))).first->second;
+}
+
+GlyphTableRef FontCatalog::findFallback(const CatalogFace& face, const CharacterNeeds& needs, const std::string& language) {
+    const auto isShownByFace = [&](std::u32string_view characters) { return face.font && shows(face.font->file(), characters); };
+    if (needs.presentation != Presentation::text)
+        if (GlyphTableRef font = emojiShowing(needs.characters)) return font;
+    if (isShownByFace(needs.characters)) return face.font;
+    if (GlyphTableRef font = fontShowing(needs.characters, language, face.weight)) return font;
+    // A letter without its mark says more than nothing.
+    const std::u32string_view base = std::u32string_view(needs.characters).substr(0, 1);
+    if (isShownByFace(base) || needs.characters.size() < 2) return face.font;
+    const GlyphTableRef font = fontShowing(base, language, face.weight);
+    return font ? font : face.font;
+}
+
+GlyphTableRef FontCatalog::emojiShowing(std::u32string_view characters) {
+    for (const FaceFile& face : m_registered) {
+        const GlyphTableRef& font = open(face, face.weight);
+        if (font->file().hasPictures() && shows(font->file(), characters)) return font;
+    }
+    const std::optional<FaceFile> installed = m_system.emojiFor(characters);
+    return installed ? open(*installed, installed->weight) : nullptr;
+}
+
+GlyphTableRef FontCatalog::fontShowing(std::u32string_view characters, const std::string& language, int weight) {
+    const auto shown = [&](const FaceFile* face) -> GlyphTableRef {
+        const GlyphTableRef font = face ? open(*face, weight) : nullptr;
+        return font && shows(font->file(), characters) ? font : nullptr;
+    };
+    for (const FaceFile& face : m_registered)
+        if (GlyphTableRef font = shown(nearestFace(m_registered, face.family, weight))) return font;
+    if (GlyphTableRef font = shown(nearestFace(m_shipped, defaultFamily, weight))) return font;
+    if (const std::optional<FaceFile> installed = m_system.faceFor(characters, language, weight)) return open(*installed, weight);
+    if (!m_hasReportedEmptySystem && m_system.isEmpty()) {
+        m_hasReportedEmptySystem = true;
+        report("No fonts are installed; characters that the module's own fonts lack are shown as boxes",
+               "FontCatalog::fontShowing");
+    }
+    return nullptr;
+}
+
+} // namespace proupsells::rasterbackend

@@ -1,0 +1,90 @@
+// The fonts that stand for the registered faces, and for the characters that those lack.
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <unordered_map>
+#include <vector>
+
+#include "Backends/Raster/CharacterNeeds.hpp"
+#include "Backends/Raster/FaceFile.hpp"
+#include "Backends/Raster/FaceFolder.hpp"
+#include "Backends/Raster/GlyphTable.hpp"
+#include "Backends/Raster/SystemFonts.hpp"
+#include "Platform/Graphics/Font.hpp"
+
+namespace proupsells::rasterbackend {
+
+using GlyphTableRef = std::shared_ptr<GlyphTable>;
+
+// Where fonts come from, beside the ones that a host registers.
+struct FontSources {
+    std::filesystem::path shippedFaces = shippedFaceFolder();
+    std::filesystem::path systemConfiguration; // a file for fontconfig; empty: the system's own
+};
+
+struct CatalogFace {
+    GlyphTableRef font; // null where there is no font at all
+    int weight = 400;
+    double ascent = 0;  // ems
+    double descent = 0; // ems
+};
+
+// Asks the faces that a host registered first, then the ones that travel with the module, and the system only where those do not
+// do.
+class FontCatalog {
+public:
+    explicit FontCatalog(FontSources sources);
+
+    // Texts that are shaped from now on know the face. A file that is no font is reported and left out.
+    void registerFace(std::string family, int weight, std::filesystem::path file);
+
+    // The face's font; null asks for the default face. A family that is nowhere to be found is reported once and replaced. The
+    // address is good until a face is registered.
+    const CatalogFace& face(const graphics::FontFace* face);
+
+    // The font for a cluster that needs more than the face's own font has, or coloured emoji. `script` is a code such as "Deva";
+    // with the language it says which form of a letter is wanted. The face's own font where nothing shows the cluster.
+    const GlyphTableRef& fallback(const CatalogFace& face, const CharacterNeeds& needs, const std::string& language,
+                                  const std::string& script);
+
+private:
+    struct FallbackKey {
+        const GlyphTable* font;
+        int weight;
+        Presentation presentation;
+        std::u32string characters;
+        std::string language, script;
+
+        bool operator==(const FallbackKey&) const = default;
+        struct Hash {
+            std::size_t operator()(const FallbackKey& key) const { return std::hash<std::u32string>()(key.characters); }
+        };
+    };
+
+    CatalogFace find(const std::string& family, int weight);
+    GlyphTableRef findFont(const std::string& family, int weight);
+    GlyphTableRef standIn(const std::string& missingFamily, int weight);
+    const GlyphTableRef& open(const FaceFile& face, int weight);
+    GlyphTableRef findFallback(const CatalogFace& face, const CharacterNeeds& needs, const std::string& language);
+    GlyphTableRef emojiShowing(std::u32string_view characters);
+    GlyphTableRef fontShowing(std::u32string_view characters, const std::string& language, int weight);
+
+    std::vector<FaceFile> m_registered;
+    std::vector<FaceFile> m_shipped;
+    SystemFonts m_system;
+    std::unordered_map<const graphics::FontFace*, CatalogFace> m_faces;
+    std::unordered_map<FallbackKey, GlyphTableRef, FallbackKey::Hash> m_fallbacks;
+    std::map<std::tuple<std::string, int, int>, GlyphTableRef> m_fonts; // by path, index and weight
+    std::vector<std::string> m_missingFamilies;
+    bool m_hasReportedEmptySystem = false;
+};
+
+// Whether a font has the characters, in whichever of their equal spellings.
+bool shows(const FontFile& font, std::u32string_view characters);
+
+} // namespace proupsells::rasterbackend

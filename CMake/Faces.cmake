@@ -1,0 +1,67 @@
+# The faces that travel with the module: those that the design system names, cut down to Latin, Greek, Cyrillic and symbols.
+
+include_guard(GLOBAL)
+
+set(PROUPSELLS_TYPEFACES "/usr/share/fonts/opentype" CACHE PATH "Where the folders of the typefaces Inter and Sora lie")
+set(PROUPSELLS_TYPEFACE_LICENCES "/usr/share/doc" CACHE PATH "Where the folders fonts-inter and fonts-sora with their copyrights lie")
+
+set(PROUPSELLS_FACE_CHARACTERS
+  U+0020-052F,U+1C80-1C8F,U+1D00-1FFF,U+2000-2BFF,U+2C60-2C7F,U+2DE0-2E7F,U+A640-A69F,U+A700-A7FF,U+AB30-AB6F,U+FB00-FB06,U+FE00-FE0F,U+FFFC-FFFD,U+1F100-1F1FF,U+1F800-1F8FF)
+
+# proupsells_find_fonttools(<variable>): a Python that has fontTools; not every Python on the path has it.
+function(proupsells_find_fonttools variable)
+  find_package(Python3 REQUIRED COMPONENTS Interpreter)
+  foreach(python IN ITEMS "${Python3_EXECUTABLE}" /usr/bin/python3)
+    execute_process(COMMAND "${python}" -c "import fontTools.subset" RESULT_VARIABLE is_missing OUTPUT_QUIET ERROR_QUIET)
+    if(is_missing EQUAL 0)
+      set(${variable} "${python}" PARENT_SCOPE)
+      return()
+    endif()
+  endforeach()
+  message(FATAL_ERROR "The faces are made with fontTools: install python3-fonttools")
+endfunction()
+
+# proupsells_add_face(<source> <family> <weight>): adds "<family>-<weight>.otf" to PROUPSELLS_FACE_FILES. The file's name is how the
+# program tells the faces apart.
+function(proupsells_add_face source family weight)
+  set(face "${PROUPSELLS_FACES}/${family}-${weight}.otf")
+  add_custom_command(OUTPUT "${face}"
+    COMMAND "${CMAKE_COMMAND}" -E make_directory "${PROUPSELLS_FACES}"
+    # Glyphs are never hinted. The time in the file stays the typeface's own, so that two builds are alike.
+    COMMAND "${PROUPSELLS_FONTTOOLS}" -m fontTools.subset "${PROUPSELLS_TYPEFACES}/${source}" "--output-file=${face}"
+      "--unicodes=${PROUPSELLS_FACE_CHARACTERS}" "--layout-features=*" "--name-IDs=*" --notdef-outline --no-hinting
+      --drop-tables+=GlyphOrder --no-recalc-timestamp
+    DEPENDS "${PROUPSELLS_TYPEFACES}/${source}" "${PROJECT_SOURCE_DIR}/CMake/Faces.cmake"
+    COMMENT "Cutting ${family} ${weight}" VERBATIM)
+  set(PROUPSELLS_FACE_FILES ${PROUPSELLS_FACE_FILES} "${face}" PARENT_SCOPE)
+endfunction()
+
+# proupsells_add_faces(): the target ProUpsellsFaces fills PROUPSELLS_FACES, the folder share/proupsells/Fonts beside the programs'.
+function(proupsells_add_faces)
+  cmake_path(GET CMAKE_RUNTIME_OUTPUT_DIRECTORY PARENT_PATH beside_programs)
+  set(PROUPSELLS_FACES "${beside_programs}/share/proupsells/Fonts")
+  proupsells_find_fonttools(PROUPSELLS_FONTTOOLS)
+  set(PROUPSELLS_FACE_FILES)
+  foreach(face IN ITEMS Regular=400 Medium=500 SemiBold=600 Bold=700)
+    string(REPLACE "=" ";" face "${face}")
+    list(GET face 0 style)
+    list(GET face 1 weight)
+    proupsells_add_face("inter/Inter-${style}.otf" "Inter" ${weight})
+    if(NOT weight EQUAL 600)
+      proupsells_add_face("inter/InterDisplay-${style}.otf" "Inter Display" ${weight})
+    endif()
+    if(weight GREATER_EQUAL 600)
+      proupsells_add_face("sora/Sora-${style}.otf" "Sora" ${weight})
+    endif()
+  endforeach()
+  foreach(package IN ITEMS fonts-inter fonts-sora)
+    set(licence "${PROUPSELLS_FACES}/${package}.copyright")
+    add_custom_command(OUTPUT "${licence}"
+      COMMAND "${CMAKE_COMMAND}" -E copy "${PROUPSELLS_TYPEFACE_LICENCES}/${package}/copyright" "${licence}"
+      DEPENDS "${PROUPSELLS_TYPEFACE_LICENCES}/${package}/copyright" VERBATIM)
+    list(APPEND PROUPSELLS_FACE_FILES "${licence}")
+  endforeach()
+  add_custom_target(ProUpsellsFaces ALL DEPENDS ${PROUPSELLS_FACE_FILES})
+  install(FILES ${PROUPSELLS_FACE_FILES} DESTINATION ${CMAKE_INSTALL_DATADIR}/proupsells/Fonts)
+  set(PROUPSELLS_FACES "${PROUPSELLS_FACES}" PARENT_SCOPE)
+endfunction()
