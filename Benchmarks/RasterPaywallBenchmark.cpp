@@ -21,6 +21,18 @@ void warmOpenToFullFrame(benchmark::State& state) {
 }
 BENCHMARK(warmOpenToFullFrame)->Unit(benchmark::kMicrosecond);
 
+// What the first paywall of a process costs: nothing is decoded, shaped texts and fonts are there.
+void firstOpenToFullFrame(benchmark::State& state) {
+    QtMachine machine;
+    for (auto _ : state) {
+        PaywallWindow window;
+        qtbackend::RasterSurface surface(std::make_shared<qtbackend::RasterPainter>());
+        surface.present(window.paint(), size, scale);
+        benchmark::DoNotOptimize(surface.image().constBits());
+    }
+}
+BENCHMARK(firstOpenToFullFrame)->Unit(benchmark::kMicrosecond);
+
 void tapToNewFrame(benchmark::State& state) {
     RasterMachine machine;
     PaywallWindow window;

@@ -2,6 +2,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "Backends/Headless/ImageSizeReader.hpp"
+#include "Platform/Graphics/PictureHeader.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
 
@@ -75,6 +76,14 @@ TEST(ImageSizeReader, ReadsFiles) {
     std::filesystem::remove(file);
     EXPECT_EQ(ImageSizeReader().naturalSize(file), std::nullopt);
     EXPECT_EQ(ImageSizeReader().naturalSize(folder.path()), std::nullopt);
+}
+
+TEST(ImageSizeReader, ReadsPicturesThatTheBuildHasMade) {
+    const tests::TemporaryFolder folder;
+    const graphics::PictureHeader header{{7.5, 8}, {{8, 8, 36, 4}}};
+
+    EXPECT_EQ(ImageSizeReader().naturalSize(folder.write("whole.picture", header.bytes() + "four")), (Size{7.5, 8}));
+    EXPECT_EQ(ImageSizeReader().naturalSize(folder.write("cut off.picture", header.bytes() + "no")), std::nullopt);
 }
 
 RC_GTEST_PROP(SvgSizeInvariants, SurvivesWhateverItIsGivenAndNeverAnswersWithASizeOfNothing, ()) {

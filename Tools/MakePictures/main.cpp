@@ -11,16 +11,14 @@
 #include <iostream>
 #include <iterator>
 
+#include "Backends/Raster/PictureWriter.hpp"
 #include "Tools/MakePictures/VectorFile.hpp"
-#include "Backends/Raster/PictureCodec.hpp"
-#include "Platform/Graphics/PictureHeader.hpp"
 
 using namespace proupsells;
 
 namespace {
 
 using geometry::Size;
-using graphics::PictureHeader;
 using rasterbackend::Picture;
 using rasterbackend::Pixel;
 
@@ -49,22 +47,17 @@ Picture picture(const QImage& image) {
     return picture;
 }
 
-// Empty where the picture cannot be drawn.
-std::string pictureFile(const std::filesystem::path& file, const std::vector<Size>& sizes) {
-    PictureHeader header{sizes.front(), {}};
-    std::string pixels;
-    std::size_t offset = PictureHeader::byteCount(sizes.size() * std::size(scales));
+// Empty where it cannot be drawn.
+std::vector<Picture> drawn(const std::filesystem::path& file, const std::vector<Size>& sizes) {
+    std::vector<Picture> pictures;
     for (const Size& size : sizes)
         for (const int scale : scales) {
             const QImage image =
                 makepictures::renderVector(file, {int(std::lround(size.width * scale)), int(std::lround(size.height * scale))});
             if (image.isNull()) return {};
-            const std::string bytes = rasterbackend::compressed(picture(image));
-            header.variants.push_back({std::uint32_t(image.width()), std::uint32_t(image.height()),
-                                       std::uint32_t(offset + pixels.size()), std::uint32_t(bytes.size())});
-            pixels += bytes;
+            pictures.push_back(picture(image));
         }
-    return header.bytes() + pixels;
+    return pictures;
 }
 
 int fail(const std::string& complaint) {
@@ -88,8 +81,9 @@ int main(int count, char** arguments) {
         sizes.push_back(*size);
     }
 
-    const std::string bytes = pictureFile(in, sizes);
-    if (bytes.empty()) return fail(in.string() + " cannot be drawn");
+    const std::vector<Picture> pictures = drawn(in, sizes);
+    if (pictures.empty()) return fail(in.string() + " cannot be drawn");
+    const std::string bytes = rasterbackend::pictureFileBytes(*naturalSize, pictures);
     std::ofstream stream(out, std::ios::binary);
     if (!stream.write(bytes.data(), std::streamsize(bytes.size())).flush()) return fail(out.string() + " cannot be written");
     return 0;
