@@ -11,11 +11,11 @@
 #include <fstream>
 #include <map>
 
-#include "Backends/Qt/VectorFile.hpp"
 #include "Backends/Raster/MappedFile.hpp"
 #include "Benchmarks/PictureFormats.hpp"
 #include "Tests/Support/CpuTime.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
+#include "Tools/MakePictures/VectorFile.hpp"
 
 using namespace proupsells;
 
@@ -32,7 +32,7 @@ constexpr int runCount = 101;
 
 Picture drawn(const std::filesystem::path& file, geometry::Size size, int scale) {
     const QImage image =
-        qtbackend::renderVector(file, {int(std::lround(size.width * scale)), int(std::lround(size.height * scale))});
+        makepictures::renderVector(file, {int(std::lround(size.width * scale)), int(std::lround(size.height * scale))});
     Picture picture(image.width(), image.height());
     std::memcpy(picture.row(0), image.constBits(), picture.byteCount());
     return picture;
@@ -89,7 +89,7 @@ int compare(const std::string& program) {
     std::size_t rawByteCount = 0;
     for (const char* folder : folders)
         for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-            const auto size = qtbackend::vectorSize(entry.path());
+            const auto size = makepictures::vectorSize(entry.path());
             for (int scale = 1; size && scale <= 3; ++scale) {
                 const Picture picture = drawn(entry.path(), *size, scale);
                 if (entry.path().filename() == header && scale == headerScale) headerPicture = picture;

@@ -4,6 +4,8 @@
 
 #include <bit>
 
+#include "Backends/Raster/Blending.hpp"
+
 namespace proupsells::rasterbackend {
 
 namespace {
