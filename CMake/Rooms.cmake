@@ -63,6 +63,9 @@ function(proupsells_link_rooms target)
   if(PlatformLumoKit IN_LIST closure)
     add_dependencies(${target} ProUpsellsResources)
   endif()
+  if(BackendRaster IN_LIST closure)
+    add_dependencies(${target} ProUpsellsFaces)
+  endif()
 endfunction()
 
 # proupsells_add_tests(<name> <folder> ROOMS <room>... [LIBRARIES <target>...] [PRECOMPILED <header>...]): the headers are those that

@@ -16,14 +16,15 @@ void report(const std::string& message, std::string_view function) {
     commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity, message, function);
 }
 
-} // namespace
-
+// Whether a font has the characters, in whichever of their equal spellings.
 bool shows(const FontFile& font, std::u32string_view characters) {
     const auto coversAll = [&](std::u32string_view spelling) {
         return std::all_of(spelling.begin(), spelling.end(), [&](char32_t c) { return font.covers(c); });
     };
     return coversAll(characters) || coversAll(composed(characters)) || coversAll(decomposed(characters));
 }
+
+} // namespace
 
 FontCatalog::FontCatalog(FontSources sources)
     : m_shipped(facesInFolder(sources.shippedFaces)), m_system(std::move(sources.systemConfiguration)) {}
@@ -33,7 +34,7 @@ void FontCatalog::registerFace(std::string family, int weight, std::filesystem::
     if (!open(face, weight)) return report("The file " + face.path.string() + " is no font", "FontCatalog::registerFace");
     m_registered.push_back(face);
     m_faces.clear();
-    m_fallbacks.clear();
+    m_answers.clear();
 }
 
 const CatalogFace& FontCatalog::face(const graphics::FontFace* face) {
@@ -86,16 +87,23 @@ const GlyphTableRef& FontCatalog::open(const FaceFile& face, int weight) {
     return font;
 }
 
-const GlyphTableRef& FontCatalog::fallback(const CatalogFace& face, const CharacterNeeds& needs, const std::string& language,
-                                           const std::string& script) {
-    FallbackKey key{face.font.get(), face.weight, needs.presentation, needs.characters, language, script};
-    const auto found = m_fallbacks.find(key);
-    if (found != m_fallbacks.end()) return found->second;
-    return m_fallbacks.emplace(std::move(key), findFallback(face, needs, fallbackLanguage(language, script))).first->second;
+const GlyphTableRef& FontCatalog::fontFor(const CatalogFace& face, const CharacterNeeds& needs, const std::string& language,
+                                          const std::string& script) {
+    m_question = needs.characters;
+    const auto font = reinterpret_cast<std::uintptr_t>(face.font.get());
+    for (const std::uint64_t part :
+         {std::uint64_t(font), std::uint64_t(font) >> 32, std::uint64_t(face.weight), std::uint64_t(needs.presentation)})
+        m_question += char32_t(part);
+    for (const char letter : script) m_question += char32_t(letter);
+    for (const char letter : language) m_question += char32_t(letter);
+    const auto found = m_answers.find(m_question);
+    if (found != m_answers.end()) return found->second;
+    return m_answers.emplace(m_question, findFontFor(face, needs, fallbackLanguage(language, script))).first->second;
 }
 
-GlyphTableRef FontCatalog::findFallback(const CatalogFace& face, const CharacterNeeds& needs, const std::string& language) {
+GlyphTableRef FontCatalog::findFontFor(const CatalogFace& face, const CharacterNeeds& needs, const std::string& language) {
     const auto isShownByFace = [&](std::u32string_view characters) { return face.font && shows(face.font->file(), characters); };
+    if (needs.presentation != Presentation::emoji && isShownByFace(needs.characters)) return face.font;
     if (needs.presentation != Presentation::text)
         if (GlyphTableRef font = emojiShowing(needs.characters)) return font;
     if (isShownByFace(needs.characters)) return face.font;

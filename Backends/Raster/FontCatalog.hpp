@@ -47,30 +47,17 @@ public:
     // address is good until a face is registered.
     const CatalogFace& face(const graphics::FontFace* face);
 
-    // The font for a cluster that needs more than the face's own font has, or coloured emoji. `script` is a code such as "Deva";
-    // with the language it says which form of a letter is wanted. The face's own font where nothing shows the cluster.
-    const GlyphTableRef& fallback(const CatalogFace& face, const CharacterNeeds& needs, const std::string& language,
-                                  const std::string& script);
+    // The font that shows a cluster: the face's own where that has it in some spelling, unless it is to be a coloured emoji; that,
+    // too, where nothing shows it. `script` is a code such as "Deva"; with the language it says which form of a letter is wanted.
+    const GlyphTableRef& fontFor(const CatalogFace& face, const CharacterNeeds& needs, const std::string& language,
+                                 const std::string& script);
 
 private:
-    struct FallbackKey {
-        const GlyphTable* font;
-        int weight;
-        Presentation presentation;
-        std::u32string characters;
-        std::string language, script;
-
-        bool operator==(const FallbackKey&) const = default;
-        struct Hash {
-            std::size_t operator()(const FallbackKey& key) const { return std::hash<std::u32string>()(key.characters); }
-        };
-    };
-
     CatalogFace find(const std::string& family, int weight);
     GlyphTableRef findFont(const std::string& family, int weight);
     GlyphTableRef standIn(const std::string& missingFamily, int weight);
     const GlyphTableRef& open(const FaceFile& face, int weight);
-    GlyphTableRef findFallback(const CatalogFace& face, const CharacterNeeds& needs, const std::string& language);
+    GlyphTableRef findFontFor(const CatalogFace& face, const CharacterNeeds& needs, const std::string& language);
     GlyphTableRef emojiShowing(std::u32string_view characters);
     GlyphTableRef fontShowing(std::u32string_view characters, const std::string& language, int weight);
 
@@ -78,13 +65,12 @@ private:
     std::vector<FaceFile> m_shipped;
     SystemFonts m_system;
     std::unordered_map<const graphics::FontFace*, CatalogFace> m_faces;
-    std::unordered_map<FallbackKey, GlyphTableRef, FallbackKey::Hash> m_fallbacks;
+    // What was asked once is not asked again. A question is all that the answer hangs on, in one string.
+    std::unordered_map<std::u32string, GlyphTableRef> m_answers;
+    std::u32string m_question;
     std::map<std::tuple<std::string, int, int>, GlyphTableRef> m_fonts; // by path, index and weight
     std::vector<std::string> m_missingFamilies;
     bool m_hasReportedEmptySystem = false;
 };
-
-// Whether a font has the characters, in whichever of their equal spellings.
-bool shows(const FontFile& font, std::u32string_view characters);
 
 } // namespace proupsells::rasterbackend

@@ -79,8 +79,7 @@ const GlyphTableRef& PieceShaper::fontOf(std::uint32_t cluster) {
     if (face.font && units.size() == 1 && units[0] < firstEmoji && face.font->file().covers(units[0])) return face.font;
 
     findNeeds(units, m_needs);
-    const bool isOwn = m_needs.presentation != Presentation::emoji && face.font && shows(face.font->file(), m_needs.characters);
-    return isOwn ? face.font : m_catalog.fallback(face, m_needs, m_language, scriptCode(m_scripts[cluster - m_first]));
+    return m_catalog.fontFor(face, m_needs, m_language, scriptCode(m_scripts[cluster - m_first]));
 }
 
 void PieceShaper::shapeSegment(std::uint32_t first, std::uint32_t end) {
@@ -89,7 +88,7 @@ void PieceShaper::shapeSegment(std::uint32_t first, std::uint32_t end) {
     const Segment segment{first, end, m_units, starts, m_scripts[first - m_first], m_shapingLanguage};
     if (!font) return SegmentShaper::leaveRoom(segment, *m_result);
     std::vector<std::shared_ptr<GlyphTable>>& tables = m_result->glyphTables;
-    if (tables.empty() || tables.back() != font) tables.push_back(font);
+    if (std::find(tables.begin(), tables.end(), font) == tables.end()) tables.push_back(font);
     m_segmentShaper.shape(segment, *font, *m_result);
 }
 

@@ -1,6 +1,7 @@
 #include "Backends/Raster/SegmentShaper.hpp"
 
 #include <algorithm>
+#include <cmath>
 
 namespace proupsells::rasterbackend {
 
@@ -19,8 +20,11 @@ constexpr hb_feature_t withoutLigatures[] = {
 
 double pointSize(const StyledRun& run) { return run.font.size > 0 ? run.font.size : 0; }
 
-// Within eight ems; more is a mistake that would only send the text away.
-double letterSpacing(const StyledRun& run) { return std::clamp(run.kern, -8 * pointSize(run), 8 * pointSize(run)); }
+// In whole shaping units like every other advance, and within eight ems: more would only send the text away.
+double letterSpacing(const StyledRun& run) {
+    if (run.kern == 0 || pointSize(run) == 0) return 0;
+    return std::trunc(std::clamp(run.kern / pointSize(run), -8.0, 8.0) * shapingUnitsPerEm) * pointSize(run) / shapingUnitsPerEm;
+}
 
 } // namespace
 

@@ -91,7 +91,8 @@ void expectWholeText(const ShapedText& text) {
 
 double inkWidth(const graphics::FontFace* face) {
     // The stem of an "l" tells how heavy a face is.
-    const auto text = std::static_pointer_cast<const rasterbackend::RasterShapedText>(shapeRuns({{"l", {.face = face, .size = 100}, 0}}));
+    const auto text =
+        std::static_pointer_cast<const rasterbackend::RasterShapedText>(shapeRuns({{"l", {.face = face, .size = 100}, 0}}));
     return text->glyphs.at(0).shape->outline.bounds().width();
 }
 
@@ -190,7 +191,9 @@ TEST(RasterTextShaper, BreaksLinesBetweenWords) {
     EXPECT_THAT(unbreakablePieces(*shape("well-known")), ElementsAre("well-", "known"));
 }
 
-TEST(RasterTextShaper, NeverEndsALineInASoftHyphen) { EXPECT_THAT(unbreakablePieces(*shape("ab\u00ADcd")), ElementsAre("ab\u00ADcd")); }
+TEST(RasterTextShaper, NeverEndsALineInASoftHyphen) {
+    EXPECT_THAT(unbreakablePieces(*shape("ab\u00ADcd")), ElementsAre("ab\u00ADcd"));
+}
 
 TEST(RasterTextShaper, KeepsAPriceAndItsPeriodTogether) {
     EXPECT_THAT(unbreakablePieces(*shape("year ($8.33/month).")), ElementsAre("year ", "($8.33/month)."));
@@ -259,7 +262,8 @@ TEST(RasterTextShaper, KeepsTheOrderOfATextWhateverTheScreens) {
 
 TEST(RasterTextShaper, JoinsArabicLetters) {
     const auto shapeOf = [](const std::string& text, std::size_t cluster) {
-        const auto shaped = std::static_pointer_cast<const rasterbackend::RasterShapedText>(shape(text, LayoutDirection::rightToLeft));
+        const auto shaped =
+            std::static_pointer_cast<const rasterbackend::RasterShapedText>(shape(text, LayoutDirection::rightToLeft));
         return shaped->glyphs.at(shaped->glyphStarts.at(cluster)).shape;
     };
 

@@ -1,0 +1,208 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "Tests/Raster/Shaping.hpp"
+#include "Tests/Support/LogRecorder.hpp"
+#include "Tests/Support/TemporaryFolder.hpp"
+
+using namespace proupsells;
+
+using rasterbackend::FontSources;
+using rasterbackend::RasterTextShaper;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using tests::faceOf;
+using tests::firstShape;
+using tests::shapedBy;
+using tests::ShapedRef;
+using tests::widthOf;
+
+namespace {
+
+const std::filesystem::path testFonts = PROUPSELLS_TEST_FONTS;
+
+// A machine on which fontconfig knows no folder with fonts.
+class BareMachine {
+public:
+    FontSources sources() const { return {rasterbackend::shippedFaceFolder(), m_configuration}; }
+    FontSources sourcesWithoutShippedFaces() const { return {m_folder.path() / "none", m_configuration}; }
+
+private:
+    tests::TemporaryFolder m_folder;
+    std::filesystem::path m_configuration = m_folder.write("fonts.conf", "<fontconfig></fontconfig>");
+};
+
+} // namespace
+
+TEST(FontCatalog, FindsTheModulesOwnFacesOnABareMachine) {
+    tests::LogRecorder log;
+    const BareMachine machine;
+    RasterTextShaper bare(machine.sources()), usual;
+
+    for (const auto* face :
+         {faceOf("Inter", 400), faceOf("Inter", 500), faceOf("Inter", 600), faceOf("Inter", 700), faceOf("Inter Display", 400),
+          faceOf("Inter Display", 500), faceOf("Inter Display", 700), faceOf("Sora", 600), faceOf("Sora", 700)}) {
+        SCOPED_TRACE(face->name);
+        EXPECT_EQ(widthOf(*shapedBy(bare, "Start your free trial", face)),
+                  widthOf(*shapedBy(usual, "Start your free trial", face)));
+    }
+    EXPECT_THAT(log.messages(), IsEmpty());
+}
+
+TEST(FontCatalog, TakesTheNearestShippedWeightOnABareMachine) {
+    const BareMachine machine;
+    RasterTextShaper shaper(machine.sources());
+
+    EXPECT_EQ(widthOf(*shapedBy(shaper, "Sora", faceOf("Sora", 400))), widthOf(*shapedBy(shaper, "Sora", faceOf("Sora", 600))));
+}
+
+TEST(FontCatalog, ShowsABoxForWhatNoFontOfABareMachineHasAndSaysSoOnce) {
+    tests::LogRecorder log;
+    const BareMachine machine;
+    RasterTextShaper shaper(machine.sources());
+
+    const ShapedRef text = shapedBy(shaper, "漢字 日本語");
+
+    EXPECT_EQ(firstShape(text).outline, firstShape(shapedBy(shaper, "\U000F0000")).outline);
+    EXPECT_GT(text->clusters[0].advance, 0);
+    EXPECT_THAT(log.messages(), ElementsAre(HasSubstr("No fonts are installed")));
+}
+
+TEST(FontCatalog, LeavesRoomForATextWithoutAnyFont) {
+    tests::LogRecorder log;
+    const BareMachine machine;
+    RasterTextShaper shaper(machine.sourcesWithoutShippedFaces());
+
+    const ShapedRef text = shapedBy(shaper, "ab\nא 👍🏽", nullptr, 10);
+
+    EXPECT_THAT(text->glyphs, IsEmpty());
+    EXPECT_EQ(text->clusters.size(), 6u);
+    EXPECT_EQ(widthOf(*text), 5 * 5);
+    EXPECT_GT(text->metrics[0].ascent, 0);
+    EXPECT_THAT(log.messages(), testing::Contains(HasSubstr("\"Inter\" is not installed")));
+}
+
+TEST(FontCatalog, SaysWhichFamilyStandsInForAMissingOne) {
+    tests::LogRecorder log;
+    const BareMachine machine;
+    RasterTextShaper shaper(machine.sources());
+
+    const double stoodIn = widthOf(*shapedBy(shaper, "text", faceOf("No Such Family", 700)));
+
+    EXPECT_EQ(stoodIn, widthOf(*shapedBy(shaper, "text", faceOf("Inter", 700))));
+    EXPECT_THAT(log.messages(), ElementsAre("The font family \"No Such Family\" is not installed; \"Inter\" stands in for it"));
+}
+
+TEST(FontCatalog, AsksARegisteredFaceFirst) {
+    RasterTextShaper shaper;
+    shaper.registerFace("Inter", 400, testFonts / "Weighty.ttf");
+
+    EXPECT_NEAR(firstShape(shapedBy(shaper, "I", faceOf("Inter", 400))).outline.bounds().width(), 0.4, 1e-3);
+    EXPECT_LT(firstShape(shapedBy(shaper, "I", faceOf("Inter", 500))).outline.bounds().width(), 0.2);
+}
+
+TEST(FontCatalog, TakesUpAFaceThatIsRegisteredLate) {
+    RasterTextShaper shaper;
+    const double before = widthOf(*shapedBy(shaper, "I", faceOf("Inter", 700)));
+
+    shaper.registerFace("Inter", 700, testFonts / "Weighty.ttf");
+
+    EXPECT_NE(widthOf(*shapedBy(shaper, "I", faceOf("Inter", 700))), before);
+}
+
+TEST(FontCatalog, ReportsARegisteredFileThatIsNoFont) {
+    tests::LogRecorder log;
+    const tests::TemporaryFolder folder;
+    RasterTextShaper shaper;
+    const double before = widthOf(*shapedBy(shaper, "text"));
+
+    shaper.registerFace("Inter", 400, folder.write("broken.otf", "OTTO and nothing more"));
+    shaper.registerFace("Inter", 400, folder.path() / "missing.otf");
+    shaper.registerFace("Inter", 400, folder.write("empty.otf", ""));
+
+    EXPECT_EQ(widthOf(*shapedBy(shaper, "text")), before);
+    EXPECT_THAT(log.messages(), ElementsAre(HasSubstr("broken.otf"), HasSubstr("missing.otf"), HasSubstr("empty.otf")));
+}
+
+TEST(FontCatalog, GivesAVariableFontTheWeightOfTheFace) {
+    RasterTextShaper shaper;
+    shaper.registerFace("Weighty", 100, testFonts / "Weighty.ttf");
+    shaper.registerFace("Weighty", 500, testFonts / "Weighty.ttf");
+
+    const ShapedRef thin = shapedBy(shaper, "I", faceOf("Weighty", 100)), medium = shapedBy(shaper, "I", faceOf("Weighty", 500));
+
+    EXPECT_NEAR(firstShape(thin).outline.bounds().width(), 0.1, 1e-3);
+    EXPECT_NEAR(widthOf(*thin), 20, 0.01);
+    EXPECT_NEAR(firstShape(medium).outline.bounds().width(), 0.5, 1e-3);
+    EXPECT_NEAR(widthOf(*medium), 60, 0.01);
+}
+
+TEST(FontCatalog, TakesLettersThatAFamilyLacksFromInterFirst) {
+    RasterTextShaper shaper;
+
+    for (const std::string text : {"Ω", "Ж", "Ə"}) {
+        SCOPED_TRACE(text);
+        const ShapedRef fallback = shapedBy(shaper, text, faceOf("Sora", 700));
+        EXPECT_EQ(&firstShape(fallback), &firstShape(shapedBy(shaper, text, faceOf("Inter", 700))));
+    }
+    EXPECT_NE(&firstShape(shapedBy(shaper, "a", faceOf("Sora", 700))), &firstShape(shapedBy(shaper, "a", faceOf("Inter", 700))));
+}
+
+TEST(FontCatalog, NeverSplitsACharacterBetweenFonts) {
+    RasterTextShaper shaper;
+
+    // Sora has the letter, but neither the mark nor both in one.
+    const ShapedRef text = shapedBy(shaper, "x\u0331x", faceOf("Sora", 700));
+
+    EXPECT_EQ(text->glyphs[text->glyphStarts[0]].shape, &firstShape(shapedBy(shaper, "x", faceOf("Inter", 700))));
+    EXPECT_EQ(text->glyphs[text->glyphStarts[1]].shape, &firstShape(shapedBy(shaper, "x", faceOf("Sora", 700))));
+}
+
+TEST(FontCatalog, KnowsALetterAndItsMarkInEverySpelling) {
+    RasterTextShaper shaper;
+
+    const ShapedRef apart = shapedBy(shaper, "e\u0323\u0302", faceOf("Sora", 700));
+
+    EXPECT_EQ(&firstShape(apart), &firstShape(shapedBy(shaper, "\u1EC7", faceOf("Sora", 700))));
+}
+
+TEST(FontCatalog, ColoursEmojiWhereThereAreColours) {
+    RasterTextShaper shaper;
+    shaper.registerFace("Layers", 400, testFonts / "Layers.ttf");
+
+    EXPECT_FALSE(firstShape(shapedBy(shaper, "\U0001F600")).picture.isNull());
+    EXPECT_FALSE(firstShape(shapedBy(shaper, "\U0001F600", faceOf("Sora", 700))).picture.isNull());
+}
+
+TEST(FontCatalog, KeepsAnEmojiPlainWhereTheTextSaysSo) {
+    tests::LogRecorder log;
+    const BareMachine machine;
+    RasterTextShaper shaper(machine.sources());
+    const ShapedRef box = shapedBy(shaper, "\U000F0000");
+    shaper.registerFace("Layers", 400, testFonts / "Layers.ttf");
+
+    // A plain star of the text's own face comes before any other.
+    EXPECT_EQ(firstShape(shapedBy(shaper, "\u2605", faceOf("Inter", 400))).outline,
+              firstShape(shapedBy(shaper, "\u2605\uFE0E", faceOf("Inter", 400))).outline);
+    EXPECT_TRUE(firstShape(shapedBy(shaper, "\u2605")).picture.isNull());
+}
+
+TEST(FontCatalog, TellsStylesByTheirNames) {
+    EXPECT_EQ(rasterbackend::weightOfStyle("Semi Bold"), 600);
+    EXPECT_EQ(rasterbackend::weightOfStyle("Extra-Light"), 200);
+    EXPECT_EQ(rasterbackend::weightOfStyle("Bold Italic"), 0);
+    EXPECT_EQ(rasterbackend::weightOfStyle("Poster"), 0);
+}
+
+TEST(FontCatalog, LetsLightTextsBecomeLighterAndBoldOnesBolder) {
+    const std::vector<rasterbackend::FaceFile> faces{{"Kit", 300, "light"}, {"Kit", 600, "semibold"}, {"Kit", 900, "black"}};
+    const auto nearest = [&](int weight) { return rasterbackend::nearestFace(faces, "kit", weight)->path; };
+
+    EXPECT_EQ(nearest(200), "light");
+    EXPECT_EQ(nearest(400), "light");
+    EXPECT_EQ(nearest(500), "light");
+    EXPECT_EQ(nearest(550), "semibold");
+    EXPECT_EQ(nearest(700), "black");
+    EXPECT_EQ(rasterbackend::nearestFace(faces, "Other", 400), nullptr);
+}

@@ -1,0 +1,80 @@
+#include <gtest/gtest.h>
+
+#include "Backends/Raster/FontFile.hpp"
+#include "Tests/Raster/Shaping.hpp"
+
+using namespace proupsells;
+
+using geometry::Rect;
+using rasterbackend::FontFile;
+using rasterbackend::GlyphShape;
+
+namespace {
+
+const std::filesystem::path testFonts = PROUPSELLS_TEST_FONTS;
+
+// The fonts number their glyphs from 1; 0 is the box.
+GlyphShape shapeIn(const char* font, std::uint32_t glyph) { return FontFile::open(testFonts / font, 0, 400)->readShape(glyph); }
+
+} // namespace
+
+TEST(FontFile, ReadsOutlinesInEmsDownwards) {
+    const auto font = FontFile::open(testFonts / "Layers.ttf", 0, 400);
+
+    EXPECT_EQ(font->readShape(0).outline.bounds(), (Rect{{0.05, -0.7}, {0.4, 0.7}}));
+    EXPECT_EQ(font->ascent(), 0.8);
+    EXPECT_EQ(font->descent(), 0.2);
+}
+
+TEST(FontFile, IsNotThereWhereTheFileIsNoFontOrHasNoSuchFace) {
+    EXPECT_EQ(FontFile::open(testFonts / "None.ttf", 0, 400), nullptr);
+    EXPECT_EQ(FontFile::open(__FILE__, 0, 400), nullptr);
+    EXPECT_EQ(FontFile::open(testFonts / "Layers.ttf", 1, 400), nullptr);
+}
+
+TEST(FontFile, KnowsItsCharacters) {
+    const auto font = FontFile::open(testFonts / "Layers.ttf", 0, 400);
+
+    EXPECT_TRUE(font->covers(0x1F600));
+    EXPECT_FALSE(font->covers('a'));
+    EXPECT_FALSE(font->covers(0xFFFFFFFF));
+}
+
+TEST(FontFile, LaysTheLayersOfAColouredGlyphOverEachOther) {
+    const GlyphShape face = shapeIn("Layers.ttf", 1);
+
+    ASSERT_FALSE(face.picture.isNull());
+    const int side = face.picture.width();
+    EXPECT_EQ(face.picture.height(), side);
+    EXPECT_EQ(face.picture.row(side / 8)[side / 8], 0xFFFF0000u);
+    EXPECT_EQ(face.picture.row(side / 2)[side / 2], 0xFF0000FFu);
+    EXPECT_EQ(face.pictureFrame, (Rect{{0, -1}, {1, 1}}));
+    EXPECT_TRUE(face.outline.isEmpty());
+}
+
+TEST(FontFile, KeepsGlyphsWithoutColoursPlainInAColouredFont) {
+    const GlyphShape star = shapeIn("Layers.ttf", 4);
+
+    EXPECT_TRUE(star.picture.isNull());
+    EXPECT_EQ(star.outline.bounds(), (Rect{{0, -0.5}, {0.5, 0.5}}));
+}
+
+TEST(FontFile, ReadsPicturesOfPixels) {
+    const GlyphShape face = shapeIn("Pixels.ttf", 1);
+
+    ASSERT_FALSE(face.picture.isNull());
+    EXPECT_EQ(face.picture.width(), 32);
+    EXPECT_EQ(face.picture.height(), 16);
+    EXPECT_EQ(face.picture.row(8)[16], 0xFF00FF00u);
+    EXPECT_EQ(face.pictureFrame, (Rect{{0, -0.5}, {1, 0.5}}));
+}
+
+TEST(FontFile, OutlivesNothingThatATextNeeds) {
+    tests::ShapedRef text;
+    {
+        rasterbackend::RasterTextShaper shaper;
+        text = tests::shapedBy(shaper, "A");
+    }
+
+    EXPECT_GT(tests::firstShape(text).outline.bounds().height(), 0.5);
+}

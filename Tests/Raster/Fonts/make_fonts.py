@@ -1,0 +1,95 @@
+#!/usr/bin/env python3
+"""Makes the small fonts of the tests: usage: make_fonts.py FOLDER
+
+Weighty.ttf   a variable font: "I" is a stem, 100 units wide at weight 100 and 900 at weight 900
+Layers.ttf    U+1F600 is a red square under a small blue one, U+2605 a plain square
+Pixels.ttf    U+1F600 is a green picture of 32 × 16 pixels at 32 pixels per em
+All have 1000 units per em."""
+import pathlib
+import struct
+import sys
+import zlib
+
+from fontTools.fontBuilder import FontBuilder
+from fontTools.pens.ttGlyphPen import TTGlyphPen
+from fontTools.ttLib import newTable
+from fontTools.ttLib.tables.sbixGlyph import Glyph as PictureGlyph
+from fontTools.ttLib.tables.sbixStrike import Strike
+from fontTools.ttLib.tables.TupleVariation import TupleVariation
+
+UNITS_PER_EM = 1000
+
+
+def square(left, bottom, right, top):
+    pen = TTGlyphPen(None)
+    pen.moveTo((left, bottom))
+    for corner in ((left, top), (right, top), (right, bottom)):
+        pen.lineTo(corner)
+    pen.closePath()
+    return pen.glyph()
+
+
+def builder(family, glyphs, characters, advances):
+    made = FontBuilder(UNITS_PER_EM, isTTF=True)
+    made.setupGlyphOrder([".notdef", *glyphs])
+    made.setupCharacterMap(characters)
+    made.setupGlyf({".notdef": square(50, 0, 450, 700), **glyphs})
+    bounds = made.font["glyf"]
+    made.setupHorizontalMetrics({name: (advances.get(name, 500), getattr(bounds[name], "xMin", 0)) for name in [".notdef", *glyphs]})
+    made.setupHorizontalHeader(ascent=800, descent=-200)
+    made.setupOS2(sTypoAscender=800, sTypoDescender=-200, usWinAscent=800, usWinDescent=200)
+    made.setupNameTable({"familyName": family, "styleName": "Regular"})
+    made.setupPost()
+    # No time in the files.
+    made.font.recalcTimestamp = False
+    made.font["head"].created = made.font["head"].modified = 0
+    return made
+
+
+def variable():
+    made = builder("Weighty", {"I": square(0, 0, 100, 700)}, {ord("I"): "I"}, {"I": 200})
+    made.setupFvar([("wght", 100, 100, 900, "Weight")], [])
+    # The square's four corners, then the places of the advance and the other three.
+    wider = [(0, 0), (0, 0), (800, 0), (800, 0), (0, 0), (800, 0), (0, 0), (0, 0)]
+    made.setupGvar({"I": [TupleVariation({"wght": (0.0, 1.0, 1.0)}, wider)], ".notdef": []})
+    return made
+
+
+def layers():
+    glyphs = {"face": square(0, 0, 1000, 1000), "under": square(0, 0, 1000, 1000), "over": square(250, 250, 750, 750),
+              "star": square(0, 0, 500, 500)}
+    made = builder("Layers", glyphs, {0x1F600: "face", 0x2605: "star"}, {"face": 1000})
+    made.setupCOLR({"face": [("under", 0), ("over", 1)]})
+    made.setupCPAL([[(1, 0, 0, 1), (0, 0, 1, 1)]])
+    return made
+
+
+def png(width, height, rgba):
+    def chunk(kind, data):
+        return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
+
+    rows = (b"\0" + bytes(rgba) * width) * height
+    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", struct.pack(">IIBBBBB", width, height, 8, 6, 0, 0, 0))
+            + chunk(b"IDAT", zlib.compress(rows)) + chunk(b"IEND", b""))
+
+
+def pixels():
+    made = builder("Pixels", {"face": square(0, 0, 1000, 500)}, {0x1F600: "face"}, {"face": 1000})
+    strike = Strike(ppem=32, resolution=72)
+    strike.glyphs = {name: PictureGlyph(glyphName=name) for name in made.font.getGlyphOrder()}
+    strike.glyphs["face"] = PictureGlyph(glyphName="face", graphicType="png ", imageData=png(32, 16, (0, 255, 0, 255)))
+    table = newTable("sbix")
+    table.version, table.flags, table.numStrikes, table.strikes = 1, 1, 1, {32: strike}
+    made.font["sbix"] = table
+    return made
+
+
+def main():
+    folder = pathlib.Path(sys.argv[1])
+    folder.mkdir(parents=True, exist_ok=True)
+    for name, make in (("Weighty", variable), ("Layers", layers), ("Pixels", pixels)):
+        make().save(folder / f"{name}.ttf")
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,107 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <hb-ot.h>
+#include <hb.h>
+
+#include "Platform/Foundation/Utf8.hpp"
+#include "Platform/VelaUIKit/Fonts.hpp"
+#include "Tests/Raster/Shaping.hpp"
+#include "Tests/Support/TemporaryFolder.hpp"
+
+using namespace proupsells;
+
+using rasterbackend::FaceFile;
+using rasterbackend::FontFile;
+using testing::IsEmpty;
+
+namespace {
+
+std::vector<FaceFile> shippedFaces() { return rasterbackend::facesInFolder(rasterbackend::shippedFaceFolder()); }
+
+// The packaged typeface that a shipped face was cut from.
+std::shared_ptr<const FontFile> packaged(const FaceFile& face) {
+    const std::map<int, std::string> styles{{400, "Regular"}, {500, "Medium"}, {600, "SemiBold"}, {700, "Bold"}};
+    const std::map<std::string, std::string> names{
+        {"Inter", "inter/Inter-"}, {"Inter Display", "inter/InterDisplay-"}, {"Sora", "sora/Sora-"}};
+    return FontFile::open(std::filesystem::path(PROUPSELLS_TYPEFACES) / (names.at(face.family) + styles.at(face.weight) + ".otf"),
+                          0, 400);
+}
+
+std::vector<std::string> features(const FontFile& font, hb_tag_t table) {
+    unsigned count = 64;
+    hb_tag_t tags[64];
+    hb_ot_layout_table_get_feature_tags(hb_font_get_face(font.shapingFont()), table, 0, &count, tags);
+    std::vector<std::string> names;
+    for (unsigned index = 0; index < count; ++index) {
+        char name[5] = {};
+        hb_tag_to_string(tags[index], name);
+        names.emplace_back(name);
+    }
+    return names;
+}
+
+} // namespace
+
+TEST(ShippedFaces, AreTheOnesThatTheDesignSystemNames) {
+    std::vector<std::string> names;
+    for (const FaceFile& face : shippedFaces()) names.push_back(face.family + " " + std::to_string(face.weight));
+
+    EXPECT_THAT(names, testing::UnorderedElementsAre("Inter 400", "Inter 500", "Inter 600", "Inter 700", "Inter Display 400",
+                                                     "Inter Display 500", "Inter Display 700", "Sora 600", "Sora 700"));
+}
+
+TEST(ShippedFaces, HaveEveryLetterOfLatinGreekAndCyrillicThatTheirTypefaceHas) {
+    for (const FaceFile& face : shippedFaces()) {
+        SCOPED_TRACE(face.path);
+        const auto cut = FontFile::open(face.path, 0, 400), whole = packaged(face);
+        std::vector<std::string> missing;
+        for (char32_t character = 0x20; character < 0x20000; ++character) {
+            const hb_script_t script = hb_unicode_script(hb_unicode_funcs_get_default(), character);
+            const bool isPromised = script == HB_SCRIPT_LATIN || script == HB_SCRIPT_GREEK || script == HB_SCRIPT_CYRILLIC ||
+                                    (character >= 0x2000 && character < 0x2C00);
+            if (!isPromised || !whole->covers(character) || cut->covers(character)) continue;
+            missing.emplace_back();
+            foundation::appendUtf8(missing.back(), character);
+        }
+        EXPECT_THAT(missing, IsEmpty());
+    }
+}
+
+TEST(ShippedFaces, CoverTheAlphabetsOfEuropeInInter) {
+    const std::string alphabets = "ÀÉÎÕÜßæøåçñ ĄĆĘŁŃŚŹŻ ČĎĚŇŘŠŤŮŽ ĞİŞı ĐƠƯạằểỗự ΑΒΓΔΩάέήίόύώϊ АБВГДЕЁЖЗИЙЮЯ ЂЈЉЊЋЏ ІЇЄҐ €£₽₺₴₹ "
+                                  "„“”‚‘’«»–—…•→✓";
+    for (const FaceFile& face : shippedFaces()) {
+        if (face.family == "Sora") continue;
+        SCOPED_TRACE(face.path);
+        const auto font = FontFile::open(face.path, 0, 400);
+        for (std::size_t offset = 0; offset < alphabets.size();) {
+            const auto character = foundation::decodeUtf8(alphabets, offset);
+            EXPECT_TRUE(font->covers(character.value)) << alphabets.substr(offset, character.length);
+            offset += character.length;
+        }
+    }
+}
+
+TEST(ShippedFaces, KeepEveryLayoutFeature) {
+    for (const FaceFile& face : shippedFaces()) {
+        SCOPED_TRACE(face.path);
+        const auto cut = FontFile::open(face.path, 0, 400), whole = packaged(face);
+        EXPECT_EQ(features(*cut, HB_OT_TAG_GSUB), features(*whole, HB_OT_TAG_GSUB));
+        EXPECT_EQ(features(*cut, HB_OT_TAG_GPOS), features(*whole, HB_OT_TAG_GPOS));
+    }
+}
+
+TEST(ShippedFaces, AreAsHighAsTheirTypeface) {
+    for (const FaceFile& face : shippedFaces()) {
+        SCOPED_TRACE(face.path);
+        const auto cut = FontFile::open(face.path, 0, 400), whole = packaged(face);
+        EXPECT_EQ(cut->ascent(), whole->ascent());
+        EXPECT_EQ(cut->descent(), whole->descent());
+    }
+}
+
+TEST(ShippedFaces, LieBesideTheirLicences) {
+    for (const char* name : {"fonts-inter.copyright", "fonts-sora.copyright"})
+        EXPECT_THAT(tests::bytesOf(rasterbackend::shippedFaceFolder() / name), testing::HasSubstr("Open Font License")) << name;
+}
