@@ -16,7 +16,7 @@ std::string compressed(const Picture& picture) {
     const int byteCount = int(picture.byteCount());
     std::string bytes(std::size_t(LZ4_compressBound(byteCount)), '\0');
     const int written = LZ4_compress_HC(reinterpret_cast<const char*>(picture.row(0)), bytes.data(), byteCount, int(bytes.size()),
-                                        LZ4HC_CLEVEL_MAX);
+                                        LZ4HC_CLEVEL_DEFAULT);
     bytes.resize(std::size_t(written));
     return bytes;
 }

@@ -1,7 +1,7 @@
 #include "Backends/Raster/PictureFile.hpp"
 
 #include <algorithm>
-#include <tuple>
+#include <utility>
 
 #include "Backends/Raster/MappedFile.hpp"
 #include "Backends/Raster/PictureCodec.hpp"
@@ -15,13 +15,14 @@ namespace {
 
 using graphics::PictureHeader;
 
-const PictureHeader::Variant& nearestVariant(const PictureHeader& header, int width, int height) {
+// The file's own where it has this size, else the largest: the more pixels make a new one, the nearer it comes to what the vector
+// file would have drawn.
+const PictureHeader::Variant& bestVariant(const PictureHeader& header, int width, int height) {
     const auto rank = [&](const PictureHeader::Variant& variant) {
-        const bool isTooSmall = int(variant.width_px) < width || int(variant.height_px) < height;
-        const auto pixelCount = std::int64_t(variant.width_px) * variant.height_px;
-        return std::tuple(isTooSmall, isTooSmall ? -pixelCount : pixelCount);
+        const bool isExact = int(variant.width_px) == width && int(variant.height_px) == height;
+        return std::pair(isExact, std::uint64_t(variant.width_px) * variant.height_px);
     };
-    return *std::min_element(header.variants.begin(), header.variants.end(),
+    return *std::max_element(header.variants.begin(), header.variants.end(),
                              [&](const auto& a, const auto& b) { return rank(a) < rank(b); });
 }
 
@@ -41,8 +42,7 @@ Picture readPicture(const std::filesystem::path& file, int width, int height) {
     if (width <= 0 || height <= 0) return {};
     const MappedFile mapped(file);
     const auto header = PictureHeader::parse(mapped.bytes(), mapped.bytes().size());
-    const Picture picture =
-        header ? readVariant(mapped.bytes(), nearestVariant(*header, width, height)) : pngPicture(mapped.bytes());
+    const Picture picture = header ? readVariant(mapped.bytes(), bestVariant(*header, width, height)) : pngPicture(mapped.bytes());
     return resampled(picture, width, height);
 }
 

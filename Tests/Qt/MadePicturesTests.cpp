@@ -1,0 +1,104 @@
+// The pictures that the build makes, against the vector files that it makes them of.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+
+#include "Backends/Qt/ImageFile.hpp"
+#include "Backends/Qt/VectorFile.hpp"
+#include "Platform/Foundation/ResourceFolder.hpp"
+#include "Tests/Support/PrintGeometry.hpp"
+#include "Tests/Support/TemporaryFolder.hpp"
+
+namespace proupsells::qtbackend {
+namespace {
+
+using geometry::Size;
+
+constexpr const char* square = "<svg xmlns='http://www.w3.org/2000/svg' width='10' height='6' viewBox='0 0 10 6'>"
+                               "<rect width='5' height='6' fill='#F00'/></svg>";
+
+QSize pixels(Size size, int scale) { return {int(std::lround(size.width * scale)), int(std::lround(size.height * scale))}; }
+
+void expectMadeOf(const std::filesystem::path& vectors, const std::filesystem::path& pictures) {
+    for (const auto& entry : std::filesystem::directory_iterator(vectors)) {
+        const std::filesystem::path vector = entry.path(), picture = pictures / vector.stem().concat(".picture");
+        const auto size = vectorSize(vector);
+        ASSERT_TRUE(size) << vector;
+        EXPECT_EQ(naturalImageSize(picture), size) << picture;
+        for (const int scale : {1, 2, 3})
+            EXPECT_EQ(readImage(picture, pixels(*size, scale)), renderVector(vector, pixels(*size, scale))) << picture << scale;
+    }
+}
+
+class MakePictures : public testing::Test {
+protected:
+    // Returns whether the tool made a picture.
+    bool make(const std::filesystem::path& in, const std::string& sizes = {}) const {
+        const std::string command =
+            PROUPSELLS_MAKE_PICTURES " '" + in.string() + "' '" + out.string() + "' " + sizes + " 2> /dev/null";
+        return std::system(command.c_str()) == 0;
+    }
+
+    tests::TemporaryFolder folder;
+    std::filesystem::path out = folder.path() / "out.picture";
+};
+
+TEST(MadePictures, AreTheVectorFilesPixelForPixel) {
+    expectMadeOf("ProUpsells/Resources/Images", foundation::resourceFolder("ProUpsells", {}, {}) / "Images");
+    expectMadeOf("Platform/VelaUIKit/Resources/Images", foundation::resourceFolder("VelaUIKit", {}, {}) / "Images");
+}
+
+TEST(MadePictures, LieBesideEverythingElseThatTheLibraryBrings) {
+    const auto made = foundation::resourceFolder("ProUpsells", {}, {});
+
+    for (const auto& entry : std::filesystem::directory_iterator("ProUpsells/Resources/Clips"))
+        EXPECT_TRUE(std::filesystem::is_regular_file(made / "Clips" / entry.path().filename())) << entry.path();
+}
+
+TEST(MadePictures, KeepTheirPixelsAsLongAsAnImageHasThem) {
+    QImage copy;
+    {
+        const auto file = foundation::resourceFolder("VelaUIKit", {}, {}) / "Images" / "diamond24.picture";
+        const QImage image = readImage(file, {24, 24});
+        copy = image;
+    }
+
+    EXPECT_EQ(copy, renderVector("Platform/VelaUIKit/Resources/Images/diamond24.svg", {24, 24}));
+}
+
+TEST_F(MakePictures, MakesTheSameBytesEachTime) {
+    const auto in = folder.write("square.svg", square);
+    ASSERT_TRUE(make(in));
+    const std::string first = tests::bytesOf(out);
+    ASSERT_TRUE(make(in));
+
+    EXPECT_FALSE(first.empty());
+    EXPECT_EQ(tests::bytesOf(out), first);
+}
+
+TEST_F(MakePictures, DrawsTheFurtherSizesToo) {
+    const auto in = folder.write("square.svg", square);
+    ASSERT_TRUE(make(in, "7x7 10.5x3"));
+
+    EXPECT_EQ(naturalImageSize(out), (Size{10, 6}));
+    EXPECT_EQ(readImage(out, {21, 21}), renderVector(in, {21, 21}));
+    EXPECT_EQ(readImage(out, {32, 9}), renderVector(in, {32, 9}));
+}
+
+TEST_F(MakePictures, RefusesWhatIsNoPicture) {
+    EXPECT_FALSE(make(folder.path() / "missing.svg"));
+    EXPECT_FALSE(make(folder.write("text.svg", "no picture")));
+    EXPECT_FALSE(make(folder.write("square.svg", square), "7by7"));
+    EXPECT_FALSE(std::filesystem::exists(out));
+}
+
+TEST_F(MakePictures, RefusesTextThatOtherMachinesWouldDrawDifferently) {
+    EXPECT_FALSE(make(
+        folder.write("text.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='10' height='6'><text y='5'>Pro</text></svg>")));
+    EXPECT_FALSE(std::filesystem::exists(out));
+}
+
+} // namespace
+} // namespace proupsells::qtbackend
