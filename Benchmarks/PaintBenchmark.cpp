@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "Backends/Raster/PngFile.hpp"
+#include "Backends/Raster/RasterPainter.hpp"
 #include "Backends/Raster/RasterSurface.hpp"
 #include "Tests/Raster/SyntheticPaywall.hpp"
 

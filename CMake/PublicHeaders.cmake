@@ -36,6 +36,7 @@ set(PROUPSELLS_Platform_HEADERS
   Platform/Host/ImageDecoder.hpp
   Platform/Host/Services.hpp
   Platform/Host/TextShaper.hpp
+  Platform/Host/Surface.hpp
   Platform/Host/WindowContent.hpp
   Platform/RunLoop/Clock.hpp
   Platform/RunLoop/MainRunLoop.hpp

@@ -5,6 +5,17 @@ include_guard(GLOBAL)
 
 add_custom_target(ProUpsellsResources ALL)
 
+# proupsells_resource_folder(<variable> <name> <folder>): where programs find a library's resources in this build, wherever they lie
+# themselves.
+function(proupsells_resource_folder variable name folder)
+  if(PROUPSELLS_BACKENDS)
+    cmake_path(SET made NORMALIZE "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/../share/proupsells/${name}")
+    set(${variable} "${made}" PARENT_SCOPE)
+  else()
+    set(${variable} "${PROJECT_SOURCE_DIR}/${folder}" PARENT_SCOPE)
+  endif()
+endfunction()
+
 # proupsells_add_resources(<name> <folder> [SIZES <picture>:<width>x<height>...])
 # The resources of a library. SIZES are those in points, beside their natural ones, at which pictures are shown.
 function(proupsells_add_resources name folder)
@@ -16,7 +27,7 @@ function(proupsells_add_resources name folder)
     return()
   endif()
 
-  cmake_path(SET to NORMALIZE "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/../share/proupsells/${name}")
+  proupsells_resource_folder(to ${name} ${folder})
   file(MAKE_DIRECTORY "${to}/Images")
   file(GLOB others CONFIGURE_DEPENDS "${from}/*")
   list(FILTER others EXCLUDE REGEX "/Images$|\\.md$")

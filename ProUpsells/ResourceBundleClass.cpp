@@ -6,7 +6,7 @@ namespace proupsells {
 
 const foundation::Bundle& ResourceBundleClass::bundle() {
     static const foundation::Bundle bundle{
-        foundation::resourceFolder("ProUpsells", PROUPSELLS_SOURCE_RESOURCES, PROUPSELLS_INSTALLED_RESOURCES)};
+        foundation::resourceFolder("ProUpsells", PROUPSELLS_BUILT_RESOURCES, PROUPSELLS_INSTALLED_RESOURCES)};
     return bundle;
 }
 

@@ -7,7 +7,7 @@
 namespace proupsells::foundation {
 
 // The first of these that exists: `name` in the folder set below, in `share/proupsells` beside the running program's folder,
-// in `builtFrom` (the sources' own folder), and in `installedTo`. `builtFrom` when none does.
+// in `builtFrom` (the folder of the build, or of the sources), and in `installedTo`. `builtFrom` when none does.
 std::filesystem::path resourceFolder(std::string_view name, const std::filesystem::path& builtFrom,
                                      const std::filesystem::path& installedTo);
 

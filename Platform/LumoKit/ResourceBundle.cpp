@@ -6,7 +6,7 @@ namespace proupsells::lumokit {
 
 const foundation::Bundle& resourceBundle() {
     static const foundation::Bundle bundle{
-        foundation::resourceFolder("VelaUIKit", VELAUIKIT_SOURCE_RESOURCES, VELAUIKIT_INSTALLED_RESOURCES)};
+        foundation::resourceFolder("VelaUIKit", VELAUIKIT_BUILT_RESOURCES, VELAUIKIT_INSTALLED_RESOURCES)};
     return bundle;
 }
 

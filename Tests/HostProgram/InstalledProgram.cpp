@@ -14,8 +14,8 @@ InstalledProgram::InstalledProgram() {
     const fs::path resources = m_folder.path() / "share" / "proupsells";
     fs::create_directories(m_clips.parent_path());
     fs::copy("ProUpsells/Resources/Clips", m_clips);
-    fs::create_symlink(fs::absolute("ProUpsells/Resources/Images"), resources / "ProUpsells" / "Images");
-    fs::create_symlink(fs::absolute("Platform/VelaUIKit/Resources"), resources / "VelaUIKit");
+    const fs::path built = builtProgram.parent_path().parent_path() / "share" / "proupsells";
+    for (const char* part : {"ProUpsells/Images", "VelaUIKit", "Fonts"}) fs::create_symlink(built / part, resources / part);
 }
 
 void InstalledProgram::writeClip(const std::string& name, const std::string& bytes) const {
