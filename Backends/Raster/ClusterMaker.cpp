@@ -74,7 +74,7 @@ ClusterMaker::Rules& ClusterMaker::lineRules(std::string_view language) {
     if (U_FAILURE(status)) locale = icu::Locale::getRoot();
     status = U_ZERO_ERROR;
     // A line of Japanese does not begin with a small letter, unless the language asks for looser rules.
-    if (std::string(locale.getName()).find("lb=") == std::string::npos) locale.setUnicodeKeywordValue("lb", "strict", status);
+    if (std::string(locale.getName()).find("lb=") == std::string::npos) locale.setKeywordValue("lb", "strict", status);
     icu::BreakIterator* lines = icu::BreakIterator::createLineInstance(locale, status);
     return *m_lines.emplace(language, std::make_unique<Rules>(lines, status)).first->second;
 }

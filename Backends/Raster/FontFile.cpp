@@ -44,19 +44,30 @@ struct AdvanceScale {
     hb_font_t* unscaled; // counts in the font's own units
     FT_Fixed scale;
 
-    hb_position_t advance(hb_codepoint_t glyph) const {
-        return hb_position_t(FT_MulDiv(hb_font_get_glyph_h_advance(unscaled, glyph), scale, 64) >> 10);
-    }
+    hb_position_t scaled(hb_position_t advance) const { return hb_position_t(FT_MulDiv(advance, scale, 64) >> 10); }
 };
 
-hb_position_t glyphAdvance(hb_font_t*, void* scale, hb_codepoint_t glyph, void*) {
-    return static_cast<AdvanceScale*>(scale)->advance(glyph);
+hb_position_t glyphAdvance(hb_font_t*, void* data, hb_codepoint_t glyph, void*) {
+    const auto& scale = *static_cast<AdvanceScale*>(data);
+    return scale.scaled(hb_font_get_glyph_h_advance(scale.unscaled, glyph));
+}
+
+// Many at once, which HarfBuzz prefers.
+void glyphAdvances(hb_font_t*, void* data, unsigned count, const hb_codepoint_t* glyphs, unsigned glyphStride,
+                   hb_position_t* advances, unsigned advanceStride, void*) {
+    const auto& scale = *static_cast<AdvanceScale*>(data);
+    hb_font_get_glyph_h_advances(scale.unscaled, count, glyphs, glyphStride, advances, advanceStride);
+    for (unsigned index = 0; index < count; ++index) {
+        *advances = scale.scaled(*advances);
+        advances = reinterpret_cast<hb_position_t*>(reinterpret_cast<char*>(advances) + advanceStride);
+    }
 }
 
 hb_font_funcs_t* shapingFuncs() {
     static const FontFuncsRef funcs = [] {
         FontFuncsRef made(hb_font_funcs_create());
         hb_font_funcs_set_glyph_h_advance_func(made.get(), glyphAdvance, nullptr, nullptr);
+        hb_font_funcs_set_glyph_h_advances_func(made.get(), glyphAdvances, nullptr, nullptr);
         hb_font_funcs_make_immutable(made.get());
         return made;
     }();

@@ -99,7 +99,8 @@ SystemFonts::FontSetRef SystemFonts::sorted(const std::string& family, const std
     FcPatternAddString(pattern.get(), FC_FAMILY, fcText(family));
     FcPatternAddDouble(pattern.get(), FC_WEIGHT, FcWeightFromOpenTypeDouble(weight));
     FcPatternAddBool(pattern.get(), FC_COLOR, isColoured);
-    if (!language.empty()) FcPatternAddString(pattern.get(), FC_LANG, fcText(language));
+    // Without a language, fontconfig would take the process's own.
+    FcPatternAddString(pattern.get(), FC_LANG, fcText(language.empty() ? "und" : language));
     FcConfigSubstitute(configuration(), pattern.get(), FcMatchPattern);
     FcDefaultSubstitute(pattern.get());
     FcResult result = FcResultMatch;

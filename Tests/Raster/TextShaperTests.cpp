@@ -365,6 +365,50 @@ TEST(RasterTextShaper, SurvivesAWordWithoutEnd) {
     EXPECT_NEAR(width(*shaped), 20000 * width(*shape("m")), 1);
 }
 
+TEST(RasterTextShaper, WritesLettersAsTheLanguageDoes) {
+    rasterbackend::RasterTextShaper shaper;
+    const auto shapeOf = [&](const char* language) {
+        const std::vector<StyledRun> runs{{"ş", {.size = 16}, 0}};
+        return std::static_pointer_cast<const rasterbackend::RasterShapedText>(shaper.shape(runs, language, {}))
+            ->glyphs.at(0)
+            .shape;
+    };
+
+    // Turkish has a cedilla, Romanian a comma.
+    EXPECT_NE(shapeOf("ro"), shapeOf("tr"));
+    EXPECT_EQ(shapeOf("en"), shapeOf("tr"));
+    EXPECT_EQ(shapeOf(""), shapeOf("\xFF no language"));
+}
+
+TEST(RasterTextShaper, JoinsArabicLettersAcrossRuns) {
+    const auto text = std::static_pointer_cast<const rasterbackend::RasterShapedText>(
+        shapeRuns({{"ب", {.size = 16}, 0}, {"ب", {.size = 16}, 0}}, LayoutDirection::rightToLeft));
+    const auto word = std::static_pointer_cast<const rasterbackend::RasterShapedText>(shape("بب", LayoutDirection::rightToLeft));
+
+    EXPECT_EQ(text->glyphs.at(0).shape, word->glyphs.at(0).shape);
+    EXPECT_EQ(text->glyphs.at(1).shape, word->glyphs.at(1).shape);
+}
+
+TEST(RasterTextShaper, LeavesLigaturesOutWhereLettersAreSpaced) {
+    const auto groups = [](double kern) {
+        const ShapedRef shaped = shapeRuns({{"ffi", {.face = sora(700), .size = 16}, kern}});
+        return std::static_pointer_cast<const rasterbackend::RasterShapedText>(shaped)->groupStarts;
+    };
+
+    EXPECT_THAT(groups(0), ElementsAre(0, 0, 0));
+    EXPECT_THAT(groups(0.5), ElementsAre(0, 1, 2));
+}
+
+TEST(RasterTextShaper, PutsTheKernOnTheFarSideOfALetter) {
+    const auto place = [](double kern) {
+        const auto shaped = std::static_pointer_cast<const rasterbackend::RasterShapedText>(
+            shapeRuns({{"א", {.size = 16}, kern}}, LayoutDirection::rightToLeft));
+        return shaped->glyphs.at(0).x;
+    };
+
+    EXPECT_NEAR(place(2), place(0) + 2, 1e-3);
+}
+
 TEST(RasterTextShaper, ShapesTheSameTextTheSameWayAgain) {
     const ShapedRef first = shape("Déjà vu – אב 12 漢"), second = shape("Déjà vu – אב 12 漢");
 

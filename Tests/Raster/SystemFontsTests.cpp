@@ -1,0 +1,100 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "Backends/Raster/FallbackLanguage.hpp"
+#include "Backends/Raster/SystemFonts.hpp"
+#include "Tests/Raster/Shaping.hpp"
+#include "Tests/Support/TemporaryFolder.hpp"
+
+using namespace proupsells;
+
+using rasterbackend::fallbackLanguage;
+using rasterbackend::RasterTextShaper;
+using rasterbackend::SystemFonts;
+using testing::Field;
+using testing::IsEmpty;
+
+namespace {
+
+const std::filesystem::path testFonts = PROUPSELLS_TEST_FONTS;
+
+// A machine that has the tests' own fonts, and no others.
+class SmallMachine {
+public:
+    const std::filesystem::path& configuration() const { return m_configuration; }
+    // fontconfig makes it when it looks at the fonts.
+    std::filesystem::path cache() const { return m_folder.path() / "cache"; }
+
+private:
+    tests::TemporaryFolder m_folder;
+    std::filesystem::path m_configuration =
+        m_folder.write("fonts.conf", "<fontconfig><dir>" + testFonts.string() + "</dir><cachedir>" + cache().string() +
+                                         "</cachedir></fontconfig>");
+};
+
+} // namespace
+
+TEST(SystemFonts, FindFamiliesByTheirName) {
+    const SmallMachine machine;
+    SystemFonts fonts(machine.configuration());
+
+    EXPECT_FALSE(fonts.isEmpty());
+    EXPECT_THAT(fonts.facesOf("layers"), testing::ElementsAre(Field(&rasterbackend::FaceFile::path, testFonts / "Layers.ttf")));
+    EXPECT_THAT(fonts.facesOf("Nowhere"), IsEmpty());
+}
+
+TEST(SystemFonts, TellColouredEmojiFromPlainFonts) {
+    const SmallMachine machine;
+    SystemFonts fonts(machine.configuration());
+
+    ASSERT_TRUE(fonts.emojiFor(U"\U0001F600"));
+    EXPECT_FALSE(fonts.emojiFor(U"I"));
+    EXPECT_FALSE(fonts.faceFor(U"\U0001F600", {}, 400));
+    ASSERT_TRUE(fonts.faceFor(U"I", {}, 700));
+    EXPECT_EQ(fonts.faceFor(U"I", {}, 700)->path, testFonts / "Weighty.ttf");
+}
+
+TEST(SystemFonts, HaveNothingForACharacterThatOneOfThemLacks) {
+    const SmallMachine machine;
+    SystemFonts fonts(machine.configuration());
+
+    EXPECT_FALSE(fonts.faceFor(U"I\u0301", {}, 400));
+}
+
+TEST(SystemFonts, AreNotAskedBeforeTheyAreNeeded) {
+    const SmallMachine machine;
+    RasterTextShaper shaper({rasterbackend::shippedFaceFolder(), machine.configuration()});
+
+    tests::shapedBy(shaper, "Start your free trial", tests::faceOf("Sora", 700));
+    tests::shapedBy(shaper, "Год, έτος", tests::faceOf("Sora", 700));
+    const bool wereAskedForOurOwn = std::filesystem::exists(machine.cache());
+    tests::shapedBy(shaper, "漢");
+
+    EXPECT_FALSE(wereAskedForOurOwn);
+    EXPECT_TRUE(std::filesystem::exists(machine.cache()));
+}
+
+TEST(SystemFonts, ColourAnEmojiOfTheSystems) {
+    const SmallMachine machine;
+    RasterTextShaper shaper({rasterbackend::shippedFaceFolder(), machine.configuration()});
+
+    EXPECT_FALSE(tests::firstShape(tests::shapedBy(shaper, "\U0001F600")).picture.isNull());
+}
+
+TEST(FallbackLanguage, IsTheTextsOwnWhereThatIsWrittenInTheScript) {
+    EXPECT_EQ(fallbackLanguage("ja", "Hani"), "ja");
+    EXPECT_EQ(fallbackLanguage("ja-JP", "Kana"), "ja");
+    EXPECT_EQ(fallbackLanguage("ko", "Hang"), "ko");
+    EXPECT_EQ(fallbackLanguage("zh-Hant", "Hani"), "zh-tw");
+    EXPECT_EQ(fallbackLanguage("zh", "Hani"), "zh-cn");
+    EXPECT_EQ(fallbackLanguage("mr", "Deva"), "mr");
+    EXPECT_EQ(fallbackLanguage("de-AT", "Zyyy"), "de");
+}
+
+TEST(FallbackLanguage, IsTheScriptsMostUsualOneElsewhere) {
+    EXPECT_EQ(fallbackLanguage("en", "Hani"), "zh-cn");
+    EXPECT_EQ(fallbackLanguage("en", "Deva"), "hi");
+    EXPECT_EQ(fallbackLanguage("", "Arab"), "ar");
+    EXPECT_EQ(fallbackLanguage("", "Zyyy"), "");
+    EXPECT_EQ(fallbackLanguage("no language", "Thai"), "th");
+}
