@@ -1,4 +1,5 @@
 // What the paywall costs down to the pixels, 750 × 1600, painted by the pixel engine.
+#include "Backends/Raster/RasterPainter.hpp"
 #include "Backends/Raster/RasterSurface.hpp"
 #include "Benchmarks/PaywallWindow.hpp"
 #include "Benchmarks/RasterMachine.hpp"
@@ -23,12 +24,12 @@ BENCHMARK(warmOpenToFullFrame)->Unit(benchmark::kMicrosecond);
 
 // What the first paywall of a process costs: nothing is decoded, shaped texts and fonts are there.
 void firstOpenToFullFrame(benchmark::State& state) {
-    QtMachine machine;
+    RasterMachine machine;
     for (auto _ : state) {
         PaywallWindow window;
-        qtbackend::RasterSurface surface(std::make_shared<qtbackend::RasterPainter>());
+        rasterbackend::RasterSurface surface(std::make_shared<rasterbackend::RasterPainter>());
         surface.present(window.paint(), size, scale);
-        benchmark::DoNotOptimize(surface.image().constBits());
+        benchmark::DoNotOptimize(surface.picture().row(0));
     }
 }
 BENCHMARK(firstOpenToFullFrame)->Unit(benchmark::kMicrosecond);
