@@ -104,14 +104,19 @@ const GlyphTableRef& FontCatalog::fontFor(const CatalogFace& face, const Charact
 GlyphTableRef FontCatalog::findFontFor(const CatalogFace& face, const CharacterNeeds& needs, const std::string& language) {
     const auto isShownByFace = [&](std::u32string_view characters) { return face.font && shows(face.font->file(), characters); };
     if (needs.presentation != Presentation::emoji && isShownByFace(needs.characters)) return face.font;
-    if (needs.presentation != Presentation::text)
-        if (GlyphTableRef font = emojiShowing(needs.characters)) return font;
-    if (isShownByFace(needs.characters)) return face.font;
-    if (GlyphTableRef font = fontShowing(needs.characters, language, face.weight)) return font;
+    GlyphTableRef font;
+    if (needs.presentation != Presentation::text) font = emojiShowing(needs.characters);
+    if (!font && isShownByFace(needs.characters)) font = face.font;
+    if (!font) font = plainFontShowing(needs.characters, language, face.weight);
+    if (!font && needs.presentation == Presentation::text) font = emojiShowing(needs.characters);
+    if (!font && !m_hasReportedEmptySystem && m_system.isEmpty()) {
+        m_hasReportedEmptySystem = true;
+        report("No fonts are installed; characters that the module's own fonts lack are shown as boxes",
+               "FontCatalog::findFontFor");
+    }
     // A letter without its mark says more than nothing.
     const std::u32string_view base = std::u32string_view(needs.characters).substr(0, 1);
-    if (isShownByFace(base) || needs.characters.size() < 2) return face.font;
-    const GlyphTableRef font = fontShowing(base, language, face.weight);
+    if (!font && needs.characters.size() > 1 && !isShownByFace(base)) font = plainFontShowing(base, language, face.weight);
     return font ? font : face.font;
 }
 
@@ -124,20 +129,15 @@ GlyphTableRef FontCatalog::emojiShowing(std::u32string_view characters) {
     return installed ? open(*installed, installed->weight) : nullptr;
 }
 
-GlyphTableRef FontCatalog::fontShowing(std::u32string_view characters, const std::string& language, int weight) {
+GlyphTableRef FontCatalog::plainFontShowing(std::u32string_view characters, const std::string& language, int weight) {
     const auto shown = [&](const FaceFile* face) -> GlyphTableRef {
         const GlyphTableRef font = face ? open(*face, weight) : nullptr;
-        return font && shows(font->file(), characters) ? font : nullptr;
+        return font && !font->file().hasPictures() && shows(font->file(), characters) ? font : nullptr;
     };
     for (const FaceFile& face : m_registered)
         if (GlyphTableRef font = shown(nearestFace(m_registered, face.family, weight))) return font;
     if (GlyphTableRef font = shown(nearestFace(m_shipped, defaultFamily, weight))) return font;
     if (const std::optional<FaceFile> installed = m_system.faceFor(characters, language, weight)) return open(*installed, weight);
-    if (!m_hasReportedEmptySystem && m_system.isEmpty()) {
-        m_hasReportedEmptySystem = true;
-        report("No fonts are installed; characters that the module's own fonts lack are shown as boxes",
-               "FontCatalog::fontShowing");
-    }
     return nullptr;
 }
 

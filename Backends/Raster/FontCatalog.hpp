@@ -59,7 +59,7 @@ private:
     const GlyphTableRef& open(const FaceFile& face, int weight);
     GlyphTableRef findFontFor(const CatalogFace& face, const CharacterNeeds& needs, const std::string& language);
     GlyphTableRef emojiShowing(std::u32string_view characters);
-    GlyphTableRef fontShowing(std::u32string_view characters, const std::string& language, int weight);
+    GlyphTableRef plainFontShowing(std::u32string_view characters, const std::string& language, int weight);
 
     std::vector<FaceFile> m_registered;
     std::vector<FaceFile> m_shipped;

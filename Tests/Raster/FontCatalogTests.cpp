@@ -161,10 +161,13 @@ TEST(FontCatalog, NeverSplitsACharacterBetweenFonts) {
 
 TEST(FontCatalog, KnowsALetterAndItsMarkInEverySpelling) {
     RasterTextShaper shaper;
+    shaper.registerFace("Weighty", 400, testFonts / "Weighty.ttf");
 
-    const ShapedRef apart = shapedBy(shaper, "e\u0323\u0302", faceOf("Sora", 700));
+    const ShapedRef apart = shapedBy(shaper, "I\u0300", faceOf("Weighty", 400));
+    const ShapedRef joined = shapedBy(shaper, "\u1E98", faceOf("Sora", 700));
 
-    EXPECT_EQ(&firstShape(apart), &firstShape(shapedBy(shaper, "\u1EC7", faceOf("Sora", 700))));
+    EXPECT_EQ(&firstShape(apart), &firstShape(shapedBy(shaper, "\u00CC", faceOf("Weighty", 400))));
+    EXPECT_EQ(&firstShape(joined), &firstShape(shapedBy(shaper, "w", faceOf("Sora", 700))));
 }
 
 TEST(FontCatalog, ColoursEmojiWhereThereAreColours) {
@@ -175,17 +178,29 @@ TEST(FontCatalog, ColoursEmojiWhereThereAreColours) {
     EXPECT_FALSE(firstShape(shapedBy(shaper, "\U0001F600", faceOf("Sora", 700))).picture.isNull());
 }
 
-TEST(FontCatalog, KeepsAnEmojiPlainWhereTheTextSaysSo) {
+TEST(FontCatalog, ColoursASymbolWhereTheTextSaysSoOrItsFaceLacksIt) {
+    RasterTextShaper shaper;
+    shaper.registerFace("Layers", 400, testFonts / "Layers.ttf");
+    const auto isColoured = [&](const std::string& text, const char* family) {
+        return !firstShape(shapedBy(shaper, text, faceOf(family, 700))).picture.isNull();
+    };
+
+    // Inter has a plain arrow, Sora has none.
+    EXPECT_FALSE(isColoured("\u2194", "Inter"));
+    EXPECT_TRUE(isColoured("\u2194\uFE0F", "Inter"));
+    EXPECT_FALSE(isColoured("\u2194\uFE0E", "Inter"));
+    EXPECT_TRUE(isColoured("\u2194", "Sora"));
+    EXPECT_FALSE(isColoured("\u2194\uFE0E", "Sora"));
+}
+
+TEST(FontCatalog, RatherColoursAPlainSymbolThanShowsABox) {
     tests::LogRecorder log;
     const BareMachine machine;
     RasterTextShaper shaper(machine.sources());
-    const ShapedRef box = shapedBy(shaper, "\U000F0000");
     shaper.registerFace("Layers", 400, testFonts / "Layers.ttf");
 
-    // A plain star of the text's own face comes before any other.
-    EXPECT_EQ(firstShape(shapedBy(shaper, "\u2605", faceOf("Inter", 400))).outline,
-              firstShape(shapedBy(shaper, "\u2605\uFE0E", faceOf("Inter", 400))).outline);
-    EXPECT_TRUE(firstShape(shapedBy(shaper, "\u2605")).picture.isNull());
+    EXPECT_FALSE(firstShape(shapedBy(shaper, "\U0001F600\uFE0E")).picture.isNull());
+    EXPECT_THAT(log.messages(), IsEmpty());
 }
 
 TEST(FontCatalog, TellsStylesByTheirNames) {

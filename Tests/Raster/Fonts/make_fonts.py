@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Makes the small fonts of the tests: usage: make_fonts.py FOLDER
 
-Weighty.ttf   a variable font: "I" is a stem, 100 units wide at weight 100 and 900 at weight 900
-Layers.ttf    U+1F600 is a red square under a small blue one, U+2605 a plain square
+Weighty.ttf   a variable font: "I" is a stem, 100 units wide at weight 100 and 900 at weight 900; "Ì" the same, without a mark
+Layers.ttf    U+1F600 and U+2194 are a red square under a small blue one, U+2605 is a plain square
 Pixels.ttf    U+1F600 is a green picture of 32 × 16 pixels at 32 pixels per em
 All have 1000 units per em."""
 import pathlib
@@ -47,7 +47,7 @@ def builder(family, glyphs, characters, advances):
 
 
 def variable():
-    made = builder("Weighty", {"I": square(0, 0, 100, 700)}, {ord("I"): "I"}, {"I": 200})
+    made = builder("Weighty", {"I": square(0, 0, 100, 700)}, {ord("I"): "I", 0x00CC: "I"}, {"I": 200})
     made.setupFvar([("wght", 100, 100, 900, "Weight")], [])
     # The square's four corners, then the places of the advance and the other three.
     wider = [(0, 0), (0, 0), (800, 0), (800, 0), (0, 0), (800, 0), (0, 0), (0, 0)]
@@ -58,7 +58,7 @@ def variable():
 def layers():
     glyphs = {"face": square(0, 0, 1000, 1000), "under": square(0, 0, 1000, 1000), "over": square(250, 250, 750, 750),
               "star": square(0, 0, 500, 500)}
-    made = builder("Layers", glyphs, {0x1F600: "face", 0x2605: "star"}, {"face": 1000})
+    made = builder("Layers", glyphs, {0x1F600: "face", 0x2194: "face", 0x2605: "star"}, {"face": 1000})
     made.setupCOLR({"face": [("under", 0), ("over", 1)]})
     made.setupCPAL([[(1, 0, 0, 1), (0, 0, 1, 1)]])
     return made
