@@ -19,6 +19,15 @@ public:
     Picture(int width, int height)
         : m_width(width > 0 && height > 0 ? width : 0), m_height(m_width > 0 ? height : 0),
           m_pixels(m_width > 0 ? std::make_shared<Pixel[]>(pixelCount()) : nullptr) {}
+    // Pixels of whatever colours, for who writes all of them. Null where a length is not positive.
+    static Picture unwritten(int width, int height) {
+        Picture picture;
+        if (width <= 0 || height <= 0) return picture;
+        picture.m_width = width;
+        picture.m_height = height;
+        picture.m_pixels = std::make_shared_for_overwrite<Pixel[]>(picture.pixelCount());
+        return picture;
+    }
     // Pixels that somebody else owns. They must hold width × height and stay as they are.
     Picture(std::shared_ptr<const Pixel[]> pixels, int width, int height)
         : m_width(width), m_height(height), m_pixels(std::const_pointer_cast<Pixel[]>(std::move(pixels))) {}

@@ -24,7 +24,7 @@ std::string compressed(const Picture& picture) {
 Picture decompressed(std::string_view bytes, int width, int height) {
     const std::size_t wanted = std::size_t(width) * std::size_t(height) * sizeof(Pixel);
     if (wanted / maximumGain > bytes.size() || wanted > LZ4_MAX_INPUT_SIZE) return {};
-    Picture picture(width, height);
+    Picture picture = Picture::unwritten(width, height);
     const int got =
         LZ4_decompress_safe(bytes.data(), reinterpret_cast<char*>(picture.row(0)), int(bytes.size()), int(picture.byteCount()));
     return got >= 0 && std::size_t(got) == wanted ? picture : Picture();

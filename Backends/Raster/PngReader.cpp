@@ -57,7 +57,7 @@ std::optional<geometry::Size> pngSize(std::string_view bytes) {
 Picture pngPicture(std::string_view bytes) {
     Reading reading(bytes);
     if (!reading.isBegun() || reading.width() * reading.height() > maximumPixelCount) return {};
-    Picture picture(int(reading.width()), int(reading.height()));
+    Picture picture = Picture::unwritten(int(reading.width()), int(reading.height()));
     if (picture.isNull() || !reading.finish(picture.row(0))) return {};
     premultiply(picture.row(0), std::size_t(picture.width()) * std::size_t(picture.height()));
     return picture;

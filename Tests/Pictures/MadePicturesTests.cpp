@@ -43,6 +43,15 @@ void expectMadeOf(const std::filesystem::path& vectors, const std::filesystem::p
     }
 }
 
+// In levels of 255.
+int largestDifference(const QImage& a, const QImage& b) {
+    int largest = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int index = 0; index < a.width() * 4; ++index)
+            largest = std::max(largest, std::abs(a.constScanLine(y)[index] - b.constScanLine(y)[index]));
+    return largest;
+}
+
 class MakePictures : public testing::Test {
 protected:
     // Returns whether the tool made a picture.
@@ -59,6 +68,19 @@ protected:
 TEST(MadePictures, AreTheVectorFilesPixelForPixel) {
     expectMadeOf("ProUpsells/Resources/Images", foundation::resourceFolder("ProUpsells", {}, {}) / "Images");
     expectMadeOf("Platform/VelaUIKit/Resources/Images", foundation::resourceFolder("VelaUIKit", {}, {}) / "Images");
+}
+
+TEST(MadePictures, AreNearTheVectorFilesAtFractionalScales) {
+    const auto made = foundation::resourceFolder("VelaUIKit", {}, {}) / "Images";
+    const std::filesystem::path vectors = "Platform/VelaUIKit/Resources/Images";
+    for (const std::string icon : {"diamond24", "xmark"}) {
+        const auto difference = [&](QSize size) {
+            return largestDifference(readImage(made / (icon + ".picture"), size), renderVector(vectors / (icon + ".svg"), size));
+        };
+        const int length = icon == "xmark" ? 16 : 24;
+        EXPECT_LE(difference({length * 3 / 2, length * 3 / 2}), 4) << icon;
+        EXPECT_LE(difference({length * 5 / 4, length * 5 / 4}), 26) << icon;
+    }
 }
 
 TEST(MadePictures, LieBesideEverythingElseThatTheLibraryBrings) {
