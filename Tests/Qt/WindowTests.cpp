@@ -10,10 +10,10 @@
 
 #include "Backends/Qt/QtRunLoopDriver.hpp"
 #include "Backends/Qt/QtWindow.hpp"
-#include "Platform/Graphics/PaintContext.hpp"
 #include "Backends/Raster/RasterSurface.hpp"
-#include "Tests/Raster/Canvas.hpp"
+#include "Platform/Graphics/PaintContext.hpp"
 #include "Tests/Qt/Events.hpp"
+#include "Tests/Raster/Canvas.hpp"
 
 using namespace proupsells;
 
