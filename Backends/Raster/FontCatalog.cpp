@@ -79,11 +79,18 @@ GlyphTableRef FontCatalog::standIn(const std::string& missingFamily, int weight)
     return font;
 }
 
-// Null where the file is no font.
-const GlyphTableRef& FontCatalog::open(const FaceFile& face, int weight) {
-    GlyphTableRef& font = m_fonts[{face.path.string(), face.index, weight}];
-    if (!font)
-        if (auto file = FontFile::open(face.path, face.index, weight)) font = std::make_shared<GlyphTable>(std::move(file));
+// Null where the file is no font. Weights share a file that has only one.
+GlyphTableRef FontCatalog::open(const FaceFile& face, int weight) {
+    constexpr int anyWeight = 0;
+    for (const int known : {anyWeight, weight}) {
+        const auto found = m_fonts.find({face.path.string(), face.index, known});
+        if (found != m_fonts.end()) return found->second;
+    }
+    auto file = FontFile::open(face.path, face.index, weight);
+    if (!file) return nullptr;
+    const bool isVariable = file->isVariable();
+    auto font = std::make_shared<GlyphTable>(std::move(file));
+    m_fonts.emplace(std::tuple(face.path.string(), face.index, isVariable ? weight : anyWeight), font);
     return font;
 }
 
@@ -122,7 +129,7 @@ GlyphTableRef FontCatalog::findFontFor(const CatalogFace& face, const CharacterN
 
 GlyphTableRef FontCatalog::emojiShowing(std::u32string_view characters) {
     for (const FaceFile& face : m_registered) {
-        const GlyphTableRef& font = open(face, face.weight);
+        GlyphTableRef font = open(face, face.weight);
         if (font->file().hasPictures() && shows(font->file(), characters)) return font;
     }
     const std::optional<FaceFile> installed = m_system.emojiFor(characters);

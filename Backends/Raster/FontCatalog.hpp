@@ -56,7 +56,7 @@ private:
     CatalogFace find(const std::string& family, int weight);
     GlyphTableRef findFont(const std::string& family, int weight);
     GlyphTableRef standIn(const std::string& missingFamily, int weight);
-    const GlyphTableRef& open(const FaceFile& face, int weight);
+    GlyphTableRef open(const FaceFile& face, int weight);
     GlyphTableRef findFontFor(const CatalogFace& face, const CharacterNeeds& needs, const std::string& language);
     GlyphTableRef emojiShowing(std::u32string_view characters);
     GlyphTableRef plainFontShowing(std::u32string_view characters, const std::string& language, int weight);
@@ -68,7 +68,7 @@ private:
     // What was asked once is not asked again. A question is all that the answer hangs on, in one string.
     std::unordered_map<std::u32string, GlyphTableRef> m_answers;
     std::u32string m_question;
-    std::map<std::tuple<std::string, int, int>, GlyphTableRef> m_fonts; // by path, index and weight
+    std::map<std::tuple<std::string, int, int>, GlyphTableRef> m_fonts; // by path, index and weight; 0 for any
     std::vector<std::string> m_missingFamilies;
     bool m_hasReportedEmptySystem = false;
 };

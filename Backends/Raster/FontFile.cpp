@@ -105,7 +105,7 @@ struct FontFile::Parts {
     FontRef shaping;
     SetRef characters{hb_set_create()};
     double ascent = 0, descent = 0;
-    bool hasPictures = false;
+    bool isVariable = false, hasPictures = false;
 
     ~Parts() {
         if (face) FT_Done_Face(face);
@@ -129,8 +129,8 @@ std::shared_ptr<const FontFile> FontFile::open(const std::filesystem::path& path
     parts->unscaled.reset(hb_font_create(face.get()));
     hb_font_set_scale(parts->unscaled.get(), unitsPerEm, unitsPerEm);
     hb_ot_var_axis_info_t axis;
-    if (hb_ot_var_find_axis_info(face.get(), HB_TAG('w', 'g', 'h', 't'), &axis))
-        setWeight(parts->face, parts->unscaled.get(), weight);
+    parts->isVariable = hb_ot_var_find_axis_info(face.get(), HB_TAG('w', 'g', 'h', 't'), &axis);
+    if (parts->isVariable) setWeight(parts->face, parts->unscaled.get(), weight);
     parts->ascent = metric(parts->unscaled.get(), HB_OT_METRICS_TAG_HORIZONTAL_ASCENDER, unitsPerEm);
     parts->descent = -metric(parts->unscaled.get(), HB_OT_METRICS_TAG_HORIZONTAL_DESCENDER, unitsPerEm);
 
@@ -145,6 +145,7 @@ std::shared_ptr<const FontFile> FontFile::open(const std::filesystem::path& path
 }
 
 bool FontFile::covers(char32_t character) const { return hb_set_has(m_parts->characters.get(), character); }
+bool FontFile::isVariable() const { return m_parts->isVariable; }
 bool FontFile::hasPictures() const { return m_parts->hasPictures; }
 double FontFile::ascent() const { return m_parts->ascent; }
 double FontFile::descent() const { return m_parts->descent; }

@@ -27,6 +27,8 @@ public:
 
     // Whether the font has a glyph of its own for the character.
     bool covers(char32_t character) const;
+    // Whether the font took the weight that it was opened with.
+    bool isVariable() const;
     // Whether glyphs may be coloured pictures.
     bool hasPictures() const;
     double ascent() const;  // ems

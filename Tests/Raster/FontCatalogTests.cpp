@@ -221,3 +221,10 @@ TEST(FontCatalog, LetsLightTextsBecomeLighterAndBoldOnesBolder) {
     EXPECT_EQ(nearest(700), "black");
     EXPECT_EQ(rasterbackend::nearestFace(faces, "Other", 400), nullptr);
 }
+
+TEST(FontCatalog, SharesAFileAmongItsWeights) {
+    RasterTextShaper shaper;
+
+    // The extra bold one is the nearest to both.
+    EXPECT_EQ(&firstShape(shapedBy(shaper, "a", faceOf("Sora", 900))), &firstShape(shapedBy(shaper, "a", faceOf("Sora", 850))));
+}
