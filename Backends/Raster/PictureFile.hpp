@@ -12,8 +12,8 @@ namespace proupsells::rasterbackend {
 // In points; a pixel of a PNG file is a point. Absent where the file holds no picture.
 std::optional<geometry::Size> naturalPictureSize(const std::filesystem::path& file);
 
-// The picture stretched over the size in pixels: the file's own at this size where it has one, else made of its largest. Null where it
-// cannot be read.
+// The picture stretched over the size in pixels: the file's own at this size where it has one, else made of its largest. Null where
+// it cannot be read.
 Picture readPicture(const std::filesystem::path& file, int width, int height);
 
 } // namespace proupsells::rasterbackend

@@ -75,7 +75,7 @@ TEST(MadePictures, AreNearTheVectorFilesAtFractionalScales) {
     const std::filesystem::path vectors = "Platform/VelaUIKit/Resources/Images";
     for (const std::string icon : {"diamond24", "xmark"}) {
         const auto difference = [&](QSize size) {
-            return largestDifference(readImage(made / (icon + ".picture"), size), renderVector(vectors / (icon + ".svg"), size));
+            return largestDifference(shown(made / (icon + ".picture"), size), renderVector(vectors / (icon + ".svg"), size));
         };
         const int length = icon == "xmark" ? 16 : 24;
         EXPECT_LE(difference({length * 3 / 2, length * 3 / 2}), 4) << icon;
