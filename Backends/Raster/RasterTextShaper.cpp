@@ -25,6 +25,8 @@ std::uint32_t endOfPiece(const RasterShapedText& text, std::uint32_t first) {
 } // namespace
 
 struct RasterTextShaper::Parts {
+    explicit Parts(FontSources sources) : catalog(std::move(sources)) {}
+
     FontCatalog catalog;
     ClusterMaker clusterMaker;
     PieceShaper pieceShaper{catalog};
@@ -33,7 +35,7 @@ struct RasterTextShaper::Parts {
 
 RasterTextShaper::RasterTextShaper() : RasterTextShaper(FontSources{}) {}
 
-RasterTextShaper::RasterTextShaper(FontSources sources) : m_parts(new Parts{FontCatalog(std::move(sources))}) {}
+RasterTextShaper::RasterTextShaper(FontSources sources) : m_parts(std::make_unique<Parts>(std::move(sources))) {}
 
 RasterTextShaper::~RasterTextShaper() = default;
 

@@ -3,8 +3,11 @@
 
 #include <hb-ot.h>
 #include <hb.h>
+#include <map>
+#include <set>
 
 #include "Platform/Foundation/Utf8.hpp"
+#include "Platform/LumoKit/TextStyle.hpp"
 #include "Platform/VelaUIKit/Fonts.hpp"
 #include "Tests/Raster/Shaping.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
@@ -44,11 +47,22 @@ std::vector<std::string> features(const FontFile& font, hb_tag_t table) {
 } // namespace
 
 TEST(ShippedFaces, AreTheOnesThatTheDesignSystemNames) {
-    std::vector<std::string> names;
-    for (const FaceFile& face : shippedFaces()) names.push_back(face.family + " " + std::to_string(face.weight));
+    using velauikit::FontOption;
+    std::set<std::string> named, shipped;
+    const auto name = [&](const graphics::Font& font) {
+        named.insert(font.face->family + " " + std::to_string(font.face->weight));
+    };
 
-    EXPECT_THAT(names, testing::UnorderedElementsAre("Inter 400", "Inter 500", "Inter 600", "Inter 700", "Inter Display 400",
-                                                     "Inter Display 500", "Inter Display 700", "Sora 600", "Sora 700"));
+    for (const FontOption option : {FontOption::regular, FontOption::medium, FontOption::bold})
+        for (const double size : {17.0, 24.0}) name(velauikit::velaDefaultFont(option, size));
+    name(velauikit::quenbyBold(24));
+    name(velauikit::quenbySemibold(24));
+    for (const lumokit::TextStyle& style :
+         {lumokit::headingH2, lumokit::bodyLarge, lumokit::labelSmall, lumokit::labelCapsSmall, lumokit::labelCapsLarge})
+        name(style.font(swiftui::SizeClass::compact));
+    for (const FaceFile& face : shippedFaces()) shipped.insert(face.family + " " + std::to_string(face.weight));
+
+    EXPECT_EQ(shipped, named);
 }
 
 TEST(ShippedFaces, HaveEveryLetterOfLatinGreekAndCyrillicThatTheirTypefaceHas) {
