@@ -169,6 +169,7 @@ CoverageMask ShapeMasks::makeShadow(const Placement& placement, double blurRadiu
     const Rect frame = placement.frame();
     const auto profile = [reach = 2 * blurRadius](int length, double from, double to) {
         std::vector<double> values;
+        values.reserve(std::size_t(length));
         for (int index = 0; index < length; ++index)
             values.push_back(blurredStep(index + 0.5 - from, reach) - blurredStep(index + 0.5 - to, reach));
         return values;

@@ -43,7 +43,7 @@ Transform sourceToFrame(const Picture& source, const Rect& frame) {
 }
 
 // A picture that shrinks to less than half is made smaller first: interpolation alone would leave pixels out.
-Picture prepared(Picture source, const Rect& frame, const Transform& toPixels) {
+Picture prepared(const Picture& source, const Rect& frame, const Transform& toPixels) {
     const Transform shown = sourceToFrame(source, frame).then(toPixels);
     const auto shrunk = [](int length, double factor) {
         return factor < 0.5 ? std::max(1, int(std::ceil(length * factor))) : length;
@@ -55,11 +55,11 @@ Picture prepared(Picture source, const Rect& frame, const Transform& toPixels) {
 
 } // namespace
 
-void paintTransformed(Picture& target, Picture source, const Rect& frame, const Transform& toPixels,
+void paintTransformed(Picture& target, const Picture& source, const Rect& frame, const Transform& toPixels,
                       CoverageRasterizer& rasterizer) {
     if (target.isNull() || source.isNull() || frame.isEmpty() || toPixels.a * toPixels.d == toPixels.b * toPixels.c) return;
-    source = prepared(std::move(source), frame, toPixels);
-    const Transform toSource = sourceToFrame(source, frame).then(toPixels).inverted();
+    const Picture shown = prepared(source, frame, toPixels);
+    const Transform toSource = sourceToFrame(shown, frame).then(toPixels).inverted();
 
     rasterizer.begin(target.width(), target.height());
     rasterizer.add(geometry::Path::rectangle(frame), toPixels);
@@ -70,7 +70,7 @@ void paintTransformed(Picture& target, Picture source, const Rect& frame, const 
         mask.visitRow(y, 0, target.width(), [&](int left, int right, const std::uint8_t* coverages, std::uint8_t shared) {
             for (int x = left; x < right; ++x)
                 samples[std::size_t(x)] =
-                    scaled(sampleAt(source, toSource.apply(Point{x + 0.5, y + 0.5})), coverages ? coverages[x - left] : shared);
+                    scaled(sampleAt(shown, toSource.apply(Point{x + 0.5, y + 0.5})), coverages ? coverages[x - left] : shared);
             blendPixels(row + left, std::size_t(right - left), samples.data() + left, 255);
         });
     }

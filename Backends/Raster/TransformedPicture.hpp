@@ -8,7 +8,7 @@ namespace proupsells::rasterbackend {
 
 // Paints `source` over what is in `target`. The source covers `frame`, which `toPixels` maps to the target's pixels. Edges are
 // smooth, and the pixels between are interpolated.
-void paintTransformed(Picture& target, Picture source, const geometry::Rect& frame, const geometry::Transform& toPixels,
+void paintTransformed(Picture& target, const Picture& source, const geometry::Rect& frame, const geometry::Transform& toPixels,
                       CoverageRasterizer& rasterizer);
 
 } // namespace proupsells::rasterbackend

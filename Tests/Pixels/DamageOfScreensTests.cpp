@@ -49,6 +49,8 @@ public:
         return m_list;
     }
 
+    void waitUntil(double time_s) { m_loop.runUntil(time_s); }
+
     static constexpr geometry::Size size{375, 800};
 
 private:
@@ -100,6 +102,22 @@ private:
     graphics::DisplayList m_list;
 };
 
+// The paywall left alone: its damage at 60 frames a second over a stretch of time, in points.
+std::vector<geometry::Rect> damageOverTime(double start_s, double end_s) {
+    RestlessPerson person(Start::paywall, 1);
+    rasterbackend::RasterSurface surface;
+    person.waitUntil(start_s);
+    surface.present(person.paint(), RestlessPerson::size, 1);
+    std::vector<geometry::Rect> damage;
+    for (double now_s = start_s + 1.0 / 60; now_s < end_s; now_s += 1.0 / 60) {
+        person.waitUntil(now_s);
+        surface.present(person.paint(), RestlessPerson::size, 1);
+        for (const rasterbackend::PixelRect& rect : surface.lastDamage())
+            damage.push_back({{double(rect.left), double(rect.top)}, {double(rect.width()), double(rect.height())}});
+    }
+    return damage;
+}
+
 class DamageOfScreens : public testing::TestWithParam<std::tuple<Start, double>> {};
 
 } // namespace
@@ -125,3 +143,13 @@ TEST_P(DamageOfScreens, RepaintsAsTheWholeWindowWouldBePainted) {
         }
     }
 }
+
+TEST(DamageOfThePaywall, OfASlidingPageIsTheHeader) {
+    constexpr double headerBottom = 254;
+    const std::vector<geometry::Rect> damage = damageOverTime(5.1, 6.9);
+
+    EXPECT_FALSE(damage.empty());
+    for (const geometry::Rect& rect : damage) EXPECT_LE(rect.maxY(), headerBottom);
+}
+
+TEST(DamageOfThePaywall, IsNothingWhileNothingMoves) { EXPECT_TRUE(damageOverTime(1, 4.9).empty()); }
