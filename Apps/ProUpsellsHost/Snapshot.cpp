@@ -5,8 +5,8 @@
 
 namespace proupsells::hostprogram {
 
-std::optional<PixelSize> writeSnapshot(host::WindowContent& window, geometry::Size size, double scale,
-                                       const std::filesystem::path& folder, const std::string& name) {
+std::optional<rasterbackend::PixelSize> writeSnapshot(host::WindowContent& window, geometry::Size size, double scale,
+                                                      const std::filesystem::path& folder, const std::string& name) {
     graphics::DisplayList list;
     window.paint(list);
     rasterbackend::RasterSurface surface;
@@ -15,7 +15,7 @@ std::optional<PixelSize> writeSnapshot(host::WindowContent& window, geometry::Si
     std::error_code error;
     std::filesystem::create_directories(folder, error);
     if (error || !rasterbackend::writePng(surface.picture(), folder / name)) return std::nullopt;
-    return PixelSize{surface.picture().width(), surface.picture().height()};
+    return {{surface.picture().width(), surface.picture().height()}};
 }
 
 } // namespace proupsells::hostprogram
