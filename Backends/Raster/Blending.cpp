@@ -16,7 +16,10 @@ namespace proupsells::rasterbackend {
 
 namespace {
 
-Pixel over(Pixel top, Pixel below) { return top + scaled(below, 255u - alphaOf(top)); }
+// Into each of the versions: a call for each pixel would keep the loops from becoming vector code.
+#define PROUPSELLS_INSIDE [[gnu::always_inline]] inline
+
+PROUPSELLS_INSIDE Pixel over(Pixel top, Pixel below) { return top + scaled(below, 255u - alphaOf(top)); }
 
 // Two channels of an opaque colour over what is there, by a share from 0 to 255.
 constexpr Pixel mixedPair(Pixel top, Pixel below, std::uint32_t share) {
@@ -27,7 +30,7 @@ constexpr Pixel mixedPair(Pixel top, Pixel below, std::uint32_t share) {
 // Most pictures are opaque or empty nearly everywhere, and by the group that costs less than blending.
 constexpr std::size_t group = 16;
 
-inline void blendGroup(Pixel* to, const Pixel* from) {
+PROUPSELLS_INSIDE void blendGroup(Pixel* to, const Pixel* from) {
     Pixel common = 0xFFFFFFFF, any = 0;
     for (std::size_t index = 0; index < group; ++index) {
         common &= from[index];

@@ -46,7 +46,7 @@ void RasterSurface::present(const graphics::DisplayList& list, geometry::Size si
     if (size != m_size || scale != m_scale) {
         m_size = size;
         m_scale = scale;
-        m_picture = paintsDirectly() ? Picture{} : Picture(pixels.width, pixels.height);
+        m_picture = paintsDirectly() ? Picture{} : Picture::unwritten(pixels.width, pixels.height);
         if (!window.isEmpty()) m_damage.push_back(window);
     } else {
         findDamagedPixels(list, window);
