@@ -1,5 +1,6 @@
 #include "Backends/Raster/FontFile.hpp"
 
+#include <cmath>
 #include <hb-ot.h>
 #include <hb.h>
 #include <utility>
@@ -88,10 +89,11 @@ void setWeight(FT_Face face, hb_font_t* unscaled, int weight) {
     FT_Done_MM_Var(freeType().get(), axes);
 }
 
+// In ems, and in whole shaping units as the advances are.
 double metric(hb_font_t* unscaled, hb_ot_metrics_tag_t tag, double unitsPerEm) {
     hb_position_t value = 0;
     hb_ot_metrics_get_position(unscaled, tag, &value);
-    return value / unitsPerEm;
+    return double(std::lround(value / unitsPerEm * shapingUnitsPerEm)) / shapingUnitsPerEm;
 }
 
 } // namespace
