@@ -27,20 +27,56 @@ constexpr Pixel mixedPair(Pixel top, Pixel below, std::uint32_t share) {
     return ((sum + ((sum >> 8) & 0x00FF00FF)) >> 8) & 0x00FF00FF;
 }
 
+// Bytes that are all the same are written without reading what was there.
+PROUPSELLS_INSIDE void fill(Pixel* to, std::size_t count, Pixel color) {
+    if (color == (color & 0xFF) * 0x01010101u)
+        std::memset(to, int(color & 0xFF), count * sizeof(Pixel));
+    else
+        std::fill_n(to, count, color);
+}
+
+// What lies below a row of pixels: what is there already, or one colour that has not been painted yet.
+struct Shown {
+    const Pixel* pixels;
+    PROUPSELLS_INSIDE Pixel operator[](std::size_t index) const { return pixels[index]; }
+    PROUPSELLS_INSIDE Shown from(std::size_t index) const { return {pixels + index}; }
+    PROUPSELLS_INSIDE void copyTo(Pixel*, std::size_t) const {}
+};
+struct Ground {
+    Pixel color;
+    PROUPSELLS_INSIDE Pixel operator[](std::size_t) const { return color; }
+    PROUPSELLS_INSIDE Ground from(std::size_t) const { return *this; }
+    PROUPSELLS_INSIDE void copyTo(Pixel* to, std::size_t count) const { std::fill_n(to, count, color); }
+};
+
 // Most pictures are opaque or empty nearly everywhere, and by the group that costs less than blending.
 constexpr std::size_t group = 16;
 
-PROUPSELLS_INSIDE void blendGroup(Pixel* to, const Pixel* from) {
-    Pixel common = 0xFFFFFFFF, any = 0;
-    for (std::size_t index = 0; index < group; ++index) {
-        common &= from[index];
-        any |= from[index];
+template <class Below>
+PROUPSELLS_INSIDE void blendGroup(Pixel* to, const Pixel* from, Below below) {
+    // Two pixels in each.
+    std::uint64_t pairs[group / 2];
+    std::memcpy(pairs, from, sizeof pairs);
+    std::uint64_t common = pairs[0], any = pairs[0];
+    for (const std::uint64_t pair : pairs) {
+        common &= pair;
+        any |= pair;
     }
-    if (alphaOf(common) == 255) {
+    constexpr std::uint64_t alphas = 0xFF000000'FF000000;
+    if ((common & alphas) == alphas)
         std::memcpy(to, from, group * sizeof(Pixel));
-    } else if (any != 0) {
-        for (std::size_t index = 0; index < group; ++index) to[index] = over(from[index], to[index]);
-    }
+    else if (any == 0)
+        below.copyTo(to, group);
+    else
+        for (std::size_t index = 0; index < group; ++index) to[index] = over(from[index], below[index]);
+}
+
+template <class Below>
+PROUPSELLS_INSIDE void blendRow(Pixel* to, std::size_t count, const Pixel* from, std::uint8_t opacity, Below below) {
+    std::size_t index = 0;
+    if (opacity == 255)
+        for (; index + group <= count; index += group) blendGroup(to + index, from + index, below.from(index));
+    for (; index < count; ++index) to[index] = over(scaled(from[index], opacity), below[index]);
 }
 
 } // namespace
@@ -59,7 +95,7 @@ PROUPSELLS_VECTORIZED void blendColor(Pixel* to, std::size_t count, Pixel color,
     const Pixel top = coverage == 255 ? color : scaled(color, coverage);
     const std::uint32_t rest = 255u - alphaOf(top);
     if (rest == 0) {
-        std::fill_n(to, count, top);
+        fill(to, count, top);
     } else if (rest < 255) {
         for (std::size_t index = 0; index < count; ++index) to[index] = top + scaled(to[index], rest);
     }
@@ -80,12 +116,11 @@ PROUPSELLS_VECTORIZED void blendColor(Pixel* to, std::size_t count, Pixel color,
 }
 
 PROUPSELLS_VECTORIZED void blendPixels(Pixel* to, std::size_t count, const Pixel* from, std::uint8_t opacity) {
-    if (opacity == 255) {
-        for (; count >= group; to += group, from += group, count -= group) blendGroup(to, from);
-        for (std::size_t index = 0; index < count; ++index) to[index] = over(from[index], to[index]);
-    } else {
-        for (std::size_t index = 0; index < count; ++index) to[index] = over(scaled(from[index], opacity), to[index]);
-    }
+    blendRow(to, count, from, opacity, Shown{to});
+}
+
+PROUPSELLS_VECTORIZED void blendPixels(Pixel* to, std::size_t count, const Pixel* from, std::uint8_t opacity, Pixel ground) {
+    blendRow(to, count, from, opacity, Ground{ground});
 }
 
 } // namespace proupsells::rasterbackend

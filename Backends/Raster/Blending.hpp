@@ -35,5 +35,7 @@ void blendColor(Pixel* to, std::size_t count, Pixel color, std::uint8_t coverage
 // Likewise, each with a coverage of its own.
 void blendColor(Pixel* to, std::size_t count, Pixel color, const std::uint8_t* coverages);
 void blendPixels(Pixel* to, std::size_t count, const Pixel* from, std::uint8_t opacity);
+// Likewise, over one colour instead of what is there.
+void blendPixels(Pixel* to, std::size_t count, const Pixel* from, std::uint8_t opacity, Pixel ground);
 
 } // namespace proupsells::rasterbackend

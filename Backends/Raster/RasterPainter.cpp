@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
+#include <utility>
 
 #include "Backends/Raster/Blending.hpp"
 
@@ -19,6 +21,9 @@ namespace {
 // Shapes whose corners or curves are larger are made for their place in the window alone.
 constexpr double largestShape_px = 2048;
 constexpr std::uint32_t longestTextPiece = 256; // clusters
+// What is painted over what stays in the processor's cache.
+constexpr int bandHeight_px = 128;
+constexpr Pixel white = 0xFFFFFFFF;
 
 // Calls paintRow(y, left, right, coverage) for the rows of an area, cut by a rounded clip where there is one.
 template <class PaintRow>
@@ -54,7 +59,7 @@ const Resource* resourceOf(const std::vector<Resource>& resources, const Command
 
 } // namespace
 
-// One call of paint().
+// Painting a part of the target.
 struct RasterPainter::Job {
     Pixel* pixels;
     std::ptrdiff_t pixelsPerRow;
@@ -62,8 +67,30 @@ struct RasterPainter::Job {
     const double scale;
     const PixelRect region;
     const PixelRect window;
+    // The colour of the whole region, until something is painted on it: a picture is painted together with what is below it.
+    std::optional<Pixel> ground;
 
     Pixel* row(int y) const { return pixels + y * pixelsPerRow; }
+
+    void paintGround() {
+        if (const std::optional<Pixel> color = std::exchange(ground, std::nullopt)) fill(region, *color);
+    }
+    // Paints the ground outside of `hole` only, for whoever paints all of that together with its ground; absent where it is painted
+    // already.
+    std::optional<Pixel> takeGroundAround(const PixelRect& hole) {
+        if (hole.isEmpty() || !ground) return std::nullopt;
+        fill({region.left, region.top, region.right, hole.top}, *ground);
+        fill({region.left, hole.top, hole.left, hole.bottom}, *ground);
+        fill({hole.right, hole.top, region.right, hole.bottom}, *ground);
+        fill({region.left, hole.bottom, region.right, region.bottom}, *ground);
+        return std::exchange(ground, std::nullopt);
+    }
+
+private:
+    void fill(const PixelRect& rect, Pixel color) const {
+        if (rect.isEmpty()) return;
+        for (int y = rect.top; y < rect.bottom; ++y) blendColor(row(y) + rect.left, std::size_t(rect.width()), color, 255);
+    }
 };
 
 // One command, in pixels.
@@ -78,13 +105,15 @@ struct RasterPainter::Item {
     double factor() const { return toPixels.a; }
 
     template <class PaintRow>
-    void paintRows(const PixelRect& extent, PaintRow&& paintRow) const {
+    void paintRows(Job& job, const PixelRect& extent, PaintRow&& paintRow) const {
         const PixelRect visible = area.intersection(extent);
-        if (!visible.isEmpty()) forEachRow(visible, clip, paintRow);
+        if (visible.isEmpty()) return;
+        job.paintGround();
+        forEachRow(visible, clip, paintRow);
     }
 
     void paintColor(Job& job, const PixelRect& extent, Pixel color) const {
-        paintRows(extent, [&](int y, int left, int right, std::uint8_t coverage) {
+        paintRows(job, extent, [&](int y, int left, int right, std::uint8_t coverage) {
             blendColor(job.row(y) + left, std::size_t(right - left), color, coverage);
         });
     }
@@ -92,7 +121,7 @@ struct RasterPainter::Item {
     void paintMask(Job& job, const PlacedMask& mask, Pixel color) const {
         if (!mask.mask || mask.mask->isEmpty()) return;
         const PixelRect extent{job.window.left, mask.top(), job.window.right, mask.bottom()};
-        paintRows(extent, [&](int y, int left, int right, std::uint8_t coverage) {
+        paintRows(job, extent, [&](int y, int left, int right, std::uint8_t coverage) {
             Pixel* row = job.row(y);
             const Pixel covered = coverage == 255 ? color : scaled(color, coverage);
             mask.visitRow(y, left, right, [&](int from, int to, const std::uint8_t* coverages, std::uint8_t shared) {
@@ -106,14 +135,18 @@ struct RasterPainter::Item {
 
     void paintPixels(Job& job, const Picture& picture, int x, int y, bool isOpaque) const {
         const PixelRect extent{x, y, x + picture.width(), y + picture.height()};
-        paintRows(extent, [&](int rowY, int left, int right, std::uint8_t coverage) {
+        const std::optional<Pixel> ground = clip.mask ? std::nullopt : job.takeGroundAround(area.intersection(extent));
+        paintRows(job, extent, [&](int rowY, int left, int right, std::uint8_t coverage) {
             const Pixel* from = picture.row(rowY - y) + (left - x);
             const std::uint8_t factor = scaledByte(opacity, coverage);
             Pixel* to = job.row(rowY) + left;
+            const std::size_t count = std::size_t(right - left);
             if (isOpaque && factor == 255)
-                std::memcpy(to, from, std::size_t(right - left) * sizeof(Pixel));
+                std::memcpy(to, from, count * sizeof(Pixel));
+            else if (ground)
+                blendPixels(to, count, from, factor, *ground);
             else
-                blendPixels(to, std::size_t(right - left), from, factor);
+                blendPixels(to, count, from, factor);
         });
     }
 };
@@ -137,19 +170,18 @@ bool hides(const Command& command, double scale, const PixelRect& region) {
 
 void RasterPainter::paint(const PaintTarget& target, const graphics::DisplayList& list, double scale,
                           std::span<const PixelRect> regions) {
-    for (const PixelRect& region : regions) {
-        Job job{target.pixels, target.pixelsPerRow, list, scale, region, {0, 0, target.size.width, target.size.height}};
-        // Where a command hides all that is before it, neither that nor the white ground is painted.
-        std::size_t first = list.commands.size();
-        while (first > 0 && !hides(list.commands[first - 1], scale, region)) --first;
-        if (first > 0) {
-            --first;
-        } else {
-            for (int y = region.top; y < region.bottom; ++y)
-                std::fill_n(job.row(y) + region.left, region.width(), Pixel(0xFFFFFFFF));
-        }
-        for (; first < list.commands.size(); ++first) paintCommand(job, list.commands[first]);
-    }
+    for (const PixelRect& region : regions)
+        for (int top = region.top; top < region.bottom; top += bandHeight_px)
+            paintBand(target, list, scale, {region.left, top, region.right, std::min(region.bottom, top + bandHeight_px)});
+}
+
+void RasterPainter::paintBand(const PaintTarget& target, const graphics::DisplayList& list, double scale, const PixelRect& band) {
+    std::size_t first = list.commands.size();
+    while (first > 0 && !hides(list.commands[first - 1], scale, band)) --first;
+    const Pixel ground = first > 0 ? premultiplied(list.commands[first - 1].color, 255) : white;
+    Job job{target.pixels, target.pixelsPerRow, list, scale, band, {0, 0, target.size.width, target.size.height}, ground};
+    for (; first < list.commands.size(); ++first) paintCommand(job, list.commands[first]);
+    job.paintGround();
 }
 
 void RasterPainter::paintCommand(Job& job, const Command& command) {
