@@ -17,17 +17,6 @@ constexpr std::size_t fileCacheBytes = 64 << 20;
 // Frames of clips are shown for a moment; they must not push out the files.
 constexpr std::size_t bitmapCacheBytes = 16 << 20;
 
-bool isOpaque(const Picture& image) {
-    const int width = image.width(), height = image.height();
-    for (int y = 0; y < height; ++y) {
-        const auto* row = image.row(y);
-        Pixel common = 0xFFFFFFFF;
-        for (int x = 0; x < width; ++x) common &= row[x];
-        if (alphaOf(common) != 255) return false;
-    }
-    return true;
-}
-
 std::shared_ptr<const CoverageMask> coverageOf(const Picture& image) {
     auto mask = std::make_shared<CoverageMask>();
     std::vector<std::uint8_t> coverages(std::size_t(image.width()));
@@ -40,49 +29,72 @@ std::shared_ptr<const CoverageMask> coverageOf(const Picture& image) {
 }
 
 std::size_t byteCountOf(const ImageRaster& raster) {
-    return raster.pixels.byteCount() + (raster.coverage ? raster.coverage->byteCount() : 0) + sizeof(ImageRaster);
+    return raster.pixels.byteCount() + (raster.file ? raster.file->byteCount() : 0) +
+           (raster.coverage ? raster.coverage->byteCount() : 0) + sizeof(ImageRaster);
 }
 
 } // namespace
 
 std::size_t ImageRasters::Key::Hash::operator()(const Key& key) const {
-    return key.source ^
-           (std::size_t(key.width) * 0x9E3779B97F4A7C15u + std::size_t(key.height) * 0xC2B2AE3D27D4EB4Fu + key.isTinted);
+    return key.source ^ (std::size_t(key.width) * 0x9E3779B97F4A7C15u + std::size_t(key.height) * 0xC2B2AE3D27D4EB4Fu +
+                         key.isTinted * 2 + key.isInTiles);
 }
 
 ImageRasters::ImageRasters() : m_files(fileCacheBytes), m_bitmaps(bitmapCacheBytes) {}
 
-const ImageRaster& ImageRasters::image(const graphics::Image& image, graphics::ColorScheme scheme, PixelSize size) {
+const ImageRaster& ImageRasters::image(const graphics::Image& image, graphics::ColorScheme scheme, PixelSize size,
+                                       bool isTransformed) {
     const std::filesystem::path& file = image.fileFor(scheme);
     const bool isTinted = image.renderingMode == graphics::RenderingMode::tinted;
+    // All pixels of the others are looked at.
+    const bool isInTiles = !isTinted && !isTransformed;
     const Key key{std::hash<std::basic_string_view<std::filesystem::path::value_type>>()(file.native()), size.width, size.height,
-                  isTinted};
+                  isTinted, isInTiles};
     const Entry* known = m_files.find(key);
-    if (known && known->file == file) return known->raster;
-    if (!known) return insert(m_files, key, {load(file, size, isTinted), file, nullptr});
+    if (known && known->file == file) {
+        if (known->raster.file && known->firstPainting != m_painting) known->raster.file->keep();
+        return known->raster;
+    }
+    if (!known) return insert(m_files, key, {load(file, size, isTinted, isInTiles), file, nullptr, m_painting});
     // Another file of the same hash.
-    m_unshared = load(file, size, isTinted);
+    m_unshared = load(file, size, isTinted, isInTiles);
     return m_unshared;
 }
 
-ImageRaster ImageRasters::load(const std::filesystem::path& file, PixelSize size, bool isTinted) {
+void ImageRasters::endPainting() {
+    ++m_painting;
+    for (const std::shared_ptr<FilePicture>& picture : m_seenFirst) picture->forgetRecent();
+    m_seenFirst.clear();
+}
+
+void ImageRasters::report(const std::filesystem::path& file) {
+    if (m_reportedFiles.insert(file.string()).second)
+        commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity,
+                                             "The image " + file.string() + " cannot be read", "ImageRasters::report");
+}
+
+ImageRaster ImageRasters::load(const std::filesystem::path& file, PixelSize size, bool isTinted, bool isInTiles) {
     ImageRaster raster;
+    if (isInTiles) raster.file = FilePicture::open(file, size);
+    if (raster.file) {
+        m_seenFirst.push_back(raster.file);
+        raster.isOpaque = raster.file->isOpaque();
+        return raster;
+    }
     raster.pixels = readPicture(file, size.width, size.height);
     if (raster.pixels.isNull()) {
-        if (m_reportedFiles.insert(file.string()).second)
-            commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity,
-                                                 "The image " + file.string() + " cannot be read", "ImageRasters::load");
+        report(file);
         return raster;
     }
     if (isTinted)
         raster.coverage = coverageOf(raster.pixels);
     else
-        raster.isOpaque = isOpaque(raster.pixels);
+        raster.isOpaque = raster.pixels.isOpaque();
     return raster;
 }
 
 const ImageRaster& ImageRasters::bitmap(const std::shared_ptr<const graphics::Bitmap>& bitmap, PixelSize size) {
-    const Key key{std::hash<const void*>()(bitmap.get()), size.width, size.height, false};
+    const Key key{std::hash<const void*>()(bitmap.get()), size.width, size.height, false, false};
     const Entry* known = m_bitmaps.find(key);
     if (known && known->bitmap == bitmap) return known->raster;
 
@@ -93,7 +105,7 @@ const ImageRaster& ImageRasters::bitmap(const std::shared_ptr<const graphics::Bi
         const Picture original({bitmap, bitmap->pixels.data()}, bitmap->width, bitmap->height);
         const bool fits = original.width() == size.width && original.height() == size.height;
         raster.pixels = fits ? original : resampled(original, size.width, size.height);
-        raster.isOpaque = isOpaque(raster.pixels);
+        raster.isOpaque = raster.pixels.isOpaque();
     }
     if (!known) return insert(m_bitmaps, key, {std::move(raster), {}, bitmap});
     m_unshared = std::move(raster);

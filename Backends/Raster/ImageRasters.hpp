@@ -1,12 +1,15 @@
 // Pictures at the sizes in pixels at which they are shown.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <unordered_set>
+#include <vector>
 
 #include "Backends/Raster/CoverageMask.hpp"
 #include "Backends/Raster/CoverageRasterizer.hpp"
+#include "Backends/Raster/FilePicture.hpp"
 #include "Backends/Raster/LruCache.hpp"
 #include "Backends/Raster/Picture.hpp"
 #include "Backends/Raster/PixelRect.hpp"
@@ -16,7 +19,8 @@
 namespace proupsells::rasterbackend {
 
 struct ImageRaster {
-    Picture pixels; // null when the picture cannot be read
+    Picture pixels;                    // null when the picture cannot be read, and where `file` has them
+    std::shared_ptr<FilePicture> file; // null when the picture was made for its size
     bool isOpaque = false;
     std::shared_ptr<const CoverageMask> coverage; // of a tinted picture: where the tint goes
     int x = 0, y = 0;                             // where it stands, of one that was transformed
@@ -26,10 +30,16 @@ class ImageRasters {
 public:
     ImageRasters();
 
-    // A file that cannot be read is reported once and has null pixels. Good until the next call.
-    const ImageRaster& image(const graphics::Image& image, graphics::ColorScheme scheme, PixelSize size);
+    // What is asked for between two calls is seen at once; what is asked for again afterwards is seen again.
+    void endPainting();
+    // A file that cannot be read is reported once and has null pixels. Only for one that `isTransformed` may be called. Good until
+    // the next call.
+    const ImageRaster& image(const graphics::Image& image, graphics::ColorScheme scheme, PixelSize size, bool isTransformed);
     // Shares the bitmap's pixels where they need no scaling. Good until the next call, as long as the bitmap lives.
     const ImageRaster& bitmap(const std::shared_ptr<const graphics::Bitmap>& bitmap, PixelSize size);
+
+    // Says once that a file cannot be read.
+    void report(const std::filesystem::path& file);
 
     // Turned, or scaled by a passing animation: the picture that covers `frame`, as it is mapped to pixels, inside of `window`.
     ImageRaster transformed(const ImageRaster& raster, const geometry::Rect& frame, const geometry::Transform& toPixels,
@@ -40,6 +50,7 @@ private:
         std::size_t source; // hash of a file name, or an address
         int width, height;
         bool isTinted;
+        bool isInTiles;
 
         bool operator==(const Key&) const = default;
         struct Hash {
@@ -50,9 +61,10 @@ private:
         ImageRaster raster;
         std::filesystem::path file;
         std::shared_ptr<const graphics::Bitmap> bitmap; // kept so that its address stays its own
+        std::uint64_t firstPainting = 0;
     };
 
-    ImageRaster load(const std::filesystem::path& file, PixelSize size, bool isTinted);
+    ImageRaster load(const std::filesystem::path& file, PixelSize size, bool isTinted, bool isInTiles);
     using Cache = LruCache<Key, Entry>;
     static const ImageRaster& insert(Cache& cache, const Key& key, Entry entry);
 
@@ -61,6 +73,8 @@ private:
     std::unordered_set<std::string> m_reportedFiles;
     CoverageRasterizer m_rasterizer;
     ImageRaster m_unshared;
+    std::uint64_t m_painting = 0;
+    std::vector<std::shared_ptr<FilePicture>> m_seenFirst; // in this painting
 };
 
 } // namespace proupsells::rasterbackend

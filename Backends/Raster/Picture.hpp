@@ -39,6 +39,7 @@ public:
     // For whoever makes the picture.
     Pixel* row(int y) { return m_pixels.get() + std::ptrdiff_t(y) * m_width; }
     std::size_t byteCount() const { return pixelCount() * sizeof(Pixel); }
+    bool isOpaque() const;
 
 private:
     std::size_t pixelCount() const { return std::size_t(m_width) * std::size_t(m_height); }

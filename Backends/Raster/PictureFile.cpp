@@ -1,7 +1,6 @@
 #include "Backends/Raster/PictureFile.hpp"
 
 #include <algorithm>
-#include <utility>
 
 #include "Backends/Raster/MappedFile.hpp"
 #include "Backends/Raster/PictureCodec.hpp"
@@ -15,19 +14,28 @@ namespace {
 
 using graphics::PictureHeader;
 
-// The file's own where it has this size, else the largest: the more pixels make a new one, the nearer it comes to what the vector
-// file would have drawn.
-const PictureHeader::Variant& bestVariant(const PictureHeader& header, int width, int height) {
-    const auto rank = [&](const PictureHeader::Variant& variant) {
-        const bool isExact = int(variant.width_px) == width && int(variant.height_px) == height;
-        return std::pair(isExact, std::uint64_t(variant.width_px) * variant.height_px);
-    };
+// The more pixels make another size, the nearer it comes to what the vector file would have drawn.
+const PictureHeader::Variant& largestVariant(const PictureHeader& header) {
+    const auto area = [](const PictureHeader::Variant& variant) { return std::uint64_t(variant.width_px) * variant.height_px; };
     return *std::max_element(header.variants.begin(), header.variants.end(),
-                             [&](const auto& a, const auto& b) { return rank(a) < rank(b); });
+                             [&](const auto& a, const auto& b) { return area(a) < area(b); });
 }
 
-Picture readVariant(std::string_view bytes, const PictureHeader::Variant& variant) {
-    return decompressed(bytes.substr(variant.offset, variant.byteCount), int(variant.width_px), int(variant.height_px));
+const PictureHeader::Variant* variantOfSize(const PictureHeader& header, PixelSize size) {
+    const auto found = std::find_if(header.variants.begin(), header.variants.end(), [&](const PictureHeader::Variant& variant) {
+        return int(variant.width_px) == size.width && int(variant.height_px) == size.height;
+    });
+    return found != header.variants.end() ? &*found : nullptr;
+}
+
+std::string_view bytesOf(const PictureHeader::Variant& variant, std::string_view bytes) {
+    return bytes.substr(variant.offset, variant.byteCount);
+}
+
+Picture readVariant(std::string_view bytes, const PictureHeader& header, PixelSize size) {
+    const PictureHeader::Variant* exact = variantOfSize(header, size);
+    const PictureHeader::Variant& variant = exact ? *exact : largestVariant(header);
+    return decompressed(bytesOf(variant, bytes), int(variant.width_px), int(variant.height_px));
 }
 
 } // namespace
@@ -42,8 +50,14 @@ Picture readPicture(const std::filesystem::path& file, int width, int height) {
     if (width <= 0 || height <= 0) return {};
     const MappedFile mapped(file);
     const auto header = PictureHeader::parse(mapped.bytes(), mapped.bytes().size());
-    const Picture picture = header ? readVariant(mapped.bytes(), bestVariant(*header, width, height)) : pngPicture(mapped.bytes());
+    const Picture picture = header ? readVariant(mapped.bytes(), *header, {width, height}) : pngPicture(mapped.bytes());
     return resampled(picture, width, height);
+}
+
+std::optional<CompressedPicture> compressedPicture(std::string_view bytes, PixelSize size) {
+    const auto header = PictureHeader::parse(bytes, bytes.size());
+    const PictureHeader::Variant* variant = header ? variantOfSize(*header, size) : nullptr;
+    return variant ? CompressedPicture::parse(bytesOf(*variant, bytes), size) : std::nullopt;
 }
 
 } // namespace proupsells::rasterbackend

@@ -3,8 +3,11 @@
 
 #include <filesystem>
 #include <optional>
+#include <string_view>
 
 #include "Backends/Raster/Picture.hpp"
+#include "Backends/Raster/PictureCodec.hpp"
+#include "Backends/Raster/PixelRect.hpp"
 #include "Platform/Geometry/Geometry.hpp"
 
 namespace proupsells::rasterbackend {
@@ -15,5 +18,8 @@ std::optional<geometry::Size> naturalPictureSize(const std::filesystem::path& fi
 // The picture stretched over the size in pixels: the file's own at this size where it has one, else made of its largest. Null where
 // it cannot be read.
 Picture readPicture(const std::filesystem::path& file, int width, int height);
+
+// The pixels of exactly this size in a picture file of these bytes, which must stay. Absent where there are none.
+std::optional<CompressedPicture> compressedPicture(std::string_view bytes, PixelSize size);
 
 } // namespace proupsells::rasterbackend

@@ -23,6 +23,7 @@ struct PixelRect {
     constexpr PixelRect united(const PixelRect& other) const {
         return {std::min(left, other.left), std::min(top, other.top), std::max(right, other.right), std::max(bottom, other.bottom)};
     }
+    constexpr PixelRect moved(int x, int y) const { return {left + x, top + y, right + x, bottom + y}; }
 
     bool operator==(const PixelRect&) const = default;
 };

@@ -135,11 +135,37 @@ struct RasterPainter::Item {
 
     void paintPixels(Job& job, const Picture& picture, int x, int y, bool isOpaque) const {
         const PixelRect extent{x, y, x + picture.width(), y + picture.height()};
-        const std::optional<Pixel> ground = clip.mask ? std::nullopt : job.takeGroundAround(area.intersection(extent));
-        paintRows(job, extent, [&](int rowY, int left, int right, std::uint8_t coverage) {
-            const Pixel* from = picture.row(rowY - y) + (left - x);
+        paintPixels(job, picture, extent, isOpaque, takeGround(job, extent));
+    }
+
+    // Tile by tile. False where one cannot be read; its place stays as it is.
+    bool paintFile(Job& job, FilePicture& picture, int x, int y) const {
+        const PixelSize size = picture.tiles().picture;
+        const PixelRect extent{x, y, x + size.width, y + size.height};
+        const std::optional<Pixel> ground = takeGround(job, extent);
+        FilePicture::Reader reader(picture);
+        bool isRead = true;
+        picture.tiles().forEachTouched(area.intersection(extent).moved(-x, -y), [&](int index, const PixelRect& rect) {
+            const Picture tile = reader.tile(index);
+            isRead = isRead && !tile.isNull();
+            if (!tile.isNull())
+                paintPixels(job, tile, rect.moved(x, y), picture.isOpaque(), ground);
+            else if (ground)
+                paintColor(job, rect.moved(x, y), *ground);
+        });
+        return isRead;
+    }
+
+private:
+    std::optional<Pixel> takeGround(Job& job, const PixelRect& extent) const {
+        return clip.mask ? std::nullopt : job.takeGroundAround(area.intersection(extent));
+    }
+
+    void paintPixels(Job& job, const Picture& picture, const PixelRect& extent, bool isOpaque, std::optional<Pixel> ground) const {
+        paintRows(job, extent, [&](int y, int left, int right, std::uint8_t coverage) {
+            const Pixel* from = picture.row(y - extent.top) + (left - extent.left);
             const std::uint8_t factor = scaledByte(opacity, coverage);
-            Pixel* to = job.row(rowY) + left;
+            Pixel* to = job.row(y) + left;
             const std::size_t count = std::size_t(right - left);
             if (isOpaque && factor == 255)
                 std::memcpy(to, from, count * sizeof(Pixel));
@@ -173,6 +199,7 @@ void RasterPainter::paint(const PaintTarget& target, const graphics::DisplayList
     for (const PixelRect& region : regions)
         for (int top = region.top; top < region.bottom; top += bandHeight_px)
             paintBand(target, list, scale, {region.left, top, region.right, std::min(region.bottom, top + bandHeight_px)});
+    m_images.endPainting();
 }
 
 void RasterPainter::paintBand(const PaintTarget& target, const graphics::DisplayList& list, double scale, const PixelRect& band) {
@@ -299,11 +326,14 @@ void RasterPainter::paintImage(Job& job, const Item& item) {
     constexpr double longestSide_px = 8192;
     const auto side = [&](double length) { return std::max(1, nearestPixel(std::min(length * job.scale, longestSide_px))); };
     const PixelSize size{side(command.frame.width()), side(command.frame.height())};
-    const ImageRaster& raster = image ? m_images.image(**image, command.scheme, size) : m_images.bitmap(*bitmap, size);
-    if (raster.pixels.isNull()) return;
+    const ImageRaster& raster =
+        image ? m_images.image(**image, command.scheme, size, command.transform >= 0) : m_images.bitmap(*bitmap, size);
+    if (raster.pixels.isNull() && !raster.file) return;
 
     const auto paintRaster = [&](const ImageRaster& shown, int x, int y) {
-        if (shown.coverage)
+        if (shown.file) {
+            if (!item.paintFile(job, *shown.file, x, y)) m_images.report(shown.file->path());
+        } else if (shown.coverage)
             item.paintMask(job, {shown.coverage, x, y}, premultiplied(command.color, item.opacity));
         else
             item.paintPixels(job, shown.pixels, x, y, shown.isOpaque);

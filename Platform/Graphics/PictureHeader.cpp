@@ -2,23 +2,17 @@
 
 #include <cmath>
 
+#include "Platform/Foundation/LittleEndian.hpp"
+
 namespace proupsells::graphics {
 
 namespace {
 
-constexpr std::string_view signature("\x93Pict\r\n\x01", 8);
+using foundation::appendNumber;
+using foundation::takeNumber;
+
+constexpr std::string_view signature("\x93Pict\r\n\x02", 8);
 constexpr double unitsPerPoint = 1000;
-
-std::uint32_t takeNumber(std::string_view& bytes) {
-    std::uint32_t number = 0;
-    for (int index = 0; index < 4; ++index) number |= std::uint32_t(std::uint8_t(bytes[std::size_t(index)])) << 8 * index;
-    bytes.remove_prefix(4);
-    return number;
-}
-
-void appendNumber(std::string& bytes, std::uint32_t number) {
-    for (int index = 0; index < 4; ++index) bytes += char(number >> 8 * index & 0xFF);
-}
 
 bool isLength(std::uint32_t length_px) { return length_px >= 1 && length_px <= PictureHeader::maximumLength_px; }
 

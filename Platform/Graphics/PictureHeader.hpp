@@ -1,7 +1,7 @@
 // The beginning of a picture file (*.picture): one picture, ready to show at several sizes in pixels.
 //
 //   offset  bytes
-//        0      8  signature: 93 "Pict" 0D 0A 01 (hexadecimal; the last byte is the version)
+//        0      8  signature: 93 "Pict" 0D 0A 02 (hexadecimal; the last byte is the version)
 //        8    4+4  natural width and height in thousandths of a point
 //       16      4  number of sizes, 1 to 64
 //       20     16  for each size: width and height in pixels, where its pixels begin in the file, how many bytes they take

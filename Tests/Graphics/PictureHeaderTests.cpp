@@ -28,7 +28,7 @@ TEST(PictureHeader, IsAbsentWhereTheFileIsCutOff) {
 
 TEST(PictureHeader, IsAbsentInOtherFilesAndOtherVersions) {
     std::string otherVersion = twoSizes.bytes();
-    otherVersion[7] = 2;
+    otherVersion[7] = 1;
 
     EXPECT_EQ(PictureHeader::parse(otherVersion, fileSize), std::nullopt);
     EXPECT_EQ(PictureHeader::parse("<svg width='24' height='16' viewBox='0 0 24 16'></svg>", fileSize), std::nullopt);

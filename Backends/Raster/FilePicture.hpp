@@ -1,0 +1,66 @@
+// A picture of a file, decompressed where it is painted.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "Backends/Raster/MappedFile.hpp"
+#include "Backends/Raster/Picture.hpp"
+#include "Backends/Raster/PictureCodec.hpp"
+
+namespace proupsells::rasterbackend {
+
+// A screen that is seen for the first time is painted tile by tile, and nothing of it is kept: most of its pictures are not painted
+// again. What is painted again stays in memory from then on, as far as it is painted.
+class FilePicture {
+public:
+    // Null where the file has no pixels of exactly this size.
+    static std::shared_ptr<FilePicture> open(const std::filesystem::path& file, PixelSize size);
+
+    const std::filesystem::path& path() const { return m_file; }
+    const TileGrid& tiles() const { return m_tiles; }
+    bool isOpaque() const { return m_isOpaque; }
+    // Memory for the whole of it.
+    std::size_t byteCount() const;
+
+    // From now on tiles are kept.
+    void keep();
+    // What was painted will not be asked for again soon.
+    void forgetRecent() { m_recent.clear(); }
+
+    // Gives tiles one after another. Has the file open meanwhile at most: while nothing is read, its bytes take no memory.
+    class Reader {
+    public:
+        explicit Reader(FilePicture& picture) : m_picture(picture) {}
+
+        // Null where the file's bytes are broken.
+        Picture tile(int index);
+
+    private:
+        bool decompress(int index, Pixel* to);
+
+        FilePicture& m_picture;
+        std::optional<MappedFile> m_mapped;
+        std::optional<CompressedPicture> m_compressed;
+    };
+
+private:
+    FilePicture(std::filesystem::path file, const CompressedPicture& compressed)
+        : m_file(std::move(file)), m_tiles(compressed.tiles()), m_isOpaque(compressed.isOpaque()) {}
+
+    std::filesystem::path m_file;
+    TileGrid m_tiles;
+    bool m_isOpaque;
+    std::shared_ptr<Pixel[]> m_kept; // tile after tile; null until tiles are kept
+    std::vector<bool> m_isThere;     // of each tile that is kept, whether it is written
+    // While tiles are not kept, the last one of each column: a screen is painted band by band, and tiles lie across.
+    struct Recent {
+        int index = -1;
+        Picture pixels;
+    };
+    std::vector<Recent> m_recent;
+};
+
+} // namespace proupsells::rasterbackend
