@@ -22,10 +22,10 @@ void FilePicture::keep() {
     if (m_kept) return;
     m_kept = std::make_shared_for_overwrite<Pixel[]>(byteCount() / sizeof(Pixel));
     m_isThere.assign(std::size_t(m_tiles.count()), false);
-    m_recent.clear();
+    m_wantedAgain.clear();
 }
 
-Picture FilePicture::Reader::tile(int index) {
+Picture FilePicture::Reader::tile(int index, bool wantedAgain) {
     FilePicture& picture = m_picture;
     const PixelRect rect = picture.m_tiles.rect(index);
     if (picture.m_kept) {
@@ -34,13 +34,15 @@ Picture FilePicture::Reader::tile(int index) {
         picture.m_isThere[std::size_t(index)] = true;
         return Picture({picture.m_kept, pixels}, rect.width(), rect.height());
     }
-    picture.m_recent.resize(std::size_t(picture.m_tiles.columnCount()));
-    Recent& recent = picture.m_recent[std::size_t(index % picture.m_tiles.columnCount())];
-    if (recent.index != index) {
-        recent = {index, Picture::unwritten(rect.width(), rect.height())};
-        if (!decompress(index, recent.pixels.row(0))) recent.pixels = {};
+    Picture tile;
+    if (auto known = picture.m_wantedAgain.extract(index)) {
+        tile = std::move(known.mapped());
+    } else {
+        tile = Picture::unwritten(rect.width(), rect.height());
+        if (!decompress(index, tile.row(0))) return {};
     }
-    return recent.pixels;
+    if (wantedAgain) picture.m_wantedAgain.emplace(index, tile);
+    return tile;
 }
 
 // Another file may stand there by now.

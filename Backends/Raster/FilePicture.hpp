@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <unordered_map>
 #include <vector>
 
 #include "Backends/Raster/MappedFile.hpp"
@@ -27,16 +28,14 @@ public:
 
     // From now on tiles are kept.
     void keep();
-    // What was painted will not be asked for again soon.
-    void forgetRecent() { m_recent.clear(); }
 
     // Gives tiles one after another. Has the file open meanwhile at most: while nothing is read, its bytes take no memory.
     class Reader {
     public:
         explicit Reader(FilePicture& picture) : m_picture(picture) {}
 
-        // Null where the file's bytes are broken.
-        Picture tile(int index);
+        // Null where the file's bytes are broken. One that is not kept is forgotten at once, unless it is `wantedAgain` soon.
+        Picture tile(int index, bool wantedAgain);
 
     private:
         bool decompress(int index, Pixel* to);
@@ -53,14 +52,9 @@ private:
     std::filesystem::path m_file;
     TileGrid m_tiles;
     bool m_isOpaque;
-    std::shared_ptr<Pixel[]> m_kept; // tile after tile; null until tiles are kept
-    std::vector<bool> m_isThere;     // of each tile that is kept, whether it is written
-    // While tiles are not kept, the last one of each column: a screen is painted band by band, and tiles lie across.
-    struct Recent {
-        int index = -1;
-        Picture pixels;
-    };
-    std::vector<Recent> m_recent;
+    std::shared_ptr<Pixel[]> m_kept;                // tile after tile; null until tiles are kept
+    std::vector<bool> m_isThere;                    // of each tile that is kept, whether it is written
+    std::unordered_map<int, Picture> m_wantedAgain; // tiles by their index, while tiles are not kept
 };
 
 } // namespace proupsells::rasterbackend

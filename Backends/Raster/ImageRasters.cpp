@@ -61,12 +61,6 @@ const ImageRaster& ImageRasters::image(const graphics::Image& image, graphics::C
     return m_unshared;
 }
 
-void ImageRasters::endPainting() {
-    ++m_painting;
-    for (const std::shared_ptr<FilePicture>& picture : m_seenFirst) picture->forgetRecent();
-    m_seenFirst.clear();
-}
-
 void ImageRasters::report(const std::filesystem::path& file) {
     if (m_reportedFiles.insert(file.string()).second)
         commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity,
@@ -77,7 +71,6 @@ ImageRaster ImageRasters::load(const std::filesystem::path& file, PixelSize size
     ImageRaster raster;
     if (isInTiles) raster.file = FilePicture::open(file, size);
     if (raster.file) {
-        m_seenFirst.push_back(raster.file);
         raster.isOpaque = raster.file->isOpaque();
         return raster;
     }

@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <memory>
 #include <unordered_set>
-#include <vector>
 
 #include "Backends/Raster/CoverageMask.hpp"
 #include "Backends/Raster/CoverageRasterizer.hpp"
@@ -31,7 +30,7 @@ public:
     ImageRasters();
 
     // What is asked for between two calls is seen at once; what is asked for again afterwards is seen again.
-    void endPainting();
+    void endPainting() { ++m_painting; }
     // A file that cannot be read is reported once and has null pixels. Only for one that `isTransformed` may be called. Good until
     // the next call.
     const ImageRaster& image(const graphics::Image& image, graphics::ColorScheme scheme, PixelSize size, bool isTransformed);
@@ -74,7 +73,6 @@ private:
     CoverageRasterizer m_rasterizer;
     ImageRaster m_unshared;
     std::uint64_t m_painting = 0;
-    std::vector<std::shared_ptr<FilePicture>> m_seenFirst; // in this painting
 };
 
 } // namespace proupsells::rasterbackend

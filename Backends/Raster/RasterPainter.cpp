@@ -66,6 +66,7 @@ struct RasterPainter::Job {
     const graphics::DisplayList& list;
     const double scale;
     const PixelRect region;
+    const int end; // where the last band that is painted in turn ends
     const PixelRect window;
     // The colour of the whole region, until something is painted on it: a picture is painted together with what is below it.
     std::optional<Pixel> ground;
@@ -146,7 +147,8 @@ struct RasterPainter::Item {
         FilePicture::Reader reader(picture);
         bool isRead = true;
         picture.tiles().forEachTouched(area.intersection(extent).moved(-x, -y), [&](int index, const PixelRect& rect) {
-            const Picture tile = reader.tile(index);
+            const bool goesOn = rect.bottom + y > job.region.bottom && job.region.bottom < job.end;
+            const Picture tile = reader.tile(index, goesOn);
             isRead = isRead && !tile.isNull();
             if (!tile.isNull())
                 paintPixels(job, tile, rect.moved(x, y), picture.isOpaque(), ground);
@@ -198,15 +200,17 @@ void RasterPainter::paint(const PaintTarget& target, const graphics::DisplayList
                           std::span<const PixelRect> regions) {
     for (const PixelRect& region : regions)
         for (int top = region.top; top < region.bottom; top += bandHeight_px)
-            paintBand(target, list, scale, {region.left, top, region.right, std::min(region.bottom, top + bandHeight_px)});
+            paintBand(target, list, scale, {region.left, top, region.right, std::min(region.bottom, top + bandHeight_px)},
+                      region.bottom);
     m_images.endPainting();
 }
 
-void RasterPainter::paintBand(const PaintTarget& target, const graphics::DisplayList& list, double scale, const PixelRect& band) {
+void RasterPainter::paintBand(const PaintTarget& target, const graphics::DisplayList& list, double scale, const PixelRect& band,
+                              int end) {
     std::size_t first = list.commands.size();
     while (first > 0 && !hides(list.commands[first - 1], scale, band)) --first;
     const Pixel ground = first > 0 ? premultiplied(list.commands[first - 1].color, 255) : white;
-    Job job{target.pixels, target.pixelsPerRow, list, scale, band, {0, 0, target.size.width, target.size.height}, ground};
+    Job job{target.pixels, target.pixelsPerRow, list, scale, band, end, {0, 0, target.size.width, target.size.height}, ground};
     for (; first < list.commands.size(); ++first) paintCommand(job, list.commands[first]);
     job.paintGround();
 }

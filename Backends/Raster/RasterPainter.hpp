@@ -34,7 +34,7 @@ private:
     struct Job;
     struct Item;
 
-    void paintBand(const PaintTarget& target, const graphics::DisplayList& list, double scale, const PixelRect& band);
+    void paintBand(const PaintTarget& target, const graphics::DisplayList& list, double scale, const PixelRect& band, int end);
     void paintCommand(Job& job, const graphics::Command& command);
     void paintShape(Job& job, const Item& item);
     void paintText(Job& job, const Item& item);
