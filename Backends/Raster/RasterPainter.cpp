@@ -1,8 +1,8 @@
 #include "Backends/Raster/RasterPainter.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
-#include <optional>
 #include <utility>
 
 #include "Backends/Raster/Blending.hpp"
@@ -68,29 +68,34 @@ struct RasterPainter::Job {
     const PixelRect region;
     const int end; // where the last band that is painted in turn ends
     const PixelRect window;
-    // The colour of the whole region, until something is painted on it: a picture is painted together with what is below it.
-    std::optional<Pixel> ground;
+    const Pixel ground; // below everything
+    // Where nothing is painted yet, not even the ground: a picture is painted together with what is below it.
+    PixelRect bare;
 
     Pixel* row(int y) const { return pixels + y * pixelsPerRow; }
 
-    void paintGround() {
-        if (const std::optional<Pixel> color = std::exchange(ground, std::nullopt)) fill(region, *color);
+    // Before something is painted over a part.
+    void paintGround(const PixelRect& part) {
+        if (!part.intersection(bare).isEmpty()) fill(std::exchange(bare, {}));
     }
-    // Paints the ground outside of `hole` only, for whoever paints all of that together with its ground; absent where it is painted
-    // already.
-    std::optional<Pixel> takeGroundAround(const PixelRect& hole) {
-        if (hole.isEmpty() || !ground) return std::nullopt;
-        fill({region.left, region.top, region.right, hole.top}, *ground);
-        fill({region.left, hole.top, hole.left, hole.bottom}, *ground);
-        fill({hole.right, hole.top, region.right, hole.bottom}, *ground);
-        fill({region.left, hole.bottom, region.right, region.bottom}, *ground);
-        return std::exchange(ground, std::nullopt);
+    // Whether the whole part is bare; then it counts as painted, and whoever asks must do so.
+    bool takeBare(const PixelRect& part) {
+        if (part.isEmpty() || !bare.contains(part)) return false;
+        std::array<PixelRect, 4> around = {{{bare.left, bare.top, bare.right, part.top},
+                                            {bare.left, part.bottom, bare.right, bare.bottom},
+                                            {bare.left, part.top, part.left, part.bottom},
+                                            {part.right, part.top, bare.right, part.bottom}}};
+        const auto area = [](const PixelRect& rect) { return rect.isEmpty() ? 0 : rect.width() * rect.height(); };
+        std::sort(around.begin(), around.end(), [&](const auto& a, const auto& b) { return area(a) < area(b); });
+        bare = around.back();
+        std::for_each(around.begin(), around.end() - 1, [&](const PixelRect& rect) { fill(rect); });
+        return true;
     }
 
 private:
-    void fill(const PixelRect& rect, Pixel color) const {
+    void fill(const PixelRect& rect) const {
         if (rect.isEmpty()) return;
-        for (int y = rect.top; y < rect.bottom; ++y) blendColor(row(y) + rect.left, std::size_t(rect.width()), color, 255);
+        for (int y = rect.top; y < rect.bottom; ++y) blendColor(row(y) + rect.left, std::size_t(rect.width()), ground, 255);
     }
 };
 
@@ -109,7 +114,7 @@ struct RasterPainter::Item {
     void paintRows(Job& job, const PixelRect& extent, PaintRow&& paintRow) const {
         const PixelRect visible = area.intersection(extent);
         if (visible.isEmpty()) return;
-        job.paintGround();
+        job.paintGround(visible);
         forEachRow(visible, clip, paintRow);
     }
 
@@ -136,14 +141,14 @@ struct RasterPainter::Item {
 
     void paintPixels(Job& job, const Picture& picture, int x, int y, bool isOpaque) const {
         const PixelRect extent{x, y, x + picture.width(), y + picture.height()};
-        paintPixels(job, picture, extent, isOpaque, takeGround(job, extent));
+        paintPixels(job, picture, extent, isOpaque, takesGround(job, extent));
     }
 
     // Tile by tile. False where one cannot be read; its place stays as it is.
     bool paintFile(Job& job, FilePicture& picture, int x, int y) const {
         const PixelSize size = picture.tiles().picture;
         const PixelRect extent{x, y, x + size.width, y + size.height};
-        const std::optional<Pixel> ground = takeGround(job, extent);
+        const bool isBare = takesGround(job, extent);
         FilePicture::Reader reader(picture);
         bool isRead = true;
         picture.tiles().forEachTouched(area.intersection(extent).moved(-x, -y), [&](int index, const PixelRect& rect) {
@@ -151,19 +156,17 @@ struct RasterPainter::Item {
             const Picture tile = reader.tile(index, goesOn);
             isRead = isRead && !tile.isNull();
             if (!tile.isNull())
-                paintPixels(job, tile, rect.moved(x, y), picture.isOpaque(), ground);
-            else if (ground)
-                paintColor(job, rect.moved(x, y), *ground);
+                paintPixels(job, tile, rect.moved(x, y), picture.isOpaque(), isBare);
+            else if (isBare)
+                paintColor(job, rect.moved(x, y), job.ground);
         });
         return isRead;
     }
 
 private:
-    std::optional<Pixel> takeGround(Job& job, const PixelRect& extent) const {
-        return clip.mask ? std::nullopt : job.takeGroundAround(area.intersection(extent));
-    }
+    bool takesGround(Job& job, const PixelRect& extent) const { return !clip.mask && job.takeBare(area.intersection(extent)); }
 
-    void paintPixels(Job& job, const Picture& picture, const PixelRect& extent, bool isOpaque, std::optional<Pixel> ground) const {
+    void paintPixels(Job& job, const Picture& picture, const PixelRect& extent, bool isOpaque, bool isBare) const {
         paintRows(job, extent, [&](int y, int left, int right, std::uint8_t coverage) {
             const Pixel* from = picture.row(y - extent.top) + (left - extent.left);
             const std::uint8_t factor = scaledByte(opacity, coverage);
@@ -171,8 +174,8 @@ private:
             const std::size_t count = std::size_t(right - left);
             if (isOpaque && factor == 255)
                 std::memcpy(to, from, count * sizeof(Pixel));
-            else if (ground)
-                blendPixels(to, count, from, factor, *ground);
+            else if (isBare)
+                blendPixels(to, count, from, factor, job.ground);
             else
                 blendPixels(to, count, from, factor);
         });
@@ -210,9 +213,10 @@ void RasterPainter::paintBand(const PaintTarget& target, const graphics::Display
     std::size_t first = list.commands.size();
     while (first > 0 && !hides(list.commands[first - 1], scale, band)) --first;
     const Pixel ground = first > 0 ? premultiplied(list.commands[first - 1].color, 255) : white;
-    Job job{target.pixels, target.pixelsPerRow, list, scale, band, end, {0, 0, target.size.width, target.size.height}, ground};
+    Job job{target.pixels, target.pixelsPerRow, list, scale, band, end, {0, 0, target.size.width, target.size.height}, ground,
+            band};
     for (; first < list.commands.size(); ++first) paintCommand(job, list.commands[first]);
-    job.paintGround();
+    job.paintGround(band);
 }
 
 void RasterPainter::paintCommand(Job& job, const Command& command) {
