@@ -59,7 +59,6 @@ QAccessibleInterface* QtWindow::accessibleRoot() const { return m_accessibility-
 
 bool QtWindow::event(QEvent* event) {
     switch (event->type()) {
-    case QEvent::UpdateRequest: showFrame(false); return true;
     case QEvent::Close: {
         const bool isHandled = QWindow::event(event);
         // A copy, because the handler may replace itself.
@@ -81,16 +80,16 @@ void QtWindow::resizeEvent(QResizeEvent*) { m_content->setSize(sizeInPoints(), m
 
 void QtWindow::hideEvent(QHideEvent*) { cancelTouch(); }
 
-// Asked for while a frame is made: the next one then follows.
+// At once where nothing was shown for a while, so that what the person does is seen without delay.
 void QtWindow::requestFrame() {
-    if (isExposed()) requestUpdate();
+    if (isExposed() && !m_frameTimer.isActive()) scheduleNextFrame();
 }
 
 void QtWindow::showFrame(bool isWhole) {
     if (!isExposed() || m_isShowing) return;
     m_isShowing = true;
     runloop::MainRunLoop& loop = runloop::MainRunLoop::main();
-    const double start_s = loop.now_s();
+    m_lastFrameStart_s = loop.now_s();
     // What a touch has changed is brought up to date before it is shown.
     loop.runDueTurns();
     m_content->paint(m_list);
@@ -100,7 +99,7 @@ void QtWindow::showFrame(bool isWhole) {
         m_store.flush(isWhole ? QRegion(QRect(QPoint(0, 0), size())) : damagedRegion());
     }
     if (hasChanged) m_accessibility->update();
-    if (m_content->isAnimating()) scheduleNextFrame(start_s);
+    if (m_content->isAnimating()) scheduleNextFrame();
     m_isShowing = false;
 }
 
@@ -131,10 +130,10 @@ QRegion QtWindow::damagedRegion() const {
     return region.intersected(QRect(QPoint(0, 0), size()));
 }
 
-void QtWindow::scheduleNextFrame(double start_s) {
+void QtWindow::scheduleNextFrame() {
     const double rate = screen() ? std::clamp(screen()->refreshRate(), 30.0, 240.0) : 60;
-    const double elapsed_s = runloop::MainRunLoop::main().now_s() - start_s;
-    m_frameTimer.start(int(std::lround(std::max(0.0, 1 / rate - elapsed_s) * 1000)));
+    const double elapsed_s = runloop::MainRunLoop::main().now_s() - m_lastFrameStart_s;
+    m_frameTimer.start(int(std::lround(std::clamp(1 / rate - elapsed_s, 0.0, 1 / rate) * 1000)));
 }
 
 void QtWindow::sendTouch(host::TouchPhase phase, QPointF position) {

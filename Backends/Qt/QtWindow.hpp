@@ -61,7 +61,7 @@ private:
     void showFrame(bool isWhole);
     bool paint();
     QRegion damagedRegion() const;
-    void scheduleNextFrame(double start_s);
+    void scheduleNextFrame();
     void sendTouch(host::TouchPhase phase, QPointF position);
     void cancelTouch();
 
@@ -73,6 +73,7 @@ private:
     QSize m_lentSize; // pixels
     graphics::DisplayList m_list;
     QTimer m_frameTimer;
+    double m_lastFrameStart_s = -1; // of the run loop's time
     int m_frameCount = 0;
     bool m_isShowing = false; // inside showFrame()
     bool m_mouseIsDown = false;
