@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QScreen>
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 
 #include "Backends/Qt/QtAccessibility.hpp"
@@ -32,6 +33,8 @@ std::optional<host::Key> keyOf(int key) {
     }
 }
 
+constexpr std::chrono::seconds restBeforePreparing{1};
+
 } // namespace
 
 QtWindow::QtWindow(std::shared_ptr<host::WindowContent> content, const WindowOptions& options)
@@ -43,6 +46,8 @@ QtWindow::QtWindow(std::shared_ptr<host::WindowContent> content, const WindowOpt
     m_frameTimer.setSingleShot(true);
     m_frameTimer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&m_frameTimer, &QTimer::timeout, this, [this] { showFrame(false); });
+    m_restTimer.setSingleShot(true);
+    QObject::connect(&m_restTimer, &QTimer::timeout, this, [this] { m_surface->prepareAhead(); });
     m_content->setNeedsDisplayHandler([this] { requestFrame(); });
     resize(int(std::lround(options.size.width)), int(std::lround(options.size.height)));
     m_content->setSize(sizeInPoints(), m_safeArea);
@@ -88,6 +93,7 @@ void QtWindow::requestFrame() {
 void QtWindow::showFrame(bool isWhole) {
     if (!isExposed() || m_isShowing) return;
     m_isShowing = true;
+    m_restTimer.stop();
     runloop::MainRunLoop& loop = runloop::MainRunLoop::main();
     m_lastFrameStart_s = loop.now_s();
     // What a touch has changed is brought up to date before it is shown.
@@ -99,7 +105,10 @@ void QtWindow::showFrame(bool isWhole) {
         m_store.flush(isWhole ? QRegion(QRect(QPoint(0, 0), size())) : damagedRegion());
     }
     if (hasChanged) m_accessibility->update();
-    if (m_content->isAnimating()) scheduleNextFrame();
+    if (m_content->isAnimating())
+        scheduleNextFrame();
+    else
+        m_restTimer.start(restBeforePreparing);
     m_isShowing = false;
 }
 

@@ -18,7 +18,13 @@ std::size_t FilePicture::byteCount() const {
     return std::size_t(m_tiles.picture.width) * std::size_t(m_tiles.picture.height) * sizeof(Pixel);
 }
 
+bool FilePicture::isKept(int tile) const {
+    const std::lock_guard lock(m_mutex);
+    return m_kept && m_isThere[std::size_t(tile)];
+}
+
 void FilePicture::keep() {
+    const std::lock_guard lock(m_mutex);
     if (m_kept) return;
     m_kept = std::make_shared_for_overwrite<Pixel[]>(byteCount() / sizeof(Pixel));
     m_isThere.assign(std::size_t(m_tiles.count()), false);
@@ -27,6 +33,7 @@ void FilePicture::keep() {
 
 Picture FilePicture::Reader::tile(int index, bool wantedAgain) {
     FilePicture& picture = m_picture;
+    const std::lock_guard lock(picture.m_mutex);
     const PixelRect rect = picture.m_tiles.rect(index);
     if (picture.m_kept) {
         Pixel* const pixels = picture.m_kept.get() + picture.m_tiles.pixelsBefore(index);

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <unordered_map>
 #include <vector>
@@ -14,7 +15,7 @@
 namespace proupsells::rasterbackend {
 
 // A screen that is seen for the first time is painted tile by tile, and nothing of it is kept: most of its pictures are not painted
-// again. What is painted again stays in memory from then on, as far as it is painted.
+// again. What is painted again stays in memory from then on, as far as it is painted. Several threads may read it.
 class FilePicture {
 public:
     // Null where the file has no pixels of exactly this size.
@@ -28,6 +29,8 @@ public:
 
     // From now on tiles are kept.
     void keep();
+    // Whether a tile is in memory, to stay.
+    bool isKept(int tile) const;
 
     // Gives tiles one after another. Has the file open meanwhile at most: while nothing is read, its bytes take no memory.
     class Reader {
@@ -52,6 +55,7 @@ private:
     std::filesystem::path m_file;
     TileGrid m_tiles;
     bool m_isOpaque;
+    mutable std::mutex m_mutex;                     // guards what follows
     std::shared_ptr<Pixel[]> m_kept;                // tile after tile; null until tiles are kept
     std::vector<bool> m_isThere;                    // of each tile that is kept, whether it is written
     std::unordered_map<int, Picture> m_wantedAgain; // tiles by their index, while tiles are not kept

@@ -40,6 +40,8 @@ std::size_t ImageRasters::Key::Hash::operator()(const Key& key) const {
                          key.isTinted * 2 + key.isInTiles);
 }
 
+const std::size_t ImageRasters::maximumByteCount = fileCacheBytes + bitmapCacheBytes;
+
 ImageRasters::ImageRasters() : m_files(fileCacheBytes), m_bitmaps(bitmapCacheBytes) {}
 
 const ImageRaster& ImageRasters::image(const graphics::Image& image, graphics::ColorScheme scheme, PixelSize size,
@@ -59,6 +61,16 @@ const ImageRaster& ImageRasters::image(const graphics::Image& image, graphics::C
     // Another file of the same hash.
     m_unshared = load(file, size, isTinted, isInTiles);
     return m_unshared;
+}
+
+void ImageRasters::prepare(const ImageRaster& raster, const PixelRect& part) {
+    FilePicture& picture = *raster.file;
+    picture.keep();
+    std::vector<int> tiles;
+    picture.tiles().forEachTouched(part, [&](int index, const PixelRect&) {
+        if (!picture.isKept(index)) tiles.push_back(index);
+    });
+    if (!tiles.empty()) m_preparer.prepare(raster.file, std::move(tiles));
 }
 
 void ImageRasters::report(const std::filesystem::path& file) {

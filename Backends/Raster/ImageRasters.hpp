@@ -11,6 +11,7 @@
 #include "Backends/Raster/FilePicture.hpp"
 #include "Backends/Raster/LruCache.hpp"
 #include "Backends/Raster/Picture.hpp"
+#include "Backends/Raster/PicturePreparer.hpp"
 #include "Backends/Raster/PixelRect.hpp"
 #include "Platform/Geometry/Transform.hpp"
 #include "Platform/Graphics/DisplayList.hpp"
@@ -36,6 +37,14 @@ public:
     const ImageRaster& image(const graphics::Image& image, graphics::ColorScheme scheme, PixelSize size, bool isTransformed);
     // Shares the bitmap's pixels where they need no scaling. Good until the next call, as long as the bitmap lives.
     const ImageRaster& bitmap(const std::shared_ptr<const graphics::Bitmap>& bitmap, PixelSize size);
+
+    // Keeps the tiles of a raster that has a file, and reads them beside the main thread.
+    void prepare(const ImageRaster& raster, const PixelRect& part);
+    // Until all that is to be prepared is there.
+    void finishPreparing() { m_preparer.wait(); }
+    // Pixels in memory, or that have a place there; at most maximumByteCount, and one picture more where that is larger.
+    std::size_t byteCount() const { return m_files.byteCount() + m_bitmaps.byteCount(); }
+    static const std::size_t maximumByteCount;
 
     // Says once that a file cannot be read.
     void report(const std::filesystem::path& file);
@@ -73,6 +82,7 @@ private:
     CoverageRasterizer m_rasterizer;
     ImageRaster m_unshared;
     std::uint64_t m_painting = 0;
+    PicturePreparer m_preparer;
 };
 
 } // namespace proupsells::rasterbackend

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <functional>
 #include <utility>
 
 #include "Backends/Raster/Blending.hpp"
@@ -49,6 +50,13 @@ bool isUniform(const Transform& toPixels) {
 bool isFill(CommandKind kind) {
     return kind == CommandKind::fillRectangle || kind == CommandKind::fillRoundedRectangle || kind == CommandKind::fillEllipse ||
            kind == CommandKind::fillPath;
+}
+
+// Does not depend on the place, so that a picture that moves between pixels is not made anew.
+PixelSize sizeOfImage(const Command& command, double scale) {
+    constexpr double longestSide_px = 8192;
+    const auto side = [&](double length) { return std::max(1, nearestPixel(std::min(length * scale, longestSide_px))); };
+    return {side(command.frame.width()), side(command.frame.height())};
 }
 
 template <class Resource>
@@ -330,10 +338,7 @@ void RasterPainter::paintImage(Job& job, const Item& item) {
     const auto* bitmap = command.kind == CommandKind::bitmap ? resourceOf(job.list.bitmaps, command) : nullptr;
     if (!(image && *image) && !(bitmap && *bitmap)) return;
 
-    // The size does not depend on the place, so that a picture that moves between pixels is not made anew.
-    constexpr double longestSide_px = 8192;
-    const auto side = [&](double length) { return std::max(1, nearestPixel(std::min(length * job.scale, longestSide_px))); };
-    const PixelSize size{side(command.frame.width()), side(command.frame.height())};
+    const PixelSize size = sizeOfImage(command, job.scale);
     const ImageRaster& raster =
         image ? m_images.image(**image, command.scheme, size, command.transform >= 0) : m_images.bitmap(*bitmap, size);
     if (raster.pixels.isNull() && !raster.file) return;
@@ -352,6 +357,21 @@ void RasterPainter::paintImage(Job& job, const Item& item) {
     }
     const ImageRaster shown = m_images.transformed(raster, command.frame, item.toPixels, job.window);
     if (!shown.pixels.isNull()) paintRaster(shown, shown.x, shown.y);
+}
+
+void RasterPainter::prepareAhead(const graphics::DisplayList& list, double scale) {
+    for (const auto& commands : {std::cref(list.commands), std::cref(list.ahead)})
+        for (const Command& command : commands.get()) prepareImage(list, command, scale);
+}
+
+void RasterPainter::prepareImage(const graphics::DisplayList& list, const Command& command, double scale) {
+    const graphics::ImageRef* image = command.kind == CommandKind::image ? resourceOf(list.images, command) : nullptr;
+    if (!image || !*image || command.transform >= 0) return;
+    const ImageRaster& raster = m_images.image(**image, command.scheme, sizeOfImage(command, scale), false);
+    if (!raster.file) return;
+    const Point place{command.frame.minX() * scale, command.frame.minY() * scale};
+    const PixelRect seen = touchedPixels(scaledBy(command.clip.intersection(command.frame), scale));
+    m_images.prepare(raster, seen.moved(-nearestPixel(place.x), -nearestPixel(place.y)));
 }
 
 } // namespace proupsells::rasterbackend

@@ -30,6 +30,15 @@ public:
     // Paints the regions, which must not overlap and lie in the target, over white at `scale` pixels a point.
     void paint(const PaintTarget& target, const graphics::DisplayList& list, double scale, std::span<const PixelRect> regions);
 
+    // Reads the pictures of a list that has been painted, and those ahead of it, into memory, beside the main thread. What is
+    // painted meanwhile comes out the same.
+    void prepareAhead(const graphics::DisplayList& list, double scale);
+    // Until that is done.
+    void finishPreparing() { m_images.finishPreparing(); }
+    // Memory that pictures take; at most maximumPictureBytes.
+    std::size_t pictureBytes() const { return m_images.byteCount(); }
+    static std::size_t maximumPictureBytes() { return ImageRasters::maximumByteCount; }
+
 private:
     struct Job;
     struct Item;
@@ -40,6 +49,7 @@ private:
     void paintText(Job& job, const Item& item);
     void paintTextPiece(Job& job, const Item& item, const RasterShapedText& text, FragmentRange range, geometry::Point baseline);
     void paintImage(Job& job, const Item& item);
+    void prepareImage(const graphics::DisplayList& list, const graphics::Command& command, double scale);
     PlacedMask shapeMask(const Job& job, const Item& item);
     PlacedMask outlineMask(const Job& job, const Item& item);
 

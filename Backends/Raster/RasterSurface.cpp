@@ -62,6 +62,10 @@ void RasterSurface::present(const graphics::DisplayList& list, geometry::Size si
     m_shown = list;
 }
 
+void RasterSurface::prepareAhead() {
+    if (m_scale > 0) m_painter->prepareAhead(m_shown, m_scale);
+}
+
 void RasterSurface::findDamagedPixels(const graphics::DisplayList& list, const PixelRect& window) {
     graphics::findDamage(m_shown, list, m_damagedPoints);
     for (const geometry::Rect& rect : m_damagedPoints) {

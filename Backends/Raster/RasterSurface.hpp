@@ -31,6 +31,11 @@ public:
     // A size that is no whole number of pixels is rounded up.
     void present(const graphics::DisplayList& list, geometry::Size size, double scale) override;
 
+    // Reads the pictures of the last list, and those that it expects to be wanted soon, into memory, beside the main thread: to be
+    // called when nothing moves, say a second after the last list. Without it they are read when they are painted for the second
+    // time.
+    void prepareAhead();
+
     // What was painted, while no buffer is lent. Null before the first list, and where the size is empty.
     const Picture& picture() const { return m_picture; }
     // What the last list repainted, in pixels; rectangles that do not overlap. Empty when nothing differed.

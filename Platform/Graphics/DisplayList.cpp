@@ -50,6 +50,7 @@ bool usesSameResource(const DisplayList& a, const Command& inA, const DisplayLis
 
 void DisplayList::clear() {
     commands.clear();
+    ahead.clear();
     transforms.clear();
     images.clear();
     bitmaps.clear();

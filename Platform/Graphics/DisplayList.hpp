@@ -57,6 +57,8 @@ struct Command {
 class DisplayList {
 public:
     std::vector<Command> commands;
+    // Images that nobody sees yet but that may be wanted soon. They are neither painted nor compared.
+    std::vector<Command> ahead;
     std::vector<geometry::Transform> transforms;
     std::vector<geometry::Path> paths; // in window points; past those in use, spare ones may follow
     std::vector<ImageRef> images;

@@ -13,8 +13,8 @@ bool canBeStroked(const Rect& rect, double lineWidth) { return lineWidth > 0 && 
 } // namespace
 
 Command* PaintContext::add(const PaintState& state, CommandKind kind, const Rect& frame, const Rect& touched) {
-    if (state.hides(touched)) return nullptr;
-    Command& command = m_list.commands.emplace_back();
+    if (state.hides(touched) || (m_looksAhead && kind != CommandKind::image)) return nullptr;
+    Command& command = (m_looksAhead ? m_list.ahead : m_list.commands).emplace_back();
     command.kind = kind;
     command.scheme = state.scheme;
     command.opacity = float(state.opacity);

@@ -1,6 +1,8 @@
 // Writes display lists: keeps the clip, the opacity and the transform that are in force.
 #pragma once
 
+#include <utility>
+
 #include "Platform/Graphics/DisplayList.hpp"
 #include "Platform/Graphics/TextLayout.hpp"
 
@@ -61,12 +63,21 @@ public:
     // The shadow of a filled rectangle.
     void shadow(const PaintState&, const geometry::Rect&, double blurRadius, geometry::Point offset, RGBA);
 
+    // What `paint` paints is not seen yet but may be soon: only its images count, for the list's `ahead`.
+    template <class Paint>
+    void lookAhead(Paint&& paint) {
+        const bool before = std::exchange(m_looksAhead, true);
+        paint();
+        m_looksAhead = before;
+    }
+
 private:
     // Null where nothing of `touched` can be seen.
     Command* add(const PaintState& state, CommandKind kind, const geometry::Rect& frame, const geometry::Rect& touched);
     geometry::Point windowOffset(const PaintState& state) const;
 
     DisplayList& m_list;
+    bool m_looksAhead = false;
 };
 
 } // namespace proupsells::graphics

@@ -90,6 +90,8 @@ public:
 protected:
     geometry::Size measure(const geometry::ProposedSize& proposal) override;
     void layOut(const geometry::ProposedSize& proposal, geometry::Size size) override;
+    // While nothing moves, the page that comes next is looked at.
+    void paintOverlay(graphics::PaintContext& context, const graphics::PaintState& state, double now_s) override;
     bool isHittable() const override { return true; }
     std::string_view semanticType() const override { return "TabView"; }
 
@@ -208,6 +210,15 @@ void TabViewNode::layOut(const geometry::ProposedSize&, geometry::Size size) {
                    size);
     }
     settleTransparentChildren(size);
+}
+
+void TabViewNode::paintOverlay(graphics::PaintContext& context, const graphics::PaintState& state, double now_s) {
+    const bool isAtRest = !m_position.isTracking() && !m_position.isMovingAt(now_s) && !m_fade.isFadingAt(now_s);
+    if (m_pages.size() < 2 || !isAtRest) return;
+    const std::size_t next = std::size_t(m_target + 1) % m_pages.size();
+    const double shift = double(next) * frame().width();
+    const graphics::PaintState there = state.movedBy({environment().isRightToLeft() ? shift : -shift, 0});
+    context.lookAhead([&] { m_pages[next]->paint(context, there, now_s); });
 }
 
 // --- Touches
