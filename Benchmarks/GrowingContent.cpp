@@ -1,8 +1,5 @@
 #include "Benchmarks/GrowingContent.hpp"
 
-#include <filesystem>
-#include <fstream>
-
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Hosting/UIHostingController.hpp"
 #include "ProUpsells/ComparisonView.hpp"
@@ -10,6 +7,7 @@
 #include "ProUpsells/ShapesShelf.hpp"
 #include "ProUpsells/VelaProStorePageViewController.hpp"
 #include "ProUpsells/VelaProUpsellViewController.hpp"
+#include "Tests/Support/TemporaryFolder.hpp"
 
 namespace proupsells::benchmarks {
 
@@ -115,11 +113,10 @@ std::string devanagariWords(int count) {
 
 // The title of a plan, as the host's translators wrote it.
 Screens translatedTitle(int count) {
-    const std::filesystem::path folder = std::filesystem::temp_directory_path() / ("proupsells-growth-" + std::to_string(count));
-    std::filesystem::create_directories(folder / "en.lproj");
-    std::ofstream(folder / "en.lproj" / "Localizable.strings") << "\"Monthly\" = \"" << latinWords(count) << "\";\n";
-    foundation::Bundle::setMain(folder);
-    std::filesystem::remove_all(folder);
+    static const tests::TemporaryFolder folder;
+    const std::string name = std::to_string(count);
+    folder.write(name + "/en.lproj/Localizable.strings", "\"Monthly\" = \"" + latinWords(count) + "\";\n");
+    foundation::Bundle::setMain(folder.path() / name);
     return paywalls(1);
 }
 

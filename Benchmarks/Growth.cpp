@@ -59,7 +59,7 @@ public:
         m_window->paint(m_list);
         m_surface.present(m_list, size, scale);
     }
-    void scroll(double distance) { m_window->scroll({187, 400}, {0, -distance}); }
+    void scroll(double distance) { m_window->scroll({187, 400}, {0, distance}); }
     void tap(double y) {
         const double now_s = runloop::MainRunLoop::main().now_s();
         m_window->touch({host::TouchPhase::began, {100, y}, now_s});
