@@ -29,7 +29,7 @@ void Node::setNeedsBuild() {
         for (Node* outer = m_parent; outer && !outer->m_hasDirtyDescendant; outer = outer->m_parent)
             outer->m_hasDirtyDescendant = true;
     }
-    if (const auto& animation = Transaction::currentAnimation()) m_buildAnimation = animation;
+    if (const auto& animation = Transaction::currentAnimation()) m_buildAnimation = std::make_unique<motion::Animation>(*animation);
     m_host->setNeedsBuild();
 }
 

@@ -13,6 +13,7 @@
 #include "Platform/SwiftUI/Animation/Animated.hpp"
 #include "Platform/SwiftUI/Tree/Alignment.hpp"
 #include "Platform/SwiftUI/Tree/Key.hpp"
+#include "Platform/SwiftUI/Tree/StoredProposal.hpp"
 #include "Platform/SwiftUI/Tree/UpdatePass.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
@@ -174,7 +175,7 @@ private:
     friend class ModifierElement;
 
     struct CachedSize {
-        geometry::ProposedSize proposal;
+        StoredProposal proposal;
         geometry::Size size;
     };
     struct Leaving {
@@ -213,14 +214,14 @@ private:
 
     geometry::Rect m_frame;
     geometry::Rect m_paintBounds; // of the node and everything inside, in its own coordinates
-    geometry::ProposedSize m_placedProposal;
+    StoredProposal m_placedProposal;
     std::unique_ptr<Animated<geometry::Rect>> m_frameAnimation;
     CachedSize m_sizes[4];
     std::uint8_t m_sizeCount = 0;
     std::uint8_t m_nextSize = 0;
 
     StoredKey m_key;
-    std::optional<motion::Animation> m_buildAnimation; // of the changes that made it need a build
+    std::unique_ptr<motion::Animation> m_buildAnimation; // of the changes that made it need a build
 
     unsigned m_invalidation = 0; // the host's layout count when this node and all around it were last told to be laid out again
 

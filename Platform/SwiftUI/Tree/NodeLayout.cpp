@@ -50,7 +50,7 @@ void Node::place(Point origin, const ProposedSize& proposed) {
     const Rect target{{finiteLength(origin.x), finiteLength(origin.y)},
                       {finiteLength(fitting.width), finiteLength(fitting.height)}};
     const bool hasMoved = m_frame.origin != target.origin || !m_hasBeenPlaced;
-    const bool isOutdated = m_needsLayout || !m_hasBeenPlaced || m_frame.size != target.size || m_placedProposal != proposal ||
+    const bool isOutdated = m_needsLayout || !m_hasBeenPlaced || m_frame.size != target.size || !(m_placedProposal == proposal) ||
                             (m_dependsOnPosition && (hasMoved || m_host->m_hasPositionChanged));
     if (!(m_frame == target)) animateFrameTo(target);
     m_frame = target;

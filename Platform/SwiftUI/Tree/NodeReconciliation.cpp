@@ -58,9 +58,8 @@ void Node::updateNode(Node& node, Element& element, UpdatePass& pass) {
     node.m_needsBuild = false;
     node.m_hasDirtyDescendant = false;
     if (node.m_buildAnimation) {
-        const motion::Animation animation = *node.m_buildAnimation;
-        node.m_buildAnimation.reset();
-        UpdatePass animated = pass.with(&animation);
+        const std::unique_ptr<const motion::Animation> animation = std::move(node.m_buildAnimation);
+        UpdatePass animated = pass.with(animation.get());
         element.update(node, animated);
     } else {
         element.update(node, pass);

@@ -178,10 +178,10 @@ RootNode::RootNode(ViewHost& host) {
 }
 
 void RootNode::build(const View& root, UpdatePass& pass) {
-    const std::optional<motion::Animation> animation = std::exchange(m_buildAnimation, std::nullopt);
+    const std::unique_ptr<const motion::Animation> animation = std::move(m_buildAnimation);
     m_needsBuild = false;
     m_hasDirtyDescendant = false;
-    UpdatePass own = pass.with(animation ? &*animation : pass.animation);
+    UpdatePass own = pass.with(animation ? animation.get() : pass.animation);
     updateChild(0, root, own);
     m_isNew = false;
 }
