@@ -7,7 +7,15 @@
 #include <utility>
 #include <vector>
 
+#include "Platform/Geometry/Axis.hpp"
+#include "Platform/Geometry/Geometry.hpp"
+
 namespace proupsells::geometry {
+
+// Where the rectangle starts and ends along the axis.
+inline std::pair<double, double> extentOf(const Rect& rect, Axis axis) {
+    return axis == Axis::horizontal ? std::pair{rect.minX(), rect.maxX()} : std::pair{rect.minY(), rect.maxY()};
+}
 
 // Quick where the intervals follow one another, as the items of a list do. Any others are allowed, too.
 class Intervals {

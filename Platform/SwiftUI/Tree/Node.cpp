@@ -44,6 +44,11 @@ void Node::invalidateLayout() {
     m_host->setNeedsLayout();
 }
 
+void Node::noteMovement(double end_s) {
+    for (Node* node = this; node && node->m_movesUntil_s < end_s; node = node->m_parent) node->m_movesUntil_s = end_s;
+    m_host->noteAnimation(end_s);
+}
+
 void Node::setNeedsDisplay() { m_host->setNeedsDisplay(); }
 
 void Node::setDependsOnPosition() {

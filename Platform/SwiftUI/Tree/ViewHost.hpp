@@ -79,6 +79,8 @@ public:
     // The semantic tree with the host's corner at (0, 0) and its rectangle as window.
     accessibility::SemanticNode semanticTree();
     bool isAnimating() const;
+    // How many nodes all paintings together have looked at.
+    std::uint64_t paintVisitCount() const { return m_paintVisitCount; }
     // Told when the picture has changed, once until the next painting.
     void setNeedsDisplayHandler(std::function<void()> handler) { m_needsDisplayHandler = std::move(handler); }
     // Told after an update in which the content's sizes may have changed.
@@ -96,12 +98,8 @@ public:
     // --- For nodes
     double now_s() const { return runloop::MainRunLoop::main().now_s(); }
     void setNeedsDisplay();
-    // The picture moves by itself until `end_s`.
+    // The picture changes by itself until `end_s`. What leaves its place meanwhile notes a movement instead.
     void noteAnimation(double end_s);
-    // The same for scrolled content, which stays inside the places that the layout has given it.
-    void noteScrolling(double end_s);
-    // Whether views may be seen outside the places that the layout has given them.
-    bool isMoving() const;
     // Calls its afterLayout() once: after the layout of the update under way, or of the next one if there is none.
     void addPostLayoutObserver(PostLayoutObserver& observer);
     // To be called when views may have come on screen or left it without a layout, as when a scroll view moves. onAppear and
@@ -164,8 +162,8 @@ private:
     std::optional<motion::Animation> m_updateAnimation; // of the changes since the last layout
     const motion::Animation* m_layoutAnimation = nullptr;
     double m_animatingUntil_s = -1e300;
-    double m_movingUntil_s = -1e300;
     double m_paintedAt_s = -1e300;
+    std::uint64_t m_paintVisitCount = 0;
     unsigned m_layoutCount = 1;
     int m_holdCount = 0;
     bool m_hasSize = false;

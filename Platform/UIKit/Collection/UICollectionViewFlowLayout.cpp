@@ -99,10 +99,8 @@ void UICollectionViewFlowLayout::prepare(UICollectionView& collectionView, UICol
     }
     if (isRightToLeft)
         for (Attributes& attributes : m_attributes) attributes.frame.origin.x = width - attributes.frame.maxX();
-    m_extents.assign(m_attributes.size(), [this](std::size_t index) {
-        const geometry::Rect& frame = m_attributes[index].frame;
-        return std::pair{frame.minY(), frame.maxY()};
-    });
+    m_extents.assign(m_attributes.size(),
+                     [this](std::size_t index) { return geometry::extentOf(m_attributes[index].frame, geometry::Axis::vertical); });
 }
 
 std::vector<UICollectionViewLayoutAttributes> UICollectionViewFlowLayout::attributesIn(const geometry::Rect& rect) const {
