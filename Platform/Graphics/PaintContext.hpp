@@ -24,6 +24,8 @@ struct PaintState {
     PaintState transformedBy(const geometry::Transform& transform) const; // in current coordinates
     // A rectangle in current coordinates as it stands in the window, transform applied, clip not.
     geometry::Rect toWindow(const geometry::Rect& rect) const;
+    // What can be seen of the current coordinates; absent under a transform that does more than move.
+    std::optional<geometry::Rect> visibleRect() const;
     // True where nothing of the rectangle can be seen.
     bool hides(const geometry::Rect& rect) const;
 };
@@ -38,6 +40,11 @@ inline PaintState PaintState::movedBy(geometry::Point delta) const {
 inline geometry::Rect PaintState::toWindow(const geometry::Rect& rect) const {
     const geometry::Rect placed = rect.offsetBy(origin);
     return transform.isTranslation() ? placed.offsetBy({transform.tx, transform.ty}) : transform.apply(placed);
+}
+
+inline std::optional<geometry::Rect> PaintState::visibleRect() const {
+    if (!transform.isTranslation()) return std::nullopt;
+    return clip.offsetBy({-origin.x - transform.tx, -origin.y - transform.ty});
 }
 
 inline bool PaintState::hides(const geometry::Rect& rect) const { return !(opacity > 0) || !toWindow(rect).intersects(clip); }

@@ -69,10 +69,15 @@ void paintTextLayout(PaintContext& context, const PaintState& state, const TextL
                      const Rect& box, TextAlignment alignment, std::span<const TextRunPaint> paints) {
     if (!text || paints.empty()) return;
     LinePainter painter(context, state, layout, text, paints);
+    const auto visible = state.visibleRect();
     double y = box.minY();
     for (const TextLine& line : layout.lines) {
-        const double x = box.minX() + lineOffset(box.width(), line.width, alignment, layout.direction);
-        painter.paint(line, {x, y}, ellipsis);
+        // Letters reach out of their line, but not past the next one.
+        const bool isOutOfSight = visible && (y + 2 * line.height < visible->minY() || y - line.height > visible->maxY());
+        if (!isOutOfSight) {
+            const double x = box.minX() + lineOffset(box.width(), line.width, alignment, layout.direction);
+            painter.paint(line, {x, y}, ellipsis);
+        }
         y += line.height + layout.lineSpacing;
     }
 }

@@ -99,12 +99,16 @@ const FittedText::Lines& FittedText::linesWithin(const ProposedSize& limits) {
     return m_measured;
 }
 
+const std::shared_ptr<const graphics::ShapedText>& FittedText::shapedAt(double scale) {
+    m_scaledRuns = m_runs;
+    for (graphics::StyledRun& run : m_scaledRuns) run.font.size *= scale;
+    return TextCache::shared().shaped(m_scaledRuns, m_rules.language, m_rules.direction);
+}
+
 void FittedText::measure(double scale, const ProposedSize& limits) {
-    TextCache& cache = TextCache::shared();
     if (m_measured.scale != scale) {
-        m_scaledRuns = m_runs;
-        for (graphics::StyledRun& run : m_scaledRuns) run.font.size *= scale;
-        m_measured.shaped = cache.shaped(m_scaledRuns, m_rules.language, m_rules.direction);
+        // The cache may have forgotten a text that is shown here.
+        m_measured.shaped = m_shown.scale == scale ? m_shown.shaped : shapedAt(scale);
         m_measured.ellipsis = nullptr;
         m_measured.scale = scale;
     }
@@ -115,7 +119,7 @@ void FittedText::measure(double scale, const ProposedSize& limits) {
                                         .direction = m_rules.direction};
     if (request.height || request.lineLimit) {
         const graphics::Font& font = m_measured.shaped->runs.front().font;
-        if (!m_measured.ellipsis) m_measured.ellipsis = cache.ellipsis(font, m_rules.language, m_rules.direction);
+        if (!m_measured.ellipsis) m_measured.ellipsis = TextCache::shared().ellipsis(font, m_rules.language, m_rules.direction);
         request.ellipsisWidth = totalAdvance(*m_measured.ellipsis);
     }
     graphics::layOutText(*m_measured.shaped, request, m_measured.layout);

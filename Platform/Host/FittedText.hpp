@@ -61,6 +61,7 @@ private:
     // The room, or no limits at all where the text needs no wrapping and no cutting in it.
     geometry::ProposedSize limitsIn(const geometry::ProposedSize& room);
     const Lines& linesWithin(const geometry::ProposedSize& limits);
+    const std::shared_ptr<const graphics::ShapedText>& shapedAt(double scale);
     void measure(double scale, const geometry::ProposedSize& limits);
     const graphics::Font& shownFont(std::size_t run) const;
 

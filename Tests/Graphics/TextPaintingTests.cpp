@@ -48,6 +48,28 @@ TEST_F(TextPaintingTest, AlignsEveryLineInTheBox) {
     EXPECT_THAT(baselines(), ElementsAre(Point{117.5, 210}, Point{120, 222.5}));
 }
 
+// Under a transform every line is looked at, so its list is the measure.
+TEST_F(TextPaintingTest, PaintsEveryLineThatReachesIntoTheClip) {
+    const ShapedTextPointer text = shaped("a b c d e f g h i j k l m n o p q r s t u v w x y z");
+    const TextLayout layout = laidOut(*text, {.width = 5, .lineSpacing = 2});
+    const std::vector<TextRunPaint> paints{{black}};
+    const auto painted = [&](const PaintState& state, const Rect& place) {
+        DisplayList painting;
+        PaintContext context(painting);
+        paintTextLayout(context, state, layout, text, ellipsis, place, TextAlignment::leading, paints);
+        std::vector<std::uint32_t> lines;
+        for (const Command& command : painting.commands) lines.push_back(command.firstCluster);
+        return lines;
+    };
+    constexpr Rect place{{0, 0}, {5, 400}};
+    for (double top = -10; top < 400; top += 0.75) {
+        const PaintState clipped = PaintState{}.clippedTo({{0, top}, {5, 20}});
+        const PaintState mirrored = clipped.transformedBy(geometry::Transform::scaling(-1, 1).about({2.5, 0}));
+
+        EXPECT_EQ(painted(clipped, place), painted(mirrored, place)) << "clipped from " << top;
+    }
+}
+
 TEST(LineOffset, FollowsTheDirection) {
     using enum LayoutDirection;
 

@@ -50,6 +50,16 @@ TEST_F(FittedTextTest, IsAsWideAsItsWidestLine) {
     EXPECT_EQ(text.sizeIn({geometry::infinity, 5}), (Size{70, 12.5}));
 }
 
+TEST_F(FittedTextTest, IsShapedOnceEvenIfTheSharedCacheForgetsIt) {
+    text.showIn({35, std::nullopt});
+    const std::size_t before = shapeCount();
+    TextCache::shared().clear();
+
+    text.sizeIn({20, std::nullopt});
+
+    EXPECT_EQ(shapeCount(), before);
+}
+
 TEST_F(FittedTextTest, ForgivesRoundingErrors) { EXPECT_EQ(text.sizeIn({69.996, 12.496}), (Size{70, 12.5})); }
 
 TEST_F(FittedTextTest, KnowsTheBaselineOfItsFirstLine) { EXPECT_EQ(text.firstBaselineIn({35, std::nullopt}), 10); }

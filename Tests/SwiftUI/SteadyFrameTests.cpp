@@ -48,7 +48,7 @@ TEST_F(SteadyFrame, AllocatesNothingForLayoutAlone) {
 }
 
 TEST_F(SteadyFrame, AllocatesNothingWhileThingsMove) {
-    screen.host().noteAnimation(screen.host().now_s() + 1);
+    screen.host().rootNode()->noteMovement(screen.host().now_s() + 1);
     frame();
     screen.runFor(0.5);
 

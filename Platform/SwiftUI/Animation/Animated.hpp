@@ -1,6 +1,7 @@
 // Values that get to where they are set over time.
 #pragma once
 
+#include <memory>
 #include <utility>
 
 #include "Platform/Geometry/Geometry.hpp"
@@ -21,44 +22,46 @@ constexpr geometry::Rect interpolated(const geometry::Rect& from, const geometry
 graphics::Color interpolated(const graphics::Color& from, const graphics::Color& to, double progress);
 
 // The value is a function of time, so nothing needs to happen between two readings. A movement to a new target starts from the
-// value at that moment.
+// value at that moment. Every view has some and few ever move, so a movement has its memory from the first one on.
 template <class Value>
 class Animated {
 public:
-    explicit Animated(Value value = {}) : m_from(value), m_to(std::move(value)) {}
+    explicit Animated(Value value = {}) : m_target(std::move(value)) {}
 
-    const Value& target() const { return m_to; }
+    const Value& target() const { return m_target; }
     Value valueAt(double now_s) const {
-        if (now_s >= m_end_s) return m_to;
-        return interpolated(m_from, m_to, m_animation.progressAt(now_s - m_start_s));
+        if (!isAnimatingAt(now_s)) return m_target;
+        return interpolated(m_movement->from, m_target, m_movement->animation.progressAt(now_s - m_movement->start_s));
     }
-    bool isAnimatingAt(double now_s) const { return now_s < m_end_s; }
+    bool isAnimatingAt(double now_s) const { return now_s < end_s(); }
     // When the target is reached; in the past when nothing moves.
-    double end_s() const { return m_end_s; }
+    double end_s() const { return m_movement ? m_movement->end_s : atRest; }
 
     // Null: at once. Setting the same target again changes nothing, not even while the value is on its way to it.
     void set(Value target, const motion::Animation* animation, double now_s) {
-        if (target == m_to) return;
-        if (!animation) {
-            m_to = std::move(target);
-            m_end_s = atRest;
-            return;
+        if (target == m_target) return;
+        if (animation) {
+            Value from = valueAt(now_s);
+            if (!m_movement) m_movement = std::make_unique<Movement>();
+            *m_movement = {std::move(from), *animation, now_s, now_s + animation->end_s()};
+        } else if (m_movement) {
+            m_movement->end_s = atRest;
         }
-        m_from = valueAt(now_s);
-        m_to = std::move(target);
-        m_animation = *animation;
-        m_start_s = now_s;
-        m_end_s = now_s + animation->end_s();
+        m_target = std::move(target);
     }
 
 private:
     static constexpr double atRest = -1e300;
 
-    Value m_from;
-    Value m_to;
-    motion::Animation m_animation;
-    double m_start_s = 0;
-    double m_end_s = atRest;
+    struct Movement {
+        Value from;
+        motion::Animation animation;
+        double start_s = 0;
+        double end_s = atRest;
+    };
+
+    Value m_target;
+    std::unique_ptr<Movement> m_movement; // null before the first one
 };
 
 } // namespace proupsells::swiftui

@@ -23,7 +23,10 @@ bool setAnimated(Node& node, Animated<Value>& animated, const Value& value, cons
     const bool jumps = node.isNew() || (isMotion && node.environment().reduceMotion);
     animated.set(value, jumps ? nullptr : pass.animation, pass.now_s);
     if (!hasChanged || node.isNew()) return false;
-    node.host().noteAnimation(animated.end_s());
+    if (isMotion)
+        node.noteMovement(animated.end_s());
+    else
+        node.host().noteAnimation(animated.end_s());
     node.setNeedsDisplay();
     return true;
 }

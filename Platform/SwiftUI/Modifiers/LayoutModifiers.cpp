@@ -147,7 +147,7 @@ public:
         const bool jumps = isNew() || environment().reduceMotion;
         m_offset.set(modifier.offset, jumps ? nullptr : pass.animation, pass.now_s);
         if (!hasChanged || isNew()) return;
-        host().noteAnimation(m_offset.end_s());
+        noteMovement(m_offset.end_s());
         invalidateLayout(); // where the picture may be
     }
     Point contentTranslation(double now_s) const override { return mirrored(m_offset.valueAt(now_s)); }

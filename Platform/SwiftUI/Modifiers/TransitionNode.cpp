@@ -18,7 +18,7 @@ void TransitionNode::enter(const UpdatePass& pass) {
     m_isLeavingWay = false;
     m_presence.set(0, nullptr, pass.now_s);
     m_presence.set(1, animation, pass.now_s);
-    host().noteAnimation(m_presence.end_s());
+    noteMovement(m_presence.end_s());
 }
 
 double TransitionNode::leave(const UpdatePass& pass) {
@@ -26,7 +26,7 @@ double TransitionNode::leave(const UpdatePass& pass) {
     if (!animation) return pass.now_s;
     m_isLeavingWay = true;
     m_presence.set(0, animation, pass.now_s);
-    host().noteAnimation(m_presence.end_s());
+    noteMovement(m_presence.end_s());
     return m_presence.end_s();
 }
 
@@ -34,7 +34,7 @@ void TransitionNode::comeBack(const UpdatePass& pass) {
     // It goes back the way by which it was leaving, from where it is now.
     const AnyTransition::Way& way = m_isLeavingWay ? m_transition.removal() : m_transition.insertion();
     m_presence.set(1, animationOf(way, pass), pass.now_s);
-    host().noteAnimation(m_presence.end_s());
+    noteMovement(m_presence.end_s());
 }
 
 TransitionEffect TransitionNode::effectAt(double now_s) const {

@@ -38,6 +38,7 @@ public:
 
     // Another number each time that everything here has been destroyed.
     unsigned generation() const { return m_generation; }
+    std::size_t capacity_bytes() const;
 
     // Lives as long as a build does.
     class Build {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -27,25 +28,32 @@ struct Key {
     bool operator==(const Key&) const = default;
 };
 
-// A key that owns its text: what nodes remember.
+// A key that owns its text: what nodes remember. Few have one.
 class StoredKey {
 public:
     StoredKey() = default;
-    explicit StoredKey(const Key& key) : m_number(key.number), m_text(key.text), m_kind(key.kind) {}
+    explicit StoredKey(const Key& key) {
+        if (!key.isNone()) m_content = std::make_unique<Content>(Content{key.number, std::string(key.text), key.kind});
+    }
 
     Key key() const {
         Key result;
-        result.number = m_number;
-        result.text = m_text;
-        result.kind = m_kind;
+        if (!m_content) return result;
+        result.number = m_content->number;
+        result.text = m_content->text;
+        result.kind = m_content->kind;
         return result;
     }
-    bool operator==(const Key& other) const { return m_kind == other.kind && m_number == other.number && m_text == other.text; }
+    bool operator==(const Key& other) const { return key() == other; }
 
 private:
-    std::int64_t m_number = 0;
-    std::string m_text;
-    std::uint8_t m_kind = 0;
+    struct Content {
+        std::int64_t number = 0;
+        std::string text;
+        std::uint8_t kind = 0;
+    };
+
+    std::unique_ptr<const Content> m_content; // null for none
 };
 
 } // namespace proupsells::swiftui

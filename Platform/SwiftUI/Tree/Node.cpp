@@ -29,7 +29,7 @@ void Node::setNeedsBuild() {
         for (Node* outer = m_parent; outer && !outer->m_hasDirtyDescendant; outer = outer->m_parent)
             outer->m_hasDirtyDescendant = true;
     }
-    if (const auto& animation = Transaction::currentAnimation()) m_buildAnimation = animation;
+    if (const auto& animation = Transaction::currentAnimation()) m_buildAnimation = std::make_unique<motion::Animation>(*animation);
     m_host->setNeedsBuild();
 }
 
@@ -42,6 +42,11 @@ void Node::invalidateLayout() {
     m_sizeCount = 0;
     m_needsLayout = true;
     m_host->setNeedsLayout();
+}
+
+void Node::noteMovement(double end_s) {
+    for (Node* node = this; node && node->m_movesUntil_s < end_s; node = node->m_parent) node->m_movesUntil_s = end_s;
+    m_host->noteAnimation(end_s);
 }
 
 void Node::setNeedsDisplay() { m_host->setNeedsDisplay(); }

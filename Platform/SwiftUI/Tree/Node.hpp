@@ -8,11 +8,13 @@
 
 #include "Platform/Accessibility/SemanticNode.hpp"
 #include "Platform/Geometry/Geometry.hpp"
+#include "Platform/Geometry/Intervals.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
 #include "Platform/Motion/TimingCurve.hpp"
 #include "Platform/SwiftUI/Animation/Animated.hpp"
 #include "Platform/SwiftUI/Tree/Alignment.hpp"
 #include "Platform/SwiftUI/Tree/Key.hpp"
+#include "Platform/SwiftUI/Tree/StoredProposal.hpp"
 #include "Platform/SwiftUI/Tree/UpdatePass.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
@@ -59,6 +61,8 @@ public:
     // The sizes found so far no longer hold, neither here nor around. They are found again in the next layout.
     void invalidateLayout();
     void setNeedsDisplay();
+    // Until `end_s` the node may be seen outside the place that the layout has given it. Its picture moves by itself that long.
+    void noteMovement(double end_s);
 
     // --- Layout
     // In points. Never negative and never not-a-number; infinite only if the proposal is. Zero for absent nodes.
@@ -174,8 +178,13 @@ private:
     friend class ModifierElement;
 
     struct CachedSize {
-        geometry::ProposedSize proposal;
+        StoredProposal proposal;
         geometry::Size size;
+    };
+    // Which of many children are where, along the axis on which they follow one another.
+    struct ChildExtents {
+        Axis axis = Axis::vertical;
+        geometry::Intervals intervals;
     };
     struct Leaving {
         std::unique_ptr<Node> node;
@@ -197,7 +206,14 @@ private:
     void collectTransitions(std::vector<TransitionHandler*>& result);
     void matchKeyedChildren(const ViewList& views, UpdatePass& pass);
     void animateFrameTo(const geometry::Rect& target);
+    void paintChildren(graphics::PaintContext& context, const graphics::PaintState& state, double now_s);
     void updatePaintBounds();
+    void updateChildExtents();
+    // The range [first, end) of children outside of which none touches the rectangle, which is in their coordinates. Of many only.
+    std::pair<std::size_t, std::size_t> childrenNear(const std::optional<geometry::Rect>& rect) const;
+    std::pair<std::size_t, std::size_t> childrenTouched(geometry::Point inWindow, const graphics::PaintState& inner,
+                                                        double now_s) const;
+    bool isMovingAt(double now_s) const { return now_s < m_movesUntil_s; }
     Node* firstHandlerNode();
     void removeLeaving(Node* node);
     // Forgets all sizes, here and inside.
@@ -212,15 +228,17 @@ private:
     std::unique_ptr<std::vector<Leaving>> m_leaving;
 
     geometry::Rect m_frame;
-    geometry::Rect m_paintBounds; // of the node and everything inside, in its own coordinates
-    geometry::ProposedSize m_placedProposal;
+    geometry::Rect m_paintBounds;                 // of the node and everything inside, in its own coordinates
+    std::unique_ptr<ChildExtents> m_childExtents; // null for few children
+    StoredProposal m_placedProposal;
     std::unique_ptr<Animated<geometry::Rect>> m_frameAnimation;
     CachedSize m_sizes[4];
     std::uint8_t m_sizeCount = 0;
     std::uint8_t m_nextSize = 0;
 
     StoredKey m_key;
-    std::optional<motion::Animation> m_buildAnimation; // of the changes that made it need a build
+    std::unique_ptr<motion::Animation> m_buildAnimation; // of the changes that made it need a build
+    double m_movesUntil_s = -1e300;                      // the node itself, or something inside
 
     unsigned m_invalidation = 0; // the host's layout count when this node and all around it were last told to be laid out again
 

@@ -6,6 +6,7 @@
 
 namespace proupsells::swiftui {
 
+using geometry::extentOf;
 using geometry::Point;
 using geometry::ProposedSize;
 using geometry::Rect;
@@ -19,6 +20,9 @@ double soundLength(double length, const std::optional<double>& proposed) {
     if (std::isinf(length) && !(proposed && std::isinf(*proposed))) return 0;
     return length;
 }
+
+// With fewer children than this, a look at each costs less than knowing where they are.
+constexpr std::size_t manyChildren = 32;
 
 double finiteLength(double length) { return std::isfinite(length) ? length : 0; }
 
@@ -50,7 +54,7 @@ void Node::place(Point origin, const ProposedSize& proposed) {
     const Rect target{{finiteLength(origin.x), finiteLength(origin.y)},
                       {finiteLength(fitting.width), finiteLength(fitting.height)}};
     const bool hasMoved = m_frame.origin != target.origin || !m_hasBeenPlaced;
-    const bool isOutdated = m_needsLayout || !m_hasBeenPlaced || m_frame.size != target.size || m_placedProposal != proposal ||
+    const bool isOutdated = m_needsLayout || !m_hasBeenPlaced || m_frame.size != target.size || !(m_placedProposal == proposal) ||
                             (m_dependsOnPosition && (hasMoved || m_host->m_hasPositionChanged));
     if (!(m_frame == target)) animateFrameTo(target);
     m_frame = target;
@@ -74,7 +78,7 @@ void Node::animateFrameTo(const Rect& target) {
     const double now_s = m_host->now_s();
     if (!m_frameAnimation) m_frameAnimation = std::make_unique<Animated<Rect>>(m_frame);
     m_frameAnimation->set(target, animation, now_s);
-    m_host->noteAnimation(m_frameAnimation->end_s());
+    noteMovement(m_frameAnimation->end_s());
 }
 
 void Node::moveTo(Point origin) {
@@ -139,6 +143,30 @@ void Node::updatePaintBounds() {
     Rect bounds = Rect{{}, m_frame.size}.insetBy(-outset, -outset);
     forEachPainted([&](const Node& child) { bounds = bounds.united(child.m_paintBounds.offsetBy(child.m_frame.origin)); });
     m_paintBounds = effectBounds(bounds);
+    if (m_children.size() >= manyChildren)
+        updateChildExtents();
+    else
+        m_childExtents.reset();
+}
+
+void Node::updateChildExtents() {
+    if (!m_childExtents) m_childExtents = std::make_unique<ChildExtents>();
+    const Axis axis = m_frame.width() > m_frame.height() ? Axis::horizontal : Axis::vertical;
+    m_childExtents->axis = axis;
+    m_childExtents->intervals.assign(m_children.size(), [&](std::size_t slot) {
+        const Node* child = m_children[slot].get();
+        // Where nothing is, the interval must not hold up the search.
+        if (!child) return std::pair{geometry::infinity, -geometry::infinity};
+        return extentOf(child->m_paintBounds.offsetBy(child->m_frame.origin), axis);
+    });
+}
+
+std::pair<std::size_t, std::size_t> Node::childrenNear(const std::optional<Rect>& rect) const {
+    if (!rect) return {0, m_children.size()};
+    // Rounding may put an edge a little elsewhere than in the window's coordinates.
+    constexpr double margin = 1;
+    const auto [start, end] = extentOf(*rect, m_childExtents->axis);
+    return m_childExtents->intervals.reachingInto(start - margin, end + margin);
 }
 
 } // namespace proupsells::swiftui

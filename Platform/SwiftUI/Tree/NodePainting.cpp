@@ -29,21 +29,28 @@ PaintState stateOfContent(const Node& node, const PaintState& state, double now_
 } // namespace
 
 void Node::paint(graphics::PaintContext& context, const PaintState& parentState, double now_s) {
-    // While things move they may be outside the bounds, which are those of the end of the movement.
-    if (parentState.hides(m_paintBounds.offsetBy(m_frame.origin)) && !m_host->isMoving()) return;
+    ++m_host->m_paintVisitCount;
+    // What moves may be outside the bounds, which are those of the end of the movement.
+    if (parentState.hides(m_paintBounds.offsetBy(m_frame.origin)) && !isMovingAt(now_s)) return;
     const PaintState state = stateInside(*this, parentState, now_s);
     if (!(state.opacity > 0)) return;
     paintContent(context, state, now_s);
     if (!m_children.empty() || m_leaving) {
         const Point translation = contentTranslation(now_s);
-        if (translation == Point{}) {
-            forEachPainted([&](Node& child) { child.paint(context, state, now_s); });
-        } else {
-            const PaintState inner = state.movedBy(translation);
-            forEachPainted([&](Node& child) { child.paint(context, inner, now_s); });
-        }
+        if (translation == Point{})
+            paintChildren(context, state, now_s);
+        else
+            paintChildren(context, state.movedBy(translation), now_s);
     }
     paintOverlay(context, state, now_s);
+}
+
+void Node::paintChildren(graphics::PaintContext& context, const PaintState& state, double now_s) {
+    if (!m_childExtents || isMovingAt(now_s) || (m_leaving && !m_leaving->empty()))
+        return forEachPainted([&](Node& child) { child.paint(context, state, now_s); });
+    const auto [first, end] = childrenNear(state.visibleRect());
+    for (std::size_t slot = first; slot < end; ++slot)
+        if (m_children[slot]) m_children[slot]->paint(context, state, now_s);
 }
 
 void Node::applyEffects(PaintState&, double) const {}
@@ -54,18 +61,24 @@ void Node::paintOverlay(graphics::PaintContext&, const PaintState&, double) {}
 Node* Node::hitTest(Point inWindow, const PaintState& parentState, double now_s) {
     if (!allowsHitTesting()) return nullptr;
     const bool isInside = parentState.toWindow(m_paintBounds.offsetBy(m_frame.origin)).contains(inWindow);
-    if (!isInside && !m_host->isMoving()) return nullptr;
+    if (!isInside && !isMovingAt(now_s)) return nullptr;
     const PaintState state = stateInside(*this, parentState, now_s);
     if (state.opacity < touchableOpacity || !state.clip.contains(inWindow)) return nullptr;
     const PaintState inner = stateOfContent(*this, state, now_s);
-    for (std::size_t i = 0; i < m_children.size(); ++i) {
-        Node* child = m_children[m_paintsInReverse ? i : m_children.size() - 1 - i].get();
+    const auto [first, end] = childrenTouched(inWindow, inner, now_s);
+    for (std::size_t i = 0; i < end - first; ++i) {
+        Node* child = m_children[m_paintsInReverse ? first + i : end - 1 - i].get();
         if (Node* hit = child ? child->hitTest(inWindow, inner, now_s) : nullptr) return hit;
     }
     const Point local = state.transform.inverted().apply(inWindow) - state.origin;
     if (!Rect{{}, presentationFrame(now_s).size}.contains(local)) return nullptr;
     if (isHittable() || gestureHandler()) return this;
     return forwardsTouches() ? firstHandlerNode() : nullptr;
+}
+
+std::pair<std::size_t, std::size_t> Node::childrenTouched(Point inWindow, const PaintState& inner, double now_s) const {
+    if (!m_childExtents || isMovingAt(now_s)) return {0, m_children.size()};
+    return childrenNear(Rect{inner.transform.inverted().apply(inWindow) - inner.origin, {}});
 }
 
 Node* Node::firstHandlerNode() {

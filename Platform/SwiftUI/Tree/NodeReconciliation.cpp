@@ -20,6 +20,7 @@ void Node::updateChildren(const ViewList& views, UpdatePass& pass) {
         if (m_children[slot]) remove(std::move(m_children[slot]), slot, pass);
     if (m_children.size() != views.size()) {
         m_children.resize(views.size());
+        m_childExtents.reset(); // until the next layout
         invalidateLayout();
     }
     for (std::size_t slot = 0; slot < views.size(); ++slot) reconcile(m_children[slot], slot, views[slot], pass);
@@ -58,9 +59,8 @@ void Node::updateNode(Node& node, Element& element, UpdatePass& pass) {
     node.m_needsBuild = false;
     node.m_hasDirtyDescendant = false;
     if (node.m_buildAnimation) {
-        const motion::Animation animation = *node.m_buildAnimation;
-        node.m_buildAnimation.reset();
-        UpdatePass animated = pass.with(&animation);
+        const std::unique_ptr<const motion::Animation> animation = std::move(node.m_buildAnimation);
+        UpdatePass animated = pass.with(animation.get());
         element.update(node, animated);
     } else {
         element.update(node, pass);
@@ -148,6 +148,7 @@ void Node::updateKeyedChildren(const ViewList& views, UpdatePass& pass) {
 
 void Node::matchKeyedChildren(const ViewList& views, UpdatePass& pass) {
     std::vector<std::unique_ptr<Node>> before = std::move(m_children);
+    m_childExtents.reset();
     std::unordered_multimap<std::size_t, std::size_t> byKey;
     // Backwards, because of equal keys the entry made last is found first. So nodes with equal keys keep their order.
     for (std::size_t slot = before.size(); slot-- > 0;)

@@ -110,17 +110,11 @@ ViewHost::Hold::~Hold() {
 }
 
 void ViewHost::noteAnimation(double end_s) {
-    if (end_s > m_movingUntil_s) m_movingUntil_s = end_s;
-    noteScrolling(end_s);
-}
-
-void ViewHost::noteScrolling(double end_s) {
     if (end_s > m_animatingUntil_s) m_animatingUntil_s = end_s;
     if (end_s > now_s()) setNeedsDisplay();
 }
 
 bool ViewHost::isAnimating() const { return now_s() < m_animatingUntil_s; }
-bool ViewHost::isMoving() const { return now_s() < m_movingUntil_s; }
 
 Size ViewHost::sizeThatFits(const ProposedSize& proposal) {
     if (!m_isUpdating) bringUpToDate();

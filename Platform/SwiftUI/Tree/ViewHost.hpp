@@ -11,6 +11,7 @@
 #include "Platform/Graphics/PaintContext.hpp"
 #include "Platform/Host/WindowContent.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
+#include "Platform/SwiftUI/Tree/Appearances.hpp"
 #include "Platform/SwiftUI/Tree/BuildContext.hpp"
 #include "Platform/SwiftUI/Tree/EnvironmentValues.hpp"
 #include "Platform/SwiftUI/Tree/TouchDispatcher.hpp"
@@ -18,7 +19,6 @@
 
 namespace proupsells::swiftui {
 
-class AppearanceObserver;
 class PostLayoutObserver;
 class RootNode;
 
@@ -79,6 +79,8 @@ public:
     // The semantic tree with the host's corner at (0, 0) and its rectangle as window.
     accessibility::SemanticNode semanticTree();
     bool isAnimating() const;
+    // How many nodes all paintings together have looked at.
+    std::uint64_t paintVisitCount() const { return m_paintVisitCount; }
     // Told when the picture has changed, once until the next painting.
     void setNeedsDisplayHandler(std::function<void()> handler) { m_needsDisplayHandler = std::move(handler); }
     // Told after an update in which the content's sizes may have changed.
@@ -96,17 +98,14 @@ public:
     // --- For nodes
     double now_s() const { return runloop::MainRunLoop::main().now_s(); }
     void setNeedsDisplay();
-    // The picture moves by itself until `end_s`.
+    // The picture changes by itself until `end_s`. What leaves its place meanwhile notes a movement instead.
     void noteAnimation(double end_s);
-    // The same for scrolled content, which stays inside the places that the layout has given it.
-    void noteScrolling(double end_s);
-    // Whether views may be seen outside the places that the layout has given them.
-    bool isMoving() const;
     // Calls its afterLayout() once: after the layout of the update under way, or of the next one if there is none.
     void addPostLayoutObserver(PostLayoutObserver& observer);
     // To be called when views may have come on screen or left it without a layout, as when a scroll view moves. onAppear and
     // onDisappear are told in the next update.
     void setNeedsAppearanceUpdate();
+    Appearances& appearances() { return m_appearances; }
     Node* rootNode() const;
     // The animation by which frames change in the layout under way; null outside layouts and for changes that are not animated.
     const motion::Animation* layoutAnimation() const { return m_layoutAnimation; }
@@ -127,7 +126,6 @@ private:
     friend class Node;
     friend class CompositeNode;
     friend class PostLayoutObserver;
-    friend class AppearanceObserver;
     friend class TouchDispatcher;
 
     explicit ViewHost(std::function<View()> root);
@@ -139,12 +137,12 @@ private:
     void layOutContent();
     bool runObservers();
     bool updateAppearances();
+    void noteOtherPlaces();
     // The node has left the tree; it is destroyed when the handlers of this update have run.
     void departed(std::unique_ptr<Node> node);
     // The node has left the tree and can still be seen.
-    void noteLeaving(const Node&) { m_needsAppearanceUpdate = true; }
+    void noteLeaving(const Node&) { noteOtherPlaces(); }
     void setNeedsLayout();
-    bool isOnScreen(const Node& node) const;
 
     std::function<View()> m_root;
     std::unique_ptr<RootNode> m_rootNode;
@@ -157,15 +155,14 @@ private:
     combine::PassthroughSubject<bool> m_inWindowChanges;
     std::vector<PostLayoutObserver*> m_observers;
     std::vector<PostLayoutObserver*> m_runningObservers;
-    std::vector<AppearanceObserver*> m_appearances;
-    std::vector<AppearanceObserver*> m_changedAppearances;
+    Appearances m_appearances;
     std::vector<std::unique_ptr<Node>> m_departed;
     std::optional<motion::Animation> m_rootAnimation;   // of changes to what the root gives
     std::optional<motion::Animation> m_updateAnimation; // of the changes since the last layout
     const motion::Animation* m_layoutAnimation = nullptr;
     double m_animatingUntil_s = -1e300;
-    double m_movingUntil_s = -1e300;
     double m_paintedAt_s = -1e300;
+    std::uint64_t m_paintVisitCount = 0;
     unsigned m_layoutCount = 1;
     int m_holdCount = 0;
     bool m_hasSize = false;
@@ -192,23 +189,6 @@ protected:
     // The host that knows it, which must forget it when it ends.
     ViewHost* m_observedHost = nullptr;
     friend class ViewHost;
-};
-
-// Something that is told when it comes on screen and when it leaves it.
-class AppearanceObserver {
-public:
-    virtual ~AppearanceObserver();
-    virtual void appearanceChanged(bool isOnScreen) = 0;
-    virtual Node& observedNode() = 0;
-
-protected:
-    // From its first update on, in the order of the tree.
-    void observeAppearance(ViewHost& host);
-
-private:
-    friend class ViewHost;
-    ViewHost* m_appearanceHost = nullptr;
-    bool m_hasAppeared = false;
 };
 
 } // namespace proupsells::swiftui

@@ -18,11 +18,6 @@ namespace {
 // Handlers that keep changing what they watch would never end.
 constexpr int maximumPassCount = 32;
 
-// A view of no length is on screen if its place is.
-bool isPartlyInside(double start, double end, double windowStart, double windowEnd) {
-    return start < windowEnd && (end > windowStart || (end == start && start == windowStart));
-}
-
 } // namespace
 
 void ViewHost::update() {
@@ -67,7 +62,7 @@ void ViewHost::build() {
     const std::optional<motion::Animation> animation = std::exchange(m_rootAnimation, std::nullopt);
     UpdatePass pass{*this, &m_environment, animation ? &*animation : nullptr, now_s()};
     m_rootNode->build(m_root ? m_root() : View{}, pass);
-    m_needsAppearanceUpdate = true;
+    noteOtherPlaces();
 }
 
 void ViewHost::layOutContent() {
@@ -81,7 +76,7 @@ void ViewHost::layOutContent() {
     ++m_layoutCount;
     m_needsLayout = false; // geometry readers have built what they have laid out themselves
     m_needsDisplay = true;
-    m_needsAppearanceUpdate = true;
+    noteOtherPlaces();
 }
 
 void ViewHost::dropCaches() {
@@ -115,59 +110,20 @@ PostLayoutObserver::~PostLayoutObserver() {
                  static_cast<PostLayoutObserver*>(nullptr));
 }
 
-void AppearanceObserver::observeAppearance(ViewHost& host) {
-    m_appearanceHost = &host;
-    host.m_appearances.push_back(this);
-}
-
-AppearanceObserver::~AppearanceObserver() {
-    if (!m_appearanceHost) return;
-    std::erase(m_appearanceHost->m_appearances, this);
-    auto& changed = m_appearanceHost->m_changedAppearances;
-    std::replace(changed.begin(), changed.end(), this, static_cast<AppearanceObserver*>(nullptr));
-}
-
 bool ViewHost::updateAppearances() {
     m_needsAppearanceUpdate = false;
-    if (m_appearances.empty()) return false;
-    const auto changedTo = [this](bool shown) {
-        m_changedAppearances.clear();
-        for (AppearanceObserver* observer : m_appearances)
-            if (observer->m_hasAppeared != shown && (m_isVisible && m_hasSize && isOnScreen(observer->observedNode())) == shown)
-                m_changedAppearances.push_back(observer);
-        const bool hasChanged = !m_changedAppearances.empty();
-        for (std::size_t i = 0; i < m_changedAppearances.size(); ++i) {
-            AppearanceObserver* observer = m_changedAppearances[i];
-            if (!observer) continue;
-            observer->m_hasAppeared = shown;
-            observer->appearanceChanged(shown);
-        }
-        m_changedAppearances.clear();
-        return hasChanged;
-    };
-    const bool hasLeft = changedTo(false);
-    const bool hasCome = changedTo(true);
-    return hasLeft || hasCome;
+    return m_appearances.update(m_isVisible && m_hasSize, now_s());
 }
 
-bool ViewHost::isOnScreen(const Node& node) const {
-    if (node.hasLeft()) return false;
-    const double now = now_s();
-    Rect rect = node.frame();
-    for (const Node* outer = node.parent(); outer; outer = outer->parent()) {
-        rect = rect.offsetBy(outer->contentTranslation(now));
-        if (const auto viewport = outer->viewport()) {
-            if (!isPartlyInside(rect.minX(), rect.maxX(), viewport->minX(), viewport->maxX()) ||
-                !isPartlyInside(rect.minY(), rect.maxY(), viewport->minY(), viewport->maxY()))
-                return false;
-        }
-        rect = rect.offsetBy(outer->frame().origin);
-    }
-    return true;
+// Where the views are has changed by more than scrolling.
+void ViewHost::noteOtherPlaces() {
+    m_appearances.forgetPlaces();
+    m_needsAppearanceUpdate = true;
 }
 
 void ViewHost::departed(std::unique_ptr<Node> node) {
     m_departed.push_back(std::move(node));
+    m_appearances.forgetPlaces();
     setNeedsDisplay();
     setNeedsAppearanceUpdate();
 }
@@ -178,10 +134,10 @@ RootNode::RootNode(ViewHost& host) {
 }
 
 void RootNode::build(const View& root, UpdatePass& pass) {
-    const std::optional<motion::Animation> animation = std::exchange(m_buildAnimation, std::nullopt);
+    const std::unique_ptr<const motion::Animation> animation = std::move(m_buildAnimation);
     m_needsBuild = false;
     m_hasDirtyDescendant = false;
-    UpdatePass own = pass.with(animation ? &*animation : pass.animation);
+    UpdatePass own = pass.with(animation ? animation.get() : pass.animation);
     updateChild(0, root, own);
     m_isNew = false;
 }

@@ -175,7 +175,7 @@ void ScrollViewNode::adoptRange(double now_s) {
     if (m_hasRange && before != after + m_correction.valueAt(now_s)) {
         m_correction = Animated<double>(before - after);
         m_correction.set(0, host().layoutAnimation(), now_s);
-        if (m_correction.isAnimatingAt(now_s)) host().noteScrolling(m_correction.end_s());
+        if (m_correction.isAnimatingAt(now_s)) host().noteAnimation(m_correction.end_s());
     }
     m_hasRange = true;
     if (m_offset.isMovingAt(now_s)) coast();
@@ -225,7 +225,7 @@ bool ScrollViewNode::scrolled(geometry::Point delta) {
 void ScrollViewNode::coast() {
     const double now_s = host().now_s(), end_s = std::max(now_s, m_offset.end_s());
     m_indicator.show(end_s);
-    host().noteScrolling(m_indicator.end_s());
+    host().noteAnimation(m_indicator.end_s());
     setNeedsDisplay();
     if (!m_offset.isMovingAt(now_s)) return stopStepping();
     if (!m_stepping) m_stepping = runloop::MainRunLoop::main().scheduleRepeating(step_s, [this] { step(); });

@@ -39,7 +39,8 @@ public:
         if (isOther) m_shape = std::move(shape);
         if (isNew()) return;
         if (paintOutset() != outset) invalidateLayout(); // where the picture may be
-        host().noteAnimation(std::max({m_color.end_s(), m_lineWidth.end_s(), m_data.end_s()}));
+        noteMovement(std::max(m_lineWidth.end_s(), m_data.end_s()));
+        host().noteAnimation(m_color.end_s());
         setNeedsDisplay();
     }
 

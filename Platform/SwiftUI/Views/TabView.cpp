@@ -153,7 +153,9 @@ void TabViewNode::turnTo(int page, const motion::Animation* animation, double no
         m_position.animateTo(page, *animation, now_s);
     else
         m_position.moveTo(page);
-    host().noteAnimation(m_fade.end_s());
+    // A page that fades stands where the other one is.
+    for (Node* faded : m_pages)
+        if (TagNode* tagged = fades ? tagOf(faded) : nullptr) tagged->noteMovement(m_fade.end_s());
     noteMoving();
 }
 
@@ -270,7 +272,7 @@ void TabViewNode::noteMoving() {
     stopWaiting();
     const double now_s = host().now_s();
     if (!m_position.isMovingAt(now_s)) return;
-    host().noteScrolling(m_position.end_s());
+    host().noteAnimation(m_position.end_s());
     m_arrival = runloop::MainRunLoop::main().schedule(m_position.end_s() - now_s, [this] { host().setNeedsAppearanceUpdate(); });
 }
 

@@ -99,20 +99,15 @@ void UICollectionViewFlowLayout::prepare(UICollectionView& collectionView, UICol
     }
     if (isRightToLeft)
         for (Attributes& attributes : m_attributes) attributes.frame.origin.x = width - attributes.frame.maxX();
-    m_tops.resize(m_attributes.size());
-    m_bottoms.resize(m_attributes.size());
-    for (std::size_t i = 0; i < m_attributes.size(); ++i)
-        m_bottoms[i] = std::max(i > 0 ? m_bottoms[i - 1] : -geometry::infinity, m_attributes[i].frame.maxY());
-    for (std::size_t i = m_attributes.size(); i-- > 0;)
-        m_tops[i] = std::min(i + 1 < m_tops.size() ? m_tops[i + 1] : geometry::infinity, m_attributes[i].frame.minY());
+    m_extents.assign(m_attributes.size(),
+                     [this](std::size_t index) { return geometry::extentOf(m_attributes[index].frame, geometry::Axis::vertical); });
 }
 
 std::vector<UICollectionViewLayoutAttributes> UICollectionViewFlowLayout::attributesIn(const geometry::Rect& rect) const {
-    const auto first = std::upper_bound(m_bottoms.begin(), m_bottoms.end(), rect.minY()) - m_bottoms.begin();
-    const auto end = std::lower_bound(m_tops.begin(), m_tops.end(), rect.maxY()) - m_tops.begin();
+    const auto [first, end] = m_extents.reachingInto(rect.minY(), rect.maxY());
     std::vector<Attributes> found;
-    for (auto i = first; i < end; ++i)
-        if (m_attributes[std::size_t(i)].frame.intersects(rect)) found.push_back(m_attributes[std::size_t(i)]);
+    for (std::size_t index = first; index < end; ++index)
+        if (m_attributes[index].frame.intersects(rect)) found.push_back(m_attributes[index]);
     return found;
 }
 

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "Platform/Geometry/Intervals.hpp"
 #include "Platform/UIKit/Collection/UICollectionViewDelegateFlowLayout.hpp"
 
 namespace proupsells::uikit {
@@ -42,8 +43,7 @@ private:
     struct Pass;
 
     std::vector<UICollectionViewLayoutAttributes> m_attributes;
-    std::vector<double> m_tops;    // the least from here on
-    std::vector<double> m_bottoms; // the greatest up to here
+    geometry::Intervals m_extents; // from top to bottom
     geometry::Size m_contentSize;
 };
 
