@@ -12,7 +12,7 @@ void Report::addKey(std::string_view key) {
 
 void Report::addNumber(double number) {
     char text[64];
-    std::snprintf(text, sizeof text, "%.4f", number);
+    std::snprintf(text, sizeof text, "%.7g", number);
     m_members += text;
 }
 
