@@ -4,9 +4,6 @@ import dataclasses
 from .figures import Comparison, Figure, Spread
 from .rows import PROGRAMS
 
-PEERS = [name for name, program in PROGRAMS.items() if not program.is_ours]
-
-
 @dataclasses.dataclass(frozen=True)
 class Setting:
     """What was measured on, and what could not be measured."""
@@ -64,7 +61,7 @@ def cell(row: dict, name: str) -> str:
     if not figure:
         return "–"
     text = spread_text(figure)
-    return f"**{text}**" if name == row["better_qt_peer"] else text
+    return f"**{text}**" if name in (row["ours"], row["better_qt_peer"]) else text
 
 
 def verdict(row: dict, qt_peers: tuple[str, ...] = ("quick", "widgets")) -> str:
@@ -75,22 +72,24 @@ def verdict(row: dict, qt_peers: tuple[str, ...] = ("quick", "widgets")) -> str:
 
 
 def table(comparison: dict) -> list[str]:
-    heads = ["", "unit", "ours", *(PROGRAMS[name].title for name in PEERS), "ratio", "limit", ""]
+    heads = ["", "unit", *(program.title for program in PROGRAMS.values()), "ratio", "limit", ""]
     lines = [f"| {' | '.join(heads)} |", f"|{'---|' * len(heads)}"]
     for row in comparison["rows"]:
         limit = "" if row["limit"] is None else f"{row['limit']:.2f}"
-        cells = [row["title"], row["unit"], cell(row, row["ours"]), *(cell(row, name) for name in PEERS),
-                 ratio_text(row["ratio"]), limit, verdict(row)]
+        cells = [row["title"], row["unit"], *(cell(row, name) for name in PROGRAMS), ratio_text(row["ratio"]), limit, verdict(row)]
         lines.append(f"| {' | '.join(cells)} |")
     return lines
 
 
 def quick_ways(comparison: dict) -> list[str]:
     """Which of Qt Quick's two ways to its first frame counts."""
-    ways = {"window": "in a window", "first": "into memory"}
-    counted = [f"{row['title']}: {ways[figure['mode']]}" for row in comparison["rows"]
-               if (figure := row["figures"].get("quick")) and figure["mode"] in ways]
-    return [f"Of Qt Quick's ways to its first frame the better one counts ({'; '.join(counted)}).", ""] if counted else []
+    titles: dict[str, list[str]] = {"window": [], "first": []}
+    for row in comparison["rows"]:
+        if (figure := row["figures"].get("quick")) and figure["mode"] in titles:
+            titles[figure["mode"]].append(f"“{row['title']}”")
+    names = {"window": "in a window", "first": "into memory"}
+    counted = [f"{names[mode]} for {', '.join(found)}" for mode, found in titles.items() if found]
+    return [f"Of Qt Quick's two ways to its first frame the better one counts: {'; '.join(counted)}.", ""] if counted else []
 
 
 def as_markdown(comparison: dict) -> str:
@@ -99,8 +98,8 @@ def as_markdown(comparison: dict) -> str:
              f"{machine['processor']}, {machine['cores']} cores, {machine['distribution']}, kernel {machine['kernel']}; "
              + ", ".join(f"{name} {version}" for name, version in versions.items())
              + f". {comparison['rounds']} rounds, {comparison['idle_seconds']:g} s of idling each.", "",
-             "Medians, with the range over the rounds beside them; less is better. The ratio is ours by the better Qt peer's, which is "
-             "set in bold, round by round.", "",
+             "Medians, with the range over the rounds beside them; less is better. The ratio is ours by the better Qt peer's, round by "
+             "round; the two are set in bold.", "",
              *table(comparison), "", *quick_ways(comparison)]
     if comparison["missing"]:
         lines += [f"Missing, and so not compared: {', '.join(PROGRAMS[name].title for name in comparison['missing'])}.", ""]
