@@ -97,7 +97,7 @@ def as_markdown(comparison: dict) -> str:
     lines = ["# The module beside what a host would build instead", "",
              f"{machine['processor']}, {machine['cores']} cores, {machine['distribution']}, kernel {machine['kernel']}; "
              + ", ".join(f"{name} {version}" for name, version in versions.items())
-             + f". {comparison['rounds']} rounds, {comparison['idle_seconds']:g} s of idling each.", "",
+             + f". Rounds: {comparison['rounds']}; an idle screen is watched for {comparison['idle_seconds']:g} s.", "",
              "Medians, with the range over the rounds beside them; less is better. The ratio is ours by the better Qt peer's, round by "
              "round; the two are set in bold.", "",
              *table(comparison), "", *quick_ways(comparison)]
