@@ -57,6 +57,8 @@ def install_module(folders: Folders) -> None:
 
 
 def build_programs(folders: Folders) -> None:
+    # A program that cannot be built any more must not be taken for one that is there.
+    shutil.rmtree(folders.programs / "bin", ignore_errors=True)
     run("cmake", "-S", folders.sources, "-B", folders.programs, "-G", "Ninja", f"-DCMAKE_PREFIX_PATH={folders.package}")
     run("cmake", "--build", folders.programs)
     make_assets = folders.programs / "bin" / "MakeAssets"

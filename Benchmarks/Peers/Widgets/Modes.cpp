@@ -14,12 +14,11 @@ namespace {
 
 Assets assetsOf(const Command& command) { return Assets(QString::fromStdString(command.assets)); }
 
-// Lays out and paints what is due. The window's surface is in memory, so the frame is there afterwards.
+// Lays out and paints what is due; the window's surface is in memory, so the frame is there afterwards. One round is enough: events
+// that are posted by others are sent in the same call.
 void paintFrame() {
-    for (int round = 0; round < 3; ++round) {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    }
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
 }
 
 void show(QWidget& widget) {
