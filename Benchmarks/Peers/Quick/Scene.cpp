@@ -18,7 +18,7 @@ std::unique_ptr<QQuickItem> create(QQmlComponent& component, const QVariantMap& 
 Scene::Scene(const Command& command)
     : m_assets(QUrl::fromLocalFile(QDir(QString::fromStdString(command.assets)).absolutePath()).toString() + "/") {}
 
-QUrl Scene::url(const char* file) { return QUrl(QString("qrc:/Peer/") + file); }
+QUrl Scene::url(const char* file) { return QUrl(QString("qrc:/Peer/Screens/") + file); }
 
 std::unique_ptr<QQmlComponent> Scene::component(const char* file) { return std::make_unique<QQmlComponent>(&m_engine, url(file)); }
 
