@@ -2,12 +2,14 @@
 """What Benchmarks/Peers makes of the readings of its programs."""
 import pathlib
 import sys
+import tempfile
 import unittest
+import unittest.mock
 
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "Benchmarks" / "Peers"))
 
-from Comparison import figures, machine, plot, report, rows, running  # noqa: E402
+from Comparison import building, figures, machine, plot, report, rows, running  # noqa: E402
 
 TAP = rows.Row("tap", "Tap", "CPU ms", "window", "tap", "tap_cpu_ms.p50", limit=0.5)
 FIRST = rows.Row("first", "First frame", "ms", "window", "first", "first_ms", limit=0.8, quick_modes=("window",))
@@ -136,6 +138,25 @@ class RunningInTurn(unittest.TestCase):
     def test_a_program_learns_when_it_was_started(self):
         answer = running.run_program(["sh", "-c", 'echo "{\\"start\\": $PEER_T0}"'], pathlib.Path("."))
         self.assertGreater(answer["start"], 0)
+
+
+class WhoIsThere(unittest.TestCase):
+    def commands(self, built: list[str], installed: set[str]) -> dict[str, list[str]]:
+        with tempfile.TemporaryDirectory() as root:
+            folders = building.Folders(pathlib.Path(root))
+            for name in built:
+                program = folders.programs / "bin" / name
+                program.parent.mkdir(parents=True, exist_ok=True)
+                program.touch(mode=0o755)
+            with unittest.mock.patch("shutil.which", lambda name: name if name in installed else None):
+                return building.commands(folders)
+
+    def test_what_was_not_built_is_missing(self):
+        self.assertEqual(list(self.commands(["OursInMemory", "WidgetsPeer"], set())), ["memory", "widgets"])
+
+    def test_the_browser_needs_both_of_its_programs(self):
+        self.assertEqual(list(self.commands([], {"node"})), [])
+        self.assertEqual(list(self.commands([], {"node", "chromium-headless-shell"})), ["browser"])
 
 
 class TheRows(unittest.TestCase):

@@ -1,3 +1,5 @@
+#include <QCoreApplication>
+
 #include "Common/Measure.hpp"
 #include "Common/QtEvents.hpp"
 #include "Common/ScrollPath.hpp"
@@ -71,6 +73,7 @@ void warm(const Command& command, Report& report) {
         screen.paintFrame();
         again.add(opening.wall_ms());
         last.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         screen.paintFrame();
     }
     report.add("again", again);
