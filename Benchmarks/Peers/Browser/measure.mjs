@@ -29,8 +29,8 @@ async function first() {
     return report;
 }
 
-async function idle(carousel) {
-    const browser = new Browser(addressOf('paywall.html', { carousel }));
+async function idle() {
+    const browser = new Browser(addressOf('paywall.html', { carousel: 'running' }));
     await browser.firstPage();
     await sleep(6000);
     const processes = processTree(browser.pid);
@@ -134,7 +134,7 @@ async function store() {
     return report;
 }
 
-const modes = { first, warm, tap, store, idle: () => idle('running'), still: () => idle('still') };
+const modes = { first, warm, tap, store, idle };
 if (!modes[mode] || !assets) {
     console.error(`usage: node measure.mjs ${Object.keys(modes).join('|')} ASSETS [PNG|SECONDS]`);
     process.exit(2);

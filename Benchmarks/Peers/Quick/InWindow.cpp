@@ -47,10 +47,4 @@ void idle(const Command& command, Report& report) {
     measureIdle(command, report);
 }
 
-void still(const Command& command, Report& report) {
-    Window window(command, Carousel::still);
-    window.view.show();
-    measureIdle(command, report);
-}
-
 } // namespace peers::quick

@@ -14,6 +14,5 @@ void store(const Command& command, Report& report);
 // In an ordinary window, which paints when it finds that due.
 void window(const Command& command, Report& report);
 void idle(const Command& command, Report& report);
-void still(const Command& command, Report& report);
 
 } // namespace peers::quick

@@ -12,7 +12,5 @@ int main(int argc, char** argv) {
     const peers::Command command = peers::Command::parse(argc, argv);
     QGuiApplication application(argc, argv);
     using namespace peers::quick;
-    peers::runMode(
-        command,
-        {{"first", first}, {"warm", warm}, {"tap", tap}, {"store", store}, {"window", window}, {"idle", idle}, {"still", still}});
+    peers::runMode(command, {{"first", first}, {"warm", warm}, {"tap", tap}, {"store", store}, {"window", window}, {"idle", idle}});
 }

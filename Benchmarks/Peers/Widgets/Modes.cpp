@@ -149,10 +149,4 @@ void idle(const Command& command, Report& report) {
     measureIdle(command, report);
 }
 
-void still(const Command& command, Report& report) {
-    Paywall paywall(assetsOf(command), Carousel::Motion::still);
-    paywall.show();
-    measureIdle(command, report);
-}
-
 } // namespace peers::widgets

@@ -10,6 +10,5 @@ void warm(const Command& command, Report& report);
 void tap(const Command& command, Report& report);
 void store(const Command& command, Report& report);
 void idle(const Command& command, Report& report);
-void still(const Command& command, Report& report);
 
 } // namespace peers::widgets

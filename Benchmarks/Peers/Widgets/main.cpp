@@ -12,5 +12,5 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setStyle("fusion");
     using namespace peers::widgets;
-    peers::runMode(command, {{"first", first}, {"warm", warm}, {"tap", tap}, {"store", store}, {"idle", idle}, {"still", still}});
+    peers::runMode(command, {{"first", first}, {"warm", warm}, {"tap", tap}, {"store", store}, {"idle", idle}});
 }
