@@ -17,6 +17,12 @@ std::string localizedUnlessEmpty(const std::string& key) { return key.empty() ? 
 
 LazyStorePageShelf::LazyStorePageShelf(Facts facts) : m_facts(std::move(facts)) {}
 
+std::vector<uikit::UIImage> LazyStorePageShelf::images() const {
+    std::vector<uikit::UIImage> images;
+    for (const ImageResource& resource : m_facts.images) images.push_back(image(resource));
+    return images;
+}
+
 std::string LazyStorePageShelf::footerTitle() const { return localizedUnlessEmpty(m_facts.title); }
 
 std::string LazyStorePageShelf::footerSubTitle() const { return localizedUnlessEmpty(m_facts.subtitle); }

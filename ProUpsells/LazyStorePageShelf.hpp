@@ -17,11 +17,13 @@ public:
         // The English texts, which are the keys of their translations; empty for none.
         std::string title = {};
         std::string subtitle = {};
+        std::vector<ImageResource> images = {};
     };
 
     std::string_view className() const override { return m_facts.className; }
     double preferredShelfHeight() const override { return m_facts.height; }
     geometry::PhysicalInsets preferredSectionInset() const override { return {.bottom = m_facts.bottomInset}; }
+    std::vector<uikit::UIImage> images() const override;
     std::string footerTitle() const override;
     std::string footerSubTitle() const override;
 

@@ -7,7 +7,8 @@ PDFsShelf::PDFsShelf()
                           .height = 336,
                           .bottomInset = 50,
                           .title = "Print with PDF export",
-                          .subtitle = "Export PDFs for high-quality printing of posters, cards, stationery and more."}) {}
+                          .subtitle = "Export PDFs for high-quality printing of posters, cards, stationery and more.",
+                          .images = {ImageResource::pdfs0StorePageShelfImage()}}) {}
 
 LazyStorePageShelf::Controller PDFsShelf::makeViewController() const {
     return withTexts(imageStrip(ImageResource::pdfs0StorePageShelfImage()));

@@ -7,7 +7,8 @@ PremiumFontsShelf::PremiumFontsShelf()
                           .height = 331,
                           .bottomInset = 75,
                           .title = "Create with premium fonts and graphics",
-                          .subtitle = "Unlimited access to 60k+ exclusive graphics and 500+ curated fonts."}) {}
+                          .subtitle = "Unlimited access to 60k+ exclusive graphics and 500+ curated fonts.",
+                          .images = {ImageResource::fonts0StorePageShelfImage(), ImageResource::graphics0StorePageShelfImage()}}) {}
 
 LazyStorePageShelf::Controller PremiumFontsShelf::makeViewController() const {
     return withTexts(twoRows(repeatingStrip(ImageResource::fonts0StorePageShelfImage(), ScrollDirection::left, 0),

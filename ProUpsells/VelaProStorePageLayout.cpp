@@ -127,6 +127,11 @@ VelaProStorePageViewController::collectionViewCellForItemAt(uikit::UICollectionV
     return cell;
 }
 
+std::vector<uikit::UIImage> VelaProStorePageViewController::collectionViewImagesForItemAt(uikit::UICollectionView&,
+                                                                                          uikit::IndexPath indexPath) {
+    return m_shelves[indexPath.section]->images();
+}
+
 std::shared_ptr<uikit::UICollectionReusableView> VelaProStorePageViewController::collectionViewViewForSupplementaryElementOfKind(
     uikit::UICollectionView& collectionView, uikit::UICollectionElementKind kind, uikit::IndexPath indexPath) {
     const auto footer = collectionView.dequeueReusableSupplementaryView<FooterView>(kind, indexPath);

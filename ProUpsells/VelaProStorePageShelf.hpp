@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 
@@ -18,6 +19,8 @@ public:
     virtual std::string_view className() const = 0;
     // What the shelf's cell shows; null as long as there is nothing to show.
     virtual std::shared_ptr<uikit::UIViewController> viewController() = 0;
+    // What its cell shows at their natural size, so that they can be made ready before; none by default.
+    virtual std::vector<uikit::UIImage> images() const { return {}; }
     // Of the cell, in points; the greatest finite number means as high as the page.
     virtual double preferredShelfHeight() const = 0;
     virtual geometry::PhysicalInsets preferredSectionInset() const = 0;

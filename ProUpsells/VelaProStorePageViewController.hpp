@@ -94,6 +94,8 @@ public:
     std::size_t collectionViewNumberOfItemsInSection(uikit::UICollectionView& collectionView, std::size_t section) override;
     std::shared_ptr<uikit::UICollectionViewCell> collectionViewCellForItemAt(uikit::UICollectionView& collectionView,
                                                                              uikit::IndexPath indexPath) override;
+    std::vector<uikit::UIImage> collectionViewImagesForItemAt(uikit::UICollectionView& collectionView,
+                                                              uikit::IndexPath indexPath) override;
     std::shared_ptr<uikit::UICollectionReusableView>
     collectionViewViewForSupplementaryElementOfKind(uikit::UICollectionView& collectionView, uikit::UICollectionElementKind kind,
                                                     uikit::IndexPath indexPath) override;

@@ -9,7 +9,8 @@ VideoImageLibrariesShelf::VideoImageLibrariesShelf()
                           .height = 395,
                           .bottomInset = 25,
                           .title = "Get inspired with videos and images",
-                          .subtitle = "Exclusive access to Marwick Folio stock videos and libraries with millions of images."}) {}
+                          .subtitle = "Exclusive access to Marwick Folio stock videos and libraries with millions of images.",
+                          .images = {ImageResource::videoSectionImagesStorePageShelfImage()}}) {}
 
 void VideoImageLibrariesShelf::createVideosShelf(const std::vector<std::shared_ptr<velauikit::VideoView>>& videoViews) {
     const auto images = repeatingStrip(ImageResource::videoSectionImagesStorePageShelfImage(), ScrollDirection::right, 0);

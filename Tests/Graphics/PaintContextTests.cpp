@@ -161,5 +161,20 @@ TEST_F(PaintContextTest, FoldsAMoveIntoTheFrame) {
     EXPECT_EQ(only().frame, box.offsetBy({5, 5}));
 }
 
+TEST_F(PaintContextTest, LooksAheadAtImagesOnly) {
+    context.lookAhead([&] {
+        context.fillRectangle({}, box, red);
+        context.image({}, box, someImage());
+        context.image(PaintState{}.clippedTo({{100, 100}, {10, 10}}), box, someImage());
+    });
+    context.fillRectangle({}, box, red);
+
+    EXPECT_EQ(only().kind, CommandKind::fillRectangle);
+    ASSERT_EQ(list.ahead.size(), 1u);
+    EXPECT_EQ(list.ahead.front().frame, box);
+    list.clear();
+    EXPECT_TRUE(list.ahead.empty());
+}
+
 } // namespace
 } // namespace proupsells::graphics

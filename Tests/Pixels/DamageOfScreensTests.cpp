@@ -6,6 +6,7 @@
 #include "Backends/Icu/IcuLocaleServices.hpp"
 #include "Backends/Raster/RasterImageDecoder.hpp"
 #include "Backends/Raster/RasterTextShaper.hpp"
+#include "Platform/Accessibility/Search.hpp"
 #include "Platform/Host/Services.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
@@ -50,6 +51,14 @@ public:
     }
 
     void waitUntil(double time_s) { m_loop.runUntil(time_s); }
+    // By the page control's right half.
+    void chooseNextPage() {
+        const accessibility::SemanticNode screen = m_window->semanticTree();
+        const geometry::Rect control = accessibility::findByIdentifier(screen, "carousel.pageControl")->frame;
+        const geometry::Point at{control.maxX() - 2, control.midY()};
+        touch(host::TouchPhase::began, at);
+        touch(host::TouchPhase::ended, at);
+    }
 
     static constexpr geometry::Size size{375, 800};
 
@@ -150,6 +159,27 @@ TEST(DamageOfThePaywall, OfASlidingPageIsTheHeader) {
 
     EXPECT_FALSE(damage.empty());
     for (const geometry::Rect& rect : damage) EXPECT_LE(rect.maxY(), headerBottom);
+}
+
+// A second after somebody has chosen another page, its title comes by itself.
+TEST(DamageOfThePaywall, OfATitleThatFadesIsTheTitle) {
+    RestlessPerson person(Start::paywall, 1);
+    person.waitUntil(1);
+    person.paint();
+    person.chooseNextPage();
+    person.waitUntil(2.05);
+    rasterbackend::RasterSurface surface;
+    surface.present(person.paint(), RestlessPerson::size, 1);
+
+    const rasterbackend::PixelRect lowerLeftOfTheHeader{0, 150, 300, 254};
+    bool hasFaded = false;
+    for (double now_s = 2.1; now_s < 2.3; now_s += 1.0 / 60) {
+        person.waitUntil(now_s);
+        surface.present(person.paint(), RestlessPerson::size, 1);
+        hasFaded |= !surface.lastDamage().empty();
+        for (const rasterbackend::PixelRect& rect : surface.lastDamage()) EXPECT_TRUE(lowerLeftOfTheHeader.contains(rect));
+    }
+    EXPECT_TRUE(hasFaded);
 }
 
 TEST(DamageOfThePaywall, IsNothingWhileNothingMoves) { EXPECT_TRUE(damageOverTime(1, 4.9).empty()); }

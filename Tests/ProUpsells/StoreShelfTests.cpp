@@ -1,4 +1,6 @@
 // The shelves: what they say, how large they are, and when their controllers come to be.
+#include <set>
+
 #include <limits>
 #include <type_traits>
 
@@ -160,6 +162,33 @@ TEST_F(StoreShelf, LetsItsTwoRowsDriftApart) {
         EXPECT_EQ(rows->contentSpacing(), 16);
         EXPECT_EQ(stack->contentSpacing(), 16);
     }
+}
+
+// What is ahead is shown later, and what is shown was ahead before.
+TEST_F(StoreTest, LooksAheadAtTheImagesOfTheNextShelf) {
+    const auto page = showPage();
+    std::set<std::string> shown, ahead;
+    const auto look = [&] {
+        graphics::DisplayList list;
+        window->paint(list);
+        const auto nameOf = [&](const graphics::Command& command) { return list.images[std::size_t(command.resource)]->name; };
+        for (const graphics::Command& command : list.commands)
+            if (command.kind == graphics::CommandKind::image) shown.insert(nameOf(command));
+        for (const graphics::Command& command : list.ahead) ahead.insert(nameOf(command));
+    };
+    look();
+
+    for (double y = 50; y < 3000; y += 50) {
+        const std::set<std::string> aheadBefore = ahead, shownBefore = shown;
+        scrollTo(*page, y);
+        bed.runFor(1); // what drifts in from the right has come
+        look();
+        for (const std::string& name : shown)
+            if (!shownBefore.contains(name)) EXPECT_TRUE(aheadBefore.contains(name)) << name;
+    }
+
+    EXPECT_GE(ahead.size(), 5u);
+    for (const std::string& name : ahead) EXPECT_TRUE(shown.contains(name)) << name;
 }
 
 } // namespace proupsells::tests

@@ -47,6 +47,19 @@ std::vector<Pixel> someGround(std::size_t count) {
     return row;
 }
 
+RC_GTEST_PROP(Blending, PaintsPixelsOverAColorAsOverItsPixels, ()) {
+    const auto count = std::size_t(*rc::gen::inRange(0, 100));
+    const auto opacity = std::uint8_t(*rc::gen::element(255, 254, 128, 1, 0));
+    const std::vector<Pixel> top = someRow(count);
+    const Pixel ground = somePixel(255);
+
+    std::vector<Pixel> result(count, 0x12345678), expected(count, ground);
+    blendPixels(result.data(), count, top.data(), opacity, ground);
+    blendPixels(expected.data(), count, top.data(), opacity);
+
+    RC_ASSERT(result == expected);
+}
+
 RC_GTEST_PROP(Blending, PaintsEveryPixelOverTheOneBelow, ()) {
     const auto count = std::size_t(*rc::gen::inRange(0, 100));
     const int opacity = *rc::gen::element(255, 254, 128, 1, 0);

@@ -2,10 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <random>
 
 #include "Backends/Raster/PictureFile.hpp"
 #include "Backends/Raster/PngFile.hpp"
 #include "Tests/Raster/Canvas.hpp"
+#include "Tests/Raster/Pictures.hpp"
 #include "Tests/Raster/PngFiles.hpp"
 #include "Tests/Support/LogRecorder.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
@@ -120,6 +122,32 @@ TEST_F(ImagePainting, FadesClipsAndTurnsPictures) {
     EXPECT_EQ(canvas.pixel(25, 5), 0xFFFFFFu);
     EXPECT_EQ(canvas.pixel(20, 30), 0xFF0000u);
     EXPECT_EQ(canvas.pixel(13, 30), 0xFFFFFFu);
+}
+
+TEST_F(ImagePainting, ComesOutInPartsAsInTheWhole) {
+    const graphics::ImageRef opaque = image(redSquare()), half = image(halfRed());
+    std::mt19937 random(20261122);
+    const auto number = [&](int limit) { return double(random() % unsigned(limit)); };
+    for (int round = 0; round < 40; ++round) {
+        SCOPED_TRACE(round);
+        Canvas canvas({60, 300});
+        if (round % 2) canvas.context.fillRectangle({}, {{0, 0}, {60, 300}}, blue);
+        for (int picture = 0; picture < 4; ++picture) {
+            PaintState state;
+            if (picture == 2) state = state.fadedBy(0.4);
+            if (picture == 3) state = state.clippedTo({{number(30), number(200)}, {30, 90}}, number(20));
+            canvas.context.image(state, {{number(50) - 10, number(280) - 10}, {1 + number(60), 1 + number(200)}},
+                                 random() % 2 ? opaque : half);
+        }
+
+        const rasterbackend::Picture whole = canvas.image();
+        rasterbackend::Picture parts = filled(60, 300, 0);
+        std::vector<rasterbackend::PixelRect> rects;
+        for (int top = 0; top < 300; top += 7) rects.push_back({0, top, 60, std::min(300, top + 7)});
+        rasterbackend::RasterPainter().paint({parts.row(0), 60, {60, 300}}, canvas.list, 1, rects);
+
+        EXPECT_TRUE(isSame(parts, whole));
+    }
 }
 
 TEST_F(ImagePainting, ReportsAPictureThatCannotBeReadOnceAndPaintsNothing) {

@@ -9,6 +9,18 @@ using namespace proupsells::tests;
 
 namespace {
 
+struct ImagePager {
+    const std::vector<graphics::ImageRef>* images;
+    std::optional<Binding<int>>* selection;
+
+    View body(BuildContext& context) const {
+        selection->emplace(context.state(0));
+        return TabView{.selection = **selection, .content = {ForEach(int(images->size()), [images = images](int page) {
+                                                     return Image{(*images)[std::size_t(page)]};
+                                                 })}};
+    }
+};
+
 TEST(TabView, ShowsTheSelectedPageOnly) {
     Pages pages;
 
@@ -200,6 +212,39 @@ TEST(TabView, TellsPagesThatTheyComeOnScreen) {
 
     EXPECT_THAT(events, testing::IsSupersetOf({"+0", "+1", "-0"}));
     EXPECT_THAT(events, testing::Not(testing::Contains("+2")));
+}
+
+TEST(TabView, LooksAheadAtTheNextPageWhileNothingMoves) {
+    std::vector<graphics::ImageRef> images;
+    for (int page = 0; page < 3; ++page) {
+        auto image = std::make_shared<graphics::Image>();
+        image->size = {10, 10};
+        images.push_back(image);
+    }
+    std::optional<Binding<int>> selection;
+    TouchScreen screen{[&] { return ImagePager{&images, &selection}; }};
+    const auto pagesAhead = [&] {
+        graphics::DisplayList list;
+        graphics::PaintContext context{list};
+        screen.host().paint(context, {});
+        std::vector<int> pages;
+        for (const graphics::Command& command : list.ahead) {
+            EXPECT_EQ(command.frame, (geometry::Rect{{145, 195}, {10, 10}})); // where it will be seen
+            const auto& image = list.images[std::size_t(command.resource)];
+            pages.push_back(int(std::find(images.begin(), images.end(), image) - images.begin()));
+        }
+        return pages;
+    };
+
+    EXPECT_THAT(pagesAhead(), testing::ElementsAre(1));
+    withAnimation(slow, [&] { selection->set(1); });
+    screen.wait(1);
+    EXPECT_THAT(pagesAhead(), testing::IsEmpty());
+    screen.wait(2);
+    EXPECT_THAT(pagesAhead(), testing::ElementsAre(2));
+    selection->set(2);
+    screen.settle();
+    EXPECT_THAT(pagesAhead(), testing::ElementsAre(0));
 }
 
 } // namespace

@@ -79,6 +79,7 @@ void UICollectionView::layoutSubviews() {
 
 void UICollectionView::tile() {
     if (std::exchange(m_needsReload, false)) {
+        m_itemAhead.reset();
         m_needsPreparation = true;
         endDisplayOfAllBut({});
     }
@@ -89,6 +90,30 @@ void UICollectionView::tile() {
         if (m_needsReload || m_needsPreparation) return;
         display(attributes);
     }
+    findItemAhead();
+}
+
+void UICollectionView::findItemAhead() {
+    const geometry::Rect seen = bounds();
+    const std::vector<Attributes> below = m_layout->attributesIn(seen.offsetBy({0, seen.height()}));
+    const auto next = std::find_if(below.begin(), below.end(), [&](const Attributes& attributes) {
+        return attributes.category == Attributes::Category::cell && attributes.frame.minY() >= seen.maxY();
+    });
+    const std::optional<IndexPath> item = next != below.end() ? std::optional(next->indexPath) : std::nullopt;
+    if (item == m_itemAhead) return;
+    m_itemAhead = item;
+    const auto dataSource = m_dataSource.lock();
+    m_imagesAhead = item && dataSource ? dataSource->collectionViewImagesForItemAt(*this, *item) : std::vector<UIImage>();
+}
+
+void UICollectionView::draw(graphics::PaintContext& context, const graphics::PaintState& state) const {
+    if (m_imagesAhead.empty() || isTracking() || isDecelerating()) return;
+    graphics::PaintState anywhere;
+    anywhere.scheme = state.scheme;
+    context.lookAhead([&] {
+        for (const UIImage& image : m_imagesAhead)
+            if (image) context.image(anywhere, {{}, image->size}, image, UIColor::black.resolved(state.scheme));
+    });
 }
 
 void UICollectionView::endDisplayOfAllBut(const std::vector<Attributes>& kept) {

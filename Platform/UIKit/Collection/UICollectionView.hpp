@@ -46,6 +46,8 @@ protected:
     void contentOffsetDidChange() override;
     void frameDidChange(const geometry::Rect& previous) override;
     bool followsMovement() const override { return true; }
+    // While nobody scrolls, the item that comes next is looked at.
+    void draw(graphics::PaintContext& context, const graphics::PaintState& state) const override;
 
 private:
     struct Shown {
@@ -56,6 +58,7 @@ private:
     void prepareLayoutIfNeeded();
     // Shows what is in the bounds and nothing else.
     void tile();
+    void findItemAhead();
     void endDisplayOfAllBut(const std::vector<UICollectionViewLayoutAttributes>& kept);
     void display(const UICollectionViewLayoutAttributes& attributes);
     std::shared_ptr<UICollectionReusableView> makeView(const UICollectionViewLayoutAttributes& attributes);
@@ -66,7 +69,9 @@ private:
     std::weak_ptr<UICollectionViewDataSource> m_dataSource;
     std::weak_ptr<UICollectionViewDelegateFlowLayout> m_flowDelegate;
     UICollectionViewReusePool m_pool;
-    std::vector<Shown> m_shown; // from the top down
+    std::vector<Shown> m_shown;           // from the top down
+    std::optional<IndexPath> m_itemAhead; // the first one below those in sight
+    std::vector<UIImage> m_imagesAhead;   // that it shows
     bool m_needsPreparation = true;
     bool m_needsReload = true;
     bool m_isTiling = false;

@@ -3,8 +3,10 @@
 
 #include <cstddef>
 #include <memory>
+#include <vector>
 
 #include "Platform/UIKit/Collection/IndexPath.hpp"
+#include "Platform/UIKit/Views/UIKitTypes.hpp"
 
 namespace proupsells::uikit {
 
@@ -23,6 +25,9 @@ public:
     // A cell from dequeueReusableCell, filled. Null stops the program.
     virtual std::shared_ptr<UICollectionViewCell> collectionViewCellForItemAt(UICollectionView& collectionView,
                                                                               IndexPath indexPath) = 0;
+    // Images that an item shows at their natural size. Asked for the item that follows those in sight, so that they are ready when
+    // it comes.
+    virtual std::vector<UIImage> collectionViewImagesForItemAt(UICollectionView&, IndexPath) { return {}; }
     // Asked where the delegate gives headers or footers a height; the index path's item is 0. Null stops the program.
     virtual std::shared_ptr<UICollectionReusableView>
     collectionViewViewForSupplementaryElementOfKind(UICollectionView&, UICollectionElementKind, IndexPath) {
