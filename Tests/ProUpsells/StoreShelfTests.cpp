@@ -181,7 +181,7 @@ TEST_F(StoreTest, LooksAheadAtTheImagesOfTheNextShelf) {
     for (double y = 50; y < 3000; y += 50) {
         const std::set<std::string> aheadBefore = ahead, shownBefore = shown;
         scrollTo(*page, y);
-        bed.runFor(1); // what drifts in from the right has come
+        bed.runFor(1); // what drifts in has come
         look();
         for (const std::string& name : shown)
             if (!shownBefore.contains(name)) EXPECT_TRUE(aheadBefore.contains(name)) << name;
