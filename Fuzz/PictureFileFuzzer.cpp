@@ -1,4 +1,4 @@
-// Any bytes as a picture file: it has a size and pixels or it has none, and the readers of sizes agree.
+// Any bytes as a picture file: it has a size and pixels or it has none, whole and by tiles, and the readers of sizes agree.
 #include <sys/mman.h>
 #include <unistd.h>
 
@@ -8,6 +8,7 @@
 #include <string>
 
 #include "Backends/Headless/ImageSizeReader.hpp"
+#include "Backends/Raster/FilePicture.hpp"
 #include "Backends/Raster/MappedFile.hpp"
 #include "Backends/Raster/PictureFile.hpp"
 #include "Platform/Graphics/PictureHeader.hpp"
@@ -37,6 +38,12 @@ private:
 
 void readAt(const std::string& file, int width, int height) {
     const rasterbackend::Picture picture = rasterbackend::readPicture(file, width, height);
+    if (const auto tiled = rasterbackend::FilePicture::open(file, {width, height})) {
+        rasterbackend::FilePicture::Reader reader(*tiled);
+        bool isWhole = true;
+        for (int tile = 0; tile < tiled->tiles().count(); ++tile) isWhole = !reader.tile(tile, false).isNull() && isWhole;
+        require(isWhole == !picture.isNull());
+    }
     require(picture.isNull() || (picture.width() == width && picture.height() == height));
 }
 

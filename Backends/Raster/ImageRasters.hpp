@@ -30,10 +30,9 @@ class ImageRasters {
 public:
     ImageRasters();
 
-    // What is asked for between two calls is seen at once; what is asked for again afterwards is seen again.
+    // A picture that is asked for again after a call is kept in memory.
     void endPainting() { ++m_painting; }
-    // A file that cannot be read is reported once and has null pixels. Only for one that `isTransformed` may be called. Good until
-    // the next call.
+    // A file that cannot be read is reported once and has null pixels. Good until the next call.
     const ImageRaster& image(const graphics::Image& image, graphics::ColorScheme scheme, PixelSize size, bool isTransformed);
     // Shares the bitmap's pixels where they need no scaling. Good until the next call, as long as the bitmap lives.
     const ImageRaster& bitmap(const std::shared_ptr<const graphics::Bitmap>& bitmap, PixelSize size);
@@ -49,7 +48,8 @@ public:
     // Says once that a file cannot be read.
     void report(const std::filesystem::path& file);
 
-    // Turned, or scaled by a passing animation: the picture that covers `frame`, as it is mapped to pixels, inside of `window`.
+    // Turned, or scaled by a passing animation, of a raster that `isTransformed`: the picture that covers `frame`, as it is mapped
+    // to pixels, inside of `window`.
     ImageRaster transformed(const ImageRaster& raster, const geometry::Rect& frame, const geometry::Transform& toPixels,
                             const PixelRect& window);
 
