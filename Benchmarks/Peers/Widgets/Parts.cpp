@@ -1,5 +1,7 @@
 #include "Widgets/Parts.hpp"
 
+#include "Common/Command.hpp"
+
 #include <QPainter>
 
 namespace peers::widgets {
@@ -27,6 +29,7 @@ QFont boldFont(int pixels) { return font(pixels, true); }
 
 QPixmap Assets::picture(const QString& name) const {
     QPixmap picture(m_folder + name);
+    if (picture.isNull()) fail("cannot read " + (m_folder + name).toStdString());
     picture.setDevicePixelRatio(2);
     return picture;
 }
