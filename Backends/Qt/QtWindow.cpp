@@ -93,7 +93,6 @@ void QtWindow::requestFrame() {
 void QtWindow::showFrame(bool isWhole) {
     if (!isExposed() || m_isShowing) return;
     m_isShowing = true;
-    m_restTimer.stop();
     runloop::MainRunLoop& loop = runloop::MainRunLoop::main();
     m_lastFrameStart_s = loop.now_s();
     // What a touch has changed is brought up to date before it is shown.
@@ -105,9 +104,11 @@ void QtWindow::showFrame(bool isWhole) {
         m_store.flush(isWhole ? QRegion(QRect(QPoint(0, 0), size())) : damagedRegion());
     }
     if (hasChanged) m_accessibility->update();
-    if (m_content->isAnimating())
-        scheduleNextFrame();
-    else
+    if (m_content->isAnimating()) scheduleNextFrame();
+    // Only views that are at rest look ahead, whatever else moves on the screen.
+    if (m_list.ahead.empty())
+        m_restTimer.stop();
+    else if (!m_restTimer.isActive())
         m_restTimer.start(restBeforePreparing);
     m_isShowing = false;
 }

@@ -73,7 +73,7 @@ private:
     QSize m_lentSize; // pixels
     graphics::DisplayList m_list;
     QTimer m_frameTimer;
-    QTimer m_restTimer;             // fires when nothing was shown for a while
+    QTimer m_restTimer;             // fires when views have looked ahead for a while
     double m_lastFrameStart_s = -1; // of the run loop's time
     int m_frameCount = 0;
     bool m_isShowing = false; // inside showFrame()

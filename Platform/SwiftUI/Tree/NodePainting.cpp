@@ -49,8 +49,10 @@ void Node::paintChildren(graphics::PaintContext& context, const PaintState& stat
     if (!m_childExtents || isMovingAt(now_s) || (m_leaving && !m_leaving->empty()))
         return forEachPainted([&](Node& child) { child.paint(context, state, now_s); });
     const auto [first, end] = childrenNear(state.visibleRect());
-    for (std::size_t slot = first; slot < end; ++slot)
-        if (m_children[slot]) m_children[slot]->paint(context, state, now_s);
+    for (std::size_t i = 0; i < end - first; ++i) {
+        const auto& child = m_children[m_paintsInReverse ? end - 1 - i : first + i];
+        if (child) child->paint(context, state, now_s);
+    }
 }
 
 void Node::applyEffects(PaintState&, double) const {}
