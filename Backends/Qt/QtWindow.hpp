@@ -2,22 +2,18 @@
 #pragma once
 
 #include <QBackingStore>
-#include <QTimer>
 #include <QWindow>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 
-#include "Platform/Host/WindowContent.hpp"
-
-namespace proupsells::rasterbackend {
-class RasterSurface;
-}
+#include "Backends/Raster/PixelView.hpp"
 
 namespace proupsells::qtbackend {
 
+class FramePacer;
 class QtAccessibility;
+class QtInput;
 
 struct WindowOptions {
     std::string title;
@@ -36,8 +32,7 @@ public:
     // Told when the person has closed the window; it must not be destroyed there.
     void setCloseHandler(std::function<void()> handler) { m_closeHandler = std::move(handler); }
 
-    // Where the window was painted anew by the last frame, in pixels. Empty when nothing differed.
-    const rasterbackend::RasterSurface& surface() const { return *m_surface; }
+    const rasterbackend::PixelView& view() const { return m_view; }
     // How many frames were shown so far.
     int frameCount() const { return m_frameCount; }
 
@@ -57,29 +52,18 @@ protected:
 
 private:
     geometry::Size sizeInPoints() const { return {double(width()), double(height())}; }
-    void requestFrame();
     void showFrame(bool isWhole);
     bool paint();
     QRegion damagedRegion() const;
-    void scheduleNextFrame();
-    void sendTouch(host::TouchPhase phase, QPointF position);
-    void cancelTouch();
 
-    std::shared_ptr<host::WindowContent> m_content;
+    rasterbackend::PixelView m_view;
     geometry::PhysicalInsets m_safeArea;
     std::function<void()> m_closeHandler;
     QBackingStore m_store;
-    std::unique_ptr<rasterbackend::RasterSurface> m_surface;
     QSize m_lentSize; // pixels
-    graphics::DisplayList m_list;
-    QTimer m_frameTimer;
-    QTimer m_restTimer;             // fires when views have looked ahead for a while
-    double m_lastFrameStart_s = -1; // of the run loop's time
     int m_frameCount = 0;
-    bool m_isShowing = false; // inside showFrame()
-    bool m_mouseIsDown = false;
-    std::optional<int> m_finger; // identifier of the touch point that is followed
-    QPointF m_lastPosition;
+    std::unique_ptr<FramePacer> m_pacer;
+    std::unique_ptr<QtInput> m_input;
     std::unique_ptr<QtAccessibility> m_accessibility;
 };
 

@@ -10,7 +10,6 @@
 
 #include "Backends/Qt/QtRunLoopDriver.hpp"
 #include "Backends/Qt/QtWindow.hpp"
-#include "Backends/Raster/RasterSurface.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
 #include "Tests/Qt/Events.hpp"
 #include "Tests/Raster/Canvas.hpp"
@@ -202,7 +201,7 @@ TEST_F(QtWindowTest, RepaintsWhatATouchHasChanged) {
     ASSERT_TRUE(handleEventsUntil([&] { return window.frameCount() > frames; }));
 
     const int scale = int(window.devicePixelRatio());
-    EXPECT_THAT(window.surface().lastDamage(),
+    EXPECT_THAT(window.view().lastDamage(),
                 testing::UnorderedElementsAre(PixelRect{10 * scale, 10 * scale, 20 * scale, 20 * scale},
                                               PixelRect{30 * scale, 10 * scale, 40 * scale, 20 * scale}));
 }

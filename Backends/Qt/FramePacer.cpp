@@ -1,0 +1,41 @@
+#include "Backends/Qt/FramePacer.hpp"
+
+#include <QScreen>
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+
+namespace proupsells::qtbackend {
+
+FramePacer::FramePacer(rasterbackend::PixelView& view, std::function<void()> paint) : m_view(view), m_paint(std::move(paint)) {
+    m_timer.setSingleShot(true);
+    m_timer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
+        // A copy, because painting may destroy the pacer.
+        const auto paint = m_paint;
+        paint();
+    });
+    m_view.setFrameHandler([this] { schedule(); });
+}
+
+FramePacer::~FramePacer() { m_view.setFrameHandler({}); }
+
+void FramePacer::setRunning(bool isRunning) {
+    m_isRunning = isRunning;
+    schedule();
+}
+
+void FramePacer::setScreen(const QScreen* screen) {
+    constexpr double slowest = 30, fastest = 240, usual = 60;
+    m_view.setRefreshRate(screen ? std::clamp(screen->refreshRate(), slowest, fastest) : usual);
+}
+
+void FramePacer::schedule() {
+    const std::optional<double> delay_s = m_isRunning ? m_view.nextFrameDelay_s() : std::nullopt;
+    if (!delay_s)
+        m_timer.stop();
+    else if (!m_timer.isActive())
+        m_timer.start(std::chrono::milliseconds(std::lround(*delay_s * 1000)));
+}
+
+} // namespace proupsells::qtbackend

@@ -1,0 +1,37 @@
+// When a view in pixels is painted, by Qt's event loop.
+#pragma once
+
+#include <QTimer>
+#include <functional>
+
+#include "Backends/Raster/PixelView.hpp"
+
+class QScreen;
+
+namespace proupsells::qtbackend {
+
+// Asks for a frame as soon as one is due, at most once a refresh of the display, and not at all while nobody can see it.
+class FramePacer {
+public:
+    // `view` must live longer. `paint` makes a frame; it may destroy the pacer.
+    FramePacer(rasterbackend::PixelView& view, std::function<void()> paint);
+    ~FramePacer();
+    FramePacer(const FramePacer&) = delete;
+    FramePacer& operator=(const FramePacer&) = delete;
+
+    // Whether frames can be seen; not at first.
+    void setRunning(bool isRunning);
+    bool isRunning() const { return m_isRunning; }
+    // The display that shows the frames; null where unknown.
+    void setScreen(const QScreen* screen);
+    // Arms the timer for the next frame: to be called when one was made in another way than by `paint`.
+    void schedule();
+
+private:
+    rasterbackend::PixelView& m_view;
+    std::function<void()> m_paint;
+    QTimer m_timer;
+    bool m_isRunning = false;
+};
+
+} // namespace proupsells::qtbackend

@@ -1,0 +1,158 @@
+#include "Backends/Raster/PixelView.hpp"
+
+#include <algorithm>
+#include <utility>
+
+#include "Backends/Raster/RasterSurface.hpp"
+#include "Platform/RunLoop/MainRunLoop.hpp"
+
+namespace proupsells::rasterbackend {
+
+namespace {
+
+// How long views have looked ahead before the pictures that come next are read.
+constexpr double restBeforePreparing_s = 1;
+
+} // namespace
+
+// What a call works on, so that the view may go away inside it.
+struct PixelView::State : std::enable_shared_from_this<State> {
+    bool paint(const PixelBuffer& buffer, double scale, bool holdsShown);
+    void prepareAheadWhenAtRest();
+    void frameIsWanted();
+
+    std::shared_ptr<host::WindowContent> content;
+    RasterSurface surface;
+    graphics::DisplayList list;
+    geometry::Size size; // points
+    double refreshRate = 60;
+    double lastFrame_s = -1; // of the run loop's time
+    bool hasChanged = true;  // since the last frame
+    bool isPainting = false;
+    bool isAbandoned = false; // the view is gone
+    std::function<void()> frameHandler;
+    std::shared_ptr<runloop::Timer> rest; // null while nobody looks ahead
+};
+
+PixelView::PixelView(std::shared_ptr<host::WindowContent> content) : m_state(std::make_shared<State>()) {
+    m_state->content = std::move(content);
+    m_state->content->setNeedsDisplayHandler([state = std::weak_ptr(m_state)] {
+        if (const auto held = state.lock()) held->frameIsWanted();
+    });
+}
+
+PixelView::~PixelView() {
+    m_state->isAbandoned = true;
+    m_state->content->setNeedsDisplayHandler({});
+    m_state->frameHandler = {};
+    if (m_state->rest) m_state->rest->invalidate();
+}
+
+const std::shared_ptr<host::WindowContent>& PixelView::content() const { return m_state->content; }
+
+// --- Place ---
+
+void PixelView::setSize(geometry::Size size, geometry::PhysicalInsets safeArea) {
+    const auto state = m_state;
+    state->size = size;
+    state->content->setSize(size, safeArea);
+    state->frameIsWanted();
+}
+
+void PixelView::setRefreshRate(double framesPerSecond) { m_state->refreshRate = std::max(1.0, framesPerSecond); }
+
+// --- Picture ---
+
+bool PixelView::paint(const PixelBuffer& buffer, double scale, bool holdsShown) {
+    const auto state = m_state;
+    // What a touch has changed is brought up to date before it is shown.
+    runloop::MainRunLoop::main().runDueTurns();
+    return state->paint(buffer, scale, holdsShown);
+}
+
+bool PixelView::repaint(const PixelBuffer& buffer, double scale, bool holdsShown) {
+    const auto state = m_state;
+    return state->paint(buffer, scale, holdsShown);
+}
+
+bool PixelView::State::paint(const PixelBuffer& buffer, double scale, bool holdsShown) {
+    if (isPainting || isAbandoned) return false;
+    isPainting = true;
+    lastFrame_s = runloop::MainRunLoop::main().now_s();
+    hasChanged = false;
+    content->paint(list);
+    isPainting = false;
+    if (isAbandoned) return false;
+    surface.lend(buffer, holdsShown);
+    surface.present(list, size, scale);
+    prepareAheadWhenAtRest();
+    return !surface.lastDamage().empty();
+}
+
+// Only views that are at rest look ahead, whatever else moves on the screen.
+void PixelView::State::prepareAheadWhenAtRest() {
+    if (list.ahead.empty()) {
+        if (rest) rest->invalidate();
+        rest.reset();
+    } else if (!rest || !rest->isValid()) {
+        rest = runloop::MainRunLoop::main().schedule(restBeforePreparing_s, [state = weak_from_this()] {
+            if (const auto held = state.lock()) held->surface.prepareAhead();
+        });
+    }
+}
+
+const std::vector<PixelRect>& PixelView::lastDamage() const { return m_state->surface.lastDamage(); }
+
+void PixelView::forgetShown() {
+    m_state->surface.forgetShown();
+    m_state->hasChanged = true;
+}
+
+// --- Time ---
+
+void PixelView::State::frameIsWanted() {
+    if (isPainting) return;
+    hasChanged = true;
+    // A copy, because the handler may replace itself.
+    if (const auto handler = frameHandler) handler();
+}
+
+void PixelView::setFrameHandler(std::function<void()> handler) { m_state->frameHandler = std::move(handler); }
+
+// At once where nothing was shown for a while, so that what the person does is seen without delay.
+std::optional<double> PixelView::nextFrameDelay_s() const {
+    if (!m_state->hasChanged && !m_state->content->isAnimating()) return std::nullopt;
+    if (m_state->lastFrame_s < 0) return 0;
+    const double interval_s = 1 / m_state->refreshRate;
+    const double elapsed_s = runloop::MainRunLoop::main().now_s() - m_state->lastFrame_s;
+    return std::clamp(interval_s - elapsed_s, 0.0, interval_s);
+}
+
+std::optional<double> PixelView::nextDueDelay_s() const {
+    const runloop::MainRunLoop& loop = runloop::MainRunLoop::main();
+    std::optional<double> delay_s = nextFrameDelay_s();
+    if (const auto due_s = loop.nextDueTime_s()) {
+        const double work_s = std::max(0.0, *due_s - loop.now_s());
+        delay_s = delay_s ? std::min(*delay_s, work_s) : work_s;
+    }
+    return delay_s;
+}
+
+// --- Input ---
+
+void PixelView::touch(host::TouchPhase phase, geometry::Point location) {
+    const auto content = m_state->content;
+    content->touch({phase, location, runloop::MainRunLoop::main().now_s()});
+}
+
+void PixelView::scroll(geometry::Point location, geometry::Point delta) {
+    const auto content = m_state->content;
+    content->scroll(location, delta);
+}
+
+bool PixelView::key(host::Key key) {
+    const auto content = m_state->content;
+    return content->key(key);
+}
+
+} // namespace proupsells::rasterbackend

@@ -1,0 +1,75 @@
+// A screen in memory of the host's: for game engines, SDL, and toolkits of every kind.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "Backends/Raster/PixelBuffer.hpp"
+#include "Backends/Raster/PixelRect.hpp"
+#include "Platform/Host/WindowContent.hpp"
+
+namespace proupsells::rasterbackend {
+
+// Paints a content, says when the next frame is due, and takes input. The host owns the memory, the window and the event loop:
+//
+//     view.setSize({375, 800});
+//     while (running) {
+//         waitForEvents(view.nextDueDelay_s());           // ends early when an event comes, which goes to touch(), scroll() or key()
+//         if (view.paint(buffer, 2)) show(view.lastDamage());
+//     }
+//
+// Needs a main run loop, which must live longer. Main thread only. The view may be destroyed from inside everything that it calls.
+class PixelView {
+public:
+    explicit PixelView(std::shared_ptr<host::WindowContent> content);
+    ~PixelView();
+    PixelView(const PixelView&) = delete;
+    PixelView& operator=(const PixelView&) = delete;
+
+    const std::shared_ptr<host::WindowContent>& content() const;
+
+    // --- Place ---
+
+    // In points.
+    void setSize(geometry::Size size, geometry::PhysicalInsets safeArea = {});
+    // How often the display can show another frame; 60 unless told, and at least once a second.
+    void setRefreshRate(double framesPerSecond);
+
+    // --- Picture ---
+
+    // Runs what is due, then paints what differs from the last frame, at `scale` pixels a point. Returns whether any pixel differs.
+    // Another buffer than the last one is painted whole, unless it `holdsShown`: what the last frame has left in the former one.
+    bool paint(const PixelBuffer& buffer, double scale, bool holdsShown = false);
+    // The same without running what is due: for a host that was asked for its picture, and can do nothing else meanwhile.
+    bool repaint(const PixelBuffer& buffer, double scale, bool holdsShown = false);
+    // What the last frame has painted, in pixels; rectangles that do not overlap.
+    const std::vector<PixelRect>& lastDamage() const;
+    // The next frame is painted whole: something else has written into the buffer.
+    void forgetShown();
+
+    // --- Time ---
+
+    // Seconds until a frame should be painted; 0 when it is due, absent when nothing has changed and nothing moves.
+    std::optional<double> nextFrameDelay_s() const;
+    // The same, counting also what the main run loop waits for. Absent: nothing will happen before the next input.
+    std::optional<double> nextDueDelay_s() const;
+    // Told, outside paint(), when a frame is wanted: at once, or at the display's next refresh.
+    void setFrameHandler(std::function<void()> handler);
+
+    // --- Input ---
+
+    // One finger, or the mouse while its button is down. Locations are in points.
+    void touch(host::TouchPhase phase, geometry::Point location);
+    // A wheel or trackpad; a positive y shows what is further down.
+    void scroll(geometry::Point location, geometry::Point delta);
+    // Returns whether the key meant something.
+    bool key(host::Key key);
+
+private:
+    struct State;
+    std::shared_ptr<State> m_state;
+};
+
+} // namespace proupsells::rasterbackend

@@ -1,0 +1,196 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "Backends/Headless/TestBed.hpp"
+#include "Backends/Raster/PixelView.hpp"
+#include "Platform/Graphics/PaintContext.hpp"
+#include "Tests/Raster/Canvas.hpp"
+
+using namespace proupsells;
+
+using geometry::Point;
+using host::TouchPhase;
+using rasterbackend::PixelBuffer;
+using rasterbackend::PixelRect;
+using rasterbackend::PixelView;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+// A red square on white, which input moves to the right.
+class Square : public host::WindowContent {
+public:
+    void setSize(geometry::Size newSize, geometry::PhysicalInsets) override { size = newSize; }
+    void touch(const host::Touch& touch) override {
+        touches.push_back(touch);
+        if (whenTouched) whenTouched();
+    }
+    void scroll(Point, Point delta) override { move(delta.x); }
+    bool key(host::Key key) override { return key == host::Key::activate; }
+    void paint(graphics::DisplayList& list) override {
+        list.clear();
+        graphics::PaintContext context(list);
+        context.fillRectangle({}, {{0, 0}, size}, tests::white);
+        context.fillRectangle({}, {{x, 0}, {1, 1}}, tests::red);
+        if (whenPainted) whenPainted();
+    }
+    bool isAnimating() const override { return animates; }
+    void setNeedsDisplayHandler(std::function<void()> newHandler) override { handler = std::move(newHandler); }
+    accessibility::SemanticNode semanticTree() override { return {}; }
+
+    void move(double distance) {
+        x += distance;
+        if (handler) handler();
+    }
+
+    geometry::Size size;
+    std::vector<host::Touch> touches;
+    double x = 0;
+    bool animates = false;
+    std::function<void()> handler, whenTouched, whenPainted;
+};
+
+class PixelViews : public testing::Test {
+protected:
+    PixelViews() { view->setSize({4, 2}); }
+
+    bool paint() { return view->paint(buffer, 2); }
+
+    headless::TestBed bed;
+    std::shared_ptr<Square> content = std::make_shared<Square>();
+    std::vector<std::uint32_t> memory = std::vector<std::uint32_t>(8 * 4);
+    PixelBuffer buffer{memory.data(), 8, 4, 8 * 4};
+    std::unique_ptr<PixelView> view = std::make_unique<PixelView>(content);
+};
+
+} // namespace
+
+TEST_F(PixelViews, PaintsIntoTheHostsMemory) {
+    EXPECT_TRUE(paint());
+
+    EXPECT_EQ(memory[0], 0xFFFF0000u);
+    EXPECT_EQ(memory[2], 0xFFFFFFFFu);
+    EXPECT_THAT(view->lastDamage(), ElementsAre(PixelRect{0, 0, 8, 4}));
+}
+
+TEST_F(PixelViews, PaintsOnlyWhatDiffers) {
+    paint();
+    content->move(2);
+
+    EXPECT_TRUE(paint());
+    EXPECT_THAT(view->lastDamage(), testing::UnorderedElementsAre(PixelRect{0, 0, 2, 2}, PixelRect{4, 0, 6, 2}));
+    EXPECT_FALSE(paint());
+    EXPECT_THAT(view->lastDamage(), IsEmpty());
+}
+
+TEST_F(PixelViews, PaintsAnotherBufferWholeUnlessItHoldsTheLastFrame) {
+    paint();
+    std::vector<std::uint32_t> other(8 * 4), copy = memory;
+
+    EXPECT_TRUE(view->paint({other.data(), 8, 4, 8 * 4}, 2));
+    EXPECT_EQ(other, memory);
+    EXPECT_FALSE(view->paint({copy.data(), 8, 4, 8 * 4}, 2, true));
+}
+
+TEST_F(PixelViews, PaintsWholeWhatWasWrittenOver) {
+    paint();
+    memory.assign(memory.size(), 0);
+    view->forgetShown();
+
+    EXPECT_EQ(view->nextFrameDelay_s(), 1.0 / 60);
+    paint();
+    EXPECT_EQ(memory[0], 0xFFFF0000u);
+}
+
+TEST_F(PixelViews, HasAFrameDueAtFirstAndNoneWhileNothingChanges) {
+    EXPECT_EQ(view->nextFrameDelay_s(), 0);
+    paint();
+
+    EXPECT_EQ(view->nextFrameDelay_s(), std::nullopt);
+    EXPECT_EQ(view->nextDueDelay_s(), std::nullopt);
+}
+
+TEST_F(PixelViews, ShowsAChangeAtOnceButNotBeforeTheNextRefresh) {
+    view->setRefreshRate(50);
+    paint();
+    content->move(1);
+    EXPECT_DOUBLE_EQ(view->nextFrameDelay_s().value(), 0.02);
+    bed.runFor(0.015);
+    EXPECT_NEAR(view->nextFrameDelay_s().value(), 0.005, 1e-9);
+    bed.runFor(1);
+
+    EXPECT_EQ(view->nextFrameDelay_s(), 0);
+}
+
+TEST_F(PixelViews, WantsAFrameAtEveryRefreshWhileTheContentMoves) {
+    content->animates = true;
+    paint();
+
+    EXPECT_DOUBLE_EQ(view->nextFrameDelay_s().value(), 1.0 / 60);
+}
+
+TEST_F(PixelViews, IsDueWhenTheRunLoopHasWork) {
+    paint();
+    bed.loop().schedule(0.25, [] {});
+
+    EXPECT_EQ(view->nextDueDelay_s(), 0.25);
+    EXPECT_EQ(view->nextFrameDelay_s(), std::nullopt);
+}
+
+TEST_F(PixelViews, RunsWhatIsDueBeforeItPaints) {
+    paint();
+    bed.loop().schedule(0, [this] { content->move(1); });
+    paint();
+
+    EXPECT_EQ(memory[2], 0xFFFF0000u);
+}
+
+TEST_F(PixelViews, TellsWhenAFrameIsWanted) {
+    int wishes = 0;
+    view->setFrameHandler([&] { ++wishes; });
+    content->move(1);
+    EXPECT_EQ(wishes, 1);
+
+    content->whenPainted = [this] { content->handler(); };
+    paint();
+    EXPECT_EQ(wishes, 1) << "what changes while the picture is made is part of it";
+}
+
+TEST_F(PixelViews, HandsOnInput) {
+    bed.runFor(3);
+    view->touch(TouchPhase::began, {1, 2});
+    view->scroll({0, 0}, {2, 0});
+
+    ASSERT_EQ(content->touches.size(), 1u);
+    EXPECT_EQ(content->touches[0].location, (Point{1, 2}));
+    EXPECT_EQ(content->touches[0].time_s, 3);
+    EXPECT_EQ(content->x, 2);
+    EXPECT_TRUE(view->key(host::Key::activate));
+    EXPECT_FALSE(view->key(host::Key::tab));
+}
+
+TEST_F(PixelViews, MayGoAwayInsideEverythingThatItCalls) {
+    content->whenTouched = [this] { view.reset(); };
+    view->touch(TouchPhase::began, {1, 2});
+    EXPECT_EQ(view, nullptr);
+    EXPECT_FALSE(content->handler);
+
+    view = std::make_unique<PixelView>(content);
+    content->whenPainted = [this] { view.reset(); };
+    paint();
+    EXPECT_EQ(view, nullptr);
+
+    view = std::make_unique<PixelView>(content);
+    bed.loop().schedule(0, [this] { view.reset(); });
+    paint();
+    EXPECT_EQ(view, nullptr);
+}
+
+TEST_F(PixelViews, PaintsNothingIntoNoMemory) {
+    view->setSize({});
+
+    EXPECT_FALSE(paint());
+}
