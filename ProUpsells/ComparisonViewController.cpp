@@ -25,6 +25,11 @@ void ComparisonViewController::languageDidChange() {
     makeCloseButton();
 }
 
+bool ComparisonViewController::accessibilityPerformEscape() {
+    dismissController();
+    return true;
+}
+
 void ComparisonViewController::makeCloseButton() {
     uikit::UIBarButtonItem closeButton = velauikit::barButtonItem(velauikit::BarButtonStyle::close, uikit::weakReference(*this),
                                                                   &ComparisonViewController::dismissController);

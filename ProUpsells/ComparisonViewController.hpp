@@ -18,6 +18,7 @@ public:
 
     void viewDidLoad() override;
     void languageDidChange() override;
+    bool accessibilityPerformEscape() override;
     // The bar-button's action.
     void dismissController();
 

@@ -4,6 +4,7 @@
 
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
+#include "Platform/UIKit/Controllers/UIWindow.hpp"
 #include "Platform/UIKit/Views/UIImageView.hpp"
 #include "Platform/UIKit/Views/UIStackView.hpp"
 #include "ProUpsells/UnsupportedInitializer.hpp"
@@ -135,10 +136,24 @@ void StorePageShelfViewController::viewDidDisappear(bool animated) {
 
 void StorePageShelfViewController::traitCollectionDidChange(const uikit::UITraitCollection& previous) {
     UIViewController::traitCollectionDidChange(previous);
-    if (traitCollection().reduceMotion)
+    followSight();
+}
+
+void StorePageShelfViewController::windowVisibilityDidChange() {
+    UIViewController::windowVisibilityDidChange();
+    followSight();
+}
+
+void StorePageShelfViewController::followSight() {
+    if (traitCollection().reduceMotion || isInHiddenWindow())
         stopAutoScrollTimer();
     else if (m_isShown)
         startAutoScrollTimer();
+}
+
+bool StorePageShelfViewController::isInHiddenWindow() const {
+    const uikit::UIView* const shown = viewIfLoaded();
+    return shown && shown->window() && !shown->window()->isSeen();
 }
 
 // A strip that cannot work its way back to its content shows the end of it.
@@ -150,7 +165,8 @@ void StorePageShelfViewController::viewDidLayoutSubviews() {
 }
 
 void StorePageShelfViewController::startAutoScrollTimer() {
-    if (m_scrollDirection == ScrollDirection::none || isAutoScrolling() || traitCollection().reduceMotion) return;
+    const bool mayDrift = m_scrollDirection != ScrollDirection::none && !traitCollection().reduceMotion && !isInHiddenWindow();
+    if (!mayDrift || isAutoScrolling()) return;
     m_autoScrollTimer = runloop::MainRunLoop::main().scheduleRepeating(tickInterval_s, [weakSelf = uikit::weakReference(*this)] {
         if (const auto self = weakSelf.lock()) self->autoScroll();
     });

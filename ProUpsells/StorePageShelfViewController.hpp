@@ -47,6 +47,7 @@ public:
     void viewDidDisappear(bool animated) override;
     void viewDidLayoutSubviews() override;
     void traitCollectionDidChange(const uikit::UITraitCollection& previous) override;
+    void windowVisibilityDidChange() override;
 
 protected:
     StorePageShelfViewController();
@@ -59,6 +60,8 @@ private:
     struct Maker;
 
     void stopAutoScrollTimer();
+    void followSight();
+    bool isInHiddenWindow() const;
 
     std::shared_ptr<uikit::UIScrollView> m_scrollView;
     std::shared_ptr<runloop::Timer> m_autoScrollTimer;

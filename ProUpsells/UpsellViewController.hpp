@@ -57,6 +57,7 @@ public:
     void viewDidLoad() override;
     void viewWillAppear(bool animated) override;
     void languageDidChange() override;
+    bool accessibilityPerformEscape() override;
 
 private:
     void start(const std::vector<SubscriptionOption>& subscriptionOptions);

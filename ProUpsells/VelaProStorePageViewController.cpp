@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "Platform/RunLoop/MainActor.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Platform/UIKit/Collection/UICollectionView.hpp"
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
@@ -24,6 +25,7 @@ namespace proupsells {
 
 std::shared_ptr<VelaProStorePageViewController> VelaProStorePageViewController::create(std::vector<SubscriptionOption> options,
                                                                                        Referrer referrer, Entitlement entitlement) {
+    runloop::MainActor::assertIsolated("VelaProStorePageViewController::create");
     Shelves shelves{std::make_shared<ProIntroHeaderViewShelf>(),
                     std::make_shared<BrandAssetsShelf>(),
                     std::make_shared<TemplatesShelf>(),
@@ -95,6 +97,11 @@ void VelaProStorePageViewController::dismissView() {
     const auto self = uikit::strongReference(*this);
     track(&ProUpsellEventTracker::trackUpsellDismissed);
     dismiss(true);
+}
+
+bool VelaProStorePageViewController::accessibilityPerformEscape() {
+    dismissView();
+    return true;
 }
 
 void VelaProStorePageViewController::handleChoosePlanButtonTapped() {

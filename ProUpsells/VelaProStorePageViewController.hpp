@@ -85,6 +85,7 @@ public:
     // Reads the page's own texts anew, in the language of the moment. Its shelves and its plan button have texts of their own.
     void applyTexts();
     void languageDidChange() override { applyTexts(); }
+    bool accessibilityPerformEscape() override;
 
     void viewDidLoad() override;
     void viewDidAppear(bool animated) override;

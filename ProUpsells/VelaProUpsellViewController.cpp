@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/RunLoop/MainActor.hpp"
 #include "Platform/VelaUIKit/Navigation.hpp"
 #include "ProUpsells/ComparisonViewController.hpp"
 #include "ProUpsells/PromotionalPricingUpsell.hpp"
@@ -19,6 +21,18 @@ namespace {
 
 constexpr geometry::Size formSheetSize{375, 800};
 
+// A host that hands over the only pointer is never told of anything.
+template <class Party>
+void reportIfNobodyHolds(const std::weak_ptr<Party>& party, std::string_view name) {
+    const std::weak_ptr<Party> none;
+    const bool wasSet = party.owner_before(none) || none.owner_before(party);
+    if (!wasSet || !party.expired()) return;
+    commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity,
+                                         "VelaProUpsellViewController - the " + std::string(name) +
+                                             " is gone already: it is held weakly, so the host must keep it",
+                                         "viewDidLoad()");
+}
+
 } // namespace
 
 const std::string& eventScreenTitle(VelaProUpsellViewController::Variant) {
@@ -31,6 +45,7 @@ const std::string& VelaProUpsellViewController::screenTitle() const { return eve
 std::shared_ptr<VelaProUpsellViewController> VelaProUpsellViewController::create(std::vector<SubscriptionOption> options,
                                                                                  Variant variant, Referrer referrer,
                                                                                  Entitlement entitlement, bool showLoginOnSuccess) {
+    runloop::MainActor::assertIsolated("VelaProUpsellViewController::create");
     return std::make_shared<VelaProUpsellViewController>(Creation{}, std::move(options), variant, std::move(referrer), entitlement,
                                                          showLoginOnSuccess);
 }
@@ -47,8 +62,20 @@ VelaProUpsellViewController::VelaProUpsellViewController(Creation, std::vector<S
     setPreferredContentSize(formSheetSize);
 }
 
+void VelaProUpsellViewController::setTracker(std::weak_ptr<ProUpsellEventTracker> tracker) {
+    runloop::MainActor::assertIsolated("VelaProUpsellViewController::setTracker");
+    m_tracker = std::move(tracker);
+}
+
+void VelaProUpsellViewController::setDelegate(std::weak_ptr<VelaProUpsellViewControllerDelegate> delegate) {
+    runloop::MainActor::assertIsolated("VelaProUpsellViewController::setDelegate");
+    m_delegate = std::move(delegate);
+}
+
 void VelaProUpsellViewController::viewDidLoad() {
     UIViewController::viewDidLoad();
+    reportIfNobodyHolds(m_delegate, "delegate");
+    reportIfNobodyHolds(m_tracker, "tracker");
     setModalPresentationStyle(uikit::UIModalPresentationStyle::formSheet);
     setPreferredContentSize(formSheetSize);
     embedPaywall();
@@ -80,6 +107,7 @@ void VelaProUpsellViewController::passOnMonthlyComparisonPrice() {
 }
 
 void VelaProUpsellViewController::setOptions(std::vector<SubscriptionOption> options) {
+    runloop::MainActor::assertIsolated("VelaProUpsellViewController::setOptions");
     m_options = std::move(options);
     if (auto* upsell = paywall()) upsell->updateOptions(m_options);
 }
@@ -99,10 +127,20 @@ void VelaProUpsellViewController::viewDidAppear(bool animated) {
     tell(m_tracker, &Tracker::trackUpsellViewed, m_referrer, screenTitle(), analyticsValue(m_entitlement));
 }
 
+// Whoever is only covered by another screen stays in the window.
+void VelaProUpsellViewController::viewDidDisappear(bool animated) {
+    UIViewController::viewDidDisappear(animated);
+    const bool isGone = isBeingDismissed() || !view()->window();
+    if (!isGone) return;
+    const auto self = uikit::strongReference(*this);
+    tell(m_delegate, &Delegate::proUpsellViewControllerDidClose, *this, std::exchange(m_reason, ClosingReason::dismissed));
+}
+
 // A delegate may let go of this controller from inside a call, so each operation holds it until it is over.
 
 void VelaProUpsellViewController::upsellViewControllerDidContinueWith(UpsellViewController&, const SubscriptionOption& option) {
     const auto self = uikit::strongReference(*this);
+    m_reason = ClosingReason::purchased;
     tell(m_delegate, &Delegate::proUpsellViewControllerDidContinueWith, *this, option);
     tell(m_tracker, &Tracker::trackSubscriptionOptionSelected, option, m_referrer, screenTitle());
     tell(m_tracker, &Tracker::trackPurchaseTapped, option, m_referrer, screenTitle(), analyticsValue(m_entitlement));
@@ -110,6 +148,7 @@ void VelaProUpsellViewController::upsellViewControllerDidContinueWith(UpsellView
 
 void VelaProUpsellViewController::upsellViewControllerDidTapCancel(UpsellViewController&) {
     const auto self = uikit::strongReference(*this);
+    m_reason = ClosingReason::cancelled;
     tell(m_tracker, &Tracker::trackUpsellDismissed, m_referrer, screenTitle(), analyticsValue(m_entitlement));
 }
 

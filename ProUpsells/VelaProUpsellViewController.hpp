@@ -22,7 +22,7 @@
 namespace proupsells {
 
 // Embeds the paywall, forwards each of its actions to the delegate and reports it to the tracker. Both are held weakly; when one is
-// missing, its call is skipped and nothing else. Main thread only.
+// missing, its call is skipped and nothing else; one that is gone before the view loads costs one log line. Main thread only.
 class VelaProUpsellViewController : public uikit::UIViewController,
                                     public UpsellViewControllerDelegate,
                                     public ComparisonViewControllerDelegate {
@@ -49,9 +49,9 @@ public:
     Entitlement entitlement() const { return m_entitlement; }
 
     std::shared_ptr<ProUpsellEventTracker> tracker() const { return m_tracker.lock(); }
-    void setTracker(std::weak_ptr<ProUpsellEventTracker> tracker) { m_tracker = std::move(tracker); }
+    void setTracker(std::weak_ptr<ProUpsellEventTracker> tracker);
     std::shared_ptr<VelaProUpsellViewControllerDelegate> delegate() const { return m_delegate.lock(); }
-    void setDelegate(std::weak_ptr<VelaProUpsellViewControllerDelegate> delegate) { m_delegate = std::move(delegate); }
+    void setDelegate(std::weak_ptr<VelaProUpsellViewControllerDelegate> delegate);
 
     // Options and prices that are set after the view has loaded reach the paywall at once.
     const std::vector<SubscriptionOption>& options() const { return m_options; }
@@ -76,6 +76,7 @@ public:
 
     void viewDidLoad() override;
     void viewDidAppear(bool animated) override;
+    void viewDidDisappear(bool animated) override;
 
     void upsellViewControllerDidContinueWith(UpsellViewController& sender, const SubscriptionOption& option) override;
     void upsellViewControllerDidTapCancel(UpsellViewController& sender) override;
@@ -107,6 +108,7 @@ private:
     std::optional<std::string> m_annualComparisonPrice;
     std::optional<std::string> m_monthlyComparisonPrice;
     bool m_showLoginOnSuccess = true;
+    ClosingReason m_reason = ClosingReason::dismissed; // if it closed now
 };
 
 // The screen's name in analytics.

@@ -1,11 +1,20 @@
 // Told of what the user decides; the host buys, restores and opens pages.
 #pragma once
 
+#include <cstdint>
+
 #include "ProUpsells/SubscriptionOption.hpp"
 
 namespace proupsells {
 
 class VelaProUpsellViewController;
+
+// Why a paywall has closed.
+enum class ClosingReason : std::uint8_t {
+    purchased, // the host has dismissed it, and the last thing that the person did was to continue with a plan
+    cancelled, // the person has closed it
+    dismissed  // the host has taken it away
+};
 
 // Always held weakly. From inside a call it may present, dismiss or let go of anything, the sender too, and change options; see
 // VelaProUpsellViewController::setOptions for the lists that are allowed.
@@ -17,6 +26,9 @@ public:
     virtual void proUpsellViewControllerDidTapRestore(VelaProUpsellViewController& sender) = 0;
     virtual void proUpsellViewControllerDidTapPrivacyPolicy(VelaProUpsellViewController& sender) = 0;
     virtual void proUpsellViewControllerDidTapTermsOfService(VelaProUpsellViewController& sender) = 0;
+
+    // The screen has gone, after its last animation: dismissed, or taken out of its window. Not told when a window goes with it.
+    virtual void proUpsellViewControllerDidClose(VelaProUpsellViewController& /*sender*/, ClosingReason /*reason*/) {}
 };
 
 } // namespace proupsells

@@ -14,7 +14,8 @@ class QWheelEvent;
 
 namespace proupsells::qtbackend {
 
-// The mouse's left button and the first finger touch; one of them at a time. Each call may destroy the input from inside the content.
+// The mouse's left button and the first finger touch; one of them at a time. Each call may destroy the input from inside the
+// content.
 class QtInput {
 public:
     explicit QtInput(std::shared_ptr<host::WindowContent> content) : m_content(std::move(content)) {}

@@ -16,8 +16,8 @@ namespace proupsells::rasterbackend {
 //
 //     view.setSize({375, 800});
 //     while (running) {
-//         waitForEvents(view.nextDueDelay_s());           // ends early when an event comes, which goes to touch(), scroll() or key()
-//         if (view.paint(buffer, 2)) show(view.lastDamage());
+//         waitForEvents(view.nextDueDelay_s());           // ends early when an event comes, which goes to touch(), scroll() or
+//         key() if (view.paint(buffer, 2)) show(view.lastDamage());
 //     }
 //
 // Needs a main run loop, which must live longer. Main thread only. The view may be destroyed from inside everything that it calls.

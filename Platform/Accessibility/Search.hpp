@@ -11,6 +11,14 @@ namespace proupsells::accessibility {
 
 // Pointers into `root`, good as long as it is. Orders are outermost first, back to front.
 
+// A tree that is not kept leaves nothing to point into.
+const SemanticNode* findByIdentifier(SemanticNode&& root, std::string_view identifier) = delete;
+std::vector<const SemanticNode*> findAllByIdentifier(SemanticNode&& root, std::string_view identifier) = delete;
+std::vector<const SemanticNode*> findAllByType(SemanticNode&& root, std::string_view type) = delete;
+std::vector<const SemanticNode*> findAllByText(SemanticNode&& root, std::string_view text) = delete;
+std::vector<const SemanticNode*> controls(SemanticNode&& root) = delete;
+std::vector<const SemanticNode*> controlsNamed(SemanticNode&& root, std::string_view name) = delete;
+
 // The first node of the identifier; null when there is none.
 const SemanticNode* findByIdentifier(const SemanticNode& root, std::string_view identifier);
 std::vector<const SemanticNode*> findAllByIdentifier(const SemanticNode& root, std::string_view identifier);

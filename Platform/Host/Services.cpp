@@ -4,6 +4,7 @@
 
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/Host/TextCache.hpp"
+#include "Platform/RunLoop/MainActor.hpp"
 
 namespace proupsells::host {
 
@@ -16,6 +17,7 @@ Installation* newest = nullptr;
 Installation::Installation(Services services)
     : m_services(std::move(services)), m_previous(newest),
       m_previousLocale(foundation::LocaleServices::setCurrent(m_services.localeServices)) {
+    runloop::MainActor::assertIsolated("host::Installation");
     newest = this;
     TextCache::shared().clear();
 }
@@ -35,7 +37,9 @@ Installation::~Installation() {
 }
 
 const Services& Installation::current() {
-    if (!newest) commons::fatalError("No services are installed: create a host::Installation before the first view");
+    if (!newest)
+        commons::fatalError("No services are installed: call proupsells::standard::install(), or create a host::Installation, "
+                            "before the first view");
     return newest->m_services;
 }
 

@@ -17,6 +17,8 @@ struct Touch {
     double time_s = 0;        // on the main run loop's clock
 };
 
+enum class FocusEnd { first, last };
+
 enum class Key { escape, tab, backTab, activate, up, down, left, right };
 
 class WindowContent {
@@ -29,6 +31,15 @@ public:
     virtual void scroll(geometry::Point location, geometry::Point delta) = 0;
     // Returns whether the key meant something.
     virtual bool key(Key key) = 0;
+
+    // Where Tab goes from the last control: back to the first one, as at first, or out of the content. key() is false then.
+    virtual void setFocusLeaves(bool /*leaves*/) {}
+    // Tab has come in from outside, at the first control or at the last one. False where there is none to give the focus to.
+    virtual bool takeFocus(FocusEnd /*end*/) { return false; }
+    virtual void dropFocus() {}
+
+    // Whether anybody can see the content, as at first. Nothing in it runs while nobody can.
+    virtual void setSeen(bool /*isSeen*/) {}
 
     // Writes what the window shows at the main run loop's time.
     virtual void paint(graphics::DisplayList& list) = 0;

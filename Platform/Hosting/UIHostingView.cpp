@@ -6,6 +6,7 @@
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/Hosting/RepresentableStage.hpp"
 #include "Platform/Hosting/Traits.hpp"
+#include "Platform/UIKit/Controllers/UIWindow.hpp"
 
 namespace proupsells::hosting {
 
@@ -76,9 +77,11 @@ void UIHostingView::traitCollectionDidChange(const uikit::UITraitCollection& pre
 
 void UIHostingView::didMoveToWindow() {
     if (window()) adoptEnvironment();
-    m_host->setInWindow(window() != nullptr);
+    windowVisibilityDidChange();
     updateVisibility();
 }
+
+void UIHostingView::windowVisibilityDidChange() { m_host->setInWindow(window() && window()->isSeen()); }
 
 void UIHostingView::setShown(bool isShown) {
     m_isShown = isShown;

@@ -32,6 +32,7 @@ public:
     geometry::Size intrinsicContentSize() const override;
     geometry::Size sizeThatFits(const geometry::ProposedSize& proposal) const override;
     void didMoveToWindow() override;
+    void windowVisibilityDidChange() override;
     void traitCollectionDidChange(const uikit::UITraitCollection& previous) override;
     void languageDidChange() override { adoptEnvironment(); }
     void safeAreaInsetsDidChange() override { setNeedsLayout(); }

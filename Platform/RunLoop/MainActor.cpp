@@ -1,6 +1,7 @@
 #include "Platform/RunLoop/MainActor.hpp"
 
 #include <atomic>
+#include <sstream>
 #include <thread>
 
 #include "Platform/Commons/FatalError.hpp"
@@ -11,6 +12,13 @@ namespace {
 
 std::atomic<std::thread::id> mainThread{std::thread::id{}};
 
+[[noreturn]] void stop(std::string_view call, std::thread::id main) {
+    std::ostringstream message;
+    message << (call.empty() ? "This" : call) << " must be called on the main thread, which is " << main
+            << ", the one of the first main run loop; it was called on thread " << std::this_thread::get_id();
+    commons::fatalError(message.str());
+}
+
 } // namespace
 
 void MainActor::adoptCurrentThread() {
@@ -18,10 +26,9 @@ void MainActor::adoptCurrentThread() {
     mainThread.compare_exchange_strong(none, std::this_thread::get_id());
 }
 
-void MainActor::assertIsolated() {
+void MainActor::assertIsolated(std::string_view call) {
     const std::thread::id main = mainThread.load();
-    if (main != std::thread::id{} && main != std::this_thread::get_id())
-        commons::fatalError("This must be called on the main thread");
+    if (main != std::thread::id{} && main != std::this_thread::get_id()) stop(call, main);
 }
 
 } // namespace proupsells::runloop

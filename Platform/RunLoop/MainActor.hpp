@@ -1,6 +1,8 @@
 // The rule that user-interface work stays on one thread.
 #pragma once
 
+#include <string_view>
+
 namespace proupsells::runloop {
 
 class MainActor {
@@ -8,8 +10,8 @@ public:
     MainActor() = delete;
 
     // Stops the program when called on another thread than the one that created the first main run loop. Before there was one,
-    // every thread will do.
-    static void assertIsolated();
+    // every thread will do. The message names `call`, where there is one, and both threads.
+    static void assertIsolated(std::string_view call = {});
 
 private:
     friend class MainRunLoop;

@@ -41,6 +41,11 @@ MainRunLoop::MainRunLoop(std::shared_ptr<Clock> clock) : m_state(std::make_uniqu
     MainActor::adoptCurrentThread();
     MainActor::assertIsolated();
     m_state->virtualClock = dynamic_cast<VirtualClock*>(clock.get());
+    const bool runsOnRealTime = !m_state->virtualClock && exists() && !main().m_state->virtualClock;
+    if (runsOnRealTime)
+        commons::fatalError(
+            "A main run loop runs already, and there can be one only: use runloop::MainRunLoop::main() in place of a "
+            "second one");
     m_state->clock = std::move(clock);
     livingLoops().push_back(this);
 }
@@ -54,7 +59,8 @@ MainRunLoop::~MainRunLoop() {
 }
 
 MainRunLoop& MainRunLoop::main() {
-    if (livingLoops().empty()) commons::fatalError("There is no main run loop");
+    if (livingLoops().empty())
+        commons::fatalError("There is no main run loop: call proupsells::standard::install(), or create a runloop::MainRunLoop");
     return *livingLoops().back();
 }
 

@@ -16,6 +16,7 @@ namespace proupsells::runloop {
 // All of it, scheduling included, belongs to the main thread.
 class MainRunLoop {
 public:
+    // Stops the program on a real clock while another loop runs on one. Loops on virtual clocks stand in for the ones before them.
     explicit MainRunLoop(std::shared_ptr<Clock> clock);
     // Drops what waits. Stops the program inside a turn of its own.
     ~MainRunLoop();

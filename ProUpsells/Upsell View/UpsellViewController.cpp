@@ -5,6 +5,7 @@
 
 #include "Platform/Commons/DefaultLogger.hpp"
 #include "Platform/Hosting/UIHostingController.hpp"
+#include "Platform/RunLoop/MainActor.hpp"
 #include "Platform/SwiftUI/Modifiers/EnvironmentModifiers.hpp"
 #include "Platform/VelaUIKit/HostingControllers.hpp"
 #include "Platform/VelaUIKit/VelaColors.hpp"
@@ -41,6 +42,7 @@ bool canBeSold(const SubscriptionOption& option) { return option.isYearly() || o
 
 std::shared_ptr<UpsellViewController> UpsellViewController::create(const std::vector<SubscriptionOption>& subscriptionOptions,
                                                                    Variant variant) {
+    runloop::MainActor::assertIsolated("UpsellViewController::create");
     auto controller = std::make_shared<UpsellViewController>(Creation{}, variant);
     controller->start(subscriptionOptions);
     return controller;
@@ -114,6 +116,12 @@ void UpsellViewController::viewDidLoad() {
 void UpsellViewController::languageDidChange() {
     UIViewController::languageDidChange();
     if (m_hostingController) m_hostingController->setRootView(paywall(m_upsellViewModel));
+}
+
+bool UpsellViewController::accessibilityPerformEscape() {
+    const auto self = uikit::strongReference(*this);
+    m_upsellViewModel->tapEventOccurred.send({TapEvent::Cancel{}});
+    return true;
 }
 
 void UpsellViewController::viewWillAppear(bool animated) {

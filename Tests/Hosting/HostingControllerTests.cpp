@@ -168,7 +168,8 @@ TEST_F(HostingTest, TouchesFollowTheHostingViewsPlace) {
     tap({110, 210});
 
     EXPECT_EQ(taps, 1);
-    EXPECT_EQ(accessibility::controls(window->semanticTree()).size(), 1u);
+    const accessibility::SemanticNode screen = window->semanticTree();
+    EXPECT_EQ(accessibility::controls(screen).size(), 1u);
 }
 
 // --- Appearing ---

@@ -121,5 +121,24 @@ TEST_F(CarouselLifetime, DoesNotTickBeforeItIsShown) {
     EXPECT_THAT(changesUntil(22), ElementsAre(17, 22));
 }
 
+TEST_F(CarouselLifetime, RestsWhileItsWindowIsOutOfSight) {
+    present();
+    EXPECT_THAT(changesUntil(6), ElementsAre(5));
+
+    window->setSeen(false);
+    EXPECT_THAT(changesUntil(40), IsEmpty());
+    EXPECT_FALSE(bed.loop().nextDueTime_s().has_value());
+    window->setSeen(true);
+
+    EXPECT_THAT(changesUntil(51), ElementsAre(45, 50));
+}
+
+TEST_F(CarouselLifetime, StaysAtRestWhenItComesIntoAWindowOutOfSight) {
+    window->setSeen(false);
+    present();
+
+    EXPECT_THAT(changesUntil(20), IsEmpty());
+}
+
 } // namespace
 } // namespace proupsells::tests

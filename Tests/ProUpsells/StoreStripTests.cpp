@@ -242,6 +242,23 @@ TEST_F(StoreStrip, DriftsOnlyWhileItCanBeSeen) {
     EXPECT_FALSE(bed.loop().nextDueTime_s().has_value());
 }
 
+TEST_F(StoreStrip, RestsWhileItsWindowIsOutOfSight) {
+    const auto strip = drifting(ScrollDirection::left);
+    show(strip);
+    bed.runUntil(1.05);
+    const double before = offset(*strip);
+
+    window->setSeen(false);
+    bed.runUntil(60);
+    EXPECT_FALSE(bed.loop().nextDueTime_s().has_value());
+    strip->viewWillAppear(false);
+    EXPECT_FALSE(strip->isAutoScrolling());
+    window->setSeen(true);
+    EXPECT_TRUE(strip->isAutoScrolling());
+
+    EXPECT_THAT(offset(*strip), DoubleNear(before, 5));
+}
+
 TEST_F(StoreStrip, KeepsItsTimerWhenItAppearsTwice) {
     const auto strip = drifting(ScrollDirection::left);
     show(strip);

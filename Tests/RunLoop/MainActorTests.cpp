@@ -11,6 +11,7 @@ using namespace proupsells;
 
 using runloop::MainActor;
 using runloop::MainRunLoop;
+using runloop::RealClock;
 using runloop::VirtualClock;
 
 namespace {
@@ -31,6 +32,15 @@ TEST_F(MainActorDeathTest, StopsOnAnotherThreadThanTheFirstLoops) {
             onAnotherThread([] { MainActor::assertIsolated(); });
         },
         "This must be called on the main thread");
+}
+
+TEST_F(MainActorDeathTest, NamesTheCallAndBothThreads) {
+    EXPECT_DEATH(
+        {
+            MainRunLoop loop{std::make_shared<VirtualClock>()};
+            onAnotherThread([] { MainActor::assertIsolated("Paywall::open"); });
+        },
+        "Paywall::open must be called on the main thread, which is [0-9a-fx]+, .* it was called on thread [0-9a-fx]+");
 }
 
 TEST_F(MainActorDeathTest, KeepsTheMainThreadAfterItsLoopIsGone) {
@@ -77,6 +87,16 @@ TEST_F(MainActorDeathTest, AnyThreadWillDoBeforeTheFirstLoop) {
             std::exit(0);
         },
         testing::ExitedWithCode(0), "");
+}
+
+// Two real clocks would let two loops run by turns, each a little of what the other waits for.
+TEST_F(MainActorDeathTest, OneLoopRunsOnRealTime) {
+    EXPECT_DEATH(
+        {
+            MainRunLoop first{std::make_shared<RealClock>()};
+            MainRunLoop second{std::make_shared<RealClock>()};
+        },
+        "A main run loop runs already.*MainRunLoop::main\\(\\)");
 }
 
 TEST(MainActor, PassesOnTheMainThread) {

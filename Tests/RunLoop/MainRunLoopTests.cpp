@@ -43,7 +43,10 @@ TEST(MainRunLoop, ExistsAsLongAsOneLives) {
     EXPECT_FALSE(MainRunLoop::exists());
 }
 
-TEST(MainRunLoopDeathTest, StopsTheProgramWhenThereIsNone) { EXPECT_DEATH(MainRunLoop::main(), "^There is no main run loop\n$"); }
+TEST(MainRunLoopDeathTest, StopsTheProgramWhenThereIsNone) {
+    EXPECT_DEATH(MainRunLoop::main(),
+                 "^There is no main run loop: call proupsells::standard::install\\(\\), or create a runloop::MainRunLoop\n$");
+}
 
 TEST(MainRunLoopDeathTest, StopsTheProgramWithoutAClock) { EXPECT_DEATH(MainRunLoop{nullptr}, "needs a clock"); }
 

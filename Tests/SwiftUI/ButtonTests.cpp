@@ -200,7 +200,8 @@ TEST(Button, MayTakeItselfOutOfTheTreeAndUpdateInItsAction) {
     screen.tap(middle);
 
     EXPECT_EQ(taps, 100);
-    EXPECT_EQ(accessibility::findByIdentifier(screen.tree(), "button"), nullptr);
+    const accessibility::SemanticNode tree = screen.tree();
+    EXPECT_EQ(accessibility::findByIdentifier(tree, "button"), nullptr);
 }
 
 TEST(Button, ThatLeavesUnderTheFingerDoesNotAct) {

@@ -325,7 +325,41 @@ TEST_F(ControlTest, TheFocusRingStandsAroundTheControlUntilATouch) {
     EXPECT_THAT(painted().commands, IsEmpty());
 }
 
-TEST_F(ControlTest, EscapeMeansNothing) { EXPECT_FALSE(window->key(host::Key::escape)); }
+TEST_F(ControlTest, TheFocusLeavesAtEitherEndWhereItMay) {
+    window->setFocusLeaves(true);
+    EXPECT_TRUE(window->key(host::Key::tab));
+    EXPECT_FALSE(window->key(host::Key::tab));
+    EXPECT_THAT(painted().commands, IsEmpty());
+
+    EXPECT_TRUE(window->key(host::Key::backTab));
+    EXPECT_FALSE(window->key(host::Key::backTab));
+}
+
+TEST_F(ControlTest, TheFocusComesInAtEitherEnd) {
+    const auto second = std::make_shared<UIButton>();
+    second->setFrame({{0, 200}, {50, 50}});
+    second->addAction([this](UIControl&) { calls.push_back("second"); }, UIControl::Event::touchUpInside);
+    root->view()->addSubview(second);
+    note(UIControl::Event::touchUpInside, "first");
+
+    EXPECT_TRUE(window->takeFocus(host::FocusEnd::last));
+    window->key(host::Key::activate);
+    EXPECT_TRUE(window->takeFocus(host::FocusEnd::first));
+    window->key(host::Key::activate);
+    window->dropFocus();
+
+    EXPECT_FALSE(window->key(host::Key::activate));
+    EXPECT_THAT(calls, ElementsAre("second", "first"));
+}
+
+TEST_F(ControlTest, TheFocusStaysOutsideWhereThereIsNoControl) {
+    button->removeFromSuperview();
+
+    EXPECT_FALSE(window->takeFocus(host::FocusEnd::first));
+    EXPECT_FALSE(window->key(host::Key::tab));
+}
+
+TEST_F(ControlTest, EscapeMeansNothingToAScreenThatCannotBeLeft) { EXPECT_FALSE(window->key(host::Key::escape)); }
 
 } // namespace
 } // namespace proupsells::uikit

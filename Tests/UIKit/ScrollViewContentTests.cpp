@@ -67,8 +67,10 @@ TEST_F(NestedScrollTest, WhatIsToBeSeenIsScrolledToInAllScrollViewsAroundIt) {
 
     list->setContentOffset({});
     strip->setContentOffset({});
-    accessibility::findByIdentifier(window->semanticTree(), "item")->reveal();
-    EXPECT_TRUE(accessibility::findByIdentifier(window->semanticTree(), "item")->isOnScreen);
+    const accessibility::SemanticNode before = window->semanticTree();
+    accessibility::findByIdentifier(before, "item")->reveal();
+    const accessibility::SemanticNode after = window->semanticTree();
+    EXPECT_TRUE(accessibility::findByIdentifier(after, "item")->isOnScreen);
 }
 
 // --- Insets ---

@@ -39,6 +39,8 @@ public:
     virtual void viewDidDisappear(bool /*animated*/) {}
     virtual void viewDidLayoutSubviews() {}
     virtual void viewSafeAreaInsetsDidChange() {}
+    // Told after the view (see there).
+    virtual void windowVisibilityDidChange() {}
 
     const std::string& title() const { return m_title; }
     void setTitle(std::string title);
@@ -71,6 +73,10 @@ public:
     // What a container shows in the first place: a navigation controller's top controller, otherwise the controller itself.
     virtual UIViewController& contentViewController() { return *this; }
 
+    // The person wants to leave this screen without a choice: does what its close button does, and returns true. Unless overridden,
+    // the children are asked, the last one first.
+    virtual bool accessibilityPerformEscape();
+
     // --- Presentation ---
 
     UIModalPresentationStyle modalPresentationStyle() const { return m_modalPresentationStyle; }
@@ -84,7 +90,8 @@ public:
     // this one waits for it. `completion` runs after viewDidAppear.
     void present(const std::shared_ptr<UIViewController>& controller, bool animated, std::function<void()> completion = {});
     // Takes away what this controller or one of its parents presents, with all that stands on it; if they present nothing, takes
-    // away the presented one of them itself. Waits like `present`. Does nothing where nothing is presented.
+    // away the presented one of them itself. Waits like `present`. Where nothing is presented, it asks whoever shows the window to
+    // take its root controller away (UIWindow::setRootDismissalHandler); `completion` does not run then.
     void dismiss(bool animated, std::function<void()> completion = {});
 
     // What this controller or one of its parents presents; null for none. Stays until it has gone.
@@ -115,6 +122,7 @@ private:
     UIViewController& outermostParent();
     UIWindow* window() const;
     std::shared_ptr<UIWindow> windowForPresenting() const;
+    void askForDismissal();
     bool viewStandsIn(const UIViewController& parent) const;
     // Begins and ends what the appearance calls announce; children whose views stand in this one's follow.
     void beginAppearance(bool appearing, bool animated);

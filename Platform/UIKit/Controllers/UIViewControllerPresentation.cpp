@@ -1,6 +1,9 @@
 // Who presents whom, and what a dismissal closes.
+#include <algorithm>
+
 #include "Platform/Commons/DefaultLogger.hpp"
 #include "Platform/Commons/FatalError.hpp"
+#include "Platform/RunLoop/MainActor.hpp"
 #include "Platform/UIKit/Controllers/PresentationStack.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
@@ -26,6 +29,7 @@ std::shared_ptr<UIWindow> UIViewController::windowForPresenting() const {
 
 void UIViewController::present(const std::shared_ptr<UIViewController>& controller, bool animated,
                                std::function<void()> completion) {
+    runloop::MainActor::assertIsolated("UIViewController::present");
     if (!controller) commons::fatalError("UIViewController: there is no controller to present");
     UIViewController& presenter = outermostParent();
     const auto window = presenter.windowForPresenting();
@@ -39,16 +43,31 @@ void UIViewController::present(const std::shared_ptr<UIViewController>& controll
 }
 
 void UIViewController::dismiss(bool animated, std::function<void()> completion) {
+    runloop::MainActor::assertIsolated("UIViewController::dismiss");
     UIViewController* presented = nullptr;
     for (UIViewController* presenter = this; presenter && !presented; presenter = presenter->m_parent)
         if (presenter->m_presented && !presenter->m_presented->m_isBeingDismissed) presented = presenter->m_presented.get();
     if (!presented) {
         UIViewController& outermost = outermostParent();
-        if (outermost.m_presenting.expired() || outermost.m_isBeingDismissed) return;
+        if (outermost.m_presenting.expired()) return outermost.askForDismissal();
+        if (outermost.m_isBeingDismissed) return;
         presented = &outermost;
     }
     if (const auto window = presented->m_expectedWindow.lock())
         window->presentations().dismiss(*presented, animated, std::move(completion));
+}
+
+// A root controller is nobody's to dismiss but the host's.
+void UIViewController::askForDismissal() {
+    UIWindow* const shown = window();
+    if (!shown || shown->rootViewController() != this) return;
+    // A copy, because the handler may replace itself.
+    if (const auto handler = shown->m_rootDismissalHandler) handler();
+}
+
+bool UIViewController::accessibilityPerformEscape() {
+    const auto asked = m_children;
+    return std::any_of(asked.rbegin(), asked.rend(), [](const auto& child) { return child->accessibilityPerformEscape(); });
 }
 
 UIViewController* UIViewController::presentedViewController() const {

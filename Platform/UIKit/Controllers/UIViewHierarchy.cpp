@@ -73,6 +73,15 @@ void UIView::movedToWindow(UIWindow* window) {
         if (subview->m_superview == this) subview->movedToWindow(window);
 }
 
+void UIView::noticeWindowVisibility() {
+    const auto kept = strongReference(*this);
+    windowVisibilityDidChange();
+    if (m_viewController) m_viewController->windowVisibilityDidChange();
+    const auto subviews = m_subviews;
+    for (const auto& subview : subviews)
+        if (subview->m_superview == this && subview->m_window) subview->noticeWindowVisibility();
+}
+
 void UIView::tellControllerOfLayout() {
     if (!m_viewController) return;
     const auto controller = strongReference(*m_viewController);

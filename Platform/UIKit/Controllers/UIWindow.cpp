@@ -1,5 +1,6 @@
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
+#include "Platform/RunLoop/MainActor.hpp"
 #include "Platform/UIKit/Controllers/PresentationStack.hpp"
 #include "Platform/UIKit/Controllers/TouchRouter.hpp"
 #include "Platform/UIKit/Views/UIScrollView.hpp"
@@ -19,6 +20,7 @@ UIWindow::~UIWindow() {
 }
 
 std::shared_ptr<UIWindow> UIWindow::create(geometry::Size size, geometry::PhysicalInsets safeArea) {
+    runloop::MainActor::assertIsolated("UIWindow::create");
     auto window = std::make_shared<UIWindow>(Creation{});
     window->setSize(size, safeArea);
     return window;
@@ -82,6 +84,12 @@ bool UIWindow::isTransitioning() const { return m_presentations->isTransitioning
 
 void UIWindow::setPresentationObserver(std::weak_ptr<PresentationObserver> observer) {
     m_presentations->setObserver(std::move(observer));
+}
+
+void UIWindow::setSeen(bool isSeen) {
+    if (std::exchange(m_isSeen, isSeen) == isSeen) return;
+    const auto kept = strongReference(*this);
+    noticeWindowVisibility();
 }
 
 // --- Updates ---

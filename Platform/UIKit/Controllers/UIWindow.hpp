@@ -36,6 +36,9 @@ public:
     UIViewController* frontMostViewController() const;
     // Whether a presentation or dismissal is on its way or waits for its turn.
     bool isTransitioning() const;
+    // Told when the root controller is to be dismissed, by its close button for example: whoever shows the window closes it.
+    // Without a handler nothing happens. It may let go of the window.
+    void setRootDismissalHandler(std::function<void()> handler) { m_rootDismissalHandler = std::move(handler); }
     // Held weakly.
     void setPresentationObserver(std::weak_ptr<PresentationObserver> observer);
 
@@ -43,8 +46,14 @@ public:
     void setSize(geometry::Size size, geometry::PhysicalInsets safeArea) override;
     void touch(const host::Touch& touch) override;
     void scroll(geometry::Point location, geometry::Point delta) override;
-    // Tab moves the focus ring through the controls of the front-most presentation, activate taps the one in focus.
+    // Tab moves the focus ring through the controls of the front-most presentation, activate taps the one in focus, escape leaves
+    // the front-most screen.
     bool key(host::Key key) override;
+    void setFocusLeaves(bool leaves) override { m_focusLeaves = leaves; }
+    bool takeFocus(host::FocusEnd end) override;
+    void dropFocus() override;
+    void setSeen(bool isSeen) override;
+    bool isSeen() const { return m_isSeen; }
     void paint(graphics::DisplayList& list) override;
     bool isAnimating() const override;
     // How often `paint` was called, with a call that is running.
@@ -76,7 +85,9 @@ private:
     graphics::PaintState windowState() const;
     std::size_t firstVisibleLayer() const;
     std::vector<accessibility::SemanticNode> focusableControls();
+    bool escape();
     bool moveFocus(int step);
+    void focus(const std::vector<accessibility::SemanticNode>& controls, std::size_t index);
     bool useFocused(host::Key key);
     void paintFocusRing(graphics::PaintContext& context);
 
@@ -91,6 +102,9 @@ private:
     bool m_needsDisplay = false;
     bool m_updateIsRequested = false;
     bool m_isUpdating = false;
+    bool m_isSeen = true;
+    bool m_focusLeaves = false;
+    std::function<void()> m_rootDismissalHandler;
     std::optional<std::size_t> m_focus; // index among the focusable controls; absent until a key is used
 };
 

@@ -28,25 +28,48 @@ bool UIWindow::key(host::Key key) {
     switch (key) {
     case host::Key::tab: return moveFocus(1);
     case host::Key::backTab: return moveFocus(-1);
-    case host::Key::escape: return false;
+    case host::Key::escape: return escape();
     default: return useFocused(key);
     }
 }
 
+bool UIWindow::escape() {
+    UIViewController* const front = frontMostViewController();
+    const auto kept = front ? strongReference(*front) : nullptr;
+    return kept && kept->accessibilityPerformEscape();
+}
+
 bool UIWindow::moveFocus(int step) {
+    if (!m_focus) return takeFocus(step > 0 ? host::FocusEnd::first : host::FocusEnd::last);
     const auto controls = focusableControls();
-    if (controls.empty()) {
-        m_focus.reset();
+    const std::size_t last = controls.size() - 1, here = controls.empty() ? 0 : std::min(*m_focus, last);
+    const bool isAtEnd = controls.empty() || here == (step > 0 ? last : 0);
+    if (isAtEnd && (m_focusLeaves || controls.empty())) {
+        dropFocus();
         return false;
     }
-    const std::size_t count = controls.size();
-    if (!m_focus)
-        m_focus = step > 0 ? 0 : count - 1;
-    else
-        m_focus = (std::min(*m_focus, count - 1) + (step > 0 ? 1 : count - 1)) % count;
-    if (const auto& reveal = controls[*m_focus].reveal) reveal();
-    setNeedsDisplay();
+    focus(controls, isAtEnd ? last - here : here + std::size_t(step));
     return true;
+}
+
+bool UIWindow::takeFocus(host::FocusEnd end) {
+    const auto kept = strongReference(*this);
+    const auto controls = focusableControls();
+    if (controls.empty()) return false;
+    focus(controls, end == host::FocusEnd::first ? 0 : controls.size() - 1);
+    return true;
+}
+
+void UIWindow::focus(const std::vector<accessibility::SemanticNode>& controls, std::size_t index) {
+    m_focus = index;
+    if (const auto& reveal = controls[index].reveal) reveal();
+    setNeedsDisplay();
+}
+
+void UIWindow::dropFocus() {
+    if (!m_focus) return;
+    m_focus.reset();
+    setNeedsDisplay();
 }
 
 bool UIWindow::useFocused(host::Key key) {

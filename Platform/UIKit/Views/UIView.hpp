@@ -56,6 +56,8 @@ public:
     virtual void willRemoveSubview(UIView&) {}
     virtual void didMoveToSuperview() {}
     virtual void didMoveToWindow() {}
+    // Told when the window, in which the view stands, comes into sight or goes out of it.
+    virtual void windowVisibilityDidChange() {}
 
     // --- Geometry ---
 
@@ -242,6 +244,7 @@ private:
     std::size_t indexOf(const UIView& subview) const;
     std::vector<std::shared_ptr<UIViewController>> outermostControllers();
     void movedToWindow(UIWindow* window);
+    void noticeWindowVisibility();
     void adoptTraits(const UITraitCollection& inherited);
     void noticeLanguage();
     // The same for the views inside as well.
