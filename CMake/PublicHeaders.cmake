@@ -12,6 +12,7 @@ set(PROUPSELLS_Platform_HEADERS
   Platform/Combine/ObservableObject.hpp
   Platform/Combine/PassthroughSubject.hpp
   Platform/Commons/DefaultLogger.hpp
+  Platform/Commons/FatalError.hpp
   Platform/Commons/SourceLocation.hpp
   Platform/Foundation/BidiRun.hpp
   Platform/Foundation/Bundle.hpp
@@ -94,16 +95,28 @@ set(PROUPSELLS_Raster_HEADERS
   Backends/Raster/Pixel.hpp
   Backends/Raster/PixelBuffer.hpp
   Backends/Raster/PixelRect.hpp
+  Backends/Raster/PixelView.hpp
   Backends/Raster/RasterImageDecoder.hpp
   Backends/Raster/RasterSurface.hpp
   Backends/Raster/RasterTextShaper.hpp
   Include/ProUpsells/Raster.hpp
 )
+set(PROUPSELLS_Standard_HEADERS
+  Backends/Standard/Standard.hpp
+  Include/ProUpsells/Standard.hpp
+)
 set(PROUPSELLS_Qt_HEADERS
   Backends/Qt/Application.hpp
+  Backends/Qt/Install.hpp
   Backends/Qt/QtRunLoopDriver.hpp
   Backends/Qt/QtWindow.hpp
+  Backends/Qt/ScreenTraits.hpp
   Include/ProUpsells/Qt.hpp
+)
+set(PROUPSELLS_QtWidgets_HEADERS
+  Backends/QtWidgets/ControllerDialog.hpp
+  Backends/QtWidgets/ControllerWidget.hpp
+  Include/ProUpsells/QtWidgets.hpp
 )
 set(PROUPSELLS_Icu_HEADERS
   Backends/Icu/IcuLocaleServices.hpp

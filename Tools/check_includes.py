@@ -33,8 +33,15 @@ FLOORS_WITHIN = {
     "Platform/SwiftUI": ["Views", "Modifiers", "Shapes", "Gestures", "Layout", "Tree", "Animation"],
     "Platform/UIKit": ["Collection", "Controllers", "Controls", "Constraints", "Views"],
 }
-# The one backend that another may include.
-BELOW_BACKEND = {"Backends/Qt": "Backends/Raster"}
+# The backends that another may include.
+BELOW_BACKEND = {
+    "Backends/Standard": {"Backends/Raster", "Backends/Icu", "Backends/FFmpeg"},
+    "Backends/Qt": {"Backends/Raster", "Backends/Standard"},
+    "Backends/QtWidgets": {"Backends/Qt", "Backends/Raster"},
+    "Backends/QtQuick": {"Backends/Qt", "Backends/Raster"},
+}
+# The one backend that knows the module: in QML, its screens are elements.
+KNOWS_MODULE = "Backends/QtQuick"
 # A screen of the module includes what it shares with the others, and the entry includes all of them.
 SCREENS_DOCUMENT = "Docs/architecture.md"
 SCREENS = ["Entry", "Paywall", "Comparison", "Store page", "Shared"]
@@ -93,10 +100,11 @@ def complaint_between_screens(screens: dict[str, str], source: str, target: str)
 def complaint(screens: dict[str, str], source: str, bracket: str, target: str) -> str | None:
     source_room, target_room = room_of(source), room_of(target)
     if source_room.startswith("Backends/"):
-        if target_room == "ProUpsells":
+        if target_room == "ProUpsells" and source_room != KNOWS_MODULE:
             return "a backend never includes ProUpsells/"
-        if target_room and target_room.startswith("Backends/") and target_room not in (source_room, BELOW_BACKEND.get(source_room)):
-            return "a backend never includes another backend"
+        allowed = {source_room} | BELOW_BACKEND.get(source_room, set())
+        if target_room and target_room.startswith("Backends/") and target_room not in allowed:
+            return f"{source_room} never includes {target_room}"
         return None
     if bracket == "<":
         return None if target in STANDARD else "only the C++ standard library may be included with <>"

@@ -1,6 +1,5 @@
 #include "Backends/Qt/AccessibleElement.hpp"
 
-#include <QWindow>
 #include <cmath>
 
 #include "Backends/Qt/QtAccessibility.hpp"
@@ -32,7 +31,7 @@ void AccessibleElement::become(SemanticNode node) {
     }
 }
 
-QWindow* AccessibleElement::window() const { return m_owner ? &m_owner->window() : nullptr; }
+QWindow* AccessibleElement::window() const { return m_owner ? m_owner->place().window() : nullptr; }
 
 QAccessibleInterface* AccessibleElement::parent() const { return m_owner ? m_owner->root() : nullptr; }
 
@@ -50,7 +49,7 @@ QRect AccessibleElement::rect() const {
     const geometry::Rect& frame = m_node.frame;
     const QPoint topLeft(int(std::lround(frame.minX())), int(std::lround(frame.minY())));
     const QSize size(int(std::lround(frame.width())), int(std::lround(frame.height())));
-    return {m_owner->window().mapToGlobal(topLeft), size};
+    return {m_owner->place().frame().topLeft() + topLeft, size};
 }
 
 QAccessible::Role AccessibleElement::role() const {

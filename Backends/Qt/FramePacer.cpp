@@ -16,12 +16,14 @@ FramePacer::FramePacer(rasterbackend::PixelView& view, std::function<void()> pai
         paint();
     });
     m_view.setFrameHandler([this] { schedule(); });
+    m_view.setSeen(false);
 }
 
 FramePacer::~FramePacer() { m_view.setFrameHandler({}); }
 
 void FramePacer::setRunning(bool isRunning) {
     m_isRunning = isRunning;
+    m_view.setSeen(isRunning);
     schedule();
 }
 

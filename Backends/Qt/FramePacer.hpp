@@ -19,7 +19,7 @@ public:
     FramePacer(const FramePacer&) = delete;
     FramePacer& operator=(const FramePacer&) = delete;
 
-    // Whether frames can be seen; not at first.
+    // Whether the view can be seen; not at first.
     void setRunning(bool isRunning);
     bool isRunning() const { return m_isRunning; }
     // The display that shows the frames; null where unknown.

@@ -3,6 +3,7 @@
 #include <QAccessibleObject>
 #include <QWindow>
 #include <algorithm>
+#include <unordered_map>
 
 #include "Backends/Qt/AccessibleElement.hpp"
 
@@ -12,14 +13,30 @@ using accessibility::SemanticNode;
 
 namespace {
 
-class AccessibleWindow final : public QAccessibleObject {
+class WindowPlace final : public AccessiblePlace {
 public:
-    explicit AccessibleWindow(QtAccessibility& owner) : QAccessibleObject(&owner.window()), m_owner(&owner) {}
+    explicit WindowPlace(QWindow& window) : m_window(window) {}
+
+    QObject& object() const override { return m_window; }
+    QWindow* window() const override { return &m_window; }
+    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(qApp); }
+    QAccessible::Role role() const override { return QAccessible::Window; }
+    QString name() const override { return m_window.title(); }
+    QRect frame() const override { return {m_window.mapToGlobal(QPoint(0, 0)), m_window.size()}; }
+    bool isVisible() const override { return m_window.isVisible(); }
+
+private:
+    QWindow& m_window;
+};
+
+class AccessibleRoot final : public QAccessibleObject {
+public:
+    explicit AccessibleRoot(QtAccessibility& owner) : QAccessibleObject(&owner.place().object()), m_owner(&owner) {}
 
     void detach() { m_owner = nullptr; }
 
-    QWindow* window() const override { return m_owner ? &m_owner->window() : nullptr; }
-    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(qApp); }
+    QWindow* window() const override { return m_owner ? m_owner->place().window() : nullptr; }
+    QAccessibleInterface* parent() const override { return m_owner ? m_owner->place().parent() : nullptr; }
     QAccessibleInterface* child(int index) const override {
         if (!m_owner || index < 0 || index >= childCount()) return nullptr;
         return m_owner->elements()[std::size_t(index)];
@@ -38,22 +55,26 @@ public:
         return nullptr;
     }
     QString text(QAccessible::Text text) const override {
-        return m_owner && text == QAccessible::Name ? m_owner->window().title() : QString();
+        return m_owner && text == QAccessible::Name ? m_owner->place().name() : QString();
     }
-    QRect rect() const override {
-        return m_owner ? QRect(m_owner->window().mapToGlobal(QPoint(0, 0)), m_owner->window().size()) : QRect();
-    }
-    QAccessible::Role role() const override { return QAccessible::Window; }
+    QRect rect() const override { return m_owner ? m_owner->place().frame() : QRect(); }
+    QAccessible::Role role() const override { return m_owner ? m_owner->place().role() : QAccessible::NoRole; }
     QAccessible::State state() const override {
         QAccessible::State state;
-        state.active = m_owner && m_owner->window().isActive();
-        state.invisible = !m_owner || !m_owner->window().isVisible();
+        state.active = m_owner && m_owner->place().window() && m_owner->place().window()->isActive();
+        state.invisible = !m_owner || !m_owner->place().isVisible();
         return state;
     }
 
 private:
     QtAccessibility* m_owner;
 };
+
+// Those that can be asked for by Qt.
+std::unordered_map<const QObject*, QtAccessibility*>& livingPlaces() {
+    static std::unordered_map<const QObject*, QtAccessibility*> places;
+    return places;
+}
 
 std::string joinedTexts(const SemanticNode& node) {
     std::string joined = node.text ? node.text->text : std::string();
@@ -90,22 +111,34 @@ void forget(AccessibleElement* element) {
 
 } // namespace
 
+QtAccessibility::QtAccessibility(std::unique_ptr<AccessiblePlace> place, host::WindowContent& content,
+                                 AccessibilityListener listener)
+    : m_place(std::move(place)), m_content(content), m_listener(std::move(listener)) {
+    static const bool isInstalled = (QAccessible::installFactory(&makeRoot), true);
+    static_cast<void>(isInstalled);
+    livingPlaces()[&m_place->object()] = this;
+}
+
 QtAccessibility::QtAccessibility(QWindow& window, host::WindowContent& content, AccessibilityListener listener)
-    : m_window(window), m_content(content), m_listener(std::move(listener)) {}
+    : QtAccessibility(std::make_unique<WindowPlace>(window), content, std::move(listener)) {}
 
 QtAccessibility::~QtAccessibility() {
+    livingPlaces().erase(&m_place->object());
     for (AccessibleElement* element : m_elements) forget(element);
     if (!m_root) return;
-    static_cast<AccessibleWindow*>(m_root)->detach();
+    static_cast<AccessibleRoot*>(m_root)->detach();
     QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(m_root));
 }
 
+// Qt asks for each class of the object, the most derived one first, and keeps what it gets.
+QAccessibleInterface* QtAccessibility::makeRoot(const QString&, QObject* object) {
+    const auto found = livingPlaces().find(object);
+    if (found == livingPlaces().end()) return nullptr;
+    return found->second->m_root = new AccessibleRoot(*found->second);
+}
+
 QAccessibleInterface* QtAccessibility::root() {
-    if (!m_root) {
-        m_root = new AccessibleWindow(*this);
-        QAccessible::registerAccessibleInterface(m_root);
-    }
-    return m_root;
+    return m_root ? m_root : QAccessible::queryAccessibleInterface(&m_place->object());
 }
 
 const std::vector<AccessibleElement*>& QtAccessibility::elements() {

@@ -3,11 +3,11 @@
 
 #include <QtGui/qaccessible.h>
 #include <functional>
+#include <memory>
 #include <vector>
 
+#include "Backends/Qt/AccessiblePlace.hpp"
 #include "Platform/Host/WindowContent.hpp"
-
-class QWindow;
 
 namespace proupsells::qtbackend {
 
@@ -19,28 +19,31 @@ struct AccessibilityListener {
     std::function<void(QAccessibleEvent*)> tell = [](QAccessibleEvent* event) { QAccessible::updateAccessibility(event); };
 };
 
-// Offers the content's texts, images and controls as a flat list under the window. Reads the semantic tree only while
-// somebody listens.
+// Offers the content's texts, images and controls as a flat list under the window, widget or item that shows it. Reads the semantic
+// tree only while somebody listens. The content must live longer.
 class QtAccessibility {
 public:
+    QtAccessibility(std::unique_ptr<AccessiblePlace> place, host::WindowContent& content, AccessibilityListener listener = {});
+    // In a window of its own.
     QtAccessibility(QWindow& window, host::WindowContent& content, AccessibilityListener listener = {});
     ~QtAccessibility();
     QtAccessibility(const QtAccessibility&) = delete;
     QtAccessibility& operator=(const QtAccessibility&) = delete;
 
-    // The window as an accessible object; owned by Qt.
+    // The window, widget or item as an accessible object; owned by Qt.
     QAccessibleInterface* root();
     // To be called when the picture has changed.
     void update();
 
-    QWindow& window() const { return m_window; }
+    const AccessiblePlace& place() const { return *m_place; }
     void tell(QAccessibleEvent& event) { m_listener.tell(&event); }
     const std::vector<AccessibleElement*>& elements();
 
 private:
+    static QAccessibleInterface* makeRoot(const QString& className, QObject* object);
     void adopt(std::vector<accessibility::SemanticNode> nodes);
 
-    QWindow& m_window;
+    std::unique_ptr<AccessiblePlace> m_place;
     host::WindowContent& m_content;
     AccessibilityListener m_listener;
     QAccessibleInterface* m_root = nullptr;

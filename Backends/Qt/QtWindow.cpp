@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "Backends/Qt/FramePacer.hpp"
+#include "Backends/Qt/PixelImage.hpp"
 #include "Backends/Qt/QtAccessibility.hpp"
 #include "Backends/Qt/QtInput.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
@@ -63,7 +64,8 @@ void QtWindow::showFrame(bool isWhole) {
     const bool hasChanged = paint();
     if (hasChanged || isWhole) {
         ++m_frameCount;
-        m_store.flush(isWhole ? QRegion(QRect(QPoint(0, 0), size())) : damagedRegion());
+        const QRect whole(QPoint(0, 0), size());
+        m_store.flush(isWhole ? QRegion(whole) : regionOf(m_view.lastDamage(), devicePixelRatio()).intersected(whole));
     }
     if (hasChanged) m_accessibility->update();
     m_pacer->schedule();
@@ -85,16 +87,6 @@ bool QtWindow::paint() {
     }
     m_store.endPaint();
     return hasChanged;
-}
-
-QRegion QtWindow::damagedRegion() const {
-    const double scale = devicePixelRatio();
-    QRegion region;
-    for (const rasterbackend::PixelRect& rect : m_view.lastDamage()) {
-        const int left = int(std::floor(rect.left / scale)), top = int(std::floor(rect.top / scale));
-        region += QRect(left, top, int(std::ceil(rect.right / scale)) - left, int(std::ceil(rect.bottom / scale)) - top);
-    }
-    return region.intersected(QRect(QPoint(0, 0), size()));
 }
 
 void QtWindow::mousePressEvent(QMouseEvent* event) { m_input->mousePressed(*event); }

@@ -54,7 +54,6 @@ private:
     geometry::Size sizeInPoints() const { return {double(width()), double(height())}; }
     void showFrame(bool isWhole);
     bool paint();
-    QRegion damagedRegion() const;
 
     rasterbackend::PixelView m_view;
     geometry::PhysicalInsets m_safeArea;

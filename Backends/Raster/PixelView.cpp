@@ -28,6 +28,7 @@ struct PixelView::State : std::enable_shared_from_this<State> {
     double refreshRate = 60;
     double lastFrame_s = -1; // of the run loop's time
     bool hasChanged = true;  // since the last frame
+    bool isSeen = true;
     bool isPainting = false;
     bool isAbandoned = false; // the view is gone
     std::function<void()> frameHandler;
@@ -36,6 +37,7 @@ struct PixelView::State : std::enable_shared_from_this<State> {
 
 PixelView::PixelView(std::shared_ptr<host::WindowContent> content) : m_state(std::make_shared<State>()) {
     m_state->content = std::move(content);
+    m_state->content->setSeen(true);
     m_state->content->setNeedsDisplayHandler([state = std::weak_ptr(m_state)] {
         if (const auto held = state.lock()) held->frameIsWanted();
     });
@@ -60,6 +62,13 @@ void PixelView::setSize(geometry::Size size, geometry::PhysicalInsets safeArea) 
 }
 
 void PixelView::setRefreshRate(double framesPerSecond) { m_state->refreshRate = std::max(1.0, framesPerSecond); }
+
+void PixelView::setSeen(bool isSeen) {
+    const auto state = m_state;
+    state->isSeen = isSeen;
+    state->content->setSeen(isSeen);
+    if (isSeen) state->frameIsWanted();
+}
 
 // --- Picture ---
 
@@ -121,7 +130,8 @@ void PixelView::setFrameHandler(std::function<void()> handler) { m_state->frameH
 
 // At once where nothing was shown for a while, so that what the person does is seen without delay.
 std::optional<double> PixelView::nextFrameDelay_s() const {
-    if (!m_state->hasChanged && !m_state->content->isAnimating()) return std::nullopt;
+    const bool isWanted = m_state->isSeen && (m_state->hasChanged || m_state->content->isAnimating());
+    if (!isWanted) return std::nullopt;
     if (m_state->lastFrame_s < 0) return 0;
     const double interval_s = 1 / m_state->refreshRate;
     const double elapsed_s = runloop::MainRunLoop::main().now_s() - m_state->lastFrame_s;

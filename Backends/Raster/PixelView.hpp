@@ -36,6 +36,8 @@ public:
     void setSize(geometry::Size size, geometry::PhysicalInsets safeArea = {});
     // How often the display can show another frame; 60 unless told, and at least once a second.
     void setRefreshRate(double framesPerSecond);
+    // Whether anybody can see the view, as at first. While nobody can, no frame is due and nothing in the content runs.
+    void setSeen(bool isSeen);
 
     // --- Picture ---
 

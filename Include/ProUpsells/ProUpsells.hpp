@@ -15,6 +15,7 @@
 
 // What they need around them.
 #include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/Commons/FatalError.hpp"
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/Host/Services.hpp"

@@ -2,5 +2,6 @@
 #pragma once
 
 #include "Backends/Qt/Application.hpp"
+#include "Backends/Qt/Install.hpp"
 #include "Backends/Qt/QtRunLoopDriver.hpp"
 #include "Backends/Qt/QtWindow.hpp"

@@ -41,8 +41,7 @@ MainRunLoop::MainRunLoop(std::shared_ptr<Clock> clock) : m_state(std::make_uniqu
     MainActor::adoptCurrentThread();
     MainActor::assertIsolated();
     m_state->virtualClock = dynamic_cast<VirtualClock*>(clock.get());
-    const bool runsOnRealTime = !m_state->virtualClock && exists() && !main().m_state->virtualClock;
-    if (runsOnRealTime)
+    if (runsOnRealTime() && exists() && main().runsOnRealTime())
         commons::fatalError(
             "A main run loop runs already, and there can be one only: use runloop::MainRunLoop::main() in place of a "
             "second one");
@@ -114,6 +113,10 @@ void MainRunLoop::setWakeUpHandler(std::function<void()> handler) {
     m_state->wakeUp = std::move(handler);
     wakeUpIfEarlierThan(std::nullopt);
 }
+
+bool MainRunLoop::hasWakeUpHandler() const { return m_state->wakeUp != nullptr; }
+
+bool MainRunLoop::runsOnRealTime() const { return !m_state->virtualClock; }
 
 void MainRunLoop::wakeUpIfEarlierThan(std::optional<double> previous_s) {
     if (!m_state->wakeUp || isInTurn()) return;

@@ -59,6 +59,10 @@ public:
     // Told outside turns whenever nextDueTime_s() may have become earlier; a backend re-arms its wake-up there. Told at once when
     // something waits already.
     void setWakeUpHandler(std::function<void()> handler);
+    // Whether somebody drives the loop.
+    bool hasWakeUpHandler() const;
+    // False on a virtual clock.
+    bool runsOnRealTime() const;
 
 private:
     struct State;

@@ -40,6 +40,7 @@ public:
     bool isAnimating() const override { return animates; }
     void setNeedsDisplayHandler(std::function<void()> newHandler) override { handler = std::move(newHandler); }
     accessibility::SemanticNode semanticTree() override { return {}; }
+    void setSeen(bool seen) override { isSeen = seen; }
 
     void move(double distance) {
         x += distance;
@@ -50,6 +51,7 @@ public:
     std::vector<host::Touch> touches;
     double x = 0;
     bool animates = false;
+    bool isSeen = false;
     std::function<void()> handler, whenTouched, whenPainted;
 };
 
@@ -130,6 +132,18 @@ TEST_F(PixelViews, WantsAFrameAtEveryRefreshWhileTheContentMoves) {
     paint();
 
     EXPECT_DOUBLE_EQ(view->nextFrameDelay_s().value(), 1.0 / 60);
+}
+
+TEST_F(PixelViews, HasNoFrameDueWhileNobodyCanSeeIt) {
+    EXPECT_TRUE(content->isSeen);
+    content->animates = true;
+    view->setSeen(false);
+    EXPECT_EQ(view->nextFrameDelay_s(), std::nullopt);
+    EXPECT_FALSE(content->isSeen);
+    view->setSeen(true);
+
+    EXPECT_EQ(view->nextFrameDelay_s(), 0);
+    EXPECT_TRUE(content->isSeen);
 }
 
 TEST_F(PixelViews, IsDueWhenTheRunLoopHasWork) {

@@ -1,0 +1,28 @@
+// A screen in a dialog of its own.
+#pragma once
+
+#include <QDialog>
+
+#include "Backends/QtWidgets/ControllerWidget.hpp"
+
+namespace proupsells::qtwidgets {
+
+// Presents a controller: show it with open(), exec() or show(). It closes when the controller is dismissed, by its close button, by
+// Escape, by the window's own close button or by the host. finished() comes after the controller has heard that it was closed.
+class ControllerDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit ControllerDialog(std::shared_ptr<uikit::UIViewController> controller, QWidget* parent = nullptr);
+
+    ControllerWidget& widget() const { return *m_widget; }
+
+    // What Qt calls for Escape and for the window's close button: the controller's own close button does the same.
+    void reject() override;
+    void done(int result) override;
+
+private:
+    ControllerWidget* m_widget; // owned by Qt's tree
+};
+
+} // namespace proupsells::qtwidgets

@@ -1,0 +1,4 @@
+// The ordinary installation of everything that a screen needs around it.
+#pragma once
+
+#include "Backends/Standard/Standard.hpp"

@@ -1,0 +1,269 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPalette>
+#include <QPointer>
+
+#include "Platform/RunLoop/MainRunLoop.hpp"
+#include "Tests/QtWidgets/Shop.hpp"
+
+using namespace proupsells;
+
+using qtwidgets::ControllerWidget;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using tests::TwoButtons;
+
+namespace {
+
+class Widgets : public testing::Test {
+protected:
+    ControllerWidget& show(QWidget* parent = nullptr) {
+        widget = new ControllerWidget(screen, parent);
+        widget->resize(100, 80);
+        (parent ? parent : widget.data())->show();
+        settle();
+        return *widget;
+    }
+    ~Widgets() override { delete widget; }
+
+    // Until nothing is left to be done now.
+    static void settle() {
+        bool isLate = false;
+        QTimer::singleShot(50, [&] { isLate = true; });
+        tests::handleEventsUntil([&] { return isLate; });
+    }
+    QRgb pixel(int x, int y) const { return widget->grab().toImage().pixel(x, y) & 0xFFFFFF; }
+
+    std::shared_ptr<TwoButtons> screen = std::make_shared<TwoButtons>();
+    QPointer<ControllerWidget> widget;
+};
+
+} // namespace
+
+TEST_F(Widgets, ShowAControllerAtTheirSize) {
+    show();
+
+    EXPECT_EQ(screen->view()->frame().size, (geometry::Size{100, 80}));
+    EXPECT_EQ(pixel(50, 70), 0xFF0000u);
+
+    widget->resize(60, 90);
+    settle();
+    EXPECT_EQ(screen->view()->frame().size, (geometry::Size{60, 90}));
+    EXPECT_EQ(widget->grab().size(), QSize(60, 90));
+}
+
+TEST_F(Widgets, PreferTheSizeThatTheirControllerPrefers) {
+    show();
+    EXPECT_EQ(widget->sizeHint(), QSize(375, 800));
+    const auto small = std::make_shared<uikit::UIViewController>();
+    small->setPreferredContentSize({200, 99.5});
+    widget->setController(small);
+
+    EXPECT_EQ(widget->sizeHint(), QSize(200, 100));
+}
+
+TEST_F(Widgets, MayBeEmpty) {
+    screen = nullptr;
+    show();
+
+    EXPECT_EQ(widget->controller(), nullptr);
+    tests::click(*widget, {10, 10});
+    tests::pressKey(*widget, Qt::Key_Escape);
+    EXPECT_EQ(pixel(5, 5), 0xFFFFFFu);
+}
+
+TEST_F(Widgets, ShowWhatHasChanged) {
+    show();
+    screen->view()->setBackgroundColor(uikit::UIColor{"blue", graphics::rgb(0x0000FF), graphics::rgb(0x0000FF)});
+    settle();
+
+    EXPECT_EQ(pixel(50, 70), 0x0000FFu);
+}
+
+TEST_F(Widgets, HandOnClicks) {
+    show();
+    tests::click(*widget, {10, 10});
+    tests::mouse(*widget, QEvent::MouseButtonDblClick, {60, 10});
+    tests::mouse(*widget, QEvent::MouseButtonRelease, {60, 10});
+
+    EXPECT_THAT(screen->presses, ElementsAre("first", "second"));
+}
+
+TEST_F(Widgets, LetTheFocusInAndOut) {
+    QWidget window;
+    QLineEdit before(&window), after(&window);
+    show(&window);
+    QWidget::setTabOrder(&before, widget);
+    QWidget::setTabOrder(widget, &after);
+    window.activateWindow();
+    before.setFocus();
+    settle();
+
+    // What Qt does for Tab, and for Shift and Tab.
+    const auto tab = [&](int key) { tests::pressKey(*QApplication::focusWidget(), key); };
+    tab(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), widget);
+    tests::pressKey(*widget, Qt::Key_Return);
+    tab(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), widget);
+    tests::pressKey(*widget, Qt::Key_Space);
+    tab(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &after);
+    tab(Qt::Key_Backtab);
+    tests::pressKey(*widget, Qt::Key_Space);
+    tab(Qt::Key_Backtab);
+    tab(Qt::Key_Backtab);
+
+    EXPECT_EQ(QApplication::focusWidget(), &before);
+    EXPECT_THAT(screen->presses, ElementsAre("first", "second", "second"));
+}
+
+TEST_F(Widgets, LeaveAloneTheKeysThatMeanNothingToThem) {
+    struct Around : QWidget {
+        void keyPressEvent(QKeyEvent* event) override { keys.push_back(event->key()); }
+        std::vector<int> keys;
+    } around;
+    show(&around);
+    tests::pressKey(*widget, Qt::Key_Escape);
+    tests::pressKey(*widget, Qt::Key_F1);
+
+    EXPECT_THAT(around.keys, ElementsAre(Qt::Key_Escape, Qt::Key_F1));
+}
+
+TEST_F(Widgets, FollowThePaletteAndTheDirectionUnlessTheHostDecides) {
+    show();
+    QPalette dark = widget->palette();
+    dark.setColor(QPalette::Window, Qt::black);
+    dark.setColor(QPalette::WindowText, Qt::white);
+    widget->setPalette(dark);
+    widget->setLayoutDirection(Qt::RightToLeft);
+    settle();
+    EXPECT_EQ(pixel(50, 70), 0x400000u);
+    EXPECT_EQ(widget->uiWindow().traits().layoutDirection, geometry::LayoutDirection::rightToLeft);
+
+    widget->setTraits({.colorScheme = graphics::ColorScheme::light,
+                       .layoutDirection = geometry::LayoutDirection::leftToRight,
+                       .reducesMotion = true,
+                       .textSize = graphics::ContentSizeCategory::extraExtraLarge});
+    settle();
+    EXPECT_EQ(pixel(50, 70), 0xFF0000u);
+    const uikit::UITraitCollection& traits = widget->uiWindow().traits();
+    EXPECT_EQ(traits.layoutDirection, geometry::LayoutDirection::leftToRight);
+    EXPECT_TRUE(traits.reduceMotion);
+    EXPECT_EQ(traits.preferredContentSizeCategory, graphics::ContentSizeCategory::extraExtraLarge);
+}
+
+TEST_F(Widgets, RunNothingWhileTheyAreHidden) {
+    show();
+    EXPECT_TRUE(widget->uiWindow().isSeen());
+    widget->hide();
+    EXPECT_FALSE(widget->uiWindow().isSeen());
+    const std::uint64_t paints = widget->uiWindow().paintCount();
+    screen->view()->setNeedsDisplay();
+    settle();
+    EXPECT_EQ(widget->uiWindow().paintCount(), paints);
+    widget->show();
+    settle();
+
+    EXPECT_GT(widget->uiWindow().paintCount(), paints);
+}
+
+TEST_F(Widgets, MayBeReparented) {
+    QWidget first, second;
+    second.resize(200, 200);
+    show(&first);
+    widget->setParent(&second);
+    widget->show();
+    second.show();
+    settle();
+    tests::click(*widget, {10, 10});
+
+    EXPECT_EQ(pixel(50, 70), 0xFF0000u);
+    EXPECT_THAT(screen->presses, ElementsAre("first"));
+}
+
+TEST_F(Widgets, LieUnderTheSiblingsInFrontOfThem) {
+    QWidget window;
+    window.resize(100, 80);
+    show(&window);
+    QWidget cover(&window);
+    cover.setGeometry(0, 60, 100, 20);
+    cover.setAutoFillBackground(true);
+    cover.setPalette(QPalette(Qt::green));
+    cover.show();
+    screen->view()->setNeedsDisplay();
+    settle();
+    const QImage shown = window.grab().toImage();
+
+    EXPECT_EQ(shown.pixel(50, 55) & 0xFFFFFF, 0xFF0000u);
+    EXPECT_EQ(shown.pixel(50, 70), QPalette(Qt::green).color(QPalette::Window).rgb());
+}
+
+TEST_F(Widgets, MayBeDeletedFromInsideACallback) {
+    show();
+    screen->whenPressed = [this] { delete widget; };
+    tests::click(*widget, {10, 10});
+    EXPECT_TRUE(widget.isNull());
+
+    show();
+    tests::pressKey(*widget, Qt::Key_Tab);
+    tests::pressKey(*widget, Qt::Key_Return);
+    EXPECT_TRUE(widget.isNull());
+
+    show();
+    runloop::MainRunLoop::main().schedule(0, [this] { delete widget; });
+    settle();
+    EXPECT_TRUE(widget.isNull());
+}
+
+TEST_F(Widgets, LetTheirControllerGo) {
+    show();
+    const std::weak_ptr<TwoButtons> watched = screen;
+    screen.reset();
+    delete widget;
+
+    EXPECT_TRUE(watched.expired());
+}
+
+TEST_F(Widgets, StandSideBySide) {
+    QWidget window;
+    const auto other = std::make_shared<TwoButtons>();
+    show(&window);
+    ControllerWidget second(other, &window);
+    second.setGeometry(100, 0, 100, 80);
+    second.show();
+    settle();
+    tests::click(second, {60, 10});
+    tests::click(*widget, {10, 10});
+
+    EXPECT_THAT(screen->presses, ElementsAre("first"));
+    EXPECT_THAT(other->presses, ElementsAre("second"));
+}
+
+TEST_F(Widgets, TellTheirContainerWhenTheControllerIsToGo) {
+    show();
+    int asked = 0;
+    QObject::connect(widget, &ControllerWidget::dismissalRequested, [&] { ++asked; });
+    screen->dismiss(true);
+
+    EXPECT_EQ(asked, 1);
+}
+
+TEST_F(Widgets, HangTheirAccessibleTreeIntoTheHostsOwn) {
+    QWidget window;
+    show(&window);
+    QAccessibleInterface* const around = QAccessible::queryAccessibleInterface(&window);
+    ASSERT_EQ(around->childCount(), 1);
+    QAccessibleInterface* const tree = around->child(0);
+    ASSERT_EQ(tree->childCount(), 2);
+
+    EXPECT_EQ(tree->parent()->object(), &window);
+    EXPECT_EQ(tree->child(1)->text(QAccessible::Name), "second");
+    EXPECT_EQ(tree->child(1)->rect(), QRect(widget->mapToGlobal(QPoint(50, 0)), QSize(50, 50)));
+    tree->child(1)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_THAT(screen->presses, ElementsAre("second"));
+}
