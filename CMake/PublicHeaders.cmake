@@ -118,6 +118,12 @@ set(PROUPSELLS_QtWidgets_HEADERS
   Backends/QtWidgets/ControllerWidget.hpp
   Include/ProUpsells/QtWidgets.hpp
 )
+set(PROUPSELLS_QtQuick_HEADERS
+  Backends/QtQuick/ControllerItem.hpp
+  Backends/QtQuick/Install.hpp
+  Backends/QtQuick/PaywallItem.hpp
+  Include/ProUpsells/QtQuick.hpp
+)
 set(PROUPSELLS_Icu_HEADERS
   Backends/Icu/IcuLocaleServices.hpp
   Include/ProUpsells/Icu.hpp

@@ -59,8 +59,7 @@ void QtInput::mouseReleased(const QMouseEvent& event) {
 }
 
 // The first finger counts, until it lifts; others are ignored.
-void QtInput::touched(QTouchEvent& event) {
-    event.accept();
+void QtInput::touched(const QTouchEvent& event) {
     if (event.type() == QEvent::TouchCancel) return cancelTouch();
     if (m_mouseIsDown) return;
     for (const QEventPoint& point : event.points()) {

@@ -23,7 +23,7 @@ public:
     void mousePressed(const QMouseEvent& event);
     void mouseMoved(const QMouseEvent& event);
     void mouseReleased(const QMouseEvent& event);
-    void touched(QTouchEvent& event);
+    void touched(const QTouchEvent& event);
     void wheelTurned(const QWheelEvent& event);
     // Returns whether the key meant something.
     bool keyPressed(const QKeyEvent& event);

@@ -95,7 +95,10 @@ void QtWindow::mouseMoveEvent(QMouseEvent* event) { m_input->mouseMoved(*event);
 
 void QtWindow::mouseReleaseEvent(QMouseEvent* event) { m_input->mouseReleased(*event); }
 
-void QtWindow::touchEvent(QTouchEvent* event) { m_input->touched(*event); }
+void QtWindow::touchEvent(QTouchEvent* event) {
+    event->accept();
+    m_input->touched(*event);
+}
 
 void QtWindow::wheelEvent(QWheelEvent* event) { m_input->wheelTurned(*event); }
 

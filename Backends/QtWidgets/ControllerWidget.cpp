@@ -166,7 +166,10 @@ bool ControllerWidget::event(QEvent* event) {
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
-    case QEvent::TouchCancel: m_parts->input.touched(static_cast<QTouchEvent&>(*event)); return true;
+    case QEvent::TouchCancel:
+        event->accept();
+        m_parts->input.touched(static_cast<QTouchEvent&>(*event));
+        return true;
     default: return QWidget::event(event);
     }
 }

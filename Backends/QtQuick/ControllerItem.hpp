@@ -1,0 +1,100 @@
+// A screen in a Qt Quick scene.
+#pragma once
+
+#include <QPointer>
+#include <QQuickPaintedItem>
+#include <QQuickWindow>
+#include <memory>
+
+#include "Backends/Qt/ScreenTraits.hpp"
+#include "Platform/UIKit/Controllers/UIWindow.hpp"
+
+namespace proupsells::qtbackend {
+class QtInput;
+}
+
+namespace proupsells::qtquick {
+
+// Shows a controller, and whatever it presents, wherever an item can stand. The application, its event loop and its scene stay the
+// host's; the services and the main run loop are installed where the host has not done so (qtbackend::install()).
+//
+// The screen follows the application's palette and layout direction and the window's scale factor, unless a property says
+// otherwise. Tab goes through its controls and on to the next item; Escape leaves the screen in front. Invisible, it costs nothing.
+// It may be moved to another window at any time, and be deleted from inside any call that it makes.
+class ControllerItem : public QQuickPaintedItem {
+    Q_OBJECT
+    Q_PROPERTY(ColorScheme colorScheme READ colorScheme WRITE setColorScheme NOTIFY traitsChanged)
+    Q_PROPERTY(Direction direction READ direction WRITE setDirection NOTIFY traitsChanged)
+    Q_PROPERTY(bool reducesMotion READ reducesMotion WRITE setReducesMotion NOTIFY traitsChanged)
+    Q_PROPERTY(int textSize READ textSize WRITE setTextSize NOTIFY traitsChanged)
+
+public:
+    enum class ColorScheme { System, Light, Dark };
+    Q_ENUM(ColorScheme)
+    enum class Direction { System, LeftToRight, RightToLeft };
+    Q_ENUM(Direction)
+
+    explicit ControllerItem(QQuickItem* parent = nullptr);
+    // Takes the controller out of its window first, so that it hears that it has closed.
+    ~ControllerItem() override;
+
+    // Takes the former one's place, with all that it presents. Null, as at first: empties the item.
+    void setController(std::shared_ptr<uikit::UIViewController> controller);
+    uikit::UIViewController* controller() const;
+    // What the controller stands in.
+    uikit::UIWindow& uiWindow() const { return *m_uiWindow; }
+
+    ColorScheme colorScheme() const;
+    void setColorScheme(ColorScheme scheme);
+    Direction direction() const;
+    void setDirection(Direction direction);
+    bool reducesMotion() const { return m_traits.reducesMotion.value_or(false); }
+    void setReducesMotion(bool reduces);
+    // Steps above (or, negative, below) the usual text size; from -3 to 8.
+    int textSize() const;
+    void setTextSize(int steps);
+
+    void paint(QPainter* painter) override;
+
+signals:
+    void traitsChanged();
+    // The controller is to go: its close button was pressed, or its dismiss() was called.
+    void dismissalRequested();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void updatePolish() override;
+    void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseUngrabEvent() override;
+    void touchEvent(QTouchEvent* event) override;
+    void touchUngrabEvent() override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    struct Parts;
+    void makeFrame();
+    void paintPixels();
+    void followWindow(QQuickWindow* window);
+    void followVisibility();
+    void setTraits(const qtbackend::ScreenTraits& traits);
+    void adoptTraits();
+    double scaleFactor() const;
+    template <class Event>
+    void handOnLater(const Event& event, void (qtbackend::QtInput::*handOn)(const Event&));
+    void cancelTouchLater();
+
+    std::shared_ptr<uikit::UIWindow> m_uiWindow;
+    qtbackend::ScreenTraits m_traits;
+    QMetaObject::Connection m_windowVisibility;
+    QPointer<QQuickWindow> m_watchedWindow;
+    std::unique_ptr<Parts> m_parts;
+};
+
+} // namespace proupsells::qtquick

@@ -1,0 +1,47 @@
+#include "Backends/QtQuick/ItemPlace.hpp"
+
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QtQml/qqml.h>
+
+namespace proupsells::qtquick {
+
+namespace {
+
+// The object behind `Accessible.` in QML; null where there is none.
+QObject* attachedAccessible(QQuickItem& item, bool makes) {
+    const QMetaObject* const type = QMetaType::fromName("QQuickAccessibleAttached*").metaObject();
+    const QQmlAttachedPropertiesFunc function = type ? qmlAttachedPropertiesFunction(&item, type) : nullptr;
+    return function ? qmlAttachedPropertiesObject(&item, function, makes) : nullptr;
+}
+
+} // namespace
+
+void offerToAssistiveTechnology(QQuickItem& item) {
+    if (QObject* const attached = attachedAccessible(item, true)) attached->setProperty("role", QAccessible::Client);
+}
+
+QObject& ItemPlace::object() const { return m_item; }
+
+QWindow* ItemPlace::window() const { return m_item.window(); }
+
+// Items around that nobody has marked are not there for assistive technology.
+QAccessibleInterface* ItemPlace::parent() const {
+    for (QQuickItem* around = m_item.parentItem(); around; around = around->parentItem())
+        if (QAccessibleInterface* const found = QAccessible::queryAccessibleInterface(around)) return found;
+    return m_item.window() ? QAccessible::queryAccessibleInterface(m_item.window()) : nullptr;
+}
+
+QString ItemPlace::name() const {
+    QObject* const attached = attachedAccessible(m_item, false);
+    return attached ? attached->property("name").toString() : QString();
+}
+
+QRect ItemPlace::frame() const {
+    const QPointF topLeft = m_item.mapToGlobal(QPointF(0, 0));
+    return {topLeft.toPoint(), m_item.size().toSize()};
+}
+
+bool ItemPlace::isVisible() const { return m_item.isVisible(); }
+
+} // namespace proupsells::qtquick

@@ -1,0 +1,30 @@
+// An item among Qt Quick's accessible objects.
+#pragma once
+
+#include "Backends/Qt/AccessiblePlace.hpp"
+
+class QQuickItem;
+
+namespace proupsells::qtquick {
+
+class ItemPlace final : public qtbackend::AccessiblePlace {
+public:
+    explicit ItemPlace(QQuickItem& item) : m_item(item) {}
+
+    QObject& object() const override;
+    QWindow* window() const override;
+    QAccessibleInterface* parent() const override;
+    QAccessible::Role role() const override { return QAccessible::Client; }
+    QString name() const override;
+    QRect frame() const override;
+    bool isVisible() const override;
+
+private:
+    QQuickItem& m_item;
+};
+
+// Qt Quick's own tree leaves out items that nobody has marked: this does what `Accessible.role` in QML does. Without QML's types it
+// does nothing.
+void offerToAssistiveTechnology(QQuickItem& item);
+
+} // namespace proupsells::qtquick

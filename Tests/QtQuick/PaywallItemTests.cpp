@@ -1,0 +1,267 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPalette>
+#include <QPointer>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+#include "Backends/QtQuick/PaywallItem.hpp"
+#include "Platform/Accessibility/Search.hpp"
+#include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/RunLoop/MainRunLoop.hpp"
+#include "Tests/Qt/Events.hpp"
+
+using namespace proupsells;
+
+using qtquick::PaywallItem;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+const char* const usualPaywall = R"(
+    import QtQuick
+    import ProUpsells
+    Item {
+        width: 375; height: 900
+        property var told: []
+        TextInput { objectName: "before"; activeFocusOnTab: true; width: 100; height: 20 }
+        Paywall {
+            objectName: "paywall"
+            y: 50; width: 375; height: 800
+            options: [
+                { sku: "pro.monthly", period: "monthly", price: "$14.99" },
+                { sku: "pro.yearly", period: "yearly", price: "$99.99", monthlyPrice: "$8.33", trial: "1 week" }
+            ]
+            onPurchaseRequested: sku => { told.push("buy " + sku); open = false }
+            onRestoreRequested: told.push("restore")
+            onClosed: reason => told.push("closed " + reason)
+        }
+        TextInput { objectName: "after"; activeFocusOnTab: true; y: 860; width: 100; height: 20 }
+    })";
+
+class Items : public testing::Test {
+protected:
+    void show(const char* qml = usualPaywall) {
+        QQmlComponent component(&engine);
+        component.setData(qml, {});
+        root.reset(qobject_cast<QQuickItem*>(component.create()));
+        ASSERT_TRUE(root) << component.errorString().toStdString();
+        root->setParentItem(window.contentItem());
+        paywall = root->findChild<PaywallItem*>("paywall");
+        window.resize(375, 900);
+        window.show();
+        window.requestActivate();
+        settle();
+    }
+
+    static void settle() {
+        bool isLate = false;
+        QTimer::singleShot(50, [&] { isLate = true; });
+        tests::handleEventsUntil([&] { return isLate; });
+    }
+
+    void click(QPointF at) {
+        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, at, window.mapToGlobal(at), Qt::LeftButton,
+                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, {});
+            QCoreApplication::sendEvent(&window, &event);
+        }
+    }
+    void clickOn(std::string_view identifier) {
+        const accessibility::SemanticNode screen = paywall->uiWindow().semanticTree();
+        const accessibility::SemanticNode* node = accessibility::findByIdentifier(screen, identifier);
+        ASSERT_NE(node, nullptr) << identifier;
+        click(paywall->mapToScene({node->frame.midX(), node->frame.midY()}));
+        settle();
+    }
+    void pressKey(int key) {
+        QKeyEvent event(QEvent::KeyPress, key, {});
+        QCoreApplication::sendEvent(&window, &event);
+    }
+    std::vector<std::string> told() const {
+        std::vector<std::string> lines;
+        for (const QVariant& line : root->property("told").toList()) lines.push_back(line.toString().toStdString());
+        return lines;
+    }
+
+    QQmlEngine engine;
+    QQuickWindow window;
+    std::unique_ptr<QQuickItem> root;
+    QPointer<PaywallItem> paywall;
+};
+
+} // namespace
+
+TEST_F(Items, ShowThePaywallInTheScene) {
+    show();
+    const QImage scene = window.grabWindow();
+    const QImage own = paywall->uiWindow().paintCount() > 0 ? scene.copy(0, 50, 375, 800) : QImage();
+
+    ASSERT_FALSE(own.isNull());
+    int distinct = 0;
+    for (int y = 0; y < own.height(); y += 10)
+        for (int x = 0; x < own.width(); x += 10) distinct += own.pixel(x, y) != own.pixel(1, 790);
+    EXPECT_GT(distinct, 500) << "the header picture, the plans and the button";
+    EXPECT_EQ(paywall->implicitWidth(), 375);
+    EXPECT_EQ(paywall->implicitHeight(), 800);
+}
+
+TEST_F(Items, SellAndCloseByQml) {
+    show();
+    clickOn("plan.pro.monthly");
+    clickOn("subscribe");
+
+    EXPECT_THAT(told(), ElementsAre("buy pro.monthly", "closed 0"));
+    EXPECT_FALSE(paywall->isOpen());
+    EXPECT_EQ(paywall->controller(), nullptr);
+}
+
+TEST_F(Items, CloseByTheirOwnButtonAndByEscape) {
+    show();
+    clickOn("close");
+    EXPECT_THAT(told(), ElementsAre("closed 1"));
+    paywall->setOpen(true);
+    settle();
+    paywall->forceActiveFocus();
+    pressKey(Qt::Key_Escape);
+
+    EXPECT_THAT(told(), ElementsAre("closed 1", "closed 1"));
+}
+
+TEST_F(Items, StayShutWhereQmlSaysSo) {
+    show("import ProUpsells\n import QtQuick\n Item { Paywall { objectName: \"paywall\"; open: false;"
+         "options: [{ sku: 'a', period: 'monthly', price: '$1' }] } }");
+    EXPECT_FALSE(paywall->isOpen());
+    paywall->setOpen(true);
+
+    EXPECT_TRUE(paywall->isOpen());
+}
+
+TEST_F(Items, PassOnOptionsAndPricesWhileTheyAreOpen) {
+    show();
+    paywall->setOptions({QVariantMap{{"sku", "new"}, {"period", "monthly"}, {"price", "$5"}}});
+    paywall->setMonthlyComparisonPrice("$9");
+    settle();
+    const accessibility::SemanticNode screen = paywall->uiWindow().semanticTree();
+
+    EXPECT_NE(accessibility::findByIdentifier(screen, "plan.new"), nullptr);
+    EXPECT_EQ(paywall->paywall()->monthlySubscriptionPriceForComparisonWithPromotionalPrice(), "$9");
+}
+
+TEST_F(Items, LeaveOutOptionsThatLackSomething) {
+    std::vector<std::string> messages;
+    const auto former =
+        commons::DefaultLogger::shared().setSink([&](const commons::LogRecord& record) { messages.push_back(record.message); });
+    show("import ProUpsells\n import QtQuick\n Item { Paywall { objectName: \"paywall\"; options: ["
+         "{ period: 'monthly', price: '$1' }, { sku: 'b', period: 'weekly', price: '$1' }, { sku: 'c', period: 'yearly', price: "
+         "'$1' },"
+         "{ sku: 'd', period: 'monthly', price: '$1' }] } }");
+    commons::DefaultLogger::shared().setSink(former);
+
+    EXPECT_THAT(
+        messages,
+        ElementsAre("Paywall - option number 1 is left out: it has no \"sku\"",
+                    "Paywall - option number 2 is left out: its \"period\" is none of \"monthly\", \"yearly\" and \"lifetime\"",
+                    "Paywall - option number 3 is left out: it has no \"monthlyPrice\""));
+    EXPECT_EQ(paywall->paywall()->options().size(), 1u);
+}
+
+TEST_F(Items, FollowTheirProperties) {
+    show();
+    paywall->setColorScheme(PaywallItem::ColorScheme::Dark);
+    paywall->setDirection(PaywallItem::Direction::RightToLeft);
+    paywall->setReducesMotion(true);
+    paywall->setTextSize(99);
+    const uikit::UITraitCollection& traits = paywall->uiWindow().traits();
+
+    EXPECT_EQ(traits.userInterfaceStyle, graphics::ColorScheme::dark);
+    EXPECT_EQ(traits.layoutDirection, geometry::LayoutDirection::rightToLeft);
+    EXPECT_TRUE(traits.reduceMotion);
+    EXPECT_EQ(traits.preferredContentSizeCategory, graphics::ContentSizeCategory::accessibilityExtraExtraExtraLarge);
+    EXPECT_EQ(paywall->textSize(), 8);
+    paywall->setColorScheme(PaywallItem::ColorScheme::System);
+    EXPECT_EQ(traits.userInterfaceStyle, graphics::ColorScheme::light);
+}
+
+TEST_F(Items, FollowTheApplicationsPaletteAndDirection) {
+    show();
+    const QPalette former = QGuiApplication::palette();
+    QPalette dark = former;
+    dark.setColor(QPalette::Window, Qt::black);
+    dark.setColor(QPalette::WindowText, Qt::white);
+    QGuiApplication::setPalette(dark);
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    settle();
+    const uikit::UITraitCollection traits = paywall->uiWindow().traits();
+    QGuiApplication::setPalette(former);
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+
+    EXPECT_EQ(traits.userInterfaceStyle, graphics::ColorScheme::dark);
+    EXPECT_EQ(traits.layoutDirection, geometry::LayoutDirection::rightToLeft);
+}
+
+TEST_F(Items, RunNothingWhileTheyAreInvisible) {
+    show();
+    EXPECT_TRUE(paywall->uiWindow().isSeen());
+    paywall->setVisible(false);
+    EXPECT_FALSE(paywall->uiWindow().isSeen());
+    paywall->setVisible(true);
+    EXPECT_TRUE(paywall->uiWindow().isSeen());
+    window.hide();
+    settle();
+
+    EXPECT_FALSE(paywall->uiWindow().isSeen());
+}
+
+TEST_F(Items, LetTheFocusInAndOut) {
+    show();
+    root->findChild<QQuickItem*>("before")->forceActiveFocus();
+    pressKey(Qt::Key_Tab);
+    EXPECT_TRUE(paywall->hasActiveFocus());
+    for (int presses = 0; paywall->hasActiveFocus() && presses < 50; ++presses) pressKey(Qt::Key_Tab);
+    EXPECT_TRUE(root->findChild<QQuickItem*>("after")->hasActiveFocus());
+    pressKey(Qt::Key_Backtab);
+    EXPECT_TRUE(paywall->hasActiveFocus());
+}
+
+TEST_F(Items, MoveToAnotherWindow) {
+    show();
+    QQuickWindow other;
+    other.resize(375, 900);
+    other.show();
+    root->setParentItem(other.contentItem());
+    settle();
+
+    EXPECT_TRUE(paywall->uiWindow().isSeen());
+    EXPECT_NE(other.grabWindow().pixel(187, 450), window.grabWindow().pixel(187, 450));
+}
+
+TEST_F(Items, MayBeDeletedFromInsideACallback) {
+    show();
+    QObject::connect(paywall, &PaywallItem::purchaseRequested, [this] { root.reset(); });
+    clickOn("subscribe");
+
+    EXPECT_TRUE(paywall.isNull());
+}
+
+TEST_F(Items, StandInTheScenesAccessibleTree) {
+    show();
+    QAccessibleInterface* const tree = QAccessible::queryAccessibleInterface(paywall);
+    ASSERT_NE(tree, nullptr);
+    QAccessibleInterface* const scene = QAccessible::queryAccessibleInterface(&window);
+    ASSERT_NE(scene, nullptr);
+    bool isListed = false;
+    for (int index = 0; index < scene->childCount(); ++index) isListed |= scene->child(index) == tree;
+
+    EXPECT_TRUE(isListed);
+    EXPECT_GT(tree->childCount(), 5);
+    EXPECT_EQ(tree->child(0)->parent(), tree);
+}
