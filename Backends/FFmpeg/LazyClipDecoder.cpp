@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "Backends/FFmpeg/PluginLoader.hpp"
+#include "Platform/System/ProgramFile.hpp"
 
 namespace proupsells::ffmpegbackend {
 
@@ -44,9 +45,7 @@ LazyClipDecoder::~LazyClipDecoder() = default;
 
 std::vector<std::filesystem::path> LazyClipDecoder::defaultFolders() {
     std::vector<std::filesystem::path> folders;
-    std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    if (!error) {
+    if (const auto program = system::programFile(); !program.empty()) {
         folders.push_back(program.parent_path());
         folders.push_back(program.parent_path().parent_path() / "lib" / "proupsells");
     }

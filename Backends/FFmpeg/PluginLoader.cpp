@@ -1,10 +1,9 @@
 #include "Backends/FFmpeg/PluginLoader.hpp"
 
-#include <dlfcn.h>
-
 #include <chrono>
 
 #include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/System/SharedObject.hpp"
 
 namespace proupsells::ffmpegbackend {
 
@@ -25,10 +24,9 @@ PluginLoader::Outcome PluginLoader::load(const std::vector<std::filesystem::path
         const auto file = folder / pluginFileName;
         std::error_code error;
         if (!std::filesystem::exists(file, error)) continue;
-        void* library = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
-        void* symbol = library ? dlsym(library, makeClipDecoderSymbol) : nullptr;
-        if (symbol) return {reinterpret_cast<MakeClipDecoder>(symbol), {}};
-        reason = dlerror();
+        system::SharedObject plugin(file);
+        if (const auto make = plugin.function(makeClipDecoderSymbol)) return {reinterpret_cast<MakeClipDecoder>(make), {}};
+        reason = plugin.complaint();
     }
     return {nullptr, "Clips cannot be played: " + reason};
 }

@@ -3,6 +3,8 @@
 #include <system_error>
 #include <utility>
 
+#include "Platform/System/ProgramFile.hpp"
+
 namespace proupsells::foundation {
 
 namespace {
@@ -12,17 +14,11 @@ std::filesystem::path& resourceRoot() {
     return root;
 }
 
-std::filesystem::path programFolder() {
-    std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    return error ? std::filesystem::path{} : program.parent_path();
-}
-
 } // namespace
 
 std::filesystem::path resourceFolder(std::string_view name, const std::filesystem::path& builtFrom,
                                      const std::filesystem::path& installedTo) {
-    const std::filesystem::path shared = programFolder().parent_path() / "share" / "proupsells" / name;
+    const std::filesystem::path shared = system::programFile().parent_path().parent_path() / "share" / "proupsells" / name;
     for (const auto& candidate : {resourceRoot().empty() ? std::filesystem::path{} : resourceRoot() / name, shared, builtFrom,
                                   installedTo.empty() ? installedTo : installedTo / name}) {
         std::error_code error;
