@@ -11,8 +11,8 @@
 #include <fstream>
 #include <map>
 
-#include "Backends/Raster/MappedFile.hpp"
 #include "Benchmarks/PictureFormats.hpp"
+#include "Platform/System/MappedFile.hpp"
 #include "Tests/Support/CpuTime.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
 #include "Tools/MakePictures/VectorFile.hpp"
@@ -22,7 +22,7 @@ using namespace proupsells;
 namespace {
 
 using benchmarks::PictureFormat;
-using rasterbackend::MappedFile;
+using system::MappedFile;
 using rasterbackend::Picture;
 
 constexpr const char* folders[] = {"ProUpsells/Resources/Images", "Platform/VelaUIKit/Resources/Images"};

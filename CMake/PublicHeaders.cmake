@@ -43,6 +43,7 @@ set(PROUPSELLS_Platform_HEADERS
   Platform/RunLoop/MainRunLoop.hpp
   Platform/RunLoop/Timer.hpp
   Platform/RunLoop/UpdateClient.hpp
+  Platform/System/Compiler.hpp
   Platform/UIKit/Collection/IndexPath.hpp
   Platform/UIKit/Collection/UICollectionViewDataSource.hpp
   Platform/UIKit/Collection/UICollectionViewDelegateFlowLayout.hpp

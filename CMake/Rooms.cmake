@@ -4,13 +4,15 @@
 
 include_guard(GLOBAL)
 
-# proupsells_add_room(<name> <folder> [DEPENDS <room>...] [PRECOMPILED <set>]): the set is StandardHeaders where none is named.
+# proupsells_add_room(<name> <folder> [DEPENDS <room>...] [WITHOUT <folder>] [PRECOMPILED <set>]): the folder is one inside the room that
+# is left out; the set is StandardHeaders where none is named.
 function(proupsells_add_room name folder)
-  cmake_parse_arguments(ROOM "" "PRECOMPILED" "DEPENDS" ${ARGN})
+  cmake_parse_arguments(ROOM "" "PRECOMPILED;WITHOUT" "DEPENDS" ${ARGN})
   if(NOT ROOM_PRECOMPILED)
     set(ROOM_PRECOMPILED StandardHeaders)
   endif()
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.cpp")
+  proupsells_leave_out(sources "${ROOM_WITHOUT}")
   if(NOT sources)
     set(sources "${PROJECT_SOURCE_DIR}/CMake/EmptyRoom.cpp")
   endif()
@@ -26,6 +28,14 @@ function(proupsells_add_room name folder)
   endforeach()
   list(REMOVE_DUPLICATES closure)
   set_target_properties(${name} PROPERTIES PROUPSELLS_ROOMS "${closure}")
+endfunction()
+
+# proupsells_leave_out(<variable> <folder>): takes the files in folders of this name out of the list.
+function(proupsells_leave_out variable folder)
+  if(folder)
+    list(FILTER ${variable} EXCLUDE REGEX "/${folder}/")
+    set(${variable} "${${variable}}" PARENT_SCOPE)
+  endif()
 endfunction()
 
 # proupsells_check_headers(<room> <folder>): each header of the room compiles alone when the target headers_stand_alone is built.
@@ -68,11 +78,12 @@ function(proupsells_link_rooms target)
   endif()
 endfunction()
 
-# proupsells_add_tests(<name> <folder> ROOMS <room>... [LIBRARIES <target>...] [PRECOMPILED <header>...]): the headers are those that
-# most of the tests include, beside GoogleMock's.
+# proupsells_add_tests(<name> <folder> ROOMS <room>... [LIBRARIES <target>...] [WITHOUT <folder>] [PRECOMPILED <header>...]): the folder
+# is one inside the tests' that is left out; the headers are those that most of the tests include, beside GoogleMock's.
 function(proupsells_add_tests name folder)
-  cmake_parse_arguments(TEST "" "" "ROOMS;LIBRARIES;PRECOMPILED" ${ARGN})
+  cmake_parse_arguments(TEST "" "WITHOUT" "ROOMS;LIBRARIES;PRECOMPILED" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/Tests/${folder}/*.cpp")
+  proupsells_leave_out(sources "${TEST_WITHOUT}")
   if(NOT sources)
     return()
   endif()

@@ -9,9 +9,9 @@
 
 #include "Backends/Headless/ImageSizeReader.hpp"
 #include "Backends/Raster/FilePicture.hpp"
-#include "Backends/Raster/MappedFile.hpp"
 #include "Backends/Raster/PictureFile.hpp"
 #include "Platform/Graphics/PictureHeader.hpp"
+#include "Platform/System/MappedFile.hpp"
 
 using namespace proupsells;
 
@@ -56,7 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     readAt(file.path(), 7, 5);
     readAt(file.path(), 30, 30);
 
-    const rasterbackend::MappedFile mapped(file.path());
+    const system::MappedFile mapped(file.path());
     if (const auto header = graphics::PictureHeader::parse(mapped.bytes(), size)) {
         require(headless::ImageSizeReader().naturalSize(file.path()) == naturalSize);
         const auto& first = header->variants.front();

@@ -1,12 +1,11 @@
 #include "ProUpsells/ResourceBundleClass.hpp"
 
-#include "Platform/Foundation/ResourceFolder.hpp"
+#include "Platform/Foundation/Resources.hpp"
 
 namespace proupsells {
 
 const foundation::Bundle& ResourceBundleClass::bundle() {
-    static const foundation::Bundle bundle{
-        foundation::resourceFolder("ProUpsells", PROUPSELLS_BUILT_RESOURCES, PROUPSELLS_INSTALLED_RESOURCES)};
+    static const foundation::Bundle bundle{foundation::requiredResource("ProUpsells")};
     return bundle;
 }
 

@@ -2,6 +2,6 @@
 
 // No code reads them, so the linker is told to keep them.
 extern "C" {
-[[gnu::used, gnu::retain]] const double ProUpsellsVersionNumber = 1;
-[[gnu::used, gnu::retain]] const unsigned char ProUpsellsVersionString[] = "@(#)PROGRAM:ProUpsells  PROJECT:ProUpsells-1\n";
+PROUPSELLS_KEPT const double ProUpsellsVersionNumber = 1;
+PROUPSELLS_KEPT const unsigned char ProUpsellsVersionString[] = "@(#)PROGRAM:ProUpsells  PROJECT:ProUpsells-1\n";
 }

@@ -1,8 +1,10 @@
 // Which module this is, for tools that read it from the binary.
 #pragma once
 
+#include "Platform/System/Compiler.hpp"
+
 extern "C" {
-[[gnu::visibility("default")]] extern const double ProUpsellsVersionNumber;
+PROUPSELLS_EXPORTED extern const double ProUpsellsVersionNumber;
 // Ends with a line feed.
-[[gnu::visibility("default")]] extern const unsigned char ProUpsellsVersionString[];
+PROUPSELLS_EXPORTED extern const unsigned char ProUpsellsVersionString[];
 }

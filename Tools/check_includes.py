@@ -4,7 +4,7 @@
 usage: check_includes.py ROOT
 
 A room may include itself and the rooms below it, and so may a folder inside a room that has floors of its own. ProUpsells/ and
-Platform/ include nothing but the project's own headers and the C++ standard library's. A backend includes Platform/ and its library;
+Platform/ include nothing but the project's own headers and the C++ standard library's, but for Platform/System/Posix/. A backend includes Platform/ and its library;
 windows stand on the pixel engine. The module's files belong to screens, as Docs/architecture.md lists them; no screen includes
 another. Exit status 1 when an include points up or out, or when a file and that list disagree, one line each."""
 import pathlib
@@ -27,12 +27,15 @@ FLOORS = [
     ["Platform/Motion"],
     ["Platform/Geometry"],
     ["Platform/Commons"],
+    ["Platform/System"],
 ]
 # The same inside the two layers. What lies in the room's own folder stands on top.
 FLOORS_WITHIN = {
     "Platform/SwiftUI": ["Views", "Modifiers", "Shapes", "Gestures", "Layout", "Tree", "Animation"],
     "Platform/UIKit": ["Collection", "Controllers", "Controls", "Constraints", "Views"],
 }
+# The one folder of the platform that knows a system's own headers.
+SYSTEM_FOLDER = "Platform/System/Posix/"
 # The backends that another may include.
 BELOW_BACKEND = {
     "Backends/Standard": {"Backends/Raster", "Backends/Icu", "Backends/FFmpeg"},
@@ -107,7 +110,7 @@ def complaint(screens: dict[str, str], source: str, bracket: str, target: str) -
             return f"{source_room} never includes {target_room}"
         return None
     if bracket == "<":
-        return None if target in STANDARD else "only the C++ standard library may be included with <>"
+        return None if target in STANDARD or source.startswith(SYSTEM_FOLDER) else "only the C++ standard library may be included with <>"
     if target_room is None:
         return "only the project's own headers may be included with quotes"
     if target_room.startswith("Backends/"):

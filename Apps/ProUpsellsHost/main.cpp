@@ -1,11 +1,10 @@
 // The program without a window. It loads no toolkit: `show` is left to the program beside it that has windows.
-#include <unistd.h>
-
-#include <cstring>
 #include <filesystem>
 
 #include "Apps/ProUpsellsHost/InputError.hpp"
 #include "Apps/ProUpsellsHost/Program.hpp"
+#include "Platform/System/BecomeProgram.hpp"
+#include "Platform/System/ProgramFile.hpp"
 
 using namespace proupsells;
 
@@ -13,11 +12,9 @@ namespace {
 
 // Only comes back when it fails.
 int becomeWindowProgram(char** arguments) {
-    std::error_code ignored;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path() / "proupsells-window";
-    execv(program.c_str(), arguments);
-    throw hostprogram::InputError(program.string(), "",
-                                  std::string(std::strerror(errno)) + ", expected the program that has windows");
+    const auto program = system::programFile().parent_path() / "proupsells-window";
+    const std::error_code reason = system::becomeProgram(program, arguments);
+    throw hostprogram::InputError(program.string(), "", reason.message() + ", expected the program that has windows");
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "Backends/Qt/Application.hpp"
 #include "Backends/Qt/QtRunLoopDriver.hpp"
 #include "Backends/Qt/QtWindow.hpp"
+#include "Platform/Foundation/Resources.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -15,12 +16,6 @@ constexpr int done = 0, noDisplay = 3;
 // How often to look whether the paywall has been closed, which closes the window.
 constexpr double closedCheckInterval_s = 0.25;
 
-std::filesystem::path sampleOffers() {
-    const std::filesystem::path installed = PROUPSELLS_INSTALLED_SAMPLE_OFFERS;
-    std::error_code error;
-    return std::filesystem::exists(PROUPSELLS_SAMPLE_OFFERS, error) ? std::filesystem::path(PROUPSELLS_SAMPLE_OFFERS) : installed;
-}
-
 void open(HostSession& session, StartScreen start) {
     if (start == StartScreen::comparison) session.send({UpsellViewModel::TapEvent::ComparePlans{}});
     if (start == StartScreen::store) session.send({UpsellViewModel::TapEvent::WhatIsPro{}});
@@ -29,7 +24,7 @@ void open(HostSession& session, StartScreen start) {
 } // namespace
 
 int showOffers(const ShowArguments& arguments) {
-    const Offers offers = readOffersFile(arguments.offers.value_or(sampleOffers()));
+    const Offers offers = readOffersFile(arguments.offers ? *arguments.offers : foundation::requiredResource("offers.json"));
     const Device& device = arguments.device;
     if (!qtbackend::Application::hasDisplay()) {
         std::cerr << "There is no display to show a window on; `proupsells run SCENARIO.json` plays a script without one.\n";

@@ -1,8 +1,11 @@
 #include "Backends/FFmpeg/LazyClipDecoder.hpp"
 
+#include <algorithm>
 #include <utility>
 
 #include "Backends/FFmpeg/PluginLoader.hpp"
+#include "Platform/Foundation/Resources.hpp"
+#include "Platform/System/ProgramFile.hpp"
 
 namespace proupsells::ffmpegbackend {
 
@@ -42,15 +45,19 @@ LazyClipDecoder::LazyClipDecoder(Pace pace, std::vector<std::filesystem::path> f
 
 LazyClipDecoder::~LazyClipDecoder() = default;
 
+// The libraries' folder and the programs' one lie as the package has them, seen from each place of its resources.
 std::vector<std::filesystem::path> LazyClipDecoder::defaultFolders() {
     std::vector<std::filesystem::path> folders;
-    std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    if (!error) {
-        folders.push_back(program.parent_path());
-        folders.push_back(program.parent_path().parent_path() / "lib" / "proupsells");
+    const auto add = [&](const std::filesystem::path& folder) {
+        auto tidy = folder.lexically_normal();
+        if (std::find(folders.begin(), folders.end(), tidy) == folders.end()) folders.push_back(std::move(tidy));
+    };
+    for (const auto& file : {system::ownFile(), system::programFile()})
+        if (!file.empty()) add(file.parent_path());
+    for (const auto& place : foundation::resourcePlaces()) {
+        add(place);
+        for (const char* libraries : {PROUPSELLS_LIBRARY_FOLDER "/proupsells", "bin"}) add(place.parent_path().parent_path() / libraries);
     }
-    folders.emplace_back(PROUPSELLS_PLUGIN_FOLDER);
     return folders;
 }
 

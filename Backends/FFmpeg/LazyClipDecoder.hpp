@@ -20,7 +20,8 @@ public:
     LazyClipDecoder(Pace pace, std::vector<std::filesystem::path> folders);
     ~LazyClipDecoder() override;
 
-    // Beside the running program, in the libraries' folder beside that, and where the package was installed.
+    // Beside the library that this code is in, beside the running program, and where the package's resources are looked for
+    // (foundation::resourcePlaces()): there, and in the package's folder of libraries.
     static std::vector<std::filesystem::path> defaultFolders();
 
     std::shared_ptr<host::Clip> open(const std::filesystem::path& file) override;

@@ -1,10 +1,10 @@
 #include "Backends/FFmpeg/PluginLoader.hpp"
 
-#include <dlfcn.h>
-
 #include <chrono>
 
 #include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/System/PathText.hpp"
+#include "Platform/System/SharedObject.hpp"
 
 namespace proupsells::ffmpegbackend {
 
@@ -20,15 +20,15 @@ PluginLoader::PluginLoader(Pace pace, const std::vector<std::filesystem::path>& 
     : m_pace(pace), m_outcome(std::async(std::launch::async, [folders] { return load(folders); })) {}
 
 PluginLoader::Outcome PluginLoader::load(const std::vector<std::filesystem::path>& folders) {
-    std::string reason = "there is no " + std::string(pluginFileName);
+    std::string reason = "there is no " + std::string(pluginFileName) + " in";
+    for (const auto& folder : folders) reason += (&folder == &folders.front() ? " " : ", ") + system::textOf(folder);
     for (const auto& folder : folders) {
         const auto file = folder / pluginFileName;
         std::error_code error;
         if (!std::filesystem::exists(file, error)) continue;
-        void* library = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
-        void* symbol = library ? dlsym(library, makeClipDecoderSymbol) : nullptr;
-        if (symbol) return {reinterpret_cast<MakeClipDecoder>(symbol), {}};
-        reason = dlerror();
+        system::SharedObject plugin(file);
+        if (const auto make = plugin.function(makeClipDecoderSymbol)) return {reinterpret_cast<MakeClipDecoder>(make), {}};
+        reason = plugin.complaint();
     }
     return {nullptr, "Clips cannot be played: " + reason};
 }

@@ -4,22 +4,16 @@
 #include <cmath>
 #include <cstring>
 
-// One function for every processor, and one for those with longer vectors; the loader takes its pick. Whole numbers come out the
-// same either way.
-#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__)
-#define PROUPSELLS_VECTORIZED __attribute__((target_clones("avx2", "default")))
-#else
-#define PROUPSELLS_VECTORIZED
-#endif
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::rasterbackend {
 
 namespace {
 
-// Into each of the versions: a call for each pixel would keep the loops from becoming vector code.
-#define PROUPSELLS_INSIDE [[gnu::always_inline]] inline
+// What pixels are blended with becomes part of each vectorized version: a call for each pixel would keep the loops from becoming
+// vector code.
 
-PROUPSELLS_INSIDE Pixel over(Pixel top, Pixel below) { return top + scaled(below, 255u - alphaOf(top)); }
+PROUPSELLS_ALWAYS_INLINE Pixel over(Pixel top, Pixel below) { return top + scaled(below, 255u - alphaOf(top)); }
 
 // Two channels of an opaque colour over what is there, by a share from 0 to 255.
 constexpr Pixel mixedPair(Pixel top, Pixel below, std::uint32_t share) {
@@ -28,7 +22,7 @@ constexpr Pixel mixedPair(Pixel top, Pixel below, std::uint32_t share) {
 }
 
 // Bytes that are all the same are written without reading what was there.
-PROUPSELLS_INSIDE void fill(Pixel* to, std::size_t count, Pixel color) {
+PROUPSELLS_ALWAYS_INLINE void fill(Pixel* to, std::size_t count, Pixel color) {
     if (color == (color & 0xFF) * 0x01010101u)
         std::memset(to, int(color & 0xFF), count * sizeof(Pixel));
     else
@@ -38,22 +32,22 @@ PROUPSELLS_INSIDE void fill(Pixel* to, std::size_t count, Pixel color) {
 // What lies below a row of pixels: what is there already, or one colour that has not been painted yet.
 struct Shown {
     const Pixel* pixels;
-    PROUPSELLS_INSIDE Pixel operator[](std::size_t index) const { return pixels[index]; }
-    PROUPSELLS_INSIDE Shown from(std::size_t index) const { return {pixels + index}; }
-    PROUPSELLS_INSIDE void copyTo(Pixel*, std::size_t) const {}
+    PROUPSELLS_ALWAYS_INLINE Pixel operator[](std::size_t index) const { return pixels[index]; }
+    PROUPSELLS_ALWAYS_INLINE Shown from(std::size_t index) const { return {pixels + index}; }
+    PROUPSELLS_ALWAYS_INLINE void copyTo(Pixel*, std::size_t) const {}
 };
 struct Ground {
     Pixel color;
-    PROUPSELLS_INSIDE Pixel operator[](std::size_t) const { return color; }
-    PROUPSELLS_INSIDE Ground from(std::size_t) const { return *this; }
-    PROUPSELLS_INSIDE void copyTo(Pixel* to, std::size_t count) const { std::fill_n(to, count, color); }
+    PROUPSELLS_ALWAYS_INLINE Pixel operator[](std::size_t) const { return color; }
+    PROUPSELLS_ALWAYS_INLINE Ground from(std::size_t) const { return *this; }
+    PROUPSELLS_ALWAYS_INLINE void copyTo(Pixel* to, std::size_t count) const { std::fill_n(to, count, color); }
 };
 
 // Most pictures are opaque or empty nearly everywhere, and by the group that costs less than blending.
 constexpr std::size_t group = 16;
 
 template <class Below>
-PROUPSELLS_INSIDE void blendGroup(Pixel* to, const Pixel* from, Below below) {
+PROUPSELLS_ALWAYS_INLINE void blendGroup(Pixel* to, const Pixel* from, Below below) {
     // Two pixels in each.
     std::uint64_t pairs[group / 2];
     std::memcpy(pairs, from, sizeof pairs);
@@ -72,7 +66,7 @@ PROUPSELLS_INSIDE void blendGroup(Pixel* to, const Pixel* from, Below below) {
 }
 
 template <class Below>
-PROUPSELLS_INSIDE void blendRow(Pixel* to, std::size_t count, const Pixel* from, std::uint8_t opacity, Below below) {
+PROUPSELLS_ALWAYS_INLINE void blendRow(Pixel* to, std::size_t count, const Pixel* from, std::uint8_t opacity, Below below) {
     std::size_t index = 0;
     if (opacity == 255)
         for (; index + group <= count; index += group) blendGroup(to + index, from + index, below.from(index));

@@ -4,12 +4,12 @@
 #include <charconv>
 #include <system_error>
 
-#include "Platform/Foundation/ResourceFolder.hpp"
+#include "Platform/Foundation/Resources.hpp"
 
 namespace proupsells::rasterbackend {
 
 std::filesystem::path shippedFaceFolder() {
-    return foundation::resourceFolder("Fonts", PROUPSELLS_BUILT_FACES, PROUPSELLS_INSTALLED_RESOURCES);
+    return foundation::findResource("Fonts").value_or(std::filesystem::path());
 }
 
 std::vector<FaceFile> facesInFolder(const std::filesystem::path& folder) {

@@ -5,7 +5,7 @@
 namespace proupsells::rasterbackend {
 
 std::shared_ptr<FilePicture> FilePicture::open(const std::filesystem::path& file, PixelSize size) {
-    const MappedFile mapped(file);
+    const system::MappedFile mapped(file);
     const auto compressed = compressedPicture(mapped.bytes(), size);
     if (!compressed) return nullptr;
     std::shared_ptr<FilePicture> picture(new FilePicture(file, *compressed));

@@ -8,9 +8,9 @@
 #include <unordered_map>
 #include <vector>
 
-#include "Backends/Raster/MappedFile.hpp"
 #include "Backends/Raster/Picture.hpp"
 #include "Backends/Raster/PictureCodec.hpp"
+#include "Platform/System/MappedFile.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -44,7 +44,7 @@ public:
         bool decompress(int index, Pixel* to);
 
         FilePicture& m_picture;
-        std::optional<MappedFile> m_mapped;
+        std::optional<system::MappedFile> m_mapped;
         std::optional<CompressedPicture> m_compressed;
     };
 

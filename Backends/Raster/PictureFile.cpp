@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "Backends/Raster/MappedFile.hpp"
 #include "Backends/Raster/PictureCodec.hpp"
 #include "Backends/Raster/PngReader.hpp"
 #include "Backends/Raster/Resampling.hpp"
 #include "Platform/Graphics/PictureHeader.hpp"
+#include "Platform/System/MappedFile.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -41,14 +41,14 @@ Picture readVariant(std::string_view bytes, const PictureHeader& header, PixelSi
 } // namespace
 
 std::optional<geometry::Size> naturalPictureSize(const std::filesystem::path& file) {
-    const MappedFile mapped(file);
+    const system::MappedFile mapped(file);
     if (const auto header = PictureHeader::parse(mapped.bytes(), mapped.bytes().size())) return header->naturalSize;
     return pngSize(mapped.bytes());
 }
 
 Picture readPicture(const std::filesystem::path& file, int width, int height) {
     if (width <= 0 || height <= 0) return {};
-    const MappedFile mapped(file);
+    const system::MappedFile mapped(file);
     const auto header = PictureHeader::parse(mapped.bytes(), mapped.bytes().size());
     const Picture picture = header ? readVariant(mapped.bytes(), *header, {width, height}) : pngPicture(mapped.bytes());
     return resampled(picture, width, height);

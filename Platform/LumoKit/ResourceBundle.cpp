@@ -1,12 +1,11 @@
 #include "Platform/LumoKit/ResourceBundle.hpp"
 
-#include "Platform/Foundation/ResourceFolder.hpp"
+#include "Platform/Foundation/Resources.hpp"
 
 namespace proupsells::lumokit {
 
 const foundation::Bundle& resourceBundle() {
-    static const foundation::Bundle bundle{
-        foundation::resourceFolder("VelaUIKit", VELAUIKIT_BUILT_RESOURCES, VELAUIKIT_INSTALLED_RESOURCES)};
+    static const foundation::Bundle bundle{foundation::requiredResource("VelaUIKit")};
     return bundle;
 }
 

@@ -7,7 +7,7 @@
 #include <cstdlib>
 
 #include "Backends/Raster/PictureFile.hpp"
-#include "Platform/Foundation/ResourceFolder.hpp"
+#include "Platform/Foundation/Resources.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
 #include "Tools/MakePictures/VectorFile.hpp"
@@ -66,12 +66,12 @@ protected:
 };
 
 TEST(MadePictures, AreTheVectorFilesPixelForPixel) {
-    expectMadeOf("ProUpsells/Resources/Images", foundation::resourceFolder("ProUpsells", {}, {}) / "Images");
-    expectMadeOf("Platform/VelaUIKit/Resources/Images", foundation::resourceFolder("VelaUIKit", {}, {}) / "Images");
+    expectMadeOf("ProUpsells/Resources/Images", foundation::requiredResource("ProUpsells") / "Images");
+    expectMadeOf("Platform/VelaUIKit/Resources/Images", foundation::requiredResource("VelaUIKit") / "Images");
 }
 
 TEST(MadePictures, AreNearTheVectorFilesAtFractionalScales) {
-    const auto made = foundation::resourceFolder("VelaUIKit", {}, {}) / "Images";
+    const auto made = foundation::requiredResource("VelaUIKit") / "Images";
     const std::filesystem::path vectors = "Platform/VelaUIKit/Resources/Images";
     for (const std::string icon : {"diamond24", "xmark"}) {
         const auto difference = [&](QSize size) {
@@ -84,7 +84,7 @@ TEST(MadePictures, AreNearTheVectorFilesAtFractionalScales) {
 }
 
 TEST(MadePictures, LieBesideEverythingElseThatTheLibraryBrings) {
-    const auto made = foundation::resourceFolder("ProUpsells", {}, {});
+    const auto made = foundation::requiredResource("ProUpsells");
 
     for (const auto& entry : std::filesystem::directory_iterator("ProUpsells/Resources/Clips"))
         EXPECT_TRUE(std::filesystem::is_regular_file(made / "Clips" / entry.path().filename())) << entry.path();

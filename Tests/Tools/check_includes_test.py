@@ -44,6 +44,10 @@ class Rooms(unittest.TestCase):
         self.assertEqual(len(complaints({"ProUpsells/Plans.cpp": "#include <QString>\n"})), 1)
         self.assertEqual(complaints({"Backends/Qt/Window.cpp": "#include <QString>\n"}), [])
 
+    def test_one_folder_knows_the_headers_of_a_system(self):
+        self.assertEqual(complaints({"Platform/System/Posix/MappedFile.cpp": "#include <sys/mman.h>\n"}), [])
+        self.assertEqual(len(complaints({"Platform/System/MappedFile.hpp": "#include <sys/mman.h>\n"})), 1)
+
     def test_the_module_does_not_know_a_backend(self):
         self.assertEqual(len(complaints({"ProUpsells/Plans.cpp": '#include "Backends/Qt/Window.hpp"\n'})), 1)
 

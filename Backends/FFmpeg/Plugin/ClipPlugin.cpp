@@ -3,6 +3,7 @@
 #include "Backends/FFmpeg/Plugin/Complaints.hpp"
 #include "Backends/FFmpeg/Plugin/PlayedClip.hpp"
 #include "Backends/FFmpeg/Plugin/Worker.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::ffmpegbackend {
 
@@ -26,7 +27,7 @@ private:
 
 } // namespace
 
-extern "C" __attribute__((visibility("default"))) host::ClipDecoder* proupsellsMakeClipDecoder(const PluginHost& host) {
+extern "C" PROUPSELLS_EXPORTED host::ClipDecoder* proupsellsMakeClipDecoder(const PluginHost& host) {
     return new FFmpegClipDecoder(host);
 }
 

@@ -1,11 +1,11 @@
-#include "Backends/Raster/MappedFile.hpp"
+#include "Platform/System/MappedFile.hpp"
 
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace proupsells::rasterbackend {
+namespace proupsells::system {
 
 MappedFile::MappedFile(const std::filesystem::path& file) {
     // Not to wait for somebody to write into a pipe.
@@ -24,4 +24,4 @@ MappedFile::~MappedFile() {
     if (!m_bytes.empty()) munmap(const_cast<char*>(m_bytes.data()), m_bytes.size());
 }
 
-} // namespace proupsells::rasterbackend
+} // namespace proupsells::system

@@ -1,10 +1,10 @@
-// A file's bytes, read when they are looked at.
+// A file's bytes, read when they are looked at, where the system can do that.
 #pragma once
 
 #include <filesystem>
 #include <string_view>
 
-namespace proupsells::rasterbackend {
+namespace proupsells::system {
 
 class MappedFile {
 public:
@@ -21,4 +21,4 @@ private:
     std::string_view m_bytes;
 };
 
-} // namespace proupsells::rasterbackend
+} // namespace proupsells::system

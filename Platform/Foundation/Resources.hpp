@@ -1,0 +1,30 @@
+// Where the package's own resources lie: pictures, faces, clips.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace proupsells::foundation {
+
+// For a host that brings the resources along in a folder of its own: the one that has a folder for each library, such as `ProUpsells`.
+// It is asked before all other places. To be set before the first screen; the empty path takes it back.
+void setResourceRoot(std::filesystem::path folder);
+
+// Another place, asked after the others; UTF-8. Programs that are built against the package name the package's folder so, by a source
+// that its build files bring along.
+void addResourcePlace(std::string_view folder);
+
+// Where resources are looked for, in this order: the host's folder; `share/proupsells` beside the library that this code is in, or in
+// one of the three folders above it; the same of the running program; the places that were added.
+std::vector<std::filesystem::path> resourcePlaces();
+
+// The folder or file `name` in the first place that has it; absent where none does.
+std::optional<std::filesystem::path> findResource(std::string_view name);
+
+// The same, where nothing can be shown without it: stops the program where no place has it, naming them all.
+std::filesystem::path requiredResource(std::string_view name);
+
+} // namespace proupsells::foundation

@@ -1,0 +1,79 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "Platform/Foundation/Resources.hpp"
+#include "Platform/System/PathText.hpp"
+#include "Platform/System/ProgramFile.hpp"
+#include "Tests/Support/TemporaryFolder.hpp"
+
+using namespace proupsells;
+
+using foundation::findResource;
+using foundation::resourcePlaces;
+using testing::Contains;
+
+namespace {
+
+class Resources : public testing::Test {
+protected:
+    ~Resources() override { foundation::setResourceRoot({}); }
+
+    std::filesystem::path made(const char* name) const {
+        std::filesystem::create_directories(folder.path() / name);
+        return folder.path() / name;
+    }
+
+    tests::TemporaryFolder folder;
+};
+
+TEST_F(Resources, AreLookedForNearTheProgramAndUpToThreeFoldersAbove) {
+    std::filesystem::path near = system::programFile().parent_path();
+    if (near.empty()) GTEST_SKIP() << "this system does not tell the program's file";
+
+    EXPECT_EQ(resourcePlaces().front(), near / "share" / "proupsells");
+    EXPECT_THAT(resourcePlaces(), Contains(near.parent_path() / "share" / "proupsells"));
+}
+
+TEST_F(Resources, AreTheHostsOwnBeforeAllOthers) {
+    const auto own = made("own/Kit");
+    foundation::setResourceRoot(folder.path() / "own");
+
+    EXPECT_EQ(findResource("Kit"), own);
+    EXPECT_EQ(findResource("Other"), std::nullopt);
+}
+
+TEST_F(Resources, MayBeSingleFiles) {
+    std::ofstream(made("own") / "offers.json") << "{}";
+    foundation::setResourceRoot(folder.path() / "own");
+
+    EXPECT_EQ(findResource("offers.json"), folder.path() / "own/offers.json");
+}
+
+TEST_F(Resources, AreFoundWhereThePackageWasNamed) {
+    const auto named = made("paqué/Kit");
+    foundation::addResourcePlace(system::textOf(folder.path() / "paqué"));
+    foundation::addResourcePlace(system::textOf(folder.path() / "paqué"));
+
+    EXPECT_EQ(findResource("Kit"), named);
+    EXPECT_THAT(resourcePlaces(), Contains(folder.path() / "paqué").Times(1));
+}
+
+TEST_F(Resources, AreNeeded) {
+    const auto own = made("own/Kit");
+    foundation::setResourceRoot(folder.path() / "own");
+
+    EXPECT_EQ(foundation::requiredResource("Kit"), own);
+}
+
+using ResourcesDeathTest = Resources;
+
+TEST_F(ResourcesDeathTest, StopTheProgramWhereTheyAreMissingAndNameEveryPlace) {
+    foundation::setResourceRoot(folder.path() / "own");
+    for (const auto& place : resourcePlaces())
+        EXPECT_DEATH(foundation::requiredResource("Nowhere"),
+                     "The resources of Nowhere were looked for in vain in .*" + system::textOf(place) + ".*setResourceRoot");
+}
+
+} // namespace
