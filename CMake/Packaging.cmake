@@ -1,14 +1,17 @@
-# The libraries that a host links: put together from rooms, installed with their public headers, checked header by header.
+# The libraries that a host links: put together from rooms, installed with their public headers, each a component of the package.
 
 include_guard(GLOBAL)
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 include(PublicHeaders)
 
-# proupsells_add_library(<name> ROOMS <room>... [LINKS <target>...])
-# A static library of exactly these rooms. It is installed as ProUpsells::<name>, with the headers of PROUPSELLS_<name>_HEADERS.
+set(PROUPSELLS_PACKAGE_FOLDER ${CMAKE_INSTALL_LIBDIR}/cmake/ProUpsells)
+
+# proupsells_add_library(<name> ROOMS <room>... [LINKS <library>...] [LIBRARIES <target>...] [MODULES <pkg-config module>...])
+# A library of exactly these rooms, on others of ours and on others' (which pkg-config knows as MODULES). It is installed as
+# ProUpsells::<name>, the component <name> of the package, with the headers of PROUPSELLS_<name>_HEADERS.
 function(proupsells_add_library name)
-  cmake_parse_arguments(LIBRARY "" "" "ROOMS;LINKS" ${ARGN})
+  cmake_parse_arguments(LIBRARY "" "" "ROOMS;LINKS;LIBRARIES;MODULES" ${ARGN})
   set(target ${name}Library)
   set(objects)
   foreach(room IN LISTS LIBRARY_ROOMS)
@@ -19,36 +22,82 @@ function(proupsells_add_library name)
   set(umbrella ${headers})
   list(FILTER umbrella INCLUDE REGEX "^${PROJECT_SOURCE_DIR}/Include/")
   list(REMOVE_ITEM headers ${umbrella})
+  list(TRANSFORM LIBRARY_LINKS PREPEND ProUpsells:: OUTPUT_VARIABLE ours)
 
   add_library(${target} STATIC ${objects})
   add_library(ProUpsells::${name} ALIAS ${target})
   set_target_properties(${target} PROPERTIES OUTPUT_NAME ProUpsells${name} EXPORT_NAME ${name} LINKER_LANGUAGE CXX
     VERIFY_INTERFACE_HEADER_SETS ON)
   set_property(GLOBAL APPEND PROPERTY PROUPSELLS_PUBLIC_HEADERS ${PROUPSELLS_${name}_HEADERS})
+  set_property(GLOBAL APPEND PROPERTY PROUPSELLS_COMPONENTS ${name})
+  set_property(GLOBAL PROPERTY PROUPSELLS_LINKS_${name} ${LIBRARY_LINKS})
   # Two roots in the source tree, one where they are installed.
   target_sources(${target} PUBLIC
     FILE_SET headers TYPE HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}" FILES ${headers}
     FILE_SET umbrella TYPE HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}/Include" FILES ${umbrella})
   target_compile_features(${target} PUBLIC cxx_std_20)
-  target_link_libraries(${target} PUBLIC ${LIBRARY_LINKS})
-  install(TARGETS ${target} EXPORT ProUpsells
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+  target_link_libraries(${target} PUBLIC ${ours} ${LIBRARY_LIBRARIES})
+  install(TARGETS ${target} EXPORT ProUpsells${name}
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development
     FILE_SET headers DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/proupsells COMPONENT Headers
     FILE_SET umbrella DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/proupsells COMPONENT Headers)
+  install(EXPORT ProUpsells${name} NAMESPACE ProUpsells:: DESTINATION ${PROUPSELLS_PACKAGE_FOLDER} COMPONENT Development)
+  proupsells_install_module(${name})
 endfunction()
 
-# proupsells_install_package(): the files that find_package(ProUpsells) reads.
+# For hosts that use pkg-config: proupsells.pc is the module, proupsells-<component>.pc a component.
+function(proupsells_install_module name)
+  string(TOLOWER "proupsells-${name}" module)
+  string(REPLACE "proupsells-proupsells" "proupsells" module ${module})
+  list(TRANSFORM LIBRARY_LINKS TOLOWER OUTPUT_VARIABLE requires)
+  list(TRANSFORM requires PREPEND "proupsells-")
+  list(TRANSFORM requires REPLACE "^proupsells-proupsells$" "proupsells")
+  list(APPEND requires ${LIBRARY_MODULES})
+  list(JOIN requires ", " requires)
+  cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig" OUTPUT_VARIABLE up)
+  file(CONFIGURE OUTPUT "${PROJECT_BINARY_DIR}/${module}.pc" @ONLY CONTENT [[prefix=${pcfiledir}/@up@
+libdir=${prefix}/@CMAKE_INSTALL_LIBDIR@
+includedir=${prefix}/@CMAKE_INSTALL_INCLUDEDIR@
+resources=${prefix}/@CMAKE_INSTALL_DATADIR@/proupsells
+
+Name: @module@
+Description: Screens that sell a subscription, component @name@
+Version: @PROJECT_VERSION@
+Requires: @requires@
+Libs: -L${libdir} -lProUpsells@name@
+Libs.private: -lstdc++ -lm -ldl
+Cflags: -I${includedir}/proupsells
+]])
+  install(FILES "${PROJECT_BINARY_DIR}/${module}.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
+endfunction()
+
+# proupsells_install_package(): the files that find_package(ProUpsells) reads, and the licence.
 # PublicHeaders.txt in the build folder then names what the libraries install, a header a line.
 function(proupsells_install_package)
   get_property(headers GLOBAL PROPERTY PROUPSELLS_PUBLIC_HEADERS)
   list(JOIN headers "\n" lines)
   file(CONFIGURE OUTPUT "${PROJECT_BINARY_DIR}/PublicHeaders.txt" CONTENT "${lines}\n" @ONLY)
-  set(destination ${CMAKE_INSTALL_LIBDIR}/cmake/ProUpsells)
-  install(EXPORT ProUpsells NAMESPACE ProUpsells:: DESTINATION ${destination})
+
+  get_property(PROUPSELLS_COMPONENTS GLOBAL PROPERTY PROUPSELLS_COMPONENTS)
+  set(PROUPSELLS_COMPONENT_LINKS "")
+  foreach(component IN LISTS PROUPSELLS_COMPONENTS)
+    get_property(links GLOBAL PROPERTY PROUPSELLS_LINKS_${component})
+    string(APPEND PROUPSELLS_COMPONENT_LINKS "set(ProUpsells_${component}_LINKS ${links})\n")
+  endforeach()
   set(PROUPSELLS_DATA ${CMAKE_INSTALL_DATADIR}/proupsells)
   configure_package_config_file("${PROJECT_SOURCE_DIR}/CMake/ProUpsellsConfig.cmake.in"
-    "${PROJECT_BINARY_DIR}/ProUpsellsConfig.cmake" INSTALL_DESTINATION ${destination} PATH_VARS PROUPSELLS_DATA)
+    "${PROJECT_BINARY_DIR}/ProUpsellsConfig.cmake" INSTALL_DESTINATION ${PROUPSELLS_PACKAGE_FOLDER} PATH_VARS PROUPSELLS_DATA
+    NO_CHECK_REQUIRED_COMPONENTS_MACRO)
   write_basic_package_version_file("${PROJECT_BINARY_DIR}/ProUpsellsConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
   install(FILES "${PROJECT_BINARY_DIR}/ProUpsellsConfig.cmake" "${PROJECT_BINARY_DIR}/ProUpsellsConfigVersion.cmake"
-    DESTINATION ${destination})
+    "${PROJECT_SOURCE_DIR}/CMake/ResourcePlace.cpp.in" DESTINATION ${PROUPSELLS_PACKAGE_FOLDER} COMPONENT Development)
+  install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/proupsells RENAME copyright
+    COMPONENT Runtime)
+
+  # Hosts that build this project as a part of their own have their programs somewhere else.
+  if(NOT PROJECT_IS_TOP_LEVEL)
+    set(ProUpsells_RESOURCES "${PROUPSELLS_BUILT_RESOURCES}")
+    configure_file("${PROJECT_SOURCE_DIR}/CMake/ResourcePlace.cpp.in" "${PROJECT_BINARY_DIR}/ResourcePlace.cpp" @ONLY)
+    target_sources(PlatformLibrary INTERFACE "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/ResourcePlace.cpp>")
+  endif()
 endfunction()

@@ -20,6 +20,8 @@ set(PROUPSELLS_Platform_HEADERS
   Platform/Foundation/LanguageChanges.hpp
   Platform/Foundation/Locale.hpp
   Platform/Foundation/LocaleServices.hpp
+  Platform/Foundation/ResourcePlace.hpp
+  Platform/Foundation/Resources.hpp
   Platform/Geometry/Axis.hpp
   Platform/Geometry/Geometry.hpp
   Platform/Geometry/Path.hpp

@@ -5,16 +5,8 @@ include_guard(GLOBAL)
 
 add_custom_target(ProUpsellsResources ALL)
 
-# proupsells_resource_folder(<variable> <name> <folder>): where programs find a library's resources in this build, wherever they lie
-# themselves.
-function(proupsells_resource_folder variable name folder)
-  if(PROUPSELLS_BACKENDS)
-    cmake_path(SET made NORMALIZE "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/../share/proupsells/${name}")
-    set(${variable} "${made}" PARENT_SCOPE)
-  else()
-    set(${variable} "${PROJECT_SOURCE_DIR}/${folder}" PARENT_SCOPE)
-  endif()
-endfunction()
+# Where the programs of this build find them.
+cmake_path(SET PROUPSELLS_BUILT_RESOURCES NORMALIZE "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/../share/proupsells")
 
 # proupsells_add_resources(<name> <folder> [SIZES <picture>:<width>x<height>...])
 # The resources of a library. SIZES are those in points, beside their natural ones, at which pictures are shown.
@@ -22,12 +14,17 @@ function(proupsells_add_resources name folder)
   cmake_parse_arguments(RESOURCES "" "" "SIZES" ${ARGN})
   set(from "${PROJECT_SOURCE_DIR}/${folder}")
   set(installed ${CMAKE_INSTALL_DATADIR}/proupsells/${name})
-  if(NOT PROUPSELLS_BACKENDS)
-    install(DIRECTORY "${from}/" DESTINATION ${installed} PATTERN "*.md" EXCLUDE)
+  set(to "${PROUPSELLS_BUILT_RESOURCES}/${name}")
+  if(NOT PROUPSELLS_RASTER)
+    file(MAKE_DIRECTORY "${PROUPSELLS_BUILT_RESOURCES}")
+    file(CREATE_LINK "${from}" "${to}" SYMBOLIC)
+    install(DIRECTORY "${from}/" DESTINATION ${installed} COMPONENT Runtime PATTERN "*.md" EXCLUDE)
     return()
   endif()
-
-  proupsells_resource_folder(to ${name} ${folder})
+  # A link to the sources, from a build without pictures.
+  if(IS_SYMLINK "${to}")
+    file(REMOVE "${to}")
+  endif()
   file(MAKE_DIRECTORY "${to}/Images")
   file(GLOB others CONFIGURE_DEPENDS "${from}/*")
   list(FILTER others EXCLUDE REGEX "/Images$|\\.md$")
@@ -62,6 +59,6 @@ function(proupsells_add_resources name folder)
 
   add_custom_target(${name}Pictures DEPENDS ${pictures})
   add_dependencies(ProUpsellsResources ${name}Pictures)
-  install(DIRECTORY "${from}/" DESTINATION ${installed} PATTERN "*.md" EXCLUDE PATTERN "*.svg" EXCLUDE)
-  install(FILES ${pictures} DESTINATION ${installed}/Images)
+  install(DIRECTORY "${from}/" DESTINATION ${installed} COMPONENT Runtime PATTERN "*.md" EXCLUDE PATTERN "*.svg" EXCLUDE)
+  install(FILES ${pictures} DESTINATION ${installed}/Images COMPONENT Runtime)
 endfunction()

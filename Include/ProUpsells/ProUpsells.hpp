@@ -18,6 +18,8 @@
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Foundation/Locale.hpp"
+#include "Platform/Foundation/ResourcePlace.hpp"
+#include "Platform/Foundation/Resources.hpp"
 #include "Platform/Host/Services.hpp"
 #include "Platform/RunLoop/Clock.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"

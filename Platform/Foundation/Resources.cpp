@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "Platform/Commons/FatalError.hpp"
+#include "Platform/Foundation/ResourcePlace.hpp"
 #include "Platform/System/PathText.hpp"
 #include "Platform/System/ProgramFile.hpp"
 
@@ -37,7 +38,7 @@ void addPlacesNear(const std::filesystem::path& file, std::vector<std::filesyste
 
 void setResourceRoot(std::filesystem::path folder) { resourceRoot() = std::move(folder); }
 
-void addResourcePlace(std::string_view folder) { addOnce(addedPlaces(), system::pathOf(folder)); }
+ResourcePlace::ResourcePlace(const char* folder) { addOnce(addedPlaces(), system::pathOf(folder)); }
 
 std::vector<std::filesystem::path> resourcePlaces() {
     std::vector<std::filesystem::path> places;

@@ -13,12 +13,8 @@ namespace proupsells::foundation {
 // It is asked before all other places. To be set before the first screen; the empty path takes it back.
 void setResourceRoot(std::filesystem::path folder);
 
-// Another place, asked after the others; UTF-8. Programs that are built against the package name the package's folder so, by a source
-// that its build files bring along.
-void addResourcePlace(std::string_view folder);
-
 // Where resources are looked for, in this order: the host's folder; `share/proupsells` beside the library that this code is in, or in
-// one of the three folders above it; the same of the running program; the places that were added.
+// one of the three folders above it; the same of the running program; each ResourcePlace.
 std::vector<std::filesystem::path> resourcePlaces();
 
 // The folder or file `name` in the first place that has it; absent where none does.

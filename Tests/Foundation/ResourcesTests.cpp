@@ -3,6 +3,7 @@
 
 #include <fstream>
 
+#include "Platform/Foundation/ResourcePlace.hpp"
 #include "Platform/Foundation/Resources.hpp"
 #include "Platform/System/PathText.hpp"
 #include "Platform/System/ProgramFile.hpp"
@@ -16,9 +17,9 @@ using testing::Contains;
 
 namespace {
 
-class Resources : public testing::Test {
+class ResourcePlaces : public testing::Test {
 protected:
-    ~Resources() override { foundation::setResourceRoot({}); }
+    ~ResourcePlaces() override { foundation::setResourceRoot({}); }
 
     std::filesystem::path made(const char* name) const {
         std::filesystem::create_directories(folder.path() / name);
@@ -28,7 +29,7 @@ protected:
     tests::TemporaryFolder folder;
 };
 
-TEST_F(Resources, AreLookedForNearTheProgramAndUpToThreeFoldersAbove) {
+TEST_F(ResourcePlaces, AreLookedForNearTheProgramAndUpToThreeFoldersAbove) {
     std::filesystem::path near = system::programFile().parent_path();
     if (near.empty()) GTEST_SKIP() << "this system does not tell the program's file";
 
@@ -36,7 +37,7 @@ TEST_F(Resources, AreLookedForNearTheProgramAndUpToThreeFoldersAbove) {
     EXPECT_THAT(resourcePlaces(), Contains(near.parent_path() / "share" / "proupsells"));
 }
 
-TEST_F(Resources, AreTheHostsOwnBeforeAllOthers) {
+TEST_F(ResourcePlaces, AreTheHostsOwnBeforeAllOthers) {
     const auto own = made("own/Kit");
     foundation::setResourceRoot(folder.path() / "own");
 
@@ -44,32 +45,32 @@ TEST_F(Resources, AreTheHostsOwnBeforeAllOthers) {
     EXPECT_EQ(findResource("Other"), std::nullopt);
 }
 
-TEST_F(Resources, MayBeSingleFiles) {
+TEST_F(ResourcePlaces, MayBeSingleFiles) {
     std::ofstream(made("own") / "offers.json") << "{}";
     foundation::setResourceRoot(folder.path() / "own");
 
     EXPECT_EQ(findResource("offers.json"), folder.path() / "own/offers.json");
 }
 
-TEST_F(Resources, AreFoundWhereThePackageWasNamed) {
+TEST_F(ResourcePlaces, AreFoundWhereThePackageWasNamed) {
     const auto named = made("paqué/Kit");
-    foundation::addResourcePlace(system::textOf(folder.path() / "paqué"));
-    foundation::addResourcePlace(system::textOf(folder.path() / "paqué"));
+    const foundation::ResourcePlace place(system::textOf(folder.path() / "paqué").c_str());
+    const foundation::ResourcePlace again(system::textOf(folder.path() / "paqué").c_str());
 
     EXPECT_EQ(findResource("Kit"), named);
     EXPECT_THAT(resourcePlaces(), Contains(folder.path() / "paqué").Times(1));
 }
 
-TEST_F(Resources, AreNeeded) {
+TEST_F(ResourcePlaces, AreNeeded) {
     const auto own = made("own/Kit");
     foundation::setResourceRoot(folder.path() / "own");
 
     EXPECT_EQ(foundation::requiredResource("Kit"), own);
 }
 
-using ResourcesDeathTest = Resources;
+using ResourcePlacesDeathTest = ResourcePlaces;
 
-TEST_F(ResourcesDeathTest, StopTheProgramWhereTheyAreMissingAndNameEveryPlace) {
+TEST_F(ResourcePlacesDeathTest, StopTheProgramWhereTheyAreMissingAndNameEveryPlace) {
     foundation::setResourceRoot(folder.path() / "own");
     for (const auto& place : resourcePlaces())
         EXPECT_DEATH(foundation::requiredResource("Nowhere"),

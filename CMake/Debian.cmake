@@ -1,0 +1,38 @@
+# Packages for Debian: cpack -G DEB in the build folder. `libproupsells` has what programs need when they run, `libproupsells-dev` what
+# they are built with, `proupsells` the program.
+
+include_guard(GLOBAL)
+if(NOT PROJECT_IS_TOP_LEVEL)
+  return()
+endif()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME proupsells)
+set(CPACK_PACKAGE_VENDOR "ProUpsells")
+set(CPACK_PACKAGE_CONTACT "The authors of ProUpsells <proupsells@example.org>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Screens that sell a subscription, for C++ applications")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_COMPONENTS_ALL Runtime Development Headers Program)
+set(CPACK_COMPONENTS_GROUPING ONE_PER_GROUP)
+set(CPACK_COMPONENT_RUNTIME_GROUP runtime)
+set(CPACK_COMPONENT_DEVELOPMENT_GROUP dev)
+set(CPACK_COMPONENT_HEADERS_GROUP dev)
+set(CPACK_COMPONENT_PROGRAM_GROUP program)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libproupsells)
+set(CPACK_DEBIAN_DEV_PACKAGE_NAME libproupsells-dev)
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME proupsells)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION graphics)
+set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "libproupsells (= ${PROJECT_VERSION})")
+# Each is wanted by one component only.
+set(CPACK_DEBIAN_DEV_PACKAGE_RECOMMENDS
+  "pkg-config, libharfbuzz-dev, libfreetype-dev, libfontconfig-dev, libicu-dev, libpng-dev, liblz4-dev")
+set(CPACK_DEBIAN_DEV_PACKAGE_SUGGESTS "qt6-base-dev, qt6-declarative-dev")
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "libproupsells (= ${PROJECT_VERSION})")
+include(CPack)

@@ -1,0 +1,13 @@
+// A place of resources, named from outside.
+#pragma once
+
+namespace proupsells::foundation {
+
+// As a global object of a program: resources are looked for in `folder`, in UTF-8, too, after all other places. The package's build
+// files make one for each program that is built against it.
+class ResourcePlace {
+public:
+    explicit ResourcePlace(const char* folder);
+};
+
+} // namespace proupsells::foundation
