@@ -21,6 +21,7 @@ public:
     std::filesystem::path file;
     std::optional<std::filesystem::path> darkFile; // shown instead in the dark colour scheme
     RenderingMode renderingMode = RenderingMode::original;
+    std::shared_ptr<const Image> standIn; // painted in its place, at its size; null for none
 
     const std::filesystem::path& fileFor(ColorScheme scheme) const {
         return scheme == ColorScheme::dark && darkFile ? *darkFile : file;
