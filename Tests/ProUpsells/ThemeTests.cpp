@@ -154,10 +154,12 @@ TEST_F(ThemeTest, LeavesNothingInOurColorsWhereItReplacesThemAll) {
     }
 }
 
+// The header has moved on to its second page, and stays there.
 TEST_F(ThemeTest, IsFollowedByAScreenThatIsShown) {
     for (const Shown screen : everyScreen) {
         setTheme({});
         open(screen);
+        bed.runFor(6);
         const std::string before = described(window->semanticTree());
         ASSERT_FALSE(paints(green));
         bool isAnnounced = false;
