@@ -32,8 +32,8 @@ struct Referrer {
     std::optional<ElementID> elementID;
 
     // A text alone is a name without an element.
-    Referrer(const char* name) : name(name) {}
-    Referrer(std::string name) : name(std::move(name)) {}
+    Referrer(const char* screen) : name(screen) {}
+    Referrer(std::string screen) : name(std::move(screen)) {}
     Referrer(std::string name, std::optional<std::int64_t> elementID);
     Referrer(std::string name, std::int64_t elementID);
     // Always an `ElementID::Uuid`, whatever the text looks like.
