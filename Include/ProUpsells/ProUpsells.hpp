@@ -26,3 +26,8 @@
 
 // Reading the screen back, as a test does.
 #include "Platform/Accessibility/Search.hpp"
+
+// As pkg-config names the package's place. CMake's files bring a source that does the same.
+#ifdef PROUPSELLS_RESOURCES
+inline const proupsells::foundation::ResourcePlace proupsellsPackage(PROUPSELLS_RESOURCES);
+#endif
