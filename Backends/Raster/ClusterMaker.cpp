@@ -6,6 +6,7 @@
 #include <unicode/utext.h>
 
 #include "Platform/Commons/FatalError.hpp"
+#include "Platform/Foundation/PlainCharacters.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -32,9 +33,7 @@ bool isBlank(char16_t unit) {
 bool mayEndALine(char16_t last) { return last != u'\u00AD' && last != u'/'; }
 
 // Whether every unit is a character, and every character a cluster.
-bool isPlain(const std::u16string& units) {
-    return std::all_of(units.begin(), units.end(), [](char16_t unit) { return unit < 0x300 && unit != u'\r'; });
-}
+bool isPlain(const std::u16string& units) { return std::all_of(units.begin(), units.end(), foundation::isPlainCharacter); }
 
 } // namespace
 
@@ -58,13 +57,16 @@ struct ClusterMaker::Rules {
     }
 };
 
-ClusterMaker::ClusterMaker() {
+ClusterMaker::ClusterMaker() = default;
+ClusterMaker::~ClusterMaker() = default;
+
+ClusterMaker::Rules& ClusterMaker::characterRules() {
+    if (m_characters) return *m_characters;
     UErrorCode status = U_ZERO_ERROR;
     icu::BreakIterator* characters = icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status);
     m_characters = std::make_unique<Rules>(characters, status);
+    return *m_characters;
 }
-
-ClusterMaker::~ClusterMaker() = default;
 
 ClusterMaker::Rules& ClusterMaker::lineRules(std::string_view language) {
     const auto found = m_lines.find(language);
@@ -87,7 +89,7 @@ void ClusterMaker::findStarts(const RunUnits& text, std::vector<std::uint32_t>& 
         for (std::uint32_t unit = 0; unit <= units.size(); ++unit) starts.push_back(unit);
         return;
     }
-    icu::BreakIterator& characters = m_characters->in(units);
+    icu::BreakIterator& characters = characterRules().in(units);
     std::size_t run = 0;
     std::uint32_t at = 0;
     while (at < units.size()) {

@@ -27,10 +27,11 @@ public:
 private:
     struct Rules;
 
+    Rules& characterRules();
     Rules& lineRules(std::string_view language);
     void findStarts(const RunUnits& text, std::vector<std::uint32_t>& starts);
 
-    std::unique_ptr<Rules> m_characters;
+    std::unique_ptr<Rules> m_characters; // null until a text needs them
     std::map<std::string, std::unique_ptr<Rules>, std::less<>> m_lines;
 };
 
