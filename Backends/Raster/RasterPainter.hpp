@@ -53,9 +53,10 @@ private:
     PlacedMask shapeMask(const Job& job, const Item& item);
     PlacedMask outlineMask(const Job& job, const Item& item);
 
-    ShapeMasks m_shapes;
-    TextRasters m_texts;
-    ImageRasters m_images;
+    CoverageRasterizer m_rasterizer;
+    ShapeMasks m_shapes{m_rasterizer};
+    TextRasters m_texts{m_rasterizer};
+    ImageRasters m_images{m_rasterizer};
 };
 
 } // namespace proupsells::rasterbackend
