@@ -20,6 +20,9 @@ struct PaintTarget {
     PixelSize size;
 };
 
+// The pixels of which a command shows nothing that is painted before it.
+PixelRect hiddenPixels(const graphics::Command& command, double scale);
+
 // Every command becomes a colour under a mask or a picture, made for whole pixels and kept for the next time; so a part of a list
 // comes out the same whether it is painted alone or with the rest. Main thread only.
 class RasterPainter {
