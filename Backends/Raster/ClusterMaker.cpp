@@ -109,7 +109,15 @@ void ClusterMaker::makeClusters(const RunUnits& text, std::string_view language,
     clusters.resize(unitStarts.size() - 1);
     if (clusters.empty()) return;
     const std::u16string& units = text.units();
-    icu::BreakIterator& lines = lineRules(language).in(units);
+    // A language may ask for its own rules.
+    const bool isPlain = language.find("-lb-") == std::string_view::npos && m_plainBreaks.read(units);
+    icu::BreakIterator* const lines = isPlain ? nullptr : &lineRules(language).in(units);
+    const auto mayEndAt = [&](std::uint32_t end) {
+        if (isPlain) return m_plainBreaks.mayEndAfter(end - 1);
+        while (lines->current() < std::int32_t(end) && lines->next() != icu::BreakIterator::DONE) {
+        }
+        return lines->current() == std::int32_t(end);
+    };
     std::size_t run = 0;
     for (std::size_t index = 0; index < clusters.size(); ++index) {
         const std::uint32_t start = unitStarts[index], end = unitStarts[index + 1];
@@ -121,13 +129,11 @@ void ClusterMaker::makeClusters(const RunUnits& text, std::string_view language,
 
         const char16_t last = units[end - 1];
         cluster.isWhitespace = isLineFeed(last) || isBlank(units[start]);
-        while (lines.current() < std::int32_t(end) && lines.next() != icu::BreakIterator::DONE) {
-        }
         if (isLineFeed(last)) {
             // A carriage return and its line feed stay together even across runs.
             const bool continues = last == u'\r' && end < units.size() && units[end] == u'\n';
             cluster.breakAfter = continues ? LineBreak::none : LineBreak::mandatory;
-        } else if (end < units.size() && lines.current() == std::int32_t(end) && mayEndALine(last)) {
+        } else if (end < units.size() && mayEndALine(last) && mayEndAt(end)) {
             cluster.breakAfter = LineBreak::allowed;
         }
     }

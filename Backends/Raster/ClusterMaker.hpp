@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "Backends/Raster/PlainLineBreaks.hpp"
 #include "Backends/Raster/RunUnits.hpp"
 
 namespace proupsells::rasterbackend {
@@ -33,6 +34,7 @@ private:
 
     std::unique_ptr<Rules> m_characters; // null until a text needs them
     std::map<std::string, std::unique_ptr<Rules>, std::less<>> m_lines;
+    PlainLineBreaks m_plainBreaks;
 };
 
 } // namespace proupsells::rasterbackend
