@@ -97,6 +97,7 @@ std::optional<icu::UnicodeString> NumberElements::ofSystem(const char* table, co
 }
 
 std::optional<icu::UnicodeString> NumberElements::digits() const {
+    if (m_system == latin) return std::nullopt;
     const BundleRef systems = opened("numberingSystems");
     BundleRef system = systems.isValid() ? child(systems.getAlias(), "numberingSystems") : BundleRef();
     if (system.isValid()) system = child(system.getAlias(), m_system.c_str());

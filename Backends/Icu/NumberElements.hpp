@@ -26,7 +26,7 @@ public:
     std::optional<icu::UnicodeString> pattern(const char* name) const { return ofSystem("patterns", name); }
     // An element that all numbering systems share.
     std::optional<icu::UnicodeString> element(const char* name) const;
-    // The ten digits; absent where the numbering system is none of ten digits, and numbers are written with ASCII's.
+    // The ten digits; absent where numbers are written with ASCII's.
     std::optional<icu::UnicodeString> digits() const;
 
 private:

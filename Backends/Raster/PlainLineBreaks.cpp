@@ -1,9 +1,8 @@
 #include "Backends/Raster/PlainLineBreaks.hpp"
 
 #include <algorithm>
+#include <array>
 #include <initializer_list>
-
-#include "Platform/Foundation/PlainCharacters.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -19,16 +18,36 @@ bool isHyphen(ULineBreak kind) { return kind == U_LB_HYPHEN || kind == U_LB_BREA
 bool isClosing(ULineBreak kind) { return kind == U_LB_CLOSE_PUNCTUATION || kind == U_LB_CLOSE_PARENTHESIS; }
 bool isInsideNumbers(ULineBreak kind) { return kind == U_LB_INFIX_NUMERIC || kind == U_LB_BREAK_SYMBOLS; }
 
-// Unknown where the rules below know nothing of it. A true hyphen has rules of its own in ICU.
+// From each character on, up to the next one of the list: Unicode's kinds by their short names. XX where the rules below know
+// nothing of it; a true hyphen has rules of its own in ICU.
+struct KindFrom {
+    char16_t first;
+    ULineBreak kind;
+};
+constexpr auto kinds = [] {
+    constexpr ULineBreak AL = U_LB_ALPHABETIC, B2 = U_LB_BREAK_BOTH, BA = U_LB_BREAK_AFTER, BB = U_LB_BREAK_BEFORE,
+                         CL = U_LB_CLOSE_PUNCTUATION, CP = U_LB_CLOSE_PARENTHESIS, EX = U_LB_EXCLAMATION, GL = U_LB_GLUE,
+                         HY = U_LB_HYPHEN, IN = U_LB_INSEPARABLE, IS = U_LB_INFIX_NUMERIC, LF = U_LB_LINE_FEED, NU = U_LB_NUMERIC,
+                         OP = U_LB_OPEN_PUNCTUATION, PO = U_LB_POSTFIX_NUMERIC, PR = U_LB_PREFIX_NUMERIC, QU = U_LB_QUOTATION,
+                         SP = U_LB_SPACE, SY = U_LB_BREAK_SYMBOLS, XX = U_LB_UNKNOWN;
+    return std::to_array<KindFrom>(
+        {{0x00, XX},   {0x09, BA},   {0x0A, LF},   {0x0B, XX},   {0x20, SP},   {0x21, EX},   {0x22, QU},   {0x23, AL},
+         {0x24, PR},   {0x25, PO},   {0x26, AL},   {0x27, QU},   {0x28, OP},   {0x29, CP},   {0x2A, AL},   {0x2B, PR},
+         {0x2C, IS},   {0x2D, HY},   {0x2E, IS},   {0x2F, SY},   {0x30, NU},   {0x3A, IS},   {0x3C, AL},   {0x3F, EX},
+         {0x40, AL},   {0x5B, OP},   {0x5C, PR},   {0x5D, CP},   {0x5E, AL},   {0x7B, OP},   {0x7C, BA},   {0x7D, CL},
+         {0x7E, AL},   {0x7F, XX},   {0xA0, GL},   {0xA1, OP},   {0xA2, PO},   {0xA3, PR},   {0xA6, AL},   {0xAB, QU},
+         {0xAC, AL},   {0xAD, BA},   {0xAE, AL},   {0xB0, PO},   {0xB1, PR},   {0xB2, AL},   {0xB4, BB},   {0xB5, AL},
+         {0xBB, QU},   {0xBC, AL},   {0xBF, OP},   {0xC0, AL},   {0x2C8, BB},  {0x2C9, AL},  {0x2CC, BB},  {0x2CD, AL},
+         {0x2DF, BB},  {0x2E0, AL},  {0x300, XX},  {0x2011, GL}, {0x2012, BA}, {0x2014, B2}, {0x2015, AL}, {0x2018, QU},
+         {0x201A, OP}, {0x201B, QU}, {0x201E, OP}, {0x201F, QU}, {0x2020, AL}, {0x2024, IN}, {0x2027, BA}, {0x2028, XX},
+         {0x20A0, PR}, {0x20A7, PO}, {0x20A8, PR}, {0x20B6, PO}, {0x20B7, PR}, {0x20BB, PO}, {0x20BC, PR}, {0x20BE, PO},
+         {0x20BF, PR}, {0x20C0, XX}});
+}();
+
 ULineBreak kindOfCharacter(char16_t unit) {
-    constexpr char16_t hyphen = 0x2010;
-    if (!foundation::isPlainCharacter(unit) || unit == hyphen) return U_LB_UNKNOWN;
-    const auto kind = ULineBreak(u_getIntPropertyValue(unit, UCHAR_LINE_BREAK));
-    if (kind == U_LB_AMBIGUOUS) return U_LB_ALPHABETIC;
-    const bool isKnown = isLetter(kind) || isUnit(kind) || isHyphen(kind) || isClosing(kind) || isInsideNumbers(kind) ||
-                         isOneOf(kind, {U_LB_SPACE, U_LB_NUMERIC, U_LB_EXCLAMATION, U_LB_QUOTATION, U_LB_OPEN_PUNCTUATION,
-                                        U_LB_GLUE, U_LB_INSEPARABLE, U_LB_BREAK_BOTH, U_LB_BREAK_BEFORE, U_LB_LINE_FEED});
-    return isKnown ? kind : U_LB_UNKNOWN;
+    const auto next =
+        std::upper_bound(kinds.begin(), kinds.end(), unit, [](char16_t c, const KindFrom& from) { return c < from.first; });
+    return (next - 1)->kind;
 }
 
 } // namespace
