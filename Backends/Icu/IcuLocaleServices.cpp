@@ -11,6 +11,7 @@
 
 #include "Backends/Icu/PercentFormat.hpp"
 #include "Platform/Commons/FatalError.hpp"
+#include "Platform/Foundation/BuiltInLocaleServices.hpp"
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/Foundation/PlainCharacters.hpp"
 #include "Platform/Foundation/Utf16.hpp"
@@ -32,6 +33,9 @@ std::string changed(std::string_view text, Change change) {
     change(piece(text), sink, status);
     return U_SUCCESS(status) ? result : std::string(text);
 }
+
+// English percents are known. For those of any other language a megabyte of ICU and its data is read.
+bool needsNoData(const foundation::Locale& locale) { return locale.identifier() == "en" || locale.identifier() == "en_US"; }
 
 // Absent where only ICU knows them.
 std::optional<std::vector<std::size_t>> plainGraphemeEnds(std::string_view text) {
@@ -80,6 +84,7 @@ IcuLocaleServices::~IcuLocaleServices() = default;
 std::optional<std::string> IcuLocaleServices::percentText(double fraction, int maximumFractionDigits,
                                                           const foundation::Locale& locale) const {
     if (!std::isfinite(fraction)) return std::nullopt;
+    if (needsNoData(locale)) return foundation::BuiltInLocaleServices{}.percentText(fraction, maximumFractionDigits, locale);
     if (!m_cache->percent || m_cache->percentLocale != locale.identifier()) {
         m_cache->percent.emplace(icu::Locale(locale.identifier().c_str()));
         m_cache->percentLocale = locale.identifier();
