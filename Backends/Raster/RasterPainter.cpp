@@ -153,14 +153,19 @@ struct RasterPainter::Item {
         paintPixels(job, picture, extent, isOpaque, takesGround(job, extent));
     }
 
-    // Tile by tile. False where one cannot be read; its place stays as it is.
+    // Tile by tile where they are not kept. False where one cannot be read; its place stays as it is.
     bool paintFile(Job& job, FilePicture& picture, int x, int y) const {
         const PixelSize size = picture.tiles().picture;
         const PixelRect extent{x, y, x + size.width, y + size.height};
         const bool isBare = takesGround(job, extent);
         FilePicture::Reader reader(picture);
+        const PixelRect part = area.intersection(extent).moved(-x, -y);
+        if (const Picture kept = reader.kept(part); !kept.isNull()) {
+            paintPixels(job, kept, extent, picture.isOpaque(), isBare);
+            return true;
+        }
         bool isRead = true;
-        picture.tiles().forEachTouched(area.intersection(extent).moved(-x, -y), [&](int index, const PixelRect& rect) {
+        picture.tiles().forEachTouched(part, [&](int index, const PixelRect& rect) {
             const bool goesOn = rect.bottom + y > job.region.bottom && job.region.bottom < job.end;
             const Picture tile = reader.tile(index, goesOn);
             isRead = isRead && !tile.isNull();
