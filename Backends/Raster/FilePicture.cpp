@@ -67,8 +67,7 @@ Picture FilePicture::Reader::tile(int index, bool wantedAgain) {
 Picture FilePicture::Reader::kept(const PixelRect& part) {
     if (!m_picture.keepsTiles()) return {};
     bool isThere = true;
-    m_picture.m_tiles.forEachTouched(
-        part, [&](int index, const PixelRect&) { isThere = isThere && !tile(index, false).isNull(); });
+    m_picture.m_tiles.forEachTouched(part, [&](int index, const PixelRect&) { isThere = isThere && !tile(index, false).isNull(); });
     const PixelSize size = m_picture.m_tiles.picture;
     return isThere ? m_picture.keptPart({0, 0, size.width, size.height}) : Picture();
 }
