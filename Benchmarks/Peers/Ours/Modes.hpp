@@ -1,5 +1,5 @@
-// What ours can be asked for. `Screen` is where it is shown: made of a clock, it has host(), showHostsOwnText(), show(), which shows
-// what has changed, passTime(seconds) and rest(), where the clock is a virtual one, and save(picture).
+// What ours can be asked for. `Screen` is where it is shown: made of a clock, it has host(), showHostsOwnText(), show(), which
+// shows what has changed, passTime(seconds) and rest(), where the clock is a virtual one, and save(picture).
 #pragma once
 
 #include "Common/Measure.hpp"
