@@ -42,7 +42,8 @@ std::size_t ImageRasters::Key::Hash::operator()(const Key& key) const {
 
 const std::size_t ImageRasters::maximumByteCount = fileCacheBytes + bitmapCacheBytes;
 
-ImageRasters::ImageRasters() : m_files(fileCacheBytes), m_bitmaps(bitmapCacheBytes) {}
+ImageRasters::ImageRasters(CoverageRasterizer& rasterizer)
+    : m_rasterizer(rasterizer), m_files(fileCacheBytes), m_bitmaps(bitmapCacheBytes) {}
 
 const ImageRaster& ImageRasters::image(const graphics::Image& image, graphics::ColorScheme scheme, PixelSize size,
                                        bool isTransformed) {

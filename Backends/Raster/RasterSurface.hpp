@@ -46,6 +46,7 @@ private:
     bool paintsDirectly() const;
     void findDamagedPixels(const graphics::DisplayList& list, const PixelRect& window);
     void addDamage(PixelRect rect);
+    void leaveOutHiddenDamage(const graphics::DisplayList& list);
     void copyToBuffer(const PixelRect& rect) const;
 
     std::shared_ptr<RasterPainter> m_painter;
