@@ -8,6 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include "Apps/ProUpsellsHost/InputError.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -89,7 +90,7 @@ struct ShowOptions {
 
         const JsonCursor cursor{all, place};
         ShowArguments result;
-        if (!offers.empty()) result.offers = offers;
+        if (!offers.empty()) result.offers = system::pathOf(offers);
         result.device = readDevice(cursor.at("device"), std::filesystem::current_path());
         result.start = cursor.at("start").oneOf(startScreens);
         return result;
@@ -120,8 +121,8 @@ Arguments readCommandLine(int count, const char* const* arguments) {
         throw InputError(place, "", std::string(error.what()) + ", expected arguments as `proupsells --help` lists them");
     }
     if (show->parsed()) return showOptions.read();
-    runArguments.scenario = scenario;
-    if (!folder.empty()) runArguments.folder = folder;
+    runArguments.scenario = system::pathOf(scenario);
+    if (!folder.empty()) runArguments.folder = system::pathOf(folder);
     return runArguments;
 }
 

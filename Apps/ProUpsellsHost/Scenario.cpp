@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "Apps/ProUpsellsHost/JsonFile.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -149,7 +150,7 @@ Offers readScenarioOffers(const JsonCursor& value, const std::filesystem::path& 
         if (!value.isObject()) value.fail("no offers stand here, expected an object or a file name");
         return readOffers(value);
     }
-    const std::filesystem::path given = value.text();
+    const std::filesystem::path given = system::pathOf(value.text());
     if (given.empty()) value.fail("the file name is empty, expected one relative to the scenario");
     return readOffersFile(given.is_absolute() ? given : folder / given);
 }
@@ -158,7 +159,7 @@ Offers readScenarioOffers(const JsonCursor& value, const std::filesystem::path& 
 
 Scenario readScenario(const std::filesystem::path& file) {
     const Json json = readJsonFile(file);
-    const JsonCursor root{json, file.string()};
+    const JsonCursor root{json, system::textOf(file)};
     root.expectObject({"offers", "device", "host", "steps"});
     const std::filesystem::path folder = file.parent_path();
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Backends/Raster/GlyphShapeReader.hpp"
+#include "Platform/System/PathText.hpp"
 
 #include <ft2build.h>
 #include FT_FREETYPE_H
@@ -119,7 +120,7 @@ FontFile::~FontFile() = default;
 
 std::shared_ptr<const FontFile> FontFile::open(const std::filesystem::path& path, int index, int weight) {
     auto parts = std::make_unique<Parts>();
-    parts->blob.reset(hb_blob_create_from_file_or_fail(path.c_str()));
+    parts->blob.reset(hb_blob_create_from_file_or_fail(system::textOf(path).c_str()));
     if (!parts->blob) return nullptr;
     unsigned length = 0;
     const char* bytes = hb_blob_get_data(parts->blob.get(), &length);

@@ -78,7 +78,7 @@ private:
 
     Cache m_files;
     Cache m_bitmaps;
-    std::unordered_set<std::string> m_reportedFiles;
+    std::unordered_set<std::filesystem::path::string_type> m_reportedFiles;
     CoverageRasterizer m_rasterizer;
     ImageRaster m_unshared;
     std::uint64_t m_painting = 0;
