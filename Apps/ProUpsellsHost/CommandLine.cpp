@@ -1,13 +1,13 @@
 #include "Apps/ProUpsellsHost/CommandLine.hpp"
 
 #include <array>
-#include <charconv>
 #include <iostream>
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 #include "Apps/ProUpsellsHost/InputError.hpp"
+#include "Platform/Foundation/DecimalText.hpp"
 #include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
@@ -21,10 +21,9 @@ Json numbersOr(const std::string& text, char separator) {
     Json numbers = Json::array();
     for (std::size_t start = 0;;) {
         const std::size_t end = std::min(text.find(separator, start), text.size());
-        double number = 0;
-        const auto [stop, error] = std::from_chars(text.data() + start, text.data() + end, number);
-        if (error != std::errc{} || stop != text.data() + end) return text;
-        numbers.push_back(number);
+        const auto reading = foundation::readDecimal(std::string_view(text).substr(start, end - start));
+        if (!reading || reading->length != end - start) return text;
+        numbers.push_back(reading->number);
         if (end == text.size()) return numbers;
         start = end + 1;
     }

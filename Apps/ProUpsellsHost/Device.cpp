@@ -90,7 +90,7 @@ constexpr Word<ReadKey> deviceKeys[] = {
 };
 
 const ReadKey* readerOf(std::string_view key) {
-    const auto entry = std::ranges::find(deviceKeys, key, &Word<ReadKey>::word);
+    const auto entry = entryFor(key, deviceKeys);
     return entry == std::end(deviceKeys) ? nullptr : &entry->value;
 }
 

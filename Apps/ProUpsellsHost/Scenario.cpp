@@ -141,7 +141,7 @@ Step readStep(const JsonCursor& step, Surroundings& surroundings) {
     step.expectObject(wordsOf(stepReaders));
     const auto keys = step.keys();
     if (keys.size() != 1) step.fail(std::to_string(keys.size()) + " keys stand here, expected exactly one");
-    const auto entry = std::ranges::find(stepReaders, keys.front(), &Word<ReadStep>::word);
+    const auto entry = entryFor(keys.front(), stepReaders);
     return entry->value(step.at(keys.front()), surroundings);
 }
 
