@@ -12,8 +12,11 @@ endif()
 
 # Not where a cross compiler looks for its libraries.
 find_path(PROUPSELLS_GOOGLETEST googlemock/CMakeLists.txt PATHS /usr/src/googletest REQUIRED NO_CMAKE_FIND_ROOT_PATH)
-set(INSTALL_GTEST OFF)
-set(gtest_disable_pthreads ${EMSCRIPTEN})
+# In the cache, because GoogleTest's own options take the place of variables.
+set(INSTALL_GTEST OFF CACHE INTERNAL "")
+if(EMSCRIPTEN)
+  set(gtest_disable_pthreads ON CACHE INTERNAL "")
+endif()
 add_subdirectory("${PROUPSELLS_GOOGLETEST}" "${PROJECT_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)
 if(EMSCRIPTEN)
   # Node's files do not take the place of standard error.
