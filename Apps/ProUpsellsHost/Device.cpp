@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "Platform/System/PathText.hpp"
+
 namespace proupsells::hostprogram {
 
 namespace {
@@ -34,11 +36,11 @@ std::string readLocale(const JsonCursor& value) {
 }
 
 std::filesystem::path readStrings(const JsonCursor& value, const std::filesystem::path& folder) {
-    const std::filesystem::path given = value.text();
+    const std::filesystem::path given = system::pathOf(value.text());
     const std::filesystem::path path = given.is_absolute() ? given : folder / given;
     std::error_code error;
     if (given.empty() || !std::filesystem::is_directory(path, error))
-        value.fail("there is no folder \"" + given.string() + "\", expected one with <language>.lproj folders");
+        value.fail("there is no folder \"" + value.text() + "\", expected one with <language>.lproj folders");
     return path;
 }
 
@@ -88,7 +90,7 @@ constexpr Word<ReadKey> deviceKeys[] = {
 };
 
 const ReadKey* readerOf(std::string_view key) {
-    const auto entry = std::ranges::find(deviceKeys, key, &Word<ReadKey>::word);
+    const auto entry = entryFor(key, deviceKeys);
     return entry == std::end(deviceKeys) ? nullptr : &entry->value;
 }
 

@@ -10,6 +10,7 @@
 
 #include "Backends/Raster/GlyphOutline.hpp"
 #include "Backends/Raster/GlyphPictures.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -105,7 +106,7 @@ FontFile::~FontFile() = default;
 
 std::shared_ptr<const FontFile> FontFile::open(const std::filesystem::path& path, int index, int weight) {
     auto parts = std::make_unique<Parts>();
-    parts->blob.reset(hb_blob_create_from_file_or_fail(path.c_str()));
+    parts->blob.reset(hb_blob_create_from_file_or_fail(system::textOf(path).c_str()));
     if (!parts->blob) return nullptr;
     if (unsigned(index) >= hb_face_count(parts->blob.get())) return nullptr;
     const FaceRef face(hb_face_create(parts->blob.get(), unsigned(index)));

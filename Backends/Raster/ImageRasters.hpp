@@ -80,7 +80,7 @@ private:
     CoverageRasterizer& m_rasterizer;
     Cache m_files;
     Cache m_bitmaps;
-    std::unordered_set<std::string> m_reportedFiles;
+    std::unordered_set<std::filesystem::path::string_type> m_reportedFiles;
     ImageRaster m_unshared;
     std::uint64_t m_painting = 0;
     PicturePreparer m_preparer;

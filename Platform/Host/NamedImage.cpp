@@ -6,13 +6,14 @@
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/Graphics/PictureHeader.hpp"
 #include "Platform/Host/Services.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::host {
 
 namespace {
 
 [[noreturn]] void failToFind(const std::string& name, const foundation::Bundle& bundle) {
-    commons::fatalError("There is no image \"" + name + "\" in " + bundle.folder().string());
+    commons::fatalError("There is no image \"" + name + "\" in " + system::textOf(bundle.folder()));
 }
 
 // The picture that the build has made, or what it is made of.
@@ -40,9 +41,9 @@ graphics::ImageRef readImage(const std::string& name, const foundation::Bundle& 
 } // namespace
 
 graphics::ImageRef namedImage(const std::string& name, const foundation::Bundle& bundle, graphics::RenderingMode renderingMode) {
-    using Key = std::tuple<std::string, std::string, graphics::RenderingMode>;
+    using Key = std::tuple<std::filesystem::path::string_type, std::string, graphics::RenderingMode>;
     static std::map<Key, graphics::ImageRef> images;
-    graphics::ImageRef& image = images[{bundle.folder().string(), name, renderingMode}];
+    graphics::ImageRef& image = images[{bundle.folder().native(), name, renderingMode}];
     if (!image) image = readImage(name, bundle, renderingMode);
     return image;
 }
