@@ -10,6 +10,7 @@ class ComparisonViewControllerDelegate {
 public:
     virtual ~ComparisonViewControllerDelegate() = default;
 
+    // The person wants to choose a plan, or to close the comparison, which the delegate then dismisses.
     virtual void comparisonViewControllerDidTapChooseYourPlan(ComparisonViewController& sender) = 0;
     virtual void comparisonViewControllerDidTapClose(ComparisonViewController& sender) = 0;
 };

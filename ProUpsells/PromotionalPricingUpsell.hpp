@@ -11,6 +11,7 @@ class PromotionalPricingUpsell {
 public:
     virtual ~PromotionalPricingUpsell() = default;
 
+    // What a yearly or a monthly plan costs without the promotion, as a text in the store's currency.
     virtual std::optional<std::string> annualSubscriptionPriceForComparisonWithPromotionalPrice() const = 0;
     virtual void setAnnualSubscriptionPriceForComparisonWithPromotionalPrice(std::optional<std::string> price) = 0;
     virtual std::optional<std::string> monthlySubscriptionPriceForComparisonWithPromotionalPrice() const = 0;

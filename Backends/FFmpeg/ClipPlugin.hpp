@@ -20,6 +20,8 @@ struct PluginHost {
 
 // The plug-in's one function. The caller owns the decoder.
 using MakeClipDecoder = host::ClipDecoder* (*)(const PluginHost&);
+
+// The names of that function and of the plug-in's file.
 inline constexpr const char* makeClipDecoderSymbol = "proupsellsMakeClipDecoder";
 inline constexpr const char* pluginFileName = "proupsells-clips.so";
 

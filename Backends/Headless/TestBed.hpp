@@ -16,6 +16,7 @@ namespace proupsells::headless {
 // While it lives, its run loop is the main one, its services are installed, and log records are collected instead of written.
 class TestBed {
 public:
+    // Takes one record that nobody has taken.
     using UnexpectedLogHandler = std::function<void(const commons::LogRecord&)>;
 
     // A fixed-metrics shaper and an image size reader; the locale is "en_US".
@@ -27,6 +28,7 @@ public:
     TestBed(const TestBed&) = delete;
     TestBed& operator=(const TestBed&) = delete;
 
+    // The main run loop, and its time: 0 at first.
     runloop::MainRunLoop& loop() { return *m_loop; }
     double now_s() const { return m_loop->now_s(); }
     // Lets time pass, with everything that is due on the way.
@@ -35,6 +37,7 @@ public:
     // Does what is due now.
     void settle() { m_loop->settle(); }
 
+    // Those of the newest installation.
     const host::Services& services() const { return host::Installation::current(); }
     // Null when another shaper was given.
     FixedTextShaper* fixedTextShaper() const;

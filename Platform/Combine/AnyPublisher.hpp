@@ -12,10 +12,13 @@ namespace proupsells::combine {
 template <class Value>
 class AnyPublisher {
 public:
+    // What a value is delivered to, and what makes it a subscriber. An empty receiver is told nothing.
     using Receiver = std::function<void(const Value&)>;
     using Subscribe = std::function<AnyCancellable(Receiver)>;
 
     AnyPublisher() = default;
+
+    // `subscribe` runs at each sink().
     explicit AnyPublisher(Subscribe subscribe) : m_subscribe(std::move(subscribe)) {}
 
     // The subscription lasts as long as the token.
