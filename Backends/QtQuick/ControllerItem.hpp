@@ -50,7 +50,7 @@ public:
     // What the controller stands in.
     uikit::UIWindow& uiWindow() const { return *m_uiWindow; }
 
-    // The properties.
+    // The property of the same name, for C++.
     ColorScheme colorScheme() const;
     void setColorScheme(ColorScheme scheme);
     Direction direction() const;

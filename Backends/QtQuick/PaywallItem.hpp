@@ -44,12 +44,12 @@ public:
     explicit PaywallItem(QQuickItem* parent = nullptr);
     ~PaywallItem() override;
 
-    // As they were set.
+    // The property, as it was set.
     const QVariantList& options() const { return m_options; }
-    // Also while the paywall is there, by the rules of VelaProUpsellViewController::setOptions.
+    // Sets the property, also while the paywall is there, by the rules of VelaProUpsellViewController::setOptions.
     void setOptions(const QVariantList& options);
 
-    // The other properties.
+    // The property of the same name, for C++.
     const QString& annualComparisonPrice() const { return m_annualPrice; }
     void setAnnualComparisonPrice(const QString& price);
     const QString& monthlyComparisonPrice() const { return m_monthlyPrice; }

@@ -68,7 +68,7 @@ public:
     std::vector<geometry::Transform> transforms;
     std::vector<geometry::Path> paths; // in window points; past those in use, spare ones may follow
 
-    // The same; shared with whoever made them.
+    // What commands refer to by index, shared with whoever made it.
     std::vector<ImageRef> images;
     std::vector<std::shared_ptr<const Bitmap>> bitmaps;
     std::vector<std::shared_ptr<const ShapedText>> texts;

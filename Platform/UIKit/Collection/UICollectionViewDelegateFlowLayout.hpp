@@ -39,7 +39,7 @@ public:
     virtual void collectionViewWillDisplayForItemAt(UICollectionView&, UICollectionViewCell&, IndexPath) {}
     // The cell cannot be seen any more and has left the collection. The index path is the one that it was shown for.
     virtual void collectionViewDidEndDisplayingForItemAt(UICollectionView&, UICollectionViewCell&, IndexPath) {}
-    // The same of headers and footers; the index path's item is 0.
+    // A header or a footer is about to be seen, or has left the collection; the index path's item is 0.
     virtual void collectionViewWillDisplaySupplementaryView(UICollectionView&, UICollectionReusableView&, UICollectionElementKind,
                                                             IndexPath) {}
     virtual void collectionViewDidEndDisplayingSupplementaryView(UICollectionView&, UICollectionReusableView&,

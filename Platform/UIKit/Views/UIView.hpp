@@ -41,7 +41,7 @@ public:
     // In front of all others. A view that stands somewhere else is moved. Adding a view to itself or to one inside it stops the
     // program.
     void addSubview(const std::shared_ptr<UIView>& view);
-    // The same, at a place among the subviews: 0 is the backmost one.
+    // As addSubview(), at a place among the subviews: 0 is the backmost one.
     void insertSubview(const std::shared_ptr<UIView>& view, std::size_t index);
     // `sibling` must be a subview; otherwise stops the program.
     void insertSubviewAbove(const std::shared_ptr<UIView>& view, const UIView& sibling);
