@@ -26,23 +26,23 @@ public:
         struct Cancel {
             bool operator==(const Cancel&) const = default;
         };
-        // One of the buttons that lead elsewhere.
+        // The person wants back what they have bought before.
         struct RestorePurchases {
             bool operator==(const RestorePurchases&) const = default;
         };
-        // One of the buttons that lead elsewhere.
+        // The button that opens the store page.
         struct WhatIsPro {
             bool operator==(const WhatIsPro&) const = default;
         };
-        // One of the buttons that lead elsewhere.
+        // The link to the privacy policy.
         struct PrivacyPolicy {
             bool operator==(const PrivacyPolicy&) const = default;
         };
-        // One of the buttons that lead elsewhere.
+        // The link to the terms of service.
         struct TermsOfService {
             bool operator==(const TermsOfService&) const = default;
         };
-        // The button below the plans.
+        // The button that opens the comparison of plans.
         struct ComparePlans {
             bool operator==(const ComparePlans&) const = default;
         };

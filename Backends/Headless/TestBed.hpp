@@ -28,8 +28,9 @@ public:
     TestBed(const TestBed&) = delete;
     TestBed& operator=(const TestBed&) = delete;
 
-    // The main run loop, and its time: 0 at first.
+    // The main run loop, on a virtual clock.
     runloop::MainRunLoop& loop() { return *m_loop; }
+    // The clock's time; 0 at first.
     double now_s() const { return m_loop->now_s(); }
     // Lets time pass, with everything that is due on the way.
     void runUntil(double time_s) { m_loop->runUntil(time_s); }

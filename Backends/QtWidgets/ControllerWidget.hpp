@@ -37,7 +37,7 @@ public:
 
     // The size that the controller prefers; that of a sheet, 375 x 800, where it prefers none.
     QSize sizeHint() const override;
-    // Small enough for every layout: a screen scrolls what it has no room for.
+    // 320 x 480, the smallest that screens are made for.
     QSize minimumSizeHint() const override;
 
 signals:

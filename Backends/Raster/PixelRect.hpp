@@ -54,10 +54,11 @@ inline int toPixel(double value) {
     constexpr double furthest = 1 << 24;
     return value > -furthest ? value < furthest ? int(value) : int(furthest) : -int(furthest);
 }
-// The pixel edge at or before a length in pixels, at or behind it, and nearest to it. What is infinite or not a number counts as
-// far away.
+// The edge between pixels at or before a length in pixels.
 inline int floorPixel(double value) { return toPixel(std::floor(value + pixelTolerance)); }
+// The one at or after it.
 inline int ceilPixel(double value) { return toPixel(std::ceil(value - pixelTolerance)); }
+// The one nearest to it.
 inline int nearestPixel(double value) { return toPixel(std::floor(value + 0.5 + pixelTolerance)); }
 
 // Every pixel that the rectangle, in pixels, touches.

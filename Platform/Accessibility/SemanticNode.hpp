@@ -23,8 +23,9 @@ enum class Traits : std::uint16_t {
     adjustable = 64,
     link = 128,
 };
-// Both together; whether `all` has every one of `one`.
+// All of both.
 constexpr Traits operator|(Traits a, Traits b) { return Traits(std::uint16_t(a) | std::uint16_t(b)); }
+// Whether `all` has every one of `one`.
 constexpr bool contains(Traits all, Traits one) { return (std::uint16_t(all) & std::uint16_t(one)) == std::uint16_t(one); }
 
 // A stretch of a rich text, as it was laid out. Fonts and colours by their design-system names, sizes in points.

@@ -12,8 +12,9 @@ namespace proupsells::combine {
 template <class Value>
 class AnyPublisher {
 public:
-    // What a value is delivered to, and what makes it a subscriber. An empty receiver is told nothing.
+    // What a value is delivered to.
     using Receiver = std::function<void(const Value&)>;
+    // Makes a receiver a subscriber, for as long as the token that it returns.
     using Subscribe = std::function<AnyCancellable(Receiver)>;
 
     AnyPublisher() = default;

@@ -30,12 +30,12 @@ struct Size {
     bool operator==(const Size&) const = default;
 };
 
-// Edges are where the size puts them: nothing is put in order for a negative width or height.
+// A place and a size. A negative length is kept as it is, and makes the rectangle empty.
 struct Rect {
     Point origin;
     Size size;
 
-    // Its edges, middle and lengths.
+    // Places on the rectangle, and its lengths.
     constexpr double minX() const { return origin.x; }
     constexpr double minY() const { return origin.y; }
     constexpr double midX() const { return origin.x + size.width / 2; }
@@ -106,9 +106,10 @@ struct ProposedSize {
     std::optional<double> width;
     std::optional<double> height;
 
-    // Nothing at first; lengths one by one; or both lengths of a size.
     constexpr ProposedSize() = default;
+    // Absent lengths ask for the ideal ones.
     constexpr ProposedSize(std::optional<double> w, std::optional<double> h) : width(w), height(h) {}
+    // Both lengths are given.
     constexpr ProposedSize(Size size) : width(size.width), height(size.height) {}
 
     // Asks for the ideal size.

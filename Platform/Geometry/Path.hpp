@@ -16,10 +16,12 @@ public:
     // One step of the pen.
     enum class Verb : std::uint8_t { move, line, cubic, close };
 
-    // Draw from where the pen stands: begin a new outline, add a line or a cubic curve, or return to where the outline began.
+    // Begins a new outline there.
     void moveTo(Point p);
+    // Goes on from where the last step has led.
     void lineTo(Point p);
     void cubicTo(Point control1, Point control2, Point end);
+    // Goes back to where the outline began.
     void close();
     // Empties the path and keeps the memory.
     void clear();

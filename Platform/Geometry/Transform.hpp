@@ -14,8 +14,9 @@ struct Transform {
     double tx = 0;
     double ty = 0;
 
-    // Moves by points; scales about the origin.
+    // Moves by so many points.
     static constexpr Transform translation(double x, double y) { return {1, 0, 0, 1, x, y}; }
+    // About the origin; 1 leaves a length as it is.
     static constexpr Transform scaling(double x, double y) { return {x, 0, 0, y, 0, 0}; }
     // Clockwise on screen for positive angles, since y grows downwards.
     static Transform rotation(double angle_rad);
@@ -30,8 +31,9 @@ struct Transform {
     Point apply(Point p) const;
     // The bounding rectangle of the mapped rectangle.
     Rect apply(const Rect& rect) const;
-    // Whether it changes nothing; whether it moves at most.
+    // Whether it changes nothing.
     constexpr bool isIdentity() const { return *this == Transform{}; }
+    // Whether it moves at most; true for the identity, too.
     constexpr bool isTranslation() const { return a == 1 && b == 0 && c == 0 && d == 1; }
 
     constexpr bool operator==(const Transform&) const = default;

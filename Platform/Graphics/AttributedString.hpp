@@ -20,7 +20,7 @@ struct TextAttributes {
     bool operator==(const TextAttributes&) const = default;
 };
 
-// Where lines stand that are narrower than their text; leading follows the screen's direction.
+// Where lines stand that are narrower than the whole text; leading follows the screen's direction.
 enum class TextAlignment : std::uint8_t { leading, center, trailing };
 
 // How the lines of a text stand.

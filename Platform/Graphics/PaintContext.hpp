@@ -18,11 +18,13 @@ struct PaintState {
     geometry::Transform transform; // about the window's origin
     ColorScheme scheme = ColorScheme::light;
 
-    // The state of what stands `delta` further, inside `rect` (with rounded corners where a radius is given), less opaque, or
-    // transformed. `rect` and the transform are in current coordinates.
+    // The same for what stands `delta` further.
     PaintState movedBy(geometry::Point delta) const;
+    // The same with nothing painted outside `rect`, in current coordinates, whose corners are rounded by `radius`.
     PaintState clippedTo(const geometry::Rect& rect, double radius = 0) const;
+    // The same with the opacity multiplied.
     PaintState fadedBy(double opacity) const;
+    // The same with everything transformed, in current coordinates.
     PaintState transformedBy(const geometry::Transform& transform) const;
     // A rectangle in current coordinates as it stands in the window, transform applied, clip not.
     geometry::Rect toWindow(const geometry::Rect& rect) const;

@@ -8,7 +8,7 @@
 
 namespace proupsells::host {
 
-// Where a finger is on its way: it comes down, moves, and leaves, or the system takes it away.
+// A finger comes down, moves and leaves, or the system takes the touch away.
 enum class TouchPhase { began, moved, ended, cancelled };
 
 // One finger, or the mouse with its button held.

@@ -41,8 +41,9 @@ public:
     virtual void viewDidAppear(bool /*animated*/) {}
     virtual void viewWillDisappear(bool /*animated*/) {}
     virtual void viewDidDisappear(bool /*animated*/) {}
-    // Told after the view has placed its subviews, and after its unsafe edges have become other ones.
+    // Told after the view has placed its subviews.
     virtual void viewDidLayoutSubviews() {}
+    // Told after the view's unsafe edges have become other ones.
     virtual void viewSafeAreaInsetsDidChange() {}
     // Told after the view (see there).
     virtual void windowVisibilityDidChange() {}
@@ -73,7 +74,7 @@ public:
     void addChild(const std::shared_ptr<UIViewController>& child);
     // Tells the controller that it did move. Telling it before (willMoveToParent(nullptr)) is the caller's.
     void removeFromParent();
-    // Told around a change of the parent, which is null where the controller leaves it.
+    // Told before and after the parent becomes another one; null for none.
     virtual void willMoveToParent(UIViewController* /*parent*/) {}
     virtual void didMoveToParent(UIViewController* /*parent*/) {}
     // The nearest navigation controller around this one; null for none.

@@ -61,8 +61,9 @@ protected:
     // How far outside the bounds a finger may wander and still counts as inside.
     static constexpr double trackingMargin = 70;
 
-    // Kept up by the touches: whether the control looks pressed, and whether the finger counts as inside.
+    // Whether the control looks pressed; the touches set it.
     void setHighlighted(bool highlighted);
+    // By the bounds and trackingMargin around them.
     bool isInside(const UITouch& touch) const;
     // Whether those who look at the screen could operate it now: enabled, in a window, and neither hidden nor closed to touches.
     bool canBeOperated() const;

@@ -32,7 +32,7 @@ public:
         if (!m_item) m_item = std::make_shared<LayoutItem>(view);
         return m_item;
     }
-    // Whether it was asked for.
+    // Whether itemOf() was ever called.
     bool exists() const { return m_item != nullptr; }
 
 private:

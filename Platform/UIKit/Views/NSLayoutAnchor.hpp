@@ -35,13 +35,15 @@ public:
     explicit NSLayoutAnchor(LayoutTerm term) : m_term(std::move(term)) {}
     const LayoutTerm& term() const { return m_term; }
 
-    // This anchor stands at `other` + `constant`, no further, or no nearer.
+    // This anchor stands at `other` + `constant`.
     std::shared_ptr<NSLayoutConstraint> constraintEqualTo(const NSLayoutAnchor& other, double constant = 0) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::equal, other.m_term, 1, constant);
     }
+    // At most there.
     std::shared_ptr<NSLayoutConstraint> constraintLessThanOrEqualTo(const NSLayoutAnchor& other, double constant = 0) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::lessThanOrEqual, other.m_term, 1, constant);
     }
+    // At least there.
     std::shared_ptr<NSLayoutConstraint> constraintGreaterThanOrEqualTo(const NSLayoutAnchor& other, double constant = 0) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::greaterThanOrEqual, other.m_term, 1, constant);
     }
@@ -65,21 +67,24 @@ class NSLayoutDimension : public NSLayoutAnchor<LayoutLength> {
 public:
     using NSLayoutAnchor::NSLayoutAnchor;
 
-    // This length is `constant` points, at most, or at least.
+    // This length is so many points.
     std::shared_ptr<NSLayoutConstraint> constraintEqualToConstant(double constant) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::equal, {}, 1, constant);
     }
+    // So many at most.
     std::shared_ptr<NSLayoutConstraint> constraintLessThanOrEqualToConstant(double constant) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::lessThanOrEqual, {}, 1, constant);
     }
+    // So many at least.
     std::shared_ptr<NSLayoutConstraint> constraintGreaterThanOrEqualToConstant(double constant) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::greaterThanOrEqual, {}, 1, constant);
     }
-    // This length is `multiplier` times the other one, which may be of the other axis, + `constant`; or at least that.
+    // This length is `multiplier` times the other one, which may be of the other axis, + `constant`.
     std::shared_ptr<NSLayoutConstraint> constraintEqualToMultiplier(const NSLayoutDimension& other, double multiplier,
                                                                     double constant = 0) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::equal, other.m_term, multiplier, constant);
     }
+    // At least that.
     std::shared_ptr<NSLayoutConstraint> constraintGreaterThanOrEqualToMultiplier(const NSLayoutDimension& other, double multiplier,
                                                                                  double constant = 0) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::greaterThanOrEqual, other.m_term, multiplier, constant);

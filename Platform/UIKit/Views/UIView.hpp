@@ -57,10 +57,12 @@ public:
 
     UIResponder* nextResponder() const override;
 
-    // Told of changes of the hierarchy. That of the window, null for none, reaches what is inside, too.
+    // Told after a subview has come in, and before one leaves.
     virtual void didAddSubview(UIView&) {}
     virtual void willRemoveSubview(UIView&) {}
+    // Told after the superview has become another one, or none.
     virtual void didMoveToSuperview() {}
+    // Told after the window has become another one, or none; every view inside is told, too.
     virtual void didMoveToWindow() {}
     // Told when the window, in which the view stands, comes into sight or goes out of it.
     virtual void windowVisibilityDidChange() {}
@@ -161,7 +163,7 @@ public:
     void setOverrideTraitCollection(const std::optional<UITraitCollection>& traits);
     // What a subview inherits.
     virtual UITraitCollection traitsForSubviews() const { return traitCollection(); }
-    // By the traits.
+    // Whether rows and texts run from right to left here.
     bool isRightToLeft() const { return traitCollection().layoutDirection == geometry::LayoutDirection::rightToLeft; }
 
     // How much of each edge is under the window's unsafe edges. Known before the view is in the window, when its controller is.
@@ -225,10 +227,13 @@ public:
 
     // --- Accessibility ---
 
-    // What tests and tools know the view by; what is read to a person; what it is; its state in words. Empty: not said.
+    // What tests and tools know the view by; empty for none.
     std::string accessibilityIdentifier;
+    // What is read to a person; empty: whatever texts are inside.
     std::string accessibilityLabel;
+    // What is said of the view besides what its class says.
     accessibility::Traits accessibilityTraits = accessibility::Traits::none;
+    // The view's state in words, such as a page number; empty for none.
     virtual std::string accessibilityValue() const { return m_accessibilityValue; }
     void setAccessibilityValue(std::string value) { m_accessibilityValue = std::move(value); }
 
