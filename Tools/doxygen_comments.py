@@ -21,7 +21,7 @@ import sys
 SAYS_IT_ITSELF = "&zwj;"
 HEADING = re.compile(r"// --- (.*) ---$")
 PART = re.compile(r"(public|protected|private|signals|(public|protected|private) slots):$")
-TYPE = re.compile(r"(template <.*?> )?(enum (class )?|class |struct |union )(?P<name>\w+)\b[^;()=]*$")
+TYPE = re.compile(r"(template <.*?> )?(enum (class )?|class |struct |union )\w+\b[^;()=]*$")
 SPACE = re.compile(r"namespace\b[^;()=]*$|extern _+$")
 SELF_EXPLAINING = re.compile(r"= (default|delete);|~\w+\(")
 UNDOCUMENTED = re.compile(r'friend |Q_OBJECT|Q_ENUM|(class|struct) \w+;|namespace |extern "C" \{|[{};]')
@@ -157,14 +157,18 @@ class Translation:
             return SAYS_IT_ITSELF
         if self.group:
             return self.group
+        if self.is_main_type(stripped):
+            return self.file_text
         if TYPE.match(stripped.rstrip(" {")):
-            return self.file_text if self.is_main_type(stripped) else ""
+            return ""
         is_data = not stripped.startswith(("using ", "enum ")) and "(" not in re.split("[={]", stripped)[0]
         return SAYS_IT_ITSELF if is_data and self.scopes and self.scopes[-1].is_plain else ""
 
     def is_main_type(self, stripped: str) -> bool:
-        made = TYPE.match(stripped.rstrip(" {"))
-        return bool(made) and made["name"] == self.name
+        """Whether a declaration is that of the type which the file is named after."""
+        if stripped.startswith("template <"):
+            stripped = self.lines[len(self.result)].strip()
+        return bool(re.match(rf"(enum (class )?|class |struct ){self.name}\b", stripped))
 
     # --- Declarations ---
 

@@ -45,6 +45,10 @@ class DoxygenComments(unittest.TestCase):
                          "/// Sells.\n/// @file\n\n/** Sells. */ class Shop {\n};")
         self.assertEqual(translated("// Sells.\n#pragma once\n\n// Opens at nine.\nclass Shop {\n};"),
                          "/// Sells.\n/// @file\n\n/** Sells. */ /// Opens at nine.\nclass Shop {\n};")
+        self.assertEqual(translated("// Sells.\n#pragma once\n\ntemplate <class Ware>\nclass Shop {\n};"),
+                         "/// Sells.\n/// @file\n\n/** Sells. */ template <class Ware>\nclass Shop {\n};")
+        self.assertEqual(translated("// Sells.\n#pragma once\n\nenum class Shop { small, large };"),
+                         "/// Sells.\n/// @file\n\n/** Sells. */ enum class Shop { small, large };")
         self.assertEqual(translated("// Sells.\n#pragma once\n\nclass Door {\n};"), "/// Sells.\n/// @file\n\nclass Door {\n};")
 
     def test_what_its_declaration_says_already_counts_as_documented(self):
