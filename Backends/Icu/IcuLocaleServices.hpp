@@ -12,6 +12,7 @@ namespace proupsells::icubackend {
 // directions). It stops the program when it needs data that ICU does not have.
 class IcuLocaleServices final : public foundation::LocaleServices {
 public:
+    // Stops the program when ICU's data is missing.
     IcuLocaleServices();
     ~IcuLocaleServices() override;
 
@@ -21,6 +22,7 @@ public:
     // Ill-formed parts become replacement characters, here and in titleCased().
     std::string upperCased(std::string_view text, const foundation::Locale& locale) const override;
     std::string titleCased(std::string_view text, const foundation::Locale& locale) const override;
+
     std::size_t graphemeCount(std::string_view text) const override;
     std::vector<std::size_t> graphemeEnds(std::string_view text) const override;
     geometry::LayoutDirection layoutDirection(const foundation::Locale& locale) const override;

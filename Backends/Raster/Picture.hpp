@@ -36,13 +36,19 @@ public:
         : m_width(width), m_height(height), m_pixelsPerRow(pixelsPerRow),
           m_pixels(std::const_pointer_cast<Pixel[]>(std::move(pixels))) {}
 
+    // Whether there is no picture; then both lengths are 0.
     bool isNull() const { return !m_pixels; }
+    // In pixels.
     int width() const { return m_width; }
     int height() const { return m_height; }
+    // The pixels of a row, from the left; 0 is the top one, and `y` must be less than the height.
     const Pixel* row(int y) const { return m_pixels.get() + std::ptrdiff_t(y) * m_pixelsPerRow; }
     // For whoever makes the picture.
     Pixel* row(int y) { return m_pixels.get() + std::ptrdiff_t(y) * m_pixelsPerRow; }
+
+    // How much memory the pixels take.
     std::size_t byteCount() const { return pixelCount() * sizeof(Pixel); }
+    // Whether every pixel's alpha is 255.
     bool isOpaque() const;
 
 private:

@@ -19,6 +19,7 @@ class RasterSurface final : public host::Surface {
 public:
     // Shares what other surfaces have prepared.
     RasterSurface();
+    // Keeps what it prepares to itself, and to those who share `painter`.
     explicit RasterSurface(std::shared_ptr<RasterPainter> painter);
     ~RasterSurface() override;
 

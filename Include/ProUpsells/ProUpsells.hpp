@@ -29,5 +29,7 @@
 
 // As pkg-config names the package's place. CMake's files bring a source that does the same.
 #ifdef PROUPSELLS_RESOURCES
-inline const proupsells::foundation::ResourcePlace proupsellsPackage(PROUPSELLS_RESOURCES);
+namespace proupsells::foundation {
+inline const ResourcePlace packagePlace(PROUPSELLS_RESOURCES);
+} // namespace proupsells::foundation
 #endif
