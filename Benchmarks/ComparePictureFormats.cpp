@@ -22,8 +22,8 @@ using namespace proupsells;
 namespace {
 
 using benchmarks::PictureFormat;
-using system::MappedFile;
 using rasterbackend::Picture;
+using system::MappedFile;
 
 constexpr const char* folders[] = {"ProUpsells/Resources/Images", "Platform/VelaUIKit/Resources/Images"};
 constexpr std::string_view header = "paywallHeaderA.svg";

@@ -94,7 +94,8 @@ void rasterSentence(benchmark::State& state) {
     const graphics::StyledRun run{"Cancel within 7 days, and you won’t be charged. Payment", {.size = 13}, 0};
     const auto text = std::static_pointer_cast<const rasterbackend::RasterShapedText>(
         shaper.shape({&run, 1}, "en", geometry::LayoutDirection::leftToRight));
-    rasterbackend::TextRasters rasters;
+    rasterbackend::CoverageRasterizer rasterizer;
+    rasterbackend::TextRasters rasters(rasterizer);
     double factor = 2;
     for (auto _ : state) {
         factor += 1e-9; // never asked for before

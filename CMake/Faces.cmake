@@ -27,9 +27,10 @@ function(proupsells_add_face source family weight)
   set(face "${PROUPSELLS_FACES}/${family}-${weight}.otf")
   add_custom_command(OUTPUT "${face}"
     COMMAND "${CMAKE_COMMAND}" -E make_directory "${PROUPSELLS_FACES}"
-    # Glyphs are never hinted. The time in the file stays the typeface's own, so that two builds are alike.
+    # Glyphs are never hinted. Of the features, those stay that texts have without asking, which is what fontTools keeps; of the names,
+    # those of the face and of its licence. The time in the file stays the typeface's own, so that two builds are alike.
     COMMAND "${PROUPSELLS_FONTTOOLS}" -m fontTools.subset "${PROUPSELLS_TYPEFACES}/${source}" "--output-file=${face}"
-      "--unicodes=${PROUPSELLS_FACE_CHARACTERS}" "--layout-features=*" "--name-IDs=*" --notdef-outline --no-hinting
+      "--unicodes=${PROUPSELLS_FACE_CHARACTERS}" "--name-IDs=0,1,2,3,4,5,6,13,14" --notdef-outline --no-hinting
       --drop-tables+=GlyphOrder --no-recalc-timestamp
     DEPENDS "${PROUPSELLS_TYPEFACES}/${source}" "${PROJECT_SOURCE_DIR}/CMake/Faces.cmake"
     COMMENT "Cutting ${family} ${weight}" VERBATIM)

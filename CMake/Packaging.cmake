@@ -66,7 +66,7 @@ Version: @PROJECT_VERSION@
 Requires: @requires@
 Libs: -L${libdir} -lProUpsells@name@
 Libs.private: -lstdc++ -lm -ldl
-Cflags: -I${includedir}/proupsells
+Cflags: -I${includedir}/proupsells "-DPROUPSELLS_RESOURCES=\"${resources}\""
 ]])
   install(FILES "${PROJECT_BINARY_DIR}/${module}.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
 endfunction()

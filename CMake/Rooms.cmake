@@ -76,6 +76,12 @@ function(proupsells_link_rooms target)
   if(BackendRaster IN_LIST closure)
     add_dependencies(${target} ProUpsellsFaces)
   endif()
+  # There no program knows where it lies itself.
+  if(EMSCRIPTEN AND PlatformFoundation IN_LIST closure)
+    set(ProUpsells_RESOURCES "${PROUPSELLS_BUILT_RESOURCES}")
+    configure_file("${PROJECT_SOURCE_DIR}/CMake/ResourcePlace.cpp.in" "${PROJECT_BINARY_DIR}/ResourcePlace.cpp" @ONLY)
+    target_sources(${target} PRIVATE "${PROJECT_BINARY_DIR}/ResourcePlace.cpp")
+  endif()
 endfunction()
 
 # proupsells_add_tests(<name> <folder> ROOMS <room>... [LIBRARIES <target>...] [WITHOUT <folder>] [PRECOMPILED <header>...]): the folder

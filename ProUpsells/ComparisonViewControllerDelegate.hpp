@@ -10,7 +10,9 @@ class ComparisonViewControllerDelegate {
 public:
     virtual ~ComparisonViewControllerDelegate() = default;
 
+    // The person wants to choose a plan: the delegate dismisses the comparison.
     virtual void comparisonViewControllerDidTapChooseYourPlan(ComparisonViewController& sender) = 0;
+    // The person wants to leave: the delegate dismisses the comparison.
     virtual void comparisonViewControllerDidTapClose(ComparisonViewController& sender) = 0;
 };
 

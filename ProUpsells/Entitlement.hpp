@@ -6,6 +6,7 @@
 
 namespace proupsells {
 
+// There is one so far.
 enum class Entitlement : std::uint8_t { velaPRO };
 
 // As analytics know it: "VELA_PRO".

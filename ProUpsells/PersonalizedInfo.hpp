@@ -10,8 +10,10 @@ namespace proupsells {
 
 class PersonalizedInfo {
 public:
+    // The image may be null, and the line empty.
     PersonalizedInfo(graphics::ImageRef image, std::string tagline) : m_image(std::move(image)), m_tagline(std::move(tagline)) {}
 
+    // As given.
     const graphics::ImageRef& image() const { return m_image; }
     const std::string& tagline() const { return m_tagline; }
 

@@ -25,6 +25,7 @@ public:
     virtual void trackReservedEvent() = 0;
     // The user closes a sales screen.
     virtual void trackUpsellDismissed(const Referrer& referrer, const std::string& screenTitle, const std::string& entitlement) = 0;
+    // The user taps one of the paywall's other buttons.
     virtual void trackRestoreTapped(const Referrer& referrer, const std::string& screenTitle) = 0;
     virtual void trackPrivacyPolicyTapped(const Referrer& referrer, const std::string& screenTitle) = 0;
     virtual void trackTermsOfServiceTapped(const Referrer& referrer, const std::string& screenTitle) = 0;

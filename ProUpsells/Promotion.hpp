@@ -8,10 +8,12 @@ namespace proupsells {
 
 class Promotion {
 public:
+    // Any of the texts may be empty.
     Promotion(std::string name, std::string upsellTitle, std::string upsellSubtitle, std::string upsellImageURL)
         : m_name(std::move(name)), m_upsellTitle(std::move(upsellTitle)), m_upsellSubtitle(std::move(upsellSubtitle)),
           m_upsellImageURL(std::move(upsellImageURL)) {}
 
+    // As given.
     const std::string& name() const { return m_name; }
     const std::string& upsellTitle() const { return m_upsellTitle; }
     const std::string& upsellSubtitle() const { return m_upsellSubtitle; }

@@ -8,13 +8,16 @@
 
 namespace proupsells {
 
+// A screen's name, and what the user tapped there, if it is known.
 struct Referrer {
-    // What the user tapped there.
+    // What the user tapped there: a number or an identifier.
     struct ElementID {
+        // Told apart by kind: a number is never equal to a text.
         struct Int {
             std::int64_t value = 0;
             bool operator==(const Int&) const = default;
         };
+        // Any text; it need not be a well-formed UUID.
         struct Uuid {
             std::string value;
             bool operator==(const Uuid&) const = default;
@@ -32,8 +35,9 @@ struct Referrer {
     std::optional<ElementID> elementID;
 
     // A text alone is a name without an element.
-    Referrer(const char* name) : name(name) {}
-    Referrer(std::string name) : name(std::move(name)) {}
+    Referrer(const char* screen) : name(screen) {}
+    Referrer(std::string screen) : name(std::move(screen)) {}
+    // A name with a number.
     Referrer(std::string name, std::optional<std::int64_t> elementID);
     Referrer(std::string name, std::int64_t elementID);
     // Always an `ElementID::Uuid`, whatever the text looks like.

@@ -17,18 +17,21 @@ class SubscriptionOption {
 public:
     // The kind of plan and its price texts. The order of the kinds is their case index.
     struct SubscriptionType {
+        // Paid every month. Introductory texts are absent where there is no such offer.
         struct Monthly {
             std::string price;
             std::optional<std::string> introductoryPrice;
-            // The length of the introductory offer as a text; absent when there is none.
+            // The length of the introductory offer as a text, a free trial's as well.
             std::optional<std::string> introductoryPeriodLength;
 
             bool operator==(const Monthly&) const = default;
         };
+        // Paid every year. Introductory texts are absent where there is no such offer.
         struct Yearly {
             std::string price;
             // The yearly price spread across twelve months.
             std::string monthlyEffectivePrice;
+
             std::optional<std::string> introductoryPrice;
             std::optional<std::string> introductoryPeriodLength;
 
@@ -43,6 +46,7 @@ public:
 
         std::variant<Monthly, Yearly, Lifetime> plan;
 
+        // Of one kind of plan.
         SubscriptionType(Monthly monthly) : plan(std::move(monthly)) {}
         SubscriptionType(Yearly yearly) : plan(std::move(yearly)) {}
         SubscriptionType(Lifetime lifetime) : plan(std::move(lifetime)) {}
@@ -50,14 +54,17 @@ public:
         bool operator==(const SubscriptionType&) const = default;
     };
 
+    // `SKU` is the product's identifier in the store.
     SubscriptionOption(std::string SKU, SubscriptionType type, bool hasUsedFreeTrial);
 
     // The store product identifier.
     const std::string& SKU() const { return m_SKU; }
+    // The kind of plan, with its prices.
     const SubscriptionType& type() const { return m_type; }
     // True when the introductory free trial has already been consumed and must not be offered again.
     bool hasUsedFreeTrial() const { return m_hasUsedFreeTrial; }
 
+    // Of the plan, whatever its kind.
     const std::string& price() const;
     // Both are absent for a lifetime plan.
     const std::optional<std::string>& introductoryPrice() const;
@@ -65,6 +72,7 @@ public:
     // Of a yearly plan; the empty text for the other kinds. Meant for the module's own texts.
     const std::string& monthlyEffectivePrice() const;
 
+    // Exactly one of these is true.
     bool isMonthly() const { return std::holds_alternative<SubscriptionType::Monthly>(m_type.plan); }
     bool isYearly() const { return std::holds_alternative<SubscriptionType::Yearly>(m_type.plan); }
     bool isLifetime() const { return std::holds_alternative<SubscriptionType::Lifetime>(m_type.plan); }

@@ -14,49 +14,50 @@ namespace proupsells {
 
 // What it names is shown instead of ours: colours, typefaces, pictures. All else stays, and so do sizes, order and texts.
 struct Theme {
-    // Absent: ours.
+    // A colour in either appearance. Absent: ours.
     struct Color {
-        std::optional<graphics::RGBA> light;
-        std::optional<graphics::RGBA> dark;
+        std::optional<graphics::RGBA> light; // in the light appearance
+        std::optional<graphics::RGBA> dark;  // in the dark appearance
 
         bool operator==(const Color&) const = default;
     };
 
-    // Families by their part on the screens. Empty: ours, but that `display`, the cut for large sizes, follows `text`.
+    // Families by their part on the screens. Empty: ours.
     struct Families {
-        std::string text;
-        std::string display;
-        std::string headings;
+        std::string text;     // of all texts
+        std::string display;  // of the same from 20 points on; empty: that of `text`
+        std::string headings; // of the brand's voice: the comparison's title, the badge, small links
 
         bool operator==(const Families&) const = default;
     };
 
     // A file with a face of one of those families. The others are the text shaper's: registered with it, or the system's.
     struct FaceFile {
-        std::string family;
-        int weight = 400; // 100 to 900, as in OpenType
-        std::filesystem::path file;
+        std::string family;         // as in Families
+        int weight = 400;           // 100 to 900, as in OpenType
+        std::filesystem::path file; // a font, OpenType or TrueType
 
         bool operator==(const FaceFile&) const = default;
     };
 
     // A picture of the same shape as ours, which it covers. A PNG file should have three pixels a point.
     struct Picture {
-        std::filesystem::path file;
+        std::filesystem::path file;                    // PNG, or a picture that the build has made
         std::optional<std::filesystem::path> darkFile; // absent: the same in the dark appearance
 
         bool operator==(const Picture&) const = default;
     };
 
-    std::map<std::string, Color, std::less<>> colors;
-    Families families;
-    std::vector<FaceFile> faceFiles;
-    std::map<std::string, Picture, std::less<>> pictures;
+    std::map<std::string, Color, std::less<>> colors;     // by the design system's names
+    Families families;                                    // instead of Inter and Sora
+    std::vector<FaceFile> faceFiles;                      // known while the theme is shown
+    std::map<std::string, Picture, std::less<>> pictures; // by the names of our assets
 
     bool operator==(const Theme&) const = default;
 
-    // The names that `colors` and `pictures` may have.
+    // The names that `colors` may have.
     static std::vector<std::string_view> colorNames();
+    // The names that `pictures` may have.
     static std::vector<std::string_view> pictureNames();
 
     // Why it cannot be shown, a sentence for each reason: names that do not exist, colours that are not opaque, and pairs of

@@ -35,12 +35,16 @@ public:
     // Stops the program: "init(coder:) has not been implemented".
     [[noreturn]] static std::shared_ptr<UpsellViewController> create(const foundation::Coder& coder);
 
+    // For create() only.
     UpsellViewController(Creation, Variant variant);
+
     std::string_view typeName() const override { return "UpsellViewController"; }
 
+    // Which paywall it is, and what it shows.
     Variant variant() const { return m_variant; }
     const std::shared_ptr<UpsellViewModel>& upsellViewModel() const { return m_upsellViewModel; }
 
+    // Held weakly; null once it has gone.
     std::shared_ptr<UpsellViewControllerDelegate> delegate() const { return m_delegate.lock(); }
     void setDelegate(std::weak_ptr<UpsellViewControllerDelegate> delegate) { m_delegate = std::move(delegate); }
 

@@ -12,9 +12,11 @@ class UpsellViewControllerDelegate {
 public:
     virtual ~UpsellViewControllerDelegate() = default;
 
+    // The person continues with a plan, as it was at the moment of the tap.
     virtual void upsellViewControllerDidContinueWith(UpsellViewController& sender, const SubscriptionOption& option) = 0;
     // The paywall dismisses itself afterwards.
     virtual void upsellViewControllerDidTapCancel(UpsellViewController& sender) = 0;
+    // The person has tapped the button of that name; the paywall itself does nothing more.
     virtual void upsellViewControllerDidTapRestoreButton(UpsellViewController& sender) = 0;
     virtual void upsellViewControllerDidTapWhatIsProButton(UpsellViewController& sender) = 0;
     virtual void upsellViewControllerDidTapPrivacyPolicyButton(UpsellViewController& sender) = 0;

@@ -15,30 +15,38 @@ namespace proupsells {
 // Main thread only. Each write of a field is announced before it takes effect.
 class UpsellViewModel final : public combine::ObservableObject {
 public:
-    // One tap on the paywall.
+    // One tap on the paywall, on the button that the kind names.
     struct TapEvent {
+        // The person continues with a plan.
         struct Purchase {
             SubscriptionOption option; // as it was at the moment of the tap
             bool operator==(const Purchase&) const = default;
         };
+        // The close button.
         struct Cancel {
             bool operator==(const Cancel&) const = default;
         };
+        // The person wants back what they have bought before.
         struct RestorePurchases {
             bool operator==(const RestorePurchases&) const = default;
         };
+        // The button that opens the store page.
         struct WhatIsPro {
             bool operator==(const WhatIsPro&) const = default;
         };
+        // The link to the privacy policy.
         struct PrivacyPolicy {
             bool operator==(const PrivacyPolicy&) const = default;
         };
+        // The link to the terms of service.
         struct TermsOfService {
             bool operator==(const TermsOfService&) const = default;
         };
+        // The button that opens the comparison of plans.
         struct ComparePlans {
             bool operator==(const ComparePlans&) const = default;
         };
+        // What was tapped.
         using Kind = std::variant<Purchase, Cancel, RestorePurchases, WhatIsPro, PrivacyPolicy, TermsOfService, ComparePlans>;
 
         Kind kind;

@@ -21,8 +21,9 @@ public:
     virtual std::shared_ptr<uikit::UIViewController> viewController() = 0;
     // What its cell shows at their natural size, so that they can be made ready before; none by default.
     virtual std::vector<uikit::UIImage> images() const { return {}; }
-    // Of the cell, in points; the greatest finite number means as high as the page.
+    // The cell's, in points; the greatest finite number means as high as the page.
     virtual double preferredShelfHeight() const = 0;
+    // The room around the cell, in points.
     virtual geometry::PhysicalInsets preferredSectionInset() const = 0;
     // The headline, empty for none.
     virtual std::string footerTitle() const = 0;

@@ -32,6 +32,7 @@ class VelaProStorePageViewController : public uikit::UIViewController,
                                        public uikit::UICollectionViewDataSource,
                                        public uikit::UICollectionViewDelegateFlowLayout {
 public:
+    // From the top down.
     using Shelves = std::vector<std::shared_ptr<VelaProStorePageShelf>>;
 
     // Whether pages that are created from now on list the shelf about synchronisation.
@@ -44,6 +45,7 @@ public:
     [[noreturn]] static std::shared_ptr<VelaProStorePageViewController> create(const foundation::Coder& coder);
     // A page with shelves of the caller's own. Made with std::make_shared.
     VelaProStorePageViewController(Shelves shelves, Referrer referrer, Entitlement entitlement);
+
     std::string_view typeName() const override { return "VelaProStorePageViewController"; }
 
     // The screen's name in analytics.
@@ -51,9 +53,13 @@ public:
     // What the plan button does. When it is empty, the tap is only tracked.
     std::function<void()> continueToSelectPlan;
 
+    // What the page was configured with.
     const std::vector<SubscriptionOption>& subscriptionsOptions() const { return m_subscriptionsOptions; }
+    // A place among the options, from 0; not checked.
     int selectedIndex() const { return m_selectedIndex; }
     void setSelectedIndex(int index) { m_selectedIndex = index; }
+
+    // What the page was made with.
     const Shelves& shelves() const { return m_shelves; }
     const Referrer& referrer() const { return m_referrer; }
     Entitlement entitlement() const { return m_entitlement; }
@@ -84,6 +90,7 @@ public:
     const std::shared_ptr<uikit::UICollectionView>& collectionView();
     // Reads the page's own texts anew, in the language of the moment. Its shelves and its plan button have texts of their own.
     void applyTexts();
+
     void languageDidChange() override { applyTexts(); }
     bool accessibilityPerformEscape() override;
 
@@ -91,6 +98,7 @@ public:
     void viewDidAppear(bool animated) override;
     void traitCollectionDidChange(const uikit::UITraitCollection& previous) override;
 
+    // What the page tells its collection.
     std::size_t numberOfSections(uikit::UICollectionView& collectionView) override;
     std::size_t collectionViewNumberOfItemsInSection(uikit::UICollectionView& collectionView, std::size_t section) override;
     std::shared_ptr<uikit::UICollectionViewCell> collectionViewCellForItemAt(uikit::UICollectionView& collectionView,
@@ -101,6 +109,7 @@ public:
     collectionViewViewForSupplementaryElementOfKind(uikit::UICollectionView& collectionView, uikit::UICollectionElementKind kind,
                                                     uikit::IndexPath indexPath) override;
 
+    // What the page tells the collection's layout, and is told by it: how large shelves are, and which of them can be seen.
     std::optional<geometry::Size> collectionViewLayoutSizeForItemAt(uikit::UICollectionView& collectionView,
                                                                     uikit::UICollectionViewFlowLayout& layout,
                                                                     uikit::IndexPath indexPath) override;
@@ -118,14 +127,17 @@ public:
     void collectionViewDidEndDisplayingForItemAt(uikit::UICollectionView& collectionView, uikit::UICollectionViewCell& cell,
                                                  uikit::IndexPath indexPath) override;
 
-    // The buttons' actions.
+    // The buttons' actions: tracks the tap, then runs continueToSelectPlan or dismisses the page.
     virtual void handleChoosePlanButtonTapped();
     virtual void dismissView();
 
 protected:
+    // Steps of viewDidLoad().
     virtual void layoutBottomBar();
     virtual void layoutChoosePlanButton(const std::shared_ptr<uikit::UIView>& bottomBar);
     virtual void layoutDismissButton();
+
+    // Hands the clips, once they are loaded, on to the shelves that show some.
     virtual void handleLoadedVideoViews(const std::vector<std::shared_ptr<velauikit::VideoView>>& videoViews);
 
 private:

@@ -29,25 +29,32 @@ class VelaProUpsellViewController : public uikit::UIViewController,
     struct Creation {};
 
 public:
+    // The module's types, under the names that they have at their front door.
     using Referrer = proupsells::Referrer;
     using Entitlement = proupsells::Entitlement;
     using Promotion = proupsells::Promotion;
     using PersonalizedInfo = proupsells::PersonalizedInfo;
+    // Which paywall is shown: the one with the plan comparison.
     enum class Variant : std::uint8_t { comparisonPaywall };
 
+    // `options` by the rules of setOptions(). `showLoginOnSuccess` is carried for the host.
     static std::shared_ptr<VelaProUpsellViewController> create(std::vector<SubscriptionOption> options, Variant variant,
                                                                Referrer referrer, Entitlement entitlement, bool showLoginOnSuccess);
     // Stops the program: "init(coder:) has not been implemented".
     [[noreturn]] static std::shared_ptr<VelaProUpsellViewController> create(const foundation::Coder& coder);
 
+    // For create() only.
     VelaProUpsellViewController(Creation, std::vector<SubscriptionOption> options, Variant variant, Referrer referrer,
                                 Entitlement entitlement, bool showLoginOnSuccess);
+
     std::string_view typeName() const override { return "VelaProUpsellViewController"; }
 
+    // What the controller was made with.
     const Referrer& referrer() const { return m_referrer; }
     Variant variant() const { return m_variant; }
     Entitlement entitlement() const { return m_entitlement; }
 
+    // Held weakly: null once they have gone, as before they are set.
     std::shared_ptr<ProUpsellEventTracker> tracker() const { return m_tracker.lock(); }
     void setTracker(std::weak_ptr<ProUpsellEventTracker> tracker);
     std::shared_ptr<VelaProUpsellViewControllerDelegate> delegate() const { return m_delegate.lock(); }
@@ -78,12 +85,15 @@ public:
     void viewDidAppear(bool animated) override;
     void viewDidDisappear(bool animated) override;
 
+    // What the embedded paywall tells. The store page and the comparison are shown from here; the rest is the delegate's and the
+    // tracker's.
     void upsellViewControllerDidContinueWith(UpsellViewController& sender, const SubscriptionOption& option) override;
     void upsellViewControllerDidTapCancel(UpsellViewController& sender) override;
     void upsellViewControllerDidTapRestoreButton(UpsellViewController& sender) override;
     void upsellViewControllerDidTapWhatIsProButton(UpsellViewController& sender) override;
     void upsellViewControllerDidTapPrivacyPolicyButton(UpsellViewController& sender) override;
     void upsellViewControllerDidTapTermsOfServiceButton(UpsellViewController& sender) override;
+
     // Does the same as the operation with the longer name.
     void upsellViewControllerDidTapTermsOfService(UpsellViewController& sender);
     void upsellViewControllerDidTapComparePlans(UpsellViewController& sender) override;

@@ -22,7 +22,9 @@ class VelaProUpsellViewControllerDelegate {
 public:
     virtual ~VelaProUpsellViewControllerDelegate() = default;
 
+    // The person continues with a plan: buy it, and dismiss `sender` when that is done. The option is as it was at the tap.
     virtual void proUpsellViewControllerDidContinueWith(VelaProUpsellViewController& sender, const SubscriptionOption& option) = 0;
+    // The person has tapped the button of that name; the paywall stays.
     virtual void proUpsellViewControllerDidTapRestore(VelaProUpsellViewController& sender) = 0;
     virtual void proUpsellViewControllerDidTapPrivacyPolicy(VelaProUpsellViewController& sender) = 0;
     virtual void proUpsellViewControllerDidTapTermsOfService(VelaProUpsellViewController& sender) = 0;

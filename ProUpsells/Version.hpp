@@ -4,6 +4,7 @@
 #include "Platform/System/Compiler.hpp"
 
 extern "C" {
+// The project's version.
 PROUPSELLS_EXPORTED extern const double ProUpsellsVersionNumber;
 // Ends with a line feed.
 PROUPSELLS_EXPORTED extern const unsigned char ProUpsellsVersionString[];

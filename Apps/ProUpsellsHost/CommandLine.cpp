@@ -1,13 +1,14 @@
 #include "Apps/ProUpsellsHost/CommandLine.hpp"
 
 #include <array>
-#include <charconv>
 #include <iostream>
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 #include "Apps/ProUpsellsHost/InputError.hpp"
+#include "Platform/Foundation/DecimalText.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -20,10 +21,9 @@ Json numbersOr(const std::string& text, char separator) {
     Json numbers = Json::array();
     for (std::size_t start = 0;;) {
         const std::size_t end = std::min(text.find(separator, start), text.size());
-        double number = 0;
-        const auto [stop, error] = std::from_chars(text.data() + start, text.data() + end, number);
-        if (error != std::errc{} || stop != text.data() + end) return text;
-        numbers.push_back(number);
+        const auto reading = foundation::readDecimal(std::string_view(text).substr(start, end - start));
+        if (!reading || reading->length != end - start) return text;
+        numbers.push_back(reading->number);
         if (end == text.size()) return numbers;
         start = end + 1;
     }
@@ -90,7 +90,7 @@ struct ShowOptions {
 
         const JsonCursor cursor{all, place};
         ShowArguments result;
-        if (!offers.empty()) result.offers = offers;
+        if (!offers.empty()) result.offers = system::pathOf(offers);
         result.device = readDevice(cursor.at("device"), std::filesystem::current_path());
         result.start = cursor.at("start").oneOf(startScreens);
         return result;
@@ -121,8 +121,8 @@ Arguments readCommandLine(int count, const char* const* arguments) {
         throw InputError(place, "", std::string(error.what()) + ", expected arguments as `proupsells --help` lists them");
     }
     if (show->parsed()) return showOptions.read();
-    runArguments.scenario = scenario;
-    if (!folder.empty()) runArguments.folder = folder;
+    runArguments.scenario = system::pathOf(scenario);
+    if (!folder.empty()) runArguments.folder = system::pathOf(folder);
     return runArguments;
 }
 

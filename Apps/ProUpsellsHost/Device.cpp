@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "Apps/ProUpsellsHost/ThemeFile.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -36,17 +37,17 @@ std::string readLocale(const JsonCursor& value) {
 }
 
 std::filesystem::path readStrings(const JsonCursor& value, const std::filesystem::path& folder) {
-    const std::filesystem::path given = value.text();
+    const std::filesystem::path given = system::pathOf(value.text());
     const std::filesystem::path path = given.is_absolute() ? given : folder / given;
     std::error_code error;
     if (given.empty() || !std::filesystem::is_directory(path, error))
-        value.fail("there is no folder \"" + given.string() + "\", expected one with <language>.lproj folders");
+        value.fail("there is no folder \"" + value.text() + "\", expected one with <language>.lproj folders");
     return path;
 }
 
 Theme readTheme(const JsonCursor& value, const std::filesystem::path& folder) {
     if (value.isNull()) return {};
-    const std::filesystem::path given = value.text();
+    const std::filesystem::path given = system::pathOf(value.text());
     if (given.empty()) value.fail("the file name is empty, expected a theme's file");
     return readThemeFile(given.is_absolute() ? given : folder / given);
 }
@@ -98,7 +99,7 @@ constexpr Word<ReadKey> deviceKeys[] = {
 };
 
 const ReadKey* readerOf(std::string_view key) {
-    const auto entry = std::ranges::find(deviceKeys, key, &Word<ReadKey>::word);
+    const auto entry = entryFor(key, deviceKeys);
     return entry == std::end(deviceKeys) ? nullptr : &entry->value;
 }
 

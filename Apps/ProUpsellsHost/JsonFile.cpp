@@ -10,6 +10,7 @@
 #include "Apps/ProUpsellsHost/InputError.hpp"
 #include "Apps/ProUpsellsHost/JsonPointer.hpp"
 #include "Platform/Foundation/Utf8.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -116,20 +117,20 @@ std::string readBytes(const std::filesystem::path& file) {
     std::error_code error;
     const auto status = std::filesystem::status(file, error);
     if (error || !std::filesystem::exists(status))
-        throw InputError(file.string(), "", "there is no such file, expected a JSON file");
-    if (std::filesystem::is_directory(status)) throw InputError(file.string(), "", "this is a folder, expected a JSON file");
+        throw InputError(system::textOf(file), "", "there is no such file, expected a JSON file");
+    if (std::filesystem::is_directory(status)) throw InputError(system::textOf(file), "", "this is a folder, expected a JSON file");
     std::ifstream stream(file, std::ios::binary);
-    if (!stream) throw InputError(file.string(), "", "the file cannot be read, expected a readable JSON file");
+    if (!stream) throw InputError(system::textOf(file), "", "the file cannot be read, expected a readable JSON file");
 
     std::string bytes;
     char chunk[65536];
     while (stream.read(chunk, sizeof chunk) || stream.gcount() > 0) {
         bytes.append(chunk, static_cast<std::size_t>(stream.gcount()));
         if (bytes.size() > maximumFileSize)
-            throw InputError(file.string(), "", "the file is larger than 64 MB, expected a smaller one");
+            throw InputError(system::textOf(file), "", "the file is larger than 64 MB, expected a smaller one");
     }
-    if (stream.bad()) throw InputError(file.string(), "", "the file cannot be read, expected a readable JSON file");
-    if (bytes.empty()) throw InputError(file.string(), "", "the file is empty, expected a JSON object");
+    if (stream.bad()) throw InputError(system::textOf(file), "", "the file cannot be read, expected a readable JSON file");
+    if (bytes.empty()) throw InputError(system::textOf(file), "", "the file is empty, expected a JSON object");
     return bytes;
 }
 
@@ -150,12 +151,12 @@ std::string lineAndColumn(const std::string& text, std::size_t offset) {
 Json readJsonFile(const std::filesystem::path& file) {
     const std::string bytes = readBytes(file);
     if (const auto offset = foundation::firstInvalidUtf8(bytes))
-        throw InputError(file.string(), "", "invalid UTF-8 at " + lineAndColumn(bytes, *offset) + ", expected UTF-8");
+        throw InputError(system::textOf(file), "", "invalid UTF-8 at " + lineAndColumn(bytes, *offset) + ", expected UTF-8");
 
-    Builder builder(file.string());
+    Builder builder(system::textOf(file));
     if (!Json::sax_parse(bytes, &builder)) {
         const std::size_t offset = builder.errorPosition() > 0 ? builder.errorPosition() - 1 : 0;
-        throw InputError(file.string(), builder.pointer(),
+        throw InputError(system::textOf(file), builder.pointer(),
                          "malformed JSON at " + lineAndColumn(bytes, offset) + ", expected well-formed JSON");
     }
     return std::move(builder.result);

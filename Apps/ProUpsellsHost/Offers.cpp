@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "Apps/ProUpsellsHost/JsonFile.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -108,7 +109,7 @@ Offers readOffers(const JsonCursor& object) {
 
 Offers readOffersFile(const std::filesystem::path& file) {
     const Json value = readJsonFile(file);
-    return readOffers(JsonCursor{value, file.string()});
+    return readOffers(JsonCursor{value, system::textOf(file)});
 }
 
 Json toJson(const SubscriptionOption& option) {

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "Apps/ProUpsellsHost/JsonFile.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -140,7 +141,7 @@ Step readStep(const JsonCursor& step, Surroundings& surroundings) {
     step.expectObject(wordsOf(stepReaders));
     const auto keys = step.keys();
     if (keys.size() != 1) step.fail(std::to_string(keys.size()) + " keys stand here, expected exactly one");
-    const auto entry = std::ranges::find(stepReaders, keys.front(), &Word<ReadStep>::word);
+    const auto entry = entryFor(keys.front(), stepReaders);
     return entry->value(step.at(keys.front()), surroundings);
 }
 
@@ -149,7 +150,7 @@ Offers readScenarioOffers(const JsonCursor& value, const std::filesystem::path& 
         if (!value.isObject()) value.fail("no offers stand here, expected an object or a file name");
         return readOffers(value);
     }
-    const std::filesystem::path given = value.text();
+    const std::filesystem::path given = system::pathOf(value.text());
     if (given.empty()) value.fail("the file name is empty, expected one relative to the scenario");
     return readOffersFile(given.is_absolute() ? given : folder / given);
 }
@@ -158,7 +159,7 @@ Offers readScenarioOffers(const JsonCursor& value, const std::filesystem::path& 
 
 Scenario readScenario(const std::filesystem::path& file) {
     const Json json = readJsonFile(file);
-    const JsonCursor root{json, file.string()};
+    const JsonCursor root{json, system::textOf(file)};
     root.expectObject({"offers", "device", "host", "steps"});
     const std::filesystem::path folder = file.parent_path();
 

@@ -10,6 +10,7 @@
 #include "Apps/ProUpsellsHost/ScreenDump.hpp"
 #include "Apps/ProUpsellsHost/Snapshot.hpp"
 #include "Platform/Accessibility/Search.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -51,7 +52,7 @@ std::string ScenarioRunner::stepPointer() const { return "/steps/" + std::to_str
 void ScenarioRunner::failTap(const std::string& complaint, const SemanticNode& root) const {
     std::string tappable;
     for (const SemanticNode* control : accessibility::controls(root)) tappable += "\n  " + describe(*control);
-    const InputError error(m_scenario.file.string(), stepPointer() + "/tap",
+    const InputError error(system::textOf(m_scenario.file), stepPointer() + "/tap",
                            complaint + ", expected exactly one of the controls below");
     throw InputErrorWithList(error, tappable);
 }
@@ -105,8 +106,9 @@ void ScenarioRunner::perform(const SnapshotStep& step) {
     const Device& device = m_session.device();
     const auto pixels = writeSnapshot(m_session.window(), device.size, device.scale, m_folder, step.file);
     if (!pixels)
-        throw InputError(m_scenario.file.string(), stepPointer() + "/snapshot",
-                         "\"" + (m_folder / step.file).string() + "\" cannot be written, expected a folder that can be written to");
+        throw InputError(system::textOf(m_scenario.file), stepPointer() + "/snapshot",
+                         "\"" + system::textOf(m_folder / system::pathOf(step.file)) +
+                             "\" cannot be written, expected a folder that can be written to");
     m_log->write("snapshot", {{"file", step.file}, {"pixels", Json::array({pixels->width, pixels->height})}});
 }
 
@@ -114,7 +116,7 @@ void ScenarioRunner::perform(const ExpectStep& step) {
     const auto complaint = contradiction(step, m_session.window().semanticTree());
     if (!complaint) return;
     m_allHeld = false;
-    std::cerr << InputError(m_scenario.file.string(), stepPointer() + "/expect", *complaint).what() << '\n';
+    std::cerr << InputError(system::textOf(m_scenario.file), stepPointer() + "/expect", *complaint).what() << '\n';
 }
 
 } // namespace proupsells::hostprogram

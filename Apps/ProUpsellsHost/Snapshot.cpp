@@ -2,6 +2,7 @@
 
 #include "Backends/Raster/PngFile.hpp"
 #include "Backends/Raster/RasterSurface.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -14,7 +15,7 @@ std::optional<rasterbackend::PixelSize> writeSnapshot(host::WindowContent& windo
 
     std::error_code error;
     std::filesystem::create_directories(folder, error);
-    if (error || !rasterbackend::writePng(surface.picture(), folder / name)) return std::nullopt;
+    if (error || !rasterbackend::writePng(surface.picture(), folder / system::pathOf(name))) return std::nullopt;
     return {{surface.picture().width(), surface.picture().height()}};
 }
 

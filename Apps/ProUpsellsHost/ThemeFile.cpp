@@ -7,6 +7,7 @@
 #include "Apps/ProUpsellsHost/InputError.hpp"
 #include "Apps/ProUpsellsHost/JsonCursor.hpp"
 #include "Apps/ProUpsellsHost/JsonFile.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -41,7 +42,7 @@ Theme::Color readColor(const JsonCursor& value) {
 }
 
 std::filesystem::path readPath(const JsonCursor& value, const std::filesystem::path& folder) {
-    const std::filesystem::path given = value.text();
+    const std::filesystem::path given = system::pathOf(value.text());
     if (given.empty()) value.fail("the file name is empty, expected one relative to the theme");
     return given.is_absolute() ? given : folder / given;
 }
@@ -93,14 +94,15 @@ void refuseProblems(const Theme& theme, const std::filesystem::path& file) {
     for (const std::string& problem : theme.problems()) list += "\n  " + problem;
     if (list.empty()) return;
     throw InputErrorWithList(
-        InputError(file.string(), "/colours", "colours do not stand out from each other, expected the contrasts below"), list);
+        InputError(system::textOf(file), "/colours", "colours do not stand out from each other, expected the contrasts below"),
+        list);
 }
 
 } // namespace
 
 Theme readThemeFile(const std::filesystem::path& file) {
     const Json json = readJsonFile(file);
-    const JsonCursor root{json, file.string()};
+    const JsonCursor root{json, system::textOf(file)};
     root.expectObject({"colours", "faces", "pictures"});
     const std::filesystem::path folder = file.parent_path();
 

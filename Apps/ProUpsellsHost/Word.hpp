@@ -24,6 +24,12 @@ constexpr std::array<std::string_view, count> wordsOf(const Word<Value> (&table)
     return words;
 }
 
+// The end of the table where it has no such word.
+template <class Value, std::size_t count>
+const Word<Value>* entryFor(std::string_view word, const Word<Value> (&table)[count]) {
+    return std::find_if(std::begin(table), std::end(table), [&](const Word<Value>& entry) { return entry.word == word; });
+}
+
 // A value that the table does not have stops the program.
 template <class Value, std::size_t count>
 std::string_view wordFor(const Value& value, const Word<Value> (&table)[count]) {

@@ -4,6 +4,7 @@
 #include "Apps/ProUpsellsHost/InputError.hpp"
 #include "Apps/ProUpsellsHost/Program.hpp"
 #include "Platform/System/BecomeProgram.hpp"
+#include "Platform/System/PathText.hpp"
 #include "Platform/System/ProgramFile.hpp"
 
 using namespace proupsells;
@@ -14,7 +15,7 @@ namespace {
 int becomeWindowProgram(char** arguments) {
     const auto program = system::programFile().parent_path() / "proupsells-window";
     const std::error_code reason = system::becomeProgram(program, arguments);
-    throw hostprogram::InputError(program.string(), "", reason.message() + ", expected the program that has windows");
+    throw hostprogram::InputError(system::textOf(program), "", reason.message() + ", expected the program that has windows");
 }
 
 } // namespace

@@ -20,7 +20,10 @@ struct PluginHost {
 
 // The plug-in's one function. The caller owns the decoder.
 using MakeClipDecoder = host::ClipDecoder* (*)(const PluginHost&);
+
+// What that function is called in the plug-in.
 inline constexpr const char* makeClipDecoderSymbol = "proupsellsMakeClipDecoder";
+// What the plug-in's file is called.
 inline constexpr const char* pluginFileName = "proupsells-clips.so";
 
 } // namespace proupsells::ffmpegbackend

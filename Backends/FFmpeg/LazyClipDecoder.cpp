@@ -56,7 +56,8 @@ std::vector<std::filesystem::path> LazyClipDecoder::defaultFolders() {
         if (!file.empty()) add(file.parent_path());
     for (const auto& place : foundation::resourcePlaces()) {
         add(place);
-        for (const char* libraries : {PROUPSELLS_LIBRARY_FOLDER "/proupsells", "bin"}) add(place.parent_path().parent_path() / libraries);
+        for (const char* libraries : {PROUPSELLS_LIBRARY_FOLDER "/proupsells", "bin"})
+            add(place.parent_path().parent_path() / libraries);
     }
     return folders;
 }

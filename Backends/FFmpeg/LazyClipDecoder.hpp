@@ -25,6 +25,7 @@ public:
     static std::vector<std::filesystem::path> defaultFolders();
 
     std::shared_ptr<host::Clip> open(const std::filesystem::path& file) override;
+    // Whether the plug-in is there: false until the first clip is wanted, and where it cannot be loaded.
     bool isLoaded() const;
 
 private:

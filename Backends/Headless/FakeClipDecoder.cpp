@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::headless {
 
@@ -65,7 +66,7 @@ void FakeClipDecoder::breakFile(const std::string& fileName) { m_brokenFiles.ins
 std::shared_ptr<host::Clip> FakeClipDecoder::open(const std::filesystem::path& file) {
     std::weak_ptr<FakeClip>& known = m_clips[file];
     if (auto clip = known.lock()) return clip;
-    const std::string name = file.filename().string();
+    const std::string name = system::textOf(file.filename());
     m_shared->openedFiles.push_back(name);
     std::error_code error;
     const bool isThere = std::filesystem::exists(file, error), isBroken = m_brokenFiles.contains(name);

@@ -10,6 +10,7 @@ namespace proupsells::headless {
 // ideographs.
 class FixedTextShaper final : public host::TextShaper {
 public:
+    // What a font's size is multiplied by.
     static constexpr double advancePerSize = 0.5;
     static constexpr double ascentPerSize = 1;
     static constexpr double descentPerSize = 0.25;

@@ -1,12 +1,11 @@
 #include "Backends/Headless/ImageSizeReader.hpp"
 
 #include <array>
-#include <charconv>
-#include <cmath>
 #include <cstdint>
 #include <fstream>
 #include <string>
 
+#include "Platform/Foundation/DecimalText.hpp"
 #include "Platform/Graphics/PictureHeader.hpp"
 
 namespace proupsells::headless {
@@ -92,11 +91,10 @@ std::optional<Attribute> takeAttribute(std::string_view& text) {
 std::optional<double> takeNumber(std::string_view& text) {
     while (!text.empty() && (isBlank(text.front()) || text.front() == ',')) text.remove_prefix(1);
     if (text.starts_with('+')) text.remove_prefix(1);
-    double value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc() || !std::isfinite(value)) return std::nullopt;
-    text.remove_prefix(std::size_t(end - text.data()));
-    return value;
+    const auto reading = foundation::readDecimal(text);
+    if (!reading) return std::nullopt;
+    text.remove_prefix(reading->length);
+    return reading->number;
 }
 
 // Points for one of the unit; absent for those that depend on what is around the picture.

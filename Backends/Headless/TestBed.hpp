@@ -16,6 +16,7 @@ namespace proupsells::headless {
 // While it lives, its run loop is the main one, its services are installed, and log records are collected instead of written.
 class TestBed {
 public:
+    // Takes one record that nobody has taken.
     using UnexpectedLogHandler = std::function<void(const commons::LogRecord&)>;
 
     // A fixed-metrics shaper and an image size reader; the locale is "en_US".
@@ -27,7 +28,9 @@ public:
     TestBed(const TestBed&) = delete;
     TestBed& operator=(const TestBed&) = delete;
 
+    // The main run loop, on a virtual clock.
     runloop::MainRunLoop& loop() { return *m_loop; }
+    // The clock's time; 0 at first.
     double now_s() const { return m_loop->now_s(); }
     // Lets time pass, with everything that is due on the way.
     void runUntil(double time_s) { m_loop->runUntil(time_s); }
@@ -35,6 +38,7 @@ public:
     // Does what is due now.
     void settle() { m_loop->settle(); }
 
+    // Those of the newest installation.
     const host::Services& services() const { return host::Installation::current(); }
     // Null when another shaper was given.
     FixedTextShaper* fixedTextShaper() const;

@@ -6,12 +6,14 @@
 #include <unicode/bytestream.h>
 #include <unicode/casemap.h>
 #include <unicode/locid.h>
-#include <unicode/numberformatter.h>
 #include <unicode/ubidi.h>
 #include <unicode/utext.h>
 
+#include "Backends/Icu/PercentFormat.hpp"
 #include "Platform/Commons/FatalError.hpp"
+#include "Platform/Foundation/BuiltInLocaleServices.hpp"
 #include "Platform/Foundation/Locale.hpp"
+#include "Platform/Foundation/PlainCharacters.hpp"
 #include "Platform/Foundation/Utf16.hpp"
 #include "Platform/Foundation/Utf8.hpp"
 
@@ -32,17 +34,19 @@ std::string changed(std::string_view text, Change change) {
     return U_SUCCESS(status) ? result : std::string(text);
 }
 
-icu::number::LocalizedNumberFormatter percentFormatter(const foundation::Locale& locale, int maximumFractionDigits) {
-    return icu::number::NumberFormatter::withLocale(icu::Locale(locale.identifier().c_str()))
-        .unit(icu::NoUnit::percent())
-        .scale(icu::number::Scale::powerOfTen(2))
-        .precision(icu::number::Precision::maxFraction(maximumFractionDigits))
-        .roundingMode(UNUM_ROUND_HALFEVEN);
-}
+// English percents are known. For those of any other language a megabyte of ICU and its data is read.
+bool needsNoData(const foundation::Locale& locale) { return locale.identifier() == "en" || locale.identifier() == "en_US"; }
 
-// Between ASCII characters there is always a boundary, except inside CR LF.
-bool isEveryByteOneGrapheme(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80 && c != '\r'; });
+// Absent where only ICU knows them.
+std::optional<std::vector<std::size_t>> plainGraphemeEnds(std::string_view text) {
+    std::vector<std::size_t> ends;
+    ends.reserve(text.size());
+    for (std::size_t end = 0; end < text.size();) {
+        const foundation::DecodedCharacter character = foundation::decodeUtf8(text, end);
+        if (!character.isValid || !foundation::isPlainCharacter(character.value)) return std::nullopt;
+        ends.push_back(end += character.length);
+    }
+    return ends;
 }
 
 } // namespace
@@ -55,47 +59,37 @@ struct IcuLocaleServices::Cache {
     std::unique_ptr<icu::BreakIterator> words;
 
     std::string percentLocale;
-    int percentFractionDigits = -1;
-    icu::number::LocalizedNumberFormatter percent;
+    std::optional<PercentFormat> percent;
 
     std::unique_ptr<UBiDi, decltype(&ubidi_close)> directions{ubidi_open(), ubidi_close};
 
     ~Cache() { utext_close(&text); }
 
-    template <class Visit>
-    void forEachGraphemeEnd(std::string_view bytes, Visit visit) {
+    void appendGraphemeEnds(std::string_view bytes, std::vector<std::size_t>& ends) {
         UErrorCode status = U_ZERO_ERROR;
+        if (!graphemes) graphemes.reset(icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+        if (U_FAILURE(status)) commons::fatalError(std::string("ICU's data is missing: ") + u_errorName(status));
         utext_openUTF8(&text, bytes.data(), static_cast<std::int64_t>(bytes.size()), &status);
         graphemes->setText(&text, status);
         if (U_FAILURE(status)) commons::fatalError("ICU cannot look for characters in a text");
         graphemes->first();
         for (auto end = graphemes->next(); end != icu::BreakIterator::DONE; end = graphemes->next())
-            visit(static_cast<std::size_t>(end));
+            ends.push_back(static_cast<std::size_t>(end));
     }
 };
 
-IcuLocaleServices::IcuLocaleServices() : m_cache(std::make_unique<Cache>()) {
-    UErrorCode status = U_ZERO_ERROR;
-    m_cache->graphemes.reset(icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
-    if (U_FAILURE(status)) commons::fatalError(std::string("ICU's data is missing: ") + u_errorName(status));
-}
-
+IcuLocaleServices::IcuLocaleServices() : m_cache(std::make_unique<Cache>()) {}
 IcuLocaleServices::~IcuLocaleServices() = default;
 
 std::optional<std::string> IcuLocaleServices::percentText(double fraction, int maximumFractionDigits,
                                                           const foundation::Locale& locale) const {
     if (!std::isfinite(fraction)) return std::nullopt;
-    const int digits = std::clamp(maximumFractionDigits, 0, 340);
-    if (m_cache->percentLocale != locale.identifier() || m_cache->percentFractionDigits != digits) {
-        m_cache->percent = percentFormatter(locale, digits);
+    if (needsNoData(locale)) return foundation::BuiltInLocaleServices{}.percentText(fraction, maximumFractionDigits, locale);
+    if (!m_cache->percent || m_cache->percentLocale != locale.identifier()) {
+        m_cache->percent.emplace(icu::Locale(locale.identifier().c_str()));
         m_cache->percentLocale = locale.identifier();
-        m_cache->percentFractionDigits = digits;
     }
-    UErrorCode status = U_ZERO_ERROR;
-    const icu::UnicodeString formatted = m_cache->percent.formatDouble(fraction, status).toString(status);
-    if (U_FAILURE(status)) return std::nullopt;
-    std::string text;
-    return formatted.toUTF8String(text);
+    return m_cache->percent->text(fraction, std::clamp(maximumFractionDigits, 0, 340));
 }
 
 std::string IcuLocaleServices::upperCased(std::string_view text, const foundation::Locale& locale) const {
@@ -114,16 +108,12 @@ std::string IcuLocaleServices::titleCased(std::string_view text, const foundatio
     });
 }
 
-std::size_t IcuLocaleServices::graphemeCount(std::string_view text) const {
-    if (isEveryByteOneGrapheme(text)) return text.size();
-    std::size_t count = 0;
-    m_cache->forEachGraphemeEnd(text, [&](std::size_t) { ++count; });
-    return count;
-}
+std::size_t IcuLocaleServices::graphemeCount(std::string_view text) const { return graphemeEnds(text).size(); }
 
 std::vector<std::size_t> IcuLocaleServices::graphemeEnds(std::string_view text) const {
+    if (auto ends = plainGraphemeEnds(text)) return std::move(*ends);
     std::vector<std::size_t> ends;
-    m_cache->forEachGraphemeEnd(text, [&](std::size_t end) { ends.push_back(end); });
+    m_cache->appendGraphemeEnds(text, ends);
     return ends;
 }
 

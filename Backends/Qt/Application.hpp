@@ -9,15 +9,17 @@ class QGuiApplication;
 
 namespace proupsells::qtbackend {
 
+// How the application object is made.
 struct ApplicationOptions {
-    std::string name = "ProUpsells";
-    bool isHeadless = false;     // no display is asked for; pictures can still be made
-    std::optional<double> scale; // pixels a point; the display's own where absent
+    std::string name = "ProUpsells"; // shown to the person
+    bool isHeadless = false;         // no display is asked for; pictures can still be made
+    std::optional<double> scale;     // pixels a point; the display's own where absent
 };
 
 // One a process, before fonts, pictures or windows are used.
 class Application {
 public:
+    // Stops the program where there is an application object already.
     explicit Application(const ApplicationOptions& options = {});
     ~Application();
     Application(const Application&) = delete;
@@ -29,6 +31,7 @@ public:
 
     // Handles events until quit() or until the last window is closed. Returns the exit status.
     int run();
+    // Makes run() return, when the events at hand are handled.
     static void quit(int exitStatus = 0);
 
 private:

@@ -10,6 +10,7 @@ namespace proupsells::qtbackend {
 // Sleeps until the next turn is due: between turns it costs nothing. Needs a QGuiApplication; the loop must live longer.
 class QtRunLoopDriver {
 public:
+    // Takes the loop's wake-up handler.
     explicit QtRunLoopDriver(runloop::MainRunLoop& loop);
     ~QtRunLoopDriver();
     QtRunLoopDriver(const QtRunLoopDriver&) = delete;

@@ -23,27 +23,34 @@ namespace proupsells::qtquick {
 // It may be moved to another window at any time, and be deleted from inside any call that it makes.
 class ControllerItem : public QQuickPaintedItem {
     Q_OBJECT
+    // What the host decides about the screen; at first the system and the application decide. `textSize` counts steps from the
+    // usual size, from -3 to 8.
     Q_PROPERTY(ColorScheme colorScheme READ colorScheme WRITE setColorScheme NOTIFY traitsChanged)
     Q_PROPERTY(Direction direction READ direction WRITE setDirection NOTIFY traitsChanged)
     Q_PROPERTY(bool reducesMotion READ reducesMotion WRITE setReducesMotion NOTIFY traitsChanged)
     Q_PROPERTY(int textSize READ textSize WRITE setTextSize NOTIFY traitsChanged)
 
 public:
+    // Light or dark, or as the application's palette.
     enum class ColorScheme { System, Light, Dark };
     Q_ENUM(ColorScheme)
+    // Which way texts and rows run, or as the application's.
     enum class Direction { System, LeftToRight, RightToLeft };
     Q_ENUM(Direction)
 
+    // An empty item.
     explicit ControllerItem(QQuickItem* parent = nullptr);
     // Takes the controller out of its window first, so that it hears that it has closed.
     ~ControllerItem() override;
 
     // Takes the former one's place, with all that it presents. Null, as at first: empties the item.
     void setController(std::shared_ptr<uikit::UIViewController> controller);
+    // Null for none.
     uikit::UIViewController* controller() const;
     // What the controller stands in.
     uikit::UIWindow& uiWindow() const { return *m_uiWindow; }
 
+    // The property of the same name, for C++.
     ColorScheme colorScheme() const;
     void setColorScheme(ColorScheme scheme);
     Direction direction() const;
@@ -54,14 +61,17 @@ public:
     int textSize() const;
     void setTextSize(int steps);
 
+    // Called by Qt.
     void paint(QPainter* painter) override;
 
 signals:
+    // One of the properties has become another one.
     void traitsChanged();
     // The controller is to go: its close button was pressed, or its dismiss() was called.
     void dismissalRequested();
 
 protected:
+    // What Qt tells an item.
     bool eventFilter(QObject* watched, QEvent* event) override;
     void updatePolish() override;
     void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;

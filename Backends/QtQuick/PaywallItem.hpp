@@ -25,6 +25,7 @@ namespace proupsells::qtquick {
 // it. An option that lacks something costs one log line and is left out.
 class PaywallItem : public ControllerItem {
     Q_OBJECT
+    // The plans, as above, in the order in which they are given.
     Q_PROPERTY(QVariantList options READ options WRITE setOptions NOTIFY optionsChanged)
     // What promotional prices are compared with; empty for none.
     Q_PROPERTY(QString annualComparisonPrice READ annualComparisonPrice WRITE setAnnualComparisonPrice NOTIFY pricesChanged)
@@ -35,15 +36,20 @@ class PaywallItem : public ControllerItem {
     Q_PROPERTY(bool open READ isOpen WRITE setOpen NOTIFY openChanged)
 
 public:
+    // Why the paywall has closed; see proupsells::ClosingReason.
     enum class Reason { Purchased, Cancelled, Dismissed };
     Q_ENUM(Reason)
 
+    // Open at first, as soon as QML has set every property.
     explicit PaywallItem(QQuickItem* parent = nullptr);
     ~PaywallItem() override;
 
+    // The property, as it was set.
     const QVariantList& options() const { return m_options; }
-    // Also while the paywall is there, by the rules of VelaProUpsellViewController::setOptions.
+    // Sets the property, also while the paywall is there, by the rules of VelaProUpsellViewController::setOptions.
     void setOptions(const QVariantList& options);
+
+    // The property of the same name, for C++.
     const QString& annualComparisonPrice() const { return m_annualPrice; }
     void setAnnualComparisonPrice(const QString& price);
     const QString& monthlyComparisonPrice() const { return m_monthlyPrice; }
@@ -59,6 +65,7 @@ public:
     void setTracker(std::weak_ptr<ProUpsellEventTracker> tracker);
 
 signals:
+    // A property has become another one.
     void optionsChanged();
     void pricesChanged();
     void referrerChanged();
@@ -66,12 +73,15 @@ signals:
 
     // The person has continued with a plan: the host buys it, then sets `open` to false.
     void purchaseRequested(const QString& sku);
+    // The person has tapped the button of that name; the paywall stays.
     void restoreRequested();
     void privacyPolicyRequested();
     void termsOfServiceRequested();
+    // The paywall has gone, after its last animation.
     void closed(Reason reason);
 
 protected:
+    // Called by QML.
     void componentComplete() override;
 
 private:

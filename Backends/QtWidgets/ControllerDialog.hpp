@@ -13,12 +13,15 @@ class ControllerDialog : public QDialog {
     Q_OBJECT
 
 public:
+    // As large as the controller prefers to be, where the screen has room for it.
     explicit ControllerDialog(std::shared_ptr<uikit::UIViewController> controller, QWidget* parent = nullptr);
 
+    // What the controller is shown in; owned by the dialog.
     ControllerWidget& widget() const { return *m_widget; }
 
     // What Qt calls for Escape and for the window's close button: the controller's own close button does the same.
     void reject() override;
+    // Takes the controller away, then ends the dialog.
     void done(int result) override;
 
 private:

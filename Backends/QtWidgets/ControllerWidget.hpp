@@ -26,15 +26,18 @@ public:
 
     // Takes the former one's place, with all that it presents. Null: empties the widget.
     void setController(std::shared_ptr<uikit::UIViewController> controller);
+    // Null for none.
     uikit::UIViewController* controller() const;
     // What the controller stands in.
     uikit::UIWindow& uiWindow() const { return *m_uiWindow; }
 
+    // What the host decides; at first nothing.
     void setTraits(const qtbackend::ScreenTraits& traits);
     const qtbackend::ScreenTraits& traits() const { return m_traits; }
 
     // The size that the controller prefers; that of a sheet, 375 x 800, where it prefers none.
     QSize sizeHint() const override;
+    // 320 x 480, the smallest that screens are made for.
     QSize minimumSizeHint() const override;
 
 signals:
@@ -42,6 +45,7 @@ signals:
     void dismissalRequested();
 
 protected:
+    // What Qt tells a widget.
     bool event(QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     void paintEvent(QPaintEvent* event) override;

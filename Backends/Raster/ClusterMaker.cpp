@@ -6,6 +6,7 @@
 #include <unicode/utext.h>
 
 #include "Platform/Commons/FatalError.hpp"
+#include "Platform/Foundation/PlainCharacters.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -32,9 +33,7 @@ bool isBlank(char16_t unit) {
 bool mayEndALine(char16_t last) { return last != u'\u00AD' && last != u'/'; }
 
 // Whether every unit is a character, and every character a cluster.
-bool isPlain(const std::u16string& units) {
-    return std::all_of(units.begin(), units.end(), [](char16_t unit) { return unit < 0x300 && unit != u'\r'; });
-}
+bool isPlain(const std::u16string& units) { return std::all_of(units.begin(), units.end(), foundation::isPlainCharacter); }
 
 } // namespace
 
@@ -58,13 +57,16 @@ struct ClusterMaker::Rules {
     }
 };
 
-ClusterMaker::ClusterMaker() {
+ClusterMaker::ClusterMaker() = default;
+ClusterMaker::~ClusterMaker() = default;
+
+ClusterMaker::Rules& ClusterMaker::characterRules() {
+    if (m_characters) return *m_characters;
     UErrorCode status = U_ZERO_ERROR;
     icu::BreakIterator* characters = icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status);
     m_characters = std::make_unique<Rules>(characters, status);
+    return *m_characters;
 }
-
-ClusterMaker::~ClusterMaker() = default;
 
 ClusterMaker::Rules& ClusterMaker::lineRules(std::string_view language) {
     const auto found = m_lines.find(language);
@@ -87,7 +89,7 @@ void ClusterMaker::findStarts(const RunUnits& text, std::vector<std::uint32_t>& 
         for (std::uint32_t unit = 0; unit <= units.size(); ++unit) starts.push_back(unit);
         return;
     }
-    icu::BreakIterator& characters = m_characters->in(units);
+    icu::BreakIterator& characters = characterRules().in(units);
     std::size_t run = 0;
     std::uint32_t at = 0;
     while (at < units.size()) {
@@ -107,7 +109,15 @@ void ClusterMaker::makeClusters(const RunUnits& text, std::string_view language,
     clusters.resize(unitStarts.size() - 1);
     if (clusters.empty()) return;
     const std::u16string& units = text.units();
-    icu::BreakIterator& lines = lineRules(language).in(units);
+    // A language may ask for its own rules.
+    const bool isPlain = language.find("-lb-") == std::string_view::npos && m_plainBreaks.read(units);
+    icu::BreakIterator* const lines = isPlain ? nullptr : &lineRules(language).in(units);
+    const auto mayEndAt = [&](std::uint32_t end) {
+        if (isPlain) return m_plainBreaks.mayEndAfter(end - 1);
+        while (lines->current() < std::int32_t(end) && lines->next() != icu::BreakIterator::DONE) {
+        }
+        return lines->current() == std::int32_t(end);
+    };
     std::size_t run = 0;
     for (std::size_t index = 0; index < clusters.size(); ++index) {
         const std::uint32_t start = unitStarts[index], end = unitStarts[index + 1];
@@ -119,13 +129,11 @@ void ClusterMaker::makeClusters(const RunUnits& text, std::string_view language,
 
         const char16_t last = units[end - 1];
         cluster.isWhitespace = isLineFeed(last) || isBlank(units[start]);
-        while (lines.current() < std::int32_t(end) && lines.next() != icu::BreakIterator::DONE) {
-        }
         if (isLineFeed(last)) {
             // A carriage return and its line feed stay together even across runs.
             const bool continues = last == u'\r' && end < units.size() && units[end] == u'\n';
             cluster.breakAfter = continues ? LineBreak::none : LineBreak::mandatory;
-        } else if (end < units.size() && lines.current() == std::int32_t(end) && mayEndALine(last)) {
+        } else if (end < units.size() && mayEndALine(last) && mayEndAt(end)) {
             cluster.breakAfter = LineBreak::allowed;
         }
     }

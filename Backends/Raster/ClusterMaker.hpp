@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "Backends/Raster/PlainLineBreaks.hpp"
 #include "Backends/Raster/RunUnits.hpp"
 
 namespace proupsells::rasterbackend {
@@ -27,11 +28,13 @@ public:
 private:
     struct Rules;
 
+    Rules& characterRules();
     Rules& lineRules(std::string_view language);
     void findStarts(const RunUnits& text, std::vector<std::uint32_t>& starts);
 
-    std::unique_ptr<Rules> m_characters;
+    std::unique_ptr<Rules> m_characters; // null until a text needs them
     std::map<std::string, std::unique_ptr<Rules>, std::less<>> m_lines;
+    PlainLineBreaks m_plainBreaks;
 };
 
 } // namespace proupsells::rasterbackend

@@ -5,18 +5,17 @@
 #include <system_error>
 
 #include "Platform/Foundation/Resources.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::rasterbackend {
 
-std::filesystem::path shippedFaceFolder() {
-    return foundation::findResource("Fonts").value_or(std::filesystem::path());
-}
+std::filesystem::path shippedFaceFolder() { return foundation::findResource("Fonts").value_or(std::filesystem::path()); }
 
 std::vector<FaceFile> facesInFolder(const std::filesystem::path& folder) {
     std::vector<FaceFile> faces;
     std::error_code error;
     for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
-        const std::string extension = entry->path().extension(), stem = entry->path().stem();
+        const std::string extension = system::textOf(entry->path().extension()), stem = system::textOf(entry->path().stem());
         const std::size_t dash = stem.rfind('-');
         if ((extension != ".otf" && extension != ".ttf") || dash == std::string::npos) continue;
         FaceFile face{stem.substr(0, dash), 0, entry->path()};

@@ -1,5 +1,7 @@
 #include "Backends/Raster/FilePicture.hpp"
 
+#include <algorithm>
+
 #include "Backends/Raster/PictureFile.hpp"
 
 namespace proupsells::rasterbackend {
@@ -23,6 +25,11 @@ bool FilePicture::isKept(int tile) const {
     return m_kept && m_isThere[std::size_t(tile)];
 }
 
+bool FilePicture::keepsTiles() const {
+    const std::lock_guard lock(m_mutex);
+    return m_kept != nullptr;
+}
+
 void FilePicture::keep() {
     const std::lock_guard lock(m_mutex);
     if (m_kept) return;
@@ -31,15 +38,20 @@ void FilePicture::keep() {
     m_wantedAgain.clear();
 }
 
+Picture FilePicture::keptPart(const PixelRect& part) const {
+    const int pixelsPerRow = m_tiles.picture.width;
+    const std::shared_ptr<Pixel[]> first(m_kept, m_kept.get() + std::ptrdiff_t(part.top) * pixelsPerRow + part.left);
+    return Picture(first, part.width(), part.height(), pixelsPerRow);
+}
+
 Picture FilePicture::Reader::tile(int index, bool wantedAgain) {
     FilePicture& picture = m_picture;
     const std::lock_guard lock(picture.m_mutex);
     const PixelRect rect = picture.m_tiles.rect(index);
     if (picture.m_kept) {
-        Pixel* const pixels = picture.m_kept.get() + picture.m_tiles.pixelsBefore(index);
-        if (!picture.m_isThere[std::size_t(index)] && !decompress(index, pixels)) return {};
+        if (!picture.m_isThere[std::size_t(index)] && !decompressToKept(index)) return {};
         picture.m_isThere[std::size_t(index)] = true;
-        return Picture({picture.m_kept, pixels}, rect.width(), rect.height());
+        return picture.keptPart(rect);
     }
     Picture tile;
     if (auto known = picture.m_wantedAgain.extract(index)) {
@@ -50,6 +62,24 @@ Picture FilePicture::Reader::tile(int index, bool wantedAgain) {
     }
     if (wantedAgain) picture.m_wantedAgain.emplace(index, tile);
     return tile;
+}
+
+Picture FilePicture::Reader::kept(const PixelRect& part) {
+    if (!m_picture.keepsTiles()) return {};
+    bool isThere = true;
+    m_picture.m_tiles.forEachTouched(part, [&](int index, const PixelRect&) { isThere = isThere && !tile(index, false).isNull(); });
+    const PixelSize size = m_picture.m_tiles.picture;
+    return isThere ? m_picture.keptPart({0, 0, size.width, size.height}) : Picture();
+}
+
+bool FilePicture::Reader::decompressToKept(int index) {
+    const PixelRect rect = m_picture.m_tiles.rect(index);
+    Picture place = m_picture.keptPart(rect);
+    if (rect.width() == m_picture.m_tiles.picture.width) return decompress(index, place.row(0));
+    Picture tile = Picture::unwritten(rect.width(), rect.height());
+    if (!decompress(index, tile.row(0))) return false;
+    for (int y = 0; y < rect.height(); ++y) std::copy_n(tile.row(y), rect.width(), place.row(y));
+    return true;
 }
 
 // Another file may stand there by now.

@@ -39,8 +39,12 @@ public:
 
         // Null where the file's bytes are broken. One that is not kept is forgotten at once, unless it is `wantedAgain` soon.
         Picture tile(int index, bool wantedAgain);
+        // The whole picture, which is written where it shows `part`: whole rows are painted faster than tiles. Null where the
+        // picture is not kept or the file's bytes are broken.
+        Picture kept(const PixelRect& part);
 
     private:
+        bool decompressToKept(int index);
         bool decompress(int index, Pixel* to);
 
         FilePicture& m_picture;
@@ -52,11 +56,14 @@ private:
     FilePicture(std::filesystem::path file, const CompressedPicture& compressed)
         : m_file(std::move(file)), m_tiles(compressed.tiles()), m_isOpaque(compressed.isOpaque()) {}
 
+    bool keepsTiles() const;
+    Picture keptPart(const PixelRect& part) const;
+
     std::filesystem::path m_file;
     TileGrid m_tiles;
     bool m_isOpaque;
     mutable std::mutex m_mutex;                     // guards what follows
-    std::shared_ptr<Pixel[]> m_kept;                // tile after tile; null until tiles are kept
+    std::shared_ptr<Pixel[]> m_kept;                // the whole picture; null until tiles are kept
     std::vector<bool> m_isThere;                    // of each tile that is kept, whether it is written
     std::unordered_map<int, Picture> m_wantedAgain; // tiles by their index, while tiles are not kept
 };

@@ -6,6 +6,7 @@
 #include "Backends/Raster/FallbackLanguage.hpp"
 #include "Platform/Commons/DefaultLogger.hpp"
 #include "Platform/Graphics/Typefaces.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -35,7 +36,7 @@ FontCatalog::FontCatalog(FontSources sources)
 
 void FontCatalog::registerFace(std::string family, int weight, std::filesystem::path file) {
     const FaceFile face{std::move(family), weight, std::move(file)};
-    if (!open(face, weight)) return report("The file " + face.path.string() + " is no font", "FontCatalog::registerFace");
+    if (!open(face, weight)) return report("The file " + system::textOf(face.path) + " is no font", "FontCatalog::registerFace");
     m_registered.push_back(face);
     m_faces.clear();
     m_answers.clear();
@@ -49,7 +50,7 @@ void FontCatalog::followTypefaces() {
         if (open(face, face.weight)) {
             faces.push_back(std::move(face));
         } else {
-            report("The file " + file.path.string() + " is no font", "FontCatalog::followTypefaces");
+            report("The file " + system::textOf(file.path) + " is no font", "FontCatalog::followTypefaces");
             m_missingFamilies.push_back(file.family);
         }
     }
@@ -120,14 +121,14 @@ void FontCatalog::reportMissing(const std::string& family, const std::string& co
 GlyphTableRef FontCatalog::open(const FaceFile& face, int weight) {
     constexpr int anyWeight = 0;
     for (const int known : {anyWeight, weight}) {
-        const auto found = m_fonts.find({face.path.string(), face.index, known});
+        const auto found = m_fonts.find({face.path.native(), face.index, known});
         if (found != m_fonts.end()) return found->second;
     }
     auto file = FontFile::open(face.path, face.index, weight);
     if (!file) return nullptr;
     const bool isVariable = file->isVariable();
     auto font = std::make_shared<GlyphTable>(std::move(file));
-    m_fonts.emplace(std::tuple(face.path.string(), face.index, isVariable ? weight : anyWeight), font);
+    m_fonts.emplace(std::tuple(face.path.native(), face.index, isVariable ? weight : anyWeight), font);
     return font;
 }
 

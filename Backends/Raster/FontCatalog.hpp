@@ -74,7 +74,8 @@ private:
     // What was asked once is not asked again. A question is all that the answer hangs on, in one string.
     std::unordered_map<std::u32string, GlyphTableRef> m_answers;
     std::u32string m_question;
-    std::map<std::tuple<std::string, int, int>, GlyphTableRef> m_fonts; // by path, index and weight; 0 for any
+    std::map<std::tuple<std::filesystem::path::string_type, int, int>, GlyphTableRef>
+        m_fonts; // by path, index and weight; 0 for any
     std::vector<std::string> m_missingFamilies;
     bool m_hasReportedEmptySystem = false;
 };

@@ -8,6 +8,7 @@
 #include "Backends/Raster/Resampling.hpp"
 #include "Backends/Raster/TransformedPicture.hpp"
 #include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -42,7 +43,8 @@ std::size_t ImageRasters::Key::Hash::operator()(const Key& key) const {
 
 const std::size_t ImageRasters::maximumByteCount = fileCacheBytes + bitmapCacheBytes;
 
-ImageRasters::ImageRasters() : m_files(fileCacheBytes), m_bitmaps(bitmapCacheBytes) {}
+ImageRasters::ImageRasters(CoverageRasterizer& rasterizer)
+    : m_rasterizer(rasterizer), m_files(fileCacheBytes), m_bitmaps(bitmapCacheBytes) {}
 
 const ImageRaster& ImageRasters::image(const graphics::Image& image, graphics::ColorScheme scheme, PixelSize size,
                                        bool isTransformed) {
@@ -74,9 +76,9 @@ void ImageRasters::prepare(const ImageRaster& raster, const PixelRect& part) {
 }
 
 void ImageRasters::report(const std::filesystem::path& file) {
-    if (m_reportedFiles.insert(file.string()).second)
+    if (m_reportedFiles.insert(file.native()).second)
         commons::DefaultLogger::shared().log(commons::DefaultLogger::errorSeverity,
-                                             "The image " + file.string() + " cannot be read", "ImageRasters::report");
+                                             "The image " + system::textOf(file) + " cannot be read", "ImageRasters::report");
 }
 
 ImageRaster ImageRasters::load(const std::filesystem::path& file, PixelSize size, bool isTinted, bool isInTiles) {

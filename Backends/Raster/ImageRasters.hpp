@@ -28,7 +28,8 @@ struct ImageRaster {
 
 class ImageRasters {
 public:
-    ImageRasters();
+    // The rasterizer is lent, and used in no two calls at once.
+    explicit ImageRasters(CoverageRasterizer& rasterizer);
 
     // A picture that is asked for again after a call is kept in memory.
     void endPainting() { ++m_painting; }
@@ -76,10 +77,10 @@ private:
     using Cache = LruCache<Key, Entry>;
     static const ImageRaster& insert(Cache& cache, const Key& key, Entry entry);
 
+    CoverageRasterizer& m_rasterizer;
     Cache m_files;
     Cache m_bitmaps;
-    std::unordered_set<std::string> m_reportedFiles;
-    CoverageRasterizer m_rasterizer;
+    std::unordered_set<std::filesystem::path::string_type> m_reportedFiles;
     ImageRaster m_unshared;
     std::uint64_t m_painting = 0;
     PicturePreparer m_preparer;

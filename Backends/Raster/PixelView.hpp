@@ -16,18 +16,21 @@ namespace proupsells::rasterbackend {
 //
 //     view.setSize({375, 800});
 //     while (running) {
-//         waitForEvents(view.nextDueDelay_s());           // ends early when an event comes, which goes to touch(), scroll() or
-//         key() if (view.paint(buffer, 2)) show(view.lastDamage());
+//         // Ends early when an event comes, which goes to touch(), scroll() or key().
+//         waitForEvents(view.nextDueDelay_s());
+//         if (view.paint(buffer, 2)) show(view.lastDamage());
 //     }
 //
 // Needs a main run loop, which must live longer. Main thread only. The view may be destroyed from inside everything that it calls.
 class PixelView {
 public:
+    // Shares the content, which must not be null.
     explicit PixelView(std::shared_ptr<host::WindowContent> content);
     ~PixelView();
     PixelView(const PixelView&) = delete;
     PixelView& operator=(const PixelView&) = delete;
 
+    // As given.
     const std::shared_ptr<host::WindowContent>& content() const;
 
     // --- Place ---

@@ -84,7 +84,8 @@ struct RasterPainter::Job {
 
     // Before something is painted over a part.
     void paintGround(const PixelRect& part) {
-        if (!part.intersection(bare).isEmpty()) fill(std::exchange(bare, {}));
+        const PixelRect touched = part.intersection(bare);
+        if (takeBare(touched)) fill(touched);
     }
     // Whether the whole part is bare; then it counts as painted, and whoever asks must do so.
     bool takeBare(const PixelRect& part) {
@@ -152,14 +153,19 @@ struct RasterPainter::Item {
         paintPixels(job, picture, extent, isOpaque, takesGround(job, extent));
     }
 
-    // Tile by tile. False where one cannot be read; its place stays as it is.
+    // Tile by tile where they are not kept. False where one cannot be read; its place stays as it is.
     bool paintFile(Job& job, FilePicture& picture, int x, int y) const {
         const PixelSize size = picture.tiles().picture;
         const PixelRect extent{x, y, x + size.width, y + size.height};
         const bool isBare = takesGround(job, extent);
         FilePicture::Reader reader(picture);
+        const PixelRect part = area.intersection(extent).moved(-x, -y);
+        if (const Picture kept = reader.kept(part); !kept.isNull()) {
+            paintPixels(job, kept, extent, picture.isOpaque(), isBare);
+            return true;
+        }
         bool isRead = true;
-        picture.tiles().forEachTouched(area.intersection(extent).moved(-x, -y), [&](int index, const PixelRect& rect) {
+        picture.tiles().forEachTouched(part, [&](int index, const PixelRect& rect) {
             const bool goesOn = rect.bottom + y > job.region.bottom && job.region.bottom < job.end;
             const Picture tile = reader.tile(index, goesOn);
             isRead = isRead && !tile.isNull();
@@ -195,17 +201,11 @@ const std::shared_ptr<RasterPainter>& RasterPainter::shared() {
     return painter;
 }
 
-namespace {
-
-// A command that hides everything before it in a region.
-bool hides(const Command& command, double scale, const PixelRect& region) {
-    if (command.kind != CommandKind::fillRectangle || command.color.alpha != 255 || command.opacity < 1) return false;
-    if (command.clipRadius > 0 || command.transform >= 0) return false;
-    return coveredPixels(scaledBy(command.frame, scale)).contains(region) &&
-           nearestPixels(scaledBy(command.clip, scale)).contains(region);
+PixelRect hiddenPixels(const Command& command, double scale) {
+    if (command.kind != CommandKind::fillRectangle || command.color.alpha != 255 || command.opacity < 1) return {};
+    if (command.clipRadius > 0 || command.transform >= 0) return {};
+    return coveredPixels(scaledBy(command.frame, scale)).intersection(nearestPixels(scaledBy(command.clip, scale)));
 }
-
-} // namespace
 
 void RasterPainter::paint(const PaintTarget& target, const graphics::DisplayList& list, double scale,
                           std::span<const PixelRect> regions) {
@@ -219,7 +219,7 @@ void RasterPainter::paint(const PaintTarget& target, const graphics::DisplayList
 void RasterPainter::paintBand(const PaintTarget& target, const graphics::DisplayList& list, double scale, const PixelRect& band,
                               int end) {
     std::size_t first = list.commands.size();
-    while (first > 0 && !hides(list.commands[first - 1], scale, band)) --first;
+    while (first > 0 && !hiddenPixels(list.commands[first - 1], scale).contains(band)) --first;
     const Pixel ground = first > 0 ? premultiplied(list.commands[first - 1].color, 255) : white;
     Job job{target.pixels, target.pixelsPerRow, list, scale, band, end, {0, 0, target.size.width, target.size.height}, ground,
             band};

@@ -20,6 +20,9 @@ struct PaintTarget {
     PixelSize size;
 };
 
+// The pixels of which a command shows nothing that is painted before it.
+PixelRect hiddenPixels(const graphics::Command& command, double scale);
+
 // Every command becomes a colour under a mask or a picture, made for whole pixels and kept for the next time; so a part of a list
 // comes out the same whether it is painted alone or with the rest. Main thread only.
 class RasterPainter {
@@ -53,9 +56,10 @@ private:
     PlacedMask shapeMask(const Job& job, const Item& item);
     PlacedMask outlineMask(const Job& job, const Item& item);
 
-    ShapeMasks m_shapes;
-    TextRasters m_texts;
-    ImageRasters m_images;
+    CoverageRasterizer m_rasterizer;
+    ShapeMasks m_shapes{m_rasterizer};
+    TextRasters m_texts{m_rasterizer};
+    ImageRasters m_images{m_rasterizer};
 };
 
 } // namespace proupsells::rasterbackend

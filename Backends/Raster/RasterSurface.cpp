@@ -8,6 +8,20 @@
 
 namespace proupsells::rasterbackend {
 
+namespace {
+
+// What is left of a rectangle beside a stripe that crosses it at its top or bottom, else all of it.
+PixelRect without(PixelRect rect, const PixelRect& stripe) {
+    if (stripe.intersection(rect).isEmpty() || stripe.left > rect.left || stripe.right < rect.right) return rect;
+    if (stripe.top <= rect.top)
+        rect.top = stripe.bottom;
+    else if (stripe.bottom >= rect.bottom)
+        rect.bottom = stripe.top;
+    return rect;
+}
+
+} // namespace
+
 RasterSurface::RasterSurface() : RasterSurface(RasterPainter::shared()) {}
 
 RasterSurface::RasterSurface(std::shared_ptr<RasterPainter> painter) : m_painter(std::move(painter)) {}
@@ -72,6 +86,20 @@ void RasterSurface::findDamagedPixels(const graphics::DisplayList& list, const P
         const PixelRect touched = touchedPixels(scaledBy(rect, m_scale)).intersection(window);
         if (!touched.isEmpty()) addDamage(touched);
     }
+    leaveOutHiddenDamage(list);
+}
+
+// What stands unchanged over everything else hides what changes below it, as a bar at the edge does while the content scrolls.
+void RasterSurface::leaveOutHiddenDamage(const graphics::DisplayList& list) {
+    const std::size_t common = std::min(m_shown.commands.size(), list.commands.size());
+    for (std::size_t fromEnd = 1; fromEnd <= common; ++fromEnd) {
+        const graphics::Command &shown = m_shown.commands[m_shown.commands.size() - fromEnd],
+                                &next = list.commands[list.commands.size() - fromEnd];
+        if (!graphics::paintsTheSame(m_shown, shown, list, next)) break;
+        const PixelRect hidden = hiddenPixels(next, m_scale);
+        for (PixelRect& rect : m_damage) rect = without(rect, hidden);
+    }
+    std::erase_if(m_damage, [](const PixelRect& rect) { return rect.isEmpty(); });
 }
 
 // Rectangles that do not overlap in points may do so in pixels.

@@ -19,6 +19,7 @@ class RasterSurface final : public host::Surface {
 public:
     // Shares what other surfaces have prepared.
     RasterSurface();
+    // Keeps what it prepares to itself, and to those who share `painter`.
     explicit RasterSurface(std::shared_ptr<RasterPainter> painter);
     ~RasterSurface() override;
 
@@ -46,6 +47,7 @@ private:
     bool paintsDirectly() const;
     void findDamagedPixels(const graphics::DisplayList& list, const PixelRect& window);
     void addDamage(PixelRect rect);
+    void leaveOutHiddenDamage(const graphics::DisplayList& list);
     void copyToBuffer(const PixelRect& rect) const;
 
     std::shared_ptr<RasterPainter> m_painter;

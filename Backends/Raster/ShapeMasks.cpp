@@ -105,7 +105,8 @@ std::size_t ShapeMasks::PathKey::Hash::operator()(const PathKey& key) const {
     return hash;
 }
 
-ShapeMasks::ShapeMasks() : m_shapes(shapeCacheBytes), m_paths(pathCacheBytes) {}
+ShapeMasks::ShapeMasks(CoverageRasterizer& rasterizer)
+    : m_rasterizer(rasterizer), m_shapes(shapeCacheBytes), m_paths(pathCacheBytes) {}
 
 PlacedMask ShapeMasks::roundedRectangle(const Rect& frame, double radius, CornerStyle style, double lineWidth) {
     // Continuous corners begin a little earlier than at their radius.

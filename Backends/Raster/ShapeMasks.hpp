@@ -14,7 +14,8 @@ namespace proupsells::rasterbackend {
 // All lengths are in pixels.
 class ShapeMasks {
 public:
-    ShapeMasks();
+    // The rasterizer is lent, and used in no two calls at once.
+    explicit ShapeMasks(CoverageRasterizer& rasterizer);
 
     // Filled, or, where the line width is positive, stroked along its edge.
     PlacedMask roundedRectangle(const geometry::Rect& frame, double radius, geometry::CornerStyle style, double lineWidth);
@@ -55,9 +56,9 @@ private:
                              const PixelRect& pixels);
     static CoverageMask makeShadow(const Placement& placement, double blurRadius);
 
+    CoverageRasterizer& m_rasterizer;
     LruCache<ShapeKey, MaskRef> m_shapes;
     LruCache<PathKey, MaskRef> m_paths;
-    CoverageRasterizer m_rasterizer;
     StrokeOutliner m_strokes;
     PathKey m_lookup; // keeps its memory
 };

@@ -2,10 +2,13 @@
 
 #include <ft2build.h>
 #include FT_FREETYPE_H
+#include FT_MODULE_H
 #include FT_STROKER_H
+#include FT_SYSTEM_H
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <span>
 #include <utility>
 #include <vector>
@@ -31,17 +34,22 @@ FT_Fixed toFixed(double value) { return FT_Fixed(std::lround(value * 65536)); }
 } // namespace
 
 struct StrokeOutliner::Stroker {
+    FT_MemoryRec_ memory{.user = nullptr,
+                         .alloc = [](FT_Memory, long size) { return std::malloc(std::size_t(size)); },
+                         .free = [](FT_Memory, void* block) { std::free(block); },
+                         .realloc = [](FT_Memory, long, long size, void* block) { return std::realloc(block, std::size_t(size)); }};
     FT_Library library = nullptr;
     FT_Stroker stroker = nullptr;
     double factor = 1; // from the path's lengths to FreeType's
 
     Stroker() {
-        if (FT_Init_FreeType(&library) != 0 || FT_Stroker_New(library, &stroker) != 0)
+        // Without modules, which read fonts: the stroker needs none of them.
+        if (FT_New_Library(&memory, &library) != 0 || FT_Stroker_New(library, &stroker) != 0)
             commons::fatalError("FreeType's stroker cannot be set up");
     }
     ~Stroker() {
         FT_Stroker_Done(stroker);
-        FT_Done_FreeType(library);
+        FT_Done_Library(library);
     }
     Stroker(const Stroker&) = delete;
     Stroker& operator=(const Stroker&) = delete;

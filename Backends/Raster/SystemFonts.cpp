@@ -4,6 +4,8 @@
 #include <cmath>
 #include <fontconfig/fontconfig.h>
 
+#include "Platform/System/PathText.hpp"
+
 namespace proupsells::rasterbackend {
 
 namespace {
@@ -42,7 +44,7 @@ int weightOf(const FcPattern* font) {
 
 FaceFile faceOf(const FcPattern* font, int weight) {
     // The upper half of the index names an instance of a variable font.
-    return {textOf(font, FC_FAMILY), weight, textOf(font, FC_FILE), numberOf(font, FC_INDEX, 0) & 0xFFFF};
+    return {textOf(font, FC_FAMILY), weight, system::pathOf(textOf(font, FC_FILE)), numberOf(font, FC_INDEX, 0) & 0xFFFF};
 }
 
 bool covers(const FcPattern* font, std::u32string_view characters) {
@@ -65,7 +67,7 @@ FcConfig* SystemFonts::configuration() {
     if (m_configuration) return m_configuration;
     if (m_file.empty()) return m_configuration = FcInitLoadConfigAndFonts();
     m_configuration = FcConfigCreate();
-    FcConfigParseAndLoad(m_configuration, fcText(m_file.string()), FcFalse);
+    FcConfigParseAndLoad(m_configuration, fcText(system::textOf(m_file)), FcFalse);
     FcConfigBuildFonts(m_configuration);
     return m_configuration;
 }

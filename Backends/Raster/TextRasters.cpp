@@ -142,7 +142,7 @@ std::size_t TextRasters::Key::Hash::operator()(const Key& key) const {
     return hash;
 }
 
-TextRasters::TextRasters() : m_entries(textCacheBytes) {}
+TextRasters::TextRasters(CoverageRasterizer& rasterizer) : m_rasterizer(rasterizer), m_entries(textCacheBytes) {}
 
 TextRaster TextRasters::raster(const RasterShapedText& text, FragmentRange range, Point baseline, const Transform& toPixels,
                                Pixel color) {

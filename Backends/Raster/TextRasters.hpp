@@ -29,7 +29,8 @@ struct FragmentRange {
 
 class TextRasters {
 public:
-    TextRasters();
+    // The rasterizer is lent, and used in no two calls at once.
+    explicit TextRasters(CoverageRasterizer& rasterizer);
 
     // `baseline` is the fragment's left end, in the lengths that `toPixels` maps. Upright text stands on whole rows of pixels.
     TextRaster raster(const RasterShapedText& text, FragmentRange range, geometry::Point baseline,
@@ -64,8 +65,8 @@ private:
     Entry make(const RasterShapedText& text, FragmentRange range, const geometry::Transform& toPixels, Pixel color);
     std::shared_ptr<const RasterShapedText> translate(const graphics::ShapedText& text);
 
+    CoverageRasterizer& m_rasterizer;
     LruCache<Key, Entry> m_entries;
-    CoverageRasterizer m_rasterizer;
     std::unordered_map<const graphics::ShapedText*, ForeignText> m_foreignTexts;
     RasterTextShaper m_shaper;
 };

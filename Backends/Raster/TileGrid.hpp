@@ -22,11 +22,6 @@ struct TileGrid {
         return {left, top, std::min(left + tile.width, picture.width), std::min(top + tile.height, picture.height)};
     }
     std::size_t pixelCount(int index) const { return std::size_t(rect(index).width()) * std::size_t(rect(index).height()); }
-    // How many pixels are in the tiles before this one.
-    std::size_t pixelsBefore(int index) const {
-        const PixelRect own = rect(index);
-        return std::size_t(own.top) * std::size_t(picture.width) + std::size_t(own.left) * std::size_t(own.height());
-    }
     // Calls visit(index, rect) for the tiles that a part of the picture touches.
     template <class Visit>
     void forEachTouched(const PixelRect& part, Visit&& visit) const {

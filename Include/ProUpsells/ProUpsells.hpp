@@ -27,3 +27,10 @@
 
 // Reading the screen back, as a test does.
 #include "Platform/Accessibility/Search.hpp"
+
+// As pkg-config names the package's place. CMake's files bring a source that does the same.
+#ifdef PROUPSELLS_RESOURCES
+namespace proupsells::foundation {
+inline const ResourcePlace packagePlace(PROUPSELLS_RESOURCES);
+} // namespace proupsells::foundation
+#endif

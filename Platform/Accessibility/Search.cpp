@@ -41,7 +41,7 @@ const std::string* firstImage(const SemanticNode& node) {
 bool isNamed(const SemanticNode& control, std::string_view name) {
     if (control.label == name) return true;
     const std::vector<std::string> texts = shownTexts(control);
-    return std::ranges::find(texts, name) != texts.end() || (!texts.empty() && joinedTexts(control) == name);
+    return std::find(texts.begin(), texts.end(), name) != texts.end() || (!texts.empty() && joinedTexts(control) == name);
 }
 
 // Returns whether the node or something in it was added.

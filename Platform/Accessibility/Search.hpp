@@ -21,6 +21,7 @@ std::vector<const SemanticNode*> controlsNamed(SemanticNode&& root, std::string_
 
 // The first node of the identifier; null when there is none.
 const SemanticNode* findByIdentifier(const SemanticNode& root, std::string_view identifier);
+// All nodes of the identifier, or of the type as the code names it.
 std::vector<const SemanticNode*> findAllByIdentifier(const SemanticNode& root, std::string_view identifier);
 std::vector<const SemanticNode*> findAllByType(const SemanticNode& root, std::string_view type);
 // Nodes that show exactly this text.

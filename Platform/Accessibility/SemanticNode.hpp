@@ -11,6 +11,7 @@
 
 namespace proupsells::accessibility {
 
+// What a node is and how it stands, any number of them at once.
 enum class Traits : std::uint16_t {
     none = 0,
     button = 1,
@@ -22,9 +23,12 @@ enum class Traits : std::uint16_t {
     adjustable = 64,
     link = 128,
 };
+// All of both.
 constexpr Traits operator|(Traits a, Traits b) { return Traits(std::uint16_t(a) | std::uint16_t(b)); }
+// Whether `all` has every one of `one`.
 constexpr bool contains(Traits all, Traits one) { return (std::uint16_t(all) & std::uint16_t(one)) == std::uint16_t(one); }
 
+// A stretch of a rich text, as it was laid out. Fonts and colours by their design-system names, sizes in points.
 struct TextRunInfo {
     std::string text;
     std::string font;
@@ -34,7 +38,7 @@ struct TextRunInfo {
     bool isStruckThrough = false;
 };
 
-// A text as it was laid out.
+// A text as it was laid out. Fonts and colours by their design-system names, sizes in points.
 struct TextInfo {
     std::string text; // the whole text before any change of case
     std::string font;
@@ -54,18 +58,21 @@ struct ShapeInfo {
     std::optional<double> cornerRadius;
 };
 
+// How far a scroll view has been scrolled, and how much there is to scroll; in points.
 struct ScrollInfo {
     geometry::Point contentOffset;
     geometry::Size contentSize;
     geometry::PhysicalInsets contentInset;
 };
 
+// Which clip a view plays.
 struct ClipInfo {
     std::string name;
     std::optional<double> time_s; // of the picture in the clip; absent while none is shown
 };
 
-// A view and what is inside it, front-most last. Frames are in window points, after every transform.
+// A view and what is inside it, front-most last. Frames are in window points, after every transform. Texts are empty and optional
+// parts absent where the view has none of the kind.
 struct SemanticNode {
     std::string type; // as in the code
     geometry::Rect frame;
@@ -83,6 +90,7 @@ struct SemanticNode {
     std::optional<geometry::Rect> clip;
     std::optional<ScrollInfo> scroll;
     std::optional<ClipInfo> clipView;
+
     // Something that a person can tap.
     bool isControl = false;
     // Of controls: does what a tap at the control's centre does. Empty when it is disabled.
@@ -92,6 +100,7 @@ struct SemanticNode {
     // Scrolls whatever scroll views are around the node by as little as makes its centre reachable, at once. Empty outside scroll
     // views.
     std::function<void()> reveal;
+
     std::vector<SemanticNode> children;
 };
 

@@ -12,10 +12,14 @@ namespace proupsells::combine {
 template <class Value>
 class AnyPublisher {
 public:
+    // What a value is delivered to.
     using Receiver = std::function<void(const Value&)>;
+    // Makes a receiver a subscriber, for as long as the token that it returns.
     using Subscribe = std::function<AnyCancellable(Receiver)>;
 
     AnyPublisher() = default;
+
+    // `subscribe` runs at each sink().
     explicit AnyPublisher(Subscribe subscribe) : m_subscribe(std::move(subscribe)) {}
 
     // The subscription lasts as long as the token.

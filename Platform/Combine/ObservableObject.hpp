@@ -7,6 +7,7 @@
 
 namespace proupsells::combine {
 
+// The announcement of a change; which field it is of is not said.
 struct WillChange {};
 
 // Base of every observed model. `objectWillChange` sends before each change of a published field.
@@ -17,6 +18,7 @@ public:
     ObservableObject& operator=(const ObservableObject&) = delete;
     virtual ~ObservableObject() = default;
 
+    // Sends before each change; the fields still have their old values then.
     PassthroughSubject<WillChange> objectWillChange;
 };
 
@@ -24,13 +26,16 @@ public:
 template <class Value>
 class Published {
 public:
+    // A field of `owner`, which must live longer.
     explicit Published(ObservableObject& owner, Value initial = {}) : m_owner(owner), m_value(std::move(initial)) {}
     Published(const Published&) = delete;
 
+    // The value; good until the next write.
     const Value& get() const { return m_value; }
     operator const Value&() const { return m_value; }
     const Value* operator->() const { return &m_value; }
 
+    // Announces the change, then writes.
     void set(Value value) {
         m_owner.objectWillChange.send({});
         m_value = std::move(value);

@@ -18,6 +18,7 @@ namespace proupsells::combine {
 template <class Value>
 class PassthroughSubject {
 public:
+    // What a value is delivered to; an empty one is told nothing.
     using Receiver = std::function<void(const Value&)>;
 
     PassthroughSubject() : m_list(std::make_shared<List>()) {}

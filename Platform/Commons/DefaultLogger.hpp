@@ -9,6 +9,7 @@
 
 namespace proupsells::commons {
 
+// One line of the log, and where in the code it was written.
 struct LogRecord {
     int severity = 0;
     std::string message;
@@ -22,12 +23,14 @@ public:
     // On the logger's scale, 4 is an error that was survived.
     static constexpr int errorSeverity = 4;
 
+    // The one logger of the process.
     static DefaultLogger& shared();
 
     // Hands the record to the sink at once, on the calling thread.
     void log(int severity, std::string_view message, std::string_view function,
              SourceLocation location = SourceLocation::current());
 
+    // Takes records. It may replace itself, and log.
     using Sink = std::function<void(const LogRecord&)>;
 
     // Replaces the sink and returns the previous one. An empty sink restores the default, a line on standard error.

@@ -59,8 +59,8 @@ struct Character {
 class Paragraph {
 public:
     Paragraph(std::span<Character> characters, geometry::LayoutDirection fallback) : m_characters(characters) {
-        const auto letter =
-            std::ranges::find_if(characters, [](const Character& c) { return c.kind == Kind::left || c.kind == Kind::right; });
+        const auto letter = std::find_if(characters.begin(), characters.end(),
+                                         [](const Character& c) { return c.kind == Kind::left || c.kind == Kind::right; });
         const bool isRightToLeft = fallback == geometry::LayoutDirection::rightToLeft;
         m_base = letter != characters.end() ? letter->kind : isRightToLeft ? Kind::right : Kind::left;
     }

@@ -14,6 +14,7 @@
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/Foundation/StringsFile.hpp"
 #include "Platform/RunLoop/MainActor.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::foundation {
 
@@ -70,11 +71,11 @@ StringsFile::Texts readTexts(const fs::path& path) {
     if (!fs::exists(path, ignored)) return {};
     const auto bytes = readFile(path);
     if (!bytes) {
-        logUnusable(path.string(), "the file cannot be read");
+        logUnusable(system::textOf(path), "the file cannot be read");
         return {};
     }
     StringsFile file = StringsFile::parse(*bytes);
-    if (file.error) logUnusable(path.string() + ":" + std::to_string(file.error->line), file.error->message);
+    if (file.error) logUnusable(system::textOf(path) + ":" + std::to_string(file.error->line), file.error->message);
     return std::move(file.texts);
 }
 
@@ -84,7 +85,7 @@ struct Bundle::Tables {
     explicit Tables(const fs::path& folder) {
         if (folder.empty()) return;
         for (const fs::path& subfolder : subfolders(folder)) {
-            const std::string name = normalised(subfolder.filename().string());
+            const std::string name = normalised(system::textOf(subfolder.filename()));
             if (!name.ends_with(languageFolderExtension)) continue;
             folders.emplace(name.substr(0, name.size() - languageFolderExtension.size()), subfolder);
         }
@@ -109,8 +110,9 @@ Bundle::~Bundle() = default;
 
 std::optional<fs::path> Bundle::pathForResource(std::string_view name, std::string_view extension) const {
     if (m_folder.empty() || name.empty()) return std::nullopt;
-    std::string fileName(name);
-    if (!extension.empty()) fileName.append(".").append(extension);
+    std::string text(name);
+    if (!extension.empty()) text.append(".").append(extension);
+    const fs::path fileName = system::pathOf(text);
     if (isFile(m_folder / fileName)) return m_folder / fileName;
     for (const fs::path& subfolder : subfolders(m_folder))
         if (isFile(subfolder / fileName)) return subfolder / fileName;

@@ -17,6 +17,7 @@ public:
     Bundle(const Bundle&) = delete;
     Bundle& operator=(const Bundle&) = delete;
 
+    // As given.
     const std::filesystem::path& folder() const { return m_folder; }
 
     // The file `name`.`extension` in the bundle's folder or one folder below it (by name), if there is one. An empty extension

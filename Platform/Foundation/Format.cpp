@@ -5,11 +5,12 @@
 #include <limits>
 #include <system_error>
 
+#include "Platform/Foundation/Ascii.hpp"
+#include "Platform/Foundation/DecimalText.hpp"
+
 namespace proupsells::foundation {
 
 namespace {
-
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 // The number in front of "$@" at the start of `text`, and the length of all three; absent when that is not what stands there.
 struct NumberedPlaceholder {
@@ -18,7 +19,7 @@ struct NumberedPlaceholder {
 };
 
 std::optional<NumberedPlaceholder> numberedPlaceholder(std::string_view text) {
-    const auto digits = static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isDigit) - text.begin());
+    const auto digits = static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isAsciiDigit) - text.begin());
     if (digits == 0 || text.substr(digits, 2) != "$@") return std::nullopt;
     std::size_t number = 0;
     const auto result = std::from_chars(text.data(), text.data() + digits, number);
@@ -58,13 +59,8 @@ std::string format(std::string_view text, std::initializer_list<std::string_view
 
 std::optional<double> decimalNumber(std::string_view text) {
     if (text.substr(0, 1) == "+" && text.substr(1, 1) != "-") text.remove_prefix(1);
-    // Everything that from_chars takes besides decimal numbers begins with a letter.
-    const std::size_t sign = text.substr(0, 1) == "-" ? 1 : 0;
-    if (text.size() <= sign || (!isDigit(text[sign]) && text[sign] != '.')) return std::nullopt;
-    double number = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::general);
-    if (result.ec != std::errc{} || result.ptr != text.data() + text.size()) return std::nullopt;
-    return number;
+    const auto reading = readDecimal(text);
+    return reading && reading->length == text.size() ? std::optional(reading->number) : std::nullopt;
 }
 
 } // namespace proupsells::foundation

@@ -16,6 +16,7 @@ std::string languageTagOf(std::string_view identifier);
 // A locale such as "de_AT" or "en-US"; "-" and "_" mean the same.
 class Locale {
 public:
+    // Of any text, also of one that names no language.
     explicit Locale(std::string identifier = "en_US");
 
     // As given, with "_" between its parts.
@@ -31,6 +32,7 @@ public:
     // Screens that are shown follow in the next update. The same locale again changes nothing.
     static void setCurrent(Locale locale);
 
+    // By identifier.
     bool operator==(const Locale& other) const { return m_identifier == other.m_identifier; }
 
 private:

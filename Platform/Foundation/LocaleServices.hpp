@@ -25,6 +25,7 @@ public:
 
     // 0.45 becomes "45%" in English, rounded half to even to at most `maximumFractionDigits`; absent when it cannot be formatted.
     virtual std::optional<std::string> percentText(double fraction, int maximumFractionDigits, const Locale& locale) const = 0;
+    // By the rules of the locale's language, as far as the services know them.
     virtual std::string upperCased(std::string_view text, const Locale& locale) const = 0;
     // Each word's first letter upper, the rest lower.
     virtual std::string titleCased(std::string_view text, const Locale& locale) const = 0;
@@ -32,11 +33,13 @@ public:
     virtual std::size_t graphemeCount(std::string_view text) const = 0;
     // Byte offsets at which a user-perceived character ends, ascending; the last one is the text's length.
     virtual std::vector<std::size_t> graphemeEnds(std::string_view text) const = 0;
+    // Which way screens of the locale's language run.
     virtual geometry::LayoutDirection layoutDirection(const Locale& locale) const = 0;
     // The text's stretches of one level, in logical order, the last one ending with the text. Each paragraph reads in the direction
     // of its first letter, and in `fallback` where it has none.
     virtual std::vector<BidiRun> bidiRuns(std::string_view text, geometry::LayoutDirection fallback) const = 0;
 
+    // The services in force; the built-in ones until a backend's are set.
     static const LocaleServices& current();
     // Null restores the built-in services. Screens that are shown follow in the next update. Returns the previous ones (null for
     // the built-in ones).

@@ -1,41 +1,14 @@
 #include "Platform/Foundation/PercentText.hpp"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
-#include <cstdlib>
+#include <string>
+
+#include "Platform/Foundation/DecimalText.hpp"
 
 namespace proupsells::foundation {
 
 namespace {
-
-// The value 0.d1d2d3… × 10^pointPosition.
-struct Decimal {
-    std::string digits;
-    int pointPosition = 0;
-};
-
-Decimal shortestDecimal(double magnitude) {
-    char text[40];
-    const auto end = std::to_chars(std::begin(text), std::end(text), magnitude, std::chars_format::scientific).ptr;
-    Decimal decimal;
-    const char* const exponent = std::find(text, end, 'e');
-    std::copy_if(static_cast<const char*>(text), exponent, std::back_inserter(decimal.digits), [](char c) { return c != '.'; });
-    // The exponent's sign is always written, and from_chars takes no plus sign.
-    std::from_chars(exponent + 2, end, decimal.pointPosition);
-    if (exponent[1] == '-') decimal.pointPosition = -decimal.pointPosition;
-    ++decimal.pointPosition;
-    return decimal;
-}
-
-void addOneToLastDigit(Decimal& decimal) {
-    for (auto digit = decimal.digits.rbegin(); digit != decimal.digits.rend(); ++digit) {
-        if (*digit != '9') return void(++*digit);
-        *digit = '0';
-    }
-    decimal.digits.insert(decimal.digits.begin(), '1');
-    ++decimal.pointPosition;
-}
 
 void roundHalfToEven(Decimal& decimal, int fractionDigits) {
     const int kept = decimal.pointPosition + fractionDigits;

@@ -7,6 +7,7 @@ namespace proupsells::foundation {
 // files make one for each program that is built against it.
 class ResourcePlace {
 public:
+    // From now on, and for the rest of the program.
     explicit ResourcePlace(const char* folder);
 };
 

@@ -5,6 +5,7 @@
 
 namespace proupsells::geometry {
 
+// Sideways, or up and down.
 enum class Axis : std::uint8_t { horizontal, vertical };
 
 } // namespace proupsells::geometry

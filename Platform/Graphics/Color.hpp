@@ -6,15 +6,20 @@
 
 namespace proupsells::graphics {
 
+// Which of its two values a colour shows.
 enum class ColorScheme : std::uint8_t { light, dark };
 
 // Straight (not premultiplied) 8-bit components.
 struct RGBA {
-    std::uint8_t red = 0, green = 0, blue = 0, alpha = 255;
+    std::uint8_t red = 0;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
+    std::uint8_t alpha = 255;
 
     bool operator==(const RGBA&) const = default;
 };
 
+// Of a number 0xRRGGBB.
 constexpr RGBA rgb(std::uint32_t hex, std::uint8_t alpha = 255) {
     return {std::uint8_t(hex >> 16), std::uint8_t(hex >> 8), std::uint8_t(hex), alpha};
 }
@@ -26,11 +31,13 @@ struct Color {
     RGBA light;
     RGBA dark;
 
+    // The value that the scheme shows, unless a palette has another one.
     constexpr RGBA own(ColorScheme scheme) const { return scheme == ColorScheme::dark ? dark : light; }
-    // What is painted: the colour's own value, unless the palette in force has another one for its name.
+    // What is painted: the colour's own value, or that of its name in the palette in force.
     RGBA resolved(ColorScheme scheme) const { return s_palette ? inPalette(*s_palette, scheme) : own(scheme); }
     bool operator==(const Color&) const = default;
 
+    // Fixed colours: the same in either scheme.
     static const Color clear;
     static const Color black;
     static const Color white;

@@ -5,6 +5,7 @@
 
 namespace proupsells::graphics {
 
+// From small to large; the accessibility categories go beyond what is usual.
 enum class ContentSizeCategory : std::uint8_t {
     extraSmall,
     small,
@@ -19,6 +20,8 @@ enum class ContentSizeCategory : std::uint8_t {
     accessibilityExtraExtraLarge,
     accessibilityExtraExtraExtraLarge,
 };
+
+// How many categories there are.
 inline constexpr int contentSizeCategoryCount = 12;
 
 // By how much a category makes texts larger than the normal size.

@@ -4,7 +4,7 @@
 // bounds of all others. The common beginning and end are found by comparison, what is common in between by hash values
 // and a longest increasing run.
 #include <algorithm>
-#include <bit>
+#include <cstring>
 
 #include "Platform/Graphics/DisplayList.hpp"
 
@@ -64,6 +64,15 @@ private:
     std::vector<Rect>& m_rectangles;
 };
 
+// std::bit_cast, which some supported standard libraries lack.
+template <class Bits, class Value>
+Bits bitsOf(const Value& value) {
+    static_assert(sizeof(Bits) == sizeof(Value));
+    Bits bits;
+    std::memcpy(&bits, &value, sizeof bits);
+    return bits;
+}
+
 // Equal for commands that paint the same; resources are left to the comparison.
 std::uint64_t hashOf(const Command& command) {
     std::uint64_t hash = 0x9E3779B97F4A7C15;
@@ -72,7 +81,7 @@ std::uint64_t hashOf(const Command& command) {
         hash ^= hash >> 32;
     };
     // Adding zero makes one zero of the two, which compare equal.
-    const auto mixLength = [&mix](double value) { mix(std::bit_cast<std::uint64_t>(value + 0.0)); };
+    const auto mixLength = [&mix](double value) { mix(bitsOf<std::uint64_t>(value + 0.0)); };
     mixLength(command.frame.origin.x);
     mixLength(command.frame.origin.y);
     mixLength(command.frame.size.width);
@@ -80,7 +89,7 @@ std::uint64_t hashOf(const Command& command) {
     mixLength(command.bounds.origin.x);
     mixLength(command.bounds.origin.y);
     mixLength(double(command.opacity));
-    mix(std::uint64_t(command.kind) << 32 | std::bit_cast<std::uint32_t>(command.color));
+    mix(std::uint64_t(command.kind) << 32 | bitsOf<std::uint32_t>(command.color));
     mix(std::uint64_t(command.firstCluster) << 32 | command.endCluster);
     return hash;
 }

@@ -18,6 +18,7 @@ struct Bitmap {
     std::vector<std::uint32_t> pixels;
 };
 
+// What a command paints, and which of its fields count.
 enum class CommandKind : std::uint8_t {
     fillRectangle,          // frame, color
     fillRoundedRectangle,   // frame, cornerRadius, cornerStyle, color
@@ -50,17 +51,24 @@ struct Command {
     geometry::Rect roundedClip;
     std::int32_t transform = -1; // index into transforms, about the window's origin; -1: none
     std::int32_t resource = -1;  // index into paths, images, bitmaps or texts, by kind
+
+    // Of a text: the clusters from the first one up to the end are painted.
     std::uint32_t firstCluster = 0;
     std::uint32_t endCluster = 0;
 };
 
 class DisplayList {
 public:
+    // What is painted, the last one in front.
     std::vector<Command> commands;
     // Images that nobody sees yet but that may be wanted soon. They are neither painted nor compared.
     std::vector<Command> ahead;
+
+    // What commands refer to by index.
     std::vector<geometry::Transform> transforms;
     std::vector<geometry::Path> paths; // in window points; past those in use, spare ones may follow
+
+    // What commands refer to by index, shared with whoever made it.
     std::vector<ImageRef> images;
     std::vector<std::shared_ptr<const Bitmap>> bitmaps;
     std::vector<std::shared_ptr<const ShapedText>> texts;

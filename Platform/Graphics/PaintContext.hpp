@@ -18,10 +18,14 @@ struct PaintState {
     geometry::Transform transform; // about the window's origin
     ColorScheme scheme = ColorScheme::light;
 
+    // The same for what stands `delta` further.
     PaintState movedBy(geometry::Point delta) const;
-    PaintState clippedTo(const geometry::Rect& rect, double radius = 0) const; // in current coordinates
+    // The same with nothing painted outside `rect`, in current coordinates, whose corners are rounded by `radius`.
+    PaintState clippedTo(const geometry::Rect& rect, double radius = 0) const;
+    // The same with the opacity multiplied.
     PaintState fadedBy(double opacity) const;
-    PaintState transformedBy(const geometry::Transform& transform) const; // in current coordinates
+    // The same with everything transformed, in current coordinates.
+    PaintState transformedBy(const geometry::Transform& transform) const;
     // A rectangle in current coordinates as it stands in the window, transform applied, clip not.
     geometry::Rect toWindow(const geometry::Rect& rect) const;
     // What can be seen of the current coordinates; absent under a transform that does more than move.
@@ -49,11 +53,13 @@ inline std::optional<geometry::Rect> PaintState::visibleRect() const {
 
 inline bool PaintState::hides(const geometry::Rect& rect) const { return !(opacity > 0) || !toWindow(rect).intersects(clip); }
 
-// Commands that nothing of can be seen are left out.
+// Everything is in current coordinates of the state that is given with it. Commands that nothing of can be seen are left out.
 class PaintContext {
 public:
+    // Writes to the end of `list`, which must live longer.
     explicit PaintContext(DisplayList& list) : m_list(list) {}
 
+    // One command each, in front of those before. Strokes are centred on the edge; `tint` colours a tinted image.
     void fillRectangle(const PaintState&, const geometry::Rect&, RGBA);
     void fillRoundedRectangle(const PaintState&, const geometry::Rect&, double radius, geometry::CornerStyle, RGBA);
     void strokeRoundedRectangle(const PaintState&, const geometry::Rect&, double radius, geometry::CornerStyle, double lineWidth,

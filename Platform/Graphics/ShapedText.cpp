@@ -12,7 +12,7 @@ namespace {
 constexpr unsigned char firstRightToLeftLead = 0xD6;
 
 bool readsFromLeftToRight(std::string_view text) {
-    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < firstRightToLeftLead; });
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < firstRightToLeftLead; });
 }
 
 } // namespace

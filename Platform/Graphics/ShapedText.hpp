@@ -26,6 +26,7 @@ struct Cluster {
     bool isWhitespace = false; // takes no room at a line's end; a line feed has no advance at all
 };
 
+// A stretch of text in one font, to be shaped.
 struct StyledRun {
     std::string text;
     Font font;
@@ -34,6 +35,7 @@ struct StyledRun {
     bool operator==(const StyledRun&) const = default;
 };
 
+// How high the lines of a run are.
 struct RunMetrics {
     double ascent = 0;  // points above the baseline
     double descent = 0; // points below it; ascent + descent is the line's height
@@ -44,9 +46,10 @@ class ShapedText {
 public:
     virtual ~ShapedText() = default;
 
+    // What was shaped, and what came out.
     std::vector<StyledRun> runs;
     std::vector<RunMetrics> metrics; // one for each run
-    std::vector<Cluster> clusters;
+    std::vector<Cluster> clusters;   // in logical order
 };
 
 // All runs' texts, one after the other.

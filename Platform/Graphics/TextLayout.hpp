@@ -22,6 +22,7 @@ struct TextFragment {
     bool operator==(const TextFragment&) const = default;
 };
 
+// A line as it stands: clusters and fragments are ranges of the text's and the layout's. Lengths are in points.
 struct TextLine {
     std::uint32_t firstCluster = 0;
     std::uint32_t endCluster = 0;    // without the blanks at its end
@@ -39,10 +40,11 @@ struct TextLine {
     bool operator==(const TextLine&) const = default;
 };
 
+// How a text is to be wrapped. Lengths are in points.
 struct TextLayoutRequest {
     std::optional<double> width;  // absent: never wrapped
     std::optional<double> height; // absent: no limit; otherwise lines that do not fit are cut, the first one never
-    std::optional<int> lineLimit;
+    std::optional<int> lineLimit; // absent: no limit
     double lineSpacing = 0;
     geometry::LayoutDirection direction = geometry::LayoutDirection::leftToRight; // the screen's, for the alignment
     double ellipsisWidth = 0; // of "…" in the text's font; used when something is cut

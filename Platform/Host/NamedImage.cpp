@@ -10,13 +10,14 @@
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/Graphics/PictureHeader.hpp"
 #include "Platform/Host/Services.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::host {
 
 namespace {
 
 [[noreturn]] void failToFind(const std::string& name, const foundation::Bundle& bundle) {
-    commons::fatalError("There is no image \"" + name + "\" in " + bundle.folder().string());
+    commons::fatalError("There is no image \"" + name + "\" in " + system::textOf(bundle.folder()));
 }
 
 // The picture that the build has made, or what it is made of.
@@ -44,7 +45,7 @@ std::shared_ptr<graphics::Image> readImage(const std::string& name, const founda
 
 // Every image that was read, and what stands in for some of them.
 struct Images {
-    using Key = std::tuple<std::string, std::string, graphics::RenderingMode>;
+    using Key = std::tuple<std::filesystem::path::string_type, std::string, graphics::RenderingMode>;
 
     std::map<Key, std::shared_ptr<graphics::Image>> byKey;
     StandIns standIns;
@@ -85,7 +86,7 @@ void reportOnce(const std::string& complaint) {
 bool canStandIn(const std::filesystem::path& file, const graphics::Image& image) {
     const std::string complaint = complaintAbout(file, image);
     if (!complaint.empty())
-        reportOnce("The picture " + file.string() + " " + complaint + "; \"" + image.name + "\" stays as it is");
+        reportOnce("The picture " + system::textOf(file) + " " + complaint + "; \"" + image.name + "\" stays as it is");
     return complaint.empty();
 }
 
@@ -104,7 +105,7 @@ graphics::ImageRef standInFor(const graphics::Image& image) {
 } // namespace
 
 graphics::ImageRef namedImage(const std::string& name, const foundation::Bundle& bundle, graphics::RenderingMode renderingMode) {
-    std::shared_ptr<graphics::Image>& image = images().byKey[{bundle.folder().string(), name, renderingMode}];
+    std::shared_ptr<graphics::Image>& image = images().byKey[{bundle.folder().native(), name, renderingMode}];
     if (!image) {
         image = readImage(name, bundle, renderingMode);
         image->standIn = standInFor(*image);

@@ -25,6 +25,10 @@ std::size_t hashOf(std::span<const StyledRun> runs, std::string_view language, L
     return hash;
 }
 
+bool isSame(const std::vector<StyledRun>& known, std::span<const StyledRun> runs) {
+    return std::equal(known.begin(), known.end(), runs.begin(), runs.end());
+}
+
 } // namespace
 
 TextCache& TextCache::shared() {
@@ -38,7 +42,7 @@ const std::shared_ptr<const ShapedText>& TextCache::shaped(std::span<const Style
     const auto [first, end] = m_byHash.equal_range(hash);
     for (auto candidate = first; candidate != end; ++candidate) {
         const Entry& entry = *candidate->second;
-        if (entry.direction != direction || entry.language != language || !std::ranges::equal(entry.runs, runs)) continue;
+        if (entry.direction != direction || entry.language != language || !isSame(entry.runs, runs)) continue;
         m_entries.splice(m_entries.begin(), m_entries, candidate->second);
         return m_entries.front().text;
     }

@@ -8,6 +8,7 @@
 
 namespace proupsells::host {
 
+// A finger comes down, moves and leaves, or the system takes the touch away.
 enum class TouchPhase { began, moved, ended, cancelled };
 
 // One finger, or the mouse with its button held.
@@ -17,15 +18,19 @@ struct Touch {
     double time_s = 0;        // on the main run loop's clock
 };
 
+// Which end of the content the focus comes in at.
 enum class FocusEnd { first, last };
 
+// Keys that mean something to every content; the backend says which of its own they are.
 enum class Key { escape, tab, backTab, activate, up, down, left, right };
 
 class WindowContent {
 public:
     virtual ~WindowContent() = default;
 
+    // How large the window is, and how much of its edges the system covers; in points.
     virtual void setSize(geometry::Size size, geometry::PhysicalInsets safeArea) = 0;
+    // A finger has come down, moved or left.
     virtual void touch(const Touch& touch) = 0;
     // A wheel or trackpad: moves the scroll view under `location` by `delta` points; a positive y shows what is further down.
     virtual void scroll(geometry::Point location, geometry::Point delta) = 0;
@@ -36,6 +41,7 @@ public:
     virtual void setFocusLeaves(bool /*leaves*/) {}
     // Tab has come in from outside, at the first control or at the last one. False where there is none to give the focus to.
     virtual bool takeFocus(FocusEnd /*end*/) { return false; }
+    // The focus has gone somewhere else.
     virtual void dropFocus() {}
 
     // Whether anybody can see the content, as at first. Nothing in it runs while nobody can.
@@ -48,6 +54,7 @@ public:
     // Told when the picture has changed.
     virtual void setNeedsDisplayHandler(std::function<void()> handler) = 0;
 
+    // What is shown now, laid out; a copy of its own.
     virtual accessibility::SemanticNode semanticTree() = 0;
 };
 

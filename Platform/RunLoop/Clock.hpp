@@ -9,6 +9,7 @@ namespace proupsells::runloop {
 class Clock {
 public:
     virtual ~Clock() = default;
+    // Seconds since some fixed moment of the clock's own.
     virtual double now_s() const = 0;
 };
 

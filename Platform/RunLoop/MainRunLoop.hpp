@@ -25,6 +25,7 @@ public:
 
     // The newest living loop of the process; stops the program when there is none.
     static MainRunLoop& main();
+    // Whether main() would find one.
     static bool exists();
 
     // Inside a callback or an update: the due time of the turn, however late the clock is. Outside: the clock's time.

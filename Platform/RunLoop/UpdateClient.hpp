@@ -7,6 +7,7 @@ namespace proupsells::runloop {
 class UpdateClient {
 public:
     virtual ~UpdateClient() = default;
+    // Called on the main thread, within the turn that the request has led to.
     virtual void update() = 0;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "Platform/System/PathText.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
 namespace proupsells::velauikit {
@@ -53,7 +54,7 @@ void VideoView::draw(graphics::PaintContext& context, const graphics::PaintState
 
 void VideoView::describe(accessibility::SemanticNode& node, const graphics::PaintState&) const {
     if (!m_file) return;
-    node.clipView = accessibility::ClipInfo{m_file->stem().string(), {}};
+    node.clipView = accessibility::ClipInfo{system::textOf(m_file->stem()), {}};
     if (!m_playback || !node.isOnScreen) return;
     if (const host::ClipFrame frame = dueFrame(); frame.picture) node.clipView->time_s = frame.time_s;
 }

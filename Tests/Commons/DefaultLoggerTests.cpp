@@ -57,6 +57,7 @@ TEST(DefaultLogger, GivesThePreviousSinkBack) {
     EXPECT_THAT(outer.messages(), ElementsAre("outside"));
 }
 
+#if GTEST_HAS_STREAM_REDIRECTION
 TEST(DefaultLogger, WritesOneLineToStandardErrorWithoutASink) {
     const auto previous = DefaultLogger::shared().setSink(nullptr);
     testing::internal::CaptureStderr();
@@ -66,6 +67,7 @@ TEST(DefaultLogger, WritesOneLineToStandardErrorWithoutASink) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "[4] No plan (init(options:), Here.cpp:12)\n");
     DefaultLogger::shared().setSink(previous);
 }
+#endif
 
 TEST(DefaultLogger, LetsASinkReplaceItself) {
     tests::LogRecorder later;

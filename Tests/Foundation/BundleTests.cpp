@@ -112,6 +112,16 @@ TEST_F(Localized, CostsOneLogLineForABrokenTable) {
     EXPECT_THAT(log.records()[0].message, HasSubstr("de-AT.lproj/Localizable.strings:2: expected \";\" after the text"));
 }
 
+TEST_F(Localized, NamesABrokenTableInUtf8) {
+    folder.write("\u00DCbersetzungen/de.lproj/Localizable.strings", "Monthly");
+    const Bundle translations(folder.path() / u8"\u00DCbersetzungen");
+    Locale::setCurrent(Locale("de"));
+
+    EXPECT_EQ(translations.localizedString("Monthly"), "Monthly");
+
+    EXPECT_THAT(log.messages(), ElementsAre(HasSubstr("\u00DCbersetzungen/de.lproj/Localizable.strings:1: ")));
+}
+
 TEST_F(Localized, IsSilentAboutMissingFilesAndFolders) {
     folder.write("de.lproj/Other.strings", "a = b;");
     folder.write("fr.lproj", "a file, not a folder");

@@ -219,6 +219,34 @@ TEST(Scenario, SnapshotsHaveThePixelsOfTheDevice) {
     EXPECT_EQ(events[1]["pixels"], Json({375, 667}));
 }
 
+TEST(Scenario, FileNamesAreUtf8) {
+    const Folder folder;
+    folder.write("Angebote \u00FC.json", sampleOffers());
+    folder.write("\u00DCbersetzungen/de.lproj/Localizable.strings", std::string("\"Annually\" = \"J\u00E4hrlich\";"));
+    Json named = scenario(R"([{"snapshot": "\u56F3.png"}, {"dump": "screen"}])");
+    named["offers"] = "Angebote \u00FC.json";
+    named["device"] = {{"locale", "de"}, {"strings", "\u00DCbersetzungen"}, {"fonts", "fixed"}};
+
+    const Outcome outcome =
+        runProgram({"run", folder.write("Szene \u00E9.json", named).string(), "--out", (folder.path() / "Bilder \u00E4").string()});
+
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_EQ(outcome.events("snapshot")[0]["file"], "\u56F3.png");
+    EXPECT_TRUE(std::filesystem::exists(folder.path() / u8"Bilder \u00E4" / u8"\u56F3.png"));
+    EXPECT_THAT(texts(outcome.events("screen")[0]["root"]), testing::Contains("J\u00E4hrlich"));
+}
+
+TEST(Scenario, ComplaintsNameFilesInUtf8) {
+    const Folder folder;
+    Json named = scenario("[]");
+    named["offers"] = "Angebote \u00FC.json";
+
+    const Outcome outcome = runProgram({"run", folder.write("Szene \u00E9.json", named).string()});
+
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(outcome.errors, HasSubstr("/Angebote \u00FC.json: /: there is no such file"));
+}
+
 TEST(Scenario, TheSameRunPrintsTheSameBytes) {
     const Json once =
         scenario(R"([{"wait": 7.3}, {"dump": "screen"}, {"drag": {"from": [187, 600], "to": [187, 200], "duration": 0.2}},

@@ -9,6 +9,7 @@
 #include "Backends/Icu/IcuLocaleServices.hpp"
 #include "Platform/Foundation/BuiltInLocaleServices.hpp"
 #include "Platform/Foundation/Locale.hpp"
+#include "Platform/Foundation/PlainCharacters.hpp"
 #include "Platform/Foundation/Utf8.hpp"
 #include "Tests/Foundation/AnyText.hpp"
 
@@ -54,6 +55,22 @@ RC_GTEST_PROP(IcuProperty, NeverCutsInsideACodePoint, ()) {
 
     for (const std::size_t end : services.graphemeEnds(text))
         RC_ASSERT(std::binary_search(codePointEnds.begin(), codePointEnds.end(), end));
+}
+
+TEST(IcuPlainCharacters, StandAloneForIcuAsWell) {
+    static const IcuLocaleServices services;
+    std::string text;
+    for (char32_t c = 1; c < 0x3000; ++c)
+        if (foundation::isPlainCharacter(c)) foundation::appendUtf8(text, c);
+    text += text;
+    const std::vector<std::size_t> plainEnds = services.graphemeEnds(text);
+
+    // One character that needs ICU's rules sends the whole text there.
+    std::vector<std::size_t> icuEnds = services.graphemeEnds(text + "\u4E00");
+
+    icuEnds.pop_back();
+    EXPECT_EQ(plainEnds, icuEnds);
+    EXPECT_EQ(plainEnds.back(), text.size());
 }
 
 RC_GTEST_PROP(IcuProperty, WritesEnglishPercentagesLikeTheBuiltInServices, ()) {

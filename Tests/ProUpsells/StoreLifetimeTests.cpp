@@ -1,19 +1,12 @@
 // Shelves that come and go, and pages that leave nothing behind.
-#include <malloc.h>
-
 #include "Tests/ProUpsells/StoreScreen.hpp"
+#include "Tests/Support/UsedMemory.hpp"
 
 namespace proupsells::tests {
 
 namespace {
 
-class StoreLifetime : public StoreTest {
-protected:
-    std::size_t usedMemory() {
-        const struct mallinfo2 info = mallinfo2();
-        return info.uordblks + info.hblkhd;
-    }
-};
+class StoreLifetime : public StoreTest {};
 
 } // namespace
 
@@ -105,9 +98,9 @@ TEST_F(StoreLifetime, LeavesNothingBehindAfterAThousandVisits) {
         ASSERT_TRUE(weakShelf.expired());
         ASSERT_EQ(decoder->openCount(), 0);
         ASSERT_FALSE(bed.loop().nextDueTime_s().has_value());
-        if (visit == 100) memoryAfterSomeVisits = usedMemory();
+        if (visit == 100) memoryAfterSomeVisits = usedMemory_bytes();
     }
-    EXPECT_LT(double(usedMemory()) - double(memoryAfterSomeVisits), 256 * 1024);
+    EXPECT_LT(double(usedMemory_bytes()) - double(memoryAfterSomeVisits), 256 * 1024);
 }
 
 } // namespace proupsells::tests

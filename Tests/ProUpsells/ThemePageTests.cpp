@@ -9,6 +9,8 @@
 #include "Backends/Headless/TestBed.hpp"
 #include "Platform/Host/NamedImage.hpp"
 #include "Platform/VelaUIKit/DesignColors.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
+#include "ProUpsells/Theme.hpp"
 #include "ProUpsells/ThemePicture.hpp"
 
 namespace proupsells::tests {
@@ -33,6 +35,21 @@ std::string hexadecimal(graphics::RGBA color) {
     char text[8];
     std::snprintf(text, sizeof text, "#%02X%02X%02X", color.red, color.green, color.blue);
     return text;
+}
+
+TEST(ThemePage, MakesAThemeThatIsTaken) {
+    headless::TestBed bed;
+
+    Theme theme;
+    theme.colors["marwickContentAccent"] = {.light = graphics::rgb(0x8C2F39), .dark = graphics::rgb(0xF0938A)};
+    theme.families.headings = "Fraunces";
+    theme.faceFiles = {{.family = "Fraunces", .weight = 700, .file = "brand/Fraunces-Bold.ttf"}};
+    theme.pictures["paywallHeaderA"] = {.file = "brand/header.png"};
+    setTheme(theme);
+
+    EXPECT_EQ(velauikit::marwickContentAccent.resolved(graphics::ColorScheme::light), graphics::rgb(0x8C2F39));
+    EXPECT_THAT(bed.takeLogRecords(), ::testing::SizeIs(1)); // the picture is not there
+    setTheme({});
 }
 
 TEST(ThemePage, ListsEveryColorWithItsValues) {

@@ -152,6 +152,38 @@ TEST(RasterSurface, RepaintsOnlyWhatDiffers) {
     EXPECT_EQ(colorAt(surface.picture(), 30, 50), 0x0000FFu);
 }
 
+TEST(RasterSurface, RepaintsNothingBelowABarThatStays) {
+    const auto pageAt = [](double y) {
+        Canvas canvas({100, 100});
+        canvas.context.fillRectangle({}, {{10, y}, {20, 60}}, red);
+        canvas.context.fillRectangle({}, {{0, 80.25}, {100, 19.75}}, white);
+        canvas.context.fillEllipse({}, {{15, 85}, {5, 5}}, blue);
+        return canvas.list;
+    };
+    RasterSurface surface;
+    surface.present(pageAt(30), {100, 100}, 2);
+
+    surface.present(pageAt(40), {100, 100}, 2);
+
+    // The bar hides half of its first row of pixels only.
+    EXPECT_THAT(surface.lastDamage(), ElementsAre(PixelRect{20, 60, 60, 161}));
+    EXPECT_TRUE(isSame(surface.picture(), freshPicture(pageAt(40), {100, 100}, 2)));
+}
+
+TEST(RasterSurface, RepaintsWhatABarUncovers) {
+    const auto pageWithBarAt = [](double y) {
+        Canvas canvas({100, 100});
+        canvas.context.fillRectangle({}, {{0, y}, {100, 20}}, blue);
+        return canvas.list;
+    };
+    RasterSurface surface;
+    surface.present(pageWithBarAt(80), {100, 100}, 1);
+
+    surface.present(pageWithBarAt(70), {100, 100}, 1);
+
+    EXPECT_THAT(surface.lastDamage(), ElementsAre(PixelRect{0, 70, 100, 100}));
+}
+
 TEST(RasterSurface, RepaintsNothingWhereNothingDiffers) {
     Canvas canvas({50, 50});
     canvas.context.fillEllipse({}, {{5, 5}, {20, 20}}, red);

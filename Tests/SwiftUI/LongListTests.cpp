@@ -153,8 +153,8 @@ DisplayList listWithEveryRowLookedAt(TouchScreen& screen) {
 }
 
 bool showsTheSame(const DisplayList& a, const DisplayList& b) {
-    return std::ranges::equal(a.commands, b.commands,
-                              [&](const Command& inA, const Command& inB) { return paintsTheSame(a, inA, b, inB); });
+    return std::equal(a.commands.begin(), a.commands.end(), b.commands.begin(), b.commands.end(),
+                      [&](const Command& inA, const Command& inB) { return paintsTheSame(a, inA, b, inB); });
 }
 
 class AnyLongList : public testing::TestWithParam<unsigned> {

@@ -195,8 +195,12 @@ TEST_F(ScreenTest, AnImageViewNamesItsAsset) {
 class Block : public UIView {
 public:
     explicit Block(Size natural) : natural(natural) {}
-    Size intrinsicContentSize() const override { return natural; }
+    Size intrinsicContentSize() const override {
+        ++askedCount;
+        return natural;
+    }
     Size natural;
+    mutable int askedCount = 0;
 };
 
 struct StackTest : ScreenTest {
@@ -225,6 +229,15 @@ TEST_F(StackTest, IsNaturallyAsLongAsItsViewsAndTheSpacing) {
     blocks[0]->setHidden(false);
     stack->setDistribution(UIStackView::Distribution::fillEqually);
     EXPECT_EQ(stack->intrinsicContentSize(), (Size{90, 30}));
+}
+
+TEST_F(StackTest, AsksEachViewForItsSizeOnceForEachThickness) {
+    stack->intrinsicContentSize();
+    EXPECT_EQ(blocks[0]->askedCount, 1);
+
+    stack->naturalSizeFor({70, 30});
+
+    EXPECT_EQ(blocks[0]->askedCount, 3);
 }
 
 TEST_F(StackTest, FillsItsBoundsInARow) {

@@ -12,6 +12,7 @@
 #include <iterator>
 
 #include "Backends/Raster/PictureWriter.hpp"
+#include "Platform/System/PathText.hpp"
 #include "Tools/MakePictures/VectorFile.hpp"
 
 using namespace proupsells;
@@ -72,8 +73,8 @@ int main(int count, char** arguments) {
     const std::filesystem::path in = arguments[1], out = arguments[2];
 
     const std::optional<Size> naturalSize = makepictures::vectorSize(in);
-    if (!naturalSize) return fail(in.string() + " has no size");
-    if (hasText(in)) return fail(in.string() + " has text in it; make outlines of it");
+    if (!naturalSize) return fail(system::textOf(in) + " has no size");
+    if (hasText(in)) return fail(system::textOf(in) + " has text in it; make outlines of it");
     std::vector<Size> sizes{*naturalSize};
     for (int index = 3; index < count; ++index) {
         const std::optional<Size> size = parsedSize(arguments[index]);
@@ -82,9 +83,9 @@ int main(int count, char** arguments) {
     }
 
     const std::vector<Picture> pictures = drawn(in, sizes);
-    if (pictures.empty()) return fail(in.string() + " cannot be drawn");
+    if (pictures.empty()) return fail(system::textOf(in) + " cannot be drawn");
     const std::string bytes = rasterbackend::pictureFileBytes(*naturalSize, pictures);
     std::ofstream stream(out, std::ios::binary);
-    if (!stream.write(bytes.data(), std::streamsize(bytes.size())).flush()) return fail(out.string() + " cannot be written");
+    if (!stream.write(bytes.data(), std::streamsize(bytes.size())).flush()) return fail(system::textOf(out) + " cannot be written");
     return 0;
 }

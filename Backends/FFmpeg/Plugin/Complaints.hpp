@@ -6,6 +6,7 @@
 #include <string>
 
 #include "Backends/FFmpeg/ClipPlugin.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::ffmpegbackend {
 
@@ -16,7 +17,7 @@ public:
 
     void complainAbout(const std::filesystem::path& file, const std::string& complaint) {
         if (!m_host.complain || !m_files.insert(file).second) return;
-        m_host.complain(("The clip \"" + file.filename().string() + "\" " + complaint).c_str());
+        m_host.complain(("The clip \"" + system::textOf(file.filename()) + "\" " + complaint).c_str());
     }
 
 private:

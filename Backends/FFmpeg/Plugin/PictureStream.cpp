@@ -6,6 +6,8 @@ extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
 #include <libavutil/log.h>
+
+#include "Platform/System/PathText.hpp"
 }
 
 namespace proupsells::ffmpegbackend {
@@ -41,7 +43,8 @@ std::unique_ptr<PictureStream> PictureStream::open(const std::filesystem::path& 
 std::string PictureStream::begin(const std::filesystem::path& file) {
     av_log_set_level(AV_LOG_QUIET);
     AVFormatContext* format = nullptr;
-    if (const int error = avformat_open_input(&format, file.c_str(), nullptr, nullptr); error < 0) return reasonOf(error);
+    if (const int error = avformat_open_input(&format, system::textOf(file).c_str(), nullptr, nullptr); error < 0)
+        return reasonOf(error);
     m_format.reset(format);
     if (const int error = avformat_find_stream_info(format, nullptr); error < 0) return reasonOf(error);
     const AVCodec* decoder = nullptr;

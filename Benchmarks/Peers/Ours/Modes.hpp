@@ -1,5 +1,5 @@
-// What ours can be asked for. `Screen` is where it is shown: made of a clock, it has host(), show(), which shows what has changed,
-// passTime(seconds) and rest(), where the clock is a virtual one, and save(picture).
+// What ours can be asked for. `Screen` is where it is shown: made of a clock, it has host(), showHostsOwnText(), show(), which
+// shows what has changed, passTime(seconds) and rest(), where the clock is a virtual one, and save(picture).
 #pragma once
 
 #include "Common/Measure.hpp"
@@ -25,6 +25,7 @@ void first(const Command& command, Report& report) {
 template <class Screen>
 void warm(const Command&, Report& report) {
     Screen screen(virtualClock());
+    screen.showHostsOwnText();
     screen.show();
     screen.rest();
 

@@ -23,6 +23,8 @@ public:
     }
 
     Host& host() { return m_host; }
+    // A host without a toolkit has none.
+    void showHostsOwnText() {}
     void show() {
         m_host.loop().runDueTurns();
         m_host.window()->paint(m_list);

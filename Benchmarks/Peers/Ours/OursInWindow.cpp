@@ -1,6 +1,9 @@
 // The paywall and the store page in a host with a Qt window. The platform's windows are in memory.
 
 #include <ProUpsells/Qt.hpp>
+#include <QFont>
+#include <QPainter>
+#include <QRasterWindow>
 #include <cstdlib>
 
 #include "Common/QtEvents.hpp"
@@ -11,12 +14,39 @@ namespace {
 
 using namespace proupsells;
 
+// A window of the host's own, with the texts of the Qt peers' hosts, painted by Qt.
+class HostWindow : public QRasterWindow {
+public:
+    HostWindow() { resize(int(screenSize.width), int(screenSize.height)); }
+    bool isPainted() const { return m_isPainted; }
+
+private:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(QRect({}, size()), Qt::white);
+        QFont font("Liberation Sans");
+        font.setPixelSize(17);
+        painter.setFont(font);
+        painter.drawText(100, 400, "Host application");
+        font.setBold(true);
+        painter.setFont(font);
+        painter.drawText(16, 40, "Go Pro");
+        m_isPainted = true;
+    }
+
+    bool m_isPainted = false;
+};
+
 class WindowScreen {
 public:
     explicit WindowScreen(std::shared_ptr<runloop::Clock> clock)
         : m_host(std::move(clock)), m_window(m_host.window(), {.title = "Shop", .size = screenSize, .safeArea = safeArea}) {}
 
     Host& host() { return m_host; }
+    void showHostsOwnText() {
+        m_hostWindow.show();
+        while (!m_hostWindow.isPainted()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
     // Until the window has shown a frame. It shows them at the display's pace, which costs no processor time; where nothing has
     // changed, none comes.
     void show() {
@@ -40,6 +70,7 @@ public:
 private:
     static constexpr int frameAtMost_ms = 50;
 
+    HostWindow m_hostWindow;
     Host m_host;
     qtbackend::QtWindow m_window;
 };

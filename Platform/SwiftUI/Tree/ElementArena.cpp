@@ -17,19 +17,19 @@ constinit ElementArena ElementArena::s_current;
 ElementArena::~ElementArena() { reset(); }
 
 void* ElementArena::allocateElsewhere(std::size_t size, std::size_t alignment) {
-    const std::size_t next = m_next ? m_chunk + 1 : 0;
-    if (next == m_chunks.size()) {
+    std::unique_ptr<Chunk>& next = m_chunk ? m_chunk->next : m_first;
+    if (!next) {
         const std::size_t length = std::max(chunkSize, size + alignment);
-        m_chunks.push_back({std::make_unique_for_overwrite<std::byte[]>(length), length});
+        next = std::make_unique<Chunk>(Chunk{std::unique_ptr<std::byte[]>(new std::byte[length]), length, nullptr});
     }
-    use(next);
+    use(next.get());
     return allocate(size, alignment);
 }
 
-void ElementArena::use(std::size_t chunk) {
+void ElementArena::use(Chunk* chunk) {
     m_chunk = chunk;
-    m_next = m_chunks[chunk].bytes.get();
-    m_end = m_next + m_chunks[chunk].size;
+    m_next = chunk ? chunk->bytes.get() : nullptr;
+    m_end = chunk ? m_next + chunk->size : nullptr;
 }
 
 std::string_view ElementArena::copy(std::string_view text) {
@@ -41,7 +41,7 @@ std::string_view ElementArena::copy(std::string_view text) {
 
 std::size_t ElementArena::capacity_bytes() const {
     std::size_t sum = 0;
-    for (const Chunk& chunk : m_chunks) sum += chunk.size;
+    for (const Chunk* chunk = m_first.get(); chunk; chunk = chunk->next.get()) sum += chunk->size;
     return sum;
 }
 
@@ -56,10 +56,19 @@ void ElementArena::reset() {
         m_newest = element->m_older;
         element->~Element();
     }
-    for (std::size_t held_bytes = capacity_bytes(); held_bytes > keptCapacity_bytes; m_chunks.pop_back())
-        held_bytes -= m_chunks.back().size;
-    if (!m_chunks.empty()) use(0);
+    keepAtMost(keptCapacity_bytes);
+    use(m_first.get());
     ++m_generation;
+}
+
+void ElementArena::keepAtMost(std::size_t capacity_bytes) {
+    std::unique_ptr<Chunk>* chunk = &m_first;
+    for (std::size_t held_bytes = 0; *chunk; chunk = &(*chunk)->next) {
+        held_bytes += (*chunk)->size;
+        if (held_bytes > capacity_bytes) break;
+    }
+    // One by one: a long chain would go by recursion.
+    for (auto rest = std::move(*chunk); rest;) rest = std::move(rest->next);
 }
 
 } // namespace proupsells::swiftui

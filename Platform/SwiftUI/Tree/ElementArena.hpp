@@ -6,7 +6,6 @@
 #include <memory>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 namespace proupsells::swiftui {
 
@@ -55,18 +54,21 @@ private:
     struct Chunk {
         std::unique_ptr<std::byte[]> bytes;
         std::size_t size = 0;
+        std::unique_ptr<Chunk> next;
     };
 
     void* allocateElsewhere(std::size_t size, std::size_t alignment);
-    void use(std::size_t chunk);
+    void use(Chunk* chunk);
+    void keepAtMost(std::size_t capacity_bytes);
     void adopt(Element* element);
     void reset();
 
     static ElementArena s_current;
 
-    std::vector<Chunk> m_chunks;
-    std::size_t m_chunk = 0;
-    // What is free in the chunk in use; null before the first chunk.
+    // A chain, because not every standard library can make a vector before the program starts.
+    std::unique_ptr<Chunk> m_first;
+    Chunk* m_chunk = nullptr; // the one in use; null before the first one
+    // What is free in it.
     std::byte* m_next = nullptr;
     std::byte* m_end = nullptr;
     Element* m_newest = nullptr;

@@ -14,12 +14,14 @@ class UICollectionReusableView;
 class UICollectionView;
 class UICollectionViewCell;
 
+// What stands above or below a section's items.
 enum class UICollectionElementKind { sectionHeader, sectionFooter };
 
 class UICollectionViewDataSource {
 public:
     virtual ~UICollectionViewDataSource() = default;
 
+    // How many sections the collection has, and items a section.
     virtual std::size_t numberOfSections(UICollectionView&) { return 1; }
     virtual std::size_t collectionViewNumberOfItemsInSection(UICollectionView& collectionView, std::size_t section) = 0;
     // A cell from dequeueReusableCell, filled. Null stops the program.

@@ -15,6 +15,7 @@ class UICollectionViewFlowLayout;
 // What is absent is the layout's own value.
 class UICollectionViewDelegateFlowLayout : public UIScrollViewDelegate {
 public:
+    // An item's size and the room around a section's items, in points.
     virtual std::optional<geometry::Size> collectionViewLayoutSizeForItemAt(UICollectionView&, UICollectionViewFlowLayout&,
                                                                             IndexPath) {
         return std::nullopt;
@@ -23,6 +24,7 @@ public:
     collectionViewLayoutInsetForSectionAt(UICollectionView&, UICollectionViewFlowLayout&, std::size_t /*section*/) {
         return std::nullopt;
     }
+
     // Of headers and footers the height counts; 0: none.
     virtual std::optional<geometry::Size>
     collectionViewLayoutReferenceSizeForHeaderInSection(UICollectionView&, UICollectionViewFlowLayout&, std::size_t /*section*/) {
@@ -37,6 +39,7 @@ public:
     virtual void collectionViewWillDisplayForItemAt(UICollectionView&, UICollectionViewCell&, IndexPath) {}
     // The cell cannot be seen any more and has left the collection. The index path is the one that it was shown for.
     virtual void collectionViewDidEndDisplayingForItemAt(UICollectionView&, UICollectionViewCell&, IndexPath) {}
+    // A header or a footer is about to be seen, or has left the collection; the index path's item is 0.
     virtual void collectionViewWillDisplaySupplementaryView(UICollectionView&, UICollectionReusableView&, UICollectionElementKind,
                                                             IndexPath) {}
     virtual void collectionViewDidEndDisplayingSupplementaryView(UICollectionView&, UICollectionReusableView&,

@@ -45,17 +45,52 @@ bool isLength(double value) { return value >= 0 && std::isfinite(value); }
 
 } // namespace
 
-LayoutProblem::LayoutProblem(UIView& root, Purpose purpose, const geometry::ProposedSize& proposal,
-                             const std::vector<geometry::Rect>& former)
-    : m_root(&root), m_purpose(purpose), m_proposal(proposal), m_former(&former) {
+LayoutProblem::LayoutProblem(UIView& root, Purpose purpose, const geometry::ProposedSize& proposal)
+    : m_root(&root), m_purpose(purpose), m_proposal(proposal) {
     collect(root, 0);
+    state({}, naturalSizes({}));
+}
+
+std::optional<LayoutProblem> LayoutProblem::next(const Rects& rects) const {
+    std::vector<geometry::Size> sizes = naturalSizes(rects);
+    if (sizes == m_naturalSizes && !m_hasSafeAreas) return std::nullopt;
+    LayoutProblem next = unstated();
+    next.state(rects, std::move(sizes));
+    if (next.m_system == m_system) return std::nullopt;
+    return next;
+}
+
+// The same question before anything is said.
+LayoutProblem LayoutProblem::unstated() const {
+    LayoutProblem problem;
+    problem.m_root = m_root;
+    problem.m_purpose = m_purpose;
+    problem.m_proposal = m_proposal;
+    problem.m_views = m_views;
+    problem.m_indexes = m_indexes;
+    return problem;
+}
+
+void LayoutProblem::state(const Rects& former, std::vector<geometry::Size> naturalSizes) {
+    m_former = &former;
+    m_naturalSizes = std::move(naturalSizes);
     for (std::size_t i = 0; i < m_views.size(); ++i) m_boxes.push_back(makeBox(i));
     for (std::size_t i = 1; i < m_views.size(); ++i) addPins(i);
-    if (purpose == Purpose::fit) addFittingSize();
+    if (m_purpose == Purpose::fit) addFittingSize();
     addConstraints();
-    for (std::size_t i = purpose == Purpose::fit ? 0 : 1; i < m_views.size(); ++i) addNaturalSize(i);
+    for (std::size_t i = firstSized(); i < m_views.size(); ++i) addNaturalSize(i);
     for (std::size_t i = 1; i < m_views.size(); ++i) addCorner(i);
     m_former = nullptr;
+}
+
+std::vector<geometry::Size> LayoutProblem::naturalSizes(const Rects& former) const {
+    std::vector<geometry::Size> sizes;
+    for (std::size_t i = firstSized(); i < m_views.size(); ++i) {
+        const UIView& view = *m_views[i].view;
+        const bool isKnown = i < former.size() && former[i].width() > 0;
+        sizes.push_back(isKnown ? view.naturalSizeFor(former[i].size) : view.intrinsicContentSize());
+    }
+    return sizes;
 }
 
 void LayoutProblem::collect(UIView& view, std::size_t parent) {
@@ -157,8 +192,7 @@ void LayoutProblem::addNaturalSize(std::size_t index) {
     add(box.width, Relation::greaterThanOrEqual, boundPriority);
     add(box.height, Relation::greaterThanOrEqual, boundPriority);
 
-    const bool isKnown = index < m_former->size() && (*m_former)[index].width() > 0;
-    const geometry::Size natural = isKnown ? view.naturalSizeFor((*m_former)[index].size) : view.intrinsicContentSize();
+    const geometry::Size natural = m_naturalSizes[index - firstSized()];
     const auto keep = [&](const LinearExpression& length, double value, Axis axis) {
         if (!isLength(value)) return;
         add(length.plus(-value), Relation::greaterThanOrEqual, view.effectiveCompressionResistancePriority(axis));
@@ -205,7 +239,8 @@ LayoutProblem::Box LayoutProblem::boxOf(const UIView& view) const {
 }
 
 // The insets follow from where the solution before this one has put the view.
-LayoutProblem::Box LayoutProblem::safeBoxOf(UIView& view) const {
+LayoutProblem::Box LayoutProblem::safeBoxOf(UIView& view) {
+    m_hasSafeAreas = true;
     geometry::PhysicalInsets insets;
     const auto placed = m_indexes.find(&view);
     if (placed == m_indexes.end() || placed->second == 0 || !m_root->window())

@@ -32,9 +32,10 @@ public:
         std::optional<constraints::Variable> width, height;
     };
 
-    // `former` are the rectangles that the solution before this one gave, for what depends on the views' sizes; empty for the
-    // first. `proposal` counts for fitting only.
-    LayoutProblem(UIView& root, Purpose purpose, const geometry::ProposedSize& proposal, const std::vector<geometry::Rect>& former);
+    // Knows nothing yet of what depends on the views' sizes. `proposal` counts for fitting only.
+    LayoutProblem(UIView& root, Purpose purpose, const geometry::ProposedSize& proposal);
+    // What follows from the rectangles that the solution gives; absent where it is the same problem again.
+    std::optional<LayoutProblem> next(const std::vector<geometry::Rect>& rects) const;
 
     // The root, then what constraints place inside it, from the outside in.
     const std::vector<PlacedView>& views() const { return m_views; }
@@ -52,6 +53,15 @@ private:
         LinearExpression left, top, width, height;
     };
     using Relation = constraints::Relation;
+    using Rects = std::vector<geometry::Rect>;
+
+    LayoutProblem() = default;
+    LayoutProblem unstated() const;
+    // `former` are the rectangles that the solution before this one gave; empty for the first.
+    void state(const Rects& former, std::vector<geometry::Size> naturalSizes);
+    std::vector<geometry::Size> naturalSizes(const Rects& former) const;
+    // The root's own size counts where it is looked for.
+    std::size_t firstSized() const { return m_purpose == Purpose::fit ? 0 : 1; }
 
     void collect(UIView& view, std::size_t parent);
     Box makeBox(std::size_t index);
@@ -68,17 +78,19 @@ private:
     bool decidesNothing(const NSLayoutConstraint& constraint) const;
     Box boxOf(const UIView& view) const;
     Box boxFor(const LayoutTerm& term, const LayoutTerm& other);
-    Box safeBoxOf(UIView& view) const;
+    Box safeBoxOf(UIView& view);
     LinearExpression valueOf(const LayoutTerm& term, const LayoutTerm& other, bool isMirrored);
     void seeFromContent(Box& box, UIScrollView& scrollView, NSLayoutAttribute attribute);
 
-    UIView* m_root;
-    Purpose m_purpose;
+    UIView* m_root = nullptr;
+    Purpose m_purpose = Purpose::place;
     geometry::ProposedSize m_proposal;
-    const std::vector<geometry::Rect>* m_former; // only while it is made
+    const Rects* m_former = nullptr; // only while it is made
     std::vector<PlacedView> m_views;
     std::unordered_map<const UIView*, std::size_t> m_indexes;
     std::vector<Box> m_boxes;
+    std::vector<geometry::Size> m_naturalSizes; // of each view from firstSized() on
+    bool m_hasSafeAreas = false;
     std::vector<ScrolledContent> m_contents;
     LinearSystem m_system;
     std::vector<NSLayoutConstraint*> m_origins, m_unkept;

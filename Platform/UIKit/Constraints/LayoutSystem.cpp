@@ -38,16 +38,14 @@ geometry::Size LayoutSystem::fittingSize(UIView& root, const geometry::ProposedS
 }
 
 LayoutSystem::Outcome LayoutSystem::solve(UIView& root, LayoutProblem::Purpose purpose, const geometry::ProposedSize& proposal) {
-    std::vector<geometry::Rect> former;
-    Outcome outcome{LayoutProblem(root, purpose, proposal, former), {}, {}};
+    Outcome outcome{LayoutProblem(root, purpose, proposal), {}, {}};
     for (int pass = 1;; ++pass) {
         outcome.values = solutionOf(outcome.problem.system()).values;
         outcome.rects = outcome.problem.rectsFor(outcome.values);
         if (pass == passLimit) return outcome;
-        LayoutProblem next(root, purpose, proposal, outcome.rects);
-        if (next.system() == outcome.problem.system()) return outcome;
-        former = std::move(outcome.rects);
-        outcome.problem = std::move(next);
+        std::optional<LayoutProblem> next = outcome.problem.next(outcome.rects);
+        if (!next) return outcome;
+        outcome.problem = std::move(*next);
     }
 }
 

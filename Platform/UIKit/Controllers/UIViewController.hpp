@@ -26,22 +26,29 @@ public:
 
     // Loads the view on first use.
     const std::shared_ptr<UIView>& view();
+    // Null before it is loaded.
     UIView* viewIfLoaded() const { return m_view.get(); }
     bool isViewLoaded() const { return m_view != nullptr; }
+
     UIResponder* nextResponder() const override;
 
     // Makes the view and hands it to setView; a plain view unless overridden.
     virtual void loadView();
+    // Told once, when the view is there, before anybody else gets it.
     virtual void viewDidLoad() {}
+    // Told before and after the view comes into sight, and before and after it goes.
     virtual void viewWillAppear(bool /*animated*/) {}
     virtual void viewDidAppear(bool /*animated*/) {}
     virtual void viewWillDisappear(bool /*animated*/) {}
     virtual void viewDidDisappear(bool /*animated*/) {}
+    // Told after the view has placed its subviews.
     virtual void viewDidLayoutSubviews() {}
+    // Told after the view's unsafe edges have become other ones.
     virtual void viewSafeAreaInsetsDidChange() {}
     // Told after the view (see there).
     virtual void windowVisibilityDidChange() {}
 
+    // What a navigation bar shows of the controller.
     const std::string& title() const { return m_title; }
     void setTitle(std::string title);
     const UINavigationItem& navigationItem() const { return m_navigationItem; }
@@ -58,6 +65,7 @@ public:
 
     // --- Containment ---
 
+    // Null for none.
     UIViewController* parent() const { return m_parent; }
     // In the order in which they were added.
     const std::vector<std::shared_ptr<UIViewController>>& children() const { return m_children; }
@@ -66,6 +74,7 @@ public:
     void addChild(const std::shared_ptr<UIViewController>& child);
     // Tells the controller that it did move. Telling it before (willMoveToParent(nullptr)) is the caller's.
     void removeFromParent();
+    // Told before and after the parent becomes another one; null for none.
     virtual void willMoveToParent(UIViewController* /*parent*/) {}
     virtual void didMoveToParent(UIViewController* /*parent*/) {}
     // The nearest navigation controller around this one; null for none.
@@ -79,9 +88,10 @@ public:
 
     // --- Presentation ---
 
+    // How the controller stands in the window when it is presented; to be set before.
     UIModalPresentationStyle modalPresentationStyle() const { return m_modalPresentationStyle; }
     void setModalPresentationStyle(UIModalPresentationStyle style) { m_modalPresentationStyle = style; }
-    // Zero: none.
+    // How large a form sheet is to be, in points. Zero: none.
     geometry::Size preferredContentSize() const { return m_preferredContentSize; }
     void setPreferredContentSize(geometry::Size size) { m_preferredContentSize = size; }
 
@@ -107,6 +117,7 @@ public:
     bool isAppeared() const { return m_appearance == Appearance::appeared; }
 
 protected:
+    // From inside loadView(): the view that the controller owns from now on.
     void setView(std::shared_ptr<UIView> view);
     // What of this controller's unsafe edges its children's views reach under.
     virtual geometry::PhysicalInsets safeAreaForChildren(const geometry::PhysicalInsets& own) const { return own; }

@@ -18,18 +18,23 @@ class UIWindow : public UIView, public host::WindowContent, public runloop::Upda
     struct Creation {};
 
 public:
+    // For create() only.
     explicit UIWindow(Creation);
+    // A window of a size, with unsafe edges, in points. A host changes both by setSize().
     static std::shared_ptr<UIWindow> create(geometry::Size size = {}, geometry::PhysicalInsets safeArea = {});
     ~UIWindow() override;
+
     std::string_view typeName() const override { return "UIWindow"; }
 
     // Appears at once. Null takes the former one away, with all that is presented.
     void setRootViewController(std::shared_ptr<UIViewController> controller);
+    // Null for none.
     UIViewController* rootViewController() const { return m_root.get(); }
 
     // What the person sees, except horizontalSizeClass, which follows the width.
     void setTraits(const UITraitCollection& traits);
     const UITraitCollection& traits() const { return m_windowTraits; }
+    // The unsafe edges, as they were set.
     geometry::PhysicalInsets windowSafeArea() const { return m_safeArea; }
 
     // The presented controller in front of all others; the root controller when nothing is presented; null without one.
@@ -49,15 +54,20 @@ public:
     // Tab moves the focus ring through the controls of the front-most presentation, activate taps the one in focus, escape leaves
     // the front-most screen.
     bool key(host::Key key) override;
+
     void setFocusLeaves(bool leaves) override { m_focusLeaves = leaves; }
     bool takeFocus(host::FocusEnd end) override;
     void dropFocus() override;
     void setSeen(bool isSeen) override;
+
+    // Whether anybody can see the window.
     bool isSeen() const { return m_isSeen; }
+
     void paint(graphics::DisplayList& list) override;
     bool isAnimating() const override;
     // How often `paint` was called, with a call that is running.
     std::uint64_t paintCount() const { return m_paintCount; }
+
     void setNeedsDisplayHandler(std::function<void()> handler) override;
     // Of the front-most presentation, from its controller's view on.
     accessibility::SemanticNode semanticTree() override;

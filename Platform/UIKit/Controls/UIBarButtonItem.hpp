@@ -15,6 +15,7 @@ struct UIBarButtonItem {
     // A closure, or where it is empty a named action that goes up the responder chain from the bar.
     std::function<void()> action;
     Selector selector;
+
     std::string accessibilityIdentifier;
     std::string accessibilityLabel;
 

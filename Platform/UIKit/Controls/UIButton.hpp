@@ -11,6 +11,7 @@ class UIButton : public UIControl {
 public:
     std::string_view typeName() const override { return "UIButton"; }
 
+    // Null for none.
     const UIImage& image() const { return m_image; }
     void setImage(UIImage image);
 

@@ -10,6 +10,7 @@ namespace proupsells::uikit {
 
 class UIControl : public UIView {
 public:
+    // What targets can be told of. The control's surroundings count as inside, as far as trackingMargin says.
     enum class Event { touchDown, touchDragEnter, touchDragExit, touchUpInside, touchUpOutside, touchCancel, valueChanged };
 
     std::string_view typeName() const override { return "UIControl"; }
@@ -39,6 +40,7 @@ public:
     // Runs the actions of `event`. An action may change the list, and release the control.
     void sendActions(Event event);
 
+    // While it is off, the control sends no action, not even for a finger that is down already.
     bool isEnabled() const { return m_isEnabled; }
     void setEnabled(bool enabled);
     // While a finger is down inside.
@@ -59,10 +61,13 @@ protected:
     // How far outside the bounds a finger may wander and still counts as inside.
     static constexpr double trackingMargin = 70;
 
+    // Whether the control looks pressed; the touches set it.
     void setHighlighted(bool highlighted);
+    // By the bounds and trackingMargin around them.
     bool isInside(const UITouch& touch) const;
     // Whether those who look at the screen could operate it now: enabled, in a window, and neither hidden nor closed to touches.
     bool canBeOperated() const;
+
     void describe(accessibility::SemanticNode& node, const graphics::PaintState& state) const override;
 
 private:

@@ -10,6 +10,7 @@ class UIView;
 
 // Outlives the view, so that a constraint can tell that the view has gone.
 struct LayoutItem {
+    // Made by the view's LayoutItemOwner.
     explicit LayoutItem(UIView& view);
 
     UIView* view;               // null once it has gone
@@ -26,10 +27,12 @@ public:
         if (m_item) m_item->view = nullptr;
     }
 
+    // Never null. `view` is the one that this belongs to, the same at every call.
     const std::shared_ptr<LayoutItem>& itemOf(UIView& view) {
         if (!m_item) m_item = std::make_shared<LayoutItem>(view);
         return m_item;
     }
+    // Whether itemOf() was ever called.
     bool exists() const { return m_item != nullptr; }
 
 private:

@@ -11,8 +11,9 @@ namespace proupsells::uikit {
 
 class NSLayoutConstraint;
 
-// Leading is the left edge where text runs from left to right, otherwise the right edge.
+// What of a view a constraint is about. Leading is the left edge where text runs from left to right, otherwise the right edge.
 enum class NSLayoutAttribute : std::uint8_t { left, right, leading, trailing, centerX, top, bottom, centerY, width, height };
+// How the two sides of a constraint compare.
 enum class NSLayoutRelation : std::uint8_t { lessThanOrEqual, equal, greaterThanOrEqual };
 
 // One attribute of a view, or of the part of it that the window's unsafe edges leave free.
@@ -30,6 +31,7 @@ std::shared_ptr<NSLayoutConstraint> makeLayoutConstraint(const LayoutTerm& first
 template <class Kind>
 class NSLayoutAnchor {
 public:
+    // What the anchor stands for.
     explicit NSLayoutAnchor(LayoutTerm term) : m_term(std::move(term)) {}
     const LayoutTerm& term() const { return m_term; }
 
@@ -37,34 +39,43 @@ public:
     std::shared_ptr<NSLayoutConstraint> constraintEqualTo(const NSLayoutAnchor& other, double constant = 0) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::equal, other.m_term, 1, constant);
     }
+    // At most there.
     std::shared_ptr<NSLayoutConstraint> constraintLessThanOrEqualTo(const NSLayoutAnchor& other, double constant = 0) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::lessThanOrEqual, other.m_term, 1, constant);
     }
+    // At least there.
     std::shared_ptr<NSLayoutConstraint> constraintGreaterThanOrEqualTo(const NSLayoutAnchor& other, double constant = 0) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::greaterThanOrEqual, other.m_term, 1, constant);
     }
 
 protected:
+    // What the anchor stands for.
     LayoutTerm m_term;
 };
 
+// The kinds of anchors: those of different kinds cannot be compared.
 struct LayoutXAxis;
 struct LayoutYAxis;
 struct LayoutLength;
 
+// Places from left to right, and from top to bottom.
 using NSLayoutXAxisAnchor = NSLayoutAnchor<LayoutXAxis>;
 using NSLayoutYAxisAnchor = NSLayoutAnchor<LayoutYAxis>;
 
+// A width or a height.
 class NSLayoutDimension : public NSLayoutAnchor<LayoutLength> {
 public:
     using NSLayoutAnchor::NSLayoutAnchor;
 
+    // This length is so many points.
     std::shared_ptr<NSLayoutConstraint> constraintEqualToConstant(double constant) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::equal, {}, 1, constant);
     }
+    // So many at most.
     std::shared_ptr<NSLayoutConstraint> constraintLessThanOrEqualToConstant(double constant) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::lessThanOrEqual, {}, 1, constant);
     }
+    // So many at least.
     std::shared_ptr<NSLayoutConstraint> constraintGreaterThanOrEqualToConstant(double constant) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::greaterThanOrEqual, {}, 1, constant);
     }
@@ -73,6 +84,7 @@ public:
                                                                     double constant = 0) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::equal, other.m_term, multiplier, constant);
     }
+    // At least that.
     std::shared_ptr<NSLayoutConstraint> constraintGreaterThanOrEqualToMultiplier(const NSLayoutDimension& other, double multiplier,
                                                                                  double constant = 0) const {
         return makeLayoutConstraint(m_term, NSLayoutRelation::greaterThanOrEqual, other.m_term, multiplier, constant);
@@ -82,8 +94,10 @@ public:
 // The anchors of one rectangle: a view's own, or a layout guide's.
 class LayoutAnchors {
 public:
+    // Of the item's view: of all of it, or of what the unsafe edges leave free.
     LayoutAnchors(std::shared_ptr<LayoutItem> item, bool isOfSafeArea) : m_item(std::move(item)), m_isOfSafeArea(isOfSafeArea) {}
 
+    // Each call makes an anchor.
     NSLayoutXAxisAnchor leadingAnchor() const { return NSLayoutXAxisAnchor(term(NSLayoutAttribute::leading)); }
     NSLayoutXAxisAnchor trailingAnchor() const { return NSLayoutXAxisAnchor(term(NSLayoutAttribute::trailing)); }
     NSLayoutXAxisAnchor leftAnchor() const { return NSLayoutXAxisAnchor(term(NSLayoutAttribute::left)); }

@@ -9,6 +9,7 @@
 
 namespace proupsells::uikit {
 
+// Colours, fonts and images, as the lower rooms have them.
 using UIColor = graphics::Color;
 using UIFont = graphics::Font;
 using UIImage = graphics::ImageRef; // null: no image
@@ -18,6 +19,7 @@ using geometry::Axis;
 // Where an axis has no natural length.
 inline constexpr double noIntrinsicMetric = -1;
 
+// How much a constraint matters, up to required: of two that cannot both hold, the one with the lower priority gives way.
 using UILayoutPriority = double;
 inline constexpr UILayoutPriority layoutPriorityRequired = 1000;
 inline constexpr UILayoutPriority layoutPriorityHigh = 750;

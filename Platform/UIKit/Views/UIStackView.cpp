@@ -60,25 +60,30 @@ geometry::Size UIStackView::naturalSize(UIView& view, std::optional<double> acro
 geometry::Size UIStackView::intrinsicContentSize() const { return sizeThatFits({}); }
 
 geometry::Size UIStackView::sizeThatFits(const geometry::ProposedSize& proposal) const {
-    const auto views = shown();
     const std::optional<double> offered = m_axis == Axis::horizontal ? proposal.height : proposal.width;
-    double along = m_spacing * double(views.empty() ? 0 : views.size() - 1), across = 0, longest = 0;
-    for (UIView* view : views) {
-        // Across, a view's own need counts: what is offered would be taken as a need by views without a natural size.
-        const geometry::Size natural = naturalSize(*view, offered), own = naturalSize(*view, std::nullopt);
-        along += alongOf(natural);
-        longest = std::max(longest, alongOf(natural));
-        across = std::max(across, offered ? std::min(acrossOf(own), *offered) : acrossOf(own));
-    }
-    if (m_distribution == Distribution::fillEqually && !views.empty())
-        along = double(views.size()) * longest + m_spacing * double(views.size() - 1);
-    return m_axis == Axis::horizontal ? geometry::Size{along, across} : geometry::Size{across, along};
+    if (!offered) return sizeOf(natural(std::nullopt));
+    // Across, a view's own need counts: what is offered would be taken as a need by views without a natural size.
+    return sizeOf({natural(offered).along, std::max(0.0, std::min(natural(std::nullopt).across, *offered))});
 }
 
 geometry::Size UIStackView::naturalSizeFor(geometry::Size given) const {
-    const geometry::Size natural = intrinsicContentSize();
-    if (m_axis == Axis::horizontal) return {sizeThatFits({std::nullopt, given.height}).width, natural.height};
-    return {natural.width, sizeThatFits({given.width, std::nullopt}).height};
+    return sizeOf({natural(acrossOf(given)).along, natural(std::nullopt).across});
+}
+
+UIStackView::Extent UIStackView::natural(std::optional<double> offered) const {
+    const auto views = shown();
+    if (views.empty()) return {};
+    const double gaps = m_spacing * double(views.size() - 1);
+    Extent sum{gaps, 0};
+    double longest = 0;
+    for (UIView* view : views) {
+        const geometry::Size size = naturalSize(*view, offered);
+        sum.along += alongOf(size);
+        sum.across = std::max(sum.across, acrossOf(size));
+        longest = std::max(longest, alongOf(size));
+    }
+    if (m_distribution == Distribution::fillEqually) sum.along = double(views.size()) * longest + gaps;
+    return sum;
 }
 
 template <class PriorityOf>

@@ -45,7 +45,17 @@ public:
     void subviewDidInvalidateIntrinsicContentSize(UIView& view) override;
 
 private:
+    struct Extent {
+        double along = 0, across = 0;
+    };
+
     std::vector<UIView*> shown() const;
+    // What the views need together where `offered` points are offered across the stack.
+    Extent natural(std::optional<double> offered) const;
+    geometry::Size sizeOf(Extent extent) const {
+        return m_axis == Axis::horizontal ? geometry::Size{extent.along, extent.across}
+                                          : geometry::Size{extent.across, extent.along};
+    }
     // A view's natural size where `across` points are offered across the stack.
     geometry::Size naturalSize(UIView& view, std::optional<double> across) const;
     template <class PriorityOf>

@@ -13,7 +13,7 @@ struct UITouch {
     geometry::Point startWindowLocation; // where the finger came down
     double time_s = 0;
 
-    // The finger in the coordinates of `view`.
+    // The finger, now and when it came down, in the coordinates of `view`.
     geometry::Point location(const UIView& view) const;
     geometry::Point startLocation(const UIView& view) const;
 };

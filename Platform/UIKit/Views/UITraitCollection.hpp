@@ -7,6 +7,7 @@
 
 namespace proupsells::uikit {
 
+// Narrow or wide, by regularWidth.
 enum class UIUserInterfaceSizeClass { compact, regular };
 
 // Screens narrower than this are compact, and sheets fill them.

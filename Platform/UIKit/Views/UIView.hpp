@@ -26,6 +26,7 @@ class UIWindow;
 class UIView : public UIResponder {
 public:
     UIView() = default;
+    // Stands at `frame` until somebody lays it out.
     explicit UIView(const geometry::Rect& frame);
     ~UIView() override;
 
@@ -33,16 +34,19 @@ public:
 
     // --- Hierarchy ---
 
+    // Null for none.
     UIView* superview() const { return m_superview; }
     // Back to front.
     const std::vector<std::shared_ptr<UIView>>& subviews() const { return m_subviews; }
     // In front of all others. A view that stands somewhere else is moved. Adding a view to itself or to one inside it stops the
     // program.
     void addSubview(const std::shared_ptr<UIView>& view);
+    // As addSubview(), at a place among the subviews: 0 is the backmost one.
     void insertSubview(const std::shared_ptr<UIView>& view, std::size_t index);
     // `sibling` must be a subview; otherwise stops the program.
     void insertSubviewAbove(const std::shared_ptr<UIView>& view, const UIView& sibling);
     void insertSubviewBelow(const std::shared_ptr<UIView>& view, const UIView& sibling);
+    // Lets go of the view; nothing happens where it has no superview.
     void removeFromSuperview();
     // True for the view itself too.
     bool isDescendantOf(const UIView& view) const;
@@ -50,18 +54,22 @@ public:
     virtual UIWindow* window() const;
     // The controller whose root view this is; null for all others.
     UIViewController* viewController() const { return m_viewController; }
+
     UIResponder* nextResponder() const override;
 
+    // Told after a subview has come in, and before one leaves.
     virtual void didAddSubview(UIView&) {}
     virtual void willRemoveSubview(UIView&) {}
+    // Told after the superview has become another one, or none.
     virtual void didMoveToSuperview() {}
+    // Told after the window has become another one, or none; every view inside is told, too.
     virtual void didMoveToWindow() {}
     // Told when the window, in which the view stands, comes into sight or goes out of it.
     virtual void windowVisibilityDidChange() {}
 
     // --- Geometry ---
 
-    // In the superview's coordinates, before `transform`.
+    // In the superview's coordinates, before `transform`; in points.
     const geometry::Rect& frame() const { return m_frame; }
     void setFrame(const geometry::Rect& frame);
     // The view's own coordinates; the origin is not 0 in a scrolled view.
@@ -79,11 +87,13 @@ public:
 
     // --- Layout ---
 
+    // The view is laid out again in the window's next update.
     void setNeedsLayout();
     // Lays out this view and what is inside it now, as far as it is due.
     void layoutIfNeeded();
     // Places the subviews. Runs after the pinned and the constrained ones have got their frames.
     virtual void layoutSubviews() {}
+    // Whether a layout pass is due.
     bool needsLayout() const { return m_needsLayout; }
 
     // Keeps the view at these distances from its superview's edges from the next layout on. Absent: the frame is left alone.
@@ -95,6 +105,7 @@ public:
     virtual geometry::Size intrinsicContentSize() const { return {noIntrinsicMetric, noIntrinsicMetric}; }
     // Tells whoever lays this view out that its natural size is another one now.
     void invalidateIntrinsicContentSize();
+    // Told of a subview whose natural size is another one now.
     virtual void subviewDidInvalidateIntrinsicContentSize(UIView&) {}
     // The size that suits the view where it is offered `proposal`; its natural size, or where it has none the offer.
     virtual geometry::Size sizeThatFits(const geometry::ProposedSize& proposal) const;
@@ -102,6 +113,7 @@ public:
     // The natural size of a view that layout makes as large as `given`: texts wrap.
     virtual geometry::Size naturalSizeFor(geometry::Size given) const;
 
+    // How strongly the view keeps from growing beyond its natural size, and from being squeezed below it.
     UILayoutPriority contentHuggingPriority(Axis axis) const { return m_hugging[std::size_t(axis)]; }
     void setContentHuggingPriority(UILayoutPriority priority, Axis axis);
     UILayoutPriority contentCompressionResistancePriority(Axis axis) const { return m_compressionResistance[std::size_t(axis)]; }
@@ -118,6 +130,7 @@ public:
     // The constraints that this view holds, in the order in which they were added.
     const std::vector<std::shared_ptr<NSLayoutConstraint>>& constraints() const { return m_constraints; }
 
+    // The view's edges, centre and lengths, to make constraints with.
     NSLayoutXAxisAnchor leadingAnchor() { return anchors().leadingAnchor(); }
     NSLayoutXAxisAnchor trailingAnchor() { return anchors().trailingAnchor(); }
     NSLayoutXAxisAnchor leftAnchor() { return anchors().leftAnchor(); }
@@ -150,22 +163,29 @@ public:
     void setOverrideTraitCollection(const std::optional<UITraitCollection>& traits);
     // What a subview inherits.
     virtual UITraitCollection traitsForSubviews() const { return traitCollection(); }
+    // Whether rows and texts run from right to left here.
     bool isRightToLeft() const { return traitCollection().layoutDirection == geometry::LayoutDirection::rightToLeft; }
 
     // How much of each edge is under the window's unsafe edges. Known before the view is in the window, when its controller is.
     geometry::PhysicalInsets safeAreaInsets() const;
     // The view's coordinates without the unsafe edges.
     geometry::Rect safeAreaRect() const;
+    // Told when they have become other ones.
     virtual void safeAreaInsetsDidChange() {}
 
     // --- Appearance ---
 
+    // Behind what the view draws; absent for none.
     const std::optional<UIColor>& backgroundColor() const { return m_backgroundColor; }
     void setBackgroundColor(const std::optional<UIColor>& color);
+    // From 0, when the view is not seen, to 1; what is inside fades with it.
     double alpha() const { return m_alpha; }
     void setAlpha(double alpha);
+    // A hidden view, with what is inside it, is neither seen nor touched, and not on screen for the semantic tree. Stacks leave no
+    // room for it.
     bool isHidden() const { return m_isHidden; }
     void setHidden(bool hidden);
+    // Whether what is inside is cut off at the view's edges.
     bool clipsToBounds() const { return m_clipsToBounds; }
     void setClipsToBounds(bool clips);
     // Of the background, and of the clip where there is one.
@@ -186,10 +206,12 @@ public:
 
     // --- Touches ---
 
+    // Where it is off, the view and what is inside it are passed by.
     bool isUserInteractionEnabled() const { return m_isUserInteractionEnabled; }
     void setUserInteractionEnabled(bool enabled);
     // The front-most view at `point`, in this view's coordinates, that takes touches; null for none.
     virtual UIView* hitTest(geometry::Point point);
+    // Whether the point, in the view's coordinates, is the view's.
     virtual bool pointInside(geometry::Point point) const { return bounds().contains(point); }
     // Asked, from the touched view outwards, for the first touch and for each of its moves: true takes the touch away from the view
     // that has it, which is told that it was cancelled.
@@ -205,9 +227,13 @@ public:
 
     // --- Accessibility ---
 
+    // What tests and tools know the view by; empty for none.
     std::string accessibilityIdentifier;
+    // What is read to a person; empty: whatever texts are inside.
     std::string accessibilityLabel;
+    // What is said of the view besides what its class says.
     accessibility::Traits accessibilityTraits = accessibility::Traits::none;
+    // The view's state in words, such as a page number; empty for none.
     virtual std::string accessibilityValue() const { return m_accessibilityValue; }
     void setAccessibilityValue(std::string value) { m_accessibilityValue = std::move(value); }
 
@@ -217,14 +243,17 @@ public:
 protected:
     // Paints what is above the background and below the subviews, in the view's coordinates.
     virtual void draw(graphics::PaintContext&, const graphics::PaintState&) const {}
+    // The subviews' turn in paint().
     virtual void paintSubviews(graphics::PaintContext& context, const graphics::PaintState& state) const;
     // Adds what is particular to the class.
     virtual void describe(accessibility::SemanticNode&, const graphics::PaintState&) const {}
+    // The subviews' turn in semanticNode().
     virtual void appendSubviewNodes(std::vector<accessibility::SemanticNode>& nodes, const graphics::PaintState& state) const;
     // A change of the coordinates that is seen only: painted and described, but neither laid out nor touched.
     virtual geometry::Transform presentationTransform() const { return m_transform; }
     // Likewise of the opacity.
     virtual double presentationAlpha() const { return m_alpha; }
+    // The colour's value in the view's light or dark scheme.
     graphics::RGBA resolved(const UIColor& color) const { return color.resolved(traitCollection().userInterfaceStyle); }
     // After every change of the frame.
     virtual void frameDidChange(const geometry::Rect& /*previous*/) {}

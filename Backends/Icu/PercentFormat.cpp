@@ -1,0 +1,119 @@
+#include "Backends/Icu/PercentFormat.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace proupsells::icubackend {
+
+namespace {
+
+constexpr std::u16string_view numberCharacters = u"#0,.";
+
+// The pattern without what it says in quotes, so that only the number's own characters are found; as long as before.
+std::u16string withoutQuoted(std::u16string_view pattern) {
+    std::u16string result(pattern);
+    bool isQuoted = false;
+    for (char16_t& unit : result) {
+        if (unit == u'\'') isQuoted = !isQuoted;
+        if (isQuoted) unit = u' ';
+    }
+    return result;
+}
+
+int digitCount(std::u16string_view pattern) {
+    return int(std::count_if(pattern.begin(), pattern.end(), [](char16_t unit) { return unit == u'#' || unit == u'0'; }));
+}
+
+} // namespace
+
+PercentFormat::PercentFormat(const icu::Locale& locale) {
+    const NumberElements elements(locale);
+    m_digits = elements.digits().value_or(u"0123456789");
+    m_decimal = elements.symbol("decimal").value_or(u".");
+    m_group = elements.symbol("group").value_or(u",");
+    m_percentSign = elements.symbol("percentSign").value_or(u"%");
+    m_minusSign = elements.symbol("minusSign").value_or(u"-");
+    const icu::UnicodeString fewest = elements.element("minimumGroupingDigits").value_or(u"1");
+    if (fewest.length() == 1) m_fewestDigitsBeforeLastGroup = fewest[0] - u'0';
+
+    const icu::UnicodeString pattern = elements.pattern("percentFormat").value_or(u"#,##0%");
+    const std::u16string_view both(pattern.getBuffer(), std::size_t(pattern.length()));
+    const std::size_t semicolon = withoutQuoted(both).find(u';');
+    readGroups(both.substr(0, semicolon));
+    m_positive = affixesIn(both.substr(0, semicolon));
+    if (semicolon == std::u16string_view::npos)
+        m_negative = {m_minusSign + m_positive.prefix, m_positive.suffix};
+    else
+        m_negative = affixesIn(both.substr(semicolon + 1));
+}
+
+void PercentFormat::readGroups(std::u16string_view pattern) {
+    const std::u16string plain = withoutQuoted(pattern);
+    const std::u16string_view whole = std::u16string_view(plain).substr(0, plain.find(u'.'));
+    const std::size_t last = whole.rfind(u',');
+    if (last == std::u16string_view::npos) return;
+    m_lastGroup = m_otherGroup = digitCount(whole.substr(last));
+    const std::size_t other = last == 0 ? std::u16string_view::npos : whole.rfind(u',', last - 1);
+    if (other != std::u16string_view::npos) m_otherGroup = digitCount(whole.substr(other, last - other));
+}
+
+PercentFormat::Affixes PercentFormat::affixesIn(std::u16string_view pattern) const {
+    const std::u16string plain = withoutQuoted(pattern);
+    const std::size_t first = plain.find_first_of(numberCharacters);
+    if (first == std::u16string::npos) return {{}, withSymbols(pattern)};
+    return {withSymbols(pattern.substr(0, first)), withSymbols(pattern.substr(plain.find_last_of(numberCharacters) + 1))};
+}
+
+icu::UnicodeString PercentFormat::withSymbols(std::u16string_view affix) const {
+    icu::UnicodeString result;
+    bool isQuoted = false;
+    for (std::size_t index = 0; index < affix.size(); ++index) {
+        const char16_t unit = affix[index];
+        if (unit == u'\'' && affix.substr(index + 1, 1) != u"'")
+            isQuoted = !isQuoted;
+        else if (unit == u'\'')
+            result += affix[index++]; // two quotes mean one
+        else if (unit == u'%' && !isQuoted)
+            result += m_percentSign;
+        else if (unit == u'-' && !isQuoted)
+            result += m_minusSign;
+        else
+            result += unit;
+    }
+    return result;
+}
+
+std::string PercentFormat::text(double fraction, int maximumFractionDigits) const {
+    const Affixes& affixes = std::signbit(fraction) ? m_negative : m_positive;
+    constexpr int hundredfold = 2;
+    icu::UnicodeString text = affixes.prefix;
+    appendNumber(text, roundedDecimal(std::abs(fraction), hundredfold, maximumFractionDigits));
+    text += affixes.suffix;
+    std::string result;
+    return text.toUTF8String(result);
+}
+
+bool PercentFormat::endsGroup(int wholeDigitsAfterwards, int wholeDigits) const {
+    const int beforeLastGroup = wholeDigitsAfterwards - m_lastGroup;
+    return m_lastGroup > 0 && beforeLastGroup >= 0 && beforeLastGroup % m_otherGroup == 0 &&
+           wholeDigits - m_lastGroup >= m_fewestDigitsBeforeLastGroup;
+}
+
+void PercentFormat::appendDigit(icu::UnicodeString& text, char digit) const {
+    text += m_digits.char32At(m_digits.moveIndex32(0, digit - '0'));
+}
+
+void PercentFormat::appendNumber(icu::UnicodeString& text, const RoundedDecimal& number) const {
+    const int digitCount = int(number.digits.size()), wholeDigits = std::max(number.wholeCount, 1);
+    const auto digitAt = [&](int index) { return index >= 0 && index < digitCount ? number.digits[std::size_t(index)] : '0'; };
+    const int firstWhole = number.wholeCount - wholeDigits;
+    for (int index = firstWhole; index < number.wholeCount; ++index) {
+        appendDigit(text, digitAt(index));
+        const int afterwards = number.wholeCount - 1 - index;
+        if (afterwards > 0 && endsGroup(afterwards, wholeDigits)) text += m_group;
+    }
+    if (digitCount > number.wholeCount && digitCount > 0) text += m_decimal;
+    for (int index = number.wholeCount; index < digitCount; ++index) appendDigit(text, digitAt(index));
+}
+
+} // namespace proupsells::icubackend
