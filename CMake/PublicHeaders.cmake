@@ -79,6 +79,7 @@ set(PROUPSELLS_ProUpsells_HEADERS
   ProUpsells/PromotionalPricingUpsell.hpp
   ProUpsells/Referrer.hpp
   ProUpsells/SubscriptionOption.hpp
+  ProUpsells/Theme.hpp
   ProUpsells/UpsellViewController.hpp
   ProUpsells/UpsellViewControllerDelegate.hpp
   ProUpsells/UpsellViewModel.hpp

@@ -79,8 +79,8 @@ View Paywall::column(bool isCompact) const {
 
 View Paywall::scrollingColumn(bool isCompact) const {
     return ScrollView{.content = column(isCompact)} |
-           overlay(ResizableImage{image(ImageResource::termsGradient()), ContentMode::fit} | opacity(isLight ? 1 : 0) |
-                       allowsHitTesting(false),
+           overlay(ResizableImage{image(ImageResource::termsGradient(), graphics::RenderingMode::tinted), ContentMode::fit} |
+                       foregroundStyle(velauikit::velaBackground) | opacity(isLight ? 1 : 0) | allowsHitTesting(false),
                    Alignment::bottom) |
            ignoresSafeArea(Edge::bottom);
 }

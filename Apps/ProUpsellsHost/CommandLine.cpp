@@ -57,6 +57,7 @@ constexpr DeviceOption deviceOptions[] = {
     {"--reduce-motion", "reduceMotion", "Less movement", flag},
     {"--safe-area", "safeArea", "Top, left, bottom, right in points, such as 0,0,34,0", insets},
     {"--strings", "strings", "A folder of <language>.lproj/Localizable.strings", text},
+    {"--theme", "theme", "A file with colours, typefaces and pictures of a brand", text},
 };
 
 constexpr Word<StartScreen> startScreens[] = {

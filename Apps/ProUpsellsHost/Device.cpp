@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "Apps/ProUpsellsHost/ThemeFile.hpp"
 #include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
@@ -42,6 +43,13 @@ std::filesystem::path readStrings(const JsonCursor& value, const std::filesystem
     if (given.empty() || !std::filesystem::is_directory(path, error))
         value.fail("there is no folder \"" + value.text() + "\", expected one with <language>.lproj folders");
     return path;
+}
+
+Theme readTheme(const JsonCursor& value, const std::filesystem::path& folder) {
+    if (value.isNull()) return {};
+    const std::filesystem::path given = value.text();
+    if (given.empty()) value.fail("the file name is empty, expected a theme's file");
+    return readThemeFile(given.is_absolute() ? given : folder / given);
 }
 
 constexpr Word<graphics::ColorScheme> appearances[] = {
@@ -87,6 +95,7 @@ constexpr Word<ReadKey> deviceKeys[] = {
     {"safeArea", [](Device& device, const JsonCursor& value, const Folder&) { device.safeArea = readSafeArea(value); }},
     {"strings", [](Device& device, const JsonCursor& value, const Folder& folder) { device.strings = readStrings(value, folder); }},
     {"fonts", [](Device& device, const JsonCursor& value, const Folder&) { device.fonts = value.oneOf(fontChoices); }},
+    {"theme", [](Device& device, const JsonCursor& value, const Folder& folder) { device.theme = readTheme(value, folder); }},
 };
 
 const ReadKey* readerOf(std::string_view key) {

@@ -10,6 +10,7 @@
 #include "Platform/Geometry/Geometry.hpp"
 #include "Platform/Graphics/Color.hpp"
 #include "Platform/Graphics/ContentSize.hpp"
+#include "ProUpsells/Theme.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -27,6 +28,7 @@ struct Device {
     geometry::PhysicalInsets safeArea;
     std::filesystem::path strings; // the folder of the host's translations; empty for none
     FontChoice fonts = FontChoice::bundled;
+    Theme theme; // empty: the module's own look
 };
 
 // Whether the key is one of a device's.

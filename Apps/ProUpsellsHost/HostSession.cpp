@@ -20,6 +20,7 @@ HostSession::HostSession(Offers offers, const Device& device, HostParts parts, f
     commons::DefaultLogger::shared().setSink([log = m_log](const commons::LogRecord& record) { log->write(record); });
     installServices();
     setLanguage();
+    if (m_device.theme != Theme{}) setTheme(m_device.theme);
 
     m_window = uikit::UIWindow::create(device.size, device.safeArea);
     m_window->setTraits(traits());
@@ -42,6 +43,7 @@ HostSession::HostSession(Offers offers, const Device& device, HostParts parts, f
 
 HostSession::~HostSession() {
     m_window->setRootViewController(nullptr);
+    if (m_device.theme != Theme{}) setTheme({});
     commons::DefaultLogger::shared().setSink({});
 }
 
@@ -86,9 +88,11 @@ void HostSession::present() { m_window->rootViewController()->present(m_entry, t
 void HostSession::setDevice(const Device& device) {
     const bool hasOtherFonts = device.fonts != m_device.fonts;
     const bool hasOtherLanguage = device.locale != m_device.locale || device.strings != m_device.strings;
+    const bool hasOtherTheme = device.theme != m_device.theme;
     m_device = device;
     if (hasOtherFonts) installServices();
     if (hasOtherLanguage) setLanguage();
+    if (hasOtherTheme) setTheme(m_device.theme);
     m_window->setSize(device.size, device.safeArea);
     m_window->setTraits(traits());
 }

@@ -1,12 +1,16 @@
 #include "Backends/Raster/FontCatalog.hpp"
 
 #include <algorithm>
+#include <utility>
 
 #include "Backends/Raster/FallbackLanguage.hpp"
 #include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/Graphics/Typefaces.hpp"
 #include "Platform/System/PathText.hpp"
 
 namespace proupsells::rasterbackend {
+
+using graphics::Typefaces;
 
 namespace {
 
@@ -38,17 +42,47 @@ void FontCatalog::registerFace(std::string family, int weight, std::filesystem::
     m_answers.clear();
 }
 
+void FontCatalog::followTypefaces() {
+    if (std::exchange(m_typefaceChangeCount, Typefaces::changeCount()) == Typefaces::changeCount()) return;
+    std::vector<FaceFile> faces;
+    for (const Typefaces::File& file : Typefaces::current().files) {
+        FaceFile face{file.family, file.weight, file.path};
+        if (open(face, face.weight)) {
+            faces.push_back(std::move(face));
+        } else {
+            report("The file " + system::textOf(file.path) + " is no font", "FontCatalog::followTypefaces");
+            m_missingFamilies.push_back(file.family);
+        }
+    }
+    m_registered.erase(m_registered.begin(), m_registered.begin() + m_typefaceFileCount);
+    m_registered.insert(m_registered.begin(), faces.begin(), faces.end());
+    m_typefaceFileCount = std::ptrdiff_t(faces.size());
+    m_faces.clear();
+    m_answers.clear();
+}
+
 const CatalogFace& FontCatalog::face(const graphics::FontFace* face) {
+    followTypefaces();
     const auto found = m_faces.find(face);
     if (found != m_faces.end()) return found->second;
     return m_faces.emplace(face, face ? find(face->family, face->weight) : find(defaultFamily, 400)).first->second;
 }
 
 CatalogFace FontCatalog::find(const std::string& family, int weight) {
-    GlyphTableRef font = findFont(family, weight);
+    GlyphTableRef font = fontInstead(family, weight);
+    if (!font) font = findFont(family, weight);
     if (!font) font = standIn(family, weight);
     if (!font) return {nullptr, weight, usualAscent, usualDescent};
     return {font, weight, font->file().ascent(), font->file().descent()};
+}
+
+GlyphTableRef FontCatalog::fontInstead(const std::string& family, int weight) {
+    const auto& families = Typefaces::current().families;
+    const auto other = families.find(family);
+    if (other == families.end()) return nullptr;
+    GlyphTableRef font = findFont(other->second, weight);
+    if (!font) reportMissing(other->second, "; \"" + family + "\" stays");
+    return font;
 }
 
 // A face of exactly this weight, from the first source that has one; else the nearest of all.
@@ -73,11 +107,14 @@ GlyphTableRef FontCatalog::standIn(const std::string& missingFamily, int weight)
         font = open(*installed, weight);
         family = installed->family;
     }
-    if (std::find(m_missingFamilies.begin(), m_missingFamilies.end(), missingFamily) != m_missingFamilies.end()) return font;
-    m_missingFamilies.push_back(missingFamily);
-    const std::string consequence = font ? "; \"" + family + "\" stands in for it" : ", and no other is; texts stay empty";
-    report("The font family \"" + missingFamily + "\" is not installed" + consequence, "FontCatalog::standIn");
+    reportMissing(missingFamily, font ? "; \"" + family + "\" stands in for it" : ", and no other is; texts stay empty");
     return font;
+}
+
+void FontCatalog::reportMissing(const std::string& family, const std::string& consequence) {
+    if (std::find(m_missingFamilies.begin(), m_missingFamilies.end(), family) != m_missingFamilies.end()) return;
+    m_missingFamilies.push_back(family);
+    report("The font family \"" + family + "\" is not installed" + consequence, "FontCatalog::standIn");
 }
 
 // Null where the file is no font. Weights share a file that has only one.

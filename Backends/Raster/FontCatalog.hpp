@@ -43,8 +43,8 @@ public:
     // Texts that are shaped from now on know the face. A file that is no font is reported and left out.
     void registerFace(std::string family, int weight, std::filesystem::path file);
 
-    // The face's font; null asks for the default face. A family that is nowhere to be found is reported once and replaced. The
-    // address is good until a face is registered.
+    // The face's font, or that of the typeface that is shown instead; null asks for the default face. A family that is nowhere to
+    // be found is reported once and replaced. The address is good until a face is registered or the typefaces change.
     const CatalogFace& face(const graphics::FontFace* face);
 
     // The font that shows a cluster: the face's own where that has it in some spelling, unless it is to be a coloured emoji; that,
@@ -53,15 +53,21 @@ public:
                                  const std::string& script);
 
 private:
+    void followTypefaces();
     CatalogFace find(const std::string& family, int weight);
+    // Null where the family is to be shown itself.
+    GlyphTableRef fontInstead(const std::string& family, int weight);
     GlyphTableRef findFont(const std::string& family, int weight);
     GlyphTableRef standIn(const std::string& missingFamily, int weight);
+    void reportMissing(const std::string& family, const std::string& consequence);
     GlyphTableRef open(const FaceFile& face, int weight);
     GlyphTableRef findFontFor(const CatalogFace& face, const CharacterNeeds& needs, const std::string& language);
     GlyphTableRef emojiShowing(std::u32string_view characters);
     GlyphTableRef plainFontShowing(std::u32string_view characters, const std::string& language, int weight);
 
-    std::vector<FaceFile> m_registered;
+    std::vector<FaceFile> m_registered;      // those of the current typefaces first
+    std::ptrdiff_t m_typefaceFileCount = 0;  // how many those are
+    std::uint64_t m_typefaceChangeCount = 0; // when they were read
     std::vector<FaceFile> m_shipped;
     SystemFonts m_system;
     std::unordered_map<const graphics::FontFace*, CatalogFace> m_faces;

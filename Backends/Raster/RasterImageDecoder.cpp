@@ -8,4 +8,6 @@ std::optional<geometry::Size> RasterImageDecoder::naturalSize(const std::filesys
     return naturalPictureSize(file);
 }
 
+bool RasterImageDecoder::canRead(const std::filesystem::path& file) { return !readPicture(file, 1, 1).isNull(); }
+
 } // namespace proupsells::rasterbackend

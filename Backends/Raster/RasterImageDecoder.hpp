@@ -1,4 +1,4 @@
-// Reads the sizes of picture files.
+// Reads the sizes of picture files, and tells whether they are whole.
 #pragma once
 
 #include "Platform/Host/ImageDecoder.hpp"
@@ -8,6 +8,7 @@ namespace proupsells::rasterbackend {
 class RasterImageDecoder final : public host::ImageDecoder {
 public:
     std::optional<geometry::Size> naturalSize(const std::filesystem::path& file) override;
+    bool canRead(const std::filesystem::path& file) override;
 };
 
 } // namespace proupsells::rasterbackend

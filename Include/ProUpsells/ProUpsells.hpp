@@ -4,6 +4,7 @@
 // The screens, what they sell, and who is told.
 #include "ProUpsells/CallToActionButtonProvider.hpp"
 #include "ProUpsells/SubscriptionOption.hpp"
+#include "ProUpsells/Theme.hpp"
 #include "ProUpsells/UpsellViewController.hpp"
 #include "ProUpsells/VelaProStorePageViewController.hpp"
 #include "ProUpsells/VelaProUpsellViewController.hpp"

@@ -24,19 +24,30 @@ constexpr RGBA rgb(std::uint32_t hex, std::uint8_t alpha = 255) {
     return {std::uint8_t(hex >> 16), std::uint8_t(hex >> 8), std::uint8_t(hex), alpha};
 }
 
+class Palette;
+
 struct Color {
     std::string_view name; // the design system's; names live as long as the process
     RGBA light;
     RGBA dark;
 
-    // The value that the scheme shows.
-    constexpr RGBA resolved(ColorScheme scheme) const { return scheme == ColorScheme::dark ? dark : light; }
+    // The value that the scheme shows, whatever palette is in force.
+    constexpr RGBA own(ColorScheme scheme) const { return scheme == ColorScheme::dark ? dark : light; }
+    // What is painted: the colour's own value, unless the palette in force has another one for its name.
+    RGBA resolved(ColorScheme scheme) const { return s_palette ? inPalette(*s_palette, scheme) : own(scheme); }
     bool operator==(const Color&) const = default;
 
     // Fixed colours: the same in either scheme.
     static const Color clear;
     static const Color black;
     static const Color white;
+
+private:
+    friend class Palette;
+
+    RGBA inPalette(const Palette& palette, ColorScheme scheme) const;
+
+    static const Palette* s_palette; // null for none
 };
 
 inline constexpr Color Color::clear{"clear", {0, 0, 0, 0}, {0, 0, 0, 0}};

@@ -21,6 +21,7 @@ public:
     std::filesystem::path file;                            // a prepared picture, or an SVG
     std::optional<std::filesystem::path> darkFile;         // shown instead in the dark colour scheme
     RenderingMode renderingMode = RenderingMode::original; // tinted: in the colour of whoever shows it
+    std::shared_ptr<const Image> standIn;                  // painted in its place, at its size; null for none
 
     // The file that the scheme shows.
     const std::filesystem::path& fileFor(ColorScheme scheme) const {

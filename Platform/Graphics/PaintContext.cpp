@@ -97,7 +97,7 @@ void PaintContext::image(const PaintState& state, const Rect& rect, const ImageR
     Command* command = add(state, CommandKind::image, rect, rect);
     if (!command) return;
     command->color = tint;
-    command->resource = m_list.addImage(image);
+    command->resource = m_list.addImage(image->standIn ? image->standIn : image);
 }
 
 void PaintContext::bitmap(const PaintState& state, const Rect& rect, const std::shared_ptr<const Bitmap>& bitmap) {

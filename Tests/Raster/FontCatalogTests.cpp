@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "Platform/Graphics/Typefaces.hpp"
 #include "Tests/Raster/Shaping.hpp"
 #include "Tests/Support/LogRecorder.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
@@ -227,4 +228,68 @@ TEST(FontCatalog, SharesAFileAmongItsWeights) {
 
     // The extra bold one is the nearest to both.
     EXPECT_EQ(&firstShape(shapedBy(shaper, "a", faceOf("Sora", 900))), &firstShape(shapedBy(shaper, "a", faceOf("Sora", 850))));
+}
+
+// --- Typefaces that are shown instead ---
+
+class TypefacesTest : public testing::Test {
+protected:
+    ~TypefacesTest() override { graphics::Typefaces::setCurrent({}); }
+
+    double heading() { return widthOf(*shapedBy(shaper, "IIII", faceOf("Sora", 700))); }
+
+    tests::LogRecorder log;
+    RasterTextShaper shaper;
+    const double own = heading();
+};
+
+TEST_F(TypefacesTest, ShowTheirFamilyForAnother) {
+    shaper.registerFace("Brand", 700, testFonts / "Weighty.ttf");
+    const double brand = widthOf(*shapedBy(shaper, "IIII", faceOf("Brand", 700)));
+    const double text = widthOf(*shapedBy(shaper, "IIII", faceOf("Inter", 700)));
+    ASSERT_NE(brand, own);
+
+    graphics::Typefaces::setCurrent({.families = {{"Sora", "Brand"}}});
+
+    EXPECT_EQ(heading(), brand);
+    EXPECT_EQ(widthOf(*shapedBy(shaper, "IIII", faceOf("Inter", 700))), text);
+}
+
+TEST_F(TypefacesTest, BringFilesThatLeaveWithThem) {
+    graphics::Typefaces::setCurrent(
+        {.families = {{"Sora", "Brand"}}, .files = {{.family = "Brand", .weight = 700, .path = testFonts / "Weighty.ttf"}}});
+    EXPECT_NE(heading(), own);
+
+    graphics::Typefaces::setCurrent({.families = {{"Sora", "Brand"}}});
+    EXPECT_EQ(heading(), own);
+    EXPECT_THAT(log.messages(), ElementsAre("The font family \"Brand\" is not installed; \"Sora\" stays"));
+}
+
+TEST_F(TypefacesTest, ShowTheirTextFamilyWhereNoFaceIsNamed) {
+    const double before = widthOf(*shapedBy(shaper, "IIII"));
+
+    graphics::Typefaces::setCurrent(
+        {.families = {{"Inter", "Brand"}}, .files = {{.family = "Brand", .weight = 400, .path = testFonts / "Weighty.ttf"}}});
+
+    EXPECT_NE(widthOf(*shapedBy(shaper, "IIII")), before);
+}
+
+TEST_F(TypefacesTest, LeaveTheFamilyOfABrokenFileAndSaySoOnce) {
+    const tests::TemporaryFolder folder;
+
+    graphics::Typefaces::setCurrent({.families = {{"Sora", "Brand"}},
+                                     .files = {{.family = "Brand", .weight = 700, .path = folder.write("broken.otf", "OTTO")}}});
+
+    EXPECT_EQ(heading(), own);
+    EXPECT_THAT(log.messages(), ElementsAre(HasSubstr("broken.otf is no font")));
+}
+
+TEST_F(TypefacesTest, AreAskedBeforeTheFacesThatAHostRegistered) {
+    shaper.registerFace("Brand", 700, testFonts / "Layers.ttf");
+    const std::vector<graphics::Typefaces::File> files{{.family = "Brand", .weight = 700, .path = testFonts / "Weighty.ttf"}};
+    graphics::Typefaces::setCurrent({.families = {{"Sora", "Brand"}}, .files = files});
+    const double withBoth = heading();
+    RasterTextShaper other;
+
+    EXPECT_EQ(withBoth, widthOf(*shapedBy(other, "IIII", faceOf("Sora", 700))));
 }

@@ -1,4 +1,5 @@
 // What moves, fades and grows, and where it is at which time.
+#include "Platform/Graphics/Palette.hpp"
 #include "Tests/SwiftUI/Screen.hpp"
 
 namespace proupsells::swiftui::tests {
@@ -103,6 +104,25 @@ TEST_F(Animating, ColoursMixAtTheTimeOfPainting) {
     screen->runFor(0.5);
 
     EXPECT_EQ(screen->host().displayList().commands.front().color, graphics::rgb(0x324B64));
+}
+
+TEST_F(Animating, ColoursMixAsAPaletteShowsThem) {
+    graphics::Palette palette;
+    palette.set("to", graphics::ColorScheme::light, graphics::rgb(0x6496C8));
+    graphics::Palette::setCurrent(palette);
+    const graphics::Color from{"from", graphics::rgb(0x000000), graphics::rgb(0x000000)};
+    const graphics::Color to{"to", graphics::rgb(0xFFFFFF), graphics::rgb(0xFFFFFF)};
+    show([&] { return ColorView{isOn ? to : from}; });
+
+    change(linear(1));
+    screen->runFor(0.5);
+    const graphics::RGBA halfway = screen->host().displayList().commands.front().color;
+    screen->runFor(0.5);
+    const graphics::RGBA atLast = screen->host().displayList().commands.front().color;
+    graphics::Palette::setCurrent({});
+
+    EXPECT_EQ(halfway, graphics::rgb(0x324B64));
+    EXPECT_EQ(atLast, graphics::rgb(0x6496C8));
 }
 
 TEST_F(Animating, AChangeOnTheWayStartsFromWhatIsSeen) {

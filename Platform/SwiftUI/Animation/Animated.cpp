@@ -19,7 +19,8 @@ graphics::RGBA mixed(graphics::RGBA from, graphics::RGBA to, double progress) {
 } // namespace
 
 graphics::Color interpolated(const graphics::Color& from, const graphics::Color& to, double progress) {
-    return {to.name, mixed(from.light, to.light, progress), mixed(from.dark, to.dark, progress)};
+    const auto mixedIn = [&](graphics::ColorScheme scheme) { return mixed(from.resolved(scheme), to.resolved(scheme), progress); };
+    return {{}, mixedIn(graphics::ColorScheme::light), mixedIn(graphics::ColorScheme::dark)};
 }
 
 } // namespace proupsells::swiftui

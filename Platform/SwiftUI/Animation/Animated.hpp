@@ -18,7 +18,7 @@ constexpr geometry::Rect interpolated(const geometry::Rect& from, const geometry
     return {interpolated(from.origin, to.origin, progress),
             {interpolated(from.size.width, to.size.width, progress), interpolated(from.size.height, to.size.height, progress)}};
 }
-// Both appearances, under the target's name.
+// Both appearances, as they are painted. It has no name: no palette has a value for what is on its way.
 graphics::Color interpolated(const graphics::Color& from, const graphics::Color& to, double progress);
 
 // The value is a function of time, so nothing needs to happen between two readings. A movement to a new target starts from the

@@ -1,4 +1,5 @@
 // Operating a screen by keys.
+#include "Platform/UIKit/Controllers/FocusRing.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
 namespace proupsells::uikit {
@@ -91,11 +92,11 @@ void UIWindow::paintFocusRing(graphics::PaintContext& context) {
     if (!m_focus || isTransitioning()) return;
     const auto controls = focusableControls();
     if (*m_focus >= controls.size() || !controls[*m_focus].isOnScreen) return;
-    constexpr UIColor ring{"focusRing", graphics::rgb(0x0A7C78), graphics::rgb(0x3CCBC1)};
     constexpr double distance = 2, width = 2, radius = 6;
     const graphics::PaintState state = windowState();
     context.strokeRoundedRectangle(state, controls[*m_focus].frame.insetBy(-distance, -distance), radius,
-                                   geometry::CornerStyle::continuous, width, tintColor().value_or(ring).resolved(state.scheme));
+                                   geometry::CornerStyle::continuous, width,
+                                   tintColor().value_or(focusRingColor).resolved(state.scheme));
 }
 
 } // namespace proupsells::uikit

@@ -62,7 +62,7 @@ std::string UIPageControl::accessibilityValue() const {
 
 void UIPageControl::draw(graphics::PaintContext& context, const graphics::PaintState& state) const {
     constexpr double diameter = 7, otherDotsOpacity = 0.3;
-    const graphics::RGBA color = state.scheme == graphics::ColorScheme::dark ? graphics::rgb(0xFFFFFF) : graphics::rgb(0x000000);
+    const graphics::RGBA color = dotColor.resolved(state.scheme);
     for (int page = 0; page < m_numberOfPages; ++page) {
         const geometry::Point center = dotCenter(page);
         const geometry::Rect dot{{center.x - diameter / 2, center.y - diameter / 2}, {diameter, diameter}};

@@ -11,6 +11,8 @@ public:
     enum class BackgroundStyle { automatic, prominent, minimal };
 
     static constexpr double cellWidth = 10;
+    // Of the current page's dot; the others are fainter.
+    static constexpr UIColor dotColor{"pageControl", graphics::rgb(0x000000), graphics::rgb(0xFFFFFF)};
 
     std::string_view typeName() const override { return "UIPageControl"; }
 

@@ -1,0 +1,11 @@
+// How well one colour stands out from another, by WCAG 2.2.
+#pragma once
+
+#include "Platform/Graphics/Color.hpp"
+
+namespace proupsells::graphics {
+
+// From 1, for equal colours, to 21, for black and white. Both are taken as opaque.
+double contrast(RGBA a, RGBA b);
+
+} // namespace proupsells::graphics

@@ -1,0 +1,72 @@
+// A brand of the host's own.
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Platform/Graphics/Color.hpp"
+
+namespace proupsells {
+
+// What it names is shown instead of ours: colours, typefaces, pictures. All else stays, and so do sizes, order and texts.
+struct Theme {
+    // Absent: ours.
+    struct Color {
+        std::optional<graphics::RGBA> light;
+        std::optional<graphics::RGBA> dark;
+
+        bool operator==(const Color&) const = default;
+    };
+
+    // Families by their part on the screens. Empty: ours, but that `display`, the cut for large sizes, follows `text`.
+    struct Families {
+        std::string text;
+        std::string display;
+        std::string headings;
+
+        bool operator==(const Families&) const = default;
+    };
+
+    // A file with a face of one of those families. The others are the text shaper's: registered with it, or the system's.
+    struct FaceFile {
+        std::string family;
+        int weight = 400; // 100 to 900, as in OpenType
+        std::filesystem::path file;
+
+        bool operator==(const FaceFile&) const = default;
+    };
+
+    // A picture of the same shape as ours, which it covers. A PNG file should have three pixels a point.
+    struct Picture {
+        std::filesystem::path file;
+        std::optional<std::filesystem::path> darkFile; // absent: the same in the dark appearance
+
+        bool operator==(const Picture&) const = default;
+    };
+
+    std::map<std::string, Color, std::less<>> colors;
+    Families families;
+    std::vector<FaceFile> faceFiles;
+    std::map<std::string, Picture, std::less<>> pictures;
+
+    bool operator==(const Theme&) const = default;
+
+    // The names that `colors` and `pictures` may have.
+    static std::vector<std::string_view> colorNames();
+    static std::vector<std::string_view> pictureNames();
+
+    // Why it cannot be shown, a sentence for each reason: names that do not exist, colours that are not opaque, and pairs of
+    // colours whose contrast is below WCAG 2.2 AA. Files are not looked at. Empty where all is well.
+    std::vector<std::string> problems() const;
+};
+
+// Windows follow in their next update; an empty theme brings ours back. A theme with problems is refused: each is a log line, and
+// what was shown before stays. A file that is missing or broken, or a picture of another shape, is a log line, and ours stays in
+// its place. Files must stay as they are while the theme is shown. Main thread only. Returns whether the theme was taken.
+bool setTheme(const Theme& theme);
+
+} // namespace proupsells
