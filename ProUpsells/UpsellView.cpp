@@ -77,11 +77,17 @@ View Paywall::column(bool isCompact) const {
            padding(Edge::top, isCompact ? 0 : -10) | padding(Edge::bottom, 80);
 }
 
+// The picture is white, as our page is. As a mask for a theme's page it costs more.
+View fadeIntoPage() {
+    constexpr graphics::Color page = velauikit::velaBackground;
+    const ImageResource& gradient = ImageResource::termsGradient();
+    if (page.resolved(graphics::ColorScheme::light) == page.light) return ResizableImage{image(gradient), ContentMode::fit};
+    return ResizableImage{image(gradient, graphics::RenderingMode::tinted), ContentMode::fit} | foregroundStyle(page);
+}
+
 View Paywall::scrollingColumn(bool isCompact) const {
     return ScrollView{.content = column(isCompact)} |
-           overlay(ResizableImage{image(ImageResource::termsGradient(), graphics::RenderingMode::tinted), ContentMode::fit} |
-                       foregroundStyle(velauikit::velaBackground) | opacity(isLight ? 1 : 0) | allowsHitTesting(false),
-                   Alignment::bottom) |
+           overlay(fadeIntoPage() | opacity(isLight ? 1 : 0) | allowsHitTesting(false), Alignment::bottom) |
            ignoresSafeArea(Edge::bottom);
 }
 

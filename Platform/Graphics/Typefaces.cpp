@@ -6,18 +6,25 @@ namespace proupsells::graphics {
 
 namespace {
 
-Typefaces currentTypefaces;
-std::uint64_t changes = 0;
+struct Setting {
+    Typefaces typefaces;
+    std::uint64_t changeCount = 0;
+};
+
+Setting& setting() {
+    static Setting setting;
+    return setting;
+}
 
 } // namespace
 
 void Typefaces::setCurrent(Typefaces typefaces) {
-    currentTypefaces = std::move(typefaces);
-    ++changes;
+    setting().typefaces = std::move(typefaces);
+    ++setting().changeCount;
 }
 
-const Typefaces& Typefaces::current() { return currentTypefaces; }
+const Typefaces& Typefaces::current() { return setting().typefaces; }
 
-std::uint64_t Typefaces::changeCount() { return changes; }
+std::uint64_t Typefaces::changeCount() { return setting().changeCount; }
 
 } // namespace proupsells::graphics

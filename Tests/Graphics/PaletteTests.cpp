@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "Tests/Support/AllocationCounter.hpp"
+
 namespace proupsells::graphics {
 namespace {
 
@@ -32,6 +34,15 @@ TEST_F(PaletteTest, LeavesTheAppearanceThatItHasNoValueFor) {
 
     EXPECT_EQ(ink.resolved(ColorScheme::dark), rgb(0xEEEEEE));
     EXPECT_EQ(Color::black.resolved(ColorScheme::light), rgb(0x000000));
+}
+
+TEST_F(PaletteTest, IsAskedWithoutTakingMemory) {
+    constexpr Color longName{"a name that is longer than a short text", rgb(0x111111), rgb(0xEEEEEE)};
+    Palette palette;
+    palette.set(longName.name, ColorScheme::light, rgb(0x123456));
+    Palette::setCurrent(palette);
+
+    EXPECT_EQ(tests::allocationsDuring([&] { EXPECT_EQ(longName.resolved(ColorScheme::light), rgb(0x123456)); }), 0u);
 }
 
 TEST_F(PaletteTest, IsGoneWithTheNextOne) {

@@ -49,6 +49,14 @@ struct BadTheme {
 
 void PrintTo(const BadTheme& theme, std::ostream* stream) { *stream << theme.name; }
 
+// The folder above the working directory, or above this source, that has the examples.
+std::filesystem::path exampleThemes() {
+    for (auto start : {std::filesystem::current_path(), std::filesystem::absolute(__FILE__)})
+        for (auto folder = start; folder != folder.parent_path(); folder = folder.parent_path())
+            if (std::filesystem::exists(folder / "Examples/themes")) return folder / "Examples/themes";
+    return {};
+}
+
 class BadThemeFile : public testing::TestWithParam<BadTheme> {};
 
 } // namespace
@@ -73,6 +81,20 @@ TEST_F(ThemeOfTheHost, LeavesNoTraceWhenItIsTakenAway) {
 
     EXPECT_NE(themed.before, plain.before);
     EXPECT_EQ(themed.after, plain.after);
+}
+
+TEST_F(ThemeOfTheHost, IsShownWithoutAComplaintWhereItIsAnExample) {
+    int count = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(exampleThemes())) {
+        if (entry.path().extension() != ".json") continue;
+        ++count;
+
+        const Pictures pictures = play({{"theme", entry.path().string()}}, {{"theme", nullptr}});
+
+        EXPECT_NE(pictures.before, pictures.after) << entry.path();
+        EXPECT_THAT(outcome.events("log"), IsEmpty()) << entry.path();
+    }
+    EXPECT_GT(count, 0);
 }
 
 TEST_F(ThemeOfTheHost, TellsAMissingFileInTheLogAndGoesOn) {

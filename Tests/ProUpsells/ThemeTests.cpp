@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <set>
 #include <sstream>
+#include <thread>
 
 #include <gmock/gmock.h>
 
@@ -153,10 +154,12 @@ TEST_F(ThemeTest, LeavesNothingInOurColorsWhereItReplacesThemAll) {
     }
 }
 
+// The header has moved on to its second page, and stays there.
 TEST_F(ThemeTest, IsFollowedByAScreenThatIsShown) {
     for (const Shown screen : everyScreen) {
         setTheme({});
         open(screen);
+        bed.runFor(6);
         const std::string before = described(window->semanticTree());
         ASSERT_FALSE(paints(green));
         bool isAnnounced = false;
@@ -197,6 +200,27 @@ TEST_F(ThemeTest, MayHaveAColorForOneAppearanceOnly) {
     EXPECT_TRUE(paints(rgb(0xFFFDF8)));
     setAppearance(ColorScheme::dark);
     EXPECT_TRUE(paints(rgb(0x0F1315)));
+}
+
+TEST_F(ThemeTest, LetsThePaywallFadeIntoItsPage) {
+    open(Shown::paywall);
+    const auto fade = [&] {
+        const auto& commands = painted().commands;
+        return *std::find_if(commands.begin(), commands.end(), [&](const graphics::Command& command) {
+            return command.kind == graphics::CommandKind::image &&
+                   list.images[std::size_t(command.resource)]->name == "TermsGradient";
+        });
+    };
+    const geometry::Rect frame = fade().frame;
+    Theme theme;
+    theme.colors["velaBackground"].light = rgb(0xFFFDF8);
+
+    ASSERT_TRUE(setTheme(theme));
+    bed.settle();
+
+    EXPECT_EQ(fade().color, rgb(0xFFFDF8));
+    EXPECT_EQ(list.images[std::size_t(fade().resource)]->renderingMode, graphics::RenderingMode::tinted);
+    EXPECT_EQ(fade().frame, frame);
 }
 
 TEST_F(ThemeTest, GivesTheStorePageTheColorsOfTheOtherScreens) {
@@ -318,6 +342,10 @@ TEST_F(ThemeTest, StaysWhenTheNextOneIsRefused) {
     open(Shown::paywall);
 
     EXPECT_TRUE(paints(green));
+}
+
+TEST_F(ThemeTest, IsSetOnTheMainThread) {
+    EXPECT_DEATH(std::thread([] { setTheme({}); }).join(), "setTheme must be called");
 }
 
 // --- Pictures ---
