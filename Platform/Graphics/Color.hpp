@@ -31,9 +31,9 @@ struct Color {
     RGBA light;
     RGBA dark;
 
-    // The value that the scheme shows, unless a palette has another one.
+    // The value that the scheme shows, whatever palette is in force.
     constexpr RGBA own(ColorScheme scheme) const { return scheme == ColorScheme::dark ? dark : light; }
-    // What is painted: the colour's own value, or that of its name in the palette in force.
+    // What is painted: the colour's own value, unless the palette in force has another one for its name.
     RGBA resolved(ColorScheme scheme) const { return s_palette ? inPalette(*s_palette, scheme) : own(scheme); }
     bool operator==(const Color&) const = default;
 
