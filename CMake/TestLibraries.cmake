@@ -18,6 +18,8 @@ if(EMSCRIPTEN)
   set(gtest_disable_pthreads ON CACHE INTERNAL "")
 endif()
 add_subdirectory("${PROUPSELLS_GOOGLETEST}" "${PROJECT_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)
+# Else it lacks what the tests' newer language has.
+target_compile_features(gtest PUBLIC cxx_std_20)
 if(EMSCRIPTEN)
   # Node's files do not take the place of standard error.
   target_compile_definitions(gtest PUBLIC GTEST_HAS_STREAM_REDIRECTION=0)
