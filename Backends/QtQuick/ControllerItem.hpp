@@ -31,12 +31,16 @@ class ControllerItem : public QQuickPaintedItem {
     Q_PROPERTY(int textSize READ textSize WRITE setTextSize NOTIFY traitsChanged)
 
 public:
+    // NOLINTBEGIN(readability-identifier-naming): QML wants values that begin with a capital.
+
     // Light or dark, or as the application's palette.
     enum class ColorScheme { System, Light, Dark };
     Q_ENUM(ColorScheme)
     // Which way texts and rows run, or as the application's.
     enum class Direction { System, LeftToRight, RightToLeft };
     Q_ENUM(Direction)
+
+    // NOLINTEND(readability-identifier-naming)
 
     // An empty item.
     explicit ControllerItem(QQuickItem* parent = nullptr);

@@ -37,6 +37,7 @@ class PaywallItem : public ControllerItem {
 
 public:
     // Why the paywall has closed; see proupsells::ClosingReason.
+    // NOLINTNEXTLINE(readability-identifier-naming): QML wants values that begin with a capital.
     enum class Reason { Purchased, Cancelled, Dismissed };
     Q_ENUM(Reason)
 

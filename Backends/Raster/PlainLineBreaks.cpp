@@ -25,11 +25,13 @@ struct KindFrom {
     ULineBreak kind;
 };
 constexpr auto kinds = [] {
+    // NOLINTBEGIN(readability-identifier-naming)
     constexpr ULineBreak AL = U_LB_ALPHABETIC, B2 = U_LB_BREAK_BOTH, BA = U_LB_BREAK_AFTER, BB = U_LB_BREAK_BEFORE,
                          CL = U_LB_CLOSE_PUNCTUATION, CP = U_LB_CLOSE_PARENTHESIS, EX = U_LB_EXCLAMATION, GL = U_LB_GLUE,
                          HY = U_LB_HYPHEN, IN = U_LB_INSEPARABLE, IS = U_LB_INFIX_NUMERIC, LF = U_LB_LINE_FEED, NU = U_LB_NUMERIC,
                          OP = U_LB_OPEN_PUNCTUATION, PO = U_LB_POSTFIX_NUMERIC, PR = U_LB_PREFIX_NUMERIC, QU = U_LB_QUOTATION,
                          SP = U_LB_SPACE, SY = U_LB_BREAK_SYMBOLS, XX = U_LB_UNKNOWN;
+    // NOLINTEND(readability-identifier-naming)
     return std::to_array<KindFrom>(
         {{0x00, XX},   {0x09, BA},   {0x0A, LF},   {0x0B, XX},   {0x20, SP},   {0x21, EX},   {0x22, QU},   {0x23, AL},
          {0x24, PR},   {0x25, PO},   {0x26, AL},   {0x27, QU},   {0x28, OP},   {0x29, CP},   {0x2A, AL},   {0x2B, PR},
