@@ -6,9 +6,9 @@ extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
 #include <libavutil/log.h>
+}
 
 #include "Platform/System/PathText.hpp"
-}
 
 namespace proupsells::ffmpegbackend {
 
