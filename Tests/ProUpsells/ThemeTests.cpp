@@ -167,6 +167,7 @@ TEST_F(ThemeTest, IsFollowedByAScreenThatIsShown) {
 
         setTheme(terminal());
         bed.settle();
+        window->setNeedsDisplayHandler({});
 
         EXPECT_TRUE(isAnnounced);
         EXPECT_TRUE(paints(green));
