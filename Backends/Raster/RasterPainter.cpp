@@ -52,7 +52,6 @@ bool isFill(CommandKind kind) {
            kind == CommandKind::fillPath;
 }
 
-// Does not depend on the place, so that a picture that moves between pixels is not made anew.
 PixelSize sizeOfImage(const Command& command, double scale) {
     constexpr double longestSide_px = 8192;
     const auto side = [&](double length) { return std::max(1, nearestPixel(std::min(length * scale, longestSide_px))); };
@@ -201,6 +200,16 @@ const std::shared_ptr<RasterPainter>& RasterPainter::shared() {
     return painter;
 }
 
+PixelRect paintedPixels(const Command& command, double scale) {
+    return touchedPixels(scaledBy(command.bounds, scale)).intersection(nearestPixels(scaledBy(command.clip, scale)));
+}
+
+PixelRect imagePixels(const Command& command, double scale) {
+    const PixelSize size = sizeOfImage(command, scale);
+    const int x = nearestPixel(command.frame.minX() * scale), y = nearestPixel(command.frame.minY() * scale);
+    return {x, y, x + size.width, y + size.height};
+}
+
 PixelRect hiddenPixels(const Command& command, double scale) {
     if (command.kind != CommandKind::fillRectangle || command.color.alpha != 255 || command.opacity < 1) return {};
     if (command.clipRadius > 0 || command.transform >= 0) return {};
@@ -228,10 +237,7 @@ void RasterPainter::paintBand(const PaintTarget& target, const graphics::Display
 }
 
 void RasterPainter::paintCommand(Job& job, const Command& command) {
-    const PixelRect touched = touchedPixels(scaledBy(command.bounds, job.scale)).intersection(job.region);
-    if (touched.isEmpty()) return;
-    Item item{
-        command, {}, touched.intersection(nearestPixels(scaledBy(command.clip, job.scale))), {}, opacityFactor(command.opacity)};
+    Item item{command, {}, paintedPixels(command, job.scale).intersection(job.region), {}, opacityFactor(command.opacity)};
     if (item.area.isEmpty() || item.opacity == 0) return;
 
     const Transform toPixels = Transform::scaling(job.scale, job.scale);
@@ -352,8 +358,8 @@ void RasterPainter::paintImage(Job& job, const Item& item) {
             item.paintPixels(job, shown.pixels, x, y, shown.isOpaque);
     };
     if (command.transform < 0) {
-        const Point place = item.toPixels.apply(command.frame.origin);
-        return paintRaster(raster, nearestPixel(place.x), nearestPixel(place.y));
+        const PixelRect place = imagePixels(command, job.scale);
+        return paintRaster(raster, place.left, place.top);
     }
     const ImageRaster shown = m_images.transformed(raster, command.frame, item.toPixels, job.window);
     if (!shown.pixels.isNull()) paintRaster(shown, shown.x, shown.y);
@@ -369,9 +375,9 @@ void RasterPainter::prepareImage(const graphics::DisplayList& list, const Comman
     if (!image || !*image || command.transform >= 0) return;
     const ImageRaster& raster = m_images.image(**image, command.scheme, sizeOfImage(command, scale), false);
     if (!raster.file) return;
-    const Point place{command.frame.minX() * scale, command.frame.minY() * scale};
+    const PixelRect place = imagePixels(command, scale);
     const PixelRect seen = touchedPixels(scaledBy(command.clip.intersection(command.frame), scale));
-    m_images.prepare(raster, seen.moved(-nearestPixel(place.x), -nearestPixel(place.y)));
+    m_images.prepare(raster, seen.moved(-place.left, -place.top));
 }
 
 } // namespace proupsells::rasterbackend

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <bit>
 #include <cstdint>
+#include <cstring>
 
+#include "Backends/Raster/MovedPixels.hpp"
 #include "Backends/Raster/RasterPainter.hpp"
 
 namespace proupsells::rasterbackend {
@@ -20,11 +22,39 @@ PixelRect without(PixelRect rect, const PixelRect& stripe) {
     return rect;
 }
 
+// Rectangles that do not overlap stay so.
+void unite(std::vector<PixelRect>& rectangles, PixelRect rect) {
+    for (std::size_t index = 0; index < rectangles.size();) {
+        if (rectangles[index].intersection(rect).isEmpty()) {
+            ++index;
+            continue;
+        }
+        rect = rect.united(rectangles[index]);
+        rectangles.erase(rectangles.begin() + std::ptrdiff_t(index));
+        index = 0;
+    }
+    rectangles.push_back(rect);
+}
+
+// Row by row, so that none is written over before it is read.
+void copyPixels(const PaintTarget& target, const MovedPixels& moved) {
+    const PixelRect from = moved.from();
+    const auto row = [&](int index) {
+        const auto at = [&](const PixelRect& rect) { return target.pixels + (rect.top + index) * target.pixelsPerRow + rect.left; };
+        std::memmove(at(moved.to), at(from), std::size_t(from.width()) * sizeof(Pixel));
+    };
+    if (moved.by.y > 0)
+        for (int index = from.height() - 1; index >= 0; --index) row(index);
+    else
+        for (int index = 0; index < from.height(); ++index) row(index);
+}
+
 } // namespace
 
 RasterSurface::RasterSurface() : RasterSurface(RasterPainter::shared()) {}
 
-RasterSurface::RasterSurface(std::shared_ptr<RasterPainter> painter) : m_painter(std::move(painter)) {}
+RasterSurface::RasterSurface(std::shared_ptr<RasterPainter> painter)
+    : m_painter(std::move(painter)), m_moveFinder(std::make_unique<MoveFinder>()) {}
 
 RasterSurface::~RasterSurface() = default;
 
@@ -57,7 +87,8 @@ void RasterSurface::present(const graphics::DisplayList& list, geometry::Size si
     m_damage.clear();
     const PixelSize pixels = sizeOfTarget(size, scale);
     const PixelRect window{0, 0, pixels.width, pixels.height};
-    if (size != m_size || scale != m_scale) {
+    const bool isShown = size == m_size && scale == m_scale;
+    if (!isShown) {
         m_size = size;
         m_scale = scale;
         m_picture = paintsDirectly() ? Picture{} : Picture::unwritten(pixels.width, pixels.height);
@@ -70,7 +101,8 @@ void RasterSurface::present(const graphics::DisplayList& list, geometry::Size si
     const PaintTarget target = paintsDirectly() ? PaintTarget{static_cast<Pixel*>(m_buffer->pixels),
                                                               m_buffer->bytesPerRow / std::ptrdiff_t(sizeof(Pixel)), pixels}
                                                 : PaintTarget{m_picture.row(0), pixels.width, pixels};
-    m_painter->paint(target, list, scale, m_damage);
+    if (isShown) movePixels(list, target);
+    m_painter->paint(target, list, scale, isShown ? m_painted : m_damage);
     if (m_buffer && !paintsDirectly())
         for (const PixelRect& rect : m_damage) copyToBuffer(rect);
     m_shown = list;
@@ -84,7 +116,8 @@ void RasterSurface::findDamagedPixels(const graphics::DisplayList& list, const P
     graphics::findDamage(m_shown, list, m_damagedPoints);
     for (const geometry::Rect& rect : m_damagedPoints) {
         const PixelRect touched = touchedPixels(scaledBy(rect, m_scale)).intersection(window);
-        if (!touched.isEmpty()) addDamage(touched);
+        // Rectangles that do not overlap in points may do so in pixels.
+        if (!touched.isEmpty()) unite(m_damage, touched);
     }
     leaveOutHiddenDamage(list);
 }
@@ -102,18 +135,18 @@ void RasterSurface::leaveOutHiddenDamage(const graphics::DisplayList& list) {
     std::erase_if(m_damage, [](const PixelRect& rect) { return rect.isEmpty(); });
 }
 
-// Rectangles that do not overlap in points may do so in pixels.
-void RasterSurface::addDamage(PixelRect rect) {
-    for (std::size_t index = 0; index < m_damage.size();) {
-        if (m_damage[index].intersection(rect).isEmpty()) {
-            ++index;
+// What is on the screen already and only goes to another place is copied; the rest of the damage is painted.
+void RasterSurface::movePixels(const graphics::DisplayList& list, const PaintTarget& target) {
+    m_painted.clear();
+    for (const PixelRect& rect : m_damage) {
+        const MovedPixels moved = m_moveFinder->find(m_shown, list, m_scale, rect);
+        if (moved.to.isEmpty()) {
+            m_painted.push_back(rect);
             continue;
         }
-        rect = rect.united(m_damage[index]);
-        m_damage.erase(m_damage.begin() + std::ptrdiff_t(index));
-        index = 0;
+        copyPixels(target, moved);
+        for (const PixelRect& repainted : m_moveFinder->repainted()) unite(m_painted, repainted);
     }
-    m_damage.push_back(rect);
 }
 
 void RasterSurface::copyToBuffer(const PixelRect& rect) const {

@@ -12,7 +12,9 @@
 
 namespace proupsells::rasterbackend {
 
+class MoveFinder;
 class RasterPainter;
+struct PaintTarget;
 
 // Paints into memory of its own, or into a buffer that is lent to it. Main thread only.
 class RasterSurface final : public host::Surface {
@@ -39,14 +41,14 @@ public:
 
     // What was painted, while no buffer is lent. Null before the first list, and where the size is empty.
     const Picture& picture() const { return m_picture; }
-    // What the last list repainted, in pixels; rectangles that do not overlap. Empty when nothing differed.
+    // What the last list changed, in pixels; rectangles that do not overlap. Empty when nothing differed.
     const std::vector<PixelRect>& lastDamage() const { return m_damage; }
 
 private:
     PixelSize sizeOfTarget(geometry::Size size, double scale) const;
     bool paintsDirectly() const;
     void findDamagedPixels(const graphics::DisplayList& list, const PixelRect& window);
-    void addDamage(PixelRect rect);
+    void movePixels(const graphics::DisplayList& list, const PaintTarget& target);
     void leaveOutHiddenDamage(const graphics::DisplayList& list);
     void copyToBuffer(const PixelRect& rect) const;
 
@@ -58,6 +60,8 @@ private:
     double m_scale = 0; // 0: nothing is shown
     std::vector<geometry::Rect> m_damagedPoints;
     std::vector<PixelRect> m_damage;
+    std::unique_ptr<MoveFinder> m_moveFinder;
+    std::vector<PixelRect> m_painted; // of the damage, what is painted rather than copied
 };
 
 // The number of pixels that `size` points fill at `scale`.

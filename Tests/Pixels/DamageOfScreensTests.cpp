@@ -50,6 +50,7 @@ public:
         return m_list;
     }
 
+    void scroll(double distance) { m_window->scroll({size.width / 2, size.height * 3 / 4}, {0, distance}); }
     void waitUntil(double time_s) { m_loop.runUntil(time_s); }
     // By the page control's right half.
     void chooseNextPage() {
@@ -150,6 +151,24 @@ TEST_P(DamageOfScreens, RepaintsAsTheWholeWindowWouldBePainted) {
             ASSERT_TRUE(isSame(surface.picture(), fresh.picture()));
             person.act();
         }
+    }
+}
+
+// Frame after frame: the header slides, the strips drift, and the page is scrolled by whole and by broken numbers of pixels.
+TEST_P(DamageOfScreens, MovesWhatIsOnTheScreenAsTheWholeWindowWouldBePainted) {
+    const auto [start, scale] = GetParam();
+    RestlessPerson person(start, 1);
+    rasterbackend::RasterSurface surface;
+    double now_s = 5.1;
+    for (int frame = 0; frame < 40; ++frame) {
+        SCOPED_TRACE(frame);
+        person.waitUntil(now_s += 1.0 / 60);
+        if (frame % 4 == 3) person.scroll(frame % 3 ? 20 : 7.3);
+        const graphics::DisplayList& list = person.paint();
+        surface.present(list, RestlessPerson::size, scale);
+        rasterbackend::RasterSurface fresh;
+        fresh.present(list, RestlessPerson::size, scale);
+        ASSERT_TRUE(isSame(surface.picture(), fresh.picture()));
     }
 }
 
