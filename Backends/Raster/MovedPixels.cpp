@@ -80,7 +80,7 @@ PixelOffset MoveFinder::offsetOfLargestPicture(const PixelRect& damage) const {
     long long largest = leastArea_px;
     for (const Command& after : m_after->commands) {
         if (!isPicture(after)) continue;
-        const long long area = areaOf(paintedPixels(after, m_scale).intersection(damage));
+        const long long area = areaOf(paintedPixels(after, m_scale, damage));
         if (area < largest) continue;
         const PixelRect place = imagePixels(after, m_scale);
         long long nearest = (long long)(damage.width()) + damage.height();
@@ -102,10 +102,9 @@ void MoveFinder::place(const graphics::DisplayList& list, PixelOffset by, const 
                        std::vector<Placed>& placed) const {
     placed.clear();
     for (const Command& command : list.commands) {
-        PixelRect area = paintedPixels(command, m_scale);
+        PixelRect area = paintedPixels(command, m_scale, part.moved(-by.x, -by.y));
         if (isPicture(command)) area = area.intersection(imagePixels(command, m_scale));
-        area = area.moved(by.x, by.y).intersection(part);
-        if (!area.isEmpty() && command.opacity > 0) placed.push_back({&command, area});
+        if (!area.isEmpty() && command.opacity > 0) placed.push_back({&command, area.moved(by.x, by.y)});
     }
 }
 

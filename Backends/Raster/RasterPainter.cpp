@@ -200,8 +200,13 @@ const std::shared_ptr<RasterPainter>& RasterPainter::shared() {
     return painter;
 }
 
-PixelRect paintedPixels(const Command& command, double scale) {
-    return touchedPixels(scaledBy(command.bounds, scale)).intersection(nearestPixels(scaledBy(command.clip, scale)));
+PixelRect paintedPixels(const Command& command, double scale, const PixelRect& part) {
+    const Rect bounds = scaledBy(command.bounds, scale);
+    // Most commands are somewhere else, which takes no rounding to see.
+    if (bounds.maxX() < part.left || bounds.minX() > part.right || bounds.maxY() < part.top || bounds.minY() > part.bottom)
+        return {};
+    const PixelRect touched = touchedPixels(bounds).intersection(part);
+    return touched.isEmpty() ? touched : touched.intersection(nearestPixels(scaledBy(command.clip, scale)));
 }
 
 PixelRect imagePixels(const Command& command, double scale) {
@@ -237,7 +242,7 @@ void RasterPainter::paintBand(const PaintTarget& target, const graphics::Display
 }
 
 void RasterPainter::paintCommand(Job& job, const Command& command) {
-    Item item{command, {}, paintedPixels(command, job.scale).intersection(job.region), {}, opacityFactor(command.opacity)};
+    Item item{command, {}, paintedPixels(command, job.scale, job.region), {}, opacityFactor(command.opacity)};
     if (item.area.isEmpty() || item.opacity == 0) return;
 
     const Transform toPixels = Transform::scaling(job.scale, job.scale);

@@ -20,8 +20,8 @@ struct PaintTarget {
     PixelSize size;
 };
 
-// The pixels that a command may touch, and no others.
-PixelRect paintedPixels(const graphics::Command& command, double scale);
+// The pixels of a part that a command may touch, and no others.
+PixelRect paintedPixels(const graphics::Command& command, double scale, const PixelRect& part);
 // The pixels of which a command shows nothing that is painted before it.
 PixelRect hiddenPixels(const graphics::Command& command, double scale);
 // Where the picture of a command without a transform goes, what is cut off included. It is as large wherever it goes, so that one
