@@ -86,7 +86,7 @@ void QtInput::wheelTurned(const QWheelEvent& event) {
 bool QtInput::keyPressed(const QKeyEvent& event) {
     const std::optional<host::Key> key = keyOf(event.key());
     const auto content = m_content;
-    return key && content->key(*key);
+    return key && content->key(*key, event.isAutoRepeat());
 }
 
 } // namespace proupsells::qtbackend

@@ -74,7 +74,8 @@ struct ClipInfo {
 // A view and what is inside it, front-most last. Frames are in window points, after every transform. Texts are empty and optional
 // parts absent where the view has none of the kind.
 struct SemanticNode {
-    std::string type; // as in the code
+    std::string type;     // as in the code
+    std::uint64_t id = 0; // of the view, as long as it lives, and of no other one; 0 for none
     geometry::Rect frame;
     bool isOnScreen = false;
     std::string identifier;

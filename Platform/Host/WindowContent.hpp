@@ -34,8 +34,8 @@ public:
     virtual void touch(const Touch& touch) = 0;
     // A wheel or trackpad: moves the scroll view under `location` by `delta` points; a positive y shows what is further down.
     virtual void scroll(geometry::Point location, geometry::Point delta) = 0;
-    // Returns whether the key meant something.
-    virtual bool key(Key key) = 0;
+    // Returns whether the key meant something. A key that is held down comes again and again, `isRepeated` but for the first time.
+    virtual bool key(Key key, bool isRepeated = false) = 0;
 
     // Where Tab goes from the last control: back to the first one, as at first, or out of the content. key() is false then.
     virtual void setFocusLeaves(bool /*leaves*/) {}

@@ -20,7 +20,7 @@ public:
     void setSize(geometry::Size, geometry::PhysicalInsets) override {}
     void touch(const host::Touch&) override {}
     void scroll(geometry::Point, geometry::Point) override {}
-    bool key(host::Key) override { return false; }
+    bool key(host::Key, bool) override { return false; }
     void paint(graphics::DisplayList&) override {}
     bool isAnimating() const override { return false; }
     void setNeedsDisplayHandler(std::function<void()>) override {}

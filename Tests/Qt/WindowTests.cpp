@@ -42,8 +42,8 @@ public:
         changed();
     }
     void scroll(Point location, Point delta) override { scrolls.emplace_back(location, delta); }
-    bool key(Key key) override {
-        keys.push_back(key);
+    bool key(Key key, bool isRepeated) override {
+        (isRepeated ? repeatedKeys : keys).push_back(key);
         return true;
     }
     void paint(graphics::DisplayList& list) override {
@@ -66,7 +66,7 @@ public:
     geometry::PhysicalInsets safeArea;
     std::vector<host::Touch> touches;
     std::vector<std::pair<Point, Point>> scrolls;
-    std::vector<Key> keys;
+    std::vector<Key> keys, repeatedKeys;
     double x = 10;
     int paintCount = 0;
     int animatedFrames = 0;
@@ -183,6 +183,14 @@ TEST_F(QtWindowTest, HandsOnTheKeysThatMeanSomething) {
 
     EXPECT_THAT(content->keys, ElementsAre(Key::escape, Key::tab, Key::backTab, Key::activate, Key::activate, Key::up, Key::down,
                                            Key::left, Key::right));
+}
+
+TEST_F(QtWindowTest, SaysThatAKeyIsHeldDown) {
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
+    QCoreApplication::sendEvent(&window, &held);
+
+    EXPECT_THAT(content->keys, IsEmpty());
+    EXPECT_THAT(content->repeatedKeys, ElementsAre(Key::activate));
 }
 
 TEST_F(QtWindowTest, PaintsNothingWhileNothingChanges) {

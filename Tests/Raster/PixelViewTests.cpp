@@ -29,7 +29,7 @@ public:
         if (whenTouched) whenTouched();
     }
     void scroll(Point, Point delta) override { move(delta.x); }
-    bool key(host::Key key) override { return key == host::Key::activate; }
+    bool key(host::Key key, bool) override { return key == host::Key::activate; }
     void paint(graphics::DisplayList& list) override {
         list.clear();
         graphics::PaintContext context(list);

@@ -36,6 +36,7 @@ protected:
     bool isHittable() const override { return true; }
     void addAttributes(SemanticContext& context, const graphics::PaintState&) const override {
         context.pending.isControl = true;
+        context.pending.id = id();
         if (environment().isEnabled) context.pending.activate = m_target.activation();
     }
 

@@ -1,12 +1,13 @@
 #include "Platform/SwiftUI/Tree/Node.hpp"
 
+#include "Platform/Accessibility/NodeId.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Platform/SwiftUI/Animation/Transaction.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
 namespace proupsells::swiftui {
 
-Node::Node() = default;
+Node::Node() : m_id(accessibility::newNodeId()) {}
 Node::~Node() = default;
 
 Node::Leaving::Leaving(std::unique_ptr<Node> leavingNode, std::size_t leavingSlot)

@@ -50,6 +50,8 @@ public:
     const std::vector<std::unique_ptr<Node>>& children() const { return m_children; }
     Node* onlyChild() const { return m_children.empty() ? nullptr : m_children.front().get(); }
     TypeKey type() const { return m_type; }
+    // See accessibility::SemanticNode::id.
+    std::uint64_t id() const { return m_id; }
     // Whether it, or a node around it, has left the tree. It may still be seen while a transition runs, but it must not act.
     bool hasLeft() const;
     // True until its first update has ended.
@@ -223,6 +225,7 @@ private:
     ViewHost* m_host = nullptr;
     const EnvironmentValues* m_environment = nullptr;
     std::uint64_t m_environmentVersion = 0;
+    const std::uint64_t m_id;
     TypeKey m_type = nullptr;
     std::vector<std::unique_ptr<Node>> m_children;
     std::unique_ptr<std::vector<Leaving>> m_leaving;

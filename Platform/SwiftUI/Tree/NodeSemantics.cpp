@@ -32,6 +32,7 @@ accessibility::SemanticNode SemanticContext::makeNode(std::string_view type, con
     pending = {};
     accessibility::SemanticNode node;
     node.type = type;
+    node.id = attributes.id;
     node.frame = attributes.frame.value_or(state.toWindow(frame));
     node.isOnScreen = state.opacity > 0 && node.frame.intersection(state.clip).intersects(window);
     node.identifier = std::move(attributes.identifier);
@@ -68,6 +69,7 @@ void Node::appendSemantics(SemanticContext& context, const PaintState& parentSta
     }
     accessibility::SemanticNode node = context.makeNode(type, state, {{}, frame.size});
     const bool takesFrameFromChildren = isTransparent();
+    if (node.id == 0) node.id = m_id;
     describe(node, state, now_s);
     appendChildSemantics(context, state, node.children);
     context.pending = {};

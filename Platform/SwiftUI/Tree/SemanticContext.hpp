@@ -24,6 +24,7 @@ struct SemanticAttributes {
     std::optional<double> rotation_degrees;
     std::optional<geometry::Rect> clip;
     bool isControl = false;         // a tap on it does something
+    std::uint64_t id = 0;           // of what makes a control of it; 0 where it speaks for itself
     std::function<void()> activate; // see accessibility::SemanticNode
 };
 

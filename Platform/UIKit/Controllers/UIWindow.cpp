@@ -1,6 +1,7 @@
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
 #include "Platform/RunLoop/MainActor.hpp"
+#include "Platform/UIKit/Controllers/KeyboardFocus.hpp"
 #include "Platform/UIKit/Controllers/PresentationStack.hpp"
 #include "Platform/UIKit/Controllers/TouchRouter.hpp"
 #include "Platform/UIKit/Views/UIScrollView.hpp"
@@ -8,7 +9,8 @@
 namespace proupsells::uikit {
 
 UIWindow::UIWindow(Creation)
-    : m_presentations(std::make_unique<PresentationStack>(*this)), m_touches(std::make_unique<TouchRouter>(*this)) {
+    : m_presentations(std::make_unique<PresentationStack>(*this)), m_touches(std::make_unique<TouchRouter>(*this)),
+      m_focus(std::make_unique<KeyboardFocus>(*this)) {
     m_window = this;
     m_traits = m_windowTraits;
     m_languageChanges = foundation::LanguageChanges::publisher().sink([this](std::uint64_t) { requestUpdate(); });
@@ -153,7 +155,7 @@ void UIWindow::paint(graphics::DisplayList& list) {
     graphics::PaintContext context(list);
     const graphics::PaintState state = windowState();
     for (std::size_t i = firstVisibleLayer(); i < subviews().size(); ++i) subviews()[i]->paint(context, state);
-    paintFocusRing(context);
+    m_focus->paintRing(context);
     m_isUpdating = false;
     m_needsDisplay = false;
 }
@@ -178,7 +180,7 @@ void UIWindow::touch(const host::Touch& touch) {
     const auto kept = strongReference(*this);
     if (touch.phase == host::TouchPhase::began) {
         if (isTransitioning()) return cancelTouch();
-        m_focus.reset();
+        m_focus->drop();
         UIScrollView::followTime();
         layOutInCurrentLanguage();
     }

@@ -10,6 +10,7 @@
 
 namespace proupsells::uikit {
 
+class KeyboardFocus;
 class PresentationStack;
 class TouchRouter;
 
@@ -52,8 +53,8 @@ public:
     void touch(const host::Touch& touch) override;
     void scroll(geometry::Point location, geometry::Point delta) override;
     // Tab moves the focus ring through the controls of the front-most presentation, activate taps the one in focus, escape leaves
-    // the front-most screen.
-    bool key(host::Key key) override;
+    // the front-most screen. Neither of these two does anything while the key is held down, nor any key during a transition.
+    bool key(host::Key key, bool isRepeated = false) override;
 
     void setFocusLeaves(bool leaves) override { m_focusLeaves = leaves; }
     bool takeFocus(host::FocusEnd end) override;
@@ -83,6 +84,7 @@ protected:
 
 private:
     friend class UIViewController;
+    friend class KeyboardFocus;
     friend class PresentationStack;
     friend class UIView;
 
@@ -94,16 +96,12 @@ private:
     void requestUpdate();
     graphics::PaintState windowState() const;
     std::size_t firstVisibleLayer() const;
-    std::vector<accessibility::SemanticNode> focusableControls();
     bool escape();
-    bool moveFocus(int step);
-    void focus(const std::vector<accessibility::SemanticNode>& controls, std::size_t index);
-    bool useFocused(host::Key key);
-    void paintFocusRing(graphics::PaintContext& context);
 
     std::shared_ptr<UIViewController> m_root;
     std::unique_ptr<PresentationStack> m_presentations;
     std::unique_ptr<TouchRouter> m_touches;
+    std::unique_ptr<KeyboardFocus> m_focus;
     UITraitCollection m_windowTraits;
     geometry::PhysicalInsets m_safeArea;
     std::function<void()> m_needsDisplayHandler;
@@ -115,7 +113,6 @@ private:
     bool m_isSeen = true;
     bool m_focusLeaves = false;
     std::function<void()> m_rootDismissalHandler;
-    std::optional<std::size_t> m_focus; // index among the focusable controls; absent until a key is used
 };
 
 } // namespace proupsells::uikit

@@ -1,11 +1,14 @@
 // What views are made of: their subviews and their properties.
 #include "Platform/UIKit/Views/UIView.hpp"
 
+#include "Platform/Accessibility/NodeId.hpp"
 #include "Platform/Commons/FatalError.hpp"
 
 namespace proupsells::uikit {
 
-UIView::UIView(const geometry::Rect& frame) : m_frame(frame) {}
+UIView::UIView() : m_id(accessibility::newNodeId()) {}
+
+UIView::UIView(const geometry::Rect& frame) : UIView() { m_frame = frame; }
 
 UIView::~UIView() {
     for (const auto& subview : m_subviews) subview->m_superview = nullptr;

@@ -25,7 +25,7 @@ class UIWindow;
 // Made with std::make_shared. A view owns its subviews; everything else that points to a view does so weakly.
 class UIView : public UIResponder {
 public:
-    UIView() = default;
+    UIView();
     // Stands at `frame` until somebody lays it out.
     explicit UIView(const geometry::Rect& frame);
     ~UIView() override;
@@ -305,6 +305,7 @@ private:
     void describeTransform(accessibility::SemanticNode& node) const;
     void describeReveal(accessibility::SemanticNode& node) const;
 
+    const std::uint64_t m_id;
     UIView* m_superview = nullptr;
     std::vector<std::shared_ptr<UIView>> m_subviews;
     UIViewController* m_viewController = nullptr;

@@ -65,6 +65,7 @@ accessibility::SemanticNode UIView::semanticNode(const graphics::PaintState& sta
     const graphics::PaintState inside = contentState(state);
     accessibility::SemanticNode node;
     node.type = typeName();
+    node.id = m_id;
     node.frame = inside.toWindow(bounds());
     node.isOnScreen = inside.opacity > 0 && !inside.hides(bounds());
     node.identifier = accessibilityIdentifier;
