@@ -23,7 +23,10 @@ namespace {
 // A red square on white, which input moves to the right.
 class Square : public host::WindowContent {
 public:
-    void setSize(geometry::Size newSize, geometry::PhysicalInsets) override { size = newSize; }
+    void setSize(geometry::Size newSize, geometry::PhysicalInsets) override {
+        size = newSize;
+        ++sizings;
+    }
     void touch(const host::Touch& touch) override {
         touches.push_back(touch);
         if (whenTouched) whenTouched();
@@ -48,6 +51,7 @@ public:
     }
 
     geometry::Size size;
+    int sizings = 0;
     std::vector<host::Touch> touches;
     double x = 0;
     bool animates = false;
@@ -60,6 +64,12 @@ protected:
     PixelViews() { view->setSize({4, 2}); }
 
     bool paint() { return view->paint(buffer, 2); }
+    // Phases and places of the touches so far.
+    std::vector<std::pair<TouchPhase, Point>> touches() const {
+        std::vector<std::pair<TouchPhase, Point>> touches;
+        for (const host::Touch& touch : content->touches) touches.emplace_back(touch.phase, touch.location);
+        return touches;
+    }
 
     headless::TestBed bed;
     std::shared_ptr<Square> content = std::make_shared<Square>();
@@ -186,11 +196,65 @@ TEST_F(PixelViews, HandsOnInput) {
     EXPECT_FALSE(view->key(host::Key::tab));
 }
 
+TEST_F(PixelViews, TakesTheSameSizeAgainForNothing) {
+    paint();
+    view->setSize({4, 2});
+    EXPECT_EQ(content->sizings, 1);
+    EXPECT_EQ(view->nextFrameDelay_s(), std::nullopt);
+    view->setSize({4, 2}, {1, 0, 0, 0});
+
+    EXPECT_EQ(content->sizings, 2);
+    EXPECT_NE(view->nextFrameDelay_s(), std::nullopt);
+}
+
+TEST_F(PixelViews, TellsItsHostInWholeMilliseconds) {
+    paint();
+    EXPECT_EQ(view->nextDueDelay_ms(), -1);
+    bed.loop().schedule(1e6, [] {});
+    EXPECT_EQ(view->nextDueDelay_ms(), 3'600'000);
+    bed.loop().schedule(0.0301, [] {});
+
+    EXPECT_EQ(view->nextDueDelay_ms(), 31);
+}
+
+TEST_F(PixelViews, TurnsAPointerIntoTouches) {
+    view->pointer({1, 1}, false);
+    view->pointer({2, 1}, true);
+    view->pointer({2, 1}, true);
+    view->pointer({3, 1}, true);
+    view->pointer({3.5, 1}, false);
+    view->pointer({4, 1}, false);
+
+    EXPECT_THAT(touches(), ElementsAre(std::pair(TouchPhase::began, Point{2, 1}), std::pair(TouchPhase::moved, Point{3, 1}),
+                                       std::pair(TouchPhase::ended, Point{3.5, 1})));
+}
+
+TEST_F(PixelViews, LetsGoOfAPointerThatIsSomebodyElses) {
+    view->pointer({2, 1}, true);
+    view->cancelPointer();
+    view->cancelPointer();
+    view->pointer({3, 1}, true);
+    view->pointer({4, 1}, true);
+    view->setSeen(false);
+    view->pointer({4, 1}, false);
+
+    EXPECT_THAT(touches(), ElementsAre(std::pair(TouchPhase::began, Point{2, 1}), std::pair(TouchPhase::cancelled, Point{2, 1}),
+                                       std::pair(TouchPhase::began, Point{3, 1}), std::pair(TouchPhase::moved, Point{4, 1}),
+                                       std::pair(TouchPhase::cancelled, Point{4, 1})));
+}
+
 TEST_F(PixelViews, MayGoAwayInsideEverythingThatItCalls) {
     content->whenTouched = [this] { view.reset(); };
     view->touch(TouchPhase::began, {1, 2});
     EXPECT_EQ(view, nullptr);
     EXPECT_FALSE(content->handler);
+
+    content->whenTouched = nullptr;
+    view = std::make_unique<PixelView>(content);
+    view->pointer({1, 2}, true);
+    content->whenTouched = [this] { view.reset(); };
+    view->setSeen(false);
+    EXPECT_EQ(view, nullptr);
 
     view = std::make_unique<PixelView>(content);
     content->whenPainted = [this] { view.reset(); };
