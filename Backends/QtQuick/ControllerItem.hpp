@@ -10,8 +10,9 @@
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
 namespace proupsells::qtbackend {
+class EmbeddedScreen;
 class QtInput;
-}
+} // namespace proupsells::qtbackend
 
 namespace proupsells::qtquick {
 
@@ -52,14 +53,14 @@ public:
     // Null for none.
     uikit::UIViewController* controller() const;
     // What the controller stands in.
-    uikit::UIWindow& uiWindow() const { return *m_uiWindow; }
+    uikit::UIWindow& uiWindow() const;
 
     // The property of the same name, for C++.
     ColorScheme colorScheme() const;
     void setColorScheme(ColorScheme scheme);
     Direction direction() const;
     void setDirection(Direction direction);
-    bool reducesMotion() const { return m_traits.reducesMotion.value_or(false); }
+    bool reducesMotion() const;
     void setReducesMotion(bool reduces);
     // Steps above (or, negative, below) the usual text size; from -3 to 8.
     int textSize() const;
@@ -92,23 +93,16 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    struct Parts;
-    void makeFrame();
-    void paintPixels();
     void followWindow(QQuickWindow* window);
     void followVisibility();
     void setTraits(const qtbackend::ScreenTraits& traits);
-    void adoptTraits();
-    double scaleFactor() const;
     template <class Event>
     void handOnLater(const Event& event, void (qtbackend::QtInput::*handOn)(const Event&));
     void cancelTouchLater();
 
-    std::shared_ptr<uikit::UIWindow> m_uiWindow;
-    qtbackend::ScreenTraits m_traits;
     QMetaObject::Connection m_windowVisibility;
     QPointer<QQuickWindow> m_watchedWindow;
-    std::unique_ptr<Parts> m_parts;
+    std::unique_ptr<qtbackend::EmbeddedScreen> m_screen;
 };
 
 } // namespace proupsells::qtquick

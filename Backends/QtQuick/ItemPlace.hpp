@@ -1,26 +1,31 @@
-// An item among Qt Quick's accessible objects.
+// An item in its scene, and among Qt Quick's accessible objects.
 #pragma once
 
-#include "Backends/Qt/AccessiblePlace.hpp"
+#include "Backends/Qt/ScreenPlace.hpp"
 
 class QQuickItem;
+class QQuickPaintedItem;
 
 namespace proupsells::qtquick {
 
-class ItemPlace final : public qtbackend::AccessiblePlace {
+class ItemPlace final : public qtbackend::ScreenPlace {
 public:
-    explicit ItemPlace(QQuickItem& item) : m_item(item) {}
+    explicit ItemPlace(QQuickPaintedItem& item) : m_item(item) {}
 
     QObject& object() const override;
     QWindow* window() const override;
     QAccessibleInterface* parent() const override;
-    QAccessible::Role role() const override { return QAccessible::Client; }
     QString name() const override;
     QRect frame() const override;
     bool isVisible() const override;
 
+    geometry::Size size() const override;
+    double scale() const override;
+    qtbackend::SystemTraits systemTraits() const override;
+    void update(const QRegion& damage) override;
+
 private:
-    QQuickItem& m_item;
+    QQuickPaintedItem& m_item;
 };
 
 // Qt Quick's own tree leaves out items that nobody has marked: this does what `Accessible.role` in QML does. Without QML's types it
