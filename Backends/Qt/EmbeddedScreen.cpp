@@ -1,7 +1,6 @@
 #include "Backends/Qt/EmbeddedScreen.hpp"
 
 #include <QKeyEvent>
-#include <QPainter>
 #include <QPointer>
 #include <QWindow>
 #include <cmath>
@@ -90,8 +89,6 @@ QSize EmbeddedScreen::wholeSize() const {
     const geometry::Size size = m_place.size();
     return {int(std::ceil(size.width)), int(std::ceil(size.height))};
 }
-
-void EmbeddedScreen::draw(QPainter& painter) const { painter.drawImage(QPoint(0, 0), m_image.image()); }
 
 // --- Input ---
 

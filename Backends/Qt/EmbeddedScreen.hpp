@@ -11,7 +11,6 @@
 #include "Backends/Standard/PixelScreen.hpp"
 
 class QKeyEvent;
-class QPainter;
 
 namespace proupsells::qtbackend {
 
@@ -44,7 +43,8 @@ public:
 
     // Brings the picture to the place's size and scale, before it is drawn. Returns whether that has changed it.
     bool prepareToDraw();
-    void draw(QPainter& painter) const;
+    // Null before the first one.
+    const QImage& picture() const { return m_image.image(); }
 
     // Mouse, touch and wheel go there.
     QtInput& input() { return m_input; }

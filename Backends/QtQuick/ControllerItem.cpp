@@ -2,8 +2,8 @@
 
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QQuickWindow>
+#include <QSGImageNode>
 #include <algorithm>
 #include <utility>
 
@@ -13,10 +13,9 @@
 namespace proupsells::qtquick {
 
 ControllerItem::ControllerItem(QQuickItem* parent)
-    : QQuickPaintedItem(parent), m_screen(std::make_unique<qtbackend::EmbeddedScreen>(std::make_unique<ItemPlace>(*this),
-                                                                                      [this] { emit dismissalRequested(); })) {
-    setOpaquePainting(true);
-    setAntialiasing(false);
+    : QQuickItem(parent), m_screen(std::make_unique<qtbackend::EmbeddedScreen>(std::make_unique<ItemPlace>(*this),
+                                                                               [this] { emit dismissalRequested(); })) {
+    setFlag(ItemHasContents);
     setAcceptedMouseButtons(Qt::LeftButton);
     setAcceptTouchEvents(true);
     setActiveFocusOnTab(true);
@@ -110,18 +109,39 @@ void ControllerItem::updatePolish() {
     if (m_screen->prepareToDraw()) update();
 }
 
-// On the scene's thread, while the main thread waits.
-void ControllerItem::paint(QPainter* painter) { m_screen->draw(*painter); }
+// On the scene's thread, while the main thread waits. Pixel for pixel: an item whose size is no whole number of pixels shows the
+// picture a little larger than itself, instead of shrinking it.
+QSGNode* ControllerItem::updatePaintNode(QSGNode* former, UpdatePaintNodeData*) {
+    // A copy, because the scene may be shown while the next frame is painted.
+    QImage picture = m_screen->picture().copy();
+    const QRectF place({}, picture.deviceIndependentSize());
+    picture.setDevicePixelRatio(1);
+    if (picture.isNull()) {
+        delete former;
+        return nullptr;
+    }
+    auto* node = static_cast<QSGImageNode*>(former);
+    if (!node) {
+        node = window()->createImageNode();
+        node->setOwnsTexture(true);
+    }
+    const bool isOnlyMoved = itemTransform(nullptr, nullptr).type() <= QTransform::TxTranslate;
+    node->setFiltering(isOnlyMoved ? QSGTexture::Nearest : QSGTexture::Linear);
+    node->setTexture(window()->createTextureFromImage(picture, QQuickWindow::TextureIsOpaque));
+    node->setSourceRect(picture.rect());
+    node->setRect(place);
+    return node;
+}
 
 void ControllerItem::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
-    QQuickPaintedItem::geometryChange(newGeometry, oldGeometry);
+    QQuickItem::geometryChange(newGeometry, oldGeometry);
     if (newGeometry.size() == oldGeometry.size()) return;
     m_screen->resized();
     polish();
 }
 
 void ControllerItem::itemChange(ItemChange change, const ItemChangeData& data) {
-    QQuickPaintedItem::itemChange(change, data);
+    QQuickItem::itemChange(change, data);
     if (!m_screen) return;
     switch (change) {
     case ItemSceneChange: return followWindow(data.window);
@@ -134,7 +154,7 @@ void ControllerItem::itemChange(ItemChange change, const ItemChangeData& data) {
 // The window is told when the application's palette changes.
 bool ControllerItem::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::ApplicationPaletteChange) m_screen->adoptTraits();
-    return QQuickPaintedItem::eventFilter(watched, event);
+    return QQuickItem::eventFilter(watched, event);
 }
 
 void ControllerItem::followWindow(QQuickWindow* window) {

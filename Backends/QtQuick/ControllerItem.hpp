@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QPointer>
-#include <QQuickPaintedItem>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <memory>
 
@@ -22,7 +22,7 @@ namespace proupsells::qtquick {
 // The screen follows the application's palette and layout direction and the window's scale factor, unless a property says
 // otherwise. Tab goes through its controls and on to the next item; Escape leaves the screen in front. Invisible, it costs nothing.
 // It may be moved to another window at any time, and be deleted from inside any call that it makes.
-class ControllerItem : public QQuickPaintedItem {
+class ControllerItem : public QQuickItem {
     Q_OBJECT
     // What the host decides about the screen; at first the system and the application decide. `textSize` counts steps from the
     // usual size, from -3 to 8.
@@ -66,9 +66,6 @@ public:
     int textSize() const;
     void setTextSize(int steps);
 
-    // Called by Qt.
-    void paint(QPainter* painter) override;
-
 signals:
     // One of the properties has become another one.
     void traitsChanged();
@@ -79,6 +76,7 @@ protected:
     // What Qt tells an item.
     bool eventFilter(QObject* watched, QEvent* event) override;
     void updatePolish() override;
+    QSGNode* updatePaintNode(QSGNode* former, UpdatePaintNodeData* data) override;
     void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
     void itemChange(ItemChange change, const ItemChangeData& data) override;
     void focusInEvent(QFocusEvent* event) override;

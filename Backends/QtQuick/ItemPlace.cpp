@@ -1,7 +1,7 @@
 #include "Backends/QtQuick/ItemPlace.hpp"
 
 #include <QGuiApplication>
-#include <QQuickPaintedItem>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QtQml/qqml.h>
 
@@ -53,8 +53,6 @@ qtbackend::SystemTraits ItemPlace::systemTraits() const {
     return {QGuiApplication::palette(), QGuiApplication::layoutDirection(), false};
 }
 
-void ItemPlace::update(const QRegion& damage) {
-    for (const QRect& rect : damage) m_item.update(rect);
-}
+void ItemPlace::update(const QRegion&) { m_item.update(); }
 
 } // namespace proupsells::qtquick

@@ -4,13 +4,12 @@
 #include "Backends/Qt/ScreenPlace.hpp"
 
 class QQuickItem;
-class QQuickPaintedItem;
 
 namespace proupsells::qtquick {
 
 class ItemPlace final : public qtbackend::ScreenPlace {
 public:
-    explicit ItemPlace(QQuickPaintedItem& item) : m_item(item) {}
+    explicit ItemPlace(QQuickItem& item) : m_item(item) {}
 
     QObject& object() const override;
     QWindow* window() const override;
@@ -25,7 +24,7 @@ public:
     void update(const QRegion& damage) override;
 
 private:
-    QQuickPaintedItem& m_item;
+    QQuickItem& m_item;
 };
 
 // Qt Quick's own tree leaves out items that nobody has marked: this does what `Accessible.role` in QML does. Without QML's types it

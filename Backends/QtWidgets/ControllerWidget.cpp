@@ -87,8 +87,7 @@ void ControllerWidget::changeEvent(QEvent* event) {
 
 void ControllerWidget::paintEvent(QPaintEvent*) {
     m_screen->prepareToDraw();
-    QPainter painter(this);
-    m_screen->draw(painter);
+    QPainter(this).drawImage(QPoint(0, 0), m_screen->picture());
 }
 
 void ControllerWidget::resizeEvent(QResizeEvent*) { m_screen->resized(); }

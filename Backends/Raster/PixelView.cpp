@@ -72,8 +72,8 @@ void PixelView::setRefreshRate(double framesPerSecond) { m_state->refreshRate = 
 
 void PixelView::setSeen(bool isSeen) {
     const auto state = m_state;
+    if (std::exchange(state->isSeen, isSeen) == isSeen) return;
     if (!isSeen) cancelPointer();
-    state->isSeen = isSeen;
     state->content->setSeen(isSeen);
     if (isSeen) state->frameIsWanted();
 }
