@@ -11,23 +11,54 @@
 #include <memory>
 
 #include "Backends/Raster/RasterSurface.hpp"
-#include "Platform/Accessibility/Search.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
-#include "ProUpsells/VelaProUpsellViewController.hpp"
+#include "Platform/UIKit/Controls/UIButton.hpp"
+#include "Platform/UIKit/Views/UIImageView.hpp"
+#include "Platform/UIKit/Views/UILabel.hpp"
+#include "Platform/VelaUIKit/VelaUIKitImage.hpp"
 #include "Tests/Qt/Events.hpp"
 
 namespace proupsells::tests {
 
-inline constexpr QSize paywallSize{375, 800};
+inline constexpr QSize sampleSize{375, 300};
 inline constexpr double changesOfScale[] = {2.0, 1.5, 1.0, 1.25, 2.0, 1.0};
 
-inline std::shared_ptr<VelaProUpsellViewController> newPaywall() {
-    using Type = SubscriptionOption::SubscriptionType;
-    return VelaProUpsellViewController::create({SubscriptionOption{"pro.yearly", Type::Yearly{"$99.99", "$8.33"}, false},
-                                                SubscriptionOption{"pro.monthly", Type::Monthly{"$14.99"}, false}},
-                                               VelaProUpsellViewController::Variant::comparisonPaywall, Referrer{"Home", 5},
-                                               Entitlement::velaPRO, true);
-}
+// A text, a picture, stripes from edge to edge and two buttons, which nothing moves.
+class Sample : public uikit::UIViewController {
+public:
+    void viewDidLoad() override {
+        view()->setBackgroundColor(uikit::UIColor{"paper", graphics::rgb(0xFFFBF5), graphics::rgb(0x17100F)});
+        const auto text = std::make_shared<uikit::UILabel>();
+        text->setText("The quick brown fox jumps over the lazy dog");
+        text->setFrame({{10.3, 20}, {340, 30}});
+        view()->addSubview(text);
+        const auto picture = std::make_shared<uikit::UIImageView>(velauikit::VelaUIKitImage::marwickFolioWithProBadge());
+        picture->setFrame({{200, 100.7}, {150, 50}});
+        view()->addSubview(picture);
+        for (double x = 1; x < sampleSize.width(); x += 2) addStripe({{x, 250}, {1, 50}});
+        addButton("first", {10, 200});
+        addButton("second", {60, 200});
+    }
+
+    std::vector<std::string> presses;
+
+private:
+    void addStripe(const geometry::Rect& frame) {
+        const auto stripe = std::make_shared<uikit::UIView>();
+        stripe->setBackgroundColor(uikit::UIColor{"ink", graphics::rgb(0x000000), graphics::rgb(0xFFFFFF)});
+        stripe->setFrame(frame);
+        view()->addSubview(stripe);
+    }
+    void addButton(const std::string& name, geometry::Point origin) {
+        const auto button = std::make_shared<uikit::UIButton>();
+        button->setFrame({origin, {50, 40}});
+        button->addAction([this, name](uikit::UIControl&) { presses.push_back(name); }, uikit::UIControl::Event::touchUpInside);
+        view()->addSubview(button);
+    }
+};
+
+// Just inside the first button's last corner, and the second one's first.
+inline constexpr QPointF inFirst{59.5, 239.5}, inSecond{60.5, 200.5};
 
 // Their names are their scales. Null where there is none.
 inline QScreen* displayOfScale(double scale) {
@@ -39,17 +70,6 @@ inline QScreen* displayOfScale(double scale) {
 // A place on the display of that scale.
 inline QPoint placeOn(double scale) { return displayOfScale(scale)->geometry().topLeft() + QPoint(20, 20); }
 
-inline QPointF centreOf(uikit::UIWindow& window, std::string_view identifier) {
-    const accessibility::SemanticNode screen = window.semanticTree();
-    const geometry::Rect frame = accessibility::findByIdentifier(screen, identifier)->frame;
-    return {frame.midX(), frame.midY()};
-}
-
-inline bool isSelected(uikit::UIWindow& window, std::string_view identifier) {
-    const accessibility::SemanticNode screen = window.semanticTree();
-    return accessibility::contains(accessibility::findByIdentifier(screen, identifier)->traits, accessibility::Traits::selected);
-}
-
 // A click at the place in a widget or window.
 template <class Receiver>
 void click(Receiver& receiver, QPointF at) {
@@ -60,11 +80,11 @@ void click(Receiver& receiver, QPointF at) {
     }
 }
 
-// Until nothing is left to be done now, and nothing moves.
-inline void settle(uikit::UIWindow& window) {
+// Until nothing is left to be done now.
+inline void settle() {
     bool isLate = false;
     QTimer::singleShot(50, [&] { isLate = true; });
-    handleEventsUntil([&] { return isLate && !window.isAnimating(); });
+    handleEventsUntil([&] { return isLate; });
 }
 
 // What the pixel engine makes of the window at that scale.
