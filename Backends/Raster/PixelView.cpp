@@ -14,6 +14,24 @@ namespace {
 // How long views have looked ahead before the pictures that come next are read.
 constexpr double restBeforePreparing_s = 1;
 
+// In small letters.
+constexpr std::pair<std::string_view, host::Key> namedKeys[] = {
+    {"escape", host::Key::escape},        {"tab", host::Key::tab},
+    {"iso_left_tab", host::Key::backTab}, {"return", host::Key::activate},
+    {"enter", host::Key::activate},       {"keypad enter", host::Key::activate},
+    {"kp_enter", host::Key::activate},    {"space", host::Key::activate},
+    {" ", host::Key::activate},           {"up", host::Key::up},
+    {"arrowup", host::Key::up},           {"down", host::Key::down},
+    {"arrowdown", host::Key::down},       {"left", host::Key::left},
+    {"arrowleft", host::Key::left},       {"right", host::Key::right},
+    {"arrowright", host::Key::right},
+};
+
+bool isSameName(std::string_view a, std::string_view b) {
+    const auto small = [](char letter) { return letter >= 'A' && letter <= 'Z' ? char(letter - 'A' + 'a') : letter; };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return small(x) == small(y); });
+}
+
 } // namespace
 
 // What a call works on, so that the view may go away inside it.
@@ -190,6 +208,12 @@ void PixelView::scroll(geometry::Point location, geometry::Point delta) {
 bool PixelView::key(host::Key key) {
     const auto content = m_state->content;
     return content->key(key);
+}
+
+bool PixelView::key(std::string_view name, bool isShifted) {
+    for (const auto& [known, meant] : namedKeys)
+        if (isSameName(known, name)) return key(isShifted && meant == host::Key::tab ? host::Key::backTab : meant);
+    return false;
 }
 
 } // namespace proupsells::rasterbackend

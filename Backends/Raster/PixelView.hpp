@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "Backends/Raster/PixelBuffer.hpp"
@@ -79,6 +80,9 @@ public:
     void scroll(geometry::Point location, geometry::Point delta);
     // Returns whether the key meant something.
     bool key(host::Key key);
+    // The same for a key's name as SDL, X11 and browsers have it ("Escape", "Tab", "Return" or "Enter", "Space", "Up" or "ArrowUp"
+    // and so on, in small or capital letters). With Shift, Tab goes backwards. Other names mean nothing.
+    bool key(std::string_view name, bool isShifted);
 
 private:
     struct State;

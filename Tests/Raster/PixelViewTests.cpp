@@ -32,7 +32,10 @@ public:
         if (whenTouched) whenTouched();
     }
     void scroll(Point, Point delta) override { move(delta.x); }
-    bool key(host::Key key) override { return key == host::Key::activate; }
+    bool key(host::Key key) override {
+        keys.push_back(key);
+        return key == host::Key::activate;
+    }
     void paint(graphics::DisplayList& list) override {
         list.clear();
         graphics::PaintContext context(list);
@@ -53,6 +56,7 @@ public:
     geometry::Size size;
     int sizings = 0;
     std::vector<host::Touch> touches;
+    std::vector<host::Key> keys;
     double x = 0;
     bool animates = false;
     bool isSeen = false;
@@ -227,6 +231,18 @@ TEST_F(PixelViews, TurnsAPointerIntoTouches) {
 
     EXPECT_THAT(touches(), ElementsAre(std::pair(TouchPhase::began, Point{2, 1}), std::pair(TouchPhase::moved, Point{3, 1}),
                                        std::pair(TouchPhase::ended, Point{3.5, 1})));
+}
+
+TEST_F(PixelViews, KnowsKeysByTheirNames) {
+    EXPECT_TRUE(view->key("Return", false));
+    EXPECT_FALSE(view->key("F1", false));
+    for (const char* const name : {"Escape", "TAB", "Up", "ArrowUp", "space", " "}) view->key(name, false);
+    view->key("Tab", true);
+    view->key("Up", true);
+
+    using host::Key;
+    EXPECT_THAT(content->keys, ElementsAre(Key::activate, Key::escape, Key::tab, Key::up, Key::up, Key::activate, Key::activate,
+                                           Key::backTab, Key::up));
 }
 
 TEST_F(PixelViews, LetsGoOfAPointerThatIsSomebodyElses) {
