@@ -106,6 +106,7 @@ set(PROUPSELLS_Raster_HEADERS
   Include/ProUpsells/Raster.hpp
 )
 set(PROUPSELLS_Standard_HEADERS
+  Backends/Standard/PixelScreen.hpp
   Backends/Standard/Standard.hpp
   Include/ProUpsells/Standard.hpp
 )

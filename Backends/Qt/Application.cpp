@@ -18,7 +18,9 @@ bool isNotice(const QMessageLogContext& context, const QString& message) {
            (context.category && std::strncmp(context.category, "qt.svg", 6) == 0);
 }
 
-// A server on this machine listens at a file; one elsewhere is taken at its word.
+// Which servers Qt's platforms connect to is Qt's affair, so it is known here. Qt itself cannot be asked: it stops the program
+// where nobody answers. Asking a server would take its own library, so the file is looked for that a server on this machine listens
+// at; one elsewhere is taken at its word.
 bool hasXServer() {
     const std::string display = qgetenv("DISPLAY").toStdString();
     const std::size_t colon = display.rfind(':');

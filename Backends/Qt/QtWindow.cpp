@@ -47,8 +47,8 @@ bool QtWindow::event(QEvent* event) {
 
 void QtWindow::exposeEvent(QExposeEvent*) {
     m_pacer->setScreen(screen());
-    if (isExposed()) showFrame(true);
     m_pacer->setRunning(isExposed());
+    if (isExposed()) showFrame(true);
 }
 
 void QtWindow::resizeEvent(QResizeEvent*) { m_view.setSize(sizeInPoints(), m_safeArea); }

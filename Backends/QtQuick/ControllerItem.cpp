@@ -2,75 +2,42 @@
 
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QPainter>
-#include <QPalette>
-#include <QPointer>
 #include <QQuickWindow>
+#include <QSGImageNode>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
-#include "Backends/Qt/FramePacer.hpp"
-#include "Backends/Qt/Install.hpp"
-#include "Backends/Qt/PixelImage.hpp"
-#include "Backends/Qt/QtAccessibility.hpp"
-#include "Backends/Qt/QtInput.hpp"
+#include "Backends/Qt/EmbeddedScreen.hpp"
 #include "Backends/QtQuick/ItemPlace.hpp"
-#include "Platform/RunLoop/MainRunLoop.hpp"
 
 namespace proupsells::qtquick {
 
-namespace {
-
-QSize wholeSize(const QQuickItem& item) { return {int(std::ceil(item.width())), int(std::ceil(item.height()))}; }
-
-} // namespace
-
-struct ControllerItem::Parts {
-    explicit Parts(ControllerItem& item)
-        : view(item.m_uiWindow), pacer(view, [&item] { item.makeFrame(); }), input(item.m_uiWindow),
-          accessibility(std::make_unique<ItemPlace>(item), *item.m_uiWindow) {}
-
-    rasterbackend::PixelView view;
-    qtbackend::PixelImage image;
-    qtbackend::FramePacer pacer;
-    qtbackend::QtInput input;
-    qtbackend::QtAccessibility accessibility;
-};
-
-ControllerItem::ControllerItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
-    qtbackend::install();
-    m_uiWindow = uikit::UIWindow::create();
-    m_uiWindow->setFocusLeaves(true);
-    m_uiWindow->setRootDismissalHandler([this] { emit dismissalRequested(); });
-    m_parts = std::make_unique<Parts>(*this);
-    setOpaquePainting(true);
-    setAntialiasing(false);
+ControllerItem::ControllerItem(QQuickItem* parent)
+    : QQuickItem(parent), m_screen(std::make_unique<qtbackend::EmbeddedScreen>(std::make_unique<ItemPlace>(*this),
+                                                                               [this] { emit dismissalRequested(); })) {
+    setFlag(ItemHasContents);
     setAcceptedMouseButtons(Qt::LeftButton);
     setAcceptTouchEvents(true);
     setActiveFocusOnTab(true);
     offerToAssistiveTechnology(*this);
-    connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, [this] { adoptTraits(); });
-    adoptTraits();
+    connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, [this] { m_screen->adoptTraits(); });
     // Items that are made inside a window hear of it only here.
     followWindow(window());
 }
 
 ControllerItem::~ControllerItem() {
     QObject::disconnect(m_windowVisibility);
-    m_uiWindow->setRootDismissalHandler({});
-    m_uiWindow->setRootViewController(nullptr);
+    m_screen->close();
 }
 
 void ControllerItem::setController(std::shared_ptr<uikit::UIViewController> controller) {
-    const auto kept = m_uiWindow;
-    const QPointer<ControllerItem> self(this);
     const geometry::Size size = controller ? controller->preferredContentSize() : geometry::Size{};
-    kept->setRootViewController(std::move(controller));
-    if (self) setImplicitSize(size.width, size.height);
+    if (m_screen->setController(std::move(controller))) setImplicitSize(size.width, size.height);
 }
 
-uikit::UIViewController* ControllerItem::controller() const { return m_uiWindow->rootViewController(); }
+uikit::UIViewController* ControllerItem::controller() const { return m_screen->controller(); }
+
+uikit::UIWindow& ControllerItem::uiWindow() const { return m_screen->window(); }
 
 // --- Traits ---
 
@@ -93,97 +60,89 @@ Choice choiceOf(const std::optional<Trait>& trait, Trait second) {
 } // namespace
 
 ControllerItem::ColorScheme ControllerItem::colorScheme() const {
-    return choiceOf<ColorScheme>(m_traits.colorScheme, graphics::ColorScheme::light);
+    return choiceOf<ColorScheme>(m_screen->traits().colorScheme, graphics::ColorScheme::light);
 }
 
 void ControllerItem::setColorScheme(ColorScheme scheme) {
-    qtbackend::ScreenTraits traits = m_traits;
+    qtbackend::ScreenTraits traits = m_screen->traits();
     traits.colorScheme = traitOf(scheme, graphics::ColorScheme::light, graphics::ColorScheme::dark);
     setTraits(traits);
 }
 
 ControllerItem::Direction ControllerItem::direction() const {
-    return choiceOf<Direction>(m_traits.layoutDirection, geometry::LayoutDirection::leftToRight);
+    return choiceOf<Direction>(m_screen->traits().layoutDirection, geometry::LayoutDirection::leftToRight);
 }
 
 void ControllerItem::setDirection(Direction direction) {
-    qtbackend::ScreenTraits traits = m_traits;
+    qtbackend::ScreenTraits traits = m_screen->traits();
     traits.layoutDirection = traitOf(direction, geometry::LayoutDirection::leftToRight, geometry::LayoutDirection::rightToLeft);
     setTraits(traits);
 }
 
+bool ControllerItem::reducesMotion() const { return m_screen->traits().reducesMotion.value_or(false); }
+
 void ControllerItem::setReducesMotion(bool reduces) {
-    qtbackend::ScreenTraits traits = m_traits;
+    qtbackend::ScreenTraits traits = m_screen->traits();
     traits.reducesMotion = reduces;
     setTraits(traits);
 }
 
-int ControllerItem::textSize() const { return int(m_traits.textSize) - usualTextSize; }
+int ControllerItem::textSize() const { return int(m_screen->traits().textSize) - usualTextSize; }
 
 void ControllerItem::setTextSize(int steps) {
     constexpr int largest = int(graphics::ContentSizeCategory::accessibilityExtraExtraExtraLarge);
-    qtbackend::ScreenTraits traits = m_traits;
+    qtbackend::ScreenTraits traits = m_screen->traits();
     traits.textSize = graphics::ContentSizeCategory(std::clamp(usualTextSize + steps, 0, largest));
     setTraits(traits);
 }
 
 void ControllerItem::setTraits(const qtbackend::ScreenTraits& traits) {
-    if (std::exchange(m_traits, traits) == traits) return;
-    adoptTraits();
+    if (m_screen->traits() == traits) return;
+    m_screen->setTraits(traits);
     emit traitsChanged();
-}
-
-void ControllerItem::adoptTraits() {
-    const bool isRightToLeft = QGuiApplication::layoutDirection() == Qt::RightToLeft;
-    uikit::UITraitCollection traits;
-    traits.userInterfaceStyle = m_traits.colorScheme.value_or(qtbackend::colorSchemeOf(QGuiApplication::palette()));
-    traits.layoutDirection = m_traits.layoutDirection.value_or(isRightToLeft ? geometry::LayoutDirection::rightToLeft
-                                                                             : geometry::LayoutDirection::leftToRight);
-    traits.reduceMotion = reducesMotion();
-    traits.preferredContentSizeCategory = m_traits.textSize;
-    traits.displayScale = scaleFactor();
-    m_uiWindow->setTraits(traits);
 }
 
 // --- Picture ---
 
-double ControllerItem::scaleFactor() const { return window() ? window()->effectiveDevicePixelRatio() : 1; }
-
-// What is due runs the host's code, which may open an event loop of its own or delete the item.
-void ControllerItem::makeFrame() {
-    const QPointer<ControllerItem> self(this);
-    runloop::MainRunLoop::main().runDueTurns();
-    if (!self || !m_parts->pacer.isRunning()) return;
-    paintPixels();
-    m_parts->pacer.schedule();
-}
-
-void ControllerItem::paintPixels() {
-    const QRegion damage = m_parts->image.paint(m_parts->view, wholeSize(*this), scaleFactor());
-    if (damage.isEmpty()) return;
-    for (const QRect& rect : damage) update(rect);
-    m_parts->accessibility.update();
-}
-
 // On the main thread, before the scene is painted: an item of another size or scale must not be shown with the old picture.
 void ControllerItem::updatePolish() {
-    if (m_uiWindow->traits().displayScale != scaleFactor()) adoptTraits();
-    if (!m_parts->image.shows(wholeSize(*this), scaleFactor())) paintPixels();
+    if (m_screen->prepareToDraw()) update();
 }
 
-// On the scene's thread, while the main thread waits.
-void ControllerItem::paint(QPainter* painter) { painter->drawImage(QPoint(0, 0), m_parts->image.image()); }
+// On the scene's thread, while the main thread waits. Pixel for pixel: an item whose size is no whole number of pixels shows the
+// picture a little larger than itself, instead of shrinking it.
+QSGNode* ControllerItem::updatePaintNode(QSGNode* former, UpdatePaintNodeData*) {
+    // A copy, because the scene may be shown while the next frame is painted.
+    QImage picture = m_screen->picture().copy();
+    const QRectF place({}, picture.deviceIndependentSize());
+    picture.setDevicePixelRatio(1);
+    if (picture.isNull()) {
+        delete former;
+        return nullptr;
+    }
+    auto* node = static_cast<QSGImageNode*>(former);
+    if (!node) {
+        node = window()->createImageNode();
+        node->setOwnsTexture(true);
+    }
+    const bool isOnlyMoved = itemTransform(nullptr, nullptr).type() <= QTransform::TxTranslate;
+    node->setFiltering(isOnlyMoved ? QSGTexture::Nearest : QSGTexture::Linear);
+    node->setTexture(window()->createTextureFromImage(picture, QQuickWindow::TextureIsOpaque));
+    node->setSourceRect(picture.rect());
+    node->setRect(place);
+    return node;
+}
 
 void ControllerItem::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
-    QQuickPaintedItem::geometryChange(newGeometry, oldGeometry);
+    QQuickItem::geometryChange(newGeometry, oldGeometry);
     if (newGeometry.size() == oldGeometry.size()) return;
-    m_parts->view.setSize({width(), height()});
+    m_screen->resized();
     polish();
 }
 
 void ControllerItem::itemChange(ItemChange change, const ItemChangeData& data) {
-    QQuickPaintedItem::itemChange(change, data);
-    if (!m_parts) return;
+    QQuickItem::itemChange(change, data);
+    if (!m_screen) return;
     switch (change) {
     case ItemSceneChange: return followWindow(data.window);
     case ItemVisibleHasChanged: return followVisibility();
@@ -194,8 +153,8 @@ void ControllerItem::itemChange(ItemChange change, const ItemChangeData& data) {
 
 // The window is told when the application's palette changes.
 bool ControllerItem::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::ApplicationPaletteChange) adoptTraits();
-    return QQuickPaintedItem::eventFilter(watched, event);
+    if (event->type() == QEvent::ApplicationPaletteChange) m_screen->adoptTraits();
+    return QQuickItem::eventFilter(watched, event);
 }
 
 void ControllerItem::followWindow(QQuickWindow* window) {
@@ -204,15 +163,13 @@ void ControllerItem::followWindow(QQuickWindow* window) {
     m_watchedWindow = window;
     if (window) window->installEventFilter(this);
     if (window) m_windowVisibility = connect(window, &QWindow::visibilityChanged, this, [this] { followVisibility(); });
-    m_parts->pacer.setScreen(window ? window->screen() : nullptr);
     followVisibility();
     polish();
 }
 
 void ControllerItem::followVisibility() {
     const bool isSeen = isVisible() && window() && window()->isVisible() && window()->visibility() != QWindow::Minimized;
-    m_parts->pacer.setRunning(isSeen);
-    if (!isSeen) m_parts->input.cancelTouch();
+    m_screen->setSeen(isSeen);
 }
 
 // --- Input ---
@@ -222,13 +179,13 @@ void ControllerItem::followVisibility() {
 template <class Event>
 void ControllerItem::handOnLater(const Event& event, void (qtbackend::QtInput::*handOn)(const Event&)) {
     QMetaObject::invokeMethod(
-        this, [this, handOn, copy = std::shared_ptr<Event>(event.clone())] { (m_parts->input.*handOn)(*copy); },
+        this, [this, handOn, copy = std::shared_ptr<Event>(event.clone())] { (m_screen->input().*handOn)(*copy); },
         Qt::QueuedConnection);
 }
 
 void ControllerItem::cancelTouchLater() {
     QMetaObject::invokeMethod(
-        this, [this] { m_parts->input.cancelTouch(); }, Qt::QueuedConnection);
+        this, [this] { m_screen->input().cancelTouch(); }, Qt::QueuedConnection);
 }
 
 void ControllerItem::mousePressEvent(QMouseEvent* event) {
@@ -249,24 +206,15 @@ void ControllerItem::touchEvent(QTouchEvent* event) {
 
 void ControllerItem::touchUngrabEvent() { cancelTouchLater(); }
 
-void ControllerItem::wheelEvent(QWheelEvent* event) { m_parts->input.wheelTurned(*event); }
+void ControllerItem::wheelEvent(QWheelEvent* event) { m_screen->input().wheelTurned(*event); }
 
+// What means nothing here goes to the items around, and for Tab to the next one.
 void ControllerItem::keyPressEvent(QKeyEvent* event) {
-    // Before the key, which may delete the item. Where it means nothing here it goes to the items around, and for Tab to the next
-    // one.
-    event->accept();
-    const QPointer<ControllerItem> self(this);
-    if (!m_parts->input.keyPressed(*event) && self) event->ignore();
+    if (!m_screen->keyPressed(*event)) event->ignore();
 }
 
-void ControllerItem::focusInEvent(QFocusEvent* event) {
-    if (event->reason() == Qt::TabFocusReason) m_uiWindow->takeFocus(host::FocusEnd::first);
-    if (event->reason() == Qt::BacktabFocusReason) m_uiWindow->takeFocus(host::FocusEnd::last);
-}
+void ControllerItem::focusInEvent(QFocusEvent* event) { m_screen->focusIn(event->reason()); }
 
-void ControllerItem::focusOutEvent(QFocusEvent* event) {
-    const bool comesBack = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
-    if (!comesBack) m_uiWindow->dropFocus();
-}
+void ControllerItem::focusOutEvent(QFocusEvent* event) { m_screen->focusOut(event->reason()); }
 
 } // namespace proupsells::qtquick

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QPointer>
-#include <QQuickPaintedItem>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <memory>
 
@@ -10,8 +10,9 @@
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
 namespace proupsells::qtbackend {
+class EmbeddedScreen;
 class QtInput;
-}
+} // namespace proupsells::qtbackend
 
 namespace proupsells::qtquick {
 
@@ -21,7 +22,7 @@ namespace proupsells::qtquick {
 // The screen follows the application's palette and layout direction and the window's scale factor, unless a property says
 // otherwise. Tab goes through its controls and on to the next item; Escape leaves the screen in front. Invisible, it costs nothing.
 // It may be moved to another window at any time, and be deleted from inside any call that it makes.
-class ControllerItem : public QQuickPaintedItem {
+class ControllerItem : public QQuickItem {
     Q_OBJECT
     // What the host decides about the screen; at first the system and the application decide. `textSize` counts steps from the
     // usual size, from -3 to 8.
@@ -52,21 +53,18 @@ public:
     // Null for none.
     uikit::UIViewController* controller() const;
     // What the controller stands in.
-    uikit::UIWindow& uiWindow() const { return *m_uiWindow; }
+    uikit::UIWindow& uiWindow() const;
 
     // The property of the same name, for C++.
     ColorScheme colorScheme() const;
     void setColorScheme(ColorScheme scheme);
     Direction direction() const;
     void setDirection(Direction direction);
-    bool reducesMotion() const { return m_traits.reducesMotion.value_or(false); }
+    bool reducesMotion() const;
     void setReducesMotion(bool reduces);
     // Steps above (or, negative, below) the usual text size; from -3 to 8.
     int textSize() const;
     void setTextSize(int steps);
-
-    // Called by Qt.
-    void paint(QPainter* painter) override;
 
 signals:
     // One of the properties has become another one.
@@ -78,6 +76,7 @@ protected:
     // What Qt tells an item.
     bool eventFilter(QObject* watched, QEvent* event) override;
     void updatePolish() override;
+    QSGNode* updatePaintNode(QSGNode* former, UpdatePaintNodeData* data) override;
     void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
     void itemChange(ItemChange change, const ItemChangeData& data) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -92,23 +91,16 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    struct Parts;
-    void makeFrame();
-    void paintPixels();
     void followWindow(QQuickWindow* window);
     void followVisibility();
     void setTraits(const qtbackend::ScreenTraits& traits);
-    void adoptTraits();
-    double scaleFactor() const;
     template <class Event>
     void handOnLater(const Event& event, void (qtbackend::QtInput::*handOn)(const Event&));
     void cancelTouchLater();
 
-    std::shared_ptr<uikit::UIWindow> m_uiWindow;
-    qtbackend::ScreenTraits m_traits;
     QMetaObject::Connection m_windowVisibility;
     QPointer<QQuickWindow> m_watchedWindow;
-    std::unique_ptr<Parts> m_parts;
+    std::unique_ptr<qtbackend::EmbeddedScreen> m_screen;
 };
 
 } // namespace proupsells::qtquick

@@ -1,5 +1,6 @@
 #include "Backends/QtQuick/ItemPlace.hpp"
 
+#include <QGuiApplication>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QtQml/qqml.h>
@@ -43,5 +44,15 @@ QRect ItemPlace::frame() const {
 }
 
 bool ItemPlace::isVisible() const { return m_item.isVisible(); }
+
+geometry::Size ItemPlace::size() const { return {m_item.width(), m_item.height()}; }
+
+double ItemPlace::scale() const { return m_item.window() ? m_item.window()->effectiveDevicePixelRatio() : 1; }
+
+qtbackend::SystemTraits ItemPlace::systemTraits() const {
+    return {QGuiApplication::palette(), QGuiApplication::layoutDirection(), false};
+}
+
+void ItemPlace::update(const QRegion&) { m_item.update(); }
 
 } // namespace proupsells::qtquick

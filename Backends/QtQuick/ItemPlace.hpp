@@ -1,23 +1,27 @@
-// An item among Qt Quick's accessible objects.
+// An item in its scene, and among Qt Quick's accessible objects.
 #pragma once
 
-#include "Backends/Qt/AccessiblePlace.hpp"
+#include "Backends/Qt/ScreenPlace.hpp"
 
 class QQuickItem;
 
 namespace proupsells::qtquick {
 
-class ItemPlace final : public qtbackend::AccessiblePlace {
+class ItemPlace final : public qtbackend::ScreenPlace {
 public:
     explicit ItemPlace(QQuickItem& item) : m_item(item) {}
 
     QObject& object() const override;
     QWindow* window() const override;
     QAccessibleInterface* parent() const override;
-    QAccessible::Role role() const override { return QAccessible::Client; }
     QString name() const override;
     QRect frame() const override;
     bool isVisible() const override;
+
+    geometry::Size size() const override;
+    double scale() const override;
+    qtbackend::SystemTraits systemTraits() const override;
+    void update(const QRegion& damage) override;
 
 private:
     QQuickItem& m_item;

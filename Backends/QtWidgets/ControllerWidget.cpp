@@ -2,23 +2,17 @@
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPointer>
 #include <QStyle>
 #include <QTouchEvent>
 #include <cmath>
 
-#include "Backends/Qt/FramePacer.hpp"
-#include "Backends/Qt/Install.hpp"
-#include "Backends/Qt/PixelImage.hpp"
-#include "Backends/Qt/QtAccessibility.hpp"
-#include "Backends/Qt/QtInput.hpp"
-#include "Platform/RunLoop/MainRunLoop.hpp"
+#include "Backends/Qt/EmbeddedScreen.hpp"
 
 namespace proupsells::qtwidgets {
 
 namespace {
 
-class WidgetPlace final : public qtbackend::AccessiblePlace {
+class WidgetPlace final : public qtbackend::ScreenPlace {
 public:
     explicit WidgetPlace(QWidget& widget) : m_widget(widget) {}
 
@@ -28,10 +22,17 @@ public:
         QObject* const around = m_widget.parentWidget();
         return QAccessible::queryAccessibleInterface(around ? around : qApp);
     }
-    QAccessible::Role role() const override { return QAccessible::Client; }
     QString name() const override { return m_widget.accessibleName(); }
     QRect frame() const override { return {m_widget.mapToGlobal(QPoint(0, 0)), m_widget.size()}; }
     bool isVisible() const override { return m_widget.isVisible(); }
+
+    geometry::Size size() const override { return {double(m_widget.width()), double(m_widget.height())}; }
+    double scale() const override { return m_widget.devicePixelRatioF(); }
+    qtbackend::SystemTraits systemTraits() const override {
+        const bool isStill = m_widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &m_widget) == 0;
+        return {m_widget.palette(), m_widget.layoutDirection(), isStill};
+    }
+    void update(const QRegion& damage) override { m_widget.update(damage); }
 
 private:
     QWidget& m_widget;
@@ -41,44 +42,28 @@ constexpr QSize sheetSize{375, 800}, smallestSize{320, 480};
 
 } // namespace
 
-struct ControllerWidget::Parts {
-    explicit Parts(ControllerWidget& widget)
-        : view(widget.m_uiWindow), pacer(view, [&widget] { widget.makeFrame(); }), input(widget.m_uiWindow),
-          accessibility(std::make_unique<WidgetPlace>(widget), *widget.m_uiWindow) {}
-
-    rasterbackend::PixelView view;
-    qtbackend::PixelImage image;
-    qtbackend::FramePacer pacer;
-    qtbackend::QtInput input;
-    qtbackend::QtAccessibility accessibility;
-};
-
-ControllerWidget::ControllerWidget(std::shared_ptr<uikit::UIViewController> controller, QWidget* parent) : QWidget(parent) {
-    qtbackend::install();
-    m_uiWindow = uikit::UIWindow::create({double(width()), double(height())});
-    m_uiWindow->setFocusLeaves(true);
-    m_uiWindow->setRootDismissalHandler([this] { emit dismissalRequested(); });
-    m_parts = std::make_unique<Parts>(*this);
+ControllerWidget::ControllerWidget(std::shared_ptr<uikit::UIViewController> controller, QWidget* parent)
+    : QWidget(parent), m_screen(std::make_unique<qtbackend::EmbeddedScreen>(std::make_unique<WidgetPlace>(*this),
+                                                                            [this] { emit dismissalRequested(); })) {
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_AcceptTouchEvents);
-    adoptTraits();
     setController(std::move(controller));
 }
 
-ControllerWidget::~ControllerWidget() {
-    m_uiWindow->setRootDismissalHandler({});
-    m_uiWindow->setRootViewController(nullptr);
-}
+ControllerWidget::~ControllerWidget() { m_screen->close(); }
 
 void ControllerWidget::setController(std::shared_ptr<uikit::UIViewController> controller) {
-    const auto kept = m_uiWindow;
-    const QPointer<ControllerWidget> self(this);
-    kept->setRootViewController(std::move(controller));
-    if (self) updateGeometry();
+    if (m_screen->setController(std::move(controller))) updateGeometry();
 }
 
-uikit::UIViewController* ControllerWidget::controller() const { return m_uiWindow->rootViewController(); }
+uikit::UIViewController* ControllerWidget::controller() const { return m_screen->controller(); }
+
+uikit::UIWindow& ControllerWidget::uiWindow() const { return m_screen->window(); }
+
+void ControllerWidget::setTraits(const qtbackend::ScreenTraits& traits) { m_screen->setTraits(traits); }
+
+const qtbackend::ScreenTraits& ControllerWidget::traits() const { return m_screen->traits(); }
 
 QSize ControllerWidget::sizeHint() const {
     const geometry::Size preferred = controller() ? controller()->preferredContentSize() : geometry::Size{};
@@ -88,78 +73,34 @@ QSize ControllerWidget::sizeHint() const {
 
 QSize ControllerWidget::minimumSizeHint() const { return smallestSize; }
 
-// --- Traits ---
-
-void ControllerWidget::setTraits(const qtbackend::ScreenTraits& traits) {
-    m_traits = traits;
-    adoptTraits();
-}
-
-void ControllerWidget::adoptTraits() {
-    const auto ownDirection = isRightToLeft() ? geometry::LayoutDirection::rightToLeft : geometry::LayoutDirection::leftToRight;
-    const bool isStill = style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) == 0;
-    uikit::UITraitCollection traits;
-    traits.userInterfaceStyle = m_traits.colorScheme.value_or(qtbackend::colorSchemeOf(palette()));
-    traits.layoutDirection = m_traits.layoutDirection.value_or(ownDirection);
-    traits.reduceMotion = m_traits.reducesMotion.value_or(isStill);
-    traits.preferredContentSizeCategory = m_traits.textSize;
-    traits.displayScale = devicePixelRatioF();
-    m_uiWindow->setTraits(traits);
-}
+// --- What Qt tells ---
 
 void ControllerWidget::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     switch (event->type()) {
     case QEvent::PaletteChange:
     case QEvent::LayoutDirectionChange:
-    case QEvent::StyleChange: return adoptTraits();
+    case QEvent::StyleChange: return m_screen->adoptTraits();
     default: return;
     }
 }
 
-// --- Picture ---
-
-// What is due runs the host's code, which may open an event loop of its own or delete the widget.
-void ControllerWidget::makeFrame() {
-    const QPointer<ControllerWidget> self(this);
-    runloop::MainRunLoop::main().runDueTurns();
-    if (!self || !m_parts->pacer.isRunning()) return;
-    paintPixels();
-    m_parts->pacer.schedule();
-}
-
-void ControllerWidget::paintPixels() {
-    const QRegion damage = m_parts->image.paint(m_parts->view, size(), devicePixelRatioF());
-    if (damage.isEmpty()) return;
-    update(damage);
-    m_parts->accessibility.update();
-}
-
 void ControllerWidget::paintEvent(QPaintEvent*) {
-    // Shown at another scale or size than before, or for the first time.
-    if (!m_parts->image.shows(size(), devicePixelRatioF())) {
-        if (m_uiWindow->traits().displayScale != devicePixelRatioF()) adoptTraits();
-        m_parts->image.paint(m_parts->view, size(), devicePixelRatioF());
-        m_parts->pacer.schedule();
-    }
-    QPainter(this).drawImage(QPoint(0, 0), m_parts->image.image());
+    m_screen->prepareToDraw();
+    QPainter(this).drawImage(QPoint(0, 0), m_screen->picture());
 }
 
-void ControllerWidget::resizeEvent(QResizeEvent*) { m_parts->view.setSize({double(width()), double(height())}); }
+void ControllerWidget::resizeEvent(QResizeEvent*) { m_screen->resized(); }
 
 void ControllerWidget::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    m_parts->pacer.setScreen(screen());
-    m_parts->pacer.setRunning(true);
+    m_screen->setSeen(true);
 }
 
 void ControllerWidget::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
-    m_parts->pacer.setRunning(false);
-    m_parts->input.cancelTouch();
+    m_screen->setSeen(false);
 }
-
-// --- Input ---
 
 bool ControllerWidget::event(QEvent* event) {
     switch (event->type()) {
@@ -168,43 +109,31 @@ bool ControllerWidget::event(QEvent* event) {
     case QEvent::TouchEnd:
     case QEvent::TouchCancel:
         event->accept();
-        m_parts->input.touched(static_cast<QTouchEvent&>(*event));
+        m_screen->input().touched(static_cast<QTouchEvent&>(*event));
         return true;
     default: return QWidget::event(event);
     }
 }
 
-void ControllerWidget::mousePressEvent(QMouseEvent* event) { m_parts->input.mousePressed(*event); }
+void ControllerWidget::mousePressEvent(QMouseEvent* event) { m_screen->input().mousePressed(*event); }
 
 // The second press of two quick ones.
-void ControllerWidget::mouseDoubleClickEvent(QMouseEvent* event) { m_parts->input.mousePressed(*event); }
+void ControllerWidget::mouseDoubleClickEvent(QMouseEvent* event) { m_screen->input().mousePressed(*event); }
 
-void ControllerWidget::mouseMoveEvent(QMouseEvent* event) { m_parts->input.mouseMoved(*event); }
+void ControllerWidget::mouseMoveEvent(QMouseEvent* event) { m_screen->input().mouseMoved(*event); }
 
-void ControllerWidget::mouseReleaseEvent(QMouseEvent* event) { m_parts->input.mouseReleased(*event); }
+void ControllerWidget::mouseReleaseEvent(QMouseEvent* event) { m_screen->input().mouseReleased(*event); }
 
-void ControllerWidget::wheelEvent(QWheelEvent* event) { m_parts->input.wheelTurned(*event); }
+void ControllerWidget::wheelEvent(QWheelEvent* event) { m_screen->input().wheelTurned(*event); }
 
 void ControllerWidget::keyPressEvent(QKeyEvent* event) {
-    // Before the key, which may delete the widget.
-    event->accept();
-    const QPointer<ControllerWidget> self(this);
-    if (!m_parts->input.keyPressed(*event) && self) QWidget::keyPressEvent(event);
+    if (!m_screen->keyPressed(*event)) QWidget::keyPressEvent(event);
 }
 
-bool ControllerWidget::focusNextPrevChild(bool next) {
-    const auto kept = m_uiWindow;
-    return kept->key(next ? host::Key::tab : host::Key::backTab) || QWidget::focusNextPrevChild(next);
-}
+bool ControllerWidget::focusNextPrevChild(bool next) { return m_screen->moveFocus(next) || QWidget::focusNextPrevChild(next); }
 
-void ControllerWidget::focusInEvent(QFocusEvent* event) {
-    if (event->reason() == Qt::TabFocusReason) m_uiWindow->takeFocus(host::FocusEnd::first);
-    if (event->reason() == Qt::BacktabFocusReason) m_uiWindow->takeFocus(host::FocusEnd::last);
-}
+void ControllerWidget::focusInEvent(QFocusEvent* event) { m_screen->focusIn(event->reason()); }
 
-void ControllerWidget::focusOutEvent(QFocusEvent* event) {
-    const bool comesBack = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
-    if (!comesBack) m_uiWindow->dropFocus();
-}
+void ControllerWidget::focusOutEvent(QFocusEvent* event) { m_screen->focusOut(event->reason()); }
 
 } // namespace proupsells::qtwidgets

@@ -7,6 +7,10 @@
 #include "Backends/Qt/ScreenTraits.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
+namespace proupsells::qtbackend {
+class EmbeddedScreen;
+}
+
 namespace proupsells::qtwidgets {
 
 // Shows a controller, and whatever it presents, wherever a widget can stand. The application and its event loop stay the host's;
@@ -29,11 +33,11 @@ public:
     // Null for none.
     uikit::UIViewController* controller() const;
     // What the controller stands in.
-    uikit::UIWindow& uiWindow() const { return *m_uiWindow; }
+    uikit::UIWindow& uiWindow() const;
 
     // What the host decides; at first nothing.
     void setTraits(const qtbackend::ScreenTraits& traits);
-    const qtbackend::ScreenTraits& traits() const { return m_traits; }
+    const qtbackend::ScreenTraits& traits() const;
 
     // The size that the controller prefers; that of a sheet, 375 x 800, where it prefers none.
     QSize sizeHint() const override;
@@ -63,14 +67,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    struct Parts;
-    void makeFrame();
-    void paintPixels();
-    void adoptTraits();
-
-    std::shared_ptr<uikit::UIWindow> m_uiWindow;
-    qtbackend::ScreenTraits m_traits;
-    std::unique_ptr<Parts> m_parts;
+    std::unique_ptr<qtbackend::EmbeddedScreen> m_screen;
 };
 
 } // namespace proupsells::qtwidgets

@@ -1,6 +1,7 @@
 #include "Backends/Raster/PixelView.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "Backends/Raster/RasterSurface.hpp"
@@ -12,6 +13,24 @@ namespace {
 
 // How long views have looked ahead before the pictures that come next are read.
 constexpr double restBeforePreparing_s = 1;
+
+// In small letters.
+constexpr std::pair<std::string_view, host::Key> namedKeys[] = {
+    {"escape", host::Key::escape},        {"tab", host::Key::tab},
+    {"iso_left_tab", host::Key::backTab}, {"return", host::Key::activate},
+    {"enter", host::Key::activate},       {"keypad enter", host::Key::activate},
+    {"kp_enter", host::Key::activate},    {"space", host::Key::activate},
+    {" ", host::Key::activate},           {"up", host::Key::up},
+    {"arrowup", host::Key::up},           {"down", host::Key::down},
+    {"arrowdown", host::Key::down},       {"left", host::Key::left},
+    {"arrowleft", host::Key::left},       {"right", host::Key::right},
+    {"arrowright", host::Key::right},
+};
+
+bool isSameName(std::string_view a, std::string_view b) {
+    const auto small = [](char letter) { return letter >= 'A' && letter <= 'Z' ? char(letter - 'A' + 'a') : letter; };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return small(x) == small(y); });
+}
 
 } // namespace
 
@@ -25,12 +44,15 @@ struct PixelView::State : std::enable_shared_from_this<State> {
     RasterSurface surface;
     graphics::DisplayList list;
     geometry::Size size; // points
+    geometry::PhysicalInsets safeArea;
+    bool isPlaced = false; // the content knows its size
     double refreshRate = 60;
     double lastFrame_s = -1; // of the run loop's time
     bool hasChanged = true;  // since the last frame
     bool isSeen = true;
     bool isPainting = false;
-    bool isAbandoned = false; // the view is gone
+    bool isAbandoned = false;                 // the view is gone
+    std::optional<geometry::Point> pressedAt; // where the pointer was last told; absent while it is up
     std::function<void()> frameHandler;
     std::shared_ptr<runloop::Timer> rest; // null while nobody looks ahead
 };
@@ -56,7 +78,10 @@ const std::shared_ptr<host::WindowContent>& PixelView::content() const { return 
 
 void PixelView::setSize(geometry::Size size, geometry::PhysicalInsets safeArea) {
     const auto state = m_state;
+    if (state->isPlaced && state->size == size && state->safeArea == safeArea) return;
+    state->isPlaced = true;
     state->size = size;
+    state->safeArea = safeArea;
     state->content->setSize(size, safeArea);
     state->frameIsWanted();
 }
@@ -65,7 +90,8 @@ void PixelView::setRefreshRate(double framesPerSecond) { m_state->refreshRate = 
 
 void PixelView::setSeen(bool isSeen) {
     const auto state = m_state;
-    state->isSeen = isSeen;
+    if (std::exchange(state->isSeen, isSeen) == isSeen) return;
+    if (!isSeen) cancelPointer();
     state->content->setSeen(isSeen);
     if (isSeen) state->frameIsWanted();
 }
@@ -148,7 +174,26 @@ std::optional<double> PixelView::nextDueDelay_s() const {
     return delay_s;
 }
 
+int PixelView::nextDueDelay_ms() const {
+    // Where nothing comes for longer, hosts wake up in vain once an hour.
+    constexpr double longest_s = 3600;
+    const std::optional<double> delay_s = nextDueDelay_s();
+    return delay_s ? int(std::ceil(std::min(*delay_s, longest_s) * 1000)) : -1;
+}
+
 // --- Input ---
+
+void PixelView::pointer(geometry::Point location, bool isDown) {
+    const std::optional<geometry::Point> former =
+        std::exchange(m_state->pressedAt, isDown ? std::optional(location) : std::nullopt);
+    if (former && !isDown) return touch(host::TouchPhase::ended, location);
+    if (!former && isDown) return touch(host::TouchPhase::began, location);
+    if (former && former != location) touch(host::TouchPhase::moved, location);
+}
+
+void PixelView::cancelPointer() {
+    if (const auto former = std::exchange(m_state->pressedAt, std::nullopt)) touch(host::TouchPhase::cancelled, *former);
+}
 
 void PixelView::touch(host::TouchPhase phase, geometry::Point location) {
     const auto content = m_state->content;
@@ -160,9 +205,15 @@ void PixelView::scroll(geometry::Point location, geometry::Point delta) {
     content->scroll(location, delta);
 }
 
-bool PixelView::key(host::Key key) {
+bool PixelView::key(host::Key key, bool isRepeated) {
     const auto content = m_state->content;
-    return content->key(key);
+    return content->key(key, isRepeated);
+}
+
+bool PixelView::key(std::string_view name, bool isShifted, bool isRepeated) {
+    for (const auto& [known, meant] : namedKeys)
+        if (isSameName(known, name)) return key(isShifted && meant == host::Key::tab ? host::Key::backTab : meant, isRepeated);
+    return false;
 }
 
 } // namespace proupsells::rasterbackend

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "Backends/Raster/PixelBuffer.hpp"
@@ -16,12 +17,13 @@ namespace proupsells::rasterbackend {
 //
 //     view.setSize({375, 800});
 //     while (running) {
-//         // Ends early when an event comes, which goes to touch(), scroll() or key().
-//         waitForEvents(view.nextDueDelay_s());
+//         // Ends early when an event comes, which goes to pointer(), scroll() or key().
+//         waitForEvents(view.nextDueDelay_ms());
 //         if (view.paint(buffer, 2)) show(view.lastDamage());
 //     }
 //
-// Needs a main run loop, which must live longer. Main thread only. The view may be destroyed from inside everything that it calls.
+// standard::PixelScreen is one for a controller, and installs what it needs. This one needs a main run loop, which must live
+// longer. Main thread only. The view may be destroyed from inside everything that it calls.
 class PixelView {
 public:
     // Shares the content, which must not be null.
@@ -35,11 +37,12 @@ public:
 
     // --- Place ---
 
-    // In points.
+    // In points. The same again changes nothing.
     void setSize(geometry::Size size, geometry::PhysicalInsets safeArea = {});
     // How often the display can show another frame; 60 unless told, and at least once a second.
     void setRefreshRate(double framesPerSecond);
-    // Whether anybody can see the view, as at first. While nobody can, no frame is due and nothing in the content runs.
+    // Whether anybody can see the view, as at first. While nobody can, no frame is due and nothing in the content runs. A pointer
+    // that is down then is taken away.
     void setSeen(bool isSeen);
 
     // --- Picture ---
@@ -60,17 +63,27 @@ public:
     std::optional<double> nextFrameDelay_s() const;
     // The same, counting also what the main run loop waits for. Absent: nothing will happen before the next input.
     std::optional<double> nextDueDelay_s() const;
+    // The same in whole milliseconds, rounded up, as functions that wait for events take it; -1 where it is absent.
+    int nextDueDelay_ms() const;
     // Told, outside paint(), when a frame is wanted: at once, or at the display's next refresh.
     void setFrameHandler(std::function<void()> handler);
 
     // --- Input ---
 
-    // One finger, or the mouse while its button is down. Locations are in points.
+    // Where the mouse or the one finger is, in points, and whether the button or finger is down: to be told when either changes.
+    void pointer(geometry::Point location, bool isDown);
+    // The pointer is somebody else's now: what it has pressed is let go without a tap.
+    void cancelPointer();
+    // For hosts that know the phase: one finger, or the mouse while its button is down.
     void touch(host::TouchPhase phase, geometry::Point location);
     // A wheel or trackpad; a positive y shows what is further down.
     void scroll(geometry::Point location, geometry::Point delta);
-    // Returns whether the key meant something.
-    bool key(host::Key key);
+    // Returns whether the key meant something. One that is held down comes again and again, `isRepeated` but for the first time;
+    // without that word it may buy twice.
+    bool key(host::Key key, bool isRepeated = false);
+    // The same for a key's name as SDL, X11 and browsers have it ("Escape", "Tab", "Return" or "Enter", "Space", "Up" or "ArrowUp"
+    // and so on, in small or capital letters). With Shift, Tab goes backwards. Other names mean nothing.
+    bool key(std::string_view name, bool isShifted, bool isRepeated);
 
 private:
     struct State;

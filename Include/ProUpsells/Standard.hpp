@@ -1,4 +1,5 @@
-// The ordinary installation of everything that a screen needs around it.
+// The ordinary installation of everything that a screen needs around it, and a screen in memory.
 #pragma once
 
+#include "Backends/Standard/PixelScreen.hpp"
 #include "Backends/Standard/Standard.hpp"

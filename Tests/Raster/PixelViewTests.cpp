@@ -23,13 +23,19 @@ namespace {
 // A red square on white, which input moves to the right.
 class Square : public host::WindowContent {
 public:
-    void setSize(geometry::Size newSize, geometry::PhysicalInsets) override { size = newSize; }
+    void setSize(geometry::Size newSize, geometry::PhysicalInsets) override {
+        size = newSize;
+        ++sizings;
+    }
     void touch(const host::Touch& touch) override {
         touches.push_back(touch);
         if (whenTouched) whenTouched();
     }
     void scroll(Point, Point delta) override { move(delta.x); }
-    bool key(host::Key key, bool) override { return key == host::Key::activate; }
+    bool key(host::Key key, bool isRepeated) override {
+        (isRepeated ? repeatedKeys : keys).push_back(key);
+        return key == host::Key::activate;
+    }
     void paint(graphics::DisplayList& list) override {
         list.clear();
         graphics::PaintContext context(list);
@@ -48,7 +54,9 @@ public:
     }
 
     geometry::Size size;
+    int sizings = 0;
     std::vector<host::Touch> touches;
+    std::vector<host::Key> keys, repeatedKeys;
     double x = 0;
     bool animates = false;
     bool isSeen = false;
@@ -60,6 +68,12 @@ protected:
     PixelViews() { view->setSize({4, 2}); }
 
     bool paint() { return view->paint(buffer, 2); }
+    // Phases and places of the touches so far.
+    std::vector<std::pair<TouchPhase, Point>> touches() const {
+        std::vector<std::pair<TouchPhase, Point>> touches;
+        for (const host::Touch& touch : content->touches) touches.emplace_back(touch.phase, touch.location);
+        return touches;
+    }
 
     headless::TestBed bed;
     std::shared_ptr<Square> content = std::make_shared<Square>();
@@ -186,11 +200,79 @@ TEST_F(PixelViews, HandsOnInput) {
     EXPECT_FALSE(view->key(host::Key::tab));
 }
 
+TEST_F(PixelViews, TakesTheSameSizeAgainForNothing) {
+    paint();
+    view->setSize({4, 2});
+    EXPECT_EQ(content->sizings, 1);
+    EXPECT_EQ(view->nextFrameDelay_s(), std::nullopt);
+    view->setSize({4, 2}, {1, 0, 0, 0});
+
+    EXPECT_EQ(content->sizings, 2);
+    EXPECT_NE(view->nextFrameDelay_s(), std::nullopt);
+}
+
+TEST_F(PixelViews, TellsItsHostInWholeMilliseconds) {
+    paint();
+    EXPECT_EQ(view->nextDueDelay_ms(), -1);
+    bed.loop().schedule(1e6, [] {});
+    EXPECT_EQ(view->nextDueDelay_ms(), 3'600'000);
+    bed.loop().schedule(0.0301, [] {});
+
+    EXPECT_EQ(view->nextDueDelay_ms(), 31);
+}
+
+TEST_F(PixelViews, TurnsAPointerIntoTouches) {
+    view->pointer({1, 1}, false);
+    view->pointer({2, 1}, true);
+    view->pointer({2, 1}, true);
+    view->pointer({3, 1}, true);
+    view->pointer({3.5, 1}, false);
+    view->pointer({4, 1}, false);
+
+    EXPECT_THAT(touches(), ElementsAre(std::pair(TouchPhase::began, Point{2, 1}), std::pair(TouchPhase::moved, Point{3, 1}),
+                                       std::pair(TouchPhase::ended, Point{3.5, 1})));
+}
+
+TEST_F(PixelViews, KnowsKeysByTheirNames) {
+    EXPECT_TRUE(view->key("Return", false, false));
+    EXPECT_FALSE(view->key("F1", false, false));
+    for (const char* const name : {"Escape", "TAB", "Up", "ArrowUp", "space", " "}) view->key(name, false, false);
+    view->key("Tab", true, false);
+    view->key("Up", true, false);
+    view->key("Return", false, true);
+
+    using host::Key;
+    EXPECT_THAT(content->keys, ElementsAre(Key::activate, Key::escape, Key::tab, Key::up, Key::up, Key::activate, Key::activate,
+                                           Key::backTab, Key::up));
+    EXPECT_THAT(content->repeatedKeys, ElementsAre(Key::activate));
+}
+
+TEST_F(PixelViews, LetsGoOfAPointerThatIsSomebodyElses) {
+    view->pointer({2, 1}, true);
+    view->cancelPointer();
+    view->cancelPointer();
+    view->pointer({3, 1}, true);
+    view->pointer({4, 1}, true);
+    view->setSeen(false);
+    view->pointer({4, 1}, false);
+
+    EXPECT_THAT(touches(), ElementsAre(std::pair(TouchPhase::began, Point{2, 1}), std::pair(TouchPhase::cancelled, Point{2, 1}),
+                                       std::pair(TouchPhase::began, Point{3, 1}), std::pair(TouchPhase::moved, Point{4, 1}),
+                                       std::pair(TouchPhase::cancelled, Point{4, 1})));
+}
+
 TEST_F(PixelViews, MayGoAwayInsideEverythingThatItCalls) {
     content->whenTouched = [this] { view.reset(); };
     view->touch(TouchPhase::began, {1, 2});
     EXPECT_EQ(view, nullptr);
     EXPECT_FALSE(content->handler);
+
+    content->whenTouched = nullptr;
+    view = std::make_unique<PixelView>(content);
+    view->pointer({1, 2}, true);
+    content->whenTouched = [this] { view.reset(); };
+    view->setSeen(false);
+    EXPECT_EQ(view, nullptr);
 
     view = std::make_unique<PixelView>(content);
     content->whenPainted = [this] { view.reset(); };
