@@ -15,6 +15,8 @@ namespace fs = std::filesystem;
 // Reads well in messages.
 constexpr std::string_view rootName = "<inside the program>";
 
+constinit EmbeddedFiles* first = nullptr;
+
 // Absent outside the root; empty for the root itself.
 std::optional<std::string> nameBelowRoot(const fs::path& path) {
     if (!EmbeddedFiles::isBelowRoot(path)) return std::nullopt;
@@ -53,16 +55,14 @@ std::string complaintAbout(std::span<const EmbeddedFile> files) {
 
 } // namespace
 
-constinit EmbeddedFiles* EmbeddedFiles::s_first = nullptr;
-
 EmbeddedFiles::EmbeddedFiles(std::span<const EmbeddedFile> files) : m_files(files) {
-    EmbeddedFiles** end = &s_first;
+    EmbeddedFiles** end = &first;
     while (*end) end = &(*end)->m_next;
     *end = this;
 }
 
 EmbeddedFiles::~EmbeddedFiles() {
-    EmbeddedFiles** place = &s_first;
+    EmbeddedFiles** place = &first;
     while (*place != this) place = &(*place)->m_next;
     *place = m_next;
 }
@@ -75,10 +75,10 @@ bool EmbeddedFiles::isBelowRoot(const fs::path& path) {
     return text.size() == rootName.size() || text[rootName.size()] == '/' || text[rootName.size()] == fs::path::preferred_separator;
 }
 
-bool EmbeddedFiles::areThere() { return s_first; }
+bool EmbeddedFiles::areThere() { return first; }
 
 std::string EmbeddedFiles::complaint() {
-    for (const EmbeddedFiles* table = s_first; table; table = table->m_next)
+    for (const EmbeddedFiles* table = first; table; table = table->m_next)
         if (std::string complaint = complaintAbout(table->m_files); !complaint.empty()) return complaint;
     return {};
 }
@@ -86,7 +86,7 @@ std::string EmbeddedFiles::complaint() {
 std::optional<std::string_view> EmbeddedFiles::bytesOf(const fs::path& file) {
     const auto name = nameBelowRoot(file);
     if (!name) return std::nullopt;
-    for (const EmbeddedFiles* table = s_first; table; table = table->m_next) {
+    for (const EmbeddedFiles* table = first; table; table = table->m_next) {
         const auto found = std::lower_bound(table->m_files.begin(), table->m_files.end(), *name, isBefore);
         if (found != table->m_files.end() && found->name == *name)
             return std::string_view(found->begin, std::size_t(found->end - found->begin));
@@ -97,7 +97,7 @@ std::optional<std::string_view> EmbeddedFiles::bytesOf(const fs::path& file) {
 bool EmbeddedFiles::hasFolder(const fs::path& path) {
     const auto name = nameBelowRoot(path);
     if (!name) return false;
-    for (const EmbeddedFiles* table = s_first; table; table = table->m_next)
+    for (const EmbeddedFiles* table = first; table; table = table->m_next)
         if (!partIn(table->m_files, *name).empty()) return true;
     return false;
 }
@@ -109,7 +109,7 @@ std::vector<fs::path> EmbeddedFiles::pathsIn(const fs::path& folder, bool areFol
     const auto name = nameBelowRoot(folder);
     if (!name) return {};
     std::set<fs::path> paths;
-    for (const EmbeddedFiles* table = s_first; table; table = table->m_next) {
+    for (const EmbeddedFiles* table = first; table; table = table->m_next) {
         for (const EmbeddedFile& file : partIn(table->m_files, *name)) {
             const std::string_view inside = nameInside(file, *name);
             const std::size_t slash = inside.find('/');

@@ -48,8 +48,6 @@ private:
 
     std::span<const EmbeddedFile> m_files;
     EmbeddedFiles* m_next = nullptr;
-
-    static constinit EmbeddedFiles* s_first;
 };
 
 } // namespace proupsells::system
