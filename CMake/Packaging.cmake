@@ -90,7 +90,8 @@ function(proupsells_install_package)
     NO_CHECK_REQUIRED_COMPONENTS_MACRO)
   write_basic_package_version_file("${PROJECT_BINARY_DIR}/ProUpsellsConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
   install(FILES "${PROJECT_BINARY_DIR}/ProUpsellsConfig.cmake" "${PROJECT_BINARY_DIR}/ProUpsellsConfigVersion.cmake"
-    "${PROJECT_SOURCE_DIR}/CMake/ResourcePlace.cpp.in" DESTINATION ${PROUPSELLS_PACKAGE_FOLDER} COMPONENT Development)
+    "${PROJECT_SOURCE_DIR}/CMake/ResourcePlace.cpp.in" "${PROJECT_SOURCE_DIR}/CMake/EmbeddedResources.cmake"
+    "${PROJECT_SOURCE_DIR}/CMake/EmbeddedResources.cpp.in" DESTINATION ${PROUPSELLS_PACKAGE_FOLDER} COMPONENT Development)
   install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/proupsells RENAME copyright
     COMPONENT Runtime)
 

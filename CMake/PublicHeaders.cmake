@@ -46,6 +46,7 @@ set(PROUPSELLS_Platform_HEADERS
   Platform/RunLoop/Timer.hpp
   Platform/RunLoop/UpdateClient.hpp
   Platform/System/Compiler.hpp
+  Platform/System/EmbeddedFiles.hpp
   Platform/UIKit/Collection/IndexPath.hpp
   Platform/UIKit/Collection/UICollectionViewDataSource.hpp
   Platform/UIKit/Collection/UICollectionViewDelegateFlowLayout.hpp

@@ -2,6 +2,7 @@
 # pictures that are ready to show in place of the vector files, and links to everything else.
 
 include_guard(GLOBAL)
+include(EmbeddedResources)
 
 add_custom_target(ProUpsellsResources ALL)
 
@@ -15,6 +16,14 @@ function(proupsells_add_resources name folder)
   set(from "${PROJECT_SOURCE_DIR}/${folder}")
   set(installed ${CMAKE_INSTALL_DATADIR}/proupsells/${name})
   set(to "${PROUPSELLS_BUILT_RESOURCES}/${name}")
+  file(GLOB_RECURSE as_they_are CONFIGURE_DEPENDS RELATIVE "${from}" "${from}/*")
+  list(FILTER as_they_are EXCLUDE REGEX "\\.md$")
+  if(PROUPSELLS_RASTER)
+    list(FILTER as_they_are EXCLUDE REGEX "\\.svg$")
+  endif()
+  foreach(file IN LISTS as_they_are)
+    proupsells_know_resource("${name}/${file}" "${from}/${file}")
+  endforeach()
   if(NOT PROUPSELLS_RASTER)
     file(MAKE_DIRECTORY "${PROUPSELLS_BUILT_RESOURCES}")
     file(CREATE_LINK "${from}" "${to}" SYMBOLIC)
@@ -46,6 +55,7 @@ function(proupsells_add_resources name folder)
       DEPENDS MakePictures "${vector}"
       COMMENT "Drawing ${picture}" VERBATIM)
     list(APPEND pictures "${file}")
+    proupsells_know_resource("${name}/Images/${picture}.picture" "${file}")
   endforeach()
   # What was made of files that are gone.
   file(GLOB made "${to}/Images/*.picture")

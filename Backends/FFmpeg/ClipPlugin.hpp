@@ -1,6 +1,10 @@
 // The seam between the program and the plug-in that brings FFmpeg: the plug-in is loaded when the first clip is wanted.
 #pragma once
 
+#include <filesystem>
+#include <optional>
+#include <string_view>
+
 #include "Platform/Host/ClipDecoder.hpp"
 
 namespace proupsells::ffmpegbackend {
@@ -16,13 +20,16 @@ struct PluginHost {
     Pace pace = Pace::realTime;
     // Takes one line of complaint; called on the thread that asks for frames.
     void (*complain)(const char* message) = nullptr;
+    // The bytes of a file that is part of the program, good as long as the clips; absent for any other.
+    std::optional<std::string_view> (*embeddedBytes)(const std::filesystem::path& file) = nullptr;
 };
 
 // The plug-in's one function. The caller owns the decoder.
 using MakeClipDecoder = host::ClipDecoder* (*)(const PluginHost&);
 
-// What that function is called in the plug-in.
-inline constexpr const char* makeClipDecoderSymbol = "proupsellsMakeClipDecoder";
+// What that function is called in the plug-in. Another name whenever PluginHost changes, so that a program finds no plug-in of
+// another version.
+inline constexpr const char* makeClipDecoderSymbol = "proupsellsMakeClipDecoder2";
 // What the plug-in's file is called.
 inline constexpr const char* pluginFileName = "proupsells-clips.so";
 

@@ -5,6 +5,7 @@
 
 #include "Backends/FFmpeg/PluginLoader.hpp"
 #include "Platform/Foundation/Resources.hpp"
+#include "Platform/System/EmbeddedFiles.hpp"
 #include "Platform/System/ProgramFile.hpp"
 
 namespace proupsells::ffmpegbackend {
@@ -55,6 +56,8 @@ std::vector<std::filesystem::path> LazyClipDecoder::defaultFolders() {
     for (const auto& file : {system::ownFile(), system::programFile()})
         if (!file.empty()) add(file.parent_path());
     for (const auto& place : foundation::resourcePlaces()) {
+        // No plug-in can be loaded from inside the program.
+        if (system::EmbeddedFiles::isBelowRoot(place)) continue;
         add(place);
         for (const char* libraries : {PROUPSELLS_LIBRARY_FOLDER "/proupsells", "bin"})
             add(place.parent_path().parent_path() / libraries);

@@ -3,6 +3,7 @@
 #include <chrono>
 
 #include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/System/EmbeddedFiles.hpp"
 #include "Platform/System/PathText.hpp"
 #include "Platform/System/SharedObject.hpp"
 
@@ -41,7 +42,7 @@ host::ClipDecoder* PluginLoader::decoder() {
 }
 
 void PluginLoader::adopt(const Outcome& outcome) {
-    if (outcome.make) return m_decoder.reset(outcome.make({m_pace, &complain}));
+    if (outcome.make) return m_decoder.reset(outcome.make({m_pace, &complain, &system::EmbeddedFiles::bytesOf}));
     m_hasFailed = true;
     complain(outcome.complaint.c_str());
 }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/System/Files.hpp"
 #include "Platform/System/PathText.hpp"
 
 namespace proupsells::headless {
@@ -68,8 +69,7 @@ std::shared_ptr<host::Clip> FakeClipDecoder::open(const std::filesystem::path& f
     if (auto clip = known.lock()) return clip;
     const std::string name = system::textOf(file.filename());
     m_shared->openedFiles.push_back(name);
-    std::error_code error;
-    const bool isThere = std::filesystem::exists(file, error), isBroken = m_brokenFiles.contains(name);
+    const bool isThere = system::isThere(file), isBroken = m_brokenFiles.contains(name);
     auto clip = std::make_shared<FakeClip>(m_film, isThere && !isBroken, isBroken ? name : std::string{}, m_shared);
     known = clip;
     return clip;

@@ -2,11 +2,11 @@
 
 #include <array>
 #include <cstdint>
-#include <fstream>
 #include <string>
 
 #include "Platform/Foundation/DecimalText.hpp"
 #include "Platform/Graphics/PictureHeader.hpp"
+#include "Platform/System/MappedFile.hpp"
 
 namespace proupsells::headless {
 
@@ -166,14 +166,9 @@ std::optional<Size> pngSize(std::string_view contents) {
 }
 
 std::optional<Size> ImageSizeReader::naturalSize(const std::filesystem::path& file) {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(file, error)) return std::nullopt;
-    std::ifstream stream(file, std::ios::binary);
-    std::string contents(maximumHeaderLength, '\0');
-    stream.read(contents.data(), std::streamsize(contents.size()));
-    contents.resize(std::size_t(std::max<std::streamsize>(0, stream.gcount())));
-    const std::uint64_t fileSize = std::filesystem::file_size(file, error);
-    if (const auto header = graphics::PictureHeader::parse(contents, error ? 0 : fileSize)) return header->naturalSize;
+    const system::MappedFile mapped(file);
+    const std::string_view contents = mapped.bytes().substr(0, maximumHeaderLength);
+    if (const auto header = graphics::PictureHeader::parse(contents, mapped.bytes().size())) return header->naturalSize;
     if (const auto size = pngSize(contents)) return size;
     return svgSize(contents);
 }

@@ -10,7 +10,7 @@
 
 #include "Backends/Raster/GlyphOutline.hpp"
 #include "Backends/Raster/GlyphPictures.hpp"
-#include "Platform/System/PathText.hpp"
+#include "Platform/System/MappedFile.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -81,6 +81,15 @@ bool hasColours(hb_face_t* face) {
            hasTable(face, HB_TAG('s', 'b', 'i', 'x'));
 }
 
+// Null where there are no bytes.
+BlobRef mappedBlob(const std::filesystem::path& path) {
+    auto mapped = std::make_unique<system::MappedFile>(path);
+    const std::string_view bytes = mapped->bytes();
+    if (bytes.empty()) return nullptr;
+    return BlobRef(hb_blob_create_or_fail(bytes.data(), unsigned(bytes.size()), HB_MEMORY_MODE_READONLY, mapped.release(),
+                                          [](void* file) { delete static_cast<system::MappedFile*>(file); }));
+}
+
 // In ems, and in whole shaping units as the advances are.
 double metric(hb_font_t* unscaled, hb_ot_metrics_tag_t tag, double unitsPerEm) {
     hb_position_t value = 0;
@@ -106,7 +115,7 @@ FontFile::~FontFile() = default;
 
 std::shared_ptr<const FontFile> FontFile::open(const std::filesystem::path& path, int index, int weight) {
     auto parts = std::make_unique<Parts>();
-    parts->blob.reset(hb_blob_create_from_file_or_fail(system::textOf(path).c_str()));
+    parts->blob = mappedBlob(path);
     if (!parts->blob) return nullptr;
     if (unsigned(index) >= hb_face_count(parts->blob.get())) return nullptr;
     const FaceRef face(hb_face_create(parts->blob.get(), unsigned(index)));

@@ -24,6 +24,7 @@
 #include "Platform/Host/Services.hpp"
 #include "Platform/RunLoop/Clock.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
+#include "Platform/System/EmbeddedFiles.hpp"
 
 // Reading the screen back, as a test does.
 #include "Platform/Accessibility/Search.hpp"

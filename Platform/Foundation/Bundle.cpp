@@ -1,12 +1,9 @@
 #include "Platform/Foundation/Bundle.hpp"
 
 #include <algorithm>
-#include <fstream>
 #include <map>
-#include <system_error>
 #include <unordered_map>
 #include <utility>
-#include <vector>
 
 #include "Platform/Commons/DefaultLogger.hpp"
 #include "Platform/Foundation/Ascii.hpp"
@@ -14,6 +11,7 @@
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/Foundation/StringsFile.hpp"
 #include "Platform/RunLoop/MainActor.hpp"
+#include "Platform/System/Files.hpp"
 #include "Platform/System/PathText.hpp"
 
 namespace proupsells::foundation {
@@ -24,39 +22,10 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view languageFolderExtension = ".lproj";
 
-// Sorted by name, because folders are listed in no particular order. Empty when the folder cannot be read.
-std::vector<fs::path> subfolders(const fs::path& folder) {
-    std::vector<fs::path> found;
-    std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
-        std::error_code ignored;
-        if (entry->is_directory(ignored)) found.push_back(entry->path());
-    }
-    std::sort(found.begin(), found.end());
-    return found;
-}
-
-bool isFile(const fs::path& path) {
-    std::error_code ignored;
-    return fs::is_regular_file(path, ignored);
-}
-
 std::string normalised(std::string_view name) {
     std::string result = asciiLowerCased(std::string(name));
     std::replace(result.begin(), result.end(), '_', '-');
     return result;
-}
-
-// Absent when it is no file or cannot be read to its end.
-std::optional<std::string> readFile(const fs::path& path) {
-    std::error_code error;
-    if (!fs::is_regular_file(path, error)) return std::nullopt;
-    const auto size = fs::file_size(path, error);
-    std::ifstream stream(path, std::ios::binary);
-    if (error || !stream) return std::nullopt;
-    std::string bytes(size, '\0');
-    if (!stream.read(bytes.data(), static_cast<std::streamsize>(size))) return std::nullopt;
-    return bytes;
 }
 
 void logUnusable(const std::string& place, std::string_view reason) {
@@ -67,9 +36,8 @@ void logUnusable(const std::string& place, std::string_view reason) {
 
 // Empty when there is no such file. One that is there and cannot be used costs a log line.
 StringsFile::Texts readTexts(const fs::path& path) {
-    std::error_code ignored;
-    if (!fs::exists(path, ignored)) return {};
-    const auto bytes = readFile(path);
+    if (!system::isThere(path)) return {};
+    const auto bytes = system::contentsOf(path);
     if (!bytes) {
         logUnusable(system::textOf(path), "the file cannot be read");
         return {};
@@ -84,7 +52,7 @@ StringsFile::Texts readTexts(const fs::path& path) {
 struct Bundle::Tables {
     explicit Tables(const fs::path& folder) {
         if (folder.empty()) return;
-        for (const fs::path& subfolder : subfolders(folder)) {
+        for (const fs::path& subfolder : system::foldersIn(folder)) {
             const std::string name = normalised(system::textOf(subfolder.filename()));
             if (!name.ends_with(languageFolderExtension)) continue;
             folders.emplace(name.substr(0, name.size() - languageFolderExtension.size()), subfolder);
@@ -113,9 +81,9 @@ std::optional<fs::path> Bundle::pathForResource(std::string_view name, std::stri
     std::string text(name);
     if (!extension.empty()) text.append(".").append(extension);
     const fs::path fileName = system::pathOf(text);
-    if (isFile(m_folder / fileName)) return m_folder / fileName;
-    for (const fs::path& subfolder : subfolders(m_folder))
-        if (isFile(subfolder / fileName)) return subfolder / fileName;
+    if (system::isFile(m_folder / fileName)) return m_folder / fileName;
+    for (const fs::path& subfolder : system::foldersIn(m_folder))
+        if (system::isFile(subfolder / fileName)) return subfolder / fileName;
     return std::nullopt;
 }
 

@@ -1,11 +1,12 @@
 #include "Platform/Foundation/Resources.hpp"
 
 #include <algorithm>
-#include <system_error>
 #include <utility>
 
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/Foundation/ResourcePlace.hpp"
+#include "Platform/System/EmbeddedFiles.hpp"
+#include "Platform/System/Files.hpp"
 #include "Platform/System/PathText.hpp"
 #include "Platform/System/ProgramFile.hpp"
 
@@ -34,6 +35,14 @@ void addPlacesNear(const std::filesystem::path& file, std::vector<std::filesyste
         addOnce(places, folder / "share" / "proupsells");
 }
 
+// Whatever writes such a table is ours.
+void addPlaceInsideProgram(std::vector<std::filesystem::path>& places) {
+    if (!system::EmbeddedFiles::areThere()) return;
+    if (const std::string complaint = system::EmbeddedFiles::complaint(); !complaint.empty())
+        commons::fatalError("The resources inside the program are broken: " + complaint);
+    places.push_back(system::EmbeddedFiles::root());
+}
+
 } // namespace
 
 void setResourceRoot(std::filesystem::path folder) { resourceRoot() = std::move(folder); }
@@ -43,6 +52,7 @@ ResourcePlace::ResourcePlace(const char* folder) { addOnce(addedPlaces(), system
 std::vector<std::filesystem::path> resourcePlaces() {
     std::vector<std::filesystem::path> places;
     if (!resourceRoot().empty()) places.push_back(resourceRoot());
+    addPlaceInsideProgram(places);
     addPlacesNear(system::ownFile(), places);
     addPlacesNear(system::programFile(), places);
     for (const auto& place : addedPlaces()) addOnce(places, place);
@@ -52,8 +62,7 @@ std::vector<std::filesystem::path> resourcePlaces() {
 std::optional<std::filesystem::path> findResource(std::string_view name) {
     for (const auto& place : resourcePlaces()) {
         auto found = place / system::pathOf(name);
-        std::error_code error;
-        if (std::filesystem::exists(found, error)) return found;
+        if (system::isThere(found)) return found;
     }
     return std::nullopt;
 }

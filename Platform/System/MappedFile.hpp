@@ -1,4 +1,5 @@
-// A file's bytes, read when they are looked at, where the system can do that.
+// A file's bytes, read when they are looked at, where the system can do that. Files inside the program (EmbeddedFiles) need no
+// reading.
 #pragma once
 
 #include <filesystem>
@@ -19,6 +20,7 @@ public:
 
 private:
     std::string_view m_bytes;
+    bool m_isEmbedded = false;
 };
 
 } // namespace proupsells::system

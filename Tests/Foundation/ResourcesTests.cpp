@@ -3,8 +3,11 @@
 
 #include <fstream>
 
+#include "Platform/Foundation/Bundle.hpp"
+#include "Platform/Foundation/Locale.hpp"
 #include "Platform/Foundation/ResourcePlace.hpp"
 #include "Platform/Foundation/Resources.hpp"
+#include "Platform/System/EmbeddedFiles.hpp"
 #include "Platform/System/PathText.hpp"
 #include "Platform/System/ProgramFile.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
@@ -68,6 +71,42 @@ TEST_F(ResourcePlaces, AreNeeded) {
     EXPECT_EQ(foundation::requiredResource("Kit"), own);
 }
 
+constexpr std::string_view text = "\"Close\" = \"Schließen\";";
+constexpr system::EmbeddedFile embedded[] = {{"Kit/de.lproj/Localizable.strings", text.data(), text.data() + text.size()}};
+
+TEST_F(ResourcePlaces, AreInsideTheProgramAfterTheHostsOwn) {
+    const system::EmbeddedFiles files(embedded);
+    const auto named = made("named/Kit"), own = made("own/Kit");
+    const foundation::ResourcePlace place(system::textOf(named.parent_path()).c_str());
+
+    EXPECT_EQ(findResource("Kit"), system::EmbeddedFiles::root() / "Kit");
+    EXPECT_EQ(resourcePlaces().front(), system::EmbeddedFiles::root());
+    foundation::setResourceRoot(folder.path() / "own");
+    EXPECT_EQ(findResource("Kit"), own);
+}
+
+TEST_F(ResourcePlaces, AreAskedFurtherForWhatIsNotInsideTheProgram) {
+    const system::EmbeddedFiles files(embedded);
+    const auto other = made("named/Other");
+    const foundation::ResourcePlace place(system::textOf(other.parent_path()).c_str());
+
+    EXPECT_EQ(findResource("Other"), other);
+}
+
+TEST_F(ResourcePlaces, InsideTheProgramMakeBundles) {
+    const system::EmbeddedFiles files(embedded);
+    const auto previous = foundation::Locale::current();
+    foundation::Locale::setCurrent(foundation::Locale("de_AT"));
+
+    const foundation::Bundle bundle(foundation::requiredResource("Kit"));
+
+    EXPECT_EQ(bundle.localizedString("Close"), "Schließen");
+    EXPECT_EQ(bundle.pathForResource("Localizable", "strings"),
+              system::EmbeddedFiles::root() / "Kit" / "de.lproj" / "Localizable.strings");
+    EXPECT_EQ(bundle.pathForResource("Other", "strings"), std::nullopt);
+    foundation::Locale::setCurrent(previous);
+}
+
 using ResourcePlacesDeathTest = ResourcePlaces;
 
 TEST_F(ResourcePlacesDeathTest, StopTheProgramWhereTheyAreMissingAndNameEveryPlace) {
@@ -75,6 +114,19 @@ TEST_F(ResourcePlacesDeathTest, StopTheProgramWhereTheyAreMissingAndNameEveryPla
     for (const auto& place : resourcePlaces())
         EXPECT_DEATH(foundation::requiredResource("Nowhere"),
                      "The resources of Nowhere were looked for in vain in .*" + system::textOf(place) + ".*setResourceRoot");
+}
+
+TEST_F(ResourcePlacesDeathTest, StopTheProgramWhereTheyAreMissingInsideItToo) {
+    const system::EmbeddedFiles files(embedded);
+
+    EXPECT_DEATH(foundation::requiredResource("Nowhere"), "in vain in <inside the program>, .*setResourceRoot");
+}
+
+TEST_F(ResourcePlacesDeathTest, StopTheProgramWhereTheirTableIsBroken) {
+    const system::EmbeddedFile broken[] = {{"Kit/picture", text.data() + 1, text.data()}};
+    const system::EmbeddedFiles files(broken);
+
+    EXPECT_DEATH(foundation::findResource("Kit"), "The resources inside the program are broken: Kit/picture has no bytes");
 }
 
 } // namespace

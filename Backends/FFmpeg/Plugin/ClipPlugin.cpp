@@ -13,21 +13,21 @@ namespace {
 class FFmpegClipDecoder final : public host::ClipDecoder {
 public:
     explicit FFmpegClipDecoder(const PluginHost& host)
-        : m_pace(host.pace), m_complaints(std::make_shared<Complaints>(host)), m_worker(std::make_shared<Worker>()) {}
+        : m_host(host), m_complaints(std::make_shared<Complaints>(host)), m_worker(std::make_shared<Worker>()) {}
 
     std::shared_ptr<host::Clip> open(const std::filesystem::path& file) override {
-        return std::make_shared<PlayedClip>(file, m_pace, m_complaints, m_worker);
+        return std::make_shared<PlayedClip>(ClipFile{file, m_host.embeddedBytes(file)}, m_host.pace, m_complaints, m_worker);
     }
 
 private:
-    Pace m_pace;
+    PluginHost m_host;
     std::shared_ptr<Complaints> m_complaints; // with clips that outlive the decoder
     std::shared_ptr<Worker> m_worker;
 };
 
 } // namespace
 
-extern "C" PROUPSELLS_EXPORTED host::ClipDecoder* proupsellsMakeClipDecoder(const PluginHost& host) {
+extern "C" PROUPSELLS_EXPORTED host::ClipDecoder* proupsellsMakeClipDecoder2(const PluginHost& host) {
     return new FFmpegClipDecoder(host);
 }
 

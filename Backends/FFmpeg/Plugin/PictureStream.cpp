@@ -34,16 +34,17 @@ void PictureStream::Free::operator()(AVFrame* frame) const { av_frame_free(&fram
 
 PictureStream::PictureStream() : m_packet(av_packet_alloc()), m_frame(av_frame_alloc()) {}
 
-std::unique_ptr<PictureStream> PictureStream::open(const std::filesystem::path& file, std::string& complaint) {
+std::unique_ptr<PictureStream> PictureStream::open(const ClipFile& file, std::string& complaint) {
     std::unique_ptr<PictureStream> stream(new PictureStream);
     complaint = stream->begin(file);
     return complaint.empty() ? std::move(stream) : nullptr;
 }
 
-std::string PictureStream::begin(const std::filesystem::path& file) {
+std::string PictureStream::begin(const ClipFile& file) {
     av_log_set_level(AV_LOG_QUIET);
     AVFormatContext* format = nullptr;
-    if (const int error = avformat_open_input(&format, system::textOf(file).c_str(), nullptr, nullptr); error < 0)
+    if (file.embeddedBytes && (format = avformat_alloc_context())) format->pb = m_input.open(*file.embeddedBytes);
+    if (const int error = avformat_open_input(&format, system::textOf(file.path).c_str(), nullptr, nullptr); error < 0)
         return reasonOf(error);
     m_format.reset(format);
     if (const int error = avformat_find_stream_info(format, nullptr); error < 0) return reasonOf(error);

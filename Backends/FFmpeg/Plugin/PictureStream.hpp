@@ -2,9 +2,11 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
 #include <memory>
 #include <string>
+
+#include "Backends/FFmpeg/Plugin/ClipFile.hpp"
+#include "Backends/FFmpeg/Plugin/MemoryInput.hpp"
 
 struct AVCodecContext;
 struct AVFormatContext;
@@ -18,7 +20,7 @@ namespace proupsells::ffmpegbackend {
 class PictureStream {
 public:
     // Null, with the reason in `complaint`, when the file is no film.
-    static std::unique_ptr<PictureStream> open(const std::filesystem::path& file, std::string& complaint);
+    static std::unique_ptr<PictureStream> open(const ClipFile& file, std::string& complaint);
 
     // What the file says; the duration of one picture when it says nothing.
     double declaredDuration_s() const;
@@ -47,9 +49,10 @@ private:
 
     PictureStream();
     // Empty when all went well.
-    std::string begin(const std::filesystem::path& file);
+    std::string begin(const ClipFile& file);
     void feedDecoder();
 
+    MemoryInput m_input; // read by the format
     std::unique_ptr<AVFormatContext, Free> m_format;
     std::unique_ptr<AVCodecContext, Free> m_codec;
     std::unique_ptr<AVPacket, Free> m_packet;

@@ -20,7 +20,7 @@ constexpr int picturesATurn = 8;
 
 } // namespace
 
-PlayedClip::PlayedClip(std::filesystem::path file, Pace pace, std::shared_ptr<Complaints> complaints, std::weak_ptr<Worker> worker)
+PlayedClip::PlayedClip(ClipFile file, Pace pace, std::shared_ptr<Complaints> complaints, std::weak_ptr<Worker> worker)
     : m_file(std::move(file)), m_pace(pace), m_worker(std::move(worker)), m_complaints(std::move(complaints)) {}
 
 double PlayedClip::momentAt(double time_s) const {
@@ -51,7 +51,7 @@ host::ClipFrame PlayedClip::frameAt(double time_s) {
     for (;;) {
         if (const std::string complaint = std::exchange(m_complaint, {}); !complaint.empty()) {
             guard.unlock();
-            m_complaints->complainAbout(m_file, complaint);
+            m_complaints->complainAbout(m_file.path, complaint);
             guard.lock();
         }
         m_isPlayable = m_state != State::unplayable;
@@ -85,7 +85,7 @@ bool PlayedClip::needsSeek(double moment_s) const {
 void PlayedClip::openFile() {
     std::string complaint;
     std::error_code error;
-    const bool isThere = std::filesystem::exists(m_file, error);
+    const bool isThere = m_file.embeddedBytes || std::filesystem::exists(m_file.path, error);
     m_video = isThere ? VideoFile::open(m_file, complaint) : nullptr;
 
     const std::lock_guard guard(m_lock);

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "Backends/FFmpeg/ClipPlugin.hpp"
+#include "Backends/FFmpeg/Plugin/ClipFile.hpp"
 #include "Backends/FFmpeg/Plugin/VideoFile.hpp"
 
 namespace proupsells::ffmpegbackend {
@@ -20,7 +21,7 @@ class PlayedClip final : public host::Clip, public std::enable_shared_from_this<
 public:
     static constexpr std::size_t picturesAhead = 4;
 
-    PlayedClip(std::filesystem::path file, Pace pace, std::shared_ptr<Complaints> complaints, std::weak_ptr<Worker> worker);
+    PlayedClip(ClipFile file, Pace pace, std::shared_ptr<Complaints> complaints, std::weak_ptr<Worker> worker);
 
     host::ClipFrame frameAt(double time_s) override;
     bool isPlayable() const override { return m_isPlayable; }
@@ -43,7 +44,7 @@ private:
     // Decodes one picture into the window. False when there is nothing to do.
     bool decodeOne();
 
-    const std::filesystem::path m_file;
+    const ClipFile m_file;
     const Pace m_pace;
     // Owned by the decoder. A clip that outlives the decoder stands still.
     const std::weak_ptr<Worker> m_worker;

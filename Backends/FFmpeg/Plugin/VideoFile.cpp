@@ -15,7 +15,7 @@ VideoFile::VideoFile(std::unique_ptr<PictureStream> stream, PictureExtent extent
 
 VideoFile::~VideoFile() = default;
 
-std::unique_ptr<VideoFile> VideoFile::open(const std::filesystem::path& file, std::string& complaint) {
+std::unique_ptr<VideoFile> VideoFile::open(const ClipFile& file, std::string& complaint) {
     auto stream = PictureStream::open(file, complaint);
     if (!stream) return nullptr;
     const PictureExtent extent = extentOf(*stream);

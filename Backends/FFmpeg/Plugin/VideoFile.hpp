@@ -1,11 +1,11 @@
 // A file's pictures, one after the other.
 #pragma once
 
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
 
+#include "Backends/FFmpeg/Plugin/ClipFile.hpp"
 #include "Backends/FFmpeg/Plugin/PictureConverter.hpp"
 #include "Backends/FFmpeg/Plugin/PictureExtent.hpp"
 #include "Platform/Host/ClipDecoder.hpp"
@@ -18,7 +18,7 @@ class PictureStream;
 class VideoFile {
 public:
     // Null with the reason in `complaint` when the file holds no picture that can be decoded.
-    static std::unique_ptr<VideoFile> open(const std::filesystem::path& file, std::string& complaint);
+    static std::unique_ptr<VideoFile> open(const ClipFile& file, std::string& complaint);
     ~VideoFile();
 
     const PictureExtent& extent() const { return m_extent; }

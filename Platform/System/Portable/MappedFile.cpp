@@ -4,10 +4,17 @@
 #include <new>
 #include <system_error>
 
+#include "Platform/System/EmbeddedFiles.hpp"
+
 namespace proupsells::system {
 
-// The bytes are read at once and belong to this.
+// The bytes of a file are read at once and belong to this.
 MappedFile::MappedFile(const std::filesystem::path& file) {
+    if (const auto embedded = EmbeddedFiles::bytesOf(file)) {
+        m_bytes = *embedded;
+        m_isEmbedded = true;
+        return;
+    }
     std::error_code error;
     if (!std::filesystem::is_regular_file(file, error)) return;
     const auto size = std::size_t(std::filesystem::file_size(file, error));
@@ -21,6 +28,8 @@ MappedFile::MappedFile(const std::filesystem::path& file) {
         delete[] bytes;
 }
 
-MappedFile::~MappedFile() { delete[] m_bytes.data(); }
+MappedFile::~MappedFile() {
+    if (!m_isEmbedded) delete[] m_bytes.data();
+}
 
 } // namespace proupsells::system

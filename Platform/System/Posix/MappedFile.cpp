@@ -5,9 +5,16 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "Platform/System/EmbeddedFiles.hpp"
+
 namespace proupsells::system {
 
 MappedFile::MappedFile(const std::filesystem::path& file) {
+    if (const auto embedded = EmbeddedFiles::bytesOf(file)) {
+        m_bytes = *embedded;
+        m_isEmbedded = true;
+        return;
+    }
     // Not to wait for somebody to write into a pipe.
     const int descriptor = open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (descriptor < 0) return;
@@ -21,7 +28,7 @@ MappedFile::MappedFile(const std::filesystem::path& file) {
 }
 
 MappedFile::~MappedFile() {
-    if (!m_bytes.empty()) munmap(const_cast<char*>(m_bytes.data()), m_bytes.size());
+    if (!m_bytes.empty() && !m_isEmbedded) munmap(const_cast<char*>(m_bytes.data()), m_bytes.size());
 }
 
 } // namespace proupsells::system
