@@ -9,6 +9,7 @@
 #include "Backends/Raster/PixelBuffer.hpp"
 #include "Backends/Raster/PixelRect.hpp"
 #include "Platform/Host/WindowContent.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -22,7 +23,7 @@ namespace proupsells::rasterbackend {
 //     }
 //
 // Needs a main run loop, which must live longer. Main thread only. The view may be destroyed from inside everything that it calls.
-class PixelView {
+class PROUPSELLS_EXPORT PixelView {
 public:
     // Shares the content, which must not be null.
     explicit PixelView(std::shared_ptr<host::WindowContent> content);

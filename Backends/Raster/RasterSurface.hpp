@@ -9,13 +9,14 @@
 #include "Backends/Raster/PixelBuffer.hpp"
 #include "Backends/Raster/PixelRect.hpp"
 #include "Platform/Host/Surface.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::rasterbackend {
 
 class RasterPainter;
 
 // Paints into memory of its own, or into a buffer that is lent to it. Main thread only.
-class RasterSurface final : public host::Surface {
+class PROUPSELLS_EXPORT RasterSurface final : public host::Surface {
 public:
     // Shares what other surfaces have prepared.
     RasterSurface();
@@ -61,6 +62,6 @@ private:
 };
 
 // The number of pixels that `size` points fill at `scale`.
-PixelSize pixelSize(geometry::Size size, double scale);
+PROUPSELLS_EXPORT PixelSize pixelSize(geometry::Size size, double scale);
 
 } // namespace proupsells::rasterbackend
