@@ -113,6 +113,12 @@ Cflags: -I${includedir}/proupsells "-DPROUPSELLS_RESOURCES=\"${resources}\""@def
   install(FILES "${PROJECT_BINARY_DIR}/${module}.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
 endfunction()
 
+# proupsells_install_licence(<package> <component>): where Debian looks for that of a package, which the component becomes.
+function(proupsells_install_licence package component)
+  install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${package} RENAME copyright
+    COMPONENT ${component})
+endfunction()
+
 # proupsells_install_package(): the files that find_package(ProUpsells) reads, and the licence.
 # PublicHeaders.txt in the build folder then names what the libraries install, a header a line.
 function(proupsells_install_package)
@@ -137,8 +143,8 @@ function(proupsells_install_package)
   write_basic_package_version_file("${PROJECT_BINARY_DIR}/ProUpsellsConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
   install(FILES "${PROJECT_BINARY_DIR}/ProUpsellsConfig.cmake" "${PROJECT_BINARY_DIR}/ProUpsellsConfigVersion.cmake"
     "${PROJECT_SOURCE_DIR}/CMake/ResourcePlace.cpp.in" DESTINATION ${PROUPSELLS_PACKAGE_FOLDER} COMPONENT Development)
-  install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/proupsells RENAME copyright
-    COMPONENT Runtime)
+  proupsells_install_licence(libproupsells Runtime)
+  proupsells_install_licence(libproupsells-dev Development)
 
   # Hosts that build this project as a part of their own have their programs somewhere else.
   if(NOT PROJECT_IS_TOP_LEVEL)
