@@ -4,11 +4,12 @@
 #include <initializer_list>
 #include <memory>
 
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Controls/UIButton.hpp"
 
 namespace proupsells {
 
-class CallToActionButtonProvider {
+class PROUPSELLS_EXPORT CallToActionButtonProvider {
 public:
     CallToActionButtonProvider() = delete;
 

@@ -1,12 +1,14 @@
 // Told of the comparison screen's two buttons.
 #pragma once
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells {
 
 class ComparisonViewController;
 
 // Always held weakly.
-class ComparisonViewControllerDelegate {
+class PROUPSELLS_EXPORT ComparisonViewControllerDelegate {
 public:
     virtual ~ComparisonViewControllerDelegate() = default;
 

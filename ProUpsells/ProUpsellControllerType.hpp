@@ -3,11 +3,12 @@
 
 #include <vector>
 
+#include "Platform/System/Compiler.hpp"
 #include "ProUpsells/SubscriptionOption.hpp"
 
 namespace proupsells {
 
-class ProUpsellControllerType {
+class PROUPSELLS_EXPORT ProUpsellControllerType {
 public:
     virtual ~ProUpsellControllerType() = default;
 

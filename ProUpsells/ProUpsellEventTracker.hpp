@@ -3,13 +3,14 @@
 
 #include <string>
 
+#include "Platform/System/Compiler.hpp"
 #include "ProUpsells/Referrer.hpp"
 #include "ProUpsells/SubscriptionOption.hpp"
 
 namespace proupsells {
 
 // Always held weakly; without one, nothing is tracked.
-class ProUpsellEventTracker {
+class PROUPSELLS_EXPORT ProUpsellEventTracker {
 public:
     virtual ~ProUpsellEventTracker() = default;
 

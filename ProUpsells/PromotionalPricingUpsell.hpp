@@ -4,10 +4,12 @@
 #include <optional>
 #include <string>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells {
 
 // An absent price shows no comparison.
-class PromotionalPricingUpsell {
+class PROUPSELLS_EXPORT PromotionalPricingUpsell {
 public:
     virtual ~PromotionalPricingUpsell() = default;
 

@@ -6,10 +6,12 @@
 #include <string>
 #include <variant>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells {
 
 // A screen's name, and what the user tapped there, if it is known.
-struct Referrer {
+struct PROUPSELLS_EXPORT Referrer {
     // What the user tapped there: a number or an identifier.
     struct ElementID {
         // Told apart by kind: a number is never equal to a text.

@@ -5,6 +5,8 @@
 #include <string>
 #include <variant>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells {
 
 // A trial is on offer where a plan has one that the user has not had yet. `trialLength` is absent when the plan has none.
@@ -13,7 +15,7 @@ inline bool offersTrial(const std::optional<std::string>& trialLength, bool hasU
 }
 
 // All prices are texts that the host has already formatted in the store's currency; nothing is checked.
-class SubscriptionOption {
+class PROUPSELLS_EXPORT SubscriptionOption {
 public:
     // The kind of plan and its price texts. The order of the kinds is their case index.
     struct SubscriptionType {

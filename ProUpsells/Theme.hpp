@@ -9,11 +9,12 @@
 #include <vector>
 
 #include "Platform/Graphics/Color.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells {
 
 // What it names is shown instead of ours: colours, typefaces, pictures. All else stays, and so do sizes, order and texts.
-struct Theme {
+struct PROUPSELLS_EXPORT Theme {
     // A colour in either appearance. Absent: ours.
     struct Color {
         std::optional<graphics::RGBA> light; // in the light appearance
@@ -68,6 +69,6 @@ struct Theme {
 // Windows follow in their next update; an empty theme brings ours back. A theme with problems is refused: each is a log line, and
 // what was shown before stays. A file that is missing or broken, or a picture of another shape, is a log line, and ours stays in
 // its place. Files must stay as they are while the theme is shown. Main thread only. Returns whether the theme was taken.
-bool setTheme(const Theme& theme);
+PROUPSELLS_EXPORT bool setTheme(const Theme& theme);
 
 } // namespace proupsells

@@ -8,6 +8,7 @@
 
 #include "Platform/Combine/AnyCancellable.hpp"
 #include "Platform/Foundation/Coder.hpp"
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 #include "Platform/VelaUIKit/EmptyStateView.hpp"
 #include "ProUpsells/ProUpsellControllerType.hpp"
@@ -22,7 +23,9 @@ class UIHostingController;
 namespace proupsells {
 
 // Main thread only.
-class UpsellViewController : public uikit::UIViewController, public ProUpsellControllerType, public PromotionalPricingUpsell {
+class PROUPSELLS_EXPORT UpsellViewController : public uikit::UIViewController,
+                                               public ProUpsellControllerType,
+                                               public PromotionalPricingUpsell {
     struct Creation {};
 
 public:

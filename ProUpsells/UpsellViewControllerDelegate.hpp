@@ -1,6 +1,7 @@
 // Told of every tap on the paywall.
 #pragma once
 
+#include "Platform/System/Compiler.hpp"
 #include "ProUpsells/SubscriptionOption.hpp"
 
 namespace proupsells {
@@ -8,7 +9,7 @@ namespace proupsells {
 class UpsellViewController;
 
 // Always held weakly.
-class UpsellViewControllerDelegate {
+class PROUPSELLS_EXPORT UpsellViewControllerDelegate {
 public:
     virtual ~UpsellViewControllerDelegate() = default;
 

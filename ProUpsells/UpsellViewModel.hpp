@@ -8,12 +8,13 @@
 
 #include "Platform/Combine/ObservableObject.hpp"
 #include "Platform/Combine/PassthroughSubject.hpp"
+#include "Platform/System/Compiler.hpp"
 #include "ProUpsells/SubscriptionOption.hpp"
 
 namespace proupsells {
 
 // Main thread only. Each write of a field is announced before it takes effect.
-class UpsellViewModel final : public combine::ObservableObject {
+class PROUPSELLS_EXPORT UpsellViewModel final : public combine::ObservableObject {
 public:
     // One tap on the paywall, on the button that the kind names.
     struct TapEvent {

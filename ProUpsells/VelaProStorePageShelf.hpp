@@ -6,12 +6,13 @@
 #include <string_view>
 #include <vector>
 
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 
 namespace proupsells {
 
 // Main thread only. Held by its page, so that its views may hold it weakly.
-class VelaProStorePageShelf : public std::enable_shared_from_this<VelaProStorePageShelf> {
+class PROUPSELLS_EXPORT VelaProStorePageShelf : public std::enable_shared_from_this<VelaProStorePageShelf> {
 public:
     virtual ~VelaProStorePageShelf() = default;
 

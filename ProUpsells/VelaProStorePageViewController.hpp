@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "Platform/Foundation/Coder.hpp"
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Collection/UICollectionViewDataSource.hpp"
 #include "Platform/UIKit/Collection/UICollectionViewDelegateFlowLayout.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
@@ -26,11 +27,11 @@ class VideoView;
 namespace proupsells {
 
 // Sells nothing itself: the plan button hands control back through continueToSelectPlan. Main thread only.
-class VelaProStorePageViewController : public uikit::UIViewController,
-                                       public ProUpsellControllerType,
-                                       public PromotionalPricingUpsell,
-                                       public uikit::UICollectionViewDataSource,
-                                       public uikit::UICollectionViewDelegateFlowLayout {
+class PROUPSELLS_EXPORT VelaProStorePageViewController : public uikit::UIViewController,
+                                                         public ProUpsellControllerType,
+                                                         public PromotionalPricingUpsell,
+                                                         public uikit::UICollectionViewDataSource,
+                                                         public uikit::UICollectionViewDelegateFlowLayout {
 public:
     // From the top down.
     using Shelves = std::vector<std::shared_ptr<VelaProStorePageShelf>>;

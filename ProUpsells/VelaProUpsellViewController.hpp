@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "Platform/Foundation/Coder.hpp"
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 #include "ProUpsells/ComparisonViewControllerDelegate.hpp"
 #include "ProUpsells/Entitlement.hpp"
@@ -23,9 +24,9 @@ namespace proupsells {
 
 // Embeds the paywall, forwards each of its actions to the delegate and reports it to the tracker. Both are held weakly; when one is
 // missing, its call is skipped and nothing else; one that is gone before the view loads costs one log line. Main thread only.
-class VelaProUpsellViewController : public uikit::UIViewController,
-                                    public UpsellViewControllerDelegate,
-                                    public ComparisonViewControllerDelegate {
+class PROUPSELLS_EXPORT VelaProUpsellViewController : public uikit::UIViewController,
+                                                      public UpsellViewControllerDelegate,
+                                                      public ComparisonViewControllerDelegate {
     struct Creation {};
 
 public:
@@ -122,6 +123,6 @@ private:
 };
 
 // The screen's name in analytics.
-const std::string& eventScreenTitle(VelaProUpsellViewController::Variant variant);
+PROUPSELLS_EXPORT const std::string& eventScreenTitle(VelaProUpsellViewController::Variant variant);
 
 } // namespace proupsells

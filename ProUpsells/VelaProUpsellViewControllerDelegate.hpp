@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "Platform/System/Compiler.hpp"
 #include "ProUpsells/SubscriptionOption.hpp"
 
 namespace proupsells {
@@ -18,7 +19,7 @@ enum class ClosingReason : std::uint8_t {
 
 // Always held weakly. From inside a call it may present, dismiss or let go of anything, the sender too, and change options; see
 // VelaProUpsellViewController::setOptions for the lists that are allowed.
-class VelaProUpsellViewControllerDelegate {
+class PROUPSELLS_EXPORT VelaProUpsellViewControllerDelegate {
 public:
     virtual ~VelaProUpsellViewControllerDelegate() = default;
 

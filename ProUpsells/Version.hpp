@@ -5,7 +5,7 @@
 
 extern "C" {
 // The project's version.
-PROUPSELLS_EXPORTED extern const double ProUpsellsVersionNumber;
+PROUPSELLS_ALWAYS_EXPORTED extern const double ProUpsellsVersionNumber;
 // Ends with a line feed.
-PROUPSELLS_EXPORTED extern const unsigned char ProUpsellsVersionString[];
+PROUPSELLS_ALWAYS_EXPORTED extern const unsigned char ProUpsellsVersionString[];
 }

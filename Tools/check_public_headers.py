@@ -3,7 +3,8 @@
 
 usage: check_public_headers.py ROOT LIST [BUILD]
 
-LIST names a header a line, relative to ROOT. The headers below Include/ (the umbrellas) must reach exactly the listed ones. With
+LIST names a header a line, relative to ROOT. The headers below Include/ (the umbrellas) must reach exactly the listed ones. What they
+declare and a source defines, and what has virtual functions, must be marked: a shared library shows nothing else. With
 BUILD, what `cmake --install` writes must be exactly them. Exit status 1 with a line for each difference."""
 import pathlib
 import re
@@ -13,6 +14,14 @@ import tempfile
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
 UMBRELLAS = "Include/"
+MARK = "PROUPSELLS_EXPORT "
+# Neither a template nor one with its body.
+FUNCTION = re.compile(rf"^(?:\[\[noreturn\]\] )?({MARK})?(?!inline |constexpr |using )[A-Za-z][\w:<>,&* ]*[ &*](\w+)"
+                      r"\((?:[^{};]|\{\})*\);", re.MULTILINE)
+CLASS = re.compile(rf"(?<!>\n)^(?:class|struct) ({MARK})?(\w+)\b[^;{{]*\{{\n(.*?)^\}};", re.MULTILINE | re.DOTALL)
+# A member that a source defines, or one that a host's classes may have anew.
+DEFINED_ELSEWHERE = re.compile(r"^    (?:virtual |(?!friend |using )[A-Za-z~\[](?:[^{};]|\{\})*\)(?: const)?(?: noexcept)?(?: override)?;)",
+                               re.MULTILINE)
 
 
 def installed_name(header: str) -> str:
@@ -42,6 +51,16 @@ def check_includes(root: pathlib.Path, listed: set[str]) -> list[str]:
         f"{name}: has a blank in its path" for name in sorted(listed) if " " in name]
 
 
+def check_marks(root: pathlib.Path, listed: set[str]) -> list[str]:
+    found = []
+    for header in sorted(listed):
+        text = (root / header).read_text(encoding="utf-8")
+        found += [f"{header}: {name} lacks {MARK.strip()}" for mark, name in FUNCTION.findall(text) if not mark]
+        found += [f"{header}: {name} lacks {MARK.strip()}" for mark, name, body in CLASS.findall(text)
+                  if not mark and DEFINED_ELSEWHERE.search(body)]
+    return found
+
+
 def check_installation(build: str, listed: set[str]) -> list[str]:
     with tempfile.TemporaryDirectory() as prefix:
         subprocess.run(["cmake", "--install", build, "--component", "Headers", "--prefix", prefix], check=True,
@@ -57,7 +76,7 @@ def main() -> int:
         return 2
     root = pathlib.Path(sys.argv[1])
     listed = set(pathlib.Path(sys.argv[2]).read_text(encoding="utf-8").split("\n")) - {""}
-    complaints = check_includes(root, listed)
+    complaints = check_includes(root, listed) + check_marks(root, listed)
     if len(sys.argv) == 4:
         complaints += check_installation(sys.argv[3], listed)
     print("\n".join([*complaints, f"{len(listed)} public headers, {len(complaints)} complaints"]))

@@ -24,6 +24,8 @@ PART = re.compile(r"(public|protected|private|signals|(public|protected|private)
 TYPE = re.compile(r"(template <.*?> )?(enum (class )?|class |struct |union )\w+\b[^;()=]*$")
 SPACE = re.compile(r"namespace\b[^;()=]*$|extern _+$")
 SELF_EXPLAINING = re.compile(r"= (default|delete);|~\w+\(")
+# Says nothing to readers.
+EXPORT = "PROUPSELLS_EXPORT "
 UNDOCUMENTED = re.compile(r'friend |Q_OBJECT|Q_ENUM|(class|struct) \w+;|namespace |extern "C" \{|[{};]')
 
 
@@ -230,7 +232,7 @@ def main() -> int:
         return 2
     name, kind = os.path.splitext(os.path.basename(sys.argv[1]))
     with open(sys.argv[1], encoding="utf-8") as file:
-        lines = file.read().split("\n")
+        lines = file.read().replace(EXPORT, "").split("\n")
     sys.stdout.write("\n".join(page(lines) if kind == ".md" else Translation(lines, name).run()))
     return 0
 

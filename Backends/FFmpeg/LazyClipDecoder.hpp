@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Backends/FFmpeg/ClipPlugin.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::ffmpegbackend {
 
@@ -14,7 +15,7 @@ class PluginLoader;
 
 // At Pace::realTime nothing here waits: clips show nothing until the plug-in is loaded. When it cannot be loaded, every clip is
 // unplayable at either pace, and that is logged once.
-class LazyClipDecoder final : public host::ClipDecoder {
+class PROUPSELLS_EXPORT LazyClipDecoder final : public host::ClipDecoder {
 public:
     // `folders` are searched for the plug-in, first one first.
     LazyClipDecoder(Pace pace, std::vector<std::filesystem::path> folders);

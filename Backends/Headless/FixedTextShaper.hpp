@@ -2,13 +2,14 @@
 #pragma once
 
 #include "Platform/Host/TextShaper.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::headless {
 
 // Every user-perceived character is half its font's size wide (letter spacing comes on top) and every line 1.25 × size high, the
 // ascent being 1 × size, whatever the font. Ends of lines have no width. Lines may break after blanks and hyphens and between
 // ideographs.
-class FixedTextShaper final : public host::TextShaper {
+class PROUPSELLS_EXPORT FixedTextShaper final : public host::TextShaper {
 public:
     // What a font's size is multiplied by.
     static constexpr double advancePerSize = 0.5;

@@ -10,11 +10,12 @@
 #include "Platform/Commons/DefaultLogger.hpp"
 #include "Platform/Host/Services.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::headless {
 
 // While it lives, its run loop is the main one, its services are installed, and log records are collected instead of written.
-class TestBed {
+class PROUPSELLS_EXPORT TestBed {
 public:
     // Takes one record that nobody has taken.
     using UnexpectedLogHandler = std::function<void(const commons::LogRecord&)>;

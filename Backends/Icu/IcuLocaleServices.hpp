@@ -4,13 +4,14 @@
 #include <memory>
 
 #include "Platform/Foundation/LocaleServices.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::icubackend {
 
 // Knows every language that ICU knows; an unknown locale is treated as ICU's root locale. Main thread only: it keeps what is costly
 // to make (the percents and the word breaks of the locale used last, the iterator over user-perceived characters, the memory for
 // directions). It stops the program when it needs data that ICU does not have.
-class IcuLocaleServices final : public foundation::LocaleServices {
+class PROUPSELLS_EXPORT IcuLocaleServices final : public foundation::LocaleServices {
 public:
     // Stops the program when ICU's data is missing.
     IcuLocaleServices();

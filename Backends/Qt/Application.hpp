@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "Platform/System/Compiler.hpp"
+
 class QGuiApplication;
 
 namespace proupsells::qtbackend {
@@ -17,7 +19,7 @@ struct ApplicationOptions {
 };
 
 // One a process, before fonts, pictures or windows are used.
-class Application {
+class PROUPSELLS_EXPORT Application {
 public:
     // Stops the program where there is an application object already.
     explicit Application(const ApplicationOptions& options = {});

@@ -9,6 +9,7 @@
 #include "Backends/Qt/QtInput.hpp"
 #include "Backends/Qt/ScreenPlace.hpp"
 #include "Backends/Standard/PixelScreen.hpp"
+#include "Platform/System/Compiler.hpp"
 
 class QKeyEvent;
 
@@ -16,7 +17,7 @@ namespace proupsells::qtbackend {
 
 // Paints a controller's screen where it stands, when that is due, and takes Qt's events. Whoever owns the screen is the object of
 // its place, and may be deleted from inside every call.
-class EmbeddedScreen {
+class PROUPSELLS_EXPORT EmbeddedScreen {
 public:
     // Installs what is missing. The handler is told when the controller is to go.
     EmbeddedScreen(std::unique_ptr<ScreenPlace> place, std::function<void()> dismissalHandler);

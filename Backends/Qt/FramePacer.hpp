@@ -5,13 +5,14 @@
 #include <functional>
 
 #include "Backends/Raster/PixelView.hpp"
+#include "Platform/System/Compiler.hpp"
 
 class QScreen;
 
 namespace proupsells::qtbackend {
 
 // Asks for a frame as soon as one is due, at most once a refresh of the display, and not at all while nobody can see it.
-class FramePacer {
+class PROUPSELLS_EXPORT FramePacer {
 public:
     // `view` must live longer. `paint` makes a frame; it may destroy the pacer.
     FramePacer(rasterbackend::PixelView& view, std::function<void()> paint);

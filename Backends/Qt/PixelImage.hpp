@@ -5,11 +5,12 @@
 #include <QRegion>
 
 #include "Backends/Raster/PixelView.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::qtbackend {
 
 // Keeps the last frame, so that it can be shown at any time without asking the content.
-class PixelImage {
+class PROUPSELLS_EXPORT PixelImage {
 public:
     // Paints what differs on `size`, in Qt's units, at `scale` pixels each. Returns where that was, in Qt's units.
     QRegion paint(rasterbackend::PixelView& view, QSize size, double scale);

@@ -8,6 +8,7 @@
 
 #include "Backends/Qt/AccessiblePlace.hpp"
 #include "Platform/Host/WindowContent.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::qtbackend {
 
@@ -21,7 +22,7 @@ struct AccessibilityListener {
 
 // Offers the content's texts, images and controls as a flat list under the window, widget or item that shows it. Reads the semantic
 // tree only while somebody listens. The content must live longer.
-class QtAccessibility {
+class PROUPSELLS_EXPORT QtAccessibility {
 public:
     QtAccessibility(std::unique_ptr<AccessiblePlace> place, host::WindowContent& content, AccessibilityListener listener = {});
     // In a window of its own.

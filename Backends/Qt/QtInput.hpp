@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "Platform/Host/WindowContent.hpp"
+#include "Platform/System/Compiler.hpp"
 
 class QKeyEvent;
 class QMouseEvent;
@@ -16,7 +17,7 @@ namespace proupsells::qtbackend {
 
 // The mouse's left button and the first finger touch; one of them at a time. Each call may destroy the input from inside the
 // content.
-class QtInput {
+class PROUPSELLS_EXPORT QtInput {
 public:
     explicit QtInput(std::shared_ptr<host::WindowContent> content) : m_content(std::move(content)) {}
 

@@ -4,11 +4,12 @@
 #include <QTimer>
 
 #include "Platform/RunLoop/MainRunLoop.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::qtbackend {
 
 // Sleeps until the next turn is due: between turns it costs nothing. Needs a QGuiApplication; the loop must live longer.
-class QtRunLoopDriver {
+class PROUPSELLS_EXPORT QtRunLoopDriver {
 public:
     // Takes the loop's wake-up handler.
     explicit QtRunLoopDriver(runloop::MainRunLoop& loop);

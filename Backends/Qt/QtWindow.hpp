@@ -8,6 +8,7 @@
 #include <string>
 
 #include "Backends/Raster/PixelView.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::qtbackend {
 
@@ -24,7 +25,7 @@ struct WindowOptions {
 
 // Shows a content and feeds it with mouse, touch, wheel and keys. Paints when the content asks for it, and at every refresh of
 // the display while the content is animating; otherwise it costs nothing. Needs a main run loop and a qtbackend::Application.
-class QtWindow final : public QWindow {
+class PROUPSELLS_EXPORT QtWindow final : public QWindow {
 public:
     // Shares the content. The window is hidden until show().
     QtWindow(std::shared_ptr<host::WindowContent> content, const WindowOptions& options);

@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Views/UITraitCollection.hpp"
 
 class QPalette;
@@ -22,6 +23,6 @@ struct ScreenTraits {
 };
 
 // Dark where texts are lighter than what they stand on.
-graphics::ColorScheme colorSchemeOf(const QPalette& palette);
+PROUPSELLS_EXPORT graphics::ColorScheme colorSchemeOf(const QPalette& palette);
 
 } // namespace proupsells::qtbackend

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "Backends/Qt/ScreenTraits.hpp"
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
 namespace proupsells::qtbackend {
@@ -22,7 +23,7 @@ namespace proupsells::qtquick {
 // The screen follows the application's palette and layout direction and the window's scale factor, unless a property says
 // otherwise. Tab goes through its controls and on to the next item; Escape leaves the screen in front. Invisible, it costs nothing.
 // It may be moved to another window at any time, and be deleted from inside any call that it makes.
-class ControllerItem : public QQuickItem {
+class PROUPSELLS_EXPORT ControllerItem : public QQuickItem {
     Q_OBJECT
     // What the host decides about the screen; at first the system and the application decide. `textSize` counts steps from the
     // usual size, from -3 to 8.

@@ -5,6 +5,7 @@
 #include <QVariantList>
 
 #include "Backends/QtQuick/ControllerItem.hpp"
+#include "Platform/System/Compiler.hpp"
 #include "ProUpsells/VelaProUpsellViewController.hpp"
 
 namespace proupsells::qtquick {
@@ -23,7 +24,7 @@ namespace proupsells::qtquick {
 // An option has a `sku`, a `period` ("monthly", "yearly" or "lifetime") and a `price`; a yearly one also a `monthlyPrice`. A
 // `trial` is the length of the free trial as a text, `introductoryPrice` its price, `hasUsedFreeTrial` says that the person has had
 // it. An option that lacks something costs one log line and is left out.
-class PaywallItem : public ControllerItem {
+class PROUPSELLS_EXPORT PaywallItem : public ControllerItem {
     Q_OBJECT
     // The plans, as above, in the order in which they are given.
     Q_PROPERTY(QVariantList options READ options WRITE setOptions NOTIFY optionsChanged)

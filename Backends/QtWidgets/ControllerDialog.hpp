@@ -4,12 +4,13 @@
 #include <QDialog>
 
 #include "Backends/QtWidgets/ControllerWidget.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::qtwidgets {
 
 // Presents a controller: show it with open(), exec() or show(). It closes when the controller is dismissed, by its close button, by
 // Escape, by the window's own close button or by the host. finished() comes after the controller has heard that it was closed.
-class ControllerDialog : public QDialog {
+class PROUPSELLS_EXPORT ControllerDialog : public QDialog {
     Q_OBJECT
 
 public:

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "Backends/Qt/ScreenTraits.hpp"
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
 namespace proupsells::qtbackend {
@@ -19,7 +20,7 @@ namespace proupsells::qtwidgets {
 // The screen follows the widget's palette and layout direction, the display's scale factor and the style's animations, unless
 // setTraits() says otherwise. Tab goes through its controls and on to the next widget; Escape leaves the screen in front. Hidden,
 // it costs nothing. It may be reparented at any time, and be deleted from inside any call that it makes.
-class ControllerWidget : public QWidget {
+class PROUPSELLS_EXPORT ControllerWidget : public QWidget {
     Q_OBJECT
 
 public:

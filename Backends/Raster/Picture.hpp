@@ -6,12 +6,13 @@
 #include <utility>
 
 #include "Backends/Raster/Pixel.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::rasterbackend {
 
 // Premultiplied pixels, the top row first, without gaps between the rows. Copies share the pixels; who makes a picture writes them
 // before handing it on.
-class Picture {
+class PROUPSELLS_EXPORT Picture {
 public:
     // Null: there is no picture.
     Picture() = default;

@@ -10,6 +10,7 @@
 #include "Backends/Raster/PixelBuffer.hpp"
 #include "Backends/Raster/PixelRect.hpp"
 #include "Platform/Host/WindowContent.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -24,7 +25,7 @@ namespace proupsells::rasterbackend {
 //
 // standard::PixelScreen is one for a controller, and installs what it needs. This one needs a main run loop, which must live
 // longer. Main thread only. The view may be destroyed from inside everything that it calls.
-class PixelView {
+class PROUPSELLS_EXPORT PixelView {
 public:
     // Shares the content, which must not be null.
     explicit PixelView(std::shared_ptr<host::WindowContent> content);

@@ -2,10 +2,11 @@
 #pragma once
 
 #include "Platform/Host/ImageDecoder.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::rasterbackend {
 
-class RasterImageDecoder final : public host::ImageDecoder {
+class PROUPSELLS_EXPORT RasterImageDecoder final : public host::ImageDecoder {
 public:
     std::optional<geometry::Size> naturalSize(const std::filesystem::path& file) override;
     bool canRead(const std::filesystem::path& file) override;

@@ -9,6 +9,7 @@
 #include "Backends/Raster/PixelBuffer.hpp"
 #include "Backends/Raster/PixelRect.hpp"
 #include "Platform/Host/Surface.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -17,7 +18,7 @@ class RasterPainter;
 struct PaintTarget;
 
 // Paints into memory of its own, or into a buffer that is lent to it. Main thread only.
-class RasterSurface final : public host::Surface {
+class PROUPSELLS_EXPORT RasterSurface final : public host::Surface {
 public:
     // Shares what other surfaces have prepared.
     RasterSurface();
@@ -65,6 +66,6 @@ private:
 };
 
 // The number of pixels that `size` points fill at `scale`.
-PixelSize pixelSize(geometry::Size size, double scale);
+PROUPSELLS_EXPORT PixelSize pixelSize(geometry::Size size, double scale);
 
 } // namespace proupsells::rasterbackend

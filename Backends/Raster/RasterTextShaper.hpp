@@ -6,6 +6,7 @@
 #include <string>
 
 #include "Platform/Host/TextShaper.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -14,7 +15,7 @@ struct FontSources;
 // Needs nothing but fonts, and some of those travel with the module. Main thread only; its texts may outlive it. The order of mixed
 // text is that of the installed locale services: with the built-in ones, texts that mix directions by invisible marks or in
 // brackets may be ordered wrongly.
-class RasterTextShaper final : public host::TextShaper {
+class PROUPSELLS_EXPORT RasterTextShaper final : public host::TextShaper {
 public:
     RasterTextShaper();
     // With fonts from other places than usual.

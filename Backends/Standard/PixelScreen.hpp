@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "Backends/Raster/PixelView.hpp"
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
 namespace proupsells::standard {
@@ -18,7 +19,7 @@ namespace proupsells::standard {
 //     }
 //
 // The screen may be destroyed from inside everything that it calls.
-class PixelScreen final : public rasterbackend::PixelView {
+class PROUPSELLS_EXPORT PixelScreen final : public rasterbackend::PixelView {
 public:
     // The size is in points. Null: an empty screen.
     explicit PixelScreen(std::shared_ptr<uikit::UIViewController> controller = nullptr, geometry::Size size = {});

@@ -1,6 +1,8 @@
 // The ordinary installation: every service that this package has, and a run loop on the real clock.
 #pragma once
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::standard {
 
 // Text and pictures by the pixel engine, clips and locale data where their backends were built, and a main run loop on the real
@@ -8,6 +10,6 @@ namespace proupsells::standard {
 // that it installs before or after, count in place of ours. A run loop on a real clock that is made afterwards stops the program;
 // one on a virtual clock stands in for ours as long as it lives. Further calls do nothing. The calling thread becomes the main
 // thread.
-void install();
+PROUPSELLS_EXPORT void install();
 
 } // namespace proupsells::standard

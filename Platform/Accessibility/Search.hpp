@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Platform/Accessibility/SemanticNode.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::accessibility {
 
@@ -20,22 +21,22 @@ std::vector<const SemanticNode*> controls(SemanticNode&& root) = delete;
 std::vector<const SemanticNode*> controlsNamed(SemanticNode&& root, std::string_view name) = delete;
 
 // The first node of the identifier; null when there is none.
-const SemanticNode* findByIdentifier(const SemanticNode& root, std::string_view identifier);
+PROUPSELLS_EXPORT const SemanticNode* findByIdentifier(const SemanticNode& root, std::string_view identifier);
 // All nodes of the identifier, or of the type as the code names it.
-std::vector<const SemanticNode*> findAllByIdentifier(const SemanticNode& root, std::string_view identifier);
-std::vector<const SemanticNode*> findAllByType(const SemanticNode& root, std::string_view type);
+PROUPSELLS_EXPORT std::vector<const SemanticNode*> findAllByIdentifier(const SemanticNode& root, std::string_view identifier);
+PROUPSELLS_EXPORT std::vector<const SemanticNode*> findAllByType(const SemanticNode& root, std::string_view type);
 // Nodes that show exactly this text.
-std::vector<const SemanticNode*> findAllByText(const SemanticNode& root, std::string_view text);
+PROUPSELLS_EXPORT std::vector<const SemanticNode*> findAllByText(const SemanticNode& root, std::string_view text);
 
 // Everything that can be tapped. Controls inside controls count too.
-std::vector<const SemanticNode*> controls(const SemanticNode& root);
+PROUPSELLS_EXPORT std::vector<const SemanticNode*> controls(const SemanticNode& root);
 // What a person calls it: its label, otherwise the texts inside it with a space between, otherwise its image's name.
-std::string nameOf(const SemanticNode& node);
+PROUPSELLS_EXPORT std::string nameOf(const SemanticNode& node);
 // Controls whose label is `name`, or whose shown texts, each or all together, are. A control and the text inside it are one; where
 // a control is inside another one, the inner one is meant.
-std::vector<const SemanticNode*> controlsNamed(const SemanticNode& root, std::string_view name);
+PROUPSELLS_EXPORT std::vector<const SemanticNode*> controlsNamed(const SemanticNode& root, std::string_view name);
 
 // All texts shown, in order.
-std::vector<std::string> shownTexts(const SemanticNode& root);
+PROUPSELLS_EXPORT std::vector<std::string> shownTexts(const SemanticNode& root);
 
 } // namespace proupsells::accessibility

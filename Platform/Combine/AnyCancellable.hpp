@@ -4,10 +4,12 @@
 #include <functional>
 #include <utility>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::combine {
 
 // Cancels its subscription when it is destroyed or replaced. Move-only; an empty token does nothing.
-class AnyCancellable {
+class PROUPSELLS_EXPORT AnyCancellable {
 public:
     AnyCancellable() = default;
     // `cancel` ends the subscription; it runs once.

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "Platform/Combine/PassthroughSubject.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::combine {
 
@@ -11,7 +12,7 @@ namespace proupsells::combine {
 struct WillChange {};
 
 // Base of every observed model. `objectWillChange` sends before each change of a published field.
-class ObservableObject {
+class PROUPSELLS_EXPORT ObservableObject {
 public:
     ObservableObject() = default;
     ObservableObject(const ObservableObject&) = delete;

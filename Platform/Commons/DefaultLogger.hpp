@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "Platform/Commons/SourceLocation.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::commons {
 
@@ -18,7 +19,7 @@ struct LogRecord {
     unsigned line = 0;
 };
 
-class DefaultLogger {
+class PROUPSELLS_EXPORT DefaultLogger {
 public:
     // On the logger's scale, 4 is an error that was survived.
     static constexpr int errorSeverity = 4;

@@ -2,11 +2,12 @@
 #pragma once
 
 #include "Platform/Foundation/LocaleServices.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::foundation {
 
 // English and ASCII; see LocaleServices.
-class BuiltInLocaleServices : public LocaleServices {
+class PROUPSELLS_EXPORT BuiltInLocaleServices : public LocaleServices {
 public:
     std::optional<std::string> percentText(double fraction, int maximumFractionDigits, const Locale& locale) const override;
     std::string upperCased(std::string_view text, const Locale& locale) const override;

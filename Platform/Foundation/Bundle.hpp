@@ -7,9 +7,11 @@
 #include <string>
 #include <string_view>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::foundation {
 
-class Bundle {
+class PROUPSELLS_EXPORT Bundle {
 public:
     // An absent folder, like an empty path, is an empty bundle.
     explicit Bundle(std::filesystem::path folder);
@@ -42,6 +44,6 @@ private:
 };
 
 // The text for `key` in the host application's bundle. The comment is for translators only.
-std::string localizedString(const std::string& key, std::string_view comment = {});
+PROUPSELLS_EXPORT std::string localizedString(const std::string& key, std::string_view comment = {});
 
 } // namespace proupsells::foundation

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::foundation {
 
 struct DecimalReading {
@@ -15,7 +17,7 @@ struct DecimalReading {
 
 // The double nearest to the longest number that `text` begins with: a minus sign or none, digits with or without a point, an
 // exponent. Absent where there is no number or no double can hold it, such as 1e999 or 1e-999.
-std::optional<DecimalReading> readDecimal(std::string_view text);
+PROUPSELLS_EXPORT std::optional<DecimalReading> readDecimal(std::string_view text);
 
 // The value 0.d1d2d3… × 10^pointPosition. No zero stands at the end of the digits, nor in front of them, unless the value is 0.
 struct Decimal {

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "Platform/Combine/PassthroughSubject.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::host {
 
@@ -14,7 +15,7 @@ struct Look;
 namespace proupsells::foundation {
 
 // A change of the current locale, of the locale services, of the main bundle or of the look. Main thread only.
-class LanguageChanges {
+class PROUPSELLS_EXPORT LanguageChanges {
 public:
     // How many there have been so far. Texts read at the same count are in the same language and the same typefaces.
     static std::uint64_t count();

@@ -6,15 +6,16 @@
 #include <vector>
 
 #include "Platform/Foundation/LocaleServices.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::foundation {
 
 // "de-AT" for "de_AT@currency=EUR": the language, script and region that an identifier names. Empty where it names none, as in an
 // empty identifier.
-std::string languageTagOf(std::string_view identifier);
+PROUPSELLS_EXPORT std::string languageTagOf(std::string_view identifier);
 
 // A locale such as "de_AT" or "en-US"; "-" and "_" mean the same.
-class Locale {
+class PROUPSELLS_EXPORT Locale {
 public:
     // Of any text, also of one that names no language.
     explicit Locale(std::string identifier = "en_US");

@@ -10,6 +10,7 @@
 
 #include "Platform/Foundation/BidiRun.hpp"
 #include "Platform/Geometry/Geometry.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::foundation {
 
@@ -19,7 +20,7 @@ class Locale;
 // English with ASCII letters, takes every code point for a user-perceived character (CR LF for one), knows which languages and
 // scripts run from right to left, and orders mixed text by a short form of the bidirectional algorithm. Texts are UTF-8;
 // ill-formed parts do no harm.
-class LocaleServices {
+class PROUPSELLS_EXPORT LocaleServices {
 public:
     virtual ~LocaleServices() = default;
 

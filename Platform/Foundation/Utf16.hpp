@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::foundation {
 
 // A character beyond U+FFFF is written as a high and a low surrogate.
@@ -15,7 +17,7 @@ constexpr bool isLowSurrogate(char32_t unit) { return unit >= 0xDC00 && unit <= 
 constexpr char32_t joinedSurrogates(char32_t high, char32_t low) { return 0x10000 + ((high - 0xD800) << 10) + (low - 0xDC00); }
 
 // UTF-8 texts, one after the other, as one UTF-16 text that knows where its units come from: for libraries that read UTF-16 only.
-class Utf16Text {
+class PROUPSELLS_EXPORT Utf16Text {
 public:
     Utf16Text() = default;
     explicit Utf16Text(std::string_view utf8) { append(utf8); }

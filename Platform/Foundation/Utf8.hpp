@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::foundation {
 
 // Stands for what is no character.
@@ -20,16 +22,16 @@ struct DecodedCharacter {
 };
 
 // The character that begins at `offset`, which must be below the text's length.
-DecodedCharacter decodeUtf8(std::string_view text, std::size_t offset);
+PROUPSELLS_EXPORT DecodedCharacter decodeUtf8(std::string_view text, std::size_t offset);
 
 // Adds one character; a surrogate or a value beyond U+10FFFF becomes a replacement character.
 void appendUtf8(std::string& text, char32_t character);
 
 // Where the first ill-formed part begins, in bytes; absent in valid UTF-8.
-std::optional<std::size_t> firstInvalidUtf8(std::string_view text);
+PROUPSELLS_EXPORT std::optional<std::size_t> firstInvalidUtf8(std::string_view text);
 inline bool isValidUtf8(std::string_view text) { return !firstInvalidUtf8(text); }
 
 // The text with a replacement character for every ill-formed part.
-std::string repairedUtf8(std::string_view text);
+PROUPSELLS_EXPORT std::string repairedUtf8(std::string_view text);
 
 } // namespace proupsells::foundation

@@ -5,13 +5,14 @@
 #include <vector>
 
 #include "Platform/Geometry/Transform.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::geometry {
 
 // An arc of a circle, or a curve that bends little by little.
 enum class CornerStyle : std::uint8_t { circular, continuous };
 
-class Path {
+class PROUPSELLS_EXPORT Path {
 public:
     // One step of the pen.
     enum class Verb : std::uint8_t { move, line, cubic, close };

@@ -2,11 +2,12 @@
 #pragma once
 
 #include "Platform/Geometry/Geometry.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::geometry {
 
 // Maps (x, y) to (a·x + c·y + tx, b·x + d·y + ty).
-struct Transform {
+struct PROUPSELLS_EXPORT Transform {
     double a = 1;
     double b = 0;
     double c = 0;

@@ -7,6 +7,7 @@
 
 #include "Platform/Graphics/Color.hpp"
 #include "Platform/Graphics/Font.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::graphics {
 
@@ -39,7 +40,7 @@ struct AttributedRun {
     bool operator==(const AttributedRun&) const = default;
 };
 
-class AttributedString {
+class PROUPSELLS_EXPORT AttributedString {
 public:
     AttributedString() = default;
     // No run at all for an empty text.

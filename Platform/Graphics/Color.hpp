@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::graphics {
 
 // Which of its two values a colour shows.
@@ -26,7 +28,7 @@ constexpr RGBA rgb(std::uint32_t hex, std::uint8_t alpha = 255) {
 
 class Palette;
 
-struct Color {
+struct PROUPSELLS_EXPORT Color {
     std::string_view name; // the design system's; names live as long as the process
     RGBA light;
     RGBA dark;

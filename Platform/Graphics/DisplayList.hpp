@@ -8,6 +8,7 @@
 #include "Platform/Geometry/Path.hpp"
 #include "Platform/Graphics/Image.hpp"
 #include "Platform/Graphics/ShapedText.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::graphics {
 
@@ -57,7 +58,7 @@ struct Command {
     std::uint32_t endCluster = 0;
 };
 
-class DisplayList {
+class PROUPSELLS_EXPORT DisplayList {
 public:
     // What is painted, the last one in front.
     std::vector<Command> commands;
@@ -89,9 +90,9 @@ private:
 };
 
 // Whether a command of one list paints exactly what a command of another does.
-bool paintsTheSame(const DisplayList& a, const Command& inA, const DisplayList& b, const Command& inB);
+PROUPSELLS_EXPORT bool paintsTheSame(const DisplayList& a, const Command& inA, const DisplayList& b, const Command& inB);
 
 // The part of the window in which two lists differ: a few rectangles, empty when they paint the same. Keeps the memory of `result`.
-void findDamage(const DisplayList& before, const DisplayList& after, std::vector<geometry::Rect>& result);
+PROUPSELLS_EXPORT void findDamage(const DisplayList& before, const DisplayList& after, std::vector<geometry::Rect>& result);
 
 } // namespace proupsells::graphics

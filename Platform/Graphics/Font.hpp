@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::graphics {
 
 // One face of a typeface, under the name that the design system uses.
@@ -15,9 +17,9 @@ struct FontFace {
 };
 
 // Registers a face, or finds the one of the same name. The reference is good for the life of the process.
-const FontFace& registerFontFace(std::string_view name, std::string_view family, int weight);
+PROUPSELLS_EXPORT const FontFace& registerFontFace(std::string_view name, std::string_view family, int weight);
 // Null when no face has the name.
-const FontFace* findFontFace(std::string_view name);
+PROUPSELLS_EXPORT const FontFace* findFontFace(std::string_view name);
 
 struct Font {
     const FontFace* face = nullptr;    // null means the system's default face

@@ -5,11 +5,12 @@
 
 #include "Platform/Graphics/DisplayList.hpp"
 #include "Platform/Graphics/TextLayout.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::graphics {
 
 // What is in force at a place of a tree. Cheap to copy; a parent hands a changed copy to its children.
-struct PaintState {
+struct PROUPSELLS_EXPORT PaintState {
     geometry::Point origin;                        // of the current coordinates, in window points before `transform`
     geometry::Rect clip{{-1e9, -1e9}, {2e9, 2e9}}; // in window points
     geometry::Rect roundedClip;
@@ -54,7 +55,7 @@ inline std::optional<geometry::Rect> PaintState::visibleRect() const {
 inline bool PaintState::hides(const geometry::Rect& rect) const { return !(opacity > 0) || !toWindow(rect).intersects(clip); }
 
 // Everything is in current coordinates of the state that is given with it. Commands that nothing of can be seen are left out.
-class PaintContext {
+class PROUPSELLS_EXPORT PaintContext {
 public:
     // Writes to the end of `list`, which must live longer.
     explicit PaintContext(DisplayList& list) : m_list(list) {}

@@ -16,10 +16,11 @@
 #include <vector>
 
 #include "Platform/Geometry/Geometry.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::graphics {
 
-struct PictureHeader {
+struct PROUPSELLS_EXPORT PictureHeader {
     // Without the dot.
     static constexpr std::string_view fileExtension = "picture";
     static constexpr std::uint32_t maximumSizeCount = 64;

@@ -8,6 +8,7 @@
 
 #include "Platform/Geometry/Geometry.hpp"
 #include "Platform/Graphics/Font.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::graphics {
 
@@ -42,7 +43,7 @@ struct RunMetrics {
 };
 
 // One text in logical order. A backend's own kind carries its glyphs.
-class ShapedText {
+class PROUPSELLS_EXPORT ShapedText {
 public:
     virtual ~ShapedText() = default;
 
@@ -53,10 +54,10 @@ public:
 };
 
 // All runs' texts, one after the other.
-std::string joinedText(std::span<const StyledRun> runs);
+PROUPSELLS_EXPORT std::string joinedText(std::span<const StyledRun> runs);
 
 // Gives the clusters the levels that the current locale services find in the text. A paragraph without a letter reads in
 // `fallback`.
-void assignBidiLevels(ShapedText& text, geometry::LayoutDirection fallback);
+PROUPSELLS_EXPORT void assignBidiLevels(ShapedText& text, geometry::LayoutDirection fallback);
 
 } // namespace proupsells::graphics

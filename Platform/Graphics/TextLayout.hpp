@@ -7,6 +7,7 @@
 
 #include "Platform/Geometry/Geometry.hpp"
 #include "Platform/Graphics/ShapedText.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::graphics {
 
@@ -62,6 +63,6 @@ struct TextLayout {
 // Greedy wrapping at the allowed breaks; a word wider than the line is broken between clusters. An empty text has one line of
 // no width and its first run's height; one that ends in a line feed has an empty last line. The last line of a cut text is filled
 // with as much of the text as leaves room for the ellipsis. Keeps the vectors' memory of `result`.
-void layOutText(const ShapedText& text, const TextLayoutRequest& request, TextLayout& result);
+PROUPSELLS_EXPORT void layOutText(const ShapedText& text, const TextLayoutRequest& request, TextLayout& result);
 
 } // namespace proupsells::graphics

@@ -7,9 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::graphics {
 
-struct Typefaces {
+struct PROUPSELLS_EXPORT Typefaces {
     struct File {
         std::string family;
         int weight = 400; // 100 to 900, as in OpenType

@@ -6,6 +6,7 @@
 
 #include "Platform/Geometry/Geometry.hpp"
 #include "Platform/Graphics/DisplayList.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::host {
 
@@ -16,7 +17,7 @@ struct ClipFrame {
 };
 
 // One file, decoded once for everybody who shows it. Costs nothing while nobody asks.
-class Clip {
+class PROUPSELLS_EXPORT Clip {
 public:
     virtual ~Clip() = default;
 
@@ -28,7 +29,7 @@ public:
     virtual bool isPlayable() const = 0;
 };
 
-class ClipDecoder {
+class PROUPSELLS_EXPORT ClipDecoder {
 public:
     virtual ~ClipDecoder() = default;
 

@@ -5,10 +5,11 @@
 #include <optional>
 
 #include "Platform/Geometry/Geometry.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::host {
 
-class ImageDecoder {
+class PROUPSELLS_EXPORT ImageDecoder {
 public:
     virtual ~ImageDecoder() = default;
 

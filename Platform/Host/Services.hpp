@@ -6,6 +6,7 @@
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/Host/ImageDecoder.hpp"
 #include "Platform/Host/TextShaper.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::host {
 
@@ -19,7 +20,7 @@ struct Services {
 };
 
 // Installs services for as long as it lives; the newest installation counts. Main thread only.
-class Installation {
+class PROUPSELLS_EXPORT Installation {
 public:
     // Shares the services. Shaped texts that were kept are forgotten, here and at the end.
     explicit Installation(Services services);

@@ -2,10 +2,11 @@
 #pragma once
 
 #include "Platform/Graphics/DisplayList.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::host {
 
-class Surface {
+class PROUPSELLS_EXPORT Surface {
 public:
     virtual ~Surface() = default;
 

@@ -7,10 +7,11 @@
 
 #include "Platform/Geometry/Geometry.hpp"
 #include "Platform/Graphics/ShapedText.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::host {
 
-class TextShaper {
+class PROUPSELLS_EXPORT TextShaper {
 public:
     virtual ~TextShaper() = default;
 

@@ -5,6 +5,7 @@
 
 #include "Platform/Accessibility/SemanticNode.hpp"
 #include "Platform/Graphics/DisplayList.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::host {
 
@@ -24,7 +25,7 @@ enum class FocusEnd { first, last };
 // Keys that mean something to every content; the backend says which of its own they are.
 enum class Key { escape, tab, backTab, activate, up, down, left, right };
 
-class WindowContent {
+class PROUPSELLS_EXPORT WindowContent {
 public:
     virtual ~WindowContent() = default;
 

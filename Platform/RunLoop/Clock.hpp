@@ -3,10 +3,12 @@
 
 #include <cstdint>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::runloop {
 
 // Tells the time that the loop runs on, in seconds. Never goes back.
-class Clock {
+class PROUPSELLS_EXPORT Clock {
 public:
     virtual ~Clock() = default;
     // Seconds since some fixed moment of the clock's own.
@@ -14,7 +16,7 @@ public:
 };
 
 // Starts at 0 and stands still until it is told to move.
-class VirtualClock final : public Clock {
+class PROUPSELLS_EXPORT VirtualClock final : public Clock {
 public:
     double now_s() const override { return m_now_s; }
     // A time that has passed already (or is not a number) changes nothing.
@@ -25,7 +27,7 @@ private:
 };
 
 // Seconds since its creation.
-class RealClock final : public Clock {
+class PROUPSELLS_EXPORT RealClock final : public Clock {
 public:
     RealClock();
     double now_s() const override;

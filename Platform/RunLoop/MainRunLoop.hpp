@@ -8,13 +8,14 @@
 #include "Platform/RunLoop/Clock.hpp"
 #include "Platform/RunLoop/Timer.hpp"
 #include "Platform/RunLoop/UpdateClient.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::runloop {
 
 // Orders work by (due time, sequence number). A turn is the due callbacks of one moment, then the updates that they
 // caused; repeating timers that fired are re-armed at the turn's end, on their own grid, with new sequence numbers.
 // All of it, scheduling included, belongs to the main thread.
-class MainRunLoop {
+class PROUPSELLS_EXPORT MainRunLoop {
 public:
     // Stops the program on a real clock while another loop runs on one. Loops on virtual clocks stand in for the ones before them.
     explicit MainRunLoop(std::shared_ptr<Clock> clock);

@@ -4,10 +4,12 @@
 #include <cstdint>
 #include <functional>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::runloop {
 
 // Fires once or repeatedly; made by MainRunLoop. Letting go of the pointer does not cancel it.
-class Timer {
+class PROUPSELLS_EXPORT Timer {
 public:
     // A one-shot is valid until it fires (inside its callback no longer), a repeating timer until it is invalidated.
     bool isValid() const { return m_isValid; }

@@ -1,10 +1,12 @@
 // What takes part in the update at the end of a turn.
 #pragma once
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::runloop {
 
 // Something that is brought up to date at the end of a turn, at most once a turn for each request.
-class UpdateClient {
+class PROUPSELLS_EXPORT UpdateClient {
 public:
     virtual ~UpdateClient() = default;
     // Called on the main thread, within the turn that the request has led to.

@@ -4,10 +4,12 @@
 #include <filesystem>
 #include <system_error>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::system {
 
 // The process goes on as the program in `file`. `arguments` ends with a null pointer; its first entry is the name that the program
 // is told it has. Comes back only when that fails, with the reason.
-std::error_code becomeProgram(const std::filesystem::path& file, char* const* arguments);
+PROUPSELLS_EXPORT std::error_code becomeProgram(const std::filesystem::path& file, char* const* arguments);
 
 } // namespace proupsells::system

@@ -16,11 +16,18 @@
 
 // Programs and libraries show the symbol to others, by its name.
 #if defined(_WIN32)
-#define PROUPSELLS_EXPORTED __declspec(dllexport)
+#define PROUPSELLS_ALWAYS_EXPORTED __declspec(dllexport)
 #elif __has_cpp_attribute(gnu::visibility)
-#define PROUPSELLS_EXPORTED [[gnu::visibility("default")]]
+#define PROUPSELLS_ALWAYS_EXPORTED [[gnu::visibility("default")]]
 #else
-#define PROUPSELLS_EXPORTED
+#define PROUPSELLS_ALWAYS_EXPORTED
+#endif
+
+// Hosts, or another of our libraries, use the class or function. Shared libraries show it; what is linked statically shows nothing.
+#if defined(PROUPSELLS_SHARED)
+#define PROUPSELLS_EXPORT PROUPSELLS_ALWAYS_EXPORTED
+#else
+#define PROUPSELLS_EXPORT
 #endif
 
 // The symbol stays although no code reads it.

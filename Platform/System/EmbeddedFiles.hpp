@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::system {
 
 struct EmbeddedFile {
@@ -18,7 +20,7 @@ struct EmbeddedFile {
 
 // A table of such files, as a global object: the package's build function proupsells_embed_resources() writes one. Each is read by
 // its path, root() / name. Of two files of one name, the one whose table was made first counts.
-class EmbeddedFiles {
+class PROUPSELLS_EXPORT EmbeddedFiles {
 public:
     // Names ascend by their bytes. The table and the bytes outlive this.
     explicit EmbeddedFiles(std::span<const EmbeddedFile> files);

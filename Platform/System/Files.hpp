@@ -6,17 +6,19 @@
 #include <string>
 #include <vector>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::system {
 
 // Everything here takes paths of both kinds (EmbeddedFiles), as MappedFile does. What cannot be looked at is not there.
-bool isThere(const std::filesystem::path& path);
-bool isFile(const std::filesystem::path& path);
+PROUPSELLS_EXPORT bool isThere(const std::filesystem::path& path);
+PROUPSELLS_EXPORT bool isFile(const std::filesystem::path& path);
 
 // What is right inside the folder, sorted by name, because folders are listed in no particular order.
-std::vector<std::filesystem::path> filesIn(const std::filesystem::path& folder);
-std::vector<std::filesystem::path> foldersIn(const std::filesystem::path& folder);
+PROUPSELLS_EXPORT std::vector<std::filesystem::path> filesIn(const std::filesystem::path& folder);
+PROUPSELLS_EXPORT std::vector<std::filesystem::path> foldersIn(const std::filesystem::path& folder);
 
 // For small files that may change while they are read. Absent when it is no file or cannot be read to its end.
-std::optional<std::string> contentsOf(const std::filesystem::path& file);
+PROUPSELLS_EXPORT std::optional<std::string> contentsOf(const std::filesystem::path& file);
 
 } // namespace proupsells::system

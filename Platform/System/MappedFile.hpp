@@ -5,9 +5,11 @@
 #include <filesystem>
 #include <string_view>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::system {
 
-class MappedFile {
+class PROUPSELLS_EXPORT MappedFile {
 public:
     // Has no bytes where the file is empty, absent, no regular file or cannot be read.
     explicit MappedFile(const std::filesystem::path& file);

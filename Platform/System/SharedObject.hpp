@@ -4,10 +4,12 @@
 #include <filesystem>
 #include <string>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::system {
 
 // The library stays loaded until the process ends, because what it made may live that long.
-class SharedObject {
+class PROUPSELLS_EXPORT SharedObject {
 public:
     // Loads the library and what it needs.
     explicit SharedObject(const std::filesystem::path& file);

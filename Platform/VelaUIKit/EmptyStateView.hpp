@@ -4,12 +4,13 @@
 #include <optional>
 #include <string>
 
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Views/UIView.hpp"
 
 namespace proupsells::velauikit {
 
 // Covers what is behind it with the page background.
-class EmptyStateView : public uikit::UIView {
+class PROUPSELLS_EXPORT EmptyStateView : public uikit::UIView {
 public:
     // Why nothing is shown. With `none` the view covers nothing.
     enum class Kind { none = 0, message = 1, waiting = 2 };

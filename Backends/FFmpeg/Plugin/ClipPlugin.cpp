@@ -27,7 +27,7 @@ private:
 
 } // namespace
 
-extern "C" PROUPSELLS_EXPORTED host::ClipDecoder* proupsellsMakeClipDecoder2(const PluginHost& host) {
+extern "C" PROUPSELLS_ALWAYS_EXPORTED host::ClipDecoder* proupsellsMakeClipDecoder2(const PluginHost& host) {
     return new FFmpegClipDecoder(host);
 }
 

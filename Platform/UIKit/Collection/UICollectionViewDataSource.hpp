@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Collection/IndexPath.hpp"
 #include "Platform/UIKit/Views/UIKitTypes.hpp"
 
@@ -17,7 +18,7 @@ class UICollectionViewCell;
 // What stands above or below a section's items.
 enum class UICollectionElementKind { sectionHeader, sectionFooter };
 
-class UICollectionViewDataSource {
+class PROUPSELLS_EXPORT UICollectionViewDataSource {
 public:
     virtual ~UICollectionViewDataSource() = default;
 

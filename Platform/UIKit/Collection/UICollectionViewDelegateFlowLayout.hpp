@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "Platform/Geometry/Geometry.hpp"
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Collection/UICollectionViewDataSource.hpp"
 #include "Platform/UIKit/Views/UIScrollViewDelegate.hpp"
 
@@ -13,7 +14,7 @@ namespace proupsells::uikit {
 class UICollectionViewFlowLayout;
 
 // What is absent is the layout's own value.
-class UICollectionViewDelegateFlowLayout : public UIScrollViewDelegate {
+class PROUPSELLS_EXPORT UICollectionViewDelegateFlowLayout : public UIScrollViewDelegate {
 public:
     // An item's size and the room around a section's items, in points.
     virtual std::optional<geometry::Size> collectionViewLayoutSizeForItemAt(UICollectionView&, UICollectionViewFlowLayout&,

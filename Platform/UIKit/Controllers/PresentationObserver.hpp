@@ -1,11 +1,12 @@
 // Told of what is presented and dismissed, when it is asked for.
 #pragma once
 
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 
 namespace proupsells::uikit {
 
-class PresentationObserver {
+class PROUPSELLS_EXPORT PresentationObserver {
 public:
     virtual ~PresentationObserver() = default;
 

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "Platform/Geometry/Geometry.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::uikit {
 
@@ -15,9 +16,10 @@ enum class UIModalPresentationStyle {
 };
 
 // "pageSheet", "formSheet" or "fullScreen"; automatic is the page sheet.
-std::string_view presentationStyleName(UIModalPresentationStyle style);
+PROUPSELLS_EXPORT std::string_view presentationStyleName(UIModalPresentationStyle style);
 
 // Where a controller of a style and a preferred size (zero for none) stands in a window. A card is never larger than the window.
-geometry::Rect presentationFrame(UIModalPresentationStyle style, geometry::Size preferredSize, geometry::Size windowSize);
+PROUPSELLS_EXPORT geometry::Rect presentationFrame(UIModalPresentationStyle style, geometry::Size preferredSize,
+                                                   geometry::Size windowSize);
 
 } // namespace proupsells::uikit

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Controllers/UIModalPresentationStyle.hpp"
 #include "Platform/UIKit/Controllers/UINavigationItem.hpp"
 #include "Platform/UIKit/Views/UIView.hpp"
@@ -15,7 +16,7 @@ class UINavigationController;
 
 // Made with std::make_shared, or with the static `create` of classes whose making needs a weak reference to the new controller.
 // Parents own children, presenters own what they present, a controller owns its view.
-class UIViewController : public UIResponder {
+class PROUPSELLS_EXPORT UIViewController : public UIResponder {
 public:
     UIViewController() = default;
     ~UIViewController() override;

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "Platform/RunLoop/MainRunLoop.hpp"
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Controllers/PresentationObserver.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 
@@ -15,7 +16,7 @@ class PresentationStack;
 class TouchRouter;
 
 // Layout and picture changes of one turn of the run loop are brought together in one update at the turn's end.
-class UIWindow : public UIView, public host::WindowContent, public runloop::UpdateClient {
+class PROUPSELLS_EXPORT UIWindow : public UIView, public host::WindowContent, public runloop::UpdateClient {
     struct Creation {};
 
 public:

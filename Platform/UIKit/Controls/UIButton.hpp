@@ -1,13 +1,14 @@
 // A button whose content is given by its maker.
 #pragma once
 
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Controls/UIControl.hpp"
 
 namespace proupsells::uikit {
 
 // Of the custom type: no title, tint or background of its own. Shows its image at its natural size in the centre, and its subviews,
 // which should not take touches. Answers a finger by dimming.
-class UIButton : public UIControl {
+class PROUPSELLS_EXPORT UIButton : public UIControl {
 public:
     std::string_view typeName() const override { return "UIButton"; }
 

@@ -4,11 +4,12 @@
 #include <functional>
 #include <type_traits>
 
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Views/UIView.hpp"
 
 namespace proupsells::uikit {
 
-class UIControl : public UIView {
+class PROUPSELLS_EXPORT UIControl : public UIView {
 public:
     // What targets can be told of. The control's surroundings count as inside, as far as trackingMargin says.
     enum class Event { touchDown, touchDragEnter, touchDragExit, touchUpInside, touchUpOutside, touchCancel, valueChanged };

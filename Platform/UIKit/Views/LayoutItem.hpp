@@ -4,12 +4,14 @@
 #include <cstdint>
 #include <memory>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::uikit {
 
 class UIView;
 
 // Outlives the view, so that a constraint can tell that the view has gone.
-struct LayoutItem {
+struct PROUPSELLS_EXPORT LayoutItem {
     // Made by the view's LayoutItemOwner.
     explicit LayoutItem(UIView& view);
 

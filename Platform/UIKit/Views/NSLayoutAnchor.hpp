@@ -5,6 +5,7 @@
 #include <memory>
 #include <type_traits>
 
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Views/LayoutItem.hpp"
 
 namespace proupsells::uikit {
@@ -24,8 +25,9 @@ struct LayoutTerm {
 };
 
 // first ~ multiplier · second + constant, required and not active.
-std::shared_ptr<NSLayoutConstraint> makeLayoutConstraint(const LayoutTerm& first, NSLayoutRelation relation,
-                                                         const LayoutTerm& second, double multiplier, double constant);
+PROUPSELLS_EXPORT std::shared_ptr<NSLayoutConstraint> makeLayoutConstraint(const LayoutTerm& first, NSLayoutRelation relation,
+                                                                           const LayoutTerm& second, double multiplier,
+                                                                           double constant);
 
 // Makes constraints with anchors of its own kind; they are required and not active yet. An anchor keeps no view alive.
 template <class Kind>

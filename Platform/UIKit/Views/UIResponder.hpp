@@ -4,6 +4,7 @@
 #include <memory>
 #include <string_view>
 
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Views/UITouch.hpp"
 
 namespace proupsells::uikit {
@@ -15,7 +16,7 @@ struct Selector {
     bool operator==(const Selector&) const = default;
 };
 
-class UIResponder : public std::enable_shared_from_this<UIResponder> {
+class PROUPSELLS_EXPORT UIResponder : public std::enable_shared_from_this<UIResponder> {
 public:
     UIResponder() = default;
     UIResponder(const UIResponder&) = delete;

@@ -1,11 +1,13 @@
 // What a scroll view tells about its movements.
 #pragma once
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::uikit {
 
 class UIScrollView;
 
-class UIScrollViewDelegate {
+class PROUPSELLS_EXPORT UIScrollViewDelegate {
 public:
     virtual ~UIScrollViewDelegate() = default;
 

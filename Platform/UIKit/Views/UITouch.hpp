@@ -2,12 +2,13 @@
 #pragma once
 
 #include "Platform/Host/WindowContent.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::uikit {
 
 class UIView;
 
-struct UITouch {
+struct PROUPSELLS_EXPORT UITouch {
     host::TouchPhase phase = host::TouchPhase::began;
     geometry::Point windowLocation;
     geometry::Point startWindowLocation; // where the finger came down

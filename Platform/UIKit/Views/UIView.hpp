@@ -9,6 +9,7 @@
 #include "Platform/Foundation/LanguageChanges.hpp"
 #include "Platform/Geometry/Transform.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Views/NSLayoutAnchor.hpp"
 #include "Platform/UIKit/Views/UIKitTypes.hpp"
 #include "Platform/UIKit/Views/UIResponder.hpp"
@@ -23,7 +24,7 @@ class UIViewController;
 class UIWindow;
 
 // Made with std::make_shared. A view owns its subviews; everything else that points to a view does so weakly.
-class UIView : public UIResponder {
+class PROUPSELLS_EXPORT UIView : public UIResponder {
 public:
     UIView();
     // Stands at `frame` until somebody lays it out.
