@@ -267,3 +267,25 @@ TEST_F(Widgets, HangTheirAccessibleTreeIntoTheHostsOwn) {
     tree->child(1)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_THAT(screen->presses, ElementsAre("second"));
 }
+
+TEST_F(Widgets, TellAssistiveTechnologyWhereThingsAreAfterAChangeOfSize) {
+    class WideButton : public uikit::UIViewController {
+        void viewDidLoad() override {
+            m_button->accessibilityLabel = "wide";
+            view()->addSubview(m_button);
+        }
+        void viewDidLayoutSubviews() override { m_button->setFrame(view()->bounds()); }
+
+        std::shared_ptr<uikit::UIButton> m_button = std::make_shared<uikit::UIButton>();
+    };
+    show();
+    widget->setController(std::make_shared<WideButton>());
+    QAccessible::setActive(true);
+    QAccessibleInterface* const tree = QAccessible::queryAccessibleInterface(widget);
+    ASSERT_EQ(tree->childCount(), 1);
+    widget->resize(60, 90);
+    settle();
+    QAccessible::setActive(false);
+
+    EXPECT_EQ(tree->child(0)->rect().size(), QSize(60, 90));
+}

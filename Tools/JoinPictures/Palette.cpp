@@ -23,6 +23,7 @@ std::vector<Share> sharesOf(const std::vector<Colour>& pixels) {
     std::map<Colour, std::uint64_t> counts;
     for (const Colour pixel : pixels) ++counts[pixel];
     std::vector<Share> shares;
+    shares.reserve(counts.size());
     for (const auto& [colour, count] : counts) shares.push_back({colour, count});
     std::stable_sort(shares.begin(), shares.end(), [](const Share& a, const Share& b) { return a.count > b.count; });
     return shares;
@@ -34,7 +35,7 @@ struct Box {
     int widest = 0;         // channel
     std::uint64_t cost = 0; // what it would help to split the box
 
-    explicit Box(std::span<Share> shares_) : shares(shares_) {
+    explicit Box(std::span<Share> among) : shares(among) {
         std::uint64_t count = 0;
         for (const Share& share : shares) count += share.count;
         int length = 0;
