@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "Platform/Foundation/Ascii.hpp"
 #include "Platform/Foundation/LanguageChanges.hpp"
 #include "Platform/RunLoop/MainActor.hpp"
 
@@ -11,13 +12,27 @@ namespace proupsells::foundation {
 
 namespace {
 
+// What "zh-TW" leaves unsaid: the script of Chinese in the region, by Unicode CLDR's likely subtags. Empty for other languages, and
+// where the tag names a script.
+std::string likelyChinese(std::string_view tag) {
+    const std::string lowerCased = asciiLowerCased(std::string(tag));
+    if (lowerCased == "zh") return "zh-Hans";
+    constexpr std::size_t regionAt = 3, regionLength = 2;
+    if (!lowerCased.starts_with("zh-") || lowerCased.find('-', regionAt) != std::string::npos) return {};
+    const std::string_view region = std::string_view(lowerCased).substr(regionAt);
+    if (region.size() != regionLength) return {};
+    return region == "tw" || region == "hk" || region == "mo" ? "zh-Hant" : "zh-Hans";
+}
+
 std::vector<std::string> chainOf(std::string tag) {
     std::vector<std::string> chain;
+    const std::string likely = likelyChinese(tag);
     while (!tag.empty()) {
         chain.push_back(tag);
         const std::size_t lastPart = tag.rfind('-');
         tag.resize(lastPart == std::string::npos ? 0 : lastPart);
     }
+    if (!likely.empty()) chain.insert(chain.size() == 1 ? chain.end() : chain.end() - 1, likely);
     return chain;
 }
 

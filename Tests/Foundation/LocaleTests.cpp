@@ -37,6 +37,18 @@ TEST(LanguageChain, GoesFromTheMostExactToTheLanguage) {
     EXPECT_THAT(Locale("ca_ES_VALENCIA").languageChain(), ElementsAre("ca-ES-VALENCIA", "ca-ES", "ca"));
 }
 
+TEST(LanguageChain, KnowsInWhichScriptChineseIsWritten) {
+    EXPECT_THAT(Locale("zh_TW").languageChain(), ElementsAre("zh-TW", "zh-Hant", "zh"));
+    EXPECT_THAT(Locale("zh-HK").languageChain(), ElementsAre("zh-HK", "zh-Hant", "zh"));
+    EXPECT_THAT(Locale("ZH_mo").languageChain(), ElementsAre("ZH-mo", "zh-Hant", "ZH"));
+    EXPECT_THAT(Locale("zh_CN").languageChain(), ElementsAre("zh-CN", "zh-Hans", "zh"));
+    EXPECT_THAT(Locale("zh_SG").languageChain(), ElementsAre("zh-SG", "zh-Hans", "zh"));
+    EXPECT_THAT(Locale("zh").languageChain(), ElementsAre("zh", "zh-Hans"));
+    EXPECT_THAT(Locale("zh_Hans_HK").languageChain(), ElementsAre("zh-Hans-HK", "zh-Hans", "zh"));
+    EXPECT_THAT(Locale("zh_Hant").languageChain(), ElementsAre("zh-Hant", "zh"));
+    EXPECT_THAT(Locale("zha_TW").languageChain(), ElementsAre("zha-TW", "zha"));
+}
+
 TEST(LanguageChain, LeavesKeywordsAndCodesetsOut) {
     EXPECT_THAT(Locale("de_DE@currency=EUR").languageChain(), ElementsAre("de-DE", "de"));
     EXPECT_THAT(Locale("pt_BR.UTF-8").languageChain(), ElementsAre("pt-BR", "pt"));
