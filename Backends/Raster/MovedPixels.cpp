@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "Backends/Raster/RasterPainter.hpp"
+#include "Backends/Raster/CommandPixels.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -18,12 +18,6 @@ constexpr std::size_t furthestCounterpart = 32;
 constexpr int leastArea_px = 64 * 64;
 
 long long areaOf(const PixelRect& rect) { return rect.isEmpty() ? 0 : (long long)(rect.width()) * rect.height(); }
-
-template <class Resource>
-const Resource* resourceOf(const std::vector<Resource>& resources, const Command& command) {
-    const bool exists = command.resource >= 0 && std::size_t(command.resource) < resources.size();
-    return exists ? &resources[std::size_t(command.resource)] : nullptr;
-}
 
 template <class Resource>
 bool sharesResource(const std::vector<Resource>& inBefore, const Command& before, const std::vector<Resource>& inAfter,

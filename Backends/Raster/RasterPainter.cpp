@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "Backends/Raster/Blending.hpp"
+#include "Backends/Raster/CommandPixels.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -50,18 +51,6 @@ bool isUniform(const Transform& toPixels) {
 bool isFill(CommandKind kind) {
     return kind == CommandKind::fillRectangle || kind == CommandKind::fillRoundedRectangle || kind == CommandKind::fillEllipse ||
            kind == CommandKind::fillPath;
-}
-
-PixelSize sizeOfImage(const Command& command, double scale) {
-    constexpr double longestSide_px = 8192;
-    const auto side = [&](double length) { return std::max(1, nearestPixel(std::min(length * scale, longestSide_px))); };
-    return {side(command.frame.width()), side(command.frame.height())};
-}
-
-template <class Resource>
-const Resource* resourceOf(const std::vector<Resource>& resources, const Command& command) {
-    const bool exists = command.resource >= 0 && std::size_t(command.resource) < resources.size();
-    return exists ? &resources[std::size_t(command.resource)] : nullptr;
 }
 
 } // namespace
@@ -200,27 +189,6 @@ const std::shared_ptr<RasterPainter>& RasterPainter::shared() {
     return painter;
 }
 
-PixelRect paintedPixels(const Command& command, double scale, const PixelRect& part) {
-    const Rect bounds = scaledBy(command.bounds, scale);
-    // Most commands are somewhere else, which takes no rounding to see.
-    if (bounds.maxX() < part.left || bounds.minX() > part.right || bounds.maxY() < part.top || bounds.minY() > part.bottom)
-        return {};
-    const PixelRect touched = touchedPixels(bounds).intersection(part);
-    return touched.isEmpty() ? touched : touched.intersection(nearestPixels(scaledBy(command.clip, scale)));
-}
-
-PixelRect imagePixels(const Command& command, double scale) {
-    const PixelSize size = sizeOfImage(command, scale);
-    const int x = nearestPixel(command.frame.minX() * scale), y = nearestPixel(command.frame.minY() * scale);
-    return {x, y, x + size.width, y + size.height};
-}
-
-PixelRect hiddenPixels(const Command& command, double scale) {
-    if (command.kind != CommandKind::fillRectangle || command.color.alpha != 255 || command.opacity < 1) return {};
-    if (command.clipRadius > 0 || command.transform >= 0) return {};
-    return coveredPixels(scaledBy(command.frame, scale)).intersection(nearestPixels(scaledBy(command.clip, scale)));
-}
-
 void RasterPainter::paint(const PaintTarget& target, const graphics::DisplayList& list, double scale,
                           std::span<const PixelRect> regions) {
     for (const PixelRect& region : regions)
@@ -349,7 +317,8 @@ void RasterPainter::paintImage(Job& job, const Item& item) {
     const auto* bitmap = command.kind == CommandKind::bitmap ? resourceOf(job.list.bitmaps, command) : nullptr;
     if (!(image && *image) && !(bitmap && *bitmap)) return;
 
-    const PixelSize size = sizeOfImage(command, job.scale);
+    const PixelRect place = imagePixels(command, job.scale);
+    const PixelSize size{place.width(), place.height()};
     const ImageRaster& raster =
         image ? m_images.image(**image, command.scheme, size, command.transform >= 0) : m_images.bitmap(*bitmap, size);
     if (raster.pixels.isNull() && !raster.file) return;
@@ -362,10 +331,7 @@ void RasterPainter::paintImage(Job& job, const Item& item) {
         else
             item.paintPixels(job, shown.pixels, x, y, shown.isOpaque);
     };
-    if (command.transform < 0) {
-        const PixelRect place = imagePixels(command, job.scale);
-        return paintRaster(raster, place.left, place.top);
-    }
+    if (command.transform < 0) return paintRaster(raster, place.left, place.top);
     const ImageRaster shown = m_images.transformed(raster, command.frame, item.toPixels, job.window);
     if (!shown.pixels.isNull()) paintRaster(shown, shown.x, shown.y);
 }
@@ -378,9 +344,9 @@ void RasterPainter::prepareAhead(const graphics::DisplayList& list, double scale
 void RasterPainter::prepareImage(const graphics::DisplayList& list, const Command& command, double scale) {
     const graphics::ImageRef* image = command.kind == CommandKind::image ? resourceOf(list.images, command) : nullptr;
     if (!image || !*image || command.transform >= 0) return;
-    const ImageRaster& raster = m_images.image(**image, command.scheme, sizeOfImage(command, scale), false);
-    if (!raster.file) return;
     const PixelRect place = imagePixels(command, scale);
+    const ImageRaster& raster = m_images.image(**image, command.scheme, {place.width(), place.height()}, false);
+    if (!raster.file) return;
     const PixelRect seen = touchedPixels(scaledBy(command.clip.intersection(command.frame), scale));
     m_images.prepare(raster, seen.moved(-place.left, -place.top));
 }

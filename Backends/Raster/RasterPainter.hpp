@@ -20,14 +20,6 @@ struct PaintTarget {
     PixelSize size;
 };
 
-// The pixels of a part that a command may touch, and no others.
-PixelRect paintedPixels(const graphics::Command& command, double scale, const PixelRect& part);
-// The pixels of which a command shows nothing that is painted before it.
-PixelRect hiddenPixels(const graphics::Command& command, double scale);
-// Where the picture of a command without a transform goes, what is cut off included. It is as large wherever it goes, so that one
-// that moves between pixels is not made anew.
-PixelRect imagePixels(const graphics::Command& command, double scale);
-
 // Every command becomes a colour under a mask or a picture, made for whole pixels and kept for the next time; so a part of a list
 // comes out the same whether it is painted alone or with the rest. Main thread only.
 class RasterPainter {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "Backends/Raster/CommandPixels.hpp"
 #include "Backends/Raster/MovedPixels.hpp"
 #include "Backends/Raster/RasterPainter.hpp"
 
