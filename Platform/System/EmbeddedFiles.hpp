@@ -12,10 +12,11 @@
 
 namespace proupsells::system {
 
+// One of them, and where its bytes are.
 struct EmbeddedFile {
-    const char* name; // UTF-8, with a "/" after each folder
-    const char* begin;
-    const char* end;
+    const char* name;  // UTF-8, with a "/" after each folder
+    const char* begin; // the first byte
+    const char* end;   // behind the last one
 };
 
 // A table of such files, as a global object: the package's build function proupsells_embed_resources() writes one. Each is read by
