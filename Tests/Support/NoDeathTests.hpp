@@ -8,6 +8,7 @@
     do {                                                                                                                           \
         if (false) {                                                                                                               \
             statement;                                                                                                             \
+            (void)(message);                                                                                                       \
         }                                                                                                                          \
         GTEST_SKIP() << "This system has no death tests";                                                                          \
     } while (false)
