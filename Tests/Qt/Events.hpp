@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTimer>
 #include <functional>
@@ -19,6 +20,21 @@ inline bool handleEventsUntil(const std::function<bool()>& condition) {
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
     }
     return true;
+}
+
+// Until nothing is left to be done now: what an event brings about comes in two frames at most. Time in which the machine was busy
+// with something else does not count.
+inline void settle() {
+    constexpr int quiet_ms = 60, disturbed_ms = 90, mostRounds = 50;
+    QTimer timer;
+    timer.setSingleShot(true);
+    for (int round = 0; round < mostRounds; ++round) {
+        QElapsedTimer taken;
+        taken.start();
+        timer.start(quiet_ms);
+        handleEventsUntil([&] { return !timer.isActive(); });
+        if (taken.elapsed() < disturbed_ms) return;
+    }
 }
 
 } // namespace proupsells::tests

@@ -86,9 +86,7 @@ protected:
     void settle() {
         for (int before = -1; before != content->paintCount;) {
             before = content->paintCount;
-            bool isLate = false;
-            QTimer::singleShot(30, [&] { isLate = true; });
-            handleEventsUntil([&] { return isLate; });
+            tests::settle();
         }
     }
 

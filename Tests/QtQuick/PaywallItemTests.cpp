@@ -23,6 +23,7 @@ using namespace proupsells;
 using qtquick::PaywallItem;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using tests::settle;
 
 namespace {
 
@@ -60,12 +61,6 @@ protected:
         window.show();
         window.requestActivate();
         settle();
-    }
-
-    static void settle() {
-        bool isLate = false;
-        QTimer::singleShot(50, [&] { isLate = true; });
-        tests::handleEventsUntil([&] { return isLate; });
     }
 
     void click(QPointF at) {

@@ -80,13 +80,6 @@ void click(Receiver& receiver, QPointF at) {
     }
 }
 
-// Until nothing is left to be done now.
-inline void settle() {
-    bool isLate = false;
-    QTimer::singleShot(50, [&] { isLate = true; });
-    handleEventsUntil([&] { return isLate; });
-}
-
 // What the pixel engine makes of the window at that scale.
 inline QImage pictureOf(uikit::UIWindow& window, double scale) {
     graphics::DisplayList list;

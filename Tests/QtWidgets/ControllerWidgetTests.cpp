@@ -15,6 +15,7 @@ using namespace proupsells;
 using qtwidgets::ControllerWidget;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using tests::settle;
 using tests::TwoButtons;
 
 namespace {
@@ -30,12 +31,6 @@ protected:
     }
     ~Widgets() override { delete widget; }
 
-    // Until nothing is left to be done now.
-    static void settle() {
-        bool isLate = false;
-        QTimer::singleShot(50, [&] { isLate = true; });
-        tests::handleEventsUntil([&] { return isLate; });
-    }
     QRgb pixel(int x, int y) const { return widget->grab().toImage().pixel(x, y) & 0xFFFFFF; }
 
     std::shared_ptr<TwoButtons> screen = std::make_shared<TwoButtons>();
