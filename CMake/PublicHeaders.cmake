@@ -5,6 +5,7 @@
 include_guard(GLOBAL)
 
 set(PROUPSELLS_Platform_HEADERS
+  Platform/Accessibility/Reading.hpp
   Platform/Accessibility/SemanticNode.hpp
   Platform/Accessibility/Search.hpp
   Platform/Combine/AnyCancellable.hpp

@@ -17,12 +17,16 @@ std::optional<host::Key> keyOf(int key) {
     case Qt::Key_Tab: return host::Key::tab;
     case Qt::Key_Backtab: return host::Key::backTab;
     case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Space: return host::Key::activate;
+    case Qt::Key_Enter: return host::Key::activate;
+    case Qt::Key_Space: return host::Key::space;
     case Qt::Key_Up: return host::Key::up;
     case Qt::Key_Down: return host::Key::down;
     case Qt::Key_Left: return host::Key::left;
     case Qt::Key_Right: return host::Key::right;
+    case Qt::Key_PageUp: return host::Key::pageUp;
+    case Qt::Key_PageDown: return host::Key::pageDown;
+    case Qt::Key_Home: return host::Key::home;
+    case Qt::Key_End: return host::Key::end;
     default: return std::nullopt;
     }
 }

@@ -71,6 +71,36 @@ struct ClipInfo {
     std::optional<double> time_s; // of the picture in the clip; absent while none is shown
 };
 
+// What a node is to somebody who hears the screen or steers it by keys.
+enum class Role : std::uint8_t {
+    unstated, // as the node's traits and parts have it
+    dialog,
+    group,
+    radioGroup,
+    heading,
+    text,
+    image,
+    button,
+    link,
+    radioButton,
+    disclosure, // opens and closes what follows it
+    pager,      // turns to the page before or after
+};
+
+// What only those are told who hear a screen or steer it by keys, where a node's other parts do not say it.
+struct SpokenInfo {
+    Role role = Role::unstated;
+    std::string name; // instead of the label and of the texts inside; empty for those
+    // Of radio buttons and disclosures; absent for others.
+    std::optional<bool> isChecked;
+    std::optional<bool> isExpanded;
+    int order = 0;         // lower ones are read earlier, among all that stand in the same group
+    bool isSilent = false; // neither it nor anything inside is read
+};
+
+// How much is to be seen around what is revealed as a whole, in points: more than what fades out at the edges of a page.
+inline constexpr double roomAroundRevealed = 48;
+
 // A view and what is inside it, front-most last. Frames are in window points, after every transform. Texts are empty and optional
 // parts absent where the view has none of the kind.
 struct SemanticNode {
@@ -91,6 +121,7 @@ struct SemanticNode {
     std::optional<geometry::Rect> clip;
     std::optional<ScrollInfo> scroll;
     std::optional<ClipInfo> clipView;
+    SpokenInfo spoken;
 
     // Something that a person can tap.
     bool isControl = false;
@@ -101,8 +132,13 @@ struct SemanticNode {
     // Scrolls whatever scroll views are around the node by as little as makes its centre reachable, at once. Empty outside scroll
     // views.
     std::function<void()> reveal;
+    // Likewise until the whole node can be seen with some room around, or its beginning where it is too large for that.
+    std::function<void()> revealWhole;
 
     std::vector<SemanticNode> children;
+
+    // Of lists that have views only for the items in sight: what stands before and after those, in order.
+    std::vector<SemanticNode> itemsBefore, itemsAfter;
 };
 
 } // namespace proupsells::accessibility

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "Platform/Accessibility/SemanticNode.hpp"
+#include "Platform/Accessibility/Reading.hpp"
 #include "Platform/Graphics/DisplayList.hpp"
 #include "Platform/System/Compiler.hpp"
 
@@ -23,7 +23,7 @@ struct Touch {
 enum class FocusEnd { first, last };
 
 // Keys that mean something to every content; the backend says which of its own they are.
-enum class Key { escape, tab, backTab, activate, up, down, left, right };
+enum class Key { escape, tab, backTab, activate, space, up, down, left, right, pageUp, pageDown, home, end };
 
 class PROUPSELLS_EXPORT WindowContent {
 public:
@@ -57,6 +57,8 @@ public:
 
     // What is shown now, laid out; a copy of its own.
     virtual accessibility::SemanticNode semanticTree() = 0;
+    // What is told of it to a person who cannot see it, in order, and where the focus is.
+    virtual accessibility::ReadingElement reading() { return accessibility::readingOf(semanticTree()); }
 };
 
 } // namespace proupsells::host

@@ -138,9 +138,13 @@ void UIHostingView::paintSubviews(graphics::PaintContext& context, const graphic
 }
 
 void UIHostingView::appendSubviewNodes(std::vector<accessibility::SemanticNode>& nodes, const graphics::PaintState& state) const {
-    const auto reveal = [self = uikit::weakReference(const_cast<UIHostingView&>(*this))](const geometry::Rect& inWindow) {
+    const auto reveal = [self = uikit::weakReference(const_cast<UIHostingView&>(*this))](const geometry::Rect& inWindow,
+                                                                                         swiftui::Revealed revealed) {
         const auto held = self.lock();
-        if (held && held->window()) held->scrollRectToVisible({held->convertFrom(inWindow.origin, nullptr), inWindow.size});
+        if (!held || !held->window()) return;
+        const geometry::Rect rect{held->convertFrom(inWindow.origin, nullptr), inWindow.size};
+        const bool isWhole = revealed == swiftui::Revealed::whole;
+        held->scrollRectToVisible(isWhole ? rect.insetBy(0, -accessibility::roomAroundRevealed) : rect);
     };
     for (accessibility::SemanticNode& node : m_host->semanticNodes(state, state.clip, reveal)) nodes.push_back(std::move(node));
     for (const auto& subview : subviews())

@@ -24,19 +24,12 @@ protected:
     }
     ~Keyboard() override { window->setRootViewController(nullptr); }
 
-    // The identifier of the control that the ring stands around; empty without a ring, and where it has no identifier.
+    // The identifier of the control in focus; empty for none.
     std::string inFocus() {
-        graphics::DisplayList list;
-        window->paint(list);
-        if (list.commands.empty() || list.commands.back().kind != graphics::CommandKind::strokeRoundedRectangle) return {};
-        const geometry::Rect ring = list.commands.back().frame.insetBy(2, 2);
-        std::string identifier;
-        const std::function<void(const accessibility::SemanticNode&)> visit = [&](const accessibility::SemanticNode& node) {
-            if (node.isControl && node.frame == ring) identifier = node.identifier;
-            for (const auto& child : node.children) visit(child);
-        };
-        visit(window->semanticTree());
-        return identifier;
+        const accessibility::ReadingElement reading = window->reading();
+        for (const accessibility::ReadingElement* element : accessibility::elementsOf(reading))
+            if (element->isFocused) return element->identifier;
+        return {};
     }
     void tabTo(const std::string& identifier) {
         for (int step = 0; step < 50 && inFocus() != identifier; ++step) window->key(Key::tab);

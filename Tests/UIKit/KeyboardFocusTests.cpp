@@ -22,11 +22,20 @@ protected:
         controller.view()->addSubview(button);
         return button;
     }
-    // What the ring stands around; the empty rectangle without a ring.
+    // Where the control in focus stands; the empty rectangle for none. Where there is one, there is a ring.
     Rect inFocus() {
-        for (const graphics::Command& command : painted().commands)
-            if (command.kind == graphics::CommandKind::strokeRoundedRectangle) return command.frame.insetBy(2, 2);
-        return {};
+        const accessibility::ReadingElement reading = window->reading();
+        Rect frame;
+        for (const accessibility::ReadingElement* element : accessibility::elementsOf(reading))
+            if (element->isFocused) frame = element->frame;
+        EXPECT_EQ(isRingPainted(), !frame.isEmpty());
+        return frame;
+    }
+    bool isRingPainted() {
+        const graphics::DisplayList list = painted();
+        return std::any_of(list.commands.begin(), list.commands.end(), [](const graphics::Command& command) {
+            return command.kind == graphics::CommandKind::strokeRoundedRectangle;
+        });
     }
 
     std::shared_ptr<RecordingController> root;

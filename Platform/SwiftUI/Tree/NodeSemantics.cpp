@@ -16,6 +16,8 @@ void makeUnreachable(accessibility::SemanticNode& node) {
     node.isControl = false;
     node.activate = nullptr;
     node.reveal = nullptr;
+    node.revealWhole = nullptr;
+    node.spoken.isSilent = true;
     for (accessibility::SemanticNode& child : node.children) makeUnreachable(child);
 }
 
@@ -39,13 +41,17 @@ accessibility::SemanticNode SemanticContext::makeNode(std::string_view type, con
     node.label = std::move(attributes.label);
     node.value = std::move(attributes.value);
     node.traits = attributes.traits;
+    node.spoken = std::move(attributes.spoken);
     node.opacity = state.opacity;
     node.scale = attributes.scale;
     node.rotation_degrees = attributes.rotation_degrees;
     node.clip = attributes.clip;
     node.isControl = attributes.isControl;
     node.activate = std::move(attributes.activate);
-    if (reveal) node.reveal = [reveal = reveal, target = node.frame] { reveal(target); };
+    if (reveal) {
+        node.reveal = [reveal = reveal, target = node.frame] { reveal(target, Revealed::centre); };
+        node.revealWhole = [reveal = reveal, target = node.frame] { reveal(target, Revealed::whole); };
+    }
     return node;
 }
 

@@ -18,6 +18,7 @@ struct SemanticAttributes {
     std::string value;
     accessibility::Traits traits = accessibility::Traits::none;
     bool isHidden = false;
+    accessibility::SpokenInfo spoken;
     std::optional<geometry::Rect> frame; // in window points; the identified frame
     bool isFrameIdentified = false;      // set with an identifier, so that no label replaces it
     std::optional<double> scale;
@@ -28,14 +29,17 @@ struct SemanticAttributes {
     std::function<void()> activate; // see accessibility::SemanticNode
 };
 
+// How much of a rectangle is to come in sight; see accessibility::SemanticNode::reveal and revealWhole.
+enum class Revealed : std::uint8_t { centre, whole };
+using Revealer = std::function<void(const geometry::Rect& inWindow, Revealed revealed)>;
+
 struct SemanticContext {
     geometry::Rect window; // what can be seen at all, in window points
     double now_s = 0;
     // Goes to the next node that appears.
     SemanticAttributes pending;
-    // Scrolls the scroll views around until a rectangle can be reached; see accessibility::SemanticNode::reveal. Each scroll view
-    // puts its own in place for its content.
-    std::function<void(const geometry::Rect& inWindow)> reveal;
+    // Scrolls the scroll views around. Each scroll view puts its own in place for its content.
+    Revealer reveal;
 
     // Makes a node of the type. The pending attributes go into it and are empty afterwards.
     accessibility::SemanticNode makeNode(std::string_view type, const graphics::PaintState& state, const geometry::Rect& frame);

@@ -14,6 +14,7 @@
 #include "Platform/SwiftUI/Tree/Appearances.hpp"
 #include "Platform/SwiftUI/Tree/BuildContext.hpp"
 #include "Platform/SwiftUI/Tree/EnvironmentValues.hpp"
+#include "Platform/SwiftUI/Tree/SemanticContext.hpp"
 #include "Platform/SwiftUI/Tree/TouchDispatcher.hpp"
 #include "Platform/SwiftUI/Tree/View.hpp"
 
@@ -75,7 +76,7 @@ public:
     const graphics::DisplayList& displayList();
     // One tree for each outermost view, in window points; `window` is what can be seen at all.
     std::vector<accessibility::SemanticNode> semanticNodes(const graphics::PaintState& state, const geometry::Rect& window,
-                                                           std::function<void(const geometry::Rect&)> reveal = {});
+                                                           Revealer reveal = {});
     // The semantic tree with the host's corner at (0, 0) and its rectangle as window.
     accessibility::SemanticNode semanticTree();
     bool isAnimating() const;

@@ -109,7 +109,7 @@ private:
     void stopStepping();
     void step();
     void noteMoved();
-    geometry::Point revealed(const geometry::Rect& inWindow, const Sight& sight);
+    geometry::Point revealed(const geometry::Rect& inWindow, Revealed revealed, const Sight& sight);
 
     Axis m_axis = Axis::vertical;
     bool m_showsIndicators = true;
@@ -278,24 +278,30 @@ void ScrollViewNode::appendSemantics(SemanticContext& context, const graphics::P
     const double shown = m_axis == Axis::vertical ? place.height() : place.width();
     const Sight sight{place, shownOffset(context.now_s), shown > 0 ? length() / shown : 1};
     const auto outer = context.reveal;
-    context.reveal = [self = std::weak_ptr(m_self), sight, outer](const geometry::Rect& inWindow) {
+    context.reveal = [self = std::weak_ptr(m_self), sight, outer](const geometry::Rect& inWindow, Revealed revealed) {
         geometry::Point moved;
-        if (const auto node = self.lock()) moved = (*node)->revealed(inWindow, sight);
-        if (outer) outer(inWindow.offsetBy(moved));
+        if (const auto node = self.lock()) moved = (*node)->revealed(inWindow, revealed, sight);
+        if (outer) outer(inWindow.offsetBy(moved), revealed);
     };
     Node::appendSemantics(context, parentState, result);
     context.reveal = outer;
 }
 
-// Scrolls by as little as brings the rectangle's centre into the viewport. Returns by how much the rectangle has moved in the
-// window since the sight.
-geometry::Point ScrollViewNode::revealed(const geometry::Rect& inWindow, const Sight& sight) {
+// Scrolls by as little as brings the rectangle, or its centre, into the viewport. Returns by how much the rectangle has moved in
+// the window since the sight.
+geometry::Point ScrollViewNode::revealed(const geometry::Rect& inWindow, Revealed revealed, const Sight& sight) {
     const geometry::Point centre = inWindow.center() - sight.viewportInWindow.origin;
     const double fromStart = isMirrored() ? sight.viewportInWindow.width() - centre.x : motion::along(m_axis, centre);
     const double inContent = fromStart * sight.pointsPerWindowPoint + sight.offset;
+    const double extent = m_axis == Axis::vertical ? inWindow.height() : inWindow.width();
+    const double around =
+        revealed == Revealed::centre ? 0 : extent * sight.pointsPerWindowPoint / 2 + accessibility::roomAroundRevealed;
+    const double first = inContent - around, last = inContent + around;
     const double now_s = host().now_s(), offset = m_offset.offsetAt(now_s);
     // One point less at the far edge, which is not part of the viewport.
-    const double wanted = inContent < offset ? inContent : inContent < offset + length() ? offset : inContent - length() + 1;
+    double wanted = offset;
+    if (last >= offset + length()) wanted = last - length() + 1;
+    if (first < wanted) wanted = first;
     if (wanted != offset && m_offset.scrollTo(wanted, now_s)) {
         m_correction = Animated<double>(0);
         coast();

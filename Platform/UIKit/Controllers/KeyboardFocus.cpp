@@ -7,23 +7,34 @@
 
 namespace proupsells::uikit {
 
+using accessibility::Role;
+using host::Key;
+
 namespace {
 
-void collectControls(const accessibility::SemanticNode& node, std::vector<accessibility::SemanticNode>& controls) {
-    if (node.isControl && (node.activate || node.adjust)) {
-        accessibility::SemanticNode control = node;
-        control.children.clear();
-        controls.push_back(std::move(control));
-    }
-    for (const accessibility::SemanticNode& child : node.children) collectControls(child, controls);
+bool isChecked(const accessibility::ReadingElement& element) { return element.isChecked.value_or(false); }
+
+void addTexts(const accessibility::SemanticNode& node, std::vector<geometry::Rect>& texts) {
+    if (node.text && node.isOnScreen && node.opacity > 0) texts.push_back(node.frame);
+    for (const accessibility::SemanticNode& child : node.children) addTexts(child, texts);
+}
+
+void forEachElement(accessibility::ReadingElement& element, const auto& visit) {
+    visit(element);
+    for (accessibility::ReadingElement& child : element.children) forEachElement(child, visit);
 }
 
 } // namespace
 
-KeyboardFocus::Controls KeyboardFocus::controls() const {
-    Controls controls;
-    collectControls(m_window.semanticTree(), controls);
-    return controls;
+KeyboardFocus::Stops KeyboardFocus::stops() const {
+    Stops stops{accessibility::readingOf(m_window.semanticTree()), {}};
+    const auto collect = [&](const auto& self, const Element& element, const Element* group) -> void {
+        if (element.isOperable() && !element.isDisabled) stops.all.push_back({&element, group});
+        const Element* const inner = element.role == Role::radioGroup ? &element : nullptr;
+        for (const Element& child : element.children) self(self, child, inner);
+    };
+    collect(collect, stops.reading, nullptr);
+    return stops;
 }
 
 KeyboardFocus::Place* KeyboardFocus::place() {
@@ -34,61 +45,87 @@ KeyboardFocus::Place* KeyboardFocus::place() {
     return known == m_places.end() ? nullptr : &*known;
 }
 
-std::optional<std::size_t> KeyboardFocus::indexInFocus(const Controls& controls) {
-    if (!m_isThere || controls.empty()) return std::nullopt;
-    if (!place()) give(controls, 0);
+// A view that was made anew has another id and the same identifier; one that shows something else now has it the other way round.
+std::optional<std::size_t> KeyboardFocus::indexInFocus(const std::vector<Stop>& stops) {
+    if (!m_isThere || stops.empty()) return std::nullopt;
+    if (!place()) {
+        const auto first = nextStop(stops, -1, 1, nullptr);
+        give(stops[*first], *first);
+    }
     Place* const here = place();
-    const auto control =
-        std::find_if(controls.begin(), controls.end(), [&](const auto& node) { return here && node.id == here->control; });
-    if (control == controls.end()) return std::nullopt;
-    here->index = std::size_t(control - controls.begin());
+    if (!here) return std::nullopt;
+    const auto isSame = [&](const Stop& stop) {
+        return stop.element->identifier == here->identifier && stop.element->id == here->id;
+    };
+    const auto isAgain = [&](const Stop& stop) {
+        return !here->identifier.empty() && stop.element->identifier == here->identifier;
+    };
+    auto found = std::find_if(stops.begin(), stops.end(), isSame);
+    if (found == stops.end()) found = std::find_if(stops.begin(), stops.end(), isAgain);
+    if (found == stops.end()) return std::nullopt;
+    here->index = std::size_t(found - stops.begin());
     return here->index;
 }
 
-void KeyboardFocus::give(const Controls& controls, std::size_t index) {
+void KeyboardFocus::give(const Stop& stop, std::size_t index) {
     UIViewController* const front = m_window.frontMostViewController();
     if (!front) return;
     m_isThere = true;
     Place* here = place();
-    if (!here) here = &m_places.emplace_back(Place{weakReference(*front), 0, 0});
-    here->control = controls[index].id;
+    if (!here) here = &m_places.emplace_back(Place{weakReference(*front), 0, {}, 0});
+    here->id = stop.element->id;
+    here->identifier = stop.element->identifier;
     here->index = index;
     m_window.setNeedsDisplay();
 }
 
-void KeyboardFocus::giveInSight(const Controls& controls, std::size_t index) {
-    give(controls, index);
-    if (const auto& reveal = controls[index].reveal) reveal();
+void KeyboardFocus::giveInSight(const std::vector<Stop>& stops, std::size_t index) {
+    give(stops[index], index);
+    if (const auto& reveal = stops[index].element->revealWhole) reveal();
+}
+
+std::optional<std::size_t> KeyboardFocus::nextStop(const std::vector<Stop>& stops, std::ptrdiff_t from, int step,
+                                                   const Element* group) {
+    const auto isEntry = [&](const Stop& stop) {
+        if (!stop.group) return true;
+        if (stop.group == group) return false; // left as a whole
+        const auto& others = stop.group->children;
+        const bool isAnyChecked = std::any_of(others.begin(), others.end(), isChecked);
+        return isAnyChecked ? isChecked(*stop.element) : stop.element == &others.front();
+    };
+    for (std::ptrdiff_t index = from + step; index >= 0 && index < std::ptrdiff_t(stops.size()); index += step)
+        if (isEntry(stops[std::size_t(index)])) return std::size_t(index);
+    return std::nullopt;
 }
 
 bool KeyboardFocus::move(int step, bool leavesAtEnds) {
     if (!m_isThere) return take(step > 0 ? host::FocusEnd::first : host::FocusEnd::last);
-    const Controls controls = this->controls();
-    if (controls.empty()) {
+    const Stops stops = this->stops();
+    if (stops.all.empty()) {
         drop();
         return false;
     }
-    const std::size_t last = controls.size() - 1;
-    const std::optional<std::size_t> here = indexInFocus(controls);
+    const auto count = std::ptrdiff_t(stops.all.size());
+    const std::optional<std::size_t> here = indexInFocus(stops.all);
     // Where the control was that has gone is now the next one.
-    const std::size_t lost = place() ? std::min(place()->index, last) : 0;
-    const bool isAtEnd = here ? *here == (step > 0 ? last : 0) : step < 0 && lost == 0;
-    if (isAtEnd && leavesAtEnds) {
+    const auto lost = std::ptrdiff_t(place() ? std::min(place()->index, stops.all.size()) : 0) - (step > 0 ? 1 : 0);
+    const Element* const group = here ? stops.all[*here].group : nullptr;
+    std::optional<std::size_t> next = nextStop(stops.all, here ? std::ptrdiff_t(*here) : lost, step, group);
+    if (!next && leavesAtEnds) {
         drop();
         return false;
     }
-    if (isAtEnd)
-        giveInSight(controls, step > 0 ? 0 : last);
-    else
-        giveInSight(controls, here ? *here + std::size_t(step) : step > 0 ? lost : lost - 1);
+    if (!next) next = nextStop(stops.all, step > 0 ? -1 : count, step, nullptr);
+    giveInSight(stops.all, *next);
     return true;
 }
 
 bool KeyboardFocus::take(host::FocusEnd end) {
-    const Controls controls = this->controls();
-    if (controls.empty()) return false;
-    giveInSight(controls, end == host::FocusEnd::first ? 0 : controls.size() - 1);
-    return true;
+    const Stops stops = this->stops();
+    const bool isFirst = end == host::FocusEnd::first;
+    const auto stop = nextStop(stops.all, isFirst ? -1 : std::ptrdiff_t(stops.all.size()), isFirst ? 1 : -1, nullptr);
+    if (stop) giveInSight(stops.all, *stop);
+    return stop.has_value();
 }
 
 void KeyboardFocus::drop() {
@@ -97,31 +134,78 @@ void KeyboardFocus::drop() {
     m_places.clear();
 }
 
-bool KeyboardFocus::use(host::Key key) {
-    const Controls controls = this->controls();
-    const std::optional<std::size_t> here = indexInFocus(controls);
-    if (!here) return false;
-    const accessibility::SemanticNode& control = controls[*here];
-    if (key == host::Key::activate) {
-        if (control.activate) control.activate();
-        return control.activate != nullptr;
-    }
-    if (!control.adjust) return false;
-    const bool isForwardKey = key == host::Key::down || key == (m_window.isRightToLeft() ? host::Key::left : host::Key::right);
-    control.adjust(isForwardKey ? 1 : -1);
+int KeyboardFocus::horizontalStep(Key key) const {
+    if (key != Key::left && key != Key::right) return 0;
+    return (key == Key::right) == m_window.isRightToLeft() ? -1 : 1;
+}
+
+// From the last one to the first one and back.
+bool KeyboardFocus::chooseNeighbour(const std::vector<Stop>& stops, std::size_t index, int step) {
+    std::vector<std::size_t> members;
+    for (std::size_t i = 0; i < stops.size(); ++i)
+        if (stops[i].group == stops[index].group) members.push_back(i);
+    const auto here = std::find(members.begin(), members.end(), index) - members.begin();
+    const auto count = std::ptrdiff_t(members.size());
+    const std::size_t next = members[std::size_t((here + step + count) % count)];
+    giveInSight(stops, next);
+    if (const auto choose = stops[next].element->activate; choose && next != index) choose();
     return true;
 }
 
+bool KeyboardFocus::use(Key key, bool isRepeated) {
+    const Stops stops = this->stops();
+    const std::optional<std::size_t> here = indexInFocus(stops.all);
+    if (!here) return false;
+    const Stop& stop = stops.all[*here];
+    if (key == Key::activate || key == Key::space) {
+        if (stop.element->activate && !isRepeated) stop.element->activate();
+        return stop.element->activate != nullptr;
+    }
+    const int across = horizontalStep(key), down = key == Key::down ? 1 : key == Key::up ? -1 : 0;
+    if (stop.group) return across + down != 0 && chooseNeighbour(stops.all, *here, across + down);
+    if (across == 0) return false;
+    if (stop.element->adjust) {
+        stop.element->adjust(across);
+        return true;
+    }
+    const auto& isExpanded = stop.element->isExpanded;
+    if (isExpanded && *isExpanded != (across > 0)) stop.element->activate();
+    return isExpanded.has_value();
+}
+
+void KeyboardFocus::mark(Element& reading) {
+    const Stops stops = this->stops();
+    const std::optional<std::size_t> here = indexInFocus(stops.all);
+    const Element* const focused = here ? stops.all[*here].element : nullptr;
+    forEachElement(reading, [&](Element& element) {
+        element.isFocused = focused && element.id == focused->id && element.identifier == focused->identifier;
+        if (!element.isOperable() || element.isDisabled) return;
+        element.focus = [window = weakReference(m_window), id = element.id, identifier = element.identifier] {
+            const auto held = window.lock();
+            if (!held || held->isTransitioning()) return;
+            KeyboardFocus& focus = *held->m_focus;
+            const Stops stops = focus.stops();
+            for (std::size_t i = 0; i < stops.all.size(); ++i)
+                if (stops.all[i].element->id == id && stops.all[i].element->identifier == identifier)
+                    return focus.giveInSight(stops.all, i);
+        };
+    });
+}
+
 void KeyboardFocus::paintRing(graphics::PaintContext& context) {
-    if (!m_isThere || m_window.isTransitioning()) return;
-    const Controls controls = this->controls();
-    const std::optional<std::size_t> here = indexInFocus(controls);
-    if (!here || !controls[*here].isOnScreen) return;
-    constexpr double distance = 2, width = 2, radius = 6;
-    const graphics::PaintState state = m_window.windowState();
-    context.strokeRoundedRectangle(state, controls[*here].frame.insetBy(-distance, -distance), radius,
-                                   geometry::CornerStyle::continuous, width,
-                                   m_window.tintColor().value_or(focusRingColor).resolved(state.scheme));
+    const std::optional<geometry::Rect> control = frameInFocus();
+    if (!control) return;
+    std::vector<geometry::Rect> texts;
+    addTexts(m_window.semanticTree(), texts);
+    paintFocusRing(context, m_window.windowState(), focusRingAround(*control, m_window.bounds(), texts));
+}
+
+std::optional<geometry::Rect> KeyboardFocus::frameInFocus() {
+    if (!m_isThere || m_window.isTransitioning()) return std::nullopt;
+    const Stops stops = this->stops();
+    const std::optional<std::size_t> here = indexInFocus(stops.all);
+    if (!here || !stops.all[*here].element->isOnScreen) return std::nullopt;
+    return stops.all[*here].element->frame;
 }
 
 } // namespace proupsells::uikit

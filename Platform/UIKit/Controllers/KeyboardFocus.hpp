@@ -4,8 +4,10 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
+#include "Platform/Accessibility/Reading.hpp"
 #include "Platform/Host/WindowContent.hpp"
 
 namespace proupsells::graphics {
@@ -19,7 +21,8 @@ class UIWindow;
 
 // Nobody has the focus until a key asks for it. From then on each screen has a control of its own that it belongs to: a screen that
 // is presented gives it to its first one, and one that comes to the front again to the one that had it. A control that goes or is
-// disabled takes the focus with it; Tab goes on from its place, and no other key does anything.
+// disabled takes the focus with it; Tab goes on from its place, and no other key operates anything.
+// Controls follow each other as they are read. Of a group of radio buttons Tab meets one; arrows move and choose among them.
 class KeyboardFocus {
 public:
     // The window must live longer.
@@ -31,26 +34,47 @@ public:
     bool take(host::FocusEnd end);
     // Nobody has it any more, on no screen.
     void drop();
-    // What the key means to the control in focus. False where it means nothing.
-    bool use(host::Key key);
+    // What the key means to the control in focus, which is not tapped again while the key is held down. False where it means
+    // nothing.
+    bool use(host::Key key, bool isRepeated);
 
+    // Says of the window's reading who has the focus, and lets it be given to others.
+    void mark(accessibility::ReadingElement& reading);
+    // Where the control in focus stands, in window points. Absent while nobody has it or while it cannot be seen.
+    std::optional<geometry::Rect> frameInFocus();
     void paintRing(graphics::PaintContext& context);
 
 private:
-    using Controls = std::vector<accessibility::SemanticNode>;
+    using Element = accessibility::ReadingElement;
+    // A control, and the group of radio buttons that it belongs to, or null.
+    struct Stop {
+        const Element* element;
+        const Element* group;
+    };
+    // What is read, and the controls in it.
+    struct Stops {
+        Element reading;
+        std::vector<Stop> all;
+    };
     // The control of a screen that has, or had, the focus.
     struct Place {
         std::weak_ptr<UIViewController> screen;
-        std::uint64_t control = 0;
+        std::uint64_t id = 0;
+        std::string identifier;
         std::size_t index = 0; // among the controls when it was last there
     };
 
-    Controls controls() const;
+    Stops stops() const;
     // Of the screen in front. Null before it was given to one of its controls.
     Place* place();
-    std::optional<std::size_t> indexInFocus(const Controls& controls);
-    void give(const Controls& controls, std::size_t index);
-    void giveInSight(const Controls& controls, std::size_t index);
+    std::optional<std::size_t> indexInFocus(const std::vector<Stop>& stops);
+    // Where Tab goes from a place among the controls, which may be before the first one or after the last one; absent for out.
+    static std::optional<std::size_t> nextStop(const std::vector<Stop>& stops, std::ptrdiff_t from, int step, const Element* group);
+    void give(const Stop& stop, std::size_t index);
+    void giveInSight(const std::vector<Stop>& stops, std::size_t index);
+    bool chooseNeighbour(const std::vector<Stop>& stops, std::size_t index, int step);
+    // By how much a key steps along what reads from left to right or from right to left: 1, -1, or 0 for other keys.
+    int horizontalStep(host::Key key) const;
 
     UIWindow& m_window;
     bool m_isThere = false;

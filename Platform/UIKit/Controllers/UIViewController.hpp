@@ -86,6 +86,9 @@ public:
     // The person wants to leave this screen without a choice: does what its close button does, and returns true. Unless overridden,
     // the children are asked, the last one first.
     virtual bool accessibilityPerformEscape();
+    // What the screen is called by those who hear it. Unless overridden the title, or where there is none a child's name, the last
+    // one's first; empty for none.
+    virtual std::string accessibilityScreenName() const;
 
     // --- Presentation ---
 

@@ -70,6 +70,13 @@ bool UIViewController::accessibilityPerformEscape() {
     return std::any_of(asked.rbegin(), asked.rend(), [](const auto& child) { return child->accessibilityPerformEscape(); });
 }
 
+std::string UIViewController::accessibilityScreenName() const {
+    std::string name = m_title;
+    for (auto child = m_children.rbegin(); name.empty() && child != m_children.rend(); ++child)
+        name = (*child)->accessibilityScreenName();
+    return name;
+}
+
 UIViewController* UIViewController::presentedViewController() const {
     for (const UIViewController* presenter = this; presenter; presenter = presenter->m_parent)
         if (presenter->m_presented) return presenter->m_presented.get();

@@ -53,8 +53,9 @@ public:
     void setSize(geometry::Size size, geometry::PhysicalInsets safeArea) override;
     void touch(const host::Touch& touch) override;
     void scroll(geometry::Point location, geometry::Point delta) override;
-    // Tab moves the focus ring through the controls of the front-most presentation, activate taps the one in focus, escape leaves
-    // the front-most screen. Neither of these two does anything while the key is held down, nor any key during a transition.
+    // Of the front-most presentation: Tab moves the focus ring through its controls; activate and space tap the one in focus,
+    // arrows choose a neighbour, turn a page or open and close; what means nothing to it scrolls the page; escape leaves the
+    // screen. Nothing is tapped or left again while the key is held down, and no key does anything during a transition.
     bool key(host::Key key, bool isRepeated = false) override;
 
     void setFocusLeaves(bool leaves) override { m_focusLeaves = leaves; }
@@ -73,6 +74,8 @@ public:
     void setNeedsDisplayHandler(std::function<void()> handler) override;
     // Of the front-most presentation, from its controller's view on.
     accessibility::SemanticNode semanticTree() override;
+    // A dialog by its controller's name.
+    accessibility::ReadingElement reading() override;
 
     void update() override;
     UIWindow* window() const override { return const_cast<UIWindow*>(this); }
@@ -98,6 +101,7 @@ private:
     graphics::PaintState windowState() const;
     std::size_t firstVisibleLayer() const;
     bool escape();
+    bool scrollPage(host::Key key);
 
     std::shared_ptr<UIViewController> m_root;
     std::unique_ptr<PresentationStack> m_presentations;

@@ -115,14 +115,15 @@ void UIScrollView::scrollRectToVisible(const geometry::Rect& rect) {
     UIView::scrollRectToVisible(rect);
 }
 
-// What is visible does not move; a strip that the program has put outside its range stays there.
+// What is visible does not move; a strip that the program has put outside its range stays there. Of what is too large, the beginning
+// is shown.
 bool UIScrollView::reveal(Axis axis, double first, double last) {
     const geometry::PhysicalInsets inset = adjustedContentInset();
     const bool isHorizontal = axis == Axis::horizontal;
     const double near = isHorizontal ? inset.left : inset.top;
     const double far = isHorizontal ? frame().width() - inset.right : frame().height() - inset.bottom;
     const double now = runloop::MainRunLoop::main().now_s(), offset = axisAlong(axis).offsetAt(now);
-    const double wanted = first < offset + near ? first - near : std::max(offset, last - far);
+    const double wanted = std::min(std::max(offset, last - far), first - near);
     return wanted != offset && axisAlong(axis).scrollTo(wanted, now);
 }
 

@@ -95,11 +95,15 @@ void UIView::describeTransform(accessibility::SemanticNode& node) const {
 void UIView::describeReveal(accessibility::SemanticNode& node) const {
     for (const UIView* ancestor = m_superview; ancestor; ancestor = ancestor->m_superview) {
         if (!ancestor->scrollsItsContent()) continue;
-        node.reveal = [view = std::weak_ptr<const UIResponder>(weak_from_this())] {
+        const auto reveal = [view = std::weak_ptr<const UIResponder>(weak_from_this())](const auto& part) {
             const auto held = std::const_pointer_cast<UIResponder>(view.lock());
             if (!held) return;
             auto& self = static_cast<UIView&>(*held);
-            if (self.window()) self.scrollRectToVisible({self.bounds().center(), {1, 1}});
+            if (self.window()) self.scrollRectToVisible(part(self.bounds()));
+        };
+        node.reveal = [reveal] { reveal([](const geometry::Rect& all) { return geometry::Rect{all.center(), {1, 1}}; }); };
+        node.revealWhole = [reveal] {
+            reveal([](const geometry::Rect& all) { return all.insetBy(0, -accessibility::roomAroundRevealed); });
         };
         return;
     }
