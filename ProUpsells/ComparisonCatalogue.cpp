@@ -34,7 +34,8 @@ const FeatureCategory& ComparisonCatalogue::contentAndAssets() {
                   pro("Upload Custom Fonts", "Feature: Ability to upload custom fonts"),
                   pro("Unlimited Graphics Library", "Feature: Unlimited access to graphics library"),
                   pro("Unlimited Stock Videos", "Feature: Unlimited access to stock videos"),
-                  pro("Layout Collections", "Feature: Access to various layout collections")}};
+                  pro("Layout Collections", "Feature: Access to various layout collections")},
+        .englishName = "Content And Assets"};
     return category;
 }
 
@@ -45,7 +46,8 @@ const FeatureCategory& ComparisonCatalogue::creationTools() {
                   limited(3, "Remove Background", "Feature: Tool for removing backgrounds (3 free uses)"),
                   pro("Image Filters", "Feature: Access to image filters"), pro("Shape Picker", "Feature: Tool for picking shapes"),
                   pro("Upload Custom Logo", "Feature: Ability to upload custom logos"),
-                  pro("Custom Color Palette", "Feature: Tool for creating custom color palettes")}};
+                  pro("Custom Color Palette", "Feature: Tool for creating custom color palettes")},
+        .englishName = "Creation Tools"};
     return category;
 }
 
@@ -56,7 +58,8 @@ const FeatureCategory& ComparisonCatalogue::businessGrowthTools() {
                   free("Manage Domains", "Feature: Tool for managing domains"),
                   free("Create a Website", "Feature: Tool for creating websites"),
                   free("Manage Websites", "Feature: Tool for managing websites"),
-                  free("Take Payments using Pay Links", "Feature: Tool for taking payments using pay links")}};
+                  free("Take Payments using Pay Links", "Feature: Tool for taking payments using pay links")},
+        .englishName = "Business Growth Tools"};
     return category;
 }
 
@@ -64,7 +67,8 @@ const FeatureCategory& ComparisonCatalogue::automation() {
     static const FeatureCategory category{
         .name = localizedString("Automation (AI Features)", "Heading: Section for AI-powered automation features"),
         .items = {free("Logo Generation", "AI Feature: Tool for generating logos"),
-                  free("Video Generation", "AI Feature: Tool for generating videos")}};
+                  free("Video Generation", "AI Feature: Tool for generating videos")},
+        .englishName = "Automation (AI Features)"};
     return category;
 }
 

@@ -25,6 +25,10 @@ void seed(const Expanded& expanded, const FeatureCategory& category) {
     withoutAnimation([&] { expanded.set(std::move(changed)); });
 }
 
+const std::string& knownAs(const FeatureCategory& category) {
+    return category.englishName.empty() ? category.name : category.englishName;
+}
+
 void toggle(const Expanded& expanded, const std::string& name) {
     ExpandedCategories changed = expanded.get();
     changed.expandedCategories[name] = !changed.isExpanded(name);
@@ -62,8 +66,9 @@ View ComparisonView::category(std::size_t index, const Expanded& expanded) const
     const std::shared_ptr<const FeatureCategory> item(items, &(*items)[index]);
     return CategoryView{item, expanded.get().isExpanded(item->name)} |
            onTapGesture([expanded, item] { toggle(expanded, item->name); }) |
-           onAppear([expanded, item] { seed(expanded, *item); }) | accessibilityIdentifier("comparison.category." + item->name) |
-           accessibilityLabel(item->name);
+           onAppear([expanded, item] { seed(expanded, *item); }) |
+           AccessibilityModifier{.identifier = "comparison.category." + knownAs(*item), .label = item->name} |
+           accessibilityDisclosure(expanded.get().isExpanded(item->name));
 }
 
 View ComparisonView::categoryList(const Expanded& expanded) const {

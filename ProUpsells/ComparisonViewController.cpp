@@ -1,5 +1,6 @@
 #include "ProUpsells/ComparisonViewController.hpp"
 
+#include "Platform/Foundation/Bundle.hpp"
 #include "Platform/VelaUIKit/HostingControllers.hpp"
 #include "Platform/VelaUIKit/Navigation.hpp"
 #include "Platform/VelaUIKit/VelaColors.hpp"
@@ -28,6 +29,11 @@ void ComparisonViewController::languageDidChange() {
 bool ComparisonViewController::accessibilityPerformEscape() {
     dismissController();
     return true;
+}
+
+std::string ComparisonViewController::accessibilityScreenName() const {
+    return foundation::localizedString("Compare Plans",
+                                       "Title for screen where users can see a comparison between our Folio plans");
 }
 
 void ComparisonViewController::makeCloseButton() {

@@ -19,6 +19,7 @@ public:
     void viewDidLoad() override;
     void languageDidChange() override;
     bool accessibilityPerformEscape() override;
+    std::string accessibilityScreenName() const override;
     // The bar-button's action.
     void dismissController();
 

@@ -8,6 +8,12 @@ namespace proupsells {
 
 using namespace swiftui;
 
+namespace {
+
+constexpr int closeIsReadFirst = -1;
+
+} // namespace
+
 View ContainerWithCloseButton::body(BuildContext&) const {
     return ZStack{.alignment = Alignment::topTrailing,
                   .content = {
@@ -15,7 +21,7 @@ View ContainerWithCloseButton::body(BuildContext&) const {
                       Button{.action = closeButtonAction, .label = Image{velauikit::VelaUIKitImage::inAppMessageCloseIcon()}} |
                           buttonStyle(ButtonStyle::plain()) | padding(Edge::top | Edge::trailing, 18) | frame(44, 44) |
                           contentShape() | accessibilityIdentifier("close") |
-                          accessibilityLabel(foundation::localizedString("Close")),
+                          accessibilityLabel(foundation::localizedString("Close")) | accessibilityReadingOrder(closeIsReadFirst),
                   }};
 }
 

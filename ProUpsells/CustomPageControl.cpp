@@ -1,5 +1,7 @@
 #include "ProUpsells/CustomPageControl.hpp"
 
+#include "Platform/Foundation/Bundle.hpp"
+
 namespace proupsells {
 
 std::shared_ptr<CustomPageControl::Coordinator> CustomPageControl::makeCoordinator() const {
@@ -11,12 +13,15 @@ std::shared_ptr<uikit::UIPageControl> CustomPageControl::makeUIView(const Contex
     pageControl->setNumberOfPages(numberOfPages);
     pageControl->setBackgroundStyle(uikit::UIPageControl::BackgroundStyle::minimal);
     pageControl->accessibilityIdentifier = "carousel.pageControl";
+    pageControl->accessibilitySpoken.role = accessibility::Role::pager;
     pageControl->addTarget(std::weak_ptr(context.coordinator), &Coordinator::pageChanged, uikit::UIControl::Event::valueChanged);
     return pageControl;
 }
 
 void CustomPageControl::updateUIView(uikit::UIPageControl& pageControl, const Context& context) const {
     context.coordinator->setParent(*this);
+    pageControl.accessibilitySpoken.name =
+        foundation::localizedString("Pro features", "Spoken name of the control that turns the pages of the header");
     pageControl.setNumberOfPages(numberOfPages);
     pageControl.setCurrentPage(currentPage.get());
 }

@@ -12,6 +12,7 @@ struct FeatureCategory {
     std::string name;      // localized; also the category's identity
     bool expanded = false; // whether it is open before anyone has touched it
     std::vector<Feature> items;
+    std::string englishName = {}; // what it is known by in every language; empty: its name
 
     bool operator==(const FeatureCategory&) const = default;
 };

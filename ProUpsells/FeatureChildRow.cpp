@@ -1,5 +1,7 @@
 #include "ProUpsells/FeatureChildRow.hpp"
 
+#include "Platform/Foundation/Bundle.hpp"
+#include "Platform/Foundation/Format.hpp"
 #include "Platform/LumoKit/LargestTextSize.hpp"
 #include "Platform/LumoKit/TextStyle.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
@@ -10,6 +12,7 @@
 namespace proupsells {
 
 using namespace swiftui;
+using foundation::localizedString;
 
 namespace {
 
@@ -24,6 +27,22 @@ View FeatureChildRow::freeCell() const {
     return View{};
 }
 
+// What the marks in the two columns say.
+std::string FeatureChildRow::spokenName() const {
+    if (feature.distribution.isFree())
+        return foundation::format(
+            localizedString("%@: in Free and in Pro", "Spoken for a row of the comparison: a feature that both plans have"),
+            {feature.name});
+    if (const auto* limit = feature.distribution.limit())
+        return foundation::format(
+            localizedString("%1$@: %2$@, without limit in Pro",
+                            "Spoken for a row of the comparison: a feature, and how often the Free plan may use it (3 free)"),
+            {feature.name, ComparisonCatalogue::freeUsageText(limit->count)});
+    return foundation::format(
+        localizedString("%@: not in Free, in Pro", "Spoken for a row of the comparison: a feature that only the Pro plan has"),
+        {feature.name});
+}
+
 View FeatureChildRow::body(BuildContext&) const {
     return HStack{.spacing = 16,
                   .content =
@@ -35,7 +54,8 @@ View FeatureChildRow::body(BuildContext&) const {
                           HStack{.spacing = 40,
                                  .content = {freeCell(), CheckIcon{} | accessibilityLabel(ComparisonCatalogue::proHeading())}},
                       }} |
-           padding(Edge::vertical, 12.8) | padding(Edge::leading, 16) | frame({.minHeight = 40});
+           accessibilitySpokenName(spokenName()) | padding(Edge::vertical, 12.8) | padding(Edge::leading, 16) |
+           frame({.minHeight = 40});
 }
 
 } // namespace proupsells

@@ -1,6 +1,8 @@
 // One feature: its name, and a cell for each plan.
 #pragma once
 
+#include <string>
+
 #include "Platform/SwiftUI/Tree/BuildContext.hpp"
 #include "ProUpsells/Feature.hpp"
 
@@ -14,6 +16,7 @@ struct FeatureChildRow {
 
 private:
     swiftui::View freeCell() const;
+    std::string spokenName() const;
 };
 
 } // namespace proupsells

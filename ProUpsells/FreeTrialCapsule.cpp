@@ -13,9 +13,12 @@ using namespace swiftui;
 using lumokit::DecorativeColor::tealBackground;
 using lumokit::DecorativeColor::tealProminent;
 
+std::string FreeTrialCapsule::text() {
+    return foundation::localizedString("7 Day Free Trial", "Label stating that there will be a free trial");
+}
+
 View FreeTrialCapsule::body(BuildContext&) const {
-    return Text{foundation::localizedString("7 Day Free Trial", "Label stating that there will be a free trial")} |
-           lumokit::textStyle(lumokit::labelCapsSmall) | padding(6) |
+    return Text{text()} | lumokit::textStyle(lumokit::labelCapsSmall) | padding(6) |
            background(Capsule(geometry::CornerStyle::continuous).fill(tealBackground)) | foregroundStyle(tealProminent);
 }
 

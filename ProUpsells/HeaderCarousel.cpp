@@ -75,11 +75,11 @@ View HeaderCarousel::body(BuildContext& context) const {
     return TabView{.selection = currentPage, .content = ForEach(count, [&](int index) { return page(index) | tag(index); })} |
            frame({.height = 254}) | frame({.maxWidth = geometry::infinity}) |
            overlay(bottomRow(currentPage, context.environment()), Alignment::bottom) | accessibilityIdentifier("carousel") |
-           onReceive(combine::TimerPublisher{advanceInterval_s},
-                     [currentPage, isUserInteracting, count](double) {
-                         if (isUserInteracting.get()) return;
-                         withAnimation(advance, [&] { currentPage.set((currentPage.get() + 1) % count); });
-                     }) |
+           onReceiveUnattended(combine::TimerPublisher{advanceInterval_s},
+                               [currentPage, isUserInteracting, count](double) {
+                                   if (isUserInteracting.get()) return;
+                                   withAnimation(advance, [&] { currentPage.set((currentPage.get() + 1) % count); });
+                               }) |
            onChange(currentPage.get(), [isUserInteracting] { pauseAdvance(isUserInteracting); });
 }
 

@@ -4,8 +4,7 @@
 
 namespace proupsells {
 
-LabelHeaderView::LabelHeaderView(const geometry::Rect& frame)
-    : StoreHeaderView(frame, "All the templates. All the fonts. Graphics galore.", 24) {
+LabelHeaderView::LabelHeaderView(const geometry::Rect& frame) : StoreHeaderView(frame, headline, 24) {
     uikit::NSLayoutConstraint::activate({
         titleLabel()->topAnchor().constraintEqualTo(topAnchor()),
         titleLabel()->centerXAnchor().constraintEqualTo(centerXAnchor()),

@@ -7,6 +7,9 @@ namespace proupsells {
 
 class LabelHeaderView : public StoreHeaderView {
 public:
+    // In English, the key of its translations.
+    static constexpr const char* headline = "All the templates. All the fonts. Graphics galore.";
+
     explicit LabelHeaderView(const geometry::Rect& frame);
     // Stops the program: "init(coder:) has not been implemented".
     explicit LabelHeaderView(const foundation::Coder& coder) : StoreHeaderView(coder) {}

@@ -27,6 +27,10 @@ std::string LazyStorePageShelf::footerTitle() const { return localizedUnlessEmpt
 
 std::string LazyStorePageShelf::footerSubTitle() const { return localizedUnlessEmpty(m_facts.subtitle); }
 
+std::string LazyStorePageShelf::accessibilityName() const {
+    return localizedUnlessEmpty(m_facts.title.empty() ? m_facts.headline : m_facts.title);
+}
+
 std::shared_ptr<uikit::UIViewController> LazyStorePageShelf::viewController() {
     if (!m_viewController) m_viewController = makeViewController();
     return m_viewController;

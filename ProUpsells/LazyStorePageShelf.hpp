@@ -17,6 +17,7 @@ public:
         // The English texts, which are the keys of their translations; empty for none.
         std::string title = {};
         std::string subtitle = {};
+        std::string headline = {}; // of a header, which has no title
         std::vector<ImageResource> images = {};
     };
 
@@ -26,6 +27,7 @@ public:
     std::vector<uikit::UIImage> images() const override;
     std::string footerTitle() const override;
     std::string footerSubTitle() const override;
+    std::string accessibilityName() const override;
 
     std::shared_ptr<uikit::UIViewController> viewController() override;
     void setViewController(std::shared_ptr<uikit::UIViewController> controller);

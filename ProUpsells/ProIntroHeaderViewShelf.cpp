@@ -4,7 +4,8 @@
 
 namespace proupsells {
 
-ProIntroHeaderViewShelf::ProIntroHeaderViewShelf() : LazyStorePageShelf({.className = "ProIntroHeaderViewShelf", .height = 220}) {}
+ProIntroHeaderViewShelf::ProIntroHeaderViewShelf()
+    : LazyStorePageShelf({.className = "ProIntroHeaderViewShelf", .height = 220, .headline = VelaProHeaderView::headline}) {}
 
 LazyStorePageShelf::Controller ProIntroHeaderViewShelf::makeViewController() const {
     return headerController(std::make_shared<VelaProHeaderView>(geometry::Rect{}));

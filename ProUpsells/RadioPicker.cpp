@@ -1,5 +1,7 @@
 #include "ProUpsells/RadioPicker.hpp"
 
+#include "Platform/Foundation/Bundle.hpp"
+#include "Platform/SwiftUI/Modifiers/AccessibilityModifiers.hpp"
 #include "Platform/SwiftUI/Views/ForEach.hpp"
 #include "Platform/SwiftUI/Views/Stacks.hpp"
 #include "ProUpsells/RadioPickerButton.hpp"
@@ -17,7 +19,9 @@ View RadioPicker::body(BuildContext&) const {
                           return RadioPickerButton{.item = item,
                                                    .selected = item.id == selectedId,
                                                    .action = [binding = selectedItem, id = item.id] { binding.set(id); }};
-                      })};
+                      })} |
+           accessibilityRole(accessibility::Role::radioGroup,
+                             foundation::localizedString("Plans", "Spoken name of the list of plans to choose from"));
 }
 
 } // namespace proupsells

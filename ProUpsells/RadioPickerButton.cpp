@@ -1,5 +1,7 @@
 #include "ProUpsells/RadioPickerButton.hpp"
 
+#include "Platform/Foundation/Bundle.hpp"
+#include "Platform/Foundation/Format.hpp"
 #include "Platform/LumoKit/RoleColors.hpp"
 #include "Platform/LumoKit/TextStyle.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
@@ -13,6 +15,15 @@ namespace proupsells {
 using namespace swiftui;
 using accessibility::Traits;
 using lumokit::ContentColor::primary;
+
+namespace {
+
+std::string withoutLeadingBlanks(const std::string& text) {
+    const auto start = text.find_first_not_of(' ');
+    return start == std::string::npos ? std::string() : text.substr(start);
+}
+
+} // namespace
 
 View RadioPickerButton::titleRow(graphics::ContentSizeCategory textSize) const {
     const ViewList content{
@@ -53,21 +64,39 @@ View RadioPickerButton::selectedBorder() const {
 // The frame is only 1 high, so that the badge's centre stands on the card's top edge.
 View RadioPickerButton::badge() const {
     if (!item.badge) return View{};
-    return RadioPickerButtonBadge{*item.badge} | accessibilityIdentifier("badge." + item.id) | padding(16) | fixedSize() |
-           frame({.height = 1}) | allowsHitTesting(false);
+    return RadioPickerButtonBadge{*item.badge} | accessibilityIdentifier("badge." + item.id) | accessibilitySilent() | padding(16) |
+           fixedSize() | frame({.height = 1}) | allowsHitTesting(false);
 }
 
-std::string RadioPickerButton::spokenLabel() const {
-    const std::string price = item.subtitle.text();
-    const auto start = price.find_first_not_of(' ');
-    return start == std::string::npos ? item.title : item.title + ", " + price.substr(start);
+std::string RadioPickerButton::label() const {
+    const std::string price = withoutLeadingBlanks(item.subtitle.text());
+    return price.empty() ? item.title : item.title + ", " + price;
+}
+
+// All that the card shows. A line through a price cannot be heard, so it is said.
+std::string RadioPickerButton::spokenName() const {
+    std::string name = item.title, price;
+    const auto add = [&](const std::string& part) {
+        if (!part.empty()) name += ", " + part;
+    };
+    if (item.badge) add(*item.badge);
+    if (item.offersTrial()) add(FreeTrialCapsule::text());
+    for (const graphics::AttributedRun& run : item.subtitle.runs()) {
+        if (run.attributes.isStruckThrough)
+            add(foundation::format(foundation::localizedString("formerly %@", "Spoken instead of a price that is struck through"),
+                                   {run.text}));
+        else
+            price += run.text;
+    }
+    add(withoutLeadingBlanks(price));
+    return name;
 }
 
 View RadioPickerButton::body(BuildContext& context) const {
     return Button{.action = action, .label = card(context.environment().contentSize)} | buttonStyle(ButtonStyle::plain()) |
-           accessibilityIdentifier("plan." + item.id) | accessibilityLabel(spokenLabel()) |
-           accessibilityTraits(selected ? Traits::selected : Traits::none) | overlay(selectedBorder()) |
-           overlay(badge(), Alignment::topTrailing);
+           AccessibilityModifier{
+               .identifier = "plan." + item.id, .label = label(), .traits = selected ? Traits::selected : Traits::none} |
+           accessibilityRadioButton(spokenName(), selected) | overlay(selectedBorder()) | overlay(badge(), Alignment::topTrailing);
 }
 
 } // namespace proupsells

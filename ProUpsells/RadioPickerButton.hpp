@@ -20,7 +20,8 @@ private:
     swiftui::View card(graphics::ContentSizeCategory textSize) const;
     swiftui::View selectedBorder() const;
     swiftui::View badge() const;
-    std::string spokenLabel() const;
+    std::string label() const;
+    std::string spokenName() const;
 };
 
 } // namespace proupsells

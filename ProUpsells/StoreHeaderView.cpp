@@ -13,6 +13,7 @@ namespace proupsells {
 StoreHeaderView::StoreHeaderView(const geometry::Rect& frame, std::string headline, double fontSize)
     : UIView(frame), m_headline(std::move(headline)), m_fontSize(fontSize), m_titleLabel(makeCenteredLabel()) {
     applyTexts();
+    m_titleLabel->accessibilitySpoken.role = accessibility::Role::heading;
     addSubview(m_titleLabel);
 }
 

@@ -179,6 +179,7 @@ void StorePageShelfViewController::stopAutoScrollTimer() {
 
 void StorePageShelfViewController::autoScroll() {
     if (m_scrollView->isTracking() || m_scrollView->isDragging() || m_scrollView->isDecelerating()) return;
+    if (m_scrollView->isAttended()) return;
     constexpr double tolerance = 1e-6; // an end that is met exactly is met, whatever the rounding of the steps before
     const geometry::Point offset = m_scrollView->contentOffset();
     double x = offset.x;

@@ -11,8 +11,8 @@
 
 namespace proupsells {
 
-// Drifts only while it is on the screen and nobody touches it, at 50 points a second, until it comes to its end. Stands still where
-// motion is to be reduced.
+// Drifts only while it is on the screen and nobody touches it or rests on it, at 50 points a second, until it comes to its end.
+// Stands still where motion is to be reduced.
 class StorePageShelfViewController : public uikit::UIViewController {
 public:
     // Where the content drifts.

@@ -16,7 +16,9 @@ constexpr double lineSpacing = 9;
 } // namespace
 
 TitleSubtitleLabels::TitleSubtitleLabels(const uikit::UIFont& titleFont)
-    : m_titleFont(titleFont), m_titleLabel(makeCenteredLabel()), m_subtitleLabel(makeCenteredLabel()) {}
+    : m_titleFont(titleFont), m_titleLabel(makeCenteredLabel()), m_subtitleLabel(makeCenteredLabel()) {
+    m_titleLabel->accessibilitySpoken.role = accessibility::Role::heading;
+}
 
 // The uneven distances are deliberate: the explanation stands in a narrow column of at most 300 points, the headline may take the
 // whole width but for 25 points on each side.

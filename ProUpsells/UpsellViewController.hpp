@@ -65,6 +65,7 @@ public:
     void viewWillAppear(bool animated) override;
     void languageDidChange() override;
     bool accessibilityPerformEscape() override;
+    std::string accessibilityScreenName() const override;
 
 private:
     void start(const std::vector<SubscriptionOption>& subscriptionOptions);

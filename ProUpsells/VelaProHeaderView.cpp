@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "Platform/Foundation/Bundle.hpp"
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
 #include "Platform/UIKit/Views/UIStackView.hpp"
 #include "Platform/VelaUIKit/VelaColors.hpp"
@@ -15,13 +16,24 @@ std::optional<double> aspectRatio(geometry::Size size) {
 }
 
 VelaProHeaderView::VelaProHeaderView(const geometry::Rect& frame)
-    : StoreHeaderView(frame, "It's never been easier to look professional.", 26),
+    : StoreHeaderView(frame, headline, 26),
       m_proLogoImageView(std::make_shared<uikit::UIImageView>(velauikit::VelaUIKitImage::marwickFolioWithProBadge())) {
     m_proLogoImageView->setTintColor(velauikit::velaLabel);
     m_proLogoImageView->setContentMode(uikit::UIImageView::ContentMode::aspectFit);
     // The shelf's height is fixed, so a long headline is set smaller before it is cut.
     titleLabel()->setMinimumScaleFactor(0.7);
+    applyLogoName();
     layOut();
+}
+
+void VelaProHeaderView::languageDidChange() {
+    StoreHeaderView::languageDidChange();
+    applyLogoName();
+}
+
+void VelaProHeaderView::applyLogoName() {
+    m_proLogoImageView->accessibilitySpoken = {.role = accessibility::Role::image,
+                                               .name = foundation::localizedString("Marwick Folio Pro")};
 }
 
 void VelaProHeaderView::layOut() {

@@ -11,6 +11,9 @@ namespace proupsells {
 
 class VelaProHeaderView : public StoreHeaderView {
 public:
+    // In English, the key of its translations.
+    static constexpr const char* headline = "It's never been easier to look professional.";
+
     explicit VelaProHeaderView(const geometry::Rect& frame);
     // Stops the program: "init(coder:) has not been implemented".
     explicit VelaProHeaderView(const foundation::Coder& coder) : StoreHeaderView(coder) {}
@@ -18,7 +21,10 @@ public:
 
     const std::shared_ptr<uikit::UIImageView>& proLogoImageView() const { return m_proLogoImageView; }
 
+    void languageDidChange() override;
+
 private:
+    void applyLogoName();
     void layOut();
 
     std::shared_ptr<uikit::UIImageView> m_proLogoImageView;

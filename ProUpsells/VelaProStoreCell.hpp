@@ -19,7 +19,14 @@ public:
     void embed(const std::shared_ptr<uikit::UIViewController>& controller, uikit::UIViewController& parent);
     void detach();
 
+    // Reads the cell and what is in it as a group of that name, where keys stop; not as a group for an empty one.
+    void setSpokenName(std::string name);
+
     void layoutSubviews() override;
+
+protected:
+    // Keys move its strips.
+    void describe(accessibility::SemanticNode& node, const graphics::PaintState& state) const override;
 
 private:
     std::weak_ptr<uikit::UIViewController> m_viewController;

@@ -43,6 +43,9 @@ void VelaProStorePageViewController::viewDidLoad() {
 void VelaProStorePageViewController::applyTexts() {
     setTitle(foundation::localizedString("Marwick Folio Pro"));
     if (m_dismissIconButton) m_dismissIconButton->accessibilityLabel = closeLabel();
+    for (const uikit::IndexPath indexPath : collectionView()->indexPathsForVisibleItems())
+        if (auto* cell = dynamic_cast<VelaProStoreCell*>(collectionView()->cellForItem(indexPath).get()))
+            cell->setSpokenName(m_shelves[indexPath.section]->footerTitle());
 }
 
 const std::shared_ptr<uikit::UICollectionView>& VelaProStorePageViewController::collectionView() {
@@ -92,6 +95,7 @@ const std::shared_ptr<velauikit::ChargedButton>& VelaProStorePageViewController:
     m_dismissIconButton->setImage(image(ImageResource::closeStorePageButton()));
     m_dismissIconButton->accessibilityLabel = closeLabel();
     m_dismissIconButton->accessibilityIdentifier = "store.close";
+    m_dismissIconButton->accessibilitySpoken.order = -1; // before the page
     m_dismissIconButton->addTarget(
         uikit::weakReference(*this), [](VelaProStorePageViewController& page) { page.dismissView(); },
         uikit::UIControl::Event::touchUpInside);
@@ -123,8 +127,15 @@ std::size_t VelaProStorePageViewController::collectionViewNumberOfItemsInSection
 std::shared_ptr<uikit::UICollectionViewCell>
 VelaProStorePageViewController::collectionViewCellForItemAt(uikit::UICollectionView& collectionView, uikit::IndexPath indexPath) {
     const auto cell = collectionView.dequeueReusableCell<VelaProStoreCell>(indexPath);
-    cell->accessibilityIdentifier = "store.shelf." + std::string(m_shelves[indexPath.section]->className());
+    cell->accessibilityIdentifier = collectionViewDescriptionOfItemAt(collectionView, indexPath).identifier;
+    cell->setSpokenName(m_shelves[indexPath.section]->footerTitle());
     return cell;
+}
+
+uikit::UICollectionItemDescription VelaProStorePageViewController::collectionViewDescriptionOfItemAt(uikit::UICollectionView&,
+                                                                                                     uikit::IndexPath indexPath) {
+    const VelaProStorePageShelf& shelf = *m_shelves[indexPath.section];
+    return {"store.shelf." + std::string(shelf.className()), shelf.accessibilityName(), !shelf.footerTitle().empty()};
 }
 
 std::vector<uikit::UIImage> VelaProStorePageViewController::collectionViewImagesForItemAt(uikit::UICollectionView&,

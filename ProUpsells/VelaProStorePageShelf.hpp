@@ -30,6 +30,9 @@ public:
     virtual std::string footerTitle() const = 0;
     // The one-sentence explanation, empty for none.
     virtual std::string footerSubTitle() const = 0;
+    // What the shelf is called while it is out of sight, for those who hear the page; the headline unless overridden. One without a
+    // name cannot be asked for.
+    virtual std::string accessibilityName() const { return footerTitle(); }
 };
 
 } // namespace proupsells

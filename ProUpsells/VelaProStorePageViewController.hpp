@@ -104,6 +104,8 @@ public:
     std::size_t collectionViewNumberOfItemsInSection(uikit::UICollectionView& collectionView, std::size_t section) override;
     std::shared_ptr<uikit::UICollectionViewCell> collectionViewCellForItemAt(uikit::UICollectionView& collectionView,
                                                                              uikit::IndexPath indexPath) override;
+    uikit::UICollectionItemDescription collectionViewDescriptionOfItemAt(uikit::UICollectionView& collectionView,
+                                                                         uikit::IndexPath indexPath) override;
     std::vector<uikit::UIImage> collectionViewImagesForItemAt(uikit::UICollectionView& collectionView,
                                                               uikit::IndexPath indexPath) override;
     std::shared_ptr<uikit::UICollectionReusableView>

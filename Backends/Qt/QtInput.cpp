@@ -53,7 +53,18 @@ void QtInput::mousePressed(const QMouseEvent& event) {
 }
 
 void QtInput::mouseMoved(const QMouseEvent& event) {
+    if (event.deviceType() != QInputDevice::DeviceType::TouchScreen) hovered(event.position());
     if (m_mouseIsDown) send(host::TouchPhase::moved, event.position());
+}
+
+void QtInput::hovered(QPointF position) {
+    const auto content = m_content;
+    content->pointer(geometry::Point{position.x(), position.y()});
+}
+
+void QtInput::left() {
+    const auto content = m_content;
+    content->pointer(std::nullopt);
 }
 
 void QtInput::mouseReleased(const QMouseEvent& event) {

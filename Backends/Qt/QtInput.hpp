@@ -24,6 +24,9 @@ public:
     void mousePressed(const QMouseEvent& event);
     void mouseMoved(const QMouseEvent& event);
     void mouseReleased(const QMouseEvent& event);
+    // Where the mouse is while no button is held, and that it has left.
+    void hovered(QPointF position);
+    void left();
     void touched(const QTouchEvent& event);
     void wheelTurned(const QWheelEvent& event);
     // Returns whether the key meant something.

@@ -41,6 +41,7 @@ bool QtWindow::event(QEvent* event) {
         if (const auto handler = m_closeHandler; handler && event->isAccepted()) handler();
         return isHandled;
     }
+    case QEvent::Leave: m_input->left(); return true;
     default: return QWindow::event(event);
     }
 }

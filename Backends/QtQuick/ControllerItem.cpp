@@ -18,6 +18,7 @@ ControllerItem::ControllerItem(QQuickItem* parent)
     setFlag(ItemHasContents);
     setAcceptedMouseButtons(Qt::LeftButton);
     setAcceptTouchEvents(true);
+    setAcceptHoverEvents(true);
     setActiveFocusOnTab(true);
     offerToAssistiveTechnology(*this);
     connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, [this] { m_screen->adoptTraits(); });
@@ -194,6 +195,10 @@ void ControllerItem::mousePressEvent(QMouseEvent* event) {
 }
 
 void ControllerItem::mouseMoveEvent(QMouseEvent* event) { handOnLater(*event, &qtbackend::QtInput::mouseMoved); }
+
+void ControllerItem::hoverMoveEvent(QHoverEvent* event) { m_screen->input().hovered(event->position()); }
+
+void ControllerItem::hoverLeaveEvent(QHoverEvent*) { m_screen->input().left(); }
 
 void ControllerItem::mouseReleaseEvent(QMouseEvent* event) { handOnLater(*event, &qtbackend::QtInput::mouseReleased); }
 

@@ -88,6 +88,8 @@ protected:
     void mouseUngrabEvent() override;
     void touchEvent(QTouchEvent* event) override;
     void touchUngrabEvent() override;
+    void hoverMoveEvent(QHoverEvent* event) override;
+    void hoverLeaveEvent(QHoverEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 

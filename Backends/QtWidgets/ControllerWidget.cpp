@@ -46,6 +46,7 @@ ControllerWidget::ControllerWidget(std::shared_ptr<uikit::UIViewController> cont
     : QWidget(parent), m_screen(std::make_unique<qtbackend::EmbeddedScreen>(std::make_unique<WidgetPlace>(*this),
                                                                             [this] { emit dismissalRequested(); })) {
     setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_AcceptTouchEvents);
     setController(std::move(controller));
@@ -123,6 +124,8 @@ void ControllerWidget::mouseDoubleClickEvent(QMouseEvent* event) { m_screen->inp
 void ControllerWidget::mouseMoveEvent(QMouseEvent* event) { m_screen->input().mouseMoved(*event); }
 
 void ControllerWidget::mouseReleaseEvent(QMouseEvent* event) { m_screen->input().mouseReleased(*event); }
+
+void ControllerWidget::leaveEvent(QEvent*) { m_screen->input().left(); }
 
 void ControllerWidget::wheelEvent(QWheelEvent* event) { m_screen->input().wheelTurned(*event); }
 

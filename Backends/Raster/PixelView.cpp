@@ -207,6 +207,11 @@ void PixelView::pointer(geometry::Point location, bool isDown) {
     if (former && former != location) touch(host::TouchPhase::moved, location);
 }
 
+void PixelView::hover(std::optional<geometry::Point> location) {
+    const auto content = m_state->content;
+    content->pointer(location);
+}
+
 void PixelView::cancelPointer() {
     if (const auto former = std::exchange(m_state->pressedAt, std::nullopt)) touch(host::TouchPhase::cancelled, *former);
 }

@@ -73,6 +73,9 @@ public:
 
     // Where the mouse or the one finger is, in points, and whether the button or finger is down: to be told when either changes.
     void pointer(geometry::Point location, bool isDown);
+    // Where the mouse rests or goes, its button held or not; absent once it has left the view. What moves by itself is held below
+    // it. Not to be told of fingers.
+    void hover(std::optional<geometry::Point> location);
     // The pointer is somebody else's now: what it has pressed is let go without a tap.
     void cancelPointer();
     // For hosts that know the phase: one finger, or the mouse while its button is down.

@@ -55,6 +55,7 @@ ReadingElement elementOf(const SemanticNode& node) {
     element.isExpanded = node.spoken.isExpanded;
     if (element.role != Role::pager) element.activate = node.activate;
     element.adjust = node.adjust;
+    element.takesFocus = !element.isDisabled && (node.spoken.takesFocus || element.isOperable());
     element.reveal = node.reveal;
     element.revealWhole = node.revealWhole;
     return element;
@@ -123,6 +124,7 @@ ReadingElement readingOf(const SemanticNode& screen) {
     dialog.name = screen.spoken.name.empty() ? screen.label : screen.spoken.name;
     dialog.activate = nullptr;
     dialog.adjust = nullptr;
+    dialog.takesFocus = false;
     dialog.children = childrenOf(screen);
     return dialog;
 }

@@ -31,18 +31,20 @@ struct ReadingElement {
 
     // Whether the keys operate it.
     bool isFocused = false;
+    // Whether they stop at it.
+    bool takesFocus = false;
 
     // As of SemanticNode; empty where there is nothing of the kind to do. A pager only adjusts.
     std::function<void()> activate;
     std::function<void(int step)> adjust;
     std::function<void()> reveal;
     std::function<void()> revealWhole;
-    // Gives it to the keys. Empty where they can do nothing with it.
+    // Gives it to the keys. Empty where they do not stop.
     std::function<void()> focus;
 
     std::vector<ReadingElement> children;
 
-    // Whether keys can do something with it.
+    // Whether something can be done with it.
     bool isOperable() const { return activate || adjust; }
 };
 

@@ -96,6 +96,10 @@ struct SpokenInfo {
     std::optional<bool> isExpanded;
     int order = 0;         // lower ones are read earlier, among all that stand in the same group
     bool isSilent = false; // neither it nor anything inside is read
+    // Keys stop at it, be it only to hold what moves in it.
+    bool takesFocus = false;
+
+    bool operator==(const SpokenInfo&) const = default;
 };
 
 // How much is to be seen around what is revealed as a whole, in points: more than what fades out at the edges of a page.

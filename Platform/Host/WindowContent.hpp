@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "Platform/Accessibility/Reading.hpp"
 #include "Platform/Graphics/DisplayList.hpp"
@@ -33,6 +34,8 @@ public:
     virtual void setSize(geometry::Size size, geometry::PhysicalInsets safeArea) = 0;
     // A finger has come down, moved or left.
     virtual void touch(const Touch& touch) = 0;
+    // Where the mouse rests or goes, its button held or not; absent once it has left. Nothing is told of fingers.
+    virtual void pointer(std::optional<geometry::Point> /*location*/) {}
     // A wheel or trackpad: moves the scroll view under `location` by `delta` points; a positive y shows what is further down.
     virtual void scroll(geometry::Point location, geometry::Point delta) = 0;
     // Returns whether the key meant something. A key that is held down comes again and again, `isRepeated` but for the first time.

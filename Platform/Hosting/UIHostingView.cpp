@@ -31,6 +31,10 @@ std::shared_ptr<UIHostingView> UIHostingView::create(std::function<swiftui::View
     view->m_host->setNeedsDisplayHandler([self] {
         if (const auto held = self.lock()) held->setNeedsDisplay();
     });
+    view->m_host->setAttentionHandler([self](const geometry::Rect& rect) {
+        const auto held = self.lock();
+        return held && held->window() && held->window()->isAttended(held->convertTo(rect, nullptr));
+    });
     // Only constraints ask for the natural size; a view that is given its frame keeps it whatever the content wants.
     view->m_host->setLayoutHandler([self] {
         if (const auto held = self.lock(); held && !held->translatesAutoresizingMaskIntoConstraints())
@@ -42,6 +46,7 @@ std::shared_ptr<UIHostingView> UIHostingView::create(std::function<swiftui::View
 UIHostingView::~UIHostingView() {
     m_host->setNeedsDisplayHandler({});
     m_host->setLayoutHandler({});
+    m_host->setAttentionHandler({});
     // The tree, which goes next, must not look for its places here any more.
     const auto places = subviews();
     for (const auto& place : places) place->removeFromSuperview();

@@ -27,7 +27,23 @@ void ClipPlayback::open() {
     m_isPlayable = m_clip != nullptr;
 }
 
-host::ClipFrame ClipPlayback::currentFrame() { return frameAt(runloop::MainRunLoop::main().now_s() - m_start_s); }
+double ClipPlayback::time_s() const { return m_heldAt_s.value_or(runloop::MainRunLoop::main().now_s() - m_start_s); }
+
+host::ClipFrame ClipPlayback::currentFrame() { return frameAt(time_s()); }
+
+std::shared_ptr<void> ClipPlayback::held() {
+    if (auto hold = m_hold.lock()) return hold;
+    m_heldAt_s = time_s();
+    const auto goOn = [playback = weak_from_this()](void*) {
+        const auto self = playback.lock();
+        if (!self || !runloop::MainRunLoop::exists()) return;
+        self->m_start_s = runloop::MainRunLoop::main().now_s() - *self->m_heldAt_s;
+        self->m_heldAt_s.reset();
+    };
+    const std::shared_ptr<void> hold(this, goOn);
+    m_hold = hold;
+    return hold;
+}
 
 host::ClipFrame ClipPlayback::frameAt(double time_s) {
     if (!m_hasOpened) open();

@@ -35,7 +35,8 @@ std::span<const DesignColor> designColors() {
         {dynamicColor(10), "subtitles of the store page", velaSecondaryLabel.name},
         {dynamicColor(16), "text and arrow of the store page's button", velaLightText.name},
         {dynamicColor(22), "the store page's button", marwickContentAccent.name},
-        {uikit::focusRingColor, "the ring around the control that keys operate", marwickContentAccent.name},
+        {uikit::focusRingColor, "the ring around the control that keys operate", velaLabel.name},
+        {uikit::focusRingRimColor, "the rims of that ring", velaBackground.name},
         {uikit::UIPageControl::dotColor, "the dots on the header pictures, which show its dark value"},
     };
     return colors;
@@ -76,6 +77,7 @@ std::span<const ColorPair> colorPairs() {
         {uikit::focusRingColor, page, shape},
         {uikit::focusRingColor, card, shape},
         {uikit::focusRingColor, storePage, shape},
+        {uikit::focusRingColor, uikit::focusRingRimColor, shape},
     };
     return pairs;
 }

@@ -22,6 +22,7 @@ void VideoView::play() {
 }
 
 void VideoView::updatePlayback() {
+    m_hold.reset();
     m_playback = m_isPlaying && m_file ? ClipPlayback::of(*m_file) : nullptr;
     setNeedsDisplay();
 }
@@ -31,6 +32,7 @@ host::ClipFrame VideoView::dueFrame() const { return standsStill() ? m_playback-
 bool VideoView::isAnimating() const {
     if (UIView::isAnimating()) return true;
     if (!m_playback || !m_playback->isPlayable() || !window() || m_lastPaint != window()->paintCount()) return false;
+    if (m_hold && m_showsPicture) return false;
     // On a real clock the first picture may come some frames late.
     return !standsStill() || !m_showsFirstPicture;
 }
@@ -46,7 +48,9 @@ geometry::Rect VideoView::pictureFrame(const graphics::Bitmap& picture) const {
 void VideoView::draw(graphics::PaintContext& context, const graphics::PaintState& state) const {
     if (!m_playback || state.hides(bounds())) return;
     if (window()) m_lastPaint = window()->paintCount();
+    m_hold = isAttended() ? m_playback->held() : nullptr;
     const host::ClipFrame frame = dueFrame();
+    m_showsPicture = frame.picture != nullptr;
     m_showsFirstPicture = frame.picture && frame.time_s == 0;
     if (frame.picture && frame.picture->width > 0 && frame.picture->height > 0)
         context.bitmap(state, pictureFrame(*frame.picture), frame.picture);

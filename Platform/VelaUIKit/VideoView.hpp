@@ -41,7 +41,9 @@ private:
     bool m_isPlaying = false;
     std::shared_ptr<ClipPlayback> m_playback;         // null while nothing plays
     mutable std::optional<std::uint64_t> m_lastPaint; // the window's count when this view was painted last
-    mutable bool m_showsFirstPicture = false;         // as painted last
+    mutable std::shared_ptr<void> m_hold;             // while a person rests on the view, as painted last
+    mutable bool m_showsPicture = false;              // likewise
+    mutable bool m_showsFirstPicture = false;
 };
 
 } // namespace proupsells::velauikit

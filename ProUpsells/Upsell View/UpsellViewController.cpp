@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Hosting/UIHostingController.hpp"
 #include "Platform/RunLoop/MainActor.hpp"
 #include "Platform/SwiftUI/Modifiers/EnvironmentModifiers.hpp"
@@ -122,6 +123,10 @@ bool UpsellViewController::accessibilityPerformEscape() {
     const auto self = uikit::strongReference(*this);
     m_upsellViewModel->tapEventOccurred.send({TapEvent::Cancel{}});
     return true;
+}
+
+std::string UpsellViewController::accessibilityScreenName() const {
+    return foundation::localizedString("Choose Your Plan", "Button that a user clicks to go back to upsell page");
 }
 
 void UpsellViewController::viewWillAppear(bool animated) {

@@ -90,6 +90,34 @@ TEST_F(VideoViewTest, CountsTimeFromWhenItWasToldToPlay) {
     EXPECT_THAT(shownPictures(), ElementsAre(4));
 }
 
+TEST_F(VideoViewTest, IsHeldByAPointerThatRestsOnItAndGoesOnFromThere) {
+    play(*view);
+    bed.runUntil(0.5);
+    window->pointer(geometry::Point{50, 50});
+    EXPECT_THAT(shownPictures(), ElementsAre(4));
+
+    bed.runUntil(10);
+    EXPECT_THAT(shownPictures(), ElementsAre(4));
+    EXPECT_FALSE(window->isAnimating());
+
+    window->pointer(std::nullopt);
+    EXPECT_THAT(shownPictures(), ElementsAre(4));
+    bed.runUntil(10.25);
+    EXPECT_THAT(shownPictures(), ElementsAre(6));
+}
+
+TEST_F(VideoViewTest, IsHeldTogetherWithOtherViewsOfItsFile) {
+    addView({{150, 0}, {100, 100}})->setFile(folder.path() / "one.mp4");
+    play(*view);
+    play(static_cast<VideoView&>(*root().subviews().back()));
+    window->pointer(geometry::Point{50, 50});
+    EXPECT_THAT(shownPictures(), ElementsAre(0, 0));
+
+    bed.runUntil(3);
+
+    EXPECT_THAT(shownPictures(), ElementsAre(0, 0));
+}
+
 TEST_F(VideoViewTest, RepeatsWithoutEnd) {
     play(*view);
 

@@ -1,11 +1,7 @@
 // The three screens by keys alone: nobody buys by accident.
 #include <gmock/gmock.h>
 
-#include "ProUpsells/UpsellViewController.hpp"
-#include "ProUpsells/VelaProUpsellViewController.hpp"
-#include "Tests/ProUpsells/Ledger.hpp"
-#include "Tests/ProUpsells/Offers.hpp"
-#include "Tests/ProUpsells/Screen.hpp"
+#include "Tests/ProUpsells/KeyboardScreen.hpp"
 
 namespace proupsells::tests {
 namespace {
@@ -14,40 +10,7 @@ using host::Key;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class Keyboard : public ::testing::Test {
-protected:
-    Keyboard() {
-        entry->setDelegate(delegate);
-        window->setRootViewController(std::make_shared<uikit::UIViewController>());
-        window->rootViewController()->present(entry, true);
-        bed.runFor(1);
-    }
-    ~Keyboard() override { window->setRootViewController(nullptr); }
-
-    // The identifier of the control in focus; empty for none.
-    std::string inFocus() {
-        const accessibility::ReadingElement reading = window->reading();
-        for (const accessibility::ReadingElement* element : accessibility::elementsOf(reading))
-            if (element->isFocused) return element->identifier;
-        return {};
-    }
-    void tabTo(const std::string& identifier) {
-        for (int step = 0; step < 50 && inFocus() != identifier; ++step) window->key(Key::tab);
-        ASSERT_EQ(inFocus(), identifier);
-    }
-    void press(Key key) {
-        window->key(key);
-        bed.runFor(1);
-    }
-
-    headless::TestBed bed;
-    Ledger ledger;
-    std::shared_ptr<LedgerDelegate> delegate = std::make_shared<LedgerDelegate>(ledger);
-    std::shared_ptr<uikit::UIWindow> window = uikit::UIWindow::create({375, 800});
-    std::shared_ptr<VelaProUpsellViewController> entry =
-        VelaProUpsellViewController::create({yearly(), monthly()}, VelaProUpsellViewController::Variant::comparisonPaywall,
-                                            Referrer{"Home"}, Entitlement::velaPRO, true);
-};
+class Keyboard : public KeyboardScreen {};
 
 TEST_F(Keyboard, BuysOnceWhileReturnIsHeld) {
     tabTo("subscribe");
@@ -66,14 +29,12 @@ struct Way {
     bool isToStore = false;
 };
 
-class KeyboardWays : public Keyboard, public ::testing::WithParamInterface<Way> {
+class KeyboardWays : public KeyboardScreen, public ::testing::WithParamInterface<Way> {
 protected:
     void go() {
         tabTo(GetParam().opener);
         if (GetParam().isToStore)
-            dynamic_cast<UpsellViewController&>(*entry->children().front())
-                .upsellViewModel()
-                ->tapEventOccurred.send({UpsellViewModel::TapEvent::WhatIsPro{}});
+            openStore();
         else
             window->key(Key::activate);
         bed.runFor(1);
@@ -88,7 +49,7 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(All, KeyboardWays,
                          ::testing::Values(Way{"comparePlans", "comparison.choosePlan"}, Way{"comparePlans", "comparison.close"},
-                                           Way{"plan.pro.monthly", "store.choosePlan", true},
+                                           Way{"plan.pro.yearly", "store.choosePlan", true},
                                            Way{"subscribe", "store.close", true}));
 
 TEST_P(KeyboardWays, LeadBackToTheControlThatHadTheFocus) {
@@ -124,6 +85,165 @@ TEST_P(KeyboardWays, BeginAtAControlOfTheScreenThatHasCome) {
 
     EXPECT_NE(inFocus(), "");
     EXPECT_NE(inFocus(), GetParam().opener);
+}
+
+// Return on any screen's first control must not buy.
+TEST_F(Keyboard, BeginsAtClose) {
+    window->key(Key::tab);
+
+    EXPECT_EQ(inFocus(), "close");
+}
+
+TEST_F(Keyboard, FollowsTheOrderInWhichThePaywallIsRead) {
+    std::vector<std::string> order;
+    for (int step = 0; step < 9; ++step) {
+        window->key(Key::tab);
+        order.push_back(inFocus());
+    }
+
+    EXPECT_THAT(order, ElementsAre("close", "carousel.pageControl", "comparePlans", "plan.pro.yearly", "subscribe",
+                                   "termsOfService", "privacyPolicy", "restorePurchases", "close"));
+}
+
+TEST_F(Keyboard, ArrowsChooseAmongThePlans) {
+    tabTo("plan.pro.yearly");
+
+    press(Key::down);
+    EXPECT_EQ(inFocus(), "plan.pro.monthly");
+    EXPECT_TRUE(isChecked("plan.pro.monthly"));
+
+    press(Key::right); // from the last one to the first one
+    EXPECT_TRUE(isChecked("plan.pro.yearly"));
+    press(Key::up);
+    EXPECT_TRUE(isChecked("plan.pro.monthly"));
+
+    window->key(Key::tab);
+    EXPECT_EQ(inFocus(), "subscribe");
+    window->key(Key::backTab);
+    EXPECT_EQ(inFocus(), "plan.pro.monthly"); // the chosen one
+    EXPECT_THAT(ledger, IsEmpty());
+}
+
+TEST_F(Keyboard, BuysTheMonthlyPlan) {
+    tabTo("plan.pro.yearly");
+    press(Key::down);
+    window->key(Key::tab);
+    press(Key::space);
+
+    ASSERT_EQ(ledger.size(), 1U);
+    EXPECT_THAT(ledger[0], ::testing::HasSubstr("pro.monthly"));
+}
+
+TEST_F(Keyboard, ArrowsTurnTheHeadersPages) {
+    tabTo("carousel.pageControl");
+
+    press(Key::right);
+    EXPECT_EQ(valueOf("carousel.pageControl"), "page 2 of 4");
+    press(Key::left);
+    EXPECT_EQ(valueOf("carousel.pageControl"), "page 1 of 4");
+    EXPECT_FALSE(window->key(Key::activate)); // a press would jump
+    EXPECT_EQ(valueOf("carousel.pageControl"), "page 1 of 4");
+}
+
+TEST_F(Keyboard, ArrowsTurnTheHeadersPagesTheOtherWayWhereTextsReadFromRightToLeft) {
+    uikit::UITraitCollection traits = window->traits();
+    traits.layoutDirection = geometry::LayoutDirection::rightToLeft;
+    window->setTraits(traits);
+    bed.settle();
+    tabTo("carousel.pageControl");
+
+    press(Key::left);
+
+    EXPECT_EQ(valueOf("carousel.pageControl"), "page 2 of 4");
+}
+
+TEST_F(Keyboard, ArrowsAndReturnOpenAndCloseACategory) {
+    tap("comparePlans");
+    tabTo("comparison.category.Creation Tools");
+
+    press(Key::right);
+    EXPECT_TRUE(isExpanded("comparison.category.Creation Tools"));
+    press(Key::right); // is open
+    EXPECT_TRUE(isExpanded("comparison.category.Creation Tools"));
+    press(Key::left);
+    EXPECT_FALSE(isExpanded("comparison.category.Creation Tools"));
+    press(Key::activate);
+    EXPECT_TRUE(isExpanded("comparison.category.Creation Tools"));
+}
+
+TEST_F(Keyboard, ScrollsThePage) {
+    window->setSize({375, 600}, {});
+    bed.settle();
+    const double top = frameOf("subscribe").minY();
+    const auto moved = [&] {
+        bed.settle();
+        return top - frameOf("subscribe").minY();
+    };
+
+    EXPECT_TRUE(window->key(Key::down));
+    EXPECT_EQ(moved(), 60);
+    EXPECT_TRUE(window->key(Key::up));
+    EXPECT_EQ(moved(), 0);
+    EXPECT_TRUE(window->key(Key::end));
+    const double bottom = moved();
+    EXPECT_GT(bottom, 60);
+    EXPECT_TRUE(window->key(Key::home));
+    EXPECT_EQ(moved(), 0);
+    EXPECT_TRUE(window->key(Key::space)); // nothing is in focus
+    EXPECT_EQ(moved(), std::min(bottom, 0.9 * 600));
+    window->key(Key::pageUp);
+    EXPECT_EQ(moved(), 0);
+    window->key(Key::pageDown);
+    EXPECT_EQ(moved(), std::min(bottom, 0.9 * 600));
+}
+
+TEST_F(Keyboard, ReachesEveryShelf) {
+    openStore();
+    std::vector<std::string> reached;
+    for (int step = 0; step < 12; ++step) {
+        window->key(Key::tab);
+        bed.settle();
+        if (inFocus() == "store.choosePlan") break;
+        reached.push_back(inFocus());
+        EXPECT_TRUE(isOnScreen(inFocus())) << inFocus();
+    }
+
+    EXPECT_THAT(reached, ElementsAre("store.close", "store.shelf.BrandAssetsShelf", "store.shelf.TemplatesShelf",
+                                     "store.shelf.PDFsShelf", "store.shelf.LayoutCollectionsShelf", "store.shelf.PremiumFontsShelf",
+                                     "store.shelf.ShapesShelf", "store.shelf.VideoImageLibrariesShelf"));
+}
+
+TEST_F(Keyboard, ArrowsTurnAShelfsStrips) {
+    openStore();
+    tabTo("store.shelf.ShapesShelf");
+    const auto offset = [&] {
+        const accessibility::SemanticNode tree = window->semanticTree();
+        return accessibility::findByIdentifier(tree, "store.strip.ShapesShelf.0")->scroll->contentOffset.x;
+    };
+    const double before = offset();
+
+    window->key(Key::right);
+    bed.runFor(0.4);
+
+    EXPECT_NE(offset(), before);
+}
+
+// Neither under the white gradient nor beyond an edge.
+TEST_F(Keyboard, BringsTheWholeControlInSight) {
+    for (const double height : {800.0, 600.0, 400.0}) {
+        window->setSize({375, height}, {});
+        bed.settle();
+        window->dropFocus();
+        window->takeFocus(host::FocusEnd::first);
+        for (int step = 0; step < 8; ++step) {
+            const geometry::Rect frame = frameOf(inFocus());
+            EXPECT_GE(frame.minY(), 0) << inFocus() << " at " << height;
+            if (inFocus() == "close") continue;
+            EXPECT_LE(frame.maxY(), height - 32) << inFocus() << " at " << height;
+            window->key(Key::tab);
+            bed.settle();
+        }
+    }
 }
 
 } // namespace

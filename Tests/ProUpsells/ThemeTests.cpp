@@ -50,7 +50,7 @@ Theme terminal() {
     for (const std::string_view name : Theme::colorNames()) theme.colors[std::string(name)] = {green, green};
     for (const char* name :
          {"velaBackground", "velaSecondaryAppBackground", "velaLightText", "ContentColor.inverse", "DecorativeColor.tealBackground",
-          "ValidationColor.neutralSubdued", "dynamicColor.2", "dynamicColor.16"})
+          "ValidationColor.neutralSubdued", "dynamicColor.2", "dynamicColor.16", "focusRingRim"})
         theme.colors[name] = {nearlyBlack, nearlyBlack};
     return theme;
 }

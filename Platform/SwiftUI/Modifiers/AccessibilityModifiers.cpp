@@ -34,8 +34,32 @@ private:
     AccessibilityModifier m_modifier;
 };
 
+class SpokenNode final : public ModifierNode {
+public:
+    void adopt(SpokenModifier&& modifier, UpdatePass&) {
+        if (!(modifier == m_modifier)) m_modifier = std::move(modifier);
+    }
+
+protected:
+    void addAttributes(SemanticContext& context, const graphics::PaintState&) const override {
+        accessibility::SpokenInfo& pending = context.pending.spoken;
+        const accessibility::SpokenInfo& own = m_modifier.spoken;
+        if (pending.role == accessibility::Role::unstated) pending.role = own.role;
+        if (pending.name.empty()) pending.name = own.name;
+        if (!pending.isChecked) pending.isChecked = own.isChecked;
+        if (!pending.isExpanded) pending.isExpanded = own.isExpanded;
+        if (pending.order == 0) pending.order = own.order;
+        if (own.isSilent) pending.isSilent = true;
+    }
+
+private:
+    SpokenModifier m_modifier;
+};
+
 } // namespace
 
 View AccessibilityModifier::modified(View content) && { return newModifier<AccessibilityNode>(std::move(*this), content); }
+
+View SpokenModifier::modified(View content) && { return newModifier<SpokenNode>(std::move(*this), content); }
 
 } // namespace proupsells::swiftui

@@ -29,4 +29,30 @@ inline AccessibilityModifier accessibilityTraits(accessibility::Traits traits) {
 // Left out of the semantic tree, with everything inside.
 inline AccessibilityModifier accessibilityHidden(bool isHidden = true) { return {.isHidden = isHidden}; }
 
+// Says what only those are told who hear the view or steer it by keys. Goes to the same view as AccessibilityModifier, and leaves
+// its frame alone. Of modifiers around each other the outer one counts where both say something.
+struct SpokenModifier {
+    accessibility::SpokenInfo spoken;
+
+    View modified(View content) &&;
+    bool operator==(const SpokenModifier&) const = default;
+};
+
+inline SpokenModifier accessibilityRole(accessibility::Role role, std::string name = {}) {
+    return {{.role = role, .name = std::move(name)}};
+}
+inline SpokenModifier accessibilitySpokenName(std::string name) { return {{.name = std::move(name)}}; }
+// One of a group of radio buttons.
+inline SpokenModifier accessibilityRadioButton(std::string name, bool isChecked) {
+    return {{.role = accessibility::Role::radioButton, .name = std::move(name), .isChecked = isChecked}};
+}
+// Opens and closes what stands below it.
+inline SpokenModifier accessibilityDisclosure(bool isExpanded) {
+    return {{.role = accessibility::Role::disclosure, .isExpanded = isExpanded}};
+}
+// Lower ones are read earlier; 0 is usual.
+inline SpokenModifier accessibilityReadingOrder(int order) { return {{.order = order}}; }
+// Not read, nor anything inside; still in the semantic tree.
+inline SpokenModifier accessibilitySilent() { return {{.isSilent = true}}; }
+
 } // namespace proupsells::swiftui

@@ -39,6 +39,7 @@ void detail::TimerNode::adopt(ReceiveModifier<combine::TimerPublisher, double>&&
     if (!(modifier.source == m_timer)) m_ticks.cancel();
     m_timer = modifier.source;
     m_action = std::move(modifier.action);
+    m_isHeldByAttention = modifier.isHeldByAttention;
     followWindow();
 }
 
@@ -46,7 +47,9 @@ void detail::TimerNode::followWindow() {
     if (!host().isInWindow())
         m_ticks.cancel();
     else if (!m_ticks)
-        m_ticks = m_timer.sink([this](double time_s) { m_action(time_s); });
+        m_ticks = m_timer.sink([this](double time_s) {
+            if (!m_isHeldByAttention || !host().isAttended(frameInHost(time_s))) m_action(time_s);
+        });
 }
 
 View AppearanceModifier::modified(View content) && { return newModifier<AppearanceNode>(std::move(*this), content); }

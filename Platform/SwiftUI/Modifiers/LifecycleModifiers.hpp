@@ -59,6 +59,7 @@ template <class Source, class Value>
 struct ReceiveModifier {
     Source source;
     Callback<void(const Value&)> action;
+    bool isHeldByAttention = false; // of timers
 
     View modified(View content) &&;
 };
@@ -72,6 +73,12 @@ ReceiveModifier<SubjectSource<Value>, Value> onReceive(const combine::Passthroug
 inline ReceiveModifier<combine::TimerPublisher, double> onReceive(const combine::TimerPublisher& timer,
                                                                   Callback<void(const double&)> action) {
     return {timer, std::move(action)};
+}
+// Likewise, but for the ticks while a person rests on the view, with the pointer or with the focus of the keys: by this a view
+// moves that can be held.
+inline ReceiveModifier<combine::TimerPublisher, double> onReceiveUnattended(const combine::TimerPublisher& timer,
+                                                                            Callback<void(const double&)> action) {
+    return {timer, std::move(action), true};
 }
 
 // The view inside is another one, with its own state, when the key is.
@@ -133,6 +140,7 @@ private:
 
     combine::TimerPublisher m_timer;
     Callback<void(const double&)> m_action;
+    bool m_isHeldByAttention = false;
     combine::AnyCancellable m_windowChanges;
     combine::AnyCancellable m_ticks; // empty while the host is in no window
 };

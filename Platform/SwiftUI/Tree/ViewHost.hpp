@@ -58,6 +58,11 @@ public:
     // Sends the new value after each change.
     const combine::PassthroughSubject<bool>& inWindowChanges() const { return m_inWindowChanges; }
 
+    // Whether a person rests on a part of the host, with the pointer or with the focus of the keys; never, unless a handler says
+    // so.
+    bool isAttended(const geometry::Rect& rect) const { return m_attentionHandler && m_attentionHandler(rect); }
+    void setAttentionHandler(std::function<bool(const geometry::Rect&)> handler) { m_attentionHandler = std::move(handler); }
+
     // --- Bringing up to date
     // The root and everything that has changed is built again at the end of the turn.
     void setNeedsUpdate();
@@ -152,6 +157,7 @@ private:
     TouchDispatcher m_touches{*this};
     graphics::DisplayList m_displayList;
     std::function<void()> m_needsDisplayHandler;
+    std::function<bool(const geometry::Rect&)> m_attentionHandler;
     std::function<void()> m_layoutHandler;
     combine::PassthroughSubject<bool> m_inWindowChanges;
     std::vector<PostLayoutObserver*> m_observers;

@@ -194,6 +194,38 @@ std::shared_ptr<UICollectionViewCell> UICollectionView::cellForItem(IndexPath in
     return nullptr;
 }
 
+// In the same place as the cell that it would have, and brought in sight like it.
+accessibility::SemanticNode UICollectionView::nodeForItem(const Attributes& attributes, const graphics::PaintState& state) const {
+    accessibility::SemanticNode node;
+    const auto dataSource = m_dataSource.lock();
+    if (!dataSource) return node;
+    auto& self = const_cast<UICollectionView&>(*this);
+    UICollectionItemDescription description = dataSource->collectionViewDescriptionOfItemAt(self, attributes.indexPath);
+    node.type = "UICollectionViewCell";
+    node.identifier = std::move(description.identifier);
+    node.frame = state.toWindow(attributes.frame);
+    node.spoken = {.role = accessibility::Role::group, .name = std::move(description.name), .takesFocus = description.takesFocus};
+    node.opacity = state.opacity;
+    node.reveal = [view = weakReference(self), indexPath = attributes.indexPath] {
+        const auto held = view.lock();
+        if (held && held->window()) held->scrollRectToVisible(held->frameForItem(indexPath));
+    };
+    node.revealWhole = node.reveal;
+    return node;
+}
+
+void UICollectionView::describe(accessibility::SemanticNode& node, const graphics::PaintState& state) const {
+    UIScrollView::describe(node, state);
+    const std::vector<IndexPath> visible = indexPathsForVisibleItems();
+    for (const Attributes& attributes : m_layout->allAttributes()) {
+        if (attributes.category != Attributes::Category::cell || cellForItem(attributes.indexPath)) continue;
+        accessibility::SemanticNode item = nodeForItem(attributes, state);
+        if (item.spoken.name.empty()) continue;
+        const bool isBefore = !visible.empty() && attributes.indexPath < visible.front();
+        (isBefore ? node.itemsBefore : node.itemsAfter).push_back(std::move(item));
+    }
+}
+
 std::vector<IndexPath> UICollectionView::indexPathsForVisibleItems() const {
     std::vector<IndexPath> paths;
     for (const Shown& shown : m_shown)

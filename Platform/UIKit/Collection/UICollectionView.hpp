@@ -46,6 +46,7 @@ protected:
     void contentOffsetDidChange() override;
     void frameDidChange(const geometry::Rect& previous) override;
     bool followsMovement() const override { return true; }
+    void describe(accessibility::SemanticNode& node, const graphics::PaintState& state) const override;
     // While nobody scrolls, the item that comes next is looked at.
     void draw(graphics::PaintContext& context, const graphics::PaintState& state) const override;
 
@@ -56,6 +57,8 @@ private:
     };
 
     void prepareLayoutIfNeeded();
+    accessibility::SemanticNode nodeForItem(const UICollectionViewLayoutAttributes& attributes,
+                                            const graphics::PaintState& state) const;
     // Shows what is in the bounds and nothing else.
     void tile();
     void findItemAhead();

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "Platform/System/Compiler.hpp"
@@ -18,6 +19,13 @@ class UICollectionViewCell;
 // What stands above or below a section's items.
 enum class UICollectionElementKind { sectionHeader, sectionFooter };
 
+// An item in words.
+struct UICollectionItemDescription {
+    std::string identifier;  // as its cell's
+    std::string name;        // in the person's language
+    bool takesFocus = false; // keys stop at the cell
+};
+
 class PROUPSELLS_EXPORT UICollectionViewDataSource {
 public:
     virtual ~UICollectionViewDataSource() = default;
@@ -28,6 +36,9 @@ public:
     // A cell from dequeueReusableCell, filled. Null stops the program.
     virtual std::shared_ptr<UICollectionViewCell> collectionViewCellForItemAt(UICollectionView& collectionView,
                                                                               IndexPath indexPath) = 0;
+    // What an item is, for those who hear the collection. Asked for items that have no cell, as they are out of sight; one without
+    // a name is left out.
+    virtual UICollectionItemDescription collectionViewDescriptionOfItemAt(UICollectionView&, IndexPath) { return {}; }
     // Images that an item shows at their natural size. Asked for the item that follows those in sight, so that they are ready when
     // it comes.
     virtual std::vector<UIImage> collectionViewImagesForItemAt(UICollectionView&, IndexPath) { return {}; }

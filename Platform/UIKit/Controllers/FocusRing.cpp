@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "Platform/UIKit/Views/UIKitTypes.hpp"
-
 namespace proupsells::uikit {
 
 using geometry::Rect;
@@ -12,9 +10,6 @@ namespace {
 
 constexpr double lineWidth = 2, rimWidth = 1.5;
 constexpr double halfWidth = lineWidth / 2 + rimWidth;
-
-constexpr UIColor lineColor{"focusRing", graphics::rgb(0x15191C), graphics::rgb(0xF3F5F4)};
-constexpr UIColor rimColor{"focusRingRim", graphics::rgb(0xFFFFFF), graphics::rgb(0x15191C)};
 
 bool contains(const Rect& outer, const Rect& inner) {
     return inner.minX() >= outer.minX() && inner.maxX() <= outer.maxX() && inner.minY() >= outer.minY() &&
@@ -42,8 +37,8 @@ void paintFocusRing(graphics::PaintContext& context, const graphics::PaintState&
     const auto stroke = [&](double width, const UIColor& color) {
         context.strokeRoundedRectangle(state, ring, radius, geometry::CornerStyle::continuous, width, color.resolved(state.scheme));
     };
-    stroke(2 * halfWidth, rimColor);
-    stroke(lineWidth, lineColor);
+    stroke(2 * halfWidth, focusRingRimColor);
+    stroke(lineWidth, focusRingColor);
 }
 
 } // namespace proupsells::uikit

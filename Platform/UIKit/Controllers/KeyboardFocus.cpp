@@ -29,7 +29,7 @@ void forEachElement(accessibility::ReadingElement& element, const auto& visit) {
 KeyboardFocus::Stops KeyboardFocus::stops() const {
     Stops stops{accessibility::readingOf(m_window.semanticTree()), {}};
     const auto collect = [&](const auto& self, const Element& element, const Element* group) -> void {
-        if (element.isOperable() && !element.isDisabled) stops.all.push_back({&element, group});
+        if (element.takesFocus) stops.all.push_back({&element, group});
         const Element* const inner = element.role == Role::radioGroup ? &element : nullptr;
         for (const Element& child : element.children) self(self, child, inner);
     };
@@ -82,6 +82,7 @@ void KeyboardFocus::give(const Stop& stop, std::size_t index) {
 void KeyboardFocus::giveInSight(const std::vector<Stop>& stops, std::size_t index) {
     give(stops[index], index);
     if (const auto& reveal = stops[index].element->revealWhole) reveal();
+    m_lastFrame = frameInFocus();
 }
 
 std::optional<std::size_t> KeyboardFocus::nextStop(const std::vector<Stop>& stops, std::ptrdiff_t from, int step,
@@ -132,6 +133,7 @@ void KeyboardFocus::drop() {
     if (m_isThere) m_window.setNeedsDisplay();
     m_isThere = false;
     m_places.clear();
+    m_lastFrame.reset();
 }
 
 int KeyboardFocus::horizontalStep(Key key) const {
@@ -179,7 +181,7 @@ void KeyboardFocus::mark(Element& reading) {
     const Element* const focused = here ? stops.all[*here].element : nullptr;
     forEachElement(reading, [&](Element& element) {
         element.isFocused = focused && element.id == focused->id && element.identifier == focused->identifier;
-        if (!element.isOperable() || element.isDisabled) return;
+        if (!element.takesFocus) return;
         element.focus = [window = weakReference(m_window), id = element.id, identifier = element.identifier] {
             const auto held = window.lock();
             if (!held || held->isTransitioning()) return;
@@ -193,11 +195,11 @@ void KeyboardFocus::mark(Element& reading) {
 }
 
 void KeyboardFocus::paintRing(graphics::PaintContext& context) {
-    const std::optional<geometry::Rect> control = frameInFocus();
-    if (!control) return;
+    m_lastFrame = frameInFocus();
+    if (!m_lastFrame) return;
     std::vector<geometry::Rect> texts;
     addTexts(m_window.semanticTree(), texts);
-    paintFocusRing(context, m_window.windowState(), focusRingAround(*control, m_window.bounds(), texts));
+    paintFocusRing(context, m_window.windowState(), focusRingAround(*m_lastFrame, m_window.bounds(), texts));
 }
 
 std::optional<geometry::Rect> KeyboardFocus::frameInFocus() {

@@ -42,6 +42,8 @@ public:
     void mark(accessibility::ReadingElement& reading);
     // Where the control in focus stands, in window points. Absent while nobody has it or while it cannot be seen.
     std::optional<geometry::Rect> frameInFocus();
+    // Where it stood when it was given or painted last.
+    const std::optional<geometry::Rect>& lastFrame() const { return m_lastFrame; }
     void paintRing(graphics::PaintContext& context);
 
 private:
@@ -79,6 +81,7 @@ private:
     UIWindow& m_window;
     bool m_isThere = false;
     std::vector<Place> m_places;
+    std::optional<geometry::Rect> m_lastFrame;
 };
 
 } // namespace proupsells::uikit

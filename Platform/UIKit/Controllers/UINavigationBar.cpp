@@ -5,6 +5,7 @@ namespace proupsells::uikit {
 UINavigationBar::UINavigationBar() : m_title(std::make_shared<UILabel>()) {
     m_title->setTextAlignment(graphics::TextAlignment::center);
     m_title->accessibilityTraits = accessibility::Traits::header;
+    accessibilitySpoken.order = -1; // stands above the content, which it is painted over
     addSubview(m_title);
 }
 

@@ -1,6 +1,7 @@
 // How views come into a superview and a window and leave them, and what their controllers hear of it.
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
+#include "Platform/UIKit/Controllers/UIWindow.hpp"
 
 namespace proupsells::uikit {
 
@@ -87,5 +88,7 @@ void UIView::tellControllerOfLayout() {
     const auto controller = strongReference(*m_viewController);
     controller->viewDidLayoutSubviews();
 }
+
+bool UIView::isAttended() const { return m_window && m_window->isAttended(convertTo(bounds(), nullptr)); }
 
 } // namespace proupsells::uikit

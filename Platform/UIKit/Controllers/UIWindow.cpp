@@ -187,6 +187,18 @@ void UIWindow::touch(const host::Touch& touch) {
     m_touches->touch(touch);
 }
 
+void UIWindow::pointer(std::optional<geometry::Point> location) {
+    if (m_pointer == location) return;
+    m_pointer = location;
+    setNeedsDisplay();
+}
+
+bool UIWindow::isAttended(const geometry::Rect& rect) const {
+    if (m_pointer && rect.contains(*m_pointer)) return true;
+    const std::optional<geometry::Rect> focused = m_focus->lastFrame();
+    return focused && (focused->contains(rect.center()) || rect.contains(focused->center()));
+}
+
 void UIWindow::cancelTouch() { m_touches->cancel(); }
 
 void UIWindow::scroll(geometry::Point location, geometry::Point delta) {

@@ -52,6 +52,7 @@ public:
     // --- host::WindowContent ---
     void setSize(geometry::Size size, geometry::PhysicalInsets safeArea) override;
     void touch(const host::Touch& touch) override;
+    void pointer(std::optional<geometry::Point> location) override;
     void scroll(geometry::Point location, geometry::Point delta) override;
     // Of the front-most presentation: Tab moves the focus ring through its controls; activate and space tap the one in focus,
     // arrows choose a neighbour, turn a page or open and close; what means nothing to it scrolls the page; escape leaves the
@@ -62,6 +63,10 @@ public:
     bool takeFocus(host::FocusEnd end) override;
     void dropFocus() override;
     void setSeen(bool isSeen) override;
+
+    // Whether a person rests on what stands there, with the pointer or with the focus of the keys: what moves by itself is held
+    // then. In window points.
+    bool isAttended(const geometry::Rect& rect) const;
 
     // Whether anybody can see the window.
     bool isSeen() const { return m_isSeen; }
@@ -117,6 +122,7 @@ private:
     bool m_isUpdating = false;
     bool m_isSeen = true;
     bool m_focusLeaves = false;
+    std::optional<geometry::Point> m_pointer; // absent while there is none
     std::function<void()> m_rootDismissalHandler;
 };
 

@@ -234,6 +234,11 @@ public:
     std::string accessibilityLabel;
     // What is said of the view besides what its class says.
     accessibility::Traits accessibilityTraits = accessibility::Traits::none;
+    // Whether a person rests on the view, with the pointer or with the focus of the keys; see UIWindow. Never outside of a window.
+    bool isAttended() const;
+
+    // What only those are told who hear the view or steer it by keys.
+    accessibility::SpokenInfo accessibilitySpoken;
     // The view's state in words, such as a page number; empty for none.
     virtual std::string accessibilityValue() const { return m_accessibilityValue; }
     void setAccessibilityValue(std::string value) { m_accessibilityValue = std::move(value); }

@@ -72,6 +72,7 @@ accessibility::SemanticNode UIView::semanticNode(const graphics::PaintState& sta
     node.label = accessibilityLabel;
     node.value = accessibilityValue();
     node.traits = accessibilityTraits;
+    node.spoken = accessibilitySpoken;
     node.opacity = inside.opacity;
     if (m_clipsToBounds) node.clip = node.frame;
     if (m_backgroundColor) {
