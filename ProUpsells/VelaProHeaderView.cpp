@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "Platform/Foundation/Bundle.hpp"
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
 #include "Platform/UIKit/Views/UIStackView.hpp"
 #include "Platform/VelaUIKit/VelaColors.hpp"
@@ -15,7 +16,7 @@ std::optional<double> aspectRatio(geometry::Size size) {
 }
 
 VelaProHeaderView::VelaProHeaderView(const geometry::Rect& frame)
-    : StoreHeaderView(frame, "It's never been easier to look professional.", 26),
+    : StoreHeaderView(frame, foundation::localizable("It's never been easier to look professional."), 26),
       m_proLogoImageView(std::make_shared<uikit::UIImageView>(velauikit::VelaUIKitImage::marwickFolioWithProBadge())) {
     m_proLogoImageView->setTintColor(velauikit::velaLabel);
     m_proLogoImageView->setContentMode(uikit::UIImageView::ContentMode::aspectFit);
