@@ -1,6 +1,7 @@
 // Another header for the page: a headline alone.
 #pragma once
 
+#include "Platform/Foundation/Bundle.hpp"
 #include "ProUpsells/StoreHeaderView.hpp"
 
 namespace proupsells {
@@ -8,7 +9,7 @@ namespace proupsells {
 class LabelHeaderView : public StoreHeaderView {
 public:
     // In English, the key of its translations.
-    static constexpr const char* headline = "All the templates. All the fonts. Graphics galore.";
+    static constexpr const char* headline = foundation::localizable("All the templates. All the fonts. Graphics galore.");
 
     explicit LabelHeaderView(const geometry::Rect& frame);
     // Stops the program: "init(coder:) has not been implemented".

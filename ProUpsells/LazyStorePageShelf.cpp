@@ -11,7 +11,9 @@ namespace proupsells {
 
 namespace {
 
-std::string localizedUnlessEmpty(const std::string& key) { return key.empty() ? key : foundation::localizedString(key); }
+std::string localizedUnlessEmpty(const std::string& key) {
+    return key.empty() ? key : foundation::Bundle::main().localizedString(key);
+}
 
 } // namespace
 

@@ -1,13 +1,17 @@
 #include "ProUpsells/PremiumFontsShelf.hpp"
 
+#include "Platform/Foundation/Bundle.hpp"
+
 namespace proupsells {
+
+using foundation::localizable;
 
 PremiumFontsShelf::PremiumFontsShelf()
     : LazyStorePageShelf({.className = "PremiumFontsShelf",
                           .height = 331,
                           .bottomInset = 75,
-                          .title = "Create with premium fonts and graphics",
-                          .subtitle = "Unlimited access to 60k+ exclusive graphics and 500+ curated fonts.",
+                          .title = localizable("Create with premium fonts and graphics"),
+                          .subtitle = localizable("Unlimited access to 60k+ exclusive graphics and 500+ curated fonts."),
                           .images = {ImageResource::fonts0StorePageShelfImage(), ImageResource::graphics0StorePageShelfImage()}}) {}
 
 LazyStorePageShelf::Controller PremiumFontsShelf::makeViewController() const {

@@ -21,7 +21,7 @@ StoreHeaderView::StoreHeaderView(const foundation::Coder&) { stopAtInitializerFr
 
 void StoreHeaderView::applyTexts() {
     m_titleLabel->setAttributedText(centeredText(
-        foundation::localizedString(m_headline),
+        foundation::Bundle::main().localizedString(m_headline),
         {.font = velauikit::velaDefaultFont(velauikit::FontOption::bold, m_fontSize), .color = velauikit::dynamicColor(9)}, 8));
 }
 

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 
+#include "Platform/Foundation/Bundle.hpp"
 #include "Platform/UIKit/Views/UIImageView.hpp"
 #include "ProUpsells/StoreHeaderView.hpp"
 
@@ -12,7 +13,7 @@ namespace proupsells {
 class VelaProHeaderView : public StoreHeaderView {
 public:
     // In English, the key of its translations.
-    static constexpr const char* headline = "It's never been easier to look professional.";
+    static constexpr const char* headline = foundation::localizable("It's never been easier to look professional.");
 
     explicit VelaProHeaderView(const geometry::Rect& frame);
     // Stops the program: "init(coder:) has not been implemented".

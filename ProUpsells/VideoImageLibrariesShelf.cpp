@@ -1,16 +1,20 @@
 #include "ProUpsells/VideoImageLibrariesShelf.hpp"
 
+#include "Platform/Foundation/Bundle.hpp"
 #include "Platform/UIKit/Views/UIStackView.hpp"
 
 namespace proupsells {
 
+using foundation::localizable;
+
 VideoImageLibrariesShelf::VideoImageLibrariesShelf()
-    : LazyStorePageShelf({.className = "VideoImageLibrariesShelf",
-                          .height = 395,
-                          .bottomInset = 25,
-                          .title = "Get inspired with videos and images",
-                          .subtitle = "Exclusive access to Marwick Folio stock videos and libraries with millions of images.",
-                          .images = {ImageResource::videoSectionImagesStorePageShelfImage()}}) {}
+    : LazyStorePageShelf(
+          {.className = "VideoImageLibrariesShelf",
+           .height = 395,
+           .bottomInset = 25,
+           .title = localizable("Get inspired with videos and images"),
+           .subtitle = localizable("Exclusive access to Marwick Folio stock videos and libraries with millions of images."),
+           .images = {ImageResource::videoSectionImagesStorePageShelfImage()}}) {}
 
 void VideoImageLibrariesShelf::createVideosShelf(const std::vector<std::shared_ptr<velauikit::VideoView>>& videoViews) {
     const auto images = repeatingStrip(ImageResource::videoSectionImagesStorePageShelfImage(), ScrollDirection::right, 0);

@@ -3,16 +3,17 @@
 
 usage: check_includes.py ROOT
 
-A room may include itself and the rooms below it, and so may a folder inside a room that has floors of its own. ProUpsells/ and
-Platform/ include nothing but the project's own headers and the C++ standard library's, but for Platform/System/Posix/. A backend includes Platform/ and its library;
-windows stand on the pixel engine. The module's files belong to screens, as Docs/architecture.md lists them; no screen includes
-another. Exit status 1 when an include points up or out, or when a file and that list disagree, one line each."""
+A room may include itself and the rooms below it, and so may a folder inside a room that has floors of its own. Tooling/,
+ProUpsells/ and Platform/ include nothing but the project's own headers and the C++ standard library's, but for Platform/System/Posix/. A backend includes Platform/
+and its library; windows stand on the pixel engine. The module's files belong to screens, as Docs/architecture.md lists them; no screen
+includes another. Exit status 1 when an include points up or out, or when a file and that list disagree, one line each."""
 import pathlib
 import re
 import sys
 
 # From the top down; rooms in one row never include each other.
 FLOORS = [
+    ["Tooling"],
     ["ProUpsells"],
     ["Platform/VelaUIKit"],
     ["Platform/LumoKit"],
@@ -65,8 +66,8 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 
 def room_of(path: str) -> str | None:
     parts = path.split("/")
-    if parts[0] == "ProUpsells":
-        return "ProUpsells"
+    if parts[0] in ("ProUpsells", "Tooling"):
+        return parts[0]
     if parts[0] in ("Platform", "Backends") and len(parts) > 1:
         return "/".join(parts[:2])
     return None
@@ -114,7 +115,7 @@ def complaint(screens: dict[str, str], source: str, bracket: str, target: str) -
     if target_room is None:
         return "only the project's own headers may be included with quotes"
     if target_room.startswith("Backends/"):
-        return "the module and its platform never include a backend"
+        return "only apps bring the module and a backend together"
     if target_room not in FLOOR_OF:
         return f"{target_room} is not a room"
     if target_room == "ProUpsells" == source_room:
@@ -145,7 +146,7 @@ def main() -> int:
         print(__doc__, file=sys.stderr)
         return 2
     root = pathlib.Path(sys.argv[1])
-    files = [path for top in ("ProUpsells", "Platform", "Backends") for path in sorted((root / top).rglob("*"))
+    files = [path for top in ("Tooling", "ProUpsells", "Platform", "Backends") for path in sorted((root / top).rglob("*"))
              if path.suffix in (".hpp", ".cpp")]
     screens = listed_screens((root / SCREENS_DOCUMENT).read_text(encoding="utf-8"))
     found = [complaint for path in files for complaint in complaints_about(root, path, screens)]

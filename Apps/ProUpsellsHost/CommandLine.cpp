@@ -66,6 +66,12 @@ constexpr Word<StartScreen> startScreens[] = {
     {"store", StartScreen::store},
 };
 
+constexpr Word<TextsFormat> textsFormats[] = {
+    {"strings", TextsFormat::strings},
+    {"pot", TextsFormat::pot},
+    {"json", TextsFormat::json},
+};
+
 struct ShowOptions {
     std::string offers, start = "paywall";
     std::array<std::string, std::size(deviceOptions)> device; // empty where an option is left out
@@ -97,10 +103,16 @@ struct ShowOptions {
     }
 };
 
+TextsArguments readTexts(const std::string& format) {
+    const Json all{{"format", format}};
+    return {JsonCursor{all, place}.at("format").oneOf(textsFormats)};
+}
+
 } // namespace
 
 Arguments readCommandLine(int count, const char* const* arguments) {
-    CLI::App app{"Shows the ProUpsells screens in a window, or plays a script of them without one.", "proupsells"};
+    CLI::App app{"Shows the ProUpsells screens in a window, plays a script of them without one, or lists their texts.",
+                 "proupsells"};
     app.require_subcommand(1);
     ShowOptions showOptions;
     CLI::App* show = app.add_subcommand("show", "A window; one line for every event on standard output until it closes");
@@ -112,15 +124,20 @@ Arguments readCommandLine(int count, const char* const* arguments) {
     run->add_option("SCENARIO.json", scenario, "The script")->required();
     run->add_option("--out", folder, "Where pictures go; the current folder when left out");
 
+    std::string format = "strings";
+    CLI::App* texts = app.add_subcommand("texts", "Every text of the screens with its comment, for translators");
+    texts->add_option("--format", format, "strings, pot or json");
+
     try {
         app.parse(count, arguments);
     } catch (const CLI::CallForHelp&) {
-        std::cout << (show->parsed() ? show : run->parsed() ? run : &app)->help();
+        std::cout << (show->parsed() ? show : run->parsed() ? run : texts->parsed() ? texts : &app)->help();
         return HelpShown{};
     } catch (const CLI::ParseError& error) {
         throw InputError(place, "", std::string(error.what()) + ", expected arguments as `proupsells --help` lists them");
     }
     if (show->parsed()) return showOptions.read();
+    if (texts->parsed()) return readTexts(format);
     runArguments.scenario = system::pathOf(scenario);
     if (!folder.empty()) runArguments.folder = system::pathOf(folder);
     return runArguments;

@@ -22,10 +22,16 @@ struct ShowArguments {
     StartScreen start = StartScreen::paywall;
 };
 
+enum class TextsFormat { strings, pot, json };
+
+struct TextsArguments {
+    TextsFormat format = TextsFormat::strings;
+};
+
 // Only help was asked for, and has been printed.
 struct HelpShown {};
 
-using Arguments = std::variant<RunArguments, ShowArguments, HelpShown>;
+using Arguments = std::variant<RunArguments, ShowArguments, TextsArguments, HelpShown>;
 
 // Throws InputError with "command line" in the place of a file.
 Arguments readCommandLine(int count, const char* const* arguments);

@@ -4,6 +4,7 @@
 
 #include "Apps/ProUpsellsHost/InputError.hpp"
 #include "Apps/ProUpsellsHost/RunCommand.hpp"
+#include "Apps/ProUpsellsHost/TextsCommand.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -13,6 +14,7 @@ int runProgram(int count, const char* const* arguments, const std::function<int(
         const Arguments command = readCommandLine(count, arguments);
         if (const auto* run = std::get_if<RunArguments>(&command)) return runScenario(run->scenario, run->folder);
         if (const auto* shown = std::get_if<ShowArguments>(&command)) return show(*shown);
+        if (const auto* texts = std::get_if<TextsArguments>(&command)) printTexts(texts->format);
         return done;
     } catch (const std::runtime_error& error) {
         std::cerr << error.what() << '\n';

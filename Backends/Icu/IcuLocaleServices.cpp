@@ -14,6 +14,7 @@
 #include "Platform/Foundation/BuiltInLocaleServices.hpp"
 #include "Platform/Foundation/Locale.hpp"
 #include "Platform/Foundation/PlainCharacters.hpp"
+#include "Platform/Foundation/PseudoLanguage.hpp"
 #include "Platform/Foundation/Utf16.hpp"
 #include "Platform/Foundation/Utf8.hpp"
 
@@ -32,6 +33,14 @@ std::string changed(std::string_view text, Change change) {
     UErrorCode status = U_ZERO_ERROR;
     change(piece(text), sink, status);
     return U_SUCCESS(status) ? result : std::string(text);
+}
+
+// What numbers are formatted by. Pseudo-languages take the rules of their base; the digits of the mirrored one are Latin, so that
+// whoever reads its English words can read them.
+std::string numbersLocale(const foundation::Locale& locale) {
+    const auto pseudoLanguage = foundation::pseudoLanguageOf(locale.languageTag());
+    if (!pseudoLanguage) return locale.identifier();
+    return *pseudoLanguage == foundation::PseudoLanguage::accented ? "en" : "ar@numbers=latn";
 }
 
 // English percents are known. For those of any other language a megabyte of ICU and its data is read.
@@ -86,7 +95,7 @@ std::optional<std::string> IcuLocaleServices::percentText(double fraction, int m
     if (!std::isfinite(fraction)) return std::nullopt;
     if (needsNoData(locale)) return foundation::BuiltInLocaleServices{}.percentText(fraction, maximumFractionDigits, locale);
     if (!m_cache->percent || m_cache->percentLocale != locale.identifier()) {
-        m_cache->percent.emplace(icu::Locale(locale.identifier().c_str()));
+        m_cache->percent.emplace(icu::Locale(numbersLocale(locale).c_str()));
         m_cache->percentLocale = locale.identifier();
     }
     return m_cache->percent->text(fraction, std::clamp(maximumFractionDigits, 0, 340));

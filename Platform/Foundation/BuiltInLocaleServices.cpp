@@ -71,7 +71,8 @@ geometry::LayoutDirection BuiltInLocaleServices::layoutDirection(const Locale& l
     };
     const auto& chain = locale.languageChain();
     if (chain.empty()) return geometry::LayoutDirection::leftToRight;
-    const std::string language = asciiLowerCased(chain.back());
+    const std::string_view tag = chain.front();
+    const std::string language = asciiLowerCased(std::string(tag.substr(0, tag.find('-'))));
     // A script says more than the language: Punjabi runs either way. It is the only part of four letters.
     const std::string parts = asciiLowerCased(chain.front()) + "-";
     for (std::size_t begin = 0, end; (end = parts.find('-', begin)) != std::string::npos; begin = end + 1)

@@ -9,6 +9,7 @@
 #include "Platform/Foundation/Ascii.hpp"
 #include "Platform/Foundation/LanguageChanges.hpp"
 #include "Platform/Foundation/Locale.hpp"
+#include "Platform/Foundation/PseudoLanguage.hpp"
 #include "Platform/Foundation/StringsFile.hpp"
 #include "Platform/RunLoop/MainActor.hpp"
 #include "Platform/System/Files.hpp"
@@ -87,13 +88,18 @@ std::optional<fs::path> Bundle::pathForResource(std::string_view name, std::stri
     return std::nullopt;
 }
 
-std::string Bundle::localizedString(const std::string& key) const {
-    runloop::MainActor::assertIsolated();
+const std::string& Bundle::translation(const std::string& key) const {
     for (const std::string& language : Locale::current().languageChain()) {
         const StringsFile::Texts& texts = m_tables->forLanguage(language);
         if (const auto text = texts.find(key); text != texts.end()) return text->second;
     }
     return key;
+}
+
+std::string Bundle::localizedString(const std::string& key) const {
+    runloop::MainActor::assertIsolated();
+    const auto pseudoLanguage = pseudoLanguageOf(Locale::current().languageTag());
+    return pseudoLanguage ? pseudoTranslation(translation(key), *pseudoLanguage) : translation(key);
 }
 
 namespace {

@@ -27,8 +27,8 @@ public:
     std::optional<std::filesystem::path> pathForResource(std::string_view name, std::string_view extension) const;
 
     // The translation of `key` from <language>.lproj/Localizable.strings, by the current locale's language chain; the key itself
-    // when there is none. Folder names match in any case, with "-" or "_". Tables are read once; a broken one costs one log line
-    // and counts as empty. Main thread only.
+    // when there is none. In a pseudo-language (en-XA, ar-XB) the English text is made longer or mirrored. Folder names match in
+    // any case, with "-" or "_". Tables are read once; a broken one costs one log line and counts as empty. Main thread only.
     std::string localizedString(const std::string& key) const;
 
     // The host application's bundle: where texts come from. Empty until it is set.
@@ -39,11 +39,17 @@ public:
 
 private:
     struct Tables;
+    const std::string& translation(const std::string& key) const;
+
     std::filesystem::path m_folder;
     std::unique_ptr<Tables> m_tables;
 };
 
-// The text for `key` in the host application's bundle. The comment is for translators only.
+// The text for `key` in the host application's bundle. The comment is for translators only. In our own sources both are literals,
+// of which the build makes the list of all texts.
 PROUPSELLS_EXPORT std::string localizedString(const std::string& key, std::string_view comment = {});
+
+// The key as it is, put on that list: for one that is looked up later, by Bundle::localizedString().
+consteval const char* localizable(const char* key, std::string_view = {}) { return key; }
 
 } // namespace proupsells::foundation

@@ -57,6 +57,13 @@ std::string format(std::string_view text, std::initializer_list<std::string_view
     return result;
 }
 
+std::size_t placeholderLength(std::string_view text) {
+    if (text.substr(0, 1) != "%") return 0;
+    if (const auto next = text.substr(1, 1); next == "@" || next == "%") return 2;
+    const auto placeholder = numberedPlaceholder(text.substr(1));
+    return placeholder ? 1 + placeholder->length : 0;
+}
+
 std::optional<double> decimalNumber(std::string_view text) {
     if (text.substr(0, 1) == "+" && text.substr(1, 1) != "-") text.remove_prefix(1);
     const auto reading = readDecimal(text);

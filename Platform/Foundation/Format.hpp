@@ -1,6 +1,7 @@
 // Sentences with placeholders.
 #pragma once
 
+#include <cstddef>
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -12,6 +13,9 @@ namespace proupsells::foundation {
 // argument on. A placeholder without an argument becomes nothing; every other % stands for itself, and what follows it is text
 // ("%d", "%1$d", "100 %"). Arguments are not searched for placeholders.
 std::string format(std::string_view text, std::initializer_list<std::string_view> arguments);
+
+// How long the placeholder (%@, %1$@ or %%) is that the text begins with, in bytes; 0 where it begins with none.
+std::size_t placeholderLength(std::string_view text);
 
 // A decimal number in the C locale, with optional sign, fraction and exponent. The whole text must be the number: absent for an
 // empty text, surrounding blanks, grouping, currency signs, hexadecimal digits, "inf" and "nan". Also absent for a number that no

@@ -6,6 +6,7 @@
 
 #include "Platform/Foundation/Ascii.hpp"
 #include "Platform/Foundation/LanguageChanges.hpp"
+#include "Platform/Foundation/PseudoLanguage.hpp"
 #include "Platform/RunLoop/MainActor.hpp"
 
 namespace proupsells::foundation {
@@ -25,6 +26,7 @@ std::string likelyChinese(std::string_view tag) {
 }
 
 std::vector<std::string> chainOf(std::string tag) {
+    if (pseudoLanguageOf(tag)) return {std::move(tag), "en"};
     std::vector<std::string> chain;
     const std::string likely = likelyChinese(tag);
     while (!tag.empty()) {

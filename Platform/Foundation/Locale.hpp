@@ -25,8 +25,8 @@ public:
     // See languageTagOf().
     std::string_view languageTag() const;
     // Where texts are looked for, most exact first: "de-AT", "de". A script part stays with its language: "zh-Hant-TW", "zh-Hant",
-    // "zh"; without one, the region's usual script comes in between: "zh-TW", "zh-Hant", "zh". Empty where the identifier names no
-    // language.
+    // "zh"; without one, the region's usual script comes in between: "zh-TW", "zh-Hant", "zh". Pseudo-languages are made of
+    // English: "ar-XB", "en". Empty where the identifier names no language.
     const std::vector<std::string>& languageChain() const { return m_languageChain; }
 
     // The locale that texts and formats follow; "en_US" until it is set.

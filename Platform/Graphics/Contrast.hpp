@@ -2,10 +2,11 @@
 #pragma once
 
 #include "Platform/Graphics/Color.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::graphics {
 
 // From 1, for equal colours, to 21, for black and white. Both are taken as opaque.
-double contrast(RGBA a, RGBA b);
+PROUPSELLS_EXPORT double contrast(RGBA a, RGBA b);
 
 } // namespace proupsells::graphics

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "Platform/Graphics/Color.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::velauikit {
 
@@ -18,7 +19,7 @@ struct DesignColor {
 // Each name once, in the order of a page that lists them.
 std::span<const DesignColor> designColors();
 // Null where no colour has the name.
-const DesignColor* findDesignColor(std::string_view name);
+PROUPSELLS_EXPORT const DesignColor* findDesignColor(std::string_view name);
 
 enum class ContrastNeed {
     text,

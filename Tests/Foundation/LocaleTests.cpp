@@ -49,6 +49,12 @@ TEST(LanguageChain, KnowsInWhichScriptChineseIsWritten) {
     EXPECT_THAT(Locale("zha_TW").languageChain(), ElementsAre("zha-TW", "zha"));
 }
 
+TEST(LanguageChain, MakesPseudoLanguagesOfEnglish) {
+    EXPECT_THAT(Locale("en_XA").languageChain(), ElementsAre("en-XA", "en"));
+    EXPECT_THAT(Locale("ar_XB").languageChain(), ElementsAre("ar-XB", "en"));
+    EXPECT_THAT(Locale("ar_XA").languageChain(), ElementsAre("ar-XA", "ar"));
+}
+
 TEST(LanguageChain, LeavesKeywordsAndCodesetsOut) {
     EXPECT_THAT(Locale("de_DE@currency=EUR").languageChain(), ElementsAre("de-DE", "de"));
     EXPECT_THAT(Locale("pt_BR.UTF-8").languageChain(), ElementsAre("pt-BR", "pt"));

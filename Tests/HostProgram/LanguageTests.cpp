@@ -89,6 +89,16 @@ TEST_F(LanguageOfTheHost, SetAsTranslationsAloneIsFollowedToo) {
     EXPECT_THAT(texts(changed.at(0)), Contains("auf Deutsch Annually"));
 }
 
+TEST_F(LanguageOfTheHost, MayBeAPseudoLanguage) {
+    const Json accented = screen({{"locale", "en_XA"}}, openings[0], nullptr).at(0);
+    const Json mirrored = screen({{"locale", "en_US"}}, openings[0], {{"locale", "ar_XB"}}).at(0);
+
+    EXPECT_THAT(texts(accented), Contains("[Šååvéé 45%]"));
+    EXPECT_EQ(find(accented, "close")["label"], "[Çļööšéé]");
+    EXPECT_THAT(texts(mirrored), Contains("\u200F\u202EMonthly\u202C\u200F"));
+    EXPECT_LT(find(mirrored, "close")["frame"][0], 100);
+}
+
 TEST_F(LanguageOfTheHost, IsFollowedByPercentagesAndTheDirection) {
     const Json root = screen({{"locale", "en_US"}}, openings[0], {{"locale", "ar_EG"}}).at(0);
 

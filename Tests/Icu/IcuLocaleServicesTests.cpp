@@ -43,6 +43,16 @@ TEST_F(Icu, WritesPercentagesInTheLocalesOwnFormat) {
     EXPECT_EQ(percent(12.34, "de_DE"), "1.234\u00A0%");
 }
 
+TEST_F(Icu, WritesPercentagesOfPseudoLanguagesLikeTheirBaseInLatinDigits) {
+    EXPECT_EQ(percent(0.45, "en_XA"), "45%");
+    EXPECT_EQ(percent(0.45, "ar_XB"), "45\u200E%\u200E");
+}
+
+TEST_F(Icu, RunsPseudoLanguagesLikeTheirBase) {
+    EXPECT_EQ(services.layoutDirection(Locale("en_XA")), geometry::LayoutDirection::leftToRight);
+    EXPECT_EQ(services.layoutDirection(Locale("ar_XB")), geometry::LayoutDirection::rightToLeft);
+}
+
 TEST_F(Icu, RoundsPercentagesHalfToEven) {
     EXPECT_EQ(percent(0.125, "en"), "12%");
     EXPECT_EQ(percent(0.135, "en"), "14%");

@@ -51,6 +51,11 @@ class Rooms(unittest.TestCase):
     def test_the_module_does_not_know_a_backend(self):
         self.assertEqual(len(complaints({"ProUpsells/Plans.cpp": '#include "Backends/Qt/Window.hpp"\n'})), 1)
 
+    def test_tooling_stands_on_the_module(self):
+        self.assertEqual(complaints({"Tooling/Audit.cpp": '#include "ProUpsells/Plans.hpp"\n'}), [])
+        self.assertEqual(len(complaints({"ProUpsells/Plans.cpp": '#include "Tooling/Audit.hpp"\n'})), 1)
+        self.assertEqual(len(complaints({"Tooling/Audit.cpp": '#include "Backends/Qt/Window.hpp"\n'})), 1)
+
     def test_windows_stand_on_the_pixel_engine_and_no_other_backend_on_another(self):
         self.assertEqual(complaints({"Backends/Qt/Window.cpp": '#include "Backends/Raster/Painter.hpp"\n'}), [])
         self.assertEqual(len(complaints({"Backends/Raster/Painter.cpp": '#include "Backends/Qt/Window.hpp"\n'})), 1)
