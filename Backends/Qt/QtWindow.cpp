@@ -41,6 +41,8 @@ bool QtWindow::event(QEvent* event) {
         if (const auto handler = m_closeHandler; handler && event->isAccepted()) handler();
         return isHandled;
     }
+    case QEvent::FocusIn:
+    case QEvent::FocusOut: m_accessibility->updateLater(); return QWindow::event(event);
     default: return QWindow::event(event);
     }
 }
