@@ -1,32 +1,37 @@
-// One text, image or control, for screen readers.
+// One thing that is told of a screen, with what stands in it, for screen readers.
 #pragma once
 
 #include <QtGui/qaccessible.h>
 
-#include "Platform/Accessibility/SemanticNode.hpp"
+#include "Backends/Qt/ElementList.hpp"
+#include "Platform/Accessibility/Reading.hpp"
 
 namespace proupsells::qtbackend {
 
 class QtAccessibility;
 
-class AccessibleElement final : public QAccessibleInterface, public QAccessibleActionInterface {
+class AccessibleElement final : public QAccessibleInterface, public QAccessibleActionInterface, public QAccessibleValueInterface {
 public:
-    AccessibleElement(QtAccessibility& owner, accessibility::SemanticNode node) : m_owner(&owner), m_node(std::move(node)) {}
+    // `parent` is null for what stands in the root.
+    AccessibleElement(QtAccessibility& owner, AccessibleElement* parent, accessibility::ReadingElement told);
 
-    const accessibility::SemanticNode& node() const { return m_node; }
+    // Without what stands in it.
+    const accessibility::ReadingElement& told() const { return m_told; }
+    const ElementList& elements() const { return m_elements; }
     // Takes over what the element has become, and tells those who listen.
-    void become(accessibility::SemanticNode node);
+    void become(accessibility::ReadingElement told);
     // The owner is gone; a screen reader may hold on to the element a little longer.
-    void detach() { m_owner = nullptr; }
+    void detach();
 
     bool isValid() const override { return m_owner != nullptr; }
     QObject* object() const override { return nullptr; }
     QWindow* window() const override;
     QAccessibleInterface* parent() const override;
-    QAccessibleInterface* child(int) const override { return nullptr; }
-    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+    QAccessibleInterface* child(int index) const override { return m_elements.at(index); }
+    QAccessibleInterface* childAt(int x, int y) const override { return m_elements.at(QPoint(x, y)); }
+    int childCount() const override { return m_elements.count(); }
+    int indexOfChild(const QAccessibleInterface* child) const override { return m_elements.indexOf(child); }
+    QAccessibleInterface* focusChild() const override;
     QString text(QAccessible::Text text) const override;
     void setText(QAccessible::Text, const QString&) override {}
     QRect rect() const override;
@@ -38,9 +43,23 @@ public:
     void doAction(const QString& name) override;
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
+    // The page of a pager, from 1.
+    QVariant currentValue() const override { return m_told.position; }
+    void setCurrentValue(const QVariant& value) override;
+    QVariant maximumValue() const override { return m_told.count; }
+    QVariant minimumValue() const override { return 1; }
+    QVariant minimumStepSize() const override { return 1; }
+
 private:
+    bool hasPages() const;
+    QString description() const;
+    void tell(QAccessible::Event type);
+    void tellChange(void (*mark)(QAccessible::State&));
+
     QtAccessibility* m_owner;
-    accessibility::SemanticNode m_node;
+    AccessibleElement* m_parent;
+    accessibility::ReadingElement m_told;
+    ElementList m_elements;
 };
 
 } // namespace proupsells::qtbackend

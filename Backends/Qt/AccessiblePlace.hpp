@@ -21,6 +21,9 @@ public:
     // On the screen, in Qt's units.
     virtual QRect frame() const = 0;
     virtual bool isVisible() const = 0;
+    // Whether keys come to it.
+    virtual bool hasFocus() const = 0;
+    virtual void takeFocus() = 0;
 };
 
 } // namespace proupsells::qtbackend

@@ -107,11 +107,13 @@ bool EmbeddedScreen::moveFocus(bool isForward) {
 void EmbeddedScreen::focusIn(Qt::FocusReason reason) {
     if (reason == Qt::TabFocusReason) window().takeFocus(host::FocusEnd::first);
     if (reason == Qt::BacktabFocusReason) window().takeFocus(host::FocusEnd::last);
+    m_accessibility.updateLater();
 }
 
 void EmbeddedScreen::focusOut(Qt::FocusReason reason) {
     const bool comesBack = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
     if (!comesBack) window().dropFocus();
+    m_accessibility.updateLater();
 }
 
 } // namespace proupsells::qtbackend

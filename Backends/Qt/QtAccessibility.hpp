@@ -4,9 +4,9 @@
 #include <QtGui/qaccessible.h>
 #include <functional>
 #include <memory>
-#include <vector>
 
 #include "Backends/Qt/AccessiblePlace.hpp"
+#include "Backends/Qt/ElementList.hpp"
 #include "Platform/Host/WindowContent.hpp"
 #include "Platform/System/Compiler.hpp"
 
@@ -15,13 +15,16 @@ namespace proupsells::qtbackend {
 class AccessibleElement;
 
 // Whoever reads the screen aloud or steers it; Qt's bridge to them, unless a test listens.
-struct AccessibilityListener {
+struct PROUPSELLS_EXPORT AccessibilityListener {
     std::function<bool()> isThere = [] { return QAccessible::isActive(); };
-    std::function<void(QAccessibleEvent*)> tell = [](QAccessibleEvent* event) { QAccessible::updateAccessibility(event); };
+    std::function<void(QAccessibleEvent&)> tell = &tellAssistiveTechnology;
+
+    // Over AT-SPI, what Qt's bridge leaves out or spoils goes round it; see AtspiSignals.
+    static void tellAssistiveTechnology(QAccessibleEvent& event);
 };
 
-// Offers the content's texts, images and controls as a flat list under the window, widget or item that shows it. Reads the semantic
-// tree only while somebody listens. The content must live longer.
+// Offers what is told of the content under the window, widget or item that shows it. Reads the content only while somebody listens.
+// The content must live longer.
 class PROUPSELLS_EXPORT QtAccessibility {
 public:
     QtAccessibility(std::unique_ptr<AccessiblePlace> place, host::WindowContent& content, AccessibilityListener listener = {});
@@ -35,21 +38,30 @@ public:
     QAccessibleInterface* root();
     // To be called when the picture has changed.
     void update();
+    // To be called when the focus has come into the window, widget or item, or has left it. Tells of it once Qt has told its own.
+    void updateLater();
 
-    const AccessiblePlace& place() const { return *m_place; }
-    void tell(QAccessibleEvent& event) { m_listener.tell(&event); }
-    const std::vector<AccessibleElement*>& elements();
+    AccessiblePlace& place() const { return *m_place; }
+    void tell(QAccessibleEvent& event) { m_listener.tell(event); }
+    // The dialog; none while nothing is shown.
+    const ElementList& elements();
+    // The element that keys operate, or the dialog while they operate none. Null while keys go somewhere else.
+    AccessibleElement* focused();
+    // Where a rectangle of the content, in points, is on the display: in the units of whoever listens.
+    QRect onDisplay(const geometry::Rect& frame) const;
 
 private:
     static QAccessibleInterface* makeRoot(const QString& className, QObject* object);
-    void adopt(std::vector<accessibility::SemanticNode> nodes);
+    std::vector<accessibility::ReadingElement> told();
+    void tellFocus();
 
     std::unique_ptr<AccessiblePlace> m_place;
     host::WindowContent& m_content;
     AccessibilityListener m_listener;
     QAccessibleInterface* m_root = nullptr;
-    std::vector<AccessibleElement*> m_elements; // owned by Qt's registry
+    ElementList m_elements;
     bool m_isRead = false;
+    QAccessible::Id m_toldFocus = 0; // of the element that was last told to have the focus; 0 for none
 };
 
 } // namespace proupsells::qtbackend

@@ -42,6 +42,8 @@ bool QtWindow::event(QEvent* event) {
         return isHandled;
     }
     case QEvent::Leave: m_input->left(); return true;
+    case QEvent::FocusIn:
+    case QEvent::FocusOut: m_accessibility->updateLater(); return QWindow::event(event);
     default: return QWindow::event(event);
     }
 }

@@ -45,6 +45,10 @@ QRect ItemPlace::frame() const {
 
 bool ItemPlace::isVisible() const { return m_item.isVisible(); }
 
+bool ItemPlace::hasFocus() const { return m_item.hasActiveFocus(); }
+
+void ItemPlace::takeFocus() { m_item.forceActiveFocus(Qt::OtherFocusReason); }
+
 geometry::Size ItemPlace::size() const { return {m_item.width(), m_item.height()}; }
 
 double ItemPlace::scale() const { return m_item.window() ? m_item.window()->effectiveDevicePixelRatio() : 1; }

@@ -17,6 +17,8 @@ public:
     QString name() const override;
     QRect frame() const override;
     bool isVisible() const override;
+    bool hasFocus() const override;
+    void takeFocus() override;
 
     geometry::Size size() const override;
     double scale() const override;

@@ -25,6 +25,8 @@ public:
     QString name() const override { return m_widget.accessibleName(); }
     QRect frame() const override { return {m_widget.mapToGlobal(QPoint(0, 0)), m_widget.size()}; }
     bool isVisible() const override { return m_widget.isVisible(); }
+    bool hasFocus() const override { return m_widget.hasFocus(); }
+    void takeFocus() override { m_widget.setFocus(Qt::OtherFocusReason); }
 
     geometry::Size size() const override { return {double(m_widget.width()), double(m_widget.height())}; }
     double scale() const override { return m_widget.devicePixelRatioF(); }

@@ -7,12 +7,14 @@
 #include <string>
 #include <string_view>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::foundation {
 
 // Fills %@ (the next argument), %1$@ (that argument, from 1) and %% (a percent sign). Numbered placeholders do not move the next
 // argument on. A placeholder without an argument becomes nothing; every other % stands for itself, and what follows it is text
 // ("%d", "%1$d", "100 %"). Arguments are not searched for placeholders.
-std::string format(std::string_view text, std::initializer_list<std::string_view> arguments);
+PROUPSELLS_EXPORT std::string format(std::string_view text, std::initializer_list<std::string_view> arguments);
 
 // How long the placeholder (%@, %1$@ or %%) is that the text begins with, in bytes; 0 where it begins with none.
 std::size_t placeholderLength(std::string_view text);

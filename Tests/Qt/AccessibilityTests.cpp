@@ -8,14 +8,15 @@
 
 using namespace proupsells;
 
-using accessibility::SemanticNode;
-using accessibility::Traits;
+using accessibility::ReadingElement;
+using accessibility::Role;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
 
-class TreeContent : public host::WindowContent {
+class ToldContent : public host::WindowContent {
 public:
     void setSize(geometry::Size, geometry::PhysicalInsets) override {}
     void touch(const host::Touch&) override {}
@@ -24,165 +25,401 @@ public:
     void paint(graphics::DisplayList&) override {}
     bool isAnimating() const override { return false; }
     void setNeedsDisplayHandler(std::function<void()>) override {}
-    SemanticNode semanticTree() override {
+    accessibility::SemanticNode semanticTree() override { return {}; }
+    ReadingElement reading() override {
         ++readCount;
-        return tree;
+        return dialog;
     }
 
-    SemanticNode tree;
+    ReadingElement dialog{.role = Role::dialog, .id = 1, .name = "Pro", .frame = {{0, 0}, {200, 100}}, .isOnScreen = true};
     int readCount = 0;
 };
 
-SemanticNode textNode(const std::string& text) {
-    SemanticNode node{.type = "Text", .frame = {{1, 2}, {30, 10}}, .isOnScreen = true};
-    node.text = accessibility::TextInfo{.text = text};
-    return node;
+// A place whose focus the test decides.
+class Place final : public qtbackend::AccessiblePlace {
+public:
+    explicit Place(QWindow& window, bool& hasFocus) : m_window(window), m_hasFocus(hasFocus) {}
+
+    QObject& object() const override { return m_window; }
+    QWindow* window() const override { return &m_window; }
+    QAccessibleInterface* parent() const override { return nullptr; }
+    QAccessible::Role role() const override { return QAccessible::Window; }
+    QString name() const override { return "Host"; }
+    QRect frame() const override { return {QPoint(7, 9), m_window.size()}; }
+    bool isVisible() const override { return true; }
+    bool hasFocus() const override { return m_hasFocus; }
+    void takeFocus() override { m_hasFocus = true; }
+
+private:
+    QWindow& m_window;
+    bool& m_hasFocus;
+};
+
+ReadingElement told(Role role, std::uint64_t id, const std::string& name) {
+    return {.role = role, .id = id, .name = name, .frame = {{10, 20}, {100, 44}}, .isOnScreen = true};
 }
 
-SemanticNode buttonNode(const std::string& identifier, const std::string& text, std::function<void()> activate = {}) {
-    SemanticNode node{.type = "Button", .frame = {{10, 20}, {100, 44}}, .isOnScreen = true, .identifier = identifier};
-    node.traits = Traits::button;
-    node.isControl = true;
-    node.activate = std::move(activate);
-    node.children = {textNode(text)};
-    return node;
+ReadingElement button(
+    std::uint64_t id, const std::string& name, std::function<void()> activate = [] {}) {
+    ReadingElement button = told(Role::button, id, name);
+    button.activate = std::move(activate);
+    button.focus = [] {};
+    return button;
+}
+
+ReadingElement plan(std::uint64_t id, const std::string& name, bool isChecked, int position) {
+    ReadingElement plan = told(Role::radioButton, id, name);
+    plan.isChecked = isChecked;
+    plan.position = position;
+    plan.count = 2;
+    return plan;
+}
+
+ReadingElement plans(bool isFirstChecked) {
+    ReadingElement group = told(Role::radioGroup, 2, "Plans");
+    group.children = {plan(3, "Monthly", isFirstChecked, 1), plan(4, "Yearly", !isFirstChecked, 2)};
+    return group;
+}
+
+ReadingElement category(bool isExpanded) {
+    ReadingElement category = button(5, "Layouts");
+    category.role = Role::disclosure;
+    category.isExpanded = isExpanded;
+    return category;
+}
+
+ReadingElement pages(int page) {
+    ReadingElement pager = told(Role::pager, 6, "Features");
+    pager.value = "page " + std::to_string(page) + " of 3";
+    pager.position = page;
+    pager.count = 3;
+    pager.adjust = [](int) {};
+    return pager;
 }
 
 class Accessibility : public testing::Test {
 protected:
-    Accessibility() {
-        content.tree.isOnScreen = true;
-        window.setTitle("Paywall");
-        window.resize(200, 100);
+    Accessibility() { window.resize(200, 100); }
+
+    // "name: event", with the state that has changed.
+    void record(QAccessibleEvent& event) {
+        const std::string source = event.accessibleInterface()->text(QAccessible::Name).toStdString() + ": ";
+        switch (event.type()) {
+        case QAccessible::StateChanged: {
+            const QAccessible::State changed = static_cast<QAccessibleStateChangeEvent&>(event).changedStates();
+            if (changed.checked) events.push_back(source + "checked");
+            if (changed.expanded) events.push_back(source + "expanded");
+            if (changed.disabled) events.push_back(source + "disabled");
+            if (changed.offscreen) events.push_back(source + "offscreen");
+            break;
+        }
+        case QAccessible::NameChanged: events.push_back(source + "name"); break;
+        case QAccessible::ValueChanged: events.push_back(source + "value"); break;
+        case QAccessible::DescriptionChanged: events.push_back(source + "description"); break;
+        case QAccessible::LocationChanged: events.push_back(source + "location"); break;
+        case QAccessible::ObjectCreated: events.push_back(source + "came"); break;
+        case QAccessible::ObjectDestroyed: events.push_back(source + "went"); break;
+        case QAccessible::ObjectReorder: events.push_back(source + "order"); break;
+        case QAccessible::Focus: events.push_back(source + "focus"); break;
+        default: events.push_back(source + "?");
+        }
     }
 
-    void record(QAccessibleEvent* event) {
-        QAccessibleInterface* source = event->accessibleInterface();
-        events.emplace_back(event->type(), source ? source->text(QAccessible::Name).toStdString() : "");
+    void show(std::vector<ReadingElement> elements) { content.dialog.children = std::move(elements); }
+    // Shows it to somebody who has read the screen already.
+    void change(std::vector<ReadingElement> elements) {
+        dialog();
+        show(std::move(elements));
+        accessibility.update();
     }
 
-    QAccessibleInterface* element(int index) { return accessibility.root()->child(index); }
-    std::vector<std::string> names() {
+    QAccessibleInterface* dialog() { return accessibility.root()->child(0); }
+    QAccessibleInterface* element(int index) { return dialog()->child(index); }
+    static std::vector<std::string> names(QAccessibleInterface* around) {
         std::vector<std::string> names;
-        for (int index = 0; index < accessibility.root()->childCount(); ++index)
-            names.push_back(element(index)->text(QAccessible::Name).toStdString());
+        for (int index = 0; index < around->childCount(); ++index)
+            names.push_back(around->child(index)->text(QAccessible::Name).toStdString());
         return names;
     }
 
-    bool isListening = true;
-    std::vector<std::pair<QAccessible::Event, std::string>> events;
+    bool isListening = true, hasFocus = false;
+    std::vector<std::string> events;
     QWindow window;
-    TreeContent content;
+    ToldContent content;
     qtbackend::QtAccessibility accessibility{
-        window, content, {.isThere = [this] { return isListening; }, .tell = [this](QAccessibleEvent* event) { record(event); }}};
+        std::make_unique<Place>(window, hasFocus),
+        content,
+        {.isThere = [this] { return isListening; }, .tell = [this](QAccessibleEvent& event) { record(event); }}};
 };
 
 } // namespace
 
-TEST_F(Accessibility, OffersTextsAndControlsAsAFlatList) {
-    SemanticNode inner{.type = "VStack", .isOnScreen = true};
-    inner.children = {textNode("Endless templates"), buttonNode("subscribe", "Subscribe Now")};
-    content.tree.children = {inner, textNode("Disclaimer")};
+TEST_F(Accessibility, OffersADialogOfElementsAndGroups) {
+    show({told(Role::heading, 7, "Endless templates"), plans(true), button(8, "Subscribe Now")});
 
     EXPECT_EQ(accessibility.root()->role(), QAccessible::Window);
-    EXPECT_EQ(accessibility.root()->text(QAccessible::Name), "Paywall");
-    EXPECT_THAT(names(), ElementsAre("Endless templates", "Subscribe Now", "Disclaimer"));
-    EXPECT_EQ(element(0)->role(), QAccessible::StaticText);
-    EXPECT_EQ(element(1)->role(), QAccessible::Button);
-    EXPECT_EQ(accessibility.root()->indexOfChild(element(1)), 1);
-    EXPECT_EQ(element(1)->parent(), accessibility.root());
+    EXPECT_THAT(names(accessibility.root()), ElementsAre("Pro"));
+    EXPECT_EQ(dialog()->role(), QAccessible::Dialog);
+    EXPECT_EQ(dialog()->parent(), accessibility.root());
+    EXPECT_THAT(names(dialog()), ElementsAre("Endless templates", "Plans", "Subscribe Now"));
+    EXPECT_THAT(names(element(1)), ElementsAre("Monthly", "Yearly"));
+    EXPECT_EQ(element(1)->child(1)->parent(), element(1));
+    EXPECT_EQ(element(1)->indexOfChild(element(1)->child(1)), 1);
 }
 
-TEST_F(Accessibility, TellsRolesStatesAndPlaces) {
-    SemanticNode plan = buttonNode("plan.yearly", "Annually");
-    plan.traits = Traits::button | Traits::selected;
-    plan.value = "$99.99 per year";
-    SemanticNode heading = textNode("Free");
-    heading.traits = Traits::header;
-    SemanticNode pages{
-        .type = "UIPageControl", .frame = {{0, 0}, {40, 10}}, .isOnScreen = true, .label = "Pages", .traits = Traits::adjustable};
-    pages.isControl = true;
-    SemanticNode disabled = buttonNode("subscribe", "Subscribe");
-    disabled.traits = Traits::button | Traits::disabled;
-    content.tree.children = {plan, heading, pages, disabled};
+TEST_F(Accessibility, OffersNothingWhereNothingIsShown) {
+    content.dialog = ReadingElement{.role = Role::dialog};
 
-    EXPECT_TRUE(element(0)->state().selected);
-    EXPECT_EQ(element(0)->text(QAccessible::Value), "$99.99 per year");
-    EXPECT_EQ(element(0)->rect(), QRect(window.mapToGlobal(QPoint(10, 20)), QSize(100, 44)));
-    EXPECT_EQ(element(1)->role(), QAccessible::Heading);
-    EXPECT_EQ(element(2)->role(), QAccessible::Slider);
-    EXPECT_TRUE(element(3)->state().disabled);
-    EXPECT_FALSE(element(3)->state().focusable);
+    EXPECT_EQ(accessibility.root()->childCount(), 0);
 }
 
-TEST_F(Accessibility, LeavesOutWhatNobodyCanReach) {
-    SemanticNode hidden = textNode("transparent");
-    hidden.isOnScreen = false;
-    hidden.opacity = 0;
-    SemanticNode scrolledAway = textNode("further down");
-    scrolledAway.isOnScreen = false;
-    scrolledAway.reveal = [] {};
-    SemanticNode decoration{.type = "Shape", .isOnScreen = true};
-    content.tree.children = {hidden, scrolledAway, decoration};
+TEST_F(Accessibility, TellsRoles) {
+    show({told(Role::heading, 1, "a"), told(Role::text, 2, "b"), told(Role::image, 3, "c"), button(4, "d"),
+          told(Role::link, 5, "e"), category(true), pages(1), plans(true)});
 
-    EXPECT_THAT(names(), ElementsAre("further down"));
-    EXPECT_TRUE(element(0)->state().offscreen);
+    std::vector<QAccessible::Role> roles;
+    for (int index = 0; index < dialog()->childCount(); ++index) roles.push_back(element(index)->role());
+    EXPECT_THAT(roles, ElementsAre(QAccessible::Heading, QAccessible::StaticText, QAccessible::Graphic, QAccessible::Button,
+                                   QAccessible::Link, QAccessible::Button, QAccessible::Slider, QAccessible::Grouping));
+    EXPECT_EQ(element(7)->child(0)->role(), QAccessible::RadioButton);
 }
 
-TEST_F(Accessibility, PressesControls) {
-    int presses = 0, reveals = 0;
-    SemanticNode button = buttonNode("close", "Close", [&] { ++presses; });
-    button.isOnScreen = false;
-    button.reveal = [&] { ++reveals; };
-    content.tree.children = {button};
+TEST_F(Accessibility, TellsWhichPlanIsChosenOfHowMany) {
+    show({plans(false)});
+    QAccessibleInterface* const monthly = element(0)->child(0);
+    QAccessibleInterface* const yearly = element(0)->child(1);
 
-    QAccessibleActionInterface* actions = element(0)->actionInterface();
-    ASSERT_NE(actions, nullptr);
-    EXPECT_THAT(actions->actionNames(), ElementsAre(QAccessibleActionInterface::pressAction()));
-    actions->doAction(QAccessibleActionInterface::pressAction());
-    actions->doAction("no such action");
-
-    EXPECT_EQ(presses, 1);
-    EXPECT_EQ(reveals, 2);
+    EXPECT_TRUE(monthly->state().checkable);
+    EXPECT_FALSE(monthly->state().checked);
+    EXPECT_TRUE(yearly->state().checked);
+    EXPECT_EQ(yearly->text(QAccessible::Description), "2 of 2");
 }
 
-TEST_F(Accessibility, StepsAdjustableControls) {
+TEST_F(Accessibility, TellsWhatIsExpanded) {
+    show({category(true), button(8, "Close")});
+
+    EXPECT_TRUE(element(0)->state().expandable);
+    EXPECT_TRUE(element(0)->state().expanded);
+    EXPECT_FALSE(element(0)->state().collapsed);
+    EXPECT_FALSE(element(1)->state().expandable);
+    EXPECT_FALSE(element(1)->state().collapsed);
+
+    change({category(false)});
+
+    EXPECT_FALSE(element(0)->state().expanded);
+    EXPECT_TRUE(element(0)->state().collapsed);
+}
+
+TEST_F(Accessibility, TellsThePageAsANumber) {
+    show({pages(2)});
+    QAccessibleValueInterface* const value = element(0)->valueInterface();
+
+    ASSERT_NE(value, nullptr);
+    EXPECT_EQ(value->currentValue(), 2);
+    EXPECT_EQ(value->minimumValue(), 1);
+    EXPECT_EQ(value->maximumValue(), 3);
+    EXPECT_EQ(element(0)->text(QAccessible::Value), "page 2 of 3");
+}
+
+TEST_F(Accessibility, TellsAValueWithoutANumberInWords) {
+    ReadingElement volume = told(Role::pager, 1, "Volume");
+    volume.value = "half";
+    show({volume});
+
+    EXPECT_EQ(element(0)->valueInterface(), nullptr);
+    EXPECT_EQ(element(0)->text(QAccessible::Description), "half");
+}
+
+TEST_F(Accessibility, TellsWhatCannotBeUsedOrSeen) {
+    ReadingElement disabled = told(Role::button, 1, "Subscribe"), away = told(Role::text, 2, "further down");
+    disabled.isDisabled = true;
+    away.isOnScreen = false;
+    show({disabled, away, button(3, "Close")});
+
+    EXPECT_TRUE(element(0)->state().disabled);
+    EXPECT_FALSE(element(0)->state().focusable);
+    EXPECT_TRUE(element(1)->state().offscreen);
+    EXPECT_TRUE(element(1)->state().readOnly);
+    EXPECT_TRUE(element(2)->state().focusable);
+    EXPECT_FALSE(element(2)->state().readOnly);
+}
+
+TEST_F(Accessibility, TellsPlacesOnTheDisplay) {
+    show({button(1, "Close")});
+
+    EXPECT_EQ(accessibility.root()->rect(), QRect(7, 9, 200, 100));
+    EXPECT_EQ(element(0)->rect(), QRect(17, 29, 100, 44));
+    EXPECT_EQ(accessibility.root()->childAt(17, 29), dialog());
+    EXPECT_EQ(dialog()->childAt(17, 29), element(0));
+    EXPECT_EQ(dialog()->childAt(8, 10), nullptr);
+}
+
+TEST_F(Accessibility, PressesWhatHasScrolledAway) {
+    std::vector<std::string> calls;
+    ReadingElement close = button(1, "Close", [&] { calls.push_back("activate"); });
+    close.isOnScreen = false;
+    close.reveal = [&] { calls.push_back("reveal"); };
+    show({close});
+
+    element(0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+
+    EXPECT_THAT(calls, ElementsAre("reveal", "activate"));
+}
+
+TEST_F(Accessibility, DoesNothingThatItDoesNotOffer) {
+    int presses = 0;
+    show({button(1, "Close", [&] { ++presses; })});
+
+    EXPECT_THAT(element(0)->actionInterface()->actionNames(),
+                ElementsAre(QAccessibleActionInterface::pressAction(), QAccessibleActionInterface::setFocusAction()));
+    element(0)->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
+    element(0)->actionInterface()->doAction("no such action");
+
+    EXPECT_EQ(presses, 0);
+}
+
+TEST_F(Accessibility, TurnsPages) {
     std::vector<int> steps;
-    SemanticNode pages{.type = "UIPageControl", .isOnScreen = true, .label = "Pages", .traits = Traits::adjustable};
-    pages.isControl = true;
-    pages.adjust = [&](int step) { steps.push_back(step); };
-    content.tree.children = {pages};
+    ReadingElement pager = pages(1);
+    pager.adjust = [&](int step) { steps.push_back(step); };
+    show({pager});
 
     element(0)->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
     element(0)->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
+    element(0)->valueInterface()->setCurrentValue(3);
 
-    EXPECT_THAT(steps, ElementsAre(1, -1));
+    EXPECT_THAT(steps, ElementsAre(1, -1, 1, 1));
+}
+
+TEST_F(Accessibility, ScrollsIntoViewWhenAsked) {
+    int reveals = 0;
+    ReadingElement shelf = told(Role::heading, 0, "Shapes");
+    shelf.revealWhole = [&] { ++reveals; };
+    show({shelf});
+
+    element(0)->actionInterface()->doAction("Scroll into view");
+
+    EXPECT_EQ(reveals, 1);
+}
+
+TEST_F(Accessibility, GivesTheFocusToTheHostsPlaceAndToTheControl) {
+    int focused = 0;
+    ReadingElement close = button(1, "Close");
+    close.focus = [&] { ++focused; };
+    show({close});
+
+    element(0)->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+
+    EXPECT_TRUE(hasFocus);
+    EXPECT_EQ(focused, 1);
+}
+
+TEST_F(Accessibility, TellsOnceWhereTheFocusHasGone) {
+    hasFocus = true;
+    ReadingElement focused = button(1, "Close");
+    focused.isFocused = true;
+    change({focused});
+    accessibility.update();
+
+    EXPECT_THAT(events, ElementsAre("Close: came", "Close: focus"));
+    EXPECT_TRUE(element(0)->state().focused);
+    EXPECT_EQ(accessibility.root()->focusChild(), element(0));
+}
+
+TEST_F(Accessibility, TellsOfTheDialogWhileKeysOperateNothing) {
+    hasFocus = true;
+    show({button(1, "Close")});
+    accessibility.update();
+
+    EXPECT_THAT(events, Contains("Pro: focus"));
+    EXPECT_TRUE(dialog()->state().focusable);
+    EXPECT_TRUE(dialog()->state().focused);
+}
+
+TEST_F(Accessibility, TellsNoFocusWhileKeysGoSomewhereElse) {
+    ReadingElement focused = button(1, "Close");
+    focused.isFocused = true;
+    change({focused});
+
+    EXPECT_THAT(events, ElementsAre("Close: came"));
+    EXPECT_FALSE(element(0)->state().focused);
+}
+
+TEST_F(Accessibility, TellsOfAnotherScreenAsADialogOfItsOwn) {
+    dialog();
+    content.dialog.id = 2;
+    content.dialog.name = "Compare plans";
+    show({button(9, "Close")});
+    accessibility.update();
+
+    EXPECT_THAT(events, ElementsAre("Pro: went", "Compare plans: came"));
+}
+
+TEST_F(Accessibility, TellsOnceWhatHasBeenChosenAndWhatThatChanges) {
+    show({plans(true), pages(1), category(false), button(8, "Subscribe Now")});
+    change({plans(false), pages(2), category(true), told(Role::text, 9, "Grids"), button(8, "Start Your Free Trial")});
+
+    EXPECT_THAT(events, ElementsAre("Monthly: checked", "Yearly: checked", "Features: value", "Layouts: expanded", "Grids: came",
+                                    "Start Your Free Trial: name"));
+}
+
+TEST_F(Accessibility, TellsWhatHasMovedOrCannotBeUsedAnyMore) {
+    show({button(1, "Close")});
+    ReadingElement moved = button(1, "Close");
+    moved.frame.origin.y += 200;
+    moved.isOnScreen = false;
+    moved.isDisabled = true;
+    change({moved});
+
+    EXPECT_THAT(events, ElementsAre("Close: location", "Close: disabled", "Close: offscreen"));
 }
 
 TEST_F(Accessibility, KeepsTheObjectsOfWhatStays) {
-    content.tree.children = {buttonNode("plan", "Annually"), buttonNode("subscribe", "Subscribe Now")};
-    QAccessibleInterface* subscribe = element(1);
+    ReadingElement remade = button(8, "Subscribe Now");
+    remade.identifier = "subscribe";
+    show({button(3, "Close"), remade, told(Role::heading, 0, "Shapes")});
+    QAccessibleInterface* const close = element(0);
+    QAccessibleInterface* const subscribe = element(1);
+    QAccessibleInterface* const shapes = element(2);
 
-    content.tree.children = {textNode("new"), buttonNode("subscribe", "Start Your Free Trial")};
-    accessibility.update();
+    remade.id = 9;
+    change({told(Role::text, 10, "new"), button(3, "Dismiss"), remade, told(Role::heading, 11, "Shapes")});
 
-    EXPECT_THAT(names(), ElementsAre("new", "Start Your Free Trial"));
-    EXPECT_EQ(element(1), subscribe);
-    EXPECT_THAT(events, testing::Contains(std::pair(QAccessible::NameChanged, std::string("Start Your Free Trial"))));
-    EXPECT_THAT(events, testing::Contains(std::pair(QAccessible::ObjectReorder, std::string("Paywall"))));
+    EXPECT_THAT(names(dialog()), ElementsAre("new", "Dismiss", "Subscribe Now", "Shapes"));
+    EXPECT_EQ(element(1), close);
+    EXPECT_EQ(element(2), subscribe);
+    EXPECT_EQ(element(3), shapes);
+}
+
+TEST_F(Accessibility, TakesAReusedViewForSomethingElse) {
+    ReadingElement cell = button(3, "Shapes");
+    cell.identifier = "shelf.shapes";
+    show({cell});
+    cell.identifier = "shelf.videos";
+    cell.name = "Videos";
+    change({cell});
+
+    EXPECT_THAT(events, ElementsAre("Shapes: went", "Videos: came"));
+}
+
+TEST_F(Accessibility, TellsANewOrder) {
+    show({button(1, "a"), button(2, "b")});
+    QAccessibleInterface* const a = element(0);
+    change({button(2, "b"), button(1, "a")});
+
+    EXPECT_THAT(events, ElementsAre("Pro: order"));
+    EXPECT_EQ(element(1), a);
 }
 
 TEST_F(Accessibility, TellsNothingWhereNothingHasChanged) {
-    content.tree.children = {buttonNode("plan", "Annually")};
-    names();
-    events.clear();
-    accessibility.update();
+    show({plans(true), category(true), pages(1)});
+    change({plans(true), category(true), pages(1)});
 
     EXPECT_THAT(events, IsEmpty());
 }
 
-TEST_F(Accessibility, ReadsTheTreeOnlyForThoseWhoListen) {
-    names();
+TEST_F(Accessibility, ReadsTheContentOnlyForThoseWhoListen) {
+    dialog();
     isListening = false;
     accessibility.update();
     accessibility.update();
