@@ -14,6 +14,7 @@ struct FeatureChildRow {
 
 private:
     swiftui::View freeCell() const;
+    swiftui::View cells(graphics::ContentSizeCategory textSize) const;
 };
 
 } // namespace proupsells
