@@ -108,8 +108,9 @@ View ComparisonView::screen(double height, const EnvironmentValues& environment,
 }
 
 View ComparisonView::body(BuildContext& context) const {
-    return GeometryReader{[view = *this, environment = context.environment(), expanded = context.state(ExpandedCategories{})](
-                              const GeometryProxy& proxy) { return view.screen(proxy.size.height, environment, expanded); }};
+    const auto screen = [view = *this, environment = context.environment(), expanded = context.state(ExpandedCategories{})](
+                            const GeometryProxy& proxy) { return view.screen(proxy.size.height, environment, expanded); };
+    return GeometryReader{.content = screen, .isDescribed = false};
 }
 
 } // namespace proupsells

@@ -14,6 +14,7 @@ class GeometryReaderNode final : public Node {
 public:
     void adopt(GeometryReader&& reader, UpdatePass& pass) {
         m_content = std::move(reader.content);
+        m_isDescribed = reader.isDescribed;
         if (isNew()) setDependsOnPosition();
         // With the size of the last layout. If the next layout changes it, the content is made again.
         else if (m_isSized)
@@ -21,7 +22,7 @@ public:
     }
 
 protected:
-    std::string_view semanticType() const override { return "GeometryReader"; }
+    std::string_view semanticType() const override { return m_isDescribed ? "GeometryReader" : std::string_view(); }
 
     geometry::Size measure(const geometry::ProposedSize& proposal) override {
         return proposal.orReplacing({idealLength, idealLength});
@@ -46,6 +47,7 @@ private:
 
     Callback<View(const GeometryProxy&)> m_content;
     GeometryProxy m_proxy;
+    bool m_isDescribed = true;
     bool m_isSized = false;
 };
 

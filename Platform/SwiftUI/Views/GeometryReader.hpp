@@ -16,6 +16,7 @@ struct GeometryProxy {
 // the size changes, and whenever the view around is built. It must not capture Views, which are good for one build only.
 struct GeometryReader {
     Callback<View(const GeometryProxy&)> content;
+    bool isDescribed = true; // in the semantic tree
 
     Element* makeElement() &&;
 };
