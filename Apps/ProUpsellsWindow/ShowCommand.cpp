@@ -1,6 +1,7 @@
 #include "Apps/ProUpsellsWindow/ShowCommand.hpp"
 
 #include <iostream>
+#include <utility>
 
 #include "Apps/ProUpsellsHost/HostSession.hpp"
 #include "Backends/Qt/Application.hpp"
@@ -39,12 +40,11 @@ int showOffers(const ShowArguments& arguments) {
     window.show();
 
     // Opens the screen asked for once the paywall is shown, and closes the window once the paywall is gone.
-    bool hasStood = false;
+    bool hasOpened = false;
     const auto watch = loop.scheduleRepeating(closedCheckInterval_s, [&] {
         if (session->window().isTransitioning()) return;
-        if (!hasStood && session->isShowing()) open(*session, arguments.start);
-        if (hasStood && !session->isShowing()) qtbackend::Application::quit(done);
-        hasStood = hasStood || session->isShowing();
+        if (!session->isShowing()) return qtbackend::Application::quit(done);
+        if (!std::exchange(hasOpened, true)) open(*session, arguments.start);
     });
     session->present();
     const int status = application.run();

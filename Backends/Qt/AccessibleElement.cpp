@@ -34,6 +34,7 @@ void AccessibleElement::become(ReadingElement told) {
     if (former.isChecked != m_told.isChecked) tellChange([](QAccessible::State& state) { state.checked = true; });
     if (former.isExpanded != m_told.isExpanded) tellChange([](QAccessible::State& state) { state.expanded = true; });
     if (former.isDisabled != m_told.isDisabled) tellChange([](QAccessible::State& state) { state.disabled = true; });
+    if (former.isBusy != m_told.isBusy) tellChange([](QAccessible::State& state) { state.busy = true; });
     if (former.isOnScreen != m_told.isOnScreen) tellChange([](QAccessible::State& state) { state.offscreen = true; });
 }
 
@@ -119,12 +120,14 @@ QAccessible::State AccessibleElement::state() const {
     QAccessible::State state;
     state.invalid = !m_owner;
     state.disabled = m_told.isDisabled;
+    state.busy = m_told.isBusy;
     state.checkable = m_told.isChecked.has_value();
     state.checked = m_told.isChecked.value_or(false);
     state.expandable = m_told.isExpanded.has_value();
     state.expanded = m_told.isExpanded.value_or(false);
     state.collapsed = state.expandable && !state.expanded;
     state.focusable = m_told.focus || m_told.role == Role::dialog;
+    state.active = m_told.role == Role::dialog && window() && window()->isActive();
     state.focused = m_owner && m_owner->focused() == this;
     state.readOnly = !m_told.isOperable() && m_elements.count() == 0;
     state.offscreen = !m_told.isOnScreen;

@@ -85,6 +85,10 @@ bool sendState(const Bus& bus, QAccessibleInterface* source, const QAccessible::
         sendState(bus, source, QStringLiteral("collapsed"), state.collapsed);
         return true;
     }
+    if (changed.busy) {
+        sendState(bus, source, QStringLiteral("busy"), state.busy);
+        return true;
+    }
     if (changed.offscreen) {
         sendState(bus, source, QStringLiteral("visible"), !state.offscreen);
         sendState(bus, source, QStringLiteral("showing"), !state.offscreen);

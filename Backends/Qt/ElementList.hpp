@@ -20,7 +20,7 @@ public:
     int count() const { return int(m_elements.size()); }
     // Null where there is none.
     AccessibleElement* at(int index) const;
-    // The front-most one that can be seen there; null for none.
+    // The last one told of those that can be seen there; null for none.
     AccessibleElement* at(QPoint place) const;
     // -1 for what is not among them.
     int indexOf(const QAccessibleInterface* element) const;

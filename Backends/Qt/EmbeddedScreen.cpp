@@ -81,7 +81,7 @@ QRegion EmbeddedScreen::paint() {
     const double scale = m_place.scale();
     if (window().traits().displayScale != scale) adoptTraits();
     const QRegion damage = m_image.paint(m_screen, wholeSize(), scale);
-    if (!damage.isEmpty()) m_accessibility.update();
+    m_accessibility.update();
     return damage;
 }
 

@@ -90,10 +90,11 @@ const ElementList& QtAccessibility::elements() {
     return m_elements;
 }
 
-AccessibleElement* QtAccessibility::focused() {
-    if (!m_place->hasFocus()) return nullptr;
-    AccessibleElement* const inner = elements().focused();
-    return inner ? inner : elements().at(0);
+AccessibleElement* QtAccessibility::focused() const {
+    AccessibleElement* const dialog = m_elements.at(0);
+    if (!dialog || dialog->told().isBusy || !m_place->hasFocus()) return nullptr;
+    AccessibleElement* const inner = m_elements.focused();
+    return inner ? inner : dialog;
 }
 
 void QtAccessibility::update() {

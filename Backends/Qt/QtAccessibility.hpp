@@ -36,7 +36,7 @@ public:
 
     // The window, widget or item as an accessible object; owned by Qt.
     QAccessibleInterface* root();
-    // To be called when the picture has changed.
+    // To be called when the picture is made anew; not all that is told can be seen.
     void update();
     // To be called when the focus has come into the window, widget or item, or has left it. Tells of it once Qt has told its own.
     void updateLater();
@@ -45,8 +45,9 @@ public:
     void tell(QAccessibleEvent& event) { m_listener.tell(event); }
     // The dialog; none while nothing is shown.
     const ElementList& elements();
-    // The element that keys operate, or the dialog while they operate none. Null while keys go somewhere else.
-    AccessibleElement* focused();
+    // The element that keys operate, or the dialog while they operate none, as last read. Null while keys go somewhere else, and
+    // before the dialog stands.
+    AccessibleElement* focused() const;
     // Where a rectangle of the content, in points, is on the display: in the units of whoever listens.
     QRect onDisplay(const geometry::Rect& frame) const;
 

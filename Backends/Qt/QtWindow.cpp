@@ -70,7 +70,7 @@ void QtWindow::showFrame(bool isWhole) {
         const QRect whole(QPoint(0, 0), size());
         m_store.flush(isWhole ? QRegion(whole) : regionOf(m_view.lastDamage(), devicePixelRatio()).intersected(whole));
     }
-    if (hasChanged) m_accessibility->update();
+    m_accessibility->update();
     m_pacer->schedule();
 }
 

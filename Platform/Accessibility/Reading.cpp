@@ -53,6 +53,8 @@ ReadingElement elementOf(const SemanticNode& node) {
     element.isDisabled = contains(node.traits, Traits::disabled);
     element.isChecked = node.spoken.isChecked;
     element.isExpanded = node.spoken.isExpanded;
+    element.position = node.spoken.page;
+    element.count = node.spoken.pageCount;
     if (element.role != Role::pager) element.activate = node.activate;
     element.adjust = node.adjust;
     element.takesFocus = !element.isDisabled && (node.spoken.takesFocus || element.isOperable());

@@ -22,10 +22,11 @@ struct ReadingElement {
     geometry::Rect frame;   // window points
     bool isOnScreen = false;
     bool isDisabled = false;
+    bool isBusy = false; // of dialogs: it is on its way, and nothing in it can be operated before it stands
     // Of radio buttons and disclosures; absent for others.
     std::optional<bool> isChecked;
     std::optional<bool> isExpanded;
-    // Of radio buttons: the how-manieth of how many; 0 of others.
+    // Of radio buttons: the how-manieth of how many. Of pagers: the page of how many. 0 of others.
     int position = 0;
     int count = 0;
 

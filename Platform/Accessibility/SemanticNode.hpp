@@ -94,6 +94,9 @@ struct SpokenInfo {
     // Of radio buttons and disclosures; absent for others.
     std::optional<bool> isChecked;
     std::optional<bool> isExpanded;
+    // Of pagers: which page is shown, from 1, of how many; 0 of others.
+    int page = 0;
+    int pageCount = 0;
     int order = 0;         // lower ones are read earlier, among all that stand in the same group
     bool isSilent = false; // neither it nor anything inside is read
     // Keys stop at it, be it only to hold what moves in it.

@@ -109,6 +109,7 @@ protected:
             const QAccessible::State changed = static_cast<QAccessibleStateChangeEvent&>(event).changedStates();
             if (changed.checked) events.push_back(source + "checked");
             if (changed.expanded) events.push_back(source + "expanded");
+            if (changed.busy) events.push_back(source + "busy");
             if (changed.disabled) events.push_back(source + "disabled");
             if (changed.offscreen) events.push_back(source + "offscreen");
             break;
@@ -353,6 +354,29 @@ TEST_F(Accessibility, TellsOfAnotherScreenAsADialogOfItsOwn) {
     accessibility.update();
 
     EXPECT_THAT(events, ElementsAre("Pro: went", "Compare plans: came"));
+}
+
+TEST_F(Accessibility, TellsTheFocusOnceAScreenStands) {
+    hasFocus = true;
+    content.dialog.isBusy = true;
+    accessibility.update();
+    EXPECT_THAT(events, ElementsAre("Pro: came"));
+
+    content.dialog.isBusy = false;
+    accessibility.update();
+
+    EXPECT_THAT(events, ElementsAre("Pro: came", "Pro: busy", "Pro: focus"));
+}
+
+TEST_F(Accessibility, TellsWhetherAScreenStands) {
+    content.dialog.isBusy = true;
+    EXPECT_TRUE(dialog()->state().busy);
+
+    content.dialog.isBusy = false;
+    accessibility.update();
+
+    EXPECT_FALSE(dialog()->state().busy);
+    EXPECT_THAT(events, ElementsAre("Pro: busy"));
 }
 
 TEST_F(Accessibility, TellsOnceWhatHasBeenChosenAndWhatThatChanges) {

@@ -179,7 +179,7 @@ TEST_F(QtWindowTest, HandsOnTheKeysThatMeanSomething) {
                           Qt::Key_Left, Qt::Key_Right, Qt::Key_A})
         press(key);
 
-    EXPECT_THAT(content->keys, ElementsAre(Key::escape, Key::tab, Key::backTab, Key::activate, Key::activate, Key::up, Key::down,
+    EXPECT_THAT(content->keys, ElementsAre(Key::escape, Key::tab, Key::backTab, Key::activate, Key::space, Key::up, Key::down,
                                            Key::left, Key::right));
 }
 

@@ -128,6 +128,25 @@ TEST_F(PageControlTest, AssistiveTechnologyChangesNothingOnceTheControlIsDisable
     EXPECT_EQ(pages->currentPage(), 0);
 }
 
+TEST_F(PageControlTest, IsReadAsAPageOfHowMany) {
+    pages->setCurrentPage(2);
+
+    const accessibility::ReadingElement pager = window->reading().children.at(0);
+
+    EXPECT_EQ(pager.position, 3);
+    EXPECT_EQ(pager.count, 4);
+    EXPECT_EQ(pager.value, "page 3 of 4");
+}
+
+TEST_F(PageControlTest, IsReadAsNoPageWhereThereIsNone) {
+    pages->setNumberOfPages(0);
+
+    const accessibility::SemanticNode node = window->semanticTree().children.at(0);
+
+    EXPECT_EQ(node.spoken.page, 0);
+    EXPECT_EQ(node.spoken.pageCount, 0);
+}
+
 TEST_F(PageControlTest, TheArrowKeysFollowTheLayoutDirection) {
     window->key(host::Key::tab);
     window->key(host::Key::right);

@@ -78,6 +78,14 @@ TEST_F(PresentationTest, AnAnimatedPresentationAppearsAtItsEnd) {
     EXPECT_EQ(window->frontMostViewController(), sheet.get());
 }
 
+TEST_F(PresentationTest, AScreenOnItsWayIsReadAsBusy) {
+    EXPECT_FALSE(window->reading().isBusy);
+    root->present(sheet, true);
+    EXPECT_TRUE(window->reading().isBusy);
+    bed.runUntil(transition_s);
+    EXPECT_FALSE(window->reading().isBusy);
+}
+
 TEST_F(PresentationTest, AnUnanimatedPresentationIsOverWhenTheCallReturns) {
     root->present(sheet, false, [&] { calls.push_back("complete"); });
 

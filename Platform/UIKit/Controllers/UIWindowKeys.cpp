@@ -87,6 +87,7 @@ accessibility::ReadingElement UIWindow::reading() {
     accessibility::ReadingElement reading = accessibility::readingOf(semanticTree());
     if (const UIViewController* const front = frontMostViewController(); front && reading.name.empty())
         reading.name = front->accessibilityScreenName();
+    reading.isBusy = isTransitioning();
     m_focus->mark(reading);
     return reading;
 }

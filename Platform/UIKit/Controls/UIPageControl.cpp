@@ -73,6 +73,8 @@ void UIPageControl::draw(graphics::PaintContext& context, const graphics::PaintS
 void UIPageControl::describe(accessibility::SemanticNode& node, const graphics::PaintState& state) const {
     UIControl::describe(node, state);
     node.traits = node.traits | accessibility::Traits::adjustable;
+    node.spoken.page = m_numberOfPages > 0 ? m_currentPage + 1 : 0;
+    node.spoken.pageCount = m_numberOfPages;
     if (!isEnabled()) return;
     node.adjust = [control = weakReference(const_cast<UIPageControl&>(*this))](int step) {
         if (const auto held = control.lock(); held && held->canBeOperated()) held->goToPage(held->m_currentPage + step);
