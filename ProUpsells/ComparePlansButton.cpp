@@ -1,6 +1,7 @@
 #include "ProUpsells/ComparePlansButton.hpp"
 
 #include "Platform/LumoKit/Icon.hpp"
+#include "Platform/LumoKit/LargestTextSize.hpp"
 #include "Platform/LumoKit/RoleColors.hpp"
 #include "Platform/LumoKit/TextStyle.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
@@ -17,7 +18,7 @@ View ComparePlansButton::body(BuildContext& context) const {
         HStack{.content = {
                    Image{lumokit::Icon::diamond24()} | foregroundStyle(ContentColor::primary) | padding(Edge::horizontal, 6),
                    Text{text} | lumokit::textStyle(lumokit::TextStyle::based(lumokit::PlatformTextStyle::subheadline, 16, 16)) |
-                       foregroundStyle(lumokit::platformPrimary),
+                       lumokit::largestTextSize(lumokit::LargestSize::rowText) | foregroundStyle(lumokit::platformPrimary),
                    Spacer{.minLength = 0},
                    Image{lumokit::SystemSymbol::chevronRight()}.resizable() | rotationEffect(turn_degrees) | frame(10, 10) |
                        foregroundStyle(ContentColor::secondary) | padding(Edge::trailing, 16),

@@ -10,7 +10,7 @@ using namespace swiftui;
 
 View ComparisonColumnCapsule::body(BuildContext&) const {
     return Text{heading} | font(velauikit::quenbySemibold(isSmall ? 11 : 12)) |
-           lumokit::largestTextSize(graphics::ContentSizeCategory::extraLarge) | foregroundStyle(textColor) |
+           lumokit::largestTextSize(lumokit::LargestSize::capsule) | foregroundStyle(textColor) |
            multilineTextAlignment(graphics::TextAlignment::center) | swiftui::lineSpacing(lineSpacing) |
            padding(Edge::horizontal, isSmall ? 9 : 12) | padding(Edge::vertical, isSmall ? 4 : 7) |
            background(Capsule(geometry::CornerStyle::continuous).fill(fill));

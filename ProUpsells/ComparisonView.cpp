@@ -37,28 +37,29 @@ void toggle(const Expanded& expanded, const std::string& name) {
 
 } // namespace
 
-View ComparisonView::headerRow() const {
-    return HStack{.alignment = VerticalAlignment::bottom,
-                  .spacing = 16,
-                  .content =
-                      {
-                          Text{localizedString("Compare Plans",
-                                               "Title for screen where users can see a comparison between our Folio plans")} |
-                              lumokit::textStyle(lumokit::headingH2) | foregroundStyle(lumokit::ContentColor::primary) |
-                              accessibilityTraits(accessibility::Traits::header) |
-                              frame({.maxWidth = geometry::infinity, .alignment = Alignment::leading}),
-                          // The two capsules have different line spacings. This is deliberate.
-                          ComparisonColumnCapsule{.heading = ComparisonCatalogue::freeHeading(),
-                                                  .fill = lumokit::ValidationColor::neutralSubdued,
-                                                  .textColor = lumokit::ValidationColor::neutralImportant,
-                                                  .lineSpacing = 8,
-                                                  .isSmall = requiresSmallCapsule},
-                          ComparisonColumnCapsule{.heading = ComparisonCatalogue::proHeading(),
-                                                  .fill = lumokit::BackgroundColor::level4,
-                                                  .textColor = lumokit::ContentColor::inverse,
-                                                  .lineSpacing = 2,
-                                                  .isSmall = requiresSmallCapsule},
-                      }} |
+View ComparisonView::headerRow(graphics::ContentSizeCategory textSize) const {
+    View title =
+        Text{localizedString("Compare Plans", "Title for screen where users can see a comparison between our Folio plans")} |
+        lumokit::textStyle(lumokit::headingH2) | foregroundStyle(lumokit::ContentColor::primary) |
+        accessibilityTraits(accessibility::Traits::header) |
+        frame({.maxWidth = geometry::infinity, .alignment = Alignment::leading});
+    // The two capsules have different line spacings. This is deliberate.
+    View freeColumn = ComparisonColumnCapsule{.heading = ComparisonCatalogue::freeHeading(),
+                                              .fill = lumokit::ValidationColor::neutralSubdued,
+                                              .textColor = lumokit::ValidationColor::neutralImportant,
+                                              .lineSpacing = 8,
+                                              .isSmall = requiresSmallCapsule};
+    View proColumn = ComparisonColumnCapsule{.heading = ComparisonCatalogue::proHeading(),
+                                             .fill = lumokit::BackgroundColor::level4,
+                                             .textColor = lumokit::ContentColor::inverse,
+                                             .lineSpacing = 2,
+                                             .isSmall = requiresSmallCapsule};
+    const auto row = [](ViewList content) {
+        return HStack{.alignment = VerticalAlignment::bottom, .spacing = 16, .content = std::move(content)};
+    };
+    const bool isStacked = textSize >= graphics::ContentSizeCategory::accessibilityMedium;
+    return (isStacked ? View{VStack{.content = {title, row({Spacer{}, freeColumn, proColumn})}}}
+                      : View{row({title, freeColumn, proColumn})}) |
            padding(Edge::bottom, 42) | padding(Edge::horizontal, 24);
 }
 
@@ -71,14 +72,16 @@ View ComparisonView::category(std::size_t index, const Expanded& expanded) const
            accessibilityDisclosure(expanded.get().isExpanded(item->name));
 }
 
-View ComparisonView::categoryList(const Expanded& expanded) const {
+View ComparisonView::categoryList(const View& header, const Expanded& expanded) const {
     std::vector<std::size_t> indices(items->size());
     for (std::size_t index = 0; index < indices.size(); ++index) indices[index] = index;
-    return ScrollView{.content = VStack{.spacing = 0,
-                                        .content = ForEach(
-                                            indices, [&](std::size_t index) { return Key((*items)[index].name); },
-                                            [&](std::size_t index) { return category(index, expanded); })} |
-                                 padding(Edge::horizontal, 24)};
+    View categories = VStack{.spacing = 0,
+                             .content = ForEach(
+                                 indices, [&](std::size_t index) { return Key((*items)[index].name); },
+                                 [&](std::size_t index) { return category(index, expanded); })} |
+                      padding(Edge::horizontal, 24);
+    if (header.isAbsent()) return ScrollView{.content = categories};
+    return ScrollView{.content = VStack{.spacing = 0, .content = {header, categories}}};
 }
 
 View ComparisonView::bottomBar() const {
@@ -91,11 +94,22 @@ View ComparisonView::bottomBar() const {
                    Alignment::bottom);
 }
 
-View ComparisonView::body(BuildContext& context) const {
-    const auto expanded = context.state(ExpandedCategories{});
-    const bool reachesTheEdge = context.environment().safeAreaInsets.bottom == 0;
-    return VStack{.spacing = 0, .content = {headerRow(), categoryList(expanded), bottomBar()}} |
+// On a low screen, and above large texts, the header would leave the list hardly any room.
+View ComparisonView::screen(double height, const EnvironmentValues& environment, const Expanded& expanded) const {
+    constexpr double lowestForFixedHeader = 260;
+    const bool scrollsHeader =
+        height < lowestForFixedHeader || environment.contentSize >= graphics::ContentSizeCategory::accessibilityMedium;
+    const bool reachesTheEdge = environment.safeAreaInsets.bottom == 0;
+    View header = headerRow(environment.contentSize);
+    return VStack{
+               .spacing = 0,
+               .content = {scrollsHeader ? View{} : header, categoryList(scrollsHeader ? header : View{}, expanded), bottomBar()}} |
            padding(Edge::bottom, reachesTheEdge ? 20 : 0) | background(velauikit::velaBackground);
+}
+
+View ComparisonView::body(BuildContext& context) const {
+    return GeometryReader{[view = *this, environment = context.environment(), expanded = context.state(ExpandedCategories{})](
+                              const GeometryProxy& proxy) { return view.screen(proxy.size.height, environment, expanded); }};
 }
 
 } // namespace proupsells

@@ -20,8 +20,11 @@ struct ComparisonView {
     bool operator==(const ComparisonView&) const = default;
 
 private:
-    swiftui::View headerRow() const;
-    swiftui::View categoryList(const swiftui::Binding<ExpandedCategories>& expanded) const;
+    swiftui::View screen(double height, const swiftui::EnvironmentValues& environment,
+                         const swiftui::Binding<ExpandedCategories>& expanded) const;
+    swiftui::View headerRow(graphics::ContentSizeCategory textSize) const;
+    // Everything that scrolls: the categories, below the header where there is one.
+    swiftui::View categoryList(const swiftui::View& header, const swiftui::Binding<ExpandedCategories>& expanded) const;
     swiftui::View category(std::size_t index, const swiftui::Binding<ExpandedCategories>& expanded) const;
     swiftui::View bottomBar() const;
 };

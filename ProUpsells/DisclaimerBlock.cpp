@@ -16,8 +16,8 @@ using TapEvent = UpsellViewModel::TapEvent;
 View DisclaimerBlock::paymentText() const {
     if (!payment) return View{};
     return Text{*payment} | lumokit::textStyle(lumokit::labelSmall) | foregroundStyle(lumokit::ContentColor::secondary) |
-           multilineTextAlignment(graphics::TextAlignment::center) | accessibilityIdentifier("disclaimer") | padding(Edge::top, 8) |
-           padding(Edge::bottom, 8) | padding(Edge::horizontal);
+           multilineTextAlignment(graphics::TextAlignment::center) | avoidsShortLastLine() | accessibilityIdentifier("disclaimer") |
+           padding(Edge::top, 8) | padding(Edge::bottom, 8) | padding(Edge::horizontal);
 }
 
 View DisclaimerBlock::link(const char* key, TapEvent event, const char* identifier) const {

@@ -14,13 +14,6 @@ namespace proupsells {
 using namespace swiftui;
 using foundation::localizedString;
 
-namespace {
-
-// Beside the two columns of a small screen, larger words would be broken.
-const auto largestRowTextSize = lumokit::largestTextSize(graphics::ContentSizeCategory::extraExtraExtraLarge);
-
-} // namespace
-
 View FeatureChildRow::freeCell() const {
     if (feature.distribution.isFree()) return CheckIcon{} | accessibilityLabel(ComparisonCatalogue::freeHeading());
     if (const auto* limit = feature.distribution.limit()) return FreeUsageLimitIndicator{limit->count};
@@ -43,19 +36,21 @@ std::string FeatureChildRow::spokenName() const {
         {feature.name});
 }
 
-View FeatureChildRow::body(BuildContext&) const {
-    return HStack{.spacing = 16,
-                  .content =
-                      {
-                          Text{feature.name} |
-                              lumokit::textStyle(lumokit::TextStyle::based(lumokit::PlatformTextStyle::subheadline, 15, 15)) |
-                              fixedSize(false, true) | largestRowTextSize,
-                          Spacer{},
-                          HStack{.spacing = 40,
-                                 .content = {freeCell(), CheckIcon{} | accessibilityLabel(ComparisonCatalogue::proHeading())}},
-                      }} |
-           accessibilitySpokenName(spokenName()) | padding(Edge::vertical, 12.8) | padding(Edge::leading, 16) |
-           frame({.minHeight = 40});
+View FeatureChildRow::cells(graphics::ContentSizeCategory textSize) const {
+    View name = Text{feature.name} |
+                lumokit::textStyle(lumokit::TextStyle::based(lumokit::PlatformTextStyle::subheadline, 15, 15)) |
+                fixedSize(false, true) | lumokit::largestTextSize(lumokit::LargestSize::mainText);
+    View columns =
+        HStack{.spacing = 40, .content = {freeCell(), CheckIcon{} | accessibilityLabel(ComparisonCatalogue::proHeading())}};
+    // The largest words need the whole width.
+    if (textSize >= graphics::ContentSizeCategory::accessibilityMedium)
+        return VStack{.alignment = HorizontalAlignment::leading, .content = {name, HStack{.content = {Spacer{}, columns}}}};
+    return HStack{.spacing = 16, .content = {name, Spacer{}, columns}};
+}
+
+View FeatureChildRow::body(BuildContext& context) const {
+    return cells(context.environment().contentSize) | accessibilitySpokenName(spokenName()) | padding(Edge::vertical, 12.8) |
+           padding(Edge::leading, 16) | frame({.minHeight = 40});
 }
 
 } // namespace proupsells

@@ -17,6 +17,7 @@ struct FeatureChildRow {
 private:
     swiftui::View freeCell() const;
     std::string spokenName() const;
+    swiftui::View cells(graphics::ContentSizeCategory textSize) const;
 };
 
 } // namespace proupsells

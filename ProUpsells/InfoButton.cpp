@@ -1,5 +1,6 @@
 #include "ProUpsells/InfoButton.hpp"
 
+#include "Platform/LumoKit/LargestTextSize.hpp"
 #include "Platform/LumoKit/RoleColors.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
 #include "Platform/VelaUIKit/Fonts.hpp"
@@ -14,6 +15,7 @@ View InfoButton::body(BuildContext&) const {
                                   .content =
                                       {
                                           Text{text} | font(velauikit::quenbyBold(14)) |
+                                              lumokit::largestTextSize(lumokit::LargestSize::rowText) |
                                               foregroundStyle(lumokit::ContentColor::secondary),
                                           image ? Image{image} : View{},
                                       }}} |

@@ -25,6 +25,11 @@ std::vector<uikit::UIImage> LazyStorePageShelf::images() const {
     return images;
 }
 
+double LazyStorePageShelf::heightAddedForTexts(double width, const uikit::UITraitCollection& traits) const {
+    return TitleSubtitleContainerViewController::heightFor(*this, width, traits) -
+           TitleSubtitleContainerViewController::usualHeight;
+}
+
 std::string LazyStorePageShelf::footerTitle() const { return localizedUnlessEmpty(m_facts.title); }
 
 std::string LazyStorePageShelf::footerSubTitle() const { return localizedUnlessEmpty(m_facts.subtitle); }
@@ -78,8 +83,9 @@ LazyStorePageShelf::Controller LazyStorePageShelf::twoRows(const Controller& upp
 }
 
 LazyStorePageShelf::Controller LazyStorePageShelf::withTexts(const Controller& picture) const {
-    return std::make_shared<VerticallyStackedContainerViewController>(
-        picture, std::make_shared<TitleSubtitleContainerViewController>(*this));
+    const auto texts = std::make_shared<TitleSubtitleContainerViewController>(*this);
+    if (m_facts.roomForTexts) texts->setRoomForTexts(*m_facts.roomForTexts);
+    return std::make_shared<VerticallyStackedContainerViewController>(picture, texts);
 }
 
 LazyStorePageShelf::Controller LazyStorePageShelf::headerController(const std::shared_ptr<uikit::UIView>& header) {

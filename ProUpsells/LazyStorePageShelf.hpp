@@ -19,10 +19,12 @@ public:
         std::string subtitle = {};
         std::string headline = {}; // of a header, which has no title
         std::vector<ImageResource> images = {};
+        std::optional<double> roomForTexts = {}; // in points; absent: what is below may be reached into
     };
 
     std::string_view className() const override { return m_facts.className; }
     double preferredShelfHeight() const override { return m_facts.height; }
+    double heightAddedForTexts(double width, const uikit::UITraitCollection& traits) const override;
     geometry::PhysicalInsets preferredSectionInset() const override { return {.bottom = m_facts.bottomInset}; }
     std::vector<uikit::UIImage> images() const override;
     std::string footerTitle() const override;

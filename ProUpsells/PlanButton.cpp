@@ -4,6 +4,7 @@
 
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Foundation/Locale.hpp"
+#include "Platform/LumoKit/LargestTextSize.hpp"
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
 #include "Platform/UIKit/Views/UIImageView.hpp"
 #include "Platform/VelaUIKit/Fonts.hpp"
@@ -40,7 +41,9 @@ PlanButton::PlanButton() : m_titleLabel(std::make_shared<uikit::UILabel>()) {
     setBackgroundColor(velauikit::dynamicColor(22));
     setTranslatesAutoresizingMaskIntoConstraints(false);
     m_titleLabel->setTranslatesAutoresizingMaskIntoConstraints(false);
-    m_titleLabel->setMinimumScaleFactor(0.7);
+    m_titleLabel->setLargestTextSize(lumokit::LargestSize::buttonText);
+    // There is one line for it, so a large one is set smaller until it fits.
+    m_titleLabel->setMinimumScaleFactor(0.7 / graphics::scaleFactor(lumokit::LargestSize::buttonText));
     // The title gives way before the arrow does.
     m_titleLabel->setContentCompressionResistancePriority(uikit::layoutPriorityHigh - 1, uikit::Axis::horizontal);
     applyTexts();

@@ -9,6 +9,8 @@ class ProIntroHeaderViewShelf : public LazyStorePageShelf {
 public:
     ProIntroHeaderViewShelf();
 
+    double heightAddedForTexts(double width, const uikit::UITraitCollection& traits) const override;
+
 protected:
     Controller makeViewController() const override;
 };

@@ -2,6 +2,7 @@
 
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Foundation/Format.hpp"
+#include "Platform/LumoKit/LargestTextSize.hpp"
 #include "Platform/LumoKit/RoleColors.hpp"
 #include "Platform/LumoKit/TextStyle.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
@@ -40,16 +41,17 @@ View RadioPickerButton::titleRow(graphics::ContentSizeCategory textSize) const {
 }
 
 View RadioPickerButton::card(graphics::ContentSizeCategory textSize) const {
-    return HStack{.spacing = 8,
-                  .content =
-                      {
-                          VStack{.alignment = HorizontalAlignment::leading,
-                                 .spacing = 8,
-                                 .content = {titleRow(textSize),
-                                             Text{item.subtitle} | foregroundStyle(velauikit::velaSecondaryLabel)}},
-                          Spacer{},
-                          RadioPickerSelectionIndicator{selected} | accessibilityLabel("Selection Indicator"),
-                      }} |
+    return HStack{
+               .spacing = 8,
+               .content =
+                   {
+                       VStack{.alignment = HorizontalAlignment::leading,
+                              .spacing = 8,
+                              .content = {titleRow(textSize), Text{item.subtitle} | foregroundStyle(velauikit::velaSecondaryLabel) |
+                                                                  lumokit::largestTextSize(lumokit::LargestSize::mainText)}},
+                       Spacer{},
+                       RadioPickerSelectionIndicator{selected} | accessibilityLabel("Selection Indicator"),
+                   }} |
            padding(Edge::horizontal, 14) | padding(Edge::vertical, 16) |
            frame({.maxWidth = geometry::infinity, .minHeight = 90, .alignment = Alignment::leading}) |
            background(RoundedRectangle(cornerRadius).fill(velauikit::velaSecondaryAppBackground)) | contentShape();

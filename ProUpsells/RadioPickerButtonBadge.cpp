@@ -14,9 +14,8 @@ using namespace swiftui;
 
 View RadioPickerButtonBadge::body(BuildContext&) const {
     return Text{text} | font(velauikit::quenbyBold(10)) | textCase(TextCase::uppercase) |
-           lumokit::largestTextSize(graphics::ContentSizeCategory::extraExtraExtraLarge) |
-           foregroundStyle(velauikit::velaLightText) | padding(Edge::vertical, 2) | padding(Edge::horizontal, 4) |
-           background(RoundedRectangle(2).fill());
+           lumokit::largestTextSize(lumokit::LargestSize::capsule) | foregroundStyle(velauikit::velaLightText) |
+           padding(Edge::vertical, 2) | padding(Edge::horizontal, 4) | background(RoundedRectangle(2).fill());
 }
 
 } // namespace proupsells

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "Platform/Foundation/Bundle.hpp"
+#include "Platform/LumoKit/LargestTextSize.hpp"
 #include "Platform/VelaUIKit/Fonts.hpp"
 #include "Platform/VelaUIKit/VelaColors.hpp"
 #include "ProUpsells/CenteredText.hpp"
@@ -12,6 +13,8 @@ namespace proupsells {
 
 StoreHeaderView::StoreHeaderView(const geometry::Rect& frame, std::string headline, double fontSize)
     : UIView(frame), m_headline(std::move(headline)), m_fontSize(fontSize), m_titleLabel(makeCenteredLabel()) {
+    m_titleLabel->setLargestTextSize(lumokit::LargestSize::headline);
+    m_titleLabel->setAvoidsShortLastLine(true);
     applyTexts();
     m_titleLabel->accessibilitySpoken.role = accessibility::Role::heading;
     addSubview(m_titleLabel);

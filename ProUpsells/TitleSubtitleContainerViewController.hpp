@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -12,14 +13,21 @@
 
 namespace proupsells {
 
-// 103 points high.
 class TitleSubtitleContainerViewController : public uikit::UIViewController {
 public:
+    // Of the view, in points, at the normal text size.
+    static constexpr double usualHeight = 103;
+    // The same at the person's text size, in a page of a width.
+    static double heightFor(const VelaProStorePageShelf& shelf, double width, const uikit::UITraitCollection& traits);
+
     // Shows the texts of `shelf`, which is held weakly.
     explicit TitleSubtitleContainerViewController(const VelaProStorePageShelf& shelf);
     // Stops the program.
     [[noreturn]] explicit TitleSubtitleContainerViewController(const foundation::Coder& coder);
     std::string_view typeName() const override { return "TitleSubtitleContainerViewController"; }
+
+    // How far down the texts may reach, in points from the view's top, before they are set smaller; anywhere until it is set.
+    void setRoomForTexts(double room);
 
     const std::string& titleText() const { return m_labels.title(); }
     void setTitleText(std::string text) { m_labels.setTitle(std::move(text)); }
@@ -32,11 +40,17 @@ public:
     void languageDidChange() override { applyTexts(); }
 
     void viewDidLoad() override;
+    void viewDidLayoutSubviews() override;
 
 private:
     void show(const VelaProStorePageShelf& shelf);
 
+    static TitleSubtitleLabels emptyLabels();
+    static TitleSubtitleLabels labelsFor(const VelaProStorePageShelf& shelf);
+
     std::weak_ptr<const VelaProStorePageShelf> m_shelf;
+    std::shared_ptr<uikit::NSLayoutConstraint> m_height;
+    std::optional<double> m_roomForTexts;
     TitleSubtitleLabels m_labels;
 };
 

@@ -17,6 +17,14 @@ public:
     // Puts the labels into `container`, the headline on top.
     void addTo(uikit::UIView& container) const;
 
+    // How high the two are, one below the other, where the container has a width and these traits.
+    double heightIn(double width, const uikit::UITraitCollection& traits) const;
+
+    // The share of their sizes, 0.8 at least, at which both are no higher than `room`. Where lines are to be worked out by hand, 1.
+    // Leaves them at that share.
+    double scaleInto(double room, double width, const uikit::UITraitCollection& traits);
+    void setScale(double scale);
+
     const std::string& title() const { return m_title; }
     void setTitle(std::string text);
     const std::string& subtitle() const { return m_subtitle; }
@@ -25,6 +33,7 @@ public:
     const std::shared_ptr<uikit::UILabel>& subtitleLabel() const { return m_subtitleLabel; }
 
 private:
+    double m_scale = 1;
     uikit::UIFont m_titleFont;
     std::string m_title;
     std::shared_ptr<uikit::UILabel> m_titleLabel;

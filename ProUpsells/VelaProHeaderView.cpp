@@ -1,5 +1,6 @@
 #include "ProUpsells/VelaProHeaderView.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 #include "Platform/Foundation/Bundle.hpp"
@@ -9,6 +10,12 @@
 #include "Platform/VelaUIKit/VelaUIKitImage.hpp"
 
 namespace proupsells {
+
+namespace {
+
+constexpr double logoTop = 57, logoHeight = 28, headlineTop = 16, headlineBottom = 30, headlineInset = 62;
+
+} // namespace
 
 std::optional<double> aspectRatio(geometry::Size size) {
     const double ratio = size.width / size.height;
@@ -36,6 +43,14 @@ void VelaProHeaderView::applyLogoName() {
                                                .name = foundation::localizedString("Marwick Folio Pro")};
 }
 
+double VelaProHeaderView::heightAddedForHeadline(double width, const uikit::UITraitCollection& traits) const {
+    constexpr double usualRoom = 220 - logoTop - logoHeight - headlineTop - headlineBottom;
+    titleLabel()->setOverrideTraitCollection(traits);
+    const double height = titleLabel()->sizeThatFits({width - 2 * headlineInset, std::nullopt}).height;
+    titleLabel()->setOverrideTraitCollection(std::nullopt);
+    return std::max(0.0, height - usualRoom);
+}
+
 void VelaProHeaderView::layOut() {
     if (const auto ratio = aspectRatio(m_proLogoImageView->image()->size))
         m_proLogoImageView->widthAnchor().constraintEqualToMultiplier(m_proLogoImageView->heightAnchor(), *ratio)->setActive(true);
@@ -47,13 +62,13 @@ void VelaProHeaderView::layOut() {
     addSubview(stack);
     uikit::NSLayoutConstraint::activate({
         stack->centerXAnchor().constraintEqualTo(centerXAnchor()),
-        stack->topAnchor().constraintEqualTo(topAnchor(), 57),
-        stack->heightAnchor().constraintEqualToConstant(28),
+        stack->topAnchor().constraintEqualTo(topAnchor(), logoTop),
+        stack->heightAnchor().constraintEqualToConstant(logoHeight),
         stack->leadingAnchor().constraintGreaterThanOrEqualTo(leadingAnchor()),
-        titleLabel()->topAnchor().constraintEqualTo(stack->bottomAnchor(), 16),
+        titleLabel()->topAnchor().constraintEqualTo(stack->bottomAnchor(), headlineTop),
         titleLabel()->centerXAnchor().constraintEqualTo(centerXAnchor()),
-        titleLabel()->leadingAnchor().constraintEqualTo(leadingAnchor(), 62),
-        titleLabel()->bottomAnchor().constraintEqualTo(bottomAnchor(), -30),
+        titleLabel()->leadingAnchor().constraintEqualTo(leadingAnchor(), headlineInset),
+        titleLabel()->bottomAnchor().constraintEqualTo(bottomAnchor(), -headlineBottom),
     });
 }
 

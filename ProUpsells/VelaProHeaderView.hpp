@@ -20,6 +20,9 @@ public:
     explicit VelaProHeaderView(const foundation::Coder& coder) : StoreHeaderView(coder) {}
     std::string_view typeName() const override { return "VelaProHeaderView"; }
 
+    // By how much the headline is higher than its room, which is that of the normal text size, in a header of a width.
+    double heightAddedForHeadline(double width, const uikit::UITraitCollection& traits) const;
+
     const std::shared_ptr<uikit::UIImageView>& proLogoImageView() const { return m_proLogoImageView; }
 
     void languageDidChange() override;

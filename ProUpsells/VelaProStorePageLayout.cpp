@@ -157,8 +157,10 @@ VelaProStorePageViewController::collectionViewLayoutSizeForItemAt(uikit::UIColle
                                                                   uikit::UICollectionViewFlowLayout&, uikit::IndexPath indexPath) {
     constexpr double asHighAsThePage = std::numeric_limits<double>::max();
     const geometry::Size page = collectionView.frame().size;
-    const double height = m_shelves[indexPath.section]->preferredShelfHeight();
-    return geometry::Size{page.width, height == asHighAsThePage ? page.height : height};
+    const VelaProStorePageShelf& shelf = *m_shelves[indexPath.section];
+    const double height = shelf.preferredShelfHeight();
+    if (height == asHighAsThePage) return page;
+    return geometry::Size{page.width, height + shelf.heightAddedForTexts(page.width, traitCollection())};
 }
 
 std::optional<geometry::PhysicalInsets>

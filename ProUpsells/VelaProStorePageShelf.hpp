@@ -24,6 +24,11 @@ public:
     virtual std::vector<uikit::UIImage> images() const { return {}; }
     // The cell's, in points; the greatest finite number means as high as the page.
     virtual double preferredShelfHeight() const = 0;
+    // By how much the cell is higher than that, so that texts of the person's size have their room in a page of a width.
+    virtual double heightAddedForTexts(double width, const uikit::UITraitCollection& traits) const {
+        (void)width, (void)traits;
+        return 0;
+    }
     // The room around the cell, in points.
     virtual geometry::PhysicalInsets preferredSectionInset() const = 0;
     // The headline, empty for none.

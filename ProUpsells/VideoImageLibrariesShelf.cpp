@@ -14,7 +14,9 @@ VideoImageLibrariesShelf::VideoImageLibrariesShelf()
            .bottomInset = 25,
            .title = localizable("Get inspired with videos and images"),
            .subtitle = localizable("Exclusive access to Marwick Folio stock videos and libraries with millions of images."),
-           .images = {ImageResource::videoSectionImagesStorePageShelfImage()}}) {}
+           .images = {ImageResource::videoSectionImagesStorePageShelfImage()},
+           // The last shelf: what is further down stays under the page's bar.
+           .roomForTexts = 140}) {}
 
 void VideoImageLibrariesShelf::createVideosShelf(const std::vector<std::shared_ptr<velauikit::VideoView>>& videoViews) {
     const auto images = repeatingStrip(ImageResource::videoSectionImagesStorePageShelfImage(), ScrollDirection::right, 0);

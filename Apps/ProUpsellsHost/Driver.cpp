@@ -33,6 +33,11 @@ void Driver::press(geometry::Point point, double duration_s) {
     touch(host::TouchPhase::ended, point);
 }
 
+void Driver::press(host::Key key) {
+    m_session.window().key(key);
+    m_loop.settle();
+}
+
 void Driver::drag(geometry::Point from, geometry::Point to, double duration_s) {
     const double start_s = m_loop.now_s();
     const int reports = std::max(1, static_cast<int>(std::ceil(duration_s / reportInterval_s - 1e-9)));

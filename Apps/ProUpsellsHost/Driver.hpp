@@ -20,6 +20,8 @@ public:
     void tap(geometry::Point point);
     // Touches, waits, lifts.
     void press(geometry::Point point, double duration_s);
+    // Presses and lifts a key at once; takes no time.
+    void press(host::Key key);
     // Touches at `from`, moves evenly to `to`, lifts there.
     void drag(geometry::Point from, geometry::Point to, double duration_s);
 

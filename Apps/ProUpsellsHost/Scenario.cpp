@@ -118,6 +118,12 @@ constexpr Word<HostPart> hostParts[] = {
     {"delegate", HostPart::delegate},
     {"tracker", HostPart::tracker},
 };
+constexpr Word<host::Key> keys[] = {
+    {"tab", host::Key::tab},       {"backTab", host::Key::backTab}, {"return", host::Key::activate},   {"space", host::Key::space},
+    {"escape", host::Key::escape}, {"up", host::Key::up},           {"down", host::Key::down},         {"left", host::Key::left},
+    {"right", host::Key::right},   {"pageUp", host::Key::pageUp},   {"pageDown", host::Key::pageDown}, {"home", host::Key::home},
+    {"end", host::Key::end},
+};
 constexpr Word<DumpStep> dumps[] = {
     {"screen", {}},
 };
@@ -128,6 +134,7 @@ constexpr Word<ReadStep> stepReaders[] = {
     {"tap", [](const JsonCursor& value, Surroundings&) -> Step { return readTap(value); }},
     {"drag", [](const JsonCursor& value, Surroundings&) -> Step { return readDrag(value); }},
     {"press", [](const JsonCursor& value, Surroundings&) -> Step { return readPress(value); }},
+    {"key", [](const JsonCursor& value, Surroundings&) -> Step { return KeyStep{value.oneOf(keys)}; }},
     {"wait", [](const JsonCursor& value, Surroundings&) -> Step { return WaitStep{readTime(value)}; }},
     {"send", [](const JsonCursor& value, Surroundings&) -> Step { return SendStep{value.oneOf(sentEvents)}; }},
     {"set", [](const JsonCursor& value, Surroundings& surroundings) -> Step { return readSet(value, surroundings); }},

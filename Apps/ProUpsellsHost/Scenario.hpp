@@ -9,6 +9,7 @@
 
 #include "Apps/ProUpsellsHost/Device.hpp"
 #include "Apps/ProUpsellsHost/Offers.hpp"
+#include "Platform/Host/WindowContent.hpp"
 #include "ProUpsells/UpsellViewModel.hpp"
 
 namespace proupsells::hostprogram {
@@ -32,6 +33,9 @@ struct DragStep {
 struct PressStep {
     geometry::Point at;
     double duration_s = 0;
+};
+struct KeyStep {
+    host::Key key;
 };
 struct WaitStep {
     double duration_s = 0;
@@ -69,8 +73,8 @@ struct ExpectStep {
     std::optional<geometry::Rect> frame;
 };
 
-using Step =
-    std::variant<TapStep, DragStep, PressStep, WaitStep, SendStep, SetStep, ReleaseStep, DumpStep, SnapshotStep, ExpectStep>;
+using Step = std::variant<TapStep, DragStep, PressStep, KeyStep, WaitStep, SendStep, SetStep, ReleaseStep, DumpStep, SnapshotStep,
+                          ExpectStep>;
 
 struct Scenario {
     std::filesystem::path file;

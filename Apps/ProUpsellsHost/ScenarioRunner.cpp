@@ -86,6 +86,8 @@ void ScenarioRunner::perform(const DragStep& step) { m_driver.drag(step.from, st
 
 void ScenarioRunner::perform(const PressStep& step) { m_driver.press(step.at, step.duration_s); }
 
+void ScenarioRunner::perform(const KeyStep& step) { m_driver.press(step.key); }
+
 void ScenarioRunner::perform(const WaitStep& step) { m_driver.wait(step.duration_s); }
 
 void ScenarioRunner::perform(const SendStep& step) { m_session.send(step.event); }

@@ -25,6 +25,7 @@ private:
     void perform(const TapStep&);
     void perform(const DragStep&);
     void perform(const PressStep&);
+    void perform(const KeyStep&);
     void perform(const WaitStep&);
     void perform(const SendStep&);
     void perform(const SetStep&);

@@ -75,6 +75,7 @@ std::shared_ptr<const ShapedText> FixedTextShaper::shape(std::span<const StyledR
     if (runs.empty()) commons::fatalError("A text without a run cannot be shaped");
     ++m_shapeCount;
     auto shaped = std::make_shared<ShapedText>();
+    shaped->keepsGreedyLines = true;
     shaped->runs.assign(runs.begin(), runs.end());
     for (const StyledRun& run : runs) {
         shaped->metrics.push_back({run.font.size * ascentPerSize, run.font.size * descentPerSize});

@@ -29,8 +29,16 @@ bool isBlank(char16_t unit) {
     }
 }
 
+constexpr char16_t wideSolidus = u'\uFF0F';
+
 // A soft hyphen would not be shown, and a solidus keeps a price and its period together ("$8.33/month").
-bool mayEndALine(char16_t last) { return last != u'\u00AD' && last != u'/'; }
+bool mayEndALine(char16_t last) { return last != u'\u00AD' && last != u'/' && last != wideSolidus; }
+
+// Korean has blanks between its words, and is not broken inside them.
+bool isInsideKoreanWord(char16_t last, char16_t next) {
+    const auto isHangul = [](char16_t unit) { return unit >= 0xAC00 && unit <= 0xD7A3; };
+    return isHangul(last) && isHangul(next);
+}
 
 // Whether every unit is a character, and every character a cluster.
 bool isPlain(const std::u16string& units) { return std::all_of(units.begin(), units.end(), foundation::isPlainCharacter); }
@@ -75,8 +83,12 @@ ClusterMaker::Rules& ClusterMaker::lineRules(std::string_view language) {
     icu::Locale locale = icu::Locale::forLanguageTag(icu::StringPiece(language.data(), std::int32_t(language.size())), status);
     if (U_FAILURE(status)) locale = icu::Locale::getRoot();
     status = U_ZERO_ERROR;
-    // A line of Japanese does not begin with a small letter, unless the language asks for looser rules.
-    if (std::string(locale.getName()).find("lb=") == std::string::npos) locale.setKeywordValue("lb", "strict", status);
+    // A line of Japanese does not begin with a small letter, and ends with a phrase, unless the language asks for other rules.
+    const std::string asked = locale.getName();
+    const bool hasStrictness = asked.find("lb=") != std::string::npos, hasWordRules = asked.find("lw=") != std::string::npos;
+    const bool isJapanese = std::string_view(locale.getLanguage()) == "ja";
+    if (!hasStrictness) locale.setKeywordValue("lb", "strict", status);
+    if (!hasStrictness && !hasWordRules && isJapanese) locale.setKeywordValue("lw", "phrase", status);
     icu::BreakIterator* lines = icu::BreakIterator::createLineInstance(locale, status);
     return *m_lines.emplace(language, std::make_unique<Rules>(lines, status)).first->second;
 }
@@ -133,7 +145,8 @@ void ClusterMaker::makeClusters(const RunUnits& text, std::string_view language,
             // A carriage return and its line feed stay together even across runs.
             const bool continues = last == u'\r' && end < units.size() && units[end] == u'\n';
             cluster.breakAfter = continues ? LineBreak::none : LineBreak::mandatory;
-        } else if (end < units.size() && mayEndALine(last) && mayEndAt(end)) {
+        } else if (end < units.size() && mayEndALine(last) && units[end] != wideSolidus && !isInsideKoreanWord(last, units[end]) &&
+                   mayEndAt(end)) {
             cluster.breakAfter = LineBreak::allowed;
         }
     }

@@ -18,11 +18,29 @@ constexpr hb_feature_t withoutLigatures[] = {
     {HB_TAG('h', 'l', 'i', 'g'), 0, HB_FEATURE_GLOBAL_START, HB_FEATURE_GLOBAL_END},
 };
 
+// Letters that hang together, by a stroke or by a common head line, do so whatever is asked for.
+bool isJoined(hb_script_t script) {
+    switch (script) {
+    case HB_SCRIPT_ARABIC:
+    case HB_SCRIPT_SYRIAC:
+    case HB_SCRIPT_MANDAIC:
+    case HB_SCRIPT_MONGOLIAN:
+    case HB_SCRIPT_NKO:
+    case HB_SCRIPT_PHAGS_PA:
+    case HB_SCRIPT_HANIFI_ROHINGYA:
+    case HB_SCRIPT_ADLAM:
+    case HB_SCRIPT_DEVANAGARI:
+    case HB_SCRIPT_BENGALI:
+    case HB_SCRIPT_GURMUKHI: return true;
+    default: return false;
+    }
+}
+
 double pointSize(const StyledRun& run) { return run.font.size > 0 ? run.font.size : 0; }
 
 // In whole shaping units like every other advance, and within eight ems: more would only send the text away.
-double letterSpacing(const StyledRun& run) {
-    if (run.kern == 0 || pointSize(run) == 0) return 0;
+double letterSpacing(const StyledRun& run, hb_script_t script) {
+    if (run.kern == 0 || pointSize(run) == 0 || isJoined(script)) return 0;
     return std::trunc(std::clamp(run.kern / pointSize(run), -8.0, 8.0) * shapingUnitsPerEm) * pointSize(run) / shapingUnitsPerEm;
 }
 
@@ -44,12 +62,12 @@ void SegmentShaper::fillBuffer(const Segment& segment, bool isRightToLeft) {
 void SegmentShaper::shape(const Segment& segment, GlyphTable& font, RasterShapedText& result) {
     const Cluster& first = result.clusters[segment.first];
     const bool isRightToLeft = first.bidiLevel % 2 == 1;
-    const bool isSpaced = letterSpacing(result.runs[first.run]) != 0;
+    const bool isSpaced = letterSpacing(result.runs[first.run], segment.script) != 0;
     fillBuffer(segment, isRightToLeft);
     hb_shape(font.file().shapingFont(), m_buffer.get(), isSpaced ? withoutLigatures : nullptr,
              isSpaced ? unsigned(std::size(withoutLigatures)) : 0);
     readGroups(segment, isRightToLeft);
-    for (const Group& group : m_groups) takeGroup(group, font, result, isRightToLeft);
+    for (const Group& group : m_groups) takeGroup(group, segment, font, result, isRightToLeft);
 }
 
 // In logical order. A cluster in which no glyphs begin shares those of the cluster before.
@@ -73,9 +91,10 @@ void SegmentShaper::readGroups(const Segment& segment, bool isRightToLeft) {
     }
 }
 
-void SegmentShaper::takeGroup(const Group& group, GlyphTable& font, RasterShapedText& result, bool isRightToLeft) const {
+void SegmentShaper::takeGroup(const Group& group, const Segment& segment, GlyphTable& font, RasterShapedText& result,
+                              bool isRightToLeft) const {
     const StyledRun& run = result.runs[result.clusters[group.first].run];
-    const double scale = pointSize(run) / shapingUnitsPerEm, spacing = letterSpacing(run);
+    const double scale = pointSize(run) / shapingUnitsPerEm, spacing = letterSpacing(run, segment.script);
     const hb_glyph_info_t* infos = hb_buffer_get_glyph_infos(m_buffer.get(), nullptr);
     const hb_glyph_position_t* positions = hb_buffer_get_glyph_positions(m_buffer.get(), nullptr);
     const std::uint32_t clusterCount = group.end - group.first;
@@ -100,7 +119,7 @@ void SegmentShaper::takeGroup(const Group& group, GlyphTable& font, RasterShaped
 void SegmentShaper::leaveRoom(const Segment& segment, RasterShapedText& result) {
     for (std::uint32_t cluster = segment.first; cluster < segment.end; ++cluster) {
         const StyledRun& run = result.runs[result.clusters[cluster].run];
-        result.clusters[cluster].advance = pointSize(run) / 2 + letterSpacing(run);
+        result.clusters[cluster].advance = pointSize(run) / 2 + letterSpacing(run, segment.script);
         result.groupStarts[cluster] = cluster;
         result.glyphStarts[cluster] = std::uint32_t(result.glyphs.size());
     }

@@ -44,7 +44,8 @@ private:
 
     void fillBuffer(const Segment& segment, bool isRightToLeft);
     void readGroups(const Segment& segment, bool isRightToLeft);
-    void takeGroup(const Group& group, GlyphTable& font, RasterShapedText& result, bool isRightToLeft) const;
+    void takeGroup(const Group& group, const Segment& segment, GlyphTable& font, RasterShapedText& result,
+                   bool isRightToLeft) const;
 
     std::unique_ptr<hb_buffer_t, BufferDestroyer> m_buffer;
     std::vector<Group> m_groups;

@@ -53,6 +53,9 @@ bool covers(const FcPattern* font, std::u32string_view characters) {
     return std::all_of(characters.begin(), characters.end(), [set](char32_t c) { return FcCharSetHasChar(set, c); });
 }
 
+// Its scripts are drawn to stand beside each other, and beside our own faces.
+bool isOfPreferredFamily(const FcPattern* font) { return textOf(font, FC_FAMILY).starts_with("Noto Sans"); }
+
 } // namespace
 
 void SystemFonts::FontSetDestroyer::operator()(FcFontSet* fonts) const { FcFontSetDestroy(fonts); }
@@ -112,11 +115,16 @@ SystemFonts::FontSetRef SystemFonts::sorted(const std::string& family, const std
 std::optional<FaceFile> SystemFonts::faceFor(std::u32string_view characters, const std::string& language, int weight) {
     FontSetRef& fonts = m_fallbacks[{language, weight}];
     if (!fonts) fonts = sorted("sans-serif", language, weight, false);
+    const FcPattern* found = nullptr;
     for (int index = 0; fonts && index < fonts->nfont; ++index) {
         const FcPattern* font = fonts->fonts[index];
-        if (is(font, FC_SCALABLE) && !is(font, FC_COLOR) && covers(font, characters)) return faceOf(font, weight);
+        if (!is(font, FC_SCALABLE) || is(font, FC_COLOR)) continue;
+        if (found && !isOfPreferredFamily(font)) continue;
+        if (!covers(font, characters)) continue;
+        if (isOfPreferredFamily(font)) return faceOf(font, weight);
+        found = font;
     }
-    return std::nullopt;
+    return found ? std::optional(faceOf(found, weight)) : std::nullopt;
 }
 
 std::optional<FaceFile> SystemFonts::emojiFor(std::u32string_view characters) {

@@ -29,7 +29,8 @@ public:
     bool isEmpty();
     // The upright faces of a family. Nothing where the family is not installed.
     std::vector<FaceFile> facesOf(const std::string& family);
-    // The face that shows all these characters, best for the language and near the weight. Absent where none does.
+    // The face that shows all these characters, best for the language and near the weight; of Noto Sans where that has them. Absent
+    // where none does.
     std::optional<FaceFile> faceFor(std::u32string_view characters, const std::string& language, int weight);
     // The same among coloured emoji.
     std::optional<FaceFile> emojiFor(std::u32string_view characters);

@@ -14,13 +14,16 @@ bool isLetter(char c) { return asciiLower(c) != asciiUpper(c); }
 bool isVowel(char c) { return std::string_view("aeiouy").find(asciiLower(c)) != std::string_view::npos; }
 bool isNoAscii(char c) { return static_cast<unsigned char>(c) >= 0x80; }
 
-// Letters that most typefaces have, as upper and as lower case. Those that have none with an accent stay plain.
-std::string_view accented(char letter) {
+// Letters that most typefaces have, as upper and as lower case. Those that have none with an accent stay plain, as does what is no
+// letter.
+std::string_view accented(const char& letter) {
     static constexpr std::string_view upper[] = {"Å", "B", "Ç", "Đ", "É", "F", "Ğ", "Ĥ", "Î", "Ĵ", "Ķ", "Ļ", "M",
                                                  "Ñ", "Ö", "P", "Q", "Ŕ", "Š", "Ţ", "Ü", "V", "Ŵ", "X", "Ý", "Ž"};
     static constexpr std::string_view lower[] = {"å", "b", "ç", "đ", "é", "f", "ğ", "ĥ", "î", "ĵ", "ķ", "ļ", "m",
                                                  "ñ", "ö", "p", "q", "ŕ", "š", "ţ", "ü", "v", "ŵ", "x", "ý", "ž"};
-    return letter <= 'Z' ? upper[letter - 'A'] : lower[letter - 'a'];
+    if (letter >= 'A' && letter <= 'Z') return upper[letter - 'A'];
+    if (letter >= 'a' && letter <= 'z') return lower[letter - 'a'];
+    return {&letter, 1};
 }
 
 // Calls `placeholder` with each of the text's placeholders and `character` with each other character, in the text's order.

@@ -1,6 +1,7 @@
 // How large a person wants texts to be.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 namespace proupsells::graphics {
@@ -28,6 +29,14 @@ inline constexpr int contentSizeCategoryCount = 12;
 constexpr double scaleFactor(ContentSizeCategory category) {
     constexpr double bodySizes[contentSizeCategoryCount] = {14, 15, 16, 17, 19, 21, 23, 28, 33, 40, 47, 53};
     return bodySizes[int(category)] / 17;
+}
+
+// Points below which no category makes a text smaller.
+inline constexpr double leastTextSize = 11;
+
+// How large a text of `size` points is with a category. What is designed to be smaller than the least size stays as it is.
+constexpr double scaledSize(double size, ContentSizeCategory category) {
+    return std::max(size * scaleFactor(category), std::min(size, leastTextSize));
 }
 
 } // namespace proupsells::graphics

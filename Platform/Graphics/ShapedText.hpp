@@ -51,6 +51,8 @@ public:
     std::vector<StyledRun> runs;
     std::vector<RunMetrics> metrics; // one for each run
     std::vector<Cluster> clusters;   // in logical order
+    // Lines are filled one after the other, whatever else is asked for, so that they can be worked out by hand.
+    bool keepsGreedyLines = false;
 };
 
 // All runs' texts, one after the other.

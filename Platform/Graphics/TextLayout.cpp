@@ -222,9 +222,7 @@ void LineMaker::reorderFragments(std::uint32_t first, std::uint32_t end) {
     }
 }
 
-} // namespace
-
-void layOutText(const ShapedText& text, const TextLayoutRequest& request, TextLayout& result) {
+void makeLines(const ShapedText& text, const TextLayoutRequest& request, TextLayout& result) {
     result.lines.clear();
     result.fragments.clear();
     result.size = {};
@@ -232,6 +230,50 @@ void layOutText(const ShapedText& text, const TextLayoutRequest& request, TextLa
     result.lineSpacing = request.lineSpacing;
     result.direction = request.direction;
     LineMaker(text, request, result).makeLines();
+}
+
+bool endsInShortLine(const ShapedText& text, const TextLayout& layout) {
+    if (layout.lines.size() < 2) return false;
+    const TextLine& last = layout.lines.back();
+    if (last.firstCluster == last.endCluster || last.width >= layout.size.width / 3) return false;
+    const auto begin = text.clusters.begin() + last.firstCluster, end = text.clusters.begin() + last.endCluster - 1;
+    return std::all_of(begin, end, [](const Cluster& cluster) { return cluster.breakAfter == LineBreak::none; });
+}
+
+// Fills the lines in less and less room, so that words come down from the widest one.
+void lengthenLastLine(const ShapedText& text, const TextLayoutRequest& request, TextLayout& result) {
+    const std::size_t lineCount = result.lines.size();
+    const double leastWidth = unbreakableWidth(text);
+    TextLayoutRequest narrower = request;
+    while (endsInShortLine(text, result)) {
+        narrower.width = result.size.width - 2 * tolerance;
+        const bool canBeNarrower = *narrower.width > leastWidth;
+        if (canBeNarrower) makeLines(text, narrower, result);
+        if (canBeNarrower && result.lines.size() == lineCount && !result.isTruncated) continue;
+        return makeLines(text, request, result);
+    }
+}
+
+} // namespace
+
+void layOutText(const ShapedText& text, const TextLayoutRequest& request, TextLayout& result) {
+    makeLines(text, request, result);
+    if (request.avoidsShortLastLine && !text.keepsGreedyLines && !result.isTruncated) lengthenLastLine(text, request, result);
+}
+
+double unbreakableWidth(const ShapedText& text) {
+    double widest = 0, width = 0, blanks = 0;
+    for (const Cluster& cluster : text.clusters) {
+        if (cluster.isWhitespace) {
+            blanks += cluster.advance;
+        } else {
+            width += blanks + cluster.advance;
+            widest = std::max(widest, width);
+            blanks = 0;
+        }
+        if (cluster.breakAfter != LineBreak::none) width = blanks = 0;
+    }
+    return widest;
 }
 
 } // namespace proupsells::graphics

@@ -43,9 +43,10 @@ struct TextLine {
 
 // How a text is to be wrapped. Lengths are in points.
 struct TextLayoutRequest {
-    std::optional<double> width;  // absent: never wrapped
-    std::optional<double> height; // absent: no limit; otherwise lines that do not fit are cut, the first one never
-    std::optional<int> lineLimit; // absent: no limit
+    std::optional<double> width;      // absent: never wrapped
+    std::optional<double> height;     // absent: no limit; otherwise lines that do not fit are cut, the first one never
+    std::optional<int> lineLimit;     // absent: no limit
+    bool avoidsShortLastLine = false; // see layOutText
     double lineSpacing = 0;
     geometry::LayoutDirection direction = geometry::LayoutDirection::leftToRight; // the screen's, for the alignment
     double ellipsisWidth = 0; // of "…" in the text's font; used when something is cut
@@ -62,7 +63,12 @@ struct TextLayout {
 
 // Greedy wrapping at the allowed breaks; a word wider than the line is broken between clusters. An empty text has one line of
 // no width and its first run's height; one that ends in a line feed has an empty last line. The last line of a cut text is filled
-// with as much of the text as leaves room for the ellipsis. Keeps the vectors' memory of `result`.
+// with as much of the text as leaves room for the ellipsis. Where a short last line is to be avoided, the text does not end in a
+// line of one word that is less than a third of the widest line, if as many lines can be filled otherwise. Keeps the vectors'
+// memory of `result`.
 PROUPSELLS_EXPORT void layOutText(const ShapedText& text, const TextLayoutRequest& request, TextLayout& result);
+
+// The width below which a word, a number or whatever else may not be broken would be.
+PROUPSELLS_EXPORT double unbreakableWidth(const ShapedText& text);
 
 } // namespace proupsells::graphics

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Platform/Graphics/ContentSize.hpp"
 #include "Platform/Host/TextCache.hpp"
 
 namespace proupsells::host {
@@ -18,6 +19,12 @@ namespace {
 constexpr double tolerance = 0.005;
 // A text shrinks by this share of its size at a time, and at last to its minimum.
 constexpr double scaleStep = 0.05;
+
+// The share of its size down to which a text may be set at all. What is designed to be tiny may become smaller.
+double leastScale(const std::vector<graphics::StyledRun>& runs) {
+    const double size = runs.front().font.size;
+    return size > graphics::leastTextSize ? graphics::leastTextSize / size : 0;
+}
 
 std::optional<double> withTolerance(const std::optional<double>& length) {
     return length && std::isfinite(*length) ? std::optional(*length + tolerance) : std::nullopt;
@@ -66,6 +73,7 @@ const Size& FittedText::idealSize() {
         m_idealSize = m_measured.layout.size;
         m_idealLineCount = int(m_measured.layout.lines.size());
         m_idealIsCut = m_measured.layout.isTruncated;
+        m_unbreakableWidth = graphics::unbreakableWidth(*m_measured.shaped);
     }
     return *m_idealSize;
 }
@@ -91,17 +99,28 @@ ProposedSize FittedText::limitsIn(const ProposedSize& room) {
 const FittedText::Lines& FittedText::linesWithin(const ProposedSize& limits) {
     if (m_shown.room == limits) return m_shown;
     if (m_measured.room == limits) return m_measured;
-    measure(1, limits);
-    const double minimum = limits == ProposedSize{} ? 1 : std::max(0.0, m_rules.minimumScale);
+    const double start = scaleForWords(limits.width), least = leastScale(m_runs);
+    measure(start, limits);
+    const double minimum = limits == ProposedSize{} ? start : std::min(start, std::max(least, m_rules.minimumScale));
     for (int step = 1; m_measured.layout.isTruncated && m_measured.scale > minimum; ++step)
-        measure(std::max(1 - step * scaleStep, minimum), limits);
+        measure(std::max(start - step * scaleStep, minimum), limits);
     m_measured.room = limits;
     return m_measured;
 }
 
+double FittedText::scaleForWords(const std::optional<double>& width) {
+    if (!width || m_unbreakableWidth <= *width + tolerance || m_rules.lineLimit == 1) return 1;
+    const double steps = (*width + tolerance) / m_unbreakableWidth / scaleStep;
+    const double scale = std::floor(steps) * scaleStep;
+    return scale + tolerance >= std::max(m_rules.wordScale, leastScale(m_runs)) ? scale : 1;
+}
+
 const std::shared_ptr<const graphics::ShapedText>& FittedText::shapedAt(double scale) {
     m_scaledRuns = m_runs;
-    for (graphics::StyledRun& run : m_scaledRuns) run.font.size *= scale;
+    for (graphics::StyledRun& run : m_scaledRuns) {
+        run.font.size *= scale;
+        run.kern *= scale;
+    }
     return TextCache::shared().shaped(m_scaledRuns, m_rules.language, m_rules.direction);
 }
 
@@ -115,6 +134,7 @@ void FittedText::measure(double scale, const ProposedSize& limits) {
     graphics::TextLayoutRequest request{.width = withTolerance(limits.width),
                                         .height = withTolerance(limits.height),
                                         .lineLimit = m_rules.lineLimit,
+                                        .avoidsShortLastLine = m_rules.avoidsShortLastLine,
                                         .lineSpacing = m_rules.lineSpacing,
                                         .direction = m_rules.direction};
     if (request.height || request.lineLimit) {

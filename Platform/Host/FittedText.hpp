@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "Platform/Accessibility/SemanticNode.hpp"
+#include "Platform/Graphics/ContentSize.hpp"
 #include "Platform/Graphics/TextLayout.hpp"
 #include "Platform/Graphics/TextPainting.hpp"
 
@@ -20,10 +21,17 @@ struct TextRules {
     geometry::LayoutDirection direction = geometry::LayoutDirection::leftToRight; // the screen's
     std::optional<int> lineLimit;                                                 // absent: as many lines as are needed
     double lineSpacing = 0;                                                       // points between two lines
+    bool avoidsShortLastLine = false;                                             // see graphics::layOutText
     double minimumScale = 1; // the smallest share of its size to which a text that would be cut is set instead
+    // The smallest share of its size to which a text is set instead of being broken inside a word. Where that does not suffice,
+    // it is broken at its full size.
+    double wordScale = 1;
 
     bool operator==(const TextRules&) const = default;
 };
+
+// A text shrinks to 0.8 of its normal size before it is broken inside a word, whatever a person's text size makes of it.
+constexpr double wordScale(graphics::ContentSizeCategory category) { return 0.8 / std::max(1.0, graphics::scaleFactor(category)); }
 
 // Keeps the lines of the room it is shown in and of the room it was measured in last, so asking for either again costs nothing.
 // `words` are those of a rich text, with one run for each run set; a plain text has none. The inherited colour is that of a plain
@@ -58,6 +66,8 @@ private:
     };
 
     void forgetLines();
+    // The share of its size at which no word is broken in a width.
+    double scaleForWords(const std::optional<double>& width);
     // The room, or no limits at all where the text needs no wrapping and no cutting in it.
     geometry::ProposedSize limitsIn(const geometry::ProposedSize& room);
     const Lines& linesWithin(const geometry::ProposedSize& limits);
@@ -69,7 +79,8 @@ private:
     std::vector<graphics::StyledRun> m_runs;
     std::optional<geometry::Size> m_idealSize;
     int m_idealLineCount = 0;
-    bool m_idealIsCut = false; // by the line limit alone
+    bool m_idealIsCut = false;     // by the line limit alone
+    double m_unbreakableWidth = 0; // of the text at its full size; known with the ideal size
 
     // A stack measures its views in rooms that they do not get, so what is shown is kept apart from what was measured last.
     Lines m_measured;

@@ -4,6 +4,7 @@
 #include "Platform/Hosting/RepresentableStage.hpp"
 #include "Platform/Hosting/Traits.hpp"
 #include "Platform/Hosting/UIHostingView.hpp"
+#include "Platform/UIKit/Controls/UIControl.hpp"
 
 namespace proupsells::hosting {
 
@@ -64,6 +65,8 @@ void RepresentableNode::send(host::TouchPhase phase, const swiftui::TouchEvent& 
     const geometry::Point location = hostingView ? hostingView->convertTo(event.location, nullptr) : event.location;
     m_touches->touch({phase, location, event.time_s});
 }
+
+bool RepresentableNode::isControl() const { return dynamic_cast<const uikit::UIControl*>(m_view.get()); }
 
 bool RepresentableNode::touchBegan(const swiftui::TouchEvent& event) {
     followPlace();

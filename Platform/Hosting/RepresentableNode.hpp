@@ -27,6 +27,7 @@ protected:
     swiftui::GestureHandler* gestureHandler() override { return this; }
 
 private:
+    bool isControl() const override;
     bool touchBegan(const swiftui::TouchEvent& event) override;
     void touchMoved(const swiftui::TouchEvent& event) override;
     void touchEnded(const swiftui::TouchEvent& event) override;

@@ -2,36 +2,34 @@
 
 #include <algorithm>
 
+#include "Platform/LumoKit/LargestTextSize.hpp"
+
 namespace proupsells::lumokit {
 
 using swiftui::TextCase;
-
-using graphics::ContentSizeCategory;
 
 constexpr TextStyle headingH2{.name = "headingH2",
                               .family = "Sora",
                               .weight = 700,
                               .compactSize = 24,
                               .regularSize = 24,
-                              .largestTextSize = ContentSizeCategory::extraLarge};
-constexpr TextStyle bodyLarge{.name = "bodyLarge",
-                              .weight = 500,
-                              .compactSize = 17,
-                              .regularSize = 17,
-                              .largestTextSize = ContentSizeCategory::accessibilityExtraLarge};
-constexpr TextStyle labelSmall{.name = "labelSmall", .weight = 400, .compactSize = 12, .regularSize = 12};
+                              .largestTextSize = LargestSize::title};
+constexpr TextStyle bodyLarge{
+    .name = "bodyLarge", .weight = 500, .compactSize = 17, .regularSize = 17, .largestTextSize = LargestSize::mainText};
+constexpr TextStyle labelSmall{
+    .name = "labelSmall", .weight = 400, .compactSize = 12, .regularSize = 12, .largestTextSize = LargestSize::rowText};
 constexpr TextStyle labelCapsSmall{.name = "labelCapsSmall",
                                    .weight = 600,
                                    .compactSize = 11,
                                    .regularSize = 11,
                                    .textCase = TextCase::uppercase,
-                                   .largestTextSize = ContentSizeCategory::extraExtraLarge};
+                                   .largestTextSize = LargestSize::capsule};
 constexpr TextStyle labelCapsLarge{.name = "labelCapsLarge",
                                    .weight = 600,
                                    .compactSize = 13,
                                    .regularSize = 13,
                                    .textCase = TextCase::uppercase,
-                                   .largestTextSize = ContentSizeCategory::extraExtraExtraLarge};
+                                   .largestTextSize = LargestSize::section};
 
 TextStyle TextStyle::based(PlatformTextStyle base, double compactSize, double regularSize, double minimumScaleFactor) {
     const bool isHeadline = base == PlatformTextStyle::headline;

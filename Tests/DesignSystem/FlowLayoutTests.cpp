@@ -92,22 +92,44 @@ TEST(FlowLayout, SharesWhatIsLeftOverAmongItsSpacers) {
     EXPECT_EQ(flow.frameOf("c").maxX(), 343);
 }
 
-// Sixteen, fourteen and seventeen letters of 7 points each leave 14 points of 343.
-TEST(FlowLayout, MakesSpacersAsNarrowAsTheyMustBe) {
-    Flow flow{[] { return ViewList{box(112, 20, "a"), Spacer{}, box(98, 20, "b"), Spacer{}, box(119, 20, "c")}; }};
+// Sixteen, fourteen and seventeen letters of 7 points each leave 16 points of 345.
+TEST(FlowLayout, MakesSpacersAsNarrowAsTheyMayBe) {
+    Flow flow{[] { return ViewList{box(112, 20, "a"), Spacer{}, box(98, 20, "b"), Spacer{}, box(119, 20, "c")}; }, {345, 400}};
 
-    EXPECT_EQ(flow.frameOf("b").minX(), 119);
-    EXPECT_EQ(flow.frameOf("c").minX(), 224);
+    EXPECT_EQ(flow.frameOf("b").minX(), 120);
+    EXPECT_EQ(flow.frameOf("c").minX(), 226);
     ASSERT_EQ(flow.spacers().size(), 2u);
     EXPECT_EQ(flow.spacers()[0].minX(), 112);
-    EXPECT_EQ(flow.spacers()[0].width(), 7);
-    EXPECT_EQ(flow.spacers()[1].width(), 7);
+    EXPECT_EQ(flow.spacers()[0].width(), 8);
+    EXPECT_EQ(flow.spacers()[1].width(), 8);
 }
 
-TEST(FlowLayout, CountsSpacersAsNothingWhenItWraps) {
-    Flow flow{[] { return ViewList{box(200, 20, "a"), Spacer{.minLength = 50}, box(143, 20, "b")}; }};
+TEST(FlowLayout, WrapsBeforeASpacerIsSqueezed) {
+    Flow flow{[] { return ViewList{box(112, 20, "a"), Spacer{}, box(98, 20, "b"), Spacer{}, box(119, 20, "c")}; }, {344.9, 400}};
 
-    EXPECT_EQ(flow.frameOf("b").origin, (geometry::Point{200, 0}));
+    EXPECT_EQ(flow.frameOf("b").maxX(), 344.9);
+    EXPECT_EQ(flow.frameOf("c").minX(), 0);
+}
+
+TEST(FlowLayout, GivesASpacerItsLeastLengthBeforeItSharesTheRest) {
+    Flow flow{[] { return ViewList{box(100, 20, "a"), Spacer{.minLength = 50}, box(100, 20, "b"), Spacer{}, box(65, 20, "c")}; }};
+
+    EXPECT_EQ(flow.frameOf("b").minX(), 160);
+    EXPECT_EQ(flow.frameOf("c").minX(), 278);
+}
+
+TEST(FlowLayout, SetsLinesThatASpacerPartsAFingerApart) {
+    Flow flow{[] { return ViewList{box(200, 20, "a"), Spacer{}, box(200, 30, "b"), box(200, 20, "c")}; }};
+
+    EXPECT_EQ(flow.frameOf("b").midY() - flow.frameOf("a").midY(), 44);
+    EXPECT_EQ(flow.frameOf("c").minY(), flow.frameOf("b").maxY());
+    EXPECT_EQ(flow.frameOf("flow").height(), flow.frameOf("c").maxY());
+}
+
+TEST(FlowLayout, KeepsASpacersLeastLengthBetweenHighLines) {
+    Flow flow{[] { return ViewList{box(200, 60, "a"), Spacer{}, box(200, 50, "b")}; }};
+
+    EXPECT_EQ(flow.frameOf("b").minY(), 68);
 }
 
 TEST(FlowLayout, DropsSpacersAtTheEndsOfALine) {
@@ -117,27 +139,27 @@ TEST(FlowLayout, DropsSpacersAtTheEndsOfALine) {
 
     EXPECT_EQ(flow.frameOf("a").minX(), 0);
     EXPECT_EQ(flow.frameOf("b").maxX(), 200);
-    EXPECT_EQ(flow.frameOf("c"), (Rect{{0, 20}, {100, 20}}));
-    EXPECT_EQ(flow.frameOf("flow").height(), 40);
+    EXPECT_EQ(flow.frameOf("c"), (Rect{{0, 44}, {100, 20}}));
+    EXPECT_EQ(flow.frameOf("flow").height(), 64);
 }
 
 TEST(FlowLayout, PutsEachOfTheLegalLinksOnItsOwnLineWhereItIsNarrow) {
     Flow flow{[] { return ViewList{box(112, 20, "a"), Spacer{}, box(98, 20, "b"), Spacer{}, box(119, 20, "c")}; }, {150, 400}};
 
     EXPECT_EQ(flow.frameOf("a").origin, (geometry::Point{0, 0}));
-    EXPECT_EQ(flow.frameOf("b").origin, (geometry::Point{0, 20}));
-    EXPECT_EQ(flow.frameOf("c").origin, (geometry::Point{0, 40}));
+    EXPECT_EQ(flow.frameOf("b").origin, (geometry::Point{0, 44}));
+    EXPECT_EQ(flow.frameOf("c").origin, (geometry::Point{0, 88}));
 }
 
 TEST(FlowLayout, KeepsItsSpacingBetweenViewsAndBetweenLines) {
     Flow flow{[] {
                   return ViewList{box(100, 20, "a"), box(100, 20, "b"), Spacer{}, box(100, 20, "c"), box(50, 20, "d")};
               },
-              {320, 400},
+              {330, 400},
               10};
 
     EXPECT_EQ(flow.frameOf("b").minX(), 110);
-    EXPECT_EQ(flow.frameOf("c").minX(), 220);
+    EXPECT_EQ(flow.frameOf("c").minX(), 230);
     EXPECT_EQ(flow.frameOf("d"), (Rect{{0, 30}, {50, 20}}));
 }
 
@@ -168,8 +190,8 @@ TEST(FlowLayout, IsAsWideAsItsLongestLineWhereItIsOfferedNoWidth) {
                                            accessibilityIdentifier("inner") | fixedSize()}}};
     }};
 
-    EXPECT_EQ(flow.frameOf("inner").size, (Size{180, 20}));
-    EXPECT_EQ(flow.frameOf("b").minX(), 100);
+    EXPECT_EQ(flow.frameOf("inner").size, (Size{188, 20}));
+    EXPECT_EQ(flow.frameOf("b").minX(), 108);
 }
 
 TEST(FlowLayout, LooksThroughGroupsAndLeavesOutWhatIsAbsent) {

@@ -63,6 +63,40 @@ TEST(TextLayout, IsNeverWrappedWithoutAWidth) {
     EXPECT_EQ(linesOf(std::string(1000, 'x') + " y", {}), (Lines{std::string(1000, 'x') + " y"}));
 }
 
+// Texts whose lines may be filled otherwise than greedily.
+Lines linesWithoutShortLast(const std::string& text, double characters, std::optional<double> height = {}) {
+    ShapedText words = *shaped(text);
+    words.keepsGreedyLines = false;
+    return linesOf(words, laidOut(words, {.width = characters * 5, .height = height, .avoidsShortLastLine = true}));
+}
+
+TEST(TextLayout, TakesAWordDownToAShortLastLine) {
+    EXPECT_EQ(linesWithoutShortLast("endless templates every day", 23), (Lines{"endless templates", "every day"}));
+    EXPECT_EQ(linesWithoutShortLast("one two three four five six seven to", 16),
+              (Lines{"one two three", "four five six", "seven to"}));
+}
+
+TEST(TextLayout, KeepsAShortLastLineWhereAnotherLineWouldBeNeeded) {
+    EXPECT_EQ(linesWithoutShortLast("abcdefghijkl mnopqrstuvwx yz", 12), (Lines{"abcdefghijkl", "mnopqrstuvwx", "yz"}));
+    EXPECT_EQ(linesWithoutShortLast("abcdefghijklmnop\nqr", 16), (Lines{"abcdefghijklmnop", "qr"}));
+}
+
+TEST(TextLayout, KeepsALastLineOfSeveralWordsOrOfALongOne) {
+    EXPECT_EQ(linesWithoutShortLast("endless templates a b", 17), (Lines{"endless templates", "a b"}));
+    EXPECT_EQ(linesWithoutShortLast("endless templates everyday", 17), (Lines{"endless templates", "everyday"}));
+}
+
+TEST(TextLayout, FillsLinesGreedilyWhereTheyAreToBeWorkedOut) {
+    EXPECT_EQ(linesOf("endless templates every day", {.width = 23 * 5, .avoidsShortLastLine = true}),
+              (Lines{"endless templates every", "day"}));
+}
+
+TEST(TextLayout, KnowsTheWidthOfWhatMayNotBeBroken) {
+    EXPECT_EQ(unbreakableWidth(*shaped("a $119.99 well-known bb")), 35);
+    EXPECT_EQ(unbreakableWidth(*shaped("1\u00A0199,99 a")), 40);
+    EXPECT_EQ(unbreakableWidth(*shaped("")), 0);
+}
+
 TEST(TextLayout, ForgivesARoundingErrorInTheWidth) {
     EXPECT_EQ(linesOf("one two", {.width = 35 - 1e-7}), (Lines{"one two"}));
     EXPECT_EQ(linesOf("one two", {.width = 35 - 1e-5}), (Lines{"one", "two"}));

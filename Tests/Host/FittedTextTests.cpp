@@ -106,6 +106,33 @@ TEST_F(FittedTextTest, CutsAShrunkTextWithAnEllipsisAsSmall) {
     EXPECT_EQ(painted().commands.back().frame.minX(), 17.5);
 }
 
+TEST_F(FittedTextTest, ShrinksAsLittleAsItMustBeforeItBreaksAWord) {
+    setText("aaaa $119.99 bb");
+    setRules({.wordScale = 0.8});
+
+    EXPECT_EQ(shownIn({35, std::nullopt}).size, 10);
+    EXPECT_NEAR(shownIn({33, std::nullopt}).size, 9, 1e-9);
+    EXPECT_NEAR(shownIn({28, std::nullopt}).size, 8, 1e-9);
+    EXPECT_EQ(shownIn({28, std::nullopt}).lineCount, 3);
+}
+
+TEST_F(FittedTextTest, BreaksAWordAtItsFullSizeWhereShrinkingDoesNotHelp) {
+    setText("aaaa $119.99 bb");
+    setRules({.wordScale = 0.8});
+
+    EXPECT_EQ(shownIn({27.9, std::nullopt}).size, 10);
+    EXPECT_EQ(shownIn({27.9, std::nullopt}).lineCount, 3); // "aaaa", "$119." and "99 bb"
+}
+
+TEST_F(FittedTextTest, NeverBecomesSmallerThanElevenPoints) {
+    text.setRuns({{"aaaaaaaaaa", {.size = 20}, 0}});
+    setRules({.lineLimit = 1, .minimumScale = 0.2});
+
+    EXPECT_NEAR(shownIn({55, 20}).size, 11, 1e-9);
+    EXPECT_NEAR(shownIn({40, 20}).size, 11, 1e-9);
+    EXPECT_TRUE(shownIn({40, 20}).isTruncated);
+}
+
 TEST_F(FittedTextTest, NeverShrinksWhereRoomIsNotWhatItLacks) {
     setText("a\nb");
     setRules({.lineLimit = 1, .minimumScale = 0.5});

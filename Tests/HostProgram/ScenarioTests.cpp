@@ -98,6 +98,30 @@ TEST(Scenario, APickedPlanIsTheOneThatIsBought) {
     EXPECT_EQ(outcome.events("delegate")[0]["option"]["SKU"], "pro.monthly");
 }
 
+TEST(Scenario, KeysAloneBuyAPlan) {
+    const Outcome outcome = play(scenario(R"([{"key": "tab"}, {"key": "tab"}, {"key": "tab"}, {"key": "tab"}, {"key": "down"},
+        {"expect": {"identifier": "plan.pro.monthly", "traits": ["button", "selected"]}}, {"key": "tab"}, {"key": "return"}])"));
+
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_EQ(outcome.events("delegate")[0]["option"]["SKU"], "pro.monthly");
+}
+
+TEST(Scenario, EscapeLeavesThePaywall) {
+    const Outcome outcome = play(scenario(R"([{"key": "escape"}])"));
+
+    EXPECT_EQ(story(outcome).back(), "tracker trackUpsellDismissed");
+}
+
+TEST(Scenario, IdentifiersAreTheSameInEveryLanguage) {
+    const Folder folder;
+    folder.write("de.lproj/Localizable.strings", "\"Creation Tools\" = \"Kreativwerkzeuge\";");
+    Json german = scenario(R"([{"tap": "Compare Plans: Free vs Pro"},
+        {"expect": {"identifier": "comparison.category.Creation Tools", "label": "Kreativwerkzeuge"}}])");
+    german["device"] = {{"locale", "de_AT"}, {"strings", folder.path().string()}};
+
+    EXPECT_EQ(play(german).status, 0);
+}
+
 TEST(Scenario, EveryLinkTellsTheDelegateThenTheTracker) {
     const Outcome outcome =
         play(scenario(R"([{"tap": "Terms of Service"}, {"tap": "Privacy Policy"}, {"tap": "Restore Purchases"}])"));

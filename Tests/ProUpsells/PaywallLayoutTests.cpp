@@ -76,14 +76,15 @@ struct ExpectedPaywall {
     double placeLinks(double y) {
         const double termsWidth = 16 * 7, privacyWidth = 14 * 7, restoreWidth = 17 * 7, lineHeight = 17.5;
         const double available = width - 2 * inset, left = available - termsWidth - privacyWidth - restoreWidth;
+        constexpr double leastGap = 8, touchTarget = 44;
         terms = {{inset, y}, {termsWidth, lineHeight}};
-        if (left >= 0) {
+        if (left >= 2 * leastGap) {
             privacy = {{terms.maxX() + left / 2, y}, {privacyWidth, lineHeight}};
             restore = {{privacy.maxX() + left / 2, y}, {restoreWidth, lineHeight}};
         } else {
             // The last link wraps; the spacer before it vanishes at the line's end.
             privacy = {{width - inset - privacyWidth, y}, {privacyWidth, lineHeight}};
-            restore = {{inset, y + lineHeight}, {restoreWidth, lineHeight}};
+            restore = {{inset, y + touchTarget}, {restoreWidth, lineHeight}};
         }
         return restore.maxY();
     }
@@ -141,6 +142,19 @@ TEST_P(PaywallLayout, KeepsThePageControlAtItsCorner) {
 INSTANTIATE_TEST_SUITE_P(Screens, PaywallLayout,
                          ::testing::Combine(::testing::Values(320, 360, 361, 375, 414, 428, 599, 600, 744),
                                             ::testing::Values(568, 667, 699.9, 700, 800, 932, 1133)));
+
+TEST(PaywallLayout, KeepsItsLinksApart) {
+    Paywall paywall(yearlyTrialAndMonthly(), {320, 800});
+    for (double width = 320; width < 430; width += 1) {
+        paywall.setSize({width, 800});
+        const Rect links[] = {paywall.frame("termsOfService"), paywall.frame("privacyPolicy"), paywall.frame("restorePurchases")};
+        for (int index = 1; index < 3; ++index) {
+            const Rect &before = links[index - 1], &link = links[index];
+            const bool isBeside = link.minX() - before.maxX() >= 8 - 1e-6, isBelow = link.midY() - before.midY() >= 44 - 1e-6;
+            EXPECT_TRUE(isBeside || isBelow) << index << " at " << width;
+        }
+    }
+}
 
 TEST(PaywallLayout, IsPulledUpFromAHeightOf700On) {
     EXPECT_EQ(Paywall(yearlyTrialAndMonthly(), {375, 699.9}).frame("carousel").minY(), 0);

@@ -48,7 +48,7 @@ protected:
 };
 
 TEST_F(Reading, OfThePaywall) {
-    entry->updateOptions({yearly("$99.99", {.introductoryPeriodLength = "1 week"}), monthly()});
+    entry->setOptions({yearly("$99.99", {.introductoryPeriodLength = "1 week"}), monthly()});
     entry->setAnnualSubscriptionPriceForComparisonWithPromotionalPrice("$119.99");
     bed.settle();
 

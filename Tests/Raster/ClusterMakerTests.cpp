@@ -30,8 +30,19 @@ std::vector<std::string> pieces(const std::string& text, std::string_view langua
 TEST(ClusterMaker, BreaksThaiBetweenWords) { EXPECT_THAT(pieces("ภาษาไทยง่าย", "th"), ElementsAre("ภาษา", "ไทย", "ง่าย")); }
 
 TEST(ClusterMaker, BeginsNoLineOfJapaneseWithASmallLetter) {
-    EXPECT_THAT(pieces("ション", "ja"), ElementsAre("ショ", "ン"));
+    EXPECT_THAT(pieces("ション", "ja-u-lw-normal"), ElementsAre("ショ", "ン"));
     EXPECT_THAT(pieces("ラー", "ja"), ElementsAre("ラー"));
+}
+
+TEST(ClusterMaker, BreaksJapaneseBetweenPhrases) {
+    EXPECT_THAT(pieces("毎日増える、プレミアムテンプレート。", "ja"), ElementsAre("毎日", "増える、", "プレミアムテンプレート。"));
+}
+
+TEST(ClusterMaker, BreaksKoreanBetweenWords) { EXPECT_THAT(pieces("매일 새롭게.", "ko"), ElementsAre("매일 ", "새롭게.")); }
+
+TEST(ClusterMaker, KeepsAPriceAndItsPeriodTogether) {
+    EXPECT_THAT(pieces("($8.33/month)", "en"), ElementsAre("($8.33/month)"));
+    EXPECT_THAT(pieces("$8.33／月", "zh"), ElementsAre("$8.33／月"));
 }
 
 TEST(ClusterMaker, BreaksByTheRulesThatTheLanguageAsksFor) {

@@ -81,6 +81,26 @@ TEST(SystemFonts, ColourAnEmojiOfTheSystems) {
     EXPECT_FALSE(tests::firstShape(tests::shapedBy(shaper, "\U0001F600")).picture.isNull());
 }
 
+// The README's packages bring these families, and other packages bring others that have the same letters.
+TEST(SystemFonts, ShowOtherScriptsInFacesOfOneFamily) {
+    SystemFonts fonts{{}};
+
+    EXPECT_THAT(fonts.faceFor(U"\u0633", "ar", 400),
+                testing::Optional(Field(&rasterbackend::FaceFile::family, "Noto Sans Arabic")));
+    EXPECT_THAT(fonts.faceFor(U"\u05D0", "he", 700),
+                testing::Optional(Field(&rasterbackend::FaceFile::family, "Noto Sans Hebrew")));
+}
+
+TEST(SystemFonts, ShowIdeographsAsTheLanguageWritesThem) {
+    SystemFonts fonts{{}};
+    if (fonts.facesOf("Noto Sans CJK JP").empty()) GTEST_SKIP() << "fonts-noto-cjk is not installed";
+
+    const std::pair<const char*, const char*> families[] = {
+        {"ja", "Noto Sans CJK JP"}, {"ko", "Noto Sans CJK KR"}, {"zh-cn", "Noto Sans CJK SC"}, {"zh-tw", "Noto Sans CJK TC"}};
+    for (const auto& [language, family] : families)
+        EXPECT_THAT(fonts.faceFor(U"\u76F4", language, 400), testing::Optional(Field(&rasterbackend::FaceFile::family, family)));
+}
+
 TEST(FallbackLanguage, IsTheTextsOwnWhereThatIsWrittenInTheScript) {
     EXPECT_EQ(fallbackLanguage("ja", "Hani"), "ja");
     EXPECT_EQ(fallbackLanguage("ja-JP", "Kana"), "ja");

@@ -9,6 +9,7 @@
 #include "Backends/Raster/RasterShapedText.hpp"
 #include "Backends/Raster/RasterTextShaper.hpp"
 #include "Platform/Graphics/TextLayout.hpp"
+#include "Platform/Host/TextCache.hpp"
 #include "Tests/Support/LogRecorder.hpp"
 
 using namespace proupsells;
@@ -397,6 +398,16 @@ TEST(RasterTextShaper, LeavesLigaturesOutWhereLettersAreSpaced) {
 
     EXPECT_THAT(groups(0), ElementsAre(0, 0, 0));
     EXPECT_THAT(groups(0.5), ElementsAre(0, 1, 2));
+}
+
+TEST(RasterTextShaper, NeverPullsLettersApartThatAreJoined) {
+    const auto width = [](const char* word, double kern) {
+        return host::totalAdvance(*shapeRuns({{word, {.size = 16}, kern}}, LayoutDirection::rightToLeft));
+    };
+
+    EXPECT_EQ(width("سنوي", 2), width("سنوي", 0));
+    EXPECT_EQ(width("वार्षिक", 2), width("वार्षिक", 0));
+    EXPECT_NEAR(width("שנה", 2), width("שנה", 0) + 6, 1e-2);
 }
 
 TEST(RasterTextShaper, PutsTheKernOnTheFarSideOfALetter) {

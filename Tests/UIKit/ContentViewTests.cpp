@@ -60,12 +60,35 @@ TEST_F(LabelTest, CutsWhatDoesNotFitWithAnEllipsis) {
 
 TEST_F(LabelTest, IsSetSmallerWhereItMayBeAndWouldBeCut) {
     label->setText("one two three");
-    label->setFrame({{0, 0}, {60, 20}});
+    label->setFrame({{0, 0}, {84, 20}});
 
     label->setMinimumScaleFactor(0.5);
 
     EXPECT_FALSE(node().text->isTruncated);
-    EXPECT_NEAR(node().text->size, 16 * 0.55, 1e-9); // 13 characters of 4.4 points
+    EXPECT_NEAR(node().text->size, 16 * 0.8, 1e-9); // 13 characters of 6.4 points
+}
+
+TEST_F(LabelTest, FollowsThePersonsTextSizeUpToItsLargest) {
+    UITraitCollection traits;
+    traits.preferredContentSizeCategory = graphics::ContentSizeCategory::accessibilityExtraExtraExtraLarge;
+    label->setText("one two");
+    label->setOverrideTraitCollection(traits);
+    EXPECT_EQ(label->intrinsicContentSize(), (Size{56, 20}));
+
+    label->setLargestTextSize(graphics::ContentSizeCategory::accessibilityLarge);
+    const double factor = 33.0 / 17;
+    EXPECT_NEAR(label->intrinsicContentSize().width, 56 * factor, 1e-9);
+
+    label->setOverrideTraitCollection(std::nullopt);
+    EXPECT_EQ(label->intrinsicContentSize(), (Size{56, 20}));
+}
+
+TEST_F(LabelTest, IsSetSmallerBeforeAWordIsBroken) {
+    label->setNumberOfLines(0);
+    label->setText("one twothree");
+
+    EXPECT_EQ(label->sizeThatFits({64, std::nullopt}), (Size{64, 40}));
+    EXPECT_NEAR(label->sizeThatFits({58, std::nullopt}).width, 8 * 7.2, 1e-9);
 }
 
 TEST_F(LabelTest, KeepsItsSizeWhereItFits) {

@@ -70,10 +70,10 @@ def close_store_page(dark):
 
 
 def terms_gradient():
-    """Clear above, paper below, eased so that no edge shows."""
-    c = Canvas(375, 80)
-    eased = ((0, 0), (0.15, 0.05), (0.3, 0.19), (0.45, 0.42), (0.6, 0.68), (0.75, 0.88), (0.9, 0.98), (1, 1))
-    c.fill(Path.rect(0, 0, 375, 80), linear((0, 0), (0, 80), *[(offset, "#FFFFFF", share) for offset, share in eased]))
+    """Clear above, paper in the last eight points, eased so that no edge shows. Low, so that it washes out no more than one line."""
+    c = Canvas(375, 32)
+    eased = ((0, 0), (0.11, 0.05), (0.22, 0.19), (0.34, 0.42), (0.45, 0.68), (0.56, 0.88), (0.67, 0.98), (0.75, 1), (1, 1))
+    c.fill(Path.rect(0, 0, 375, 32), linear((0, 0), (0, 32), *[(offset, "#FFFFFF", share) for offset, share in eased]))
     return c
 
 

@@ -20,6 +20,7 @@ public:
         return m_nodes[index]->sizeThatFits(proposal);
     }
     bool isSpacer(std::size_t index) const { return m_nodes[index]->isSpacer(); }
+    double leastWidth(std::size_t index) const { return m_nodes[index]->lengthRange(Axis::horizontal, std::nullopt).minimum; }
 
 private:
     const std::vector<Node*>& m_nodes;

@@ -20,6 +20,7 @@ public:
     void adopt(TapGestureModifier&& modifier, UpdatePass&) { m_target.adopt(*this, std::move(modifier.action)); }
 
     GestureHandler* gestureHandler() override { return environment().isEnabled ? this : nullptr; }
+    bool isControl() const override { return true; }
     bool touchBegan(const TouchEvent&) override {
         m_isTap = true;
         return true;

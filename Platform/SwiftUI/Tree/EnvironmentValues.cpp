@@ -9,7 +9,7 @@ const std::shared_ptr<combine::ObservableObject>* EnvironmentObjects::find(TypeK
 }
 
 graphics::Font EnvironmentValues::scaled(graphics::Font scaledFont) const {
-    if (scaledFont.scalesWithContentSize) scaledFont.size *= graphics::scaleFactor(contentSize);
+    if (scaledFont.scalesWithContentSize) scaledFont.size = graphics::scaledSize(scaledFont.size, contentSize);
     return scaledFont;
 }
 

@@ -53,7 +53,8 @@ struct InheritedValues {
     TextCase textCase = TextCase::asWritten;
     std::optional<int> lineLimit; // absent: as many lines as it takes
     double lineSpacing = 0;
-    double minimumScaleFactor = 1; // a text that would be cut is shown smaller instead, down to this share of its size
+    bool avoidsShortLastLine = false; // see host::TextRules
+    double minimumScaleFactor = 1;    // a text that would be cut is shown smaller instead, down to this share of its size
 
     std::shared_ptr<const ButtonStyle> buttonStyle; // null: the automatic one
     std::shared_ptr<const EnvironmentObjects> objects;

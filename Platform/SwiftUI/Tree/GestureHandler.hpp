@@ -22,6 +22,9 @@ struct TouchEvent {
 // handler claims it, the one that had it is told touchCancelled. The claimer gets touchBegan for the place where the finger came
 // down, then touchMoved for the place where it is.
 //
+// A control's target is at least 44 points wide and high, however small it is drawn: a finger that comes down beside it and hits no
+// control touches it at its nearest edge, and every place of that touch is told as far moved.
+//
 // A handler is not called after its node has left the tree. The host stays alive during a call, whatever the call does.
 class GestureHandler {
 public:
@@ -34,6 +37,8 @@ public:
     virtual void touchMoved(const TouchEvent&) {}
     virtual void touchEnded(const TouchEvent&) {}
     virtual void touchCancelled() {}
+    // Whether it is something to be tapped.
+    virtual bool isControl() const { return false; }
     // Whether to take the touch away from the handler that has it.
     virtual bool claims(const TouchEvent&) { return false; }
     // Whether the touch that this one has must not be claimed by others.

@@ -27,6 +27,7 @@ namespace proupsells::swiftui {
 class GestureHandler;
 class TransitionHandler;
 class ViewHost;
+struct ControlSearch;
 struct SemanticContext;
 
 // How short and how long a view can be along an axis.
@@ -109,6 +110,8 @@ public:
     // --- Touches
     // The front-most deepest node at a point of the window; null when nothing there takes touches.
     Node* hitTest(geometry::Point inWindow, const graphics::PaintState& parentState, double now_s);
+    // Offers every control here and inside whose target may reach the finger.
+    void findControl(ControlSearch& search, const graphics::PaintState& parentState, double now_s);
     virtual GestureHandler* gestureHandler() { return nullptr; }
 
     // --- Semantics

@@ -1,4 +1,5 @@
 // The picture, and what is where in it.
+#include "Platform/SwiftUI/Tree/ControlSearch.hpp"
 #include "Platform/SwiftUI/Tree/GestureHandler.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
@@ -76,6 +77,25 @@ Node* Node::hitTest(Point inWindow, const PaintState& parentState, double now_s)
     if (!Rect{{}, presentationFrame(now_s).size}.contains(local)) return nullptr;
     if (isHittable() || gestureHandler()) return this;
     return forwardsTouches() ? firstHandlerNode() : nullptr;
+}
+
+void Node::findControl(ControlSearch& search, const PaintState& parentState, double now_s) {
+    if (!allowsHitTesting()) return;
+    const Rect bounds = parentState.toWindow(m_paintBounds.offsetBy(m_frame.origin));
+    const bool isNear = bounds.insetBy(-ControlSearch::reach, -ControlSearch::reach).contains(search.finger);
+    if (!isNear && !isMovingAt(now_s)) return;
+    const PaintState state = stateInside(*this, parentState, now_s);
+    if (state.opacity < touchableOpacity || !state.clip.contains(search.finger)) return;
+    // What takes touches for a control inside is that control's target.
+    Node* const target = forwardsTouches() ? firstHandlerNode() : this;
+    const GestureHandler* handler = target ? target->gestureHandler() : nullptr;
+    if (handler && handler->isControl()) {
+        search.offer(*target, state.toWindow({{}, presentationFrame(now_s).size}).intersection(state.clip));
+        if (target != this) return;
+    }
+    const PaintState inner = stateOfContent(*this, state, now_s);
+    for (const auto& child : m_children)
+        if (child) child->findControl(search, inner, now_s);
 }
 
 std::pair<std::size_t, std::size_t> Node::childrenTouched(Point inWindow, const PaintState& inner, double now_s) const {

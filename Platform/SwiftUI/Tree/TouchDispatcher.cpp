@@ -1,5 +1,8 @@
 #include "Platform/SwiftUI/Tree/TouchDispatcher.hpp"
 
+#include <algorithm>
+
+#include "Platform/SwiftUI/Tree/ControlSearch.hpp"
 #include "Platform/SwiftUI/Tree/GestureHandler.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
@@ -36,7 +39,14 @@ bool TouchDispatcher::touch(const host::Touch& touch) {
 bool TouchDispatcher::begin(const host::Touch& touch) {
     if (m_active) return true;
     m_start = m_location = touch.location;
+    m_shift = {};
     collectHandlers(m_host.nodeAt(touch.location));
+    if (!hasControl()) {
+        if (const ControlSearch search = m_host.controlNear(touch.location); search.nearest) {
+            m_shift = search.shift;
+            collectHandlers(search.nearest);
+        }
+    }
     const TouchEvent event = eventAt(touch.location);
     if (GestureHandler* handler = interceptor(event)) {
         m_active = handler;
@@ -116,6 +126,13 @@ void TouchDispatcher::collectHandlers(Node* hit) {
     }
 }
 
-TouchEvent TouchDispatcher::eventAt(geometry::Point location) const { return {location, m_start, m_host.now_s()}; }
+bool TouchDispatcher::hasControl() const {
+    return std::any_of(m_candidates.begin(), m_candidates.end(),
+                       [](const Candidate& candidate) { return candidate.handler->isControl(); });
+}
+
+TouchEvent TouchDispatcher::eventAt(geometry::Point location) const {
+    return {location + m_shift, m_start + m_shift, m_host.now_s()};
+}
 
 } // namespace proupsells::swiftui

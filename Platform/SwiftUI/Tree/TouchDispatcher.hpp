@@ -36,6 +36,7 @@ private:
     };
 
     void collectHandlers(Node* hit);
+    bool hasControl() const;
     TouchEvent eventAt(geometry::Point location) const;
     GestureHandler* interceptor(const TouchEvent& event) const;
     bool begin(const host::Touch& touch);
@@ -49,6 +50,7 @@ private:
     GestureHandler* m_active = nullptr;
     geometry::Point m_start;
     geometry::Point m_location;
+    geometry::Point m_shift; // from the finger to the place that handlers are told
 };
 
 } // namespace proupsells::swiftui

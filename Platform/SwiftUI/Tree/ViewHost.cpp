@@ -1,6 +1,7 @@
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 
 #include "Platform/SwiftUI/Animation/Transaction.hpp"
+#include "Platform/SwiftUI/Tree/ControlSearch.hpp"
 #include "Platform/SwiftUI/Tree/RootNode.hpp"
 #include "Platform/SwiftUI/Tree/SemanticContext.hpp"
 
@@ -168,6 +169,12 @@ accessibility::SemanticNode ViewHost::semanticTree() {
 Node* ViewHost::nodeAt(Point location) {
     update();
     return m_rootNode->hitTest(location, {}, now_s());
+}
+
+ControlSearch ViewHost::controlNear(Point finger) {
+    ControlSearch search{.finger = finger};
+    m_rootNode->findControl(search, {}, now_s());
+    return search;
 }
 
 bool ViewHost::hits(Point location) { return nodeAt(location) != nullptr; }

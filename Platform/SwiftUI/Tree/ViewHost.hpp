@@ -22,6 +22,7 @@ namespace proupsells::swiftui {
 
 class PostLayoutObserver;
 class RootNode;
+struct ControlSearch;
 
 // All changes of a turn of the run loop become one update at its end. Nothing is built before the first size, sizeThatFits or
 // update.
@@ -100,6 +101,8 @@ public:
     TouchDispatcher& touches() { return m_touches; }
     // What a touch at the place would hit; null for nothing. Brings the tree up to date.
     Node* nodeAt(geometry::Point location);
+    // The control that a finger means which hits none there. Right after nodeAt.
+    ControlSearch controlNear(geometry::Point finger);
 
     // --- For nodes
     double now_s() const { return runloop::MainRunLoop::main().now_s(); }

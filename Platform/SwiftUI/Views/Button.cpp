@@ -42,6 +42,7 @@ public:
     }
     GestureHandler* gestureHandler() override { return this; }
 
+    bool isControl() const override { return true; }
     // A disabled button takes the touch too, so that nothing around it gets it.
     bool touchBegan(const TouchEvent&) override {
         setPressed(environment().isEnabled);

@@ -34,7 +34,9 @@ TextStyle styleOf(const Text& text, const EnvironmentValues& environment) {
                       .direction = environment.layoutDirection,
                       .lineLimit = environment.lineLimit,
                       .lineSpacing = paragraph ? paragraph->lineSpacing : environment.lineSpacing,
-                      .minimumScale = environment.minimumScaleFactor}};
+                      .avoidsShortLastLine = environment.avoidsShortLastLine,
+                      .minimumScale = environment.minimumScaleFactor,
+                      .wordScale = host::wordScale(environment.contentSize)}};
 }
 
 // The runs to shape, in the case shown.

@@ -69,12 +69,35 @@ void UILabel::setMinimumScaleFactor(double factor) {
     setNeedsDisplay();
 }
 
-void UILabel::contentDidChange() {
+void UILabel::setLargestTextSize(graphics::ContentSizeCategory largest) {
+    m_largestTextSize = largest;
+    contentDidChange();
+}
+
+void UILabel::setAvoidsShortLastLine(bool avoids) {
+    m_rules.avoidsShortLastLine = avoids;
+    contentDidChange();
+}
+
+graphics::ContentSizeCategory UILabel::textSize() const {
+    if (!m_largestTextSize) return graphics::ContentSizeCategory::large;
+    return std::min(traitCollection().preferredContentSizeCategory, *m_largestTextSize);
+}
+
+void UILabel::fitRuns() const {
+    m_fittedTextSize = textSize();
+    m_rules.wordScale = host::wordScale(m_fittedTextSize);
+    const double factor = graphics::scaleFactor(m_fittedTextSize);
     std::vector<graphics::StyledRun> runs;
     for (const graphics::AttributedRun& run : m_content.runs())
-        runs.push_back({run.text, run.attributes.font, run.attributes.kern});
+        runs.push_back({run.text, run.attributes.font, run.attributes.kern * factor});
     if (runs.empty()) runs.push_back({{}, m_attributes.font, 0});
+    for (graphics::StyledRun& run : runs) run.font.size = graphics::scaledSize(run.font.size, m_fittedTextSize);
     m_fitted.setRuns(std::move(runs));
+}
+
+void UILabel::contentDidChange() {
+    fitRuns();
     m_rules.lineSpacing = m_content.paragraphStyle ? m_content.paragraphStyle->lineSpacing : 0;
     invalidateIntrinsicContentSize();
     setNeedsDisplay();
@@ -82,12 +105,16 @@ void UILabel::contentDidChange() {
 
 void UILabel::traitCollectionDidChange(const UITraitCollection& previous) {
     UIView::traitCollectionDidChange(previous);
+    const bool hasOtherTextSize =
+        m_largestTextSize && previous.preferredContentSizeCategory != traitCollection().preferredContentSizeCategory;
+    if (hasOtherTextSize) contentDidChange();
     if (previous.layoutDirection != traitCollection().layoutDirection) invalidateIntrinsicContentSize();
 }
 
 // --- Measures ---
 
 host::FittedText& UILabel::fitted() const {
+    if (m_fittedTextSize != textSize()) fitRuns();
     m_rules.language = foundation::Locale::current().languageTag();
     m_rules.languageChangeCount = foundation::LanguageChanges::count();
     m_rules.direction = traitCollection().layoutDirection;

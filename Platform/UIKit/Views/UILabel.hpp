@@ -31,6 +31,11 @@ public:
     // A text that would be cut is set smaller instead, down to this share of its size. It is 1 until it is set, which means never.
     double minimumScaleFactor() const { return m_rules.minimumScale; }
     void setMinimumScaleFactor(double factor);
+    // The person's text size up to which the text follows it; absent, until it is set: the text keeps its size.
+    std::optional<graphics::ContentSizeCategory> largestTextSize() const { return m_largestTextSize; }
+    void setLargestTextSize(graphics::ContentSizeCategory largest);
+    // See graphics::layOutText.
+    void setAvoidsShortLastLine(bool avoids);
     // The width at which the natural size is measured where the label may have several lines; 0: the text's own width.
     double preferredMaxLayoutWidth() const { return m_preferredMaxLayoutWidth; }
     void setPreferredMaxLayoutWidth(double width);
@@ -50,15 +55,19 @@ protected:
 private:
     void contentDidChange();
     void restylePlainText();
-    // The text in the current language and direction.
+    void fitRuns() const;
+    graphics::ContentSizeCategory textSize() const;
+    // The text in the current language, direction and size.
     host::FittedText& fitted() const;
 
     graphics::AttributedString m_content;
     graphics::TextAttributes m_attributes;
     graphics::TextAlignment m_alignment = graphics::TextAlignment::leading;
     bool m_isPlain = true;
+    std::optional<graphics::ContentSizeCategory> m_largestTextSize;
     double m_preferredMaxLayoutWidth = 0;
     mutable host::TextRules m_rules;
+    mutable graphics::ContentSizeCategory m_fittedTextSize = graphics::ContentSizeCategory::large;
     mutable host::FittedText m_fitted;
 };
 
