@@ -104,6 +104,7 @@ private:
         visit(screen, [&](const SemanticNode& node) {
             if (!node.identifier.starts_with(prefix) || !node.activate) return;
             node.activate();
+            m_bed.runFor(1); // what opens is not told before it can be seen
             add(texts, window);
         });
     }
@@ -139,6 +140,9 @@ TEST(TranslatableTexts, AreAllThatIsShownAndSpoken) {
     EXPECT_THAT(others, IsEmpty());
 }
 
+// What the bridge to assistive technology adds to a reading; its own tests hold it.
+constexpr std::string_view addedByBridge[] = {"%1$@ of %2$@"};
+
 TEST(TranslatableTexts, AreAllShownOrSpoken) {
     const NumberedHost::Texts all = allTexts();
     std::set<std::string_view> unused;
@@ -149,7 +153,7 @@ TEST(TranslatableTexts, AreAllShownOrSpoken) {
             unused.insert(text.key);
     }
 
-    EXPECT_THAT(unused, IsEmpty());
+    EXPECT_THAT(unused, testing::ElementsAreArray(addedByBridge));
 }
 
 TEST(TranslatableTexts, HaveNoKeyTwice) {
