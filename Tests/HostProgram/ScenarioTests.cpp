@@ -114,7 +114,7 @@ TEST(Scenario, EscapeLeavesThePaywall) {
 
 TEST(Scenario, IdentifiersAreTheSameInEveryLanguage) {
     const Folder folder;
-    folder.write("de.lproj/Localizable.strings", "\"Creation Tools\" = \"Kreativwerkzeuge\";");
+    folder.write("de.lproj/Localizable.strings", std::string_view("\"Creation Tools\" = \"Kreativwerkzeuge\";"));
     Json german = scenario(R"([{"tap": "Compare Plans: Free vs Pro"},
         {"expect": {"identifier": "comparison.category.Creation Tools", "label": "Kreativwerkzeuge"}}])");
     german["device"] = {{"locale", "de_AT"}, {"strings", folder.path().string()}};
