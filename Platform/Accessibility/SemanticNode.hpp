@@ -144,8 +144,10 @@ struct SemanticNode {
 
     std::vector<SemanticNode> children;
 
-    // Of lists that have views only for the items in sight: what stands before and after those, in order.
-    std::vector<SemanticNode> itemsBefore, itemsAfter;
+    // Of lists that have views only for the items in sight: the items before those, in order.
+    std::vector<SemanticNode> itemsBefore;
+    // Likewise the items after them.
+    std::vector<SemanticNode> itemsAfter;
 };
 
 } // namespace proupsells::accessibility
