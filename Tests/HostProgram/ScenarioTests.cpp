@@ -109,7 +109,8 @@ TEST(Scenario, KeysAloneBuyAPlan) {
 TEST(Scenario, EscapeLeavesThePaywall) {
     const Outcome outcome = play(scenario(R"([{"key": "escape"}])"));
 
-    EXPECT_EQ(story(outcome).back(), "tracker trackUpsellDismissed");
+    EXPECT_THAT(story(outcome), testing::Contains("tracker trackUpsellDismissed"));
+    EXPECT_EQ(story(outcome).back(), "dismiss VelaProUpsellViewController");
 }
 
 TEST(Scenario, IdentifiersAreTheSameInEveryLanguage) {

@@ -54,8 +54,8 @@ TEST_F(Reading, OfThePaywall) {
 
     EXPECT_THAT(lines(),
                 ElementsAre("dialog: Choose Your Plan", "button: Close", "text: Endless premium templates, updated daily.",
-                            "pager: Pro features [page 1 of 4]", "heading: Marwick Folio Pro", "button: Compare Plans: Free vs Pro",
-                            "radio group: Plans",
+                            "pager: Pro features [page 1 of 4] [1 of 4]", "heading: Marwick Folio Pro",
+                            "button: Compare Plans: Free vs Pro", "radio group: Plans",
                             "radio button: Annually, Save 45%, 7 Day Free Trial, formerly $119.99, $99.99 per year ($8.33/month). "
                             "[checked] [1 of 2]",
                             "radio button: Monthly, $14.99 per month [not checked] [2 of 2]", "button: Start Your Free Trial",

@@ -242,8 +242,8 @@ TEST_F(PixelViews, KnowsKeysByTheirNames) {
     view->key("Return", false, true);
 
     using host::Key;
-    EXPECT_THAT(content->keys, ElementsAre(Key::activate, Key::escape, Key::tab, Key::up, Key::up, Key::activate, Key::activate,
-                                           Key::backTab, Key::up));
+    EXPECT_THAT(content->keys,
+                ElementsAre(Key::activate, Key::escape, Key::tab, Key::up, Key::up, Key::space, Key::space, Key::backTab, Key::up));
     EXPECT_THAT(content->repeatedKeys, ElementsAre(Key::activate));
 }
 
