@@ -164,6 +164,11 @@ void StorePageShelfViewController::viewDidLayoutSubviews() {
     if (m_scrollView->contentOffset().x > end) m_scrollView->setContentOffset({end, m_scrollView->contentOffset().y});
 }
 
+// One that has not come to its content yet shows nothing that could be held.
+bool StorePageShelfViewController::isAtItsContent() const {
+    return m_scrollView->contentOffset().x <= std::max(0.0, m_scrollView->contentSize().width - m_scrollView->bounds().width());
+}
+
 void StorePageShelfViewController::startAutoScrollTimer() {
     const bool mayDrift = m_scrollDirection != ScrollDirection::none && !traitCollection().reduceMotion && !isInHiddenWindow();
     if (!mayDrift || isAutoScrolling()) return;
@@ -179,7 +184,7 @@ void StorePageShelfViewController::stopAutoScrollTimer() {
 
 void StorePageShelfViewController::autoScroll() {
     if (m_scrollView->isTracking() || m_scrollView->isDragging() || m_scrollView->isDecelerating()) return;
-    if (m_scrollView->isAttended()) return;
+    if (isAtItsContent() && m_scrollView->isAttended()) return;
     constexpr double tolerance = 1e-6; // an end that is met exactly is met, whatever the rounding of the steps before
     const geometry::Point offset = m_scrollView->contentOffset();
     double x = offset.x;

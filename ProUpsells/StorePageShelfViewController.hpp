@@ -62,6 +62,7 @@ private:
     void stopAutoScrollTimer();
     void followSight();
     bool isInHiddenWindow() const;
+    bool isAtItsContent() const;
 
     std::shared_ptr<uikit::UIScrollView> m_scrollView;
     std::shared_ptr<runloop::Timer> m_autoScrollTimer;

@@ -14,8 +14,8 @@ View VelaPrimaryButtonStyle::body(const ButtonStyleConfiguration& configuration,
     const Shape plate = m_cornerRadius == geometry::infinity ? Capsule(geometry::CornerStyle::continuous)
                                                              : RoundedRectangle(m_cornerRadius, geometry::CornerStyle::continuous);
     return configuration.label | font(velaDefaultFont(FontOption::bold, 17)) | minimumScaleFactor(0.5) |
-           lumokit::largestTextSize(lumokit::LargestSize::buttonText) |
-           multilineTextAlignment(graphics::TextAlignment::center) | foregroundStyle(velaLightText) | padding(Edge::horizontal) |
+           lumokit::largestTextSize(lumokit::LargestSize::buttonText) | multilineTextAlignment(graphics::TextAlignment::center) |
+           foregroundStyle(velaLightText) | padding(Edge::horizontal) |
            frame({.maxWidth = geometry::infinity, .maxHeight = geometry::infinity}) | background(plate.fill(marwickContentAccent)) |
            scaleEffect(configuration.isPressed ? 0.98 : 1) | opacity(configuration.isPressed ? 0.85 : disabledOpacity);
 }

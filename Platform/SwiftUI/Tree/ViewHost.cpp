@@ -145,8 +145,7 @@ const graphics::DisplayList& ViewHost::displayList() {
     return m_displayList;
 }
 
-std::vector<accessibility::SemanticNode> ViewHost::semanticNodes(const PaintState& state, const Rect& window,
-                                                                 Revealer reveal) {
+std::vector<accessibility::SemanticNode> ViewHost::semanticNodes(const PaintState& state, const Rect& window, Revealer reveal) {
     update();
     SemanticContext context{.window = window, .now_s = now_s(), .pending = {}, .reveal = std::move(reveal)};
     std::vector<accessibility::SemanticNode> result;

@@ -115,8 +115,8 @@ void UIScrollView::scrollRectToVisible(const geometry::Rect& rect) {
     UIView::scrollRectToVisible(rect);
 }
 
-// What is visible does not move; a strip that the program has put outside its range stays there. Of what is too large, the beginning
-// is shown.
+// What is visible does not move; a strip that the program has put outside its range stays there. Of what is too large, the
+// beginning is shown.
 bool UIScrollView::reveal(Axis axis, double first, double last) {
     const geometry::PhysicalInsets inset = adjustedContentInset();
     const bool isHorizontal = axis == Axis::horizontal;
