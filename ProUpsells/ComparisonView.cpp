@@ -40,7 +40,7 @@ void toggle(const Expanded& expanded, const std::string& name) {
 View ComparisonView::headerRow(graphics::ContentSizeCategory textSize) const {
     View title =
         Text{localizedString("Compare Plans", "Title for screen where users can see a comparison between our Folio plans")} |
-        lumokit::textStyle(lumokit::headingH2) | foregroundStyle(lumokit::ContentColor::primary) |
+        minimumScaleFactor(0.7) | lumokit::textStyle(lumokit::headingH2) | foregroundStyle(lumokit::ContentColor::primary) |
         accessibilityTraits(accessibility::Traits::header) |
         frame({.maxWidth = geometry::infinity, .alignment = Alignment::leading});
     // The two capsules have different line spacings. This is deliberate.
