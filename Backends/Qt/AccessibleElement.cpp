@@ -29,7 +29,7 @@ void AccessibleElement::become(ReadingElement told) {
     const ReadingElement former = std::exchange(m_told, std::move(told));
     if (former.name != m_told.name) tell(QAccessible::NameChanged);
     if (formerDescription != description()) tell(QAccessible::DescriptionChanged);
-    if (hasPages() && former.position != m_told.position) tell(QAccessible::ValueChanged);
+    if (hasPages() && former.position != m_told.position) tellPage();
     if (former.frame != m_told.frame) tell(QAccessible::LocationChanged);
     if (former.isChecked != m_told.isChecked) tellChange([](QAccessible::State& state) { state.checked = true; });
     if (former.isExpanded != m_told.isExpanded) tellChange([](QAccessible::State& state) { state.expanded = true; });
@@ -40,6 +40,11 @@ void AccessibleElement::become(ReadingElement told) {
 
 void AccessibleElement::tell(QAccessible::Event type) {
     QAccessibleEvent event(this, type);
+    m_owner->tell(event);
+}
+
+void AccessibleElement::tellPage() {
+    QAccessibleValueChangeEvent event(this, m_told.position);
     m_owner->tell(event);
 }
 

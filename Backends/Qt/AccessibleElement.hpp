@@ -54,6 +54,7 @@ private:
     bool hasPages() const;
     QString description() const;
     void tell(QAccessible::Event type);
+    void tellPage();
     void tellChange(void (*mark)(QAccessible::State&));
 
     QtAccessibility* m_owner;
