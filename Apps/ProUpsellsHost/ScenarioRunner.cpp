@@ -31,6 +31,14 @@ std::string describe(const SemanticNode& control) {
     return control.identifier + (name.empty() ? "" : " (\"" + name + "\")");
 }
 
+// What was revealed stands with its centre at the window's very edge; rounding must not carry it out of there.
+geometry::Point withoutRounding(geometry::Point point) {
+    constexpr double tolerance = 1e-6;
+    if (point.x < 0 && point.x > -tolerance) point.x = 0;
+    if (point.y < 0 && point.y > -tolerance) point.y = 0;
+    return point;
+}
+
 } // namespace
 
 ScenarioRunner::ScenarioRunner(const Scenario& scenario, runloop::MainRunLoop& loop, HostSession& session,
@@ -77,7 +85,7 @@ geometry::Point ScenarioRunner::pointOf(const TapTarget& target) {
     const SemanticNode after = m_session.window().semanticTree();
     const auto revealed = find(after);
     if (revealed.empty()) failTap("no control has " + what + " any more", after);
-    return revealed.front()->frame.center();
+    return withoutRounding(revealed.front()->frame.center());
 }
 
 void ScenarioRunner::perform(const TapStep& step) { m_driver.tap(pointOf(step.target)); }

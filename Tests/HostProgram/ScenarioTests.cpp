@@ -106,6 +106,17 @@ TEST(Scenario, KeysAloneBuyAPlan) {
     EXPECT_EQ(outcome.events("delegate")[0]["option"]["SKU"], "pro.monthly");
 }
 
+// At this size the row's centre comes to the window's edge, where rounding used to carry it out.
+TEST(Scenario, TapsWhatHasScrolledAwayAtTheTop) {
+    Json large = scenario(R"([{"drag": {"from": [187, 600], "to": [187, 100], "duration": 0.3}}, {"wait": 3},
+        {"tap": {"identifier": "comparePlans"}}])");
+    large["device"] = {{"textSize", "accessibilityExtraExtraExtraLarge"}};
+    large["offers"] = sampleOffers();
+    large["offers"]["annualSubscriptionPriceForComparisonWithPromotionalPrice"] = "$119.99";
+
+    EXPECT_THAT(story(play(large)), testing::Contains("present ComparisonViewController"));
+}
+
 TEST(Scenario, EscapeLeavesThePaywall) {
     const Outcome outcome = play(scenario(R"([{"key": "escape"}])"));
 
