@@ -41,6 +41,7 @@ bool QtWindow::event(QEvent* event) {
         if (const auto handler = m_closeHandler; handler && event->isAccepted()) handler();
         return isHandled;
     }
+    case QEvent::Enter: m_input->hovered(static_cast<QEnterEvent*>(event)->position()); return true;
     case QEvent::Leave: m_input->left(); return true;
     case QEvent::FocusIn:
     case QEvent::FocusOut: m_accessibility->updateLater(); return QWindow::event(event);

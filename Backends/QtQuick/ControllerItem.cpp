@@ -196,6 +196,8 @@ void ControllerItem::mousePressEvent(QMouseEvent* event) {
 
 void ControllerItem::mouseMoveEvent(QMouseEvent* event) { handOnLater(*event, &qtbackend::QtInput::mouseMoved); }
 
+void ControllerItem::hoverEnterEvent(QHoverEvent* event) { m_screen->input().hovered(event->position()); }
+
 void ControllerItem::hoverMoveEvent(QHoverEvent* event) { m_screen->input().hovered(event->position()); }
 
 void ControllerItem::hoverLeaveEvent(QHoverEvent*) { m_screen->input().left(); }

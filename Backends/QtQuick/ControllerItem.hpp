@@ -88,6 +88,7 @@ protected:
     void mouseUngrabEvent() override;
     void touchEvent(QTouchEvent* event) override;
     void touchUngrabEvent() override;
+    void hoverEnterEvent(QHoverEvent* event) override;
     void hoverMoveEvent(QHoverEvent* event) override;
     void hoverLeaveEvent(QHoverEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;

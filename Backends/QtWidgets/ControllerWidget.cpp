@@ -127,6 +127,8 @@ void ControllerWidget::mouseMoveEvent(QMouseEvent* event) { m_screen->input().mo
 
 void ControllerWidget::mouseReleaseEvent(QMouseEvent* event) { m_screen->input().mouseReleased(*event); }
 
+void ControllerWidget::enterEvent(QEnterEvent* event) { m_screen->input().hovered(event->position()); }
+
 void ControllerWidget::leaveEvent(QEvent*) { m_screen->input().left(); }
 
 void ControllerWidget::wheelEvent(QWheelEvent* event) { m_screen->input().wheelTurned(*event); }

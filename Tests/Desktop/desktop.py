@@ -44,6 +44,11 @@ def press(key):
     subprocess.run(["xdotool", "key", "--clearmodifiers", key], check=True)
 
 
+def rest_pointer_on_header():
+    """Where the next window has its header: no page turns by itself then, however long a test takes."""
+    subprocess.run(["xdotool", "mousemove", "--sync", "200", "150"], check=True)
+
+
 class Heard:
     """An event as it came in: its type, its numbers, its value, and what it is about."""
 

@@ -66,6 +66,7 @@ class Walk(unittest.TestCase):
     def walk(self, screen, keys):
         file = HERE / "expected" / f"{screen}.spoken"
         expected = None if RENEWS else read_walk(file)
+        desktop.rest_pointer_on_header()
         with Orca() as orca, desktop.Program(screen) as program:
             start = len(orca.said())
             program.take_keys()

@@ -41,6 +41,7 @@ public:
         x += 20;
         changed();
     }
+    void pointer(std::optional<Point> location) override { pointers.push_back(location); }
     void scroll(Point location, Point delta) override { scrolls.emplace_back(location, delta); }
     bool key(Key key, bool isRepeated) override {
         (isRepeated ? repeatedKeys : keys).push_back(key);
@@ -66,6 +67,7 @@ public:
     geometry::PhysicalInsets safeArea;
     std::vector<host::Touch> touches;
     std::vector<std::pair<Point, Point>> scrolls;
+    std::vector<std::optional<Point>> pointers;
     std::vector<Key> keys, repeatedKeys;
     double x = 10;
     int paintCount = 0;
@@ -181,6 +183,18 @@ TEST_F(QtWindowTest, HandsOnTheKeysThatMeanSomething) {
 
     EXPECT_THAT(content->keys, ElementsAre(Key::escape, Key::tab, Key::backTab, Key::activate, Key::space, Key::up, Key::down,
                                            Key::left, Key::right));
+}
+
+TEST_F(QtWindowTest, SaysWhereTheMouseRestsAndThatItHasLeft) {
+    QEnterEvent enters({20, 30}, {20, 30}, {20, 30});
+    QMouseEvent moves(QEvent::MouseMove, QPointF(25, 35), QPointF(25, 35), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QEvent leaves(QEvent::Leave);
+    content->pointers.clear(); // the mouse may have been where the window came
+    for (QEvent* const event : {static_cast<QEvent*>(&enters), static_cast<QEvent*>(&moves), &leaves})
+        QCoreApplication::sendEvent(&window, event);
+
+    EXPECT_THAT(content->pointers, ElementsAre(Point{20, 30}, Point{25, 35}, std::nullopt));
+    EXPECT_THAT(content->touches, IsEmpty());
 }
 
 TEST_F(QtWindowTest, SaysThatAKeyIsHeldDown) {
