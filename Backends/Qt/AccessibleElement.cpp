@@ -1,5 +1,6 @@
 #include "Backends/Qt/AccessibleElement.hpp"
 
+#include <QWindow>
 #include <utility>
 
 #include "Backends/Qt/QtAccessibility.hpp"
