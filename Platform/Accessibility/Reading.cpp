@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "Platform/Accessibility/Search.hpp"
-
 namespace proupsells::accessibility {
 
 namespace {
@@ -65,9 +63,14 @@ ReadingElement elementOf(const SemanticNode& node) {
 
 void collect(const SemanticNode& node, std::vector<Ordered>& result, int order, bool isInsideControl);
 
+void collectInside(const SemanticNode& node, std::vector<Ordered>& result, int order, bool isInsideControl) {
+    for (const auto* const nodes : {&node.itemsBefore, &node.children, &node.itemsAfter})
+        for (const SemanticNode& inner : *nodes) collect(inner, result, order, isInsideControl);
+}
+
 std::vector<ReadingElement> childrenOf(const SemanticNode& node) {
     std::vector<Ordered> ordered;
-    for (const SemanticNode& child : node.children) collect(child, ordered, 0, false);
+    collectInside(node, ordered, 0, false);
     std::stable_sort(ordered.begin(), ordered.end(), [](const Ordered& a, const Ordered& b) { return a.order < b.order; });
     std::vector<ReadingElement> children;
     children.reserve(ordered.size());
@@ -108,9 +111,7 @@ void collect(const SemanticNode& node, std::vector<Ordered>& result, int order, 
         if (isTold) result.push_back({std::move(element), order});
         if (isTold && isNamed && !node.isControl) return;
     }
-    for (const SemanticNode& item : node.itemsBefore) collect(item, result, order, isInsideControl);
-    for (const SemanticNode& child : node.children) collect(child, result, order, isInsideControl || (isTold && node.isControl));
-    for (const SemanticNode& item : node.itemsAfter) collect(item, result, order, isInsideControl);
+    collectInside(node, result, order, isInsideControl || (isTold && node.isControl));
 }
 
 void append(const ReadingElement& element, std::vector<const ReadingElement*>& all) {

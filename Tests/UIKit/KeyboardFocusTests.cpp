@@ -198,6 +198,7 @@ TEST_F(KeyboardFocusTest, NothingIsActivatedDuringATransition) {
 
     EXPECT_TRUE(window->key(Key::activate));
     EXPECT_TRUE(window->key(Key::escape));
+    EXPECT_TRUE(window->key(Key::space));
     EXPECT_FALSE(window->key(Key::tab));
 
     EXPECT_THAT(calls, IsEmpty());
@@ -205,6 +206,28 @@ TEST_F(KeyboardFocusTest, NothingIsActivatedDuringATransition) {
 }
 
 TEST_F(KeyboardFocusTest, EscapeMeansNothingToAScreenThatCannotBeLeft) { EXPECT_FALSE(window->key(Key::escape)); }
+
+// A group that begins with a text and whose chosen button cannot be used, and nothing else on the screen.
+TEST_F(KeyboardFocusTest, ComesIntoAGroupWhoseChosenButtonIsDisabled) {
+    first->removeFromSuperview();
+    const auto group = std::make_shared<UIView>();
+    group->accessibilitySpoken = {.role = accessibility::Role::radioGroup, .name = "plans"};
+    group->setFrame({{0, 0}, {375, 400}});
+    root->view()->addSubview(group);
+    const auto addRadioButton = [&](const std::string& name, double y, bool isChecked) {
+        const auto button = addButton(*root, name, y);
+        button->accessibilitySpoken = {.role = accessibility::Role::radioButton, .name = name, .isChecked = isChecked};
+        group->addSubview(button);
+        return button;
+    };
+    addRadioButton("chosen", 100, true)->setEnabled(false);
+    const auto other = addRadioButton("other", 200, false);
+
+    EXPECT_TRUE(window->key(Key::tab));
+    EXPECT_EQ(inFocus(), other->frame());
+    EXPECT_TRUE(window->key(Key::tab));
+    EXPECT_EQ(inFocus(), other->frame());
+}
 
 } // namespace
 } // namespace proupsells::uikit

@@ -26,16 +26,19 @@ void forEachElement(accessibility::ReadingElement& element, const auto& visit) {
 
 } // namespace
 
-KeyboardFocus::Stops KeyboardFocus::stops() const {
-    Stops stops{accessibility::readingOf(m_window.semanticTree()), {}};
-    const auto collect = [&](const auto& self, const Element& element, const Element* group) -> void {
-        if (element.takesFocus) stops.all.push_back({&element, group});
-        const Element* const inner = element.role == Role::radioGroup ? &element : nullptr;
-        for (const Element& child : element.children) self(self, child, inner);
-    };
-    collect(collect, stops.reading, nullptr);
+void KeyboardFocus::collect(const Element& element, const Element* group, std::vector<Stop>& stops) {
+    if (element.takesFocus) stops.push_back({&element, group});
+    const Element* const inner = element.role == Role::radioGroup ? &element : nullptr;
+    for (const Element& child : element.children) collect(child, inner, stops);
+}
+
+KeyboardFocus::Stops KeyboardFocus::stopsIn(const accessibility::SemanticNode& screen) {
+    Stops stops{accessibility::readingOf(screen), {}};
+    collect(stops.reading, nullptr, stops.all);
     return stops;
 }
+
+KeyboardFocus::Stops KeyboardFocus::stops() const { return stopsIn(m_window.semanticTree()); }
 
 KeyboardFocus::Place* KeyboardFocus::place() {
     const UIViewController* const front = m_window.frontMostViewController();
@@ -82,7 +85,7 @@ void KeyboardFocus::give(const Stop& stop, std::size_t index) {
 void KeyboardFocus::giveInSight(const std::vector<Stop>& stops, std::size_t index) {
     give(stops[index], index);
     if (const auto& reveal = stops[index].element->revealWhole) reveal();
-    m_lastFrame = frameInFocus();
+    m_lastFrame = frameInFocus(m_window.semanticTree());
 }
 
 std::optional<std::size_t> KeyboardFocus::nextStop(const std::vector<Stop>& stops, std::ptrdiff_t from, int step,
@@ -90,9 +93,11 @@ std::optional<std::size_t> KeyboardFocus::nextStop(const std::vector<Stop>& stop
     const auto isEntry = [&](const Stop& stop) {
         if (!stop.group) return true;
         if (stop.group == group) return false; // left as a whole
-        const auto& others = stop.group->children;
-        const bool isAnyChecked = std::any_of(others.begin(), others.end(), isChecked);
-        return isAnyChecked ? isChecked(*stop.element) : stop.element == &others.front();
+        const auto isMember = [&](const Stop& other) { return other.group == stop.group; };
+        const auto isChosen = [&](const Stop& other) { return isMember(other) && isChecked(*other.element); };
+        auto entry = std::find_if(stops.begin(), stops.end(), isChosen);
+        if (entry == stops.end()) entry = std::find_if(stops.begin(), stops.end(), isMember);
+        return entry->element == stop.element;
     };
     for (std::ptrdiff_t index = from + step; index >= 0 && index < std::ptrdiff_t(stops.size()); index += step)
         if (isEntry(stops[std::size_t(index)])) return std::size_t(index);
@@ -176,11 +181,12 @@ bool KeyboardFocus::use(Key key, bool isRepeated) {
 }
 
 void KeyboardFocus::mark(Element& reading) {
-    const Stops stops = this->stops();
-    const std::optional<std::size_t> here = indexInFocus(stops.all);
-    const Element* const focused = here ? stops.all[*here].element : nullptr;
+    std::vector<Stop> stops;
+    collect(reading, nullptr, stops);
+    const std::optional<std::size_t> here = indexInFocus(stops);
+    const Element* const focused = here ? stops[*here].element : nullptr;
     forEachElement(reading, [&](Element& element) {
-        element.isFocused = focused && element.id == focused->id && element.identifier == focused->identifier;
+        element.isFocused = &element == focused;
         if (!element.takesFocus) return;
         element.focus = [window = weakReference(m_window), id = element.id, identifier = element.identifier] {
             const auto held = window.lock();
@@ -195,16 +201,19 @@ void KeyboardFocus::mark(Element& reading) {
 }
 
 void KeyboardFocus::paintRing(graphics::PaintContext& context) {
-    m_lastFrame = frameInFocus();
+    m_lastFrame.reset();
+    if (!m_isThere) return;
+    const accessibility::SemanticNode screen = m_window.semanticTree();
+    m_lastFrame = frameInFocus(screen);
     if (!m_lastFrame) return;
     std::vector<geometry::Rect> texts;
-    addTexts(m_window.semanticTree(), texts);
+    addTexts(screen, texts);
     paintFocusRing(context, m_window.windowState(), focusRingAround(*m_lastFrame, m_window.bounds(), texts));
 }
 
-std::optional<geometry::Rect> KeyboardFocus::frameInFocus() {
+std::optional<geometry::Rect> KeyboardFocus::frameInFocus(const accessibility::SemanticNode& screen) {
     if (!m_isThere || m_window.isTransitioning()) return std::nullopt;
-    const Stops stops = this->stops();
+    const Stops stops = stopsIn(screen);
     const std::optional<std::size_t> here = indexInFocus(stops.all);
     if (!here || !stops.all[*here].element->isOnScreen) return std::nullopt;
     return stops.all[*here].element->frame;

@@ -40,9 +40,8 @@ public:
 
     // Says of the window's reading who has the focus, and lets it be given to others.
     void mark(accessibility::ReadingElement& reading);
-    // Where the control in focus stands, in window points. Absent while nobody has it or while it cannot be seen.
-    std::optional<geometry::Rect> frameInFocus();
-    // Where it stood when it was given or painted last.
+    // Where the control in focus stood when it was given or painted last, in window points. Absent while nobody had it or while it
+    // could not be seen.
     const std::optional<geometry::Rect>& lastFrame() const { return m_lastFrame; }
     void paintRing(graphics::PaintContext& context);
 
@@ -66,7 +65,10 @@ private:
         std::size_t index = 0; // among the controls when it was last there
     };
 
+    static void collect(const Element& element, const Element* group, std::vector<Stop>& stops);
+    static Stops stopsIn(const accessibility::SemanticNode& screen);
     Stops stops() const;
+    std::optional<geometry::Rect> frameInFocus(const accessibility::SemanticNode& screen);
     // Of the screen in front. Null before it was given to one of its controls.
     Place* place();
     std::optional<std::size_t> indexInFocus(const std::vector<Stop>& stops);

@@ -49,7 +49,8 @@ double distance(Key key, double pageHeight) {
 // What would act is taken all the same while it must not, so that nobody around the window acts instead.
 bool UIWindow::key(host::Key key, bool isRepeated) {
     const bool acts = key == Key::activate || key == Key::escape;
-    if (isTransitioning() || (acts && isRepeated)) return acts;
+    if (isTransitioning()) return acts || key == Key::space;
+    if (acts && isRepeated) return true;
     const auto kept = strongReference(*this);
     switch (key) {
     case Key::tab: return m_focus->move(1, m_focusLeaves);
