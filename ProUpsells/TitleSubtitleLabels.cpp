@@ -14,7 +14,7 @@ namespace proupsells {
 
 namespace {
 
-constexpr double lineSpacing = 9;
+constexpr double labelLineSpacing = 9;
 constexpr double titleInset = 25, subtitleInset = 19, widestSubtitle = 300, distance = 16;
 
 } // namespace
@@ -75,7 +75,7 @@ void TitleSubtitleLabels::setTitle(std::string text) {
     m_title = std::move(text);
     graphics::TextAttributes attributes{.font = m_titleFont, .color = velauikit::dynamicColor(9)};
     attributes.font.size *= m_scale;
-    m_titleLabel->setAttributedText(centeredText(m_title, attributes, lineSpacing));
+    m_titleLabel->setAttributedText(centeredText(m_title, attributes, labelLineSpacing));
 }
 
 void TitleSubtitleLabels::setSubtitle(std::string text) {
@@ -83,7 +83,7 @@ void TitleSubtitleLabels::setSubtitle(std::string text) {
         .font = velauikit::velaDefaultFont(velauikit::FontOption::regular, 16), .color = velauikit::dynamicColor(10), .kern = 0.2};
     attributes.font.size *= m_scale;
     m_subtitle = std::move(text);
-    m_subtitleLabel->setAttributedText(centeredText(m_subtitle, attributes, lineSpacing));
+    m_subtitleLabel->setAttributedText(centeredText(m_subtitle, attributes, labelLineSpacing));
 }
 
 } // namespace proupsells

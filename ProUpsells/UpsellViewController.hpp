@@ -68,6 +68,8 @@ public:
     std::string accessibilityScreenName() const override;
 
 private:
+    using Delegate = UpsellViewControllerDelegate;
+
     void start(const std::vector<SubscriptionOption>& subscriptionOptions);
     void handle(const UpsellViewModel::TapEvent& event);
 

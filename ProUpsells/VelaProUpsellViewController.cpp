@@ -14,7 +14,6 @@
 
 namespace proupsells {
 
-using Delegate = VelaProUpsellViewControllerDelegate;
 using Tracker = ProUpsellEventTracker;
 
 namespace {

@@ -103,6 +103,8 @@ public:
     void comparisonViewControllerDidTapClose(ComparisonViewController& sender) override;
 
 private:
+    using Delegate = VelaProUpsellViewControllerDelegate;
+
     void embedPaywall();
     // The embedded paywall, looked up anew each time; null before the view has loaded.
     ProUpsellControllerType* paywall() const;

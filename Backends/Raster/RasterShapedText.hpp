@@ -16,6 +16,9 @@ struct PlacedGlyph {
     float y = 0; // points, from the baseline, downwards
 };
 
+// 0 where the font has no size, or none that makes sense.
+inline double pointSize(const graphics::StyledRun& run) { return run.font.size > 0 ? run.font.size : 0; }
+
 // A group is the clusters that share glyphs: more than one of them only in a ligature.
 class RasterShapedText final : public graphics::ShapedText {
 public:

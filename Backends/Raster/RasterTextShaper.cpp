@@ -10,8 +10,6 @@ namespace {
 using graphics::LineBreak;
 using graphics::StyledRun;
 
-double pointSize(const StyledRun& run) { return run.font.size > 0 ? run.font.size : 0; }
-
 // The end of the piece that starts at a cluster: where the direction changes or the paragraph ends, without its line feed.
 std::uint32_t endOfPiece(const RasterShapedText& text, std::uint32_t first) {
     std::uint32_t cluster = first;

@@ -36,8 +36,6 @@ bool isJoined(hb_script_t script) {
     }
 }
 
-double pointSize(const StyledRun& run) { return run.font.size > 0 ? run.font.size : 0; }
-
 // In whole shaping units like every other advance, and within eight ems: more would only send the text away.
 double letterSpacing(const StyledRun& run, hb_script_t script) {
     if (run.kern == 0 || pointSize(run) == 0 || isJoined(script)) return 0;

@@ -24,10 +24,10 @@ Role roleOf(const SemanticNode& node) {
 
 bool isContainer(Role role) { return role == Role::dialog || role == Role::group || role == Role::radioGroup; }
 
-std::string joinedTexts(const SemanticNode& node) {
+std::string spokenTexts(const SemanticNode& node) {
     std::string joined = node.text ? node.text->text : std::string();
     for (const SemanticNode& child : node.children) {
-        const std::string text = joinedTexts(child);
+        const std::string text = spokenTexts(child);
         if (!joined.empty() && !text.empty()) joined += ", ";
         joined += text;
     }
@@ -36,7 +36,7 @@ std::string joinedTexts(const SemanticNode& node) {
 
 std::string spokenName(const SemanticNode& node) {
     if (!node.spoken.name.empty()) return node.spoken.name;
-    return node.label.empty() ? joinedTexts(node) : node.label;
+    return node.label.empty() ? spokenTexts(node) : node.label;
 }
 
 ReadingElement elementOf(const SemanticNode& node) {

@@ -21,7 +21,7 @@ std::vector<const SemanticNode*> findAll(const SemanticNode& root, Predicate&& m
     return found;
 }
 
-std::string joinedTexts(const SemanticNode& node) {
+std::string shownText(const SemanticNode& node) {
     std::string joined;
     for (const std::string& text : shownTexts(node)) {
         if (!joined.empty() && !text.empty()) joined += ' ';
@@ -41,7 +41,7 @@ const std::string* firstImage(const SemanticNode& node) {
 bool isNamed(const SemanticNode& control, std::string_view name) {
     if (control.label == name) return true;
     const std::vector<std::string> texts = shownTexts(control);
-    return std::find(texts.begin(), texts.end(), name) != texts.end() || (!texts.empty() && joinedTexts(control) == name);
+    return std::find(texts.begin(), texts.end(), name) != texts.end() || (!texts.empty() && shownText(control) == name);
 }
 
 // Returns whether the node or something in it was added.
@@ -81,7 +81,7 @@ std::vector<const SemanticNode*> controls(const SemanticNode& root) {
 
 std::string nameOf(const SemanticNode& node) {
     if (!node.label.empty()) return node.label;
-    if (std::string texts = joinedTexts(node); !texts.empty()) return texts;
+    if (std::string texts = shownText(node); !texts.empty()) return texts;
     const std::string* image = firstImage(node);
     return image ? *image : std::string();
 }

@@ -19,7 +19,6 @@
 namespace proupsells {
 
 using TapEvent = UpsellViewModel::TapEvent;
-using Delegate = UpsellViewControllerDelegate;
 
 namespace {
 

@@ -18,7 +18,7 @@ SemanticNode node(std::vector<SemanticNode> children = {}) {
     return made;
 }
 
-SemanticNode textNode(std::string text) {
+SemanticNode visibleText(std::string text) {
     SemanticNode made = node();
     made.text = TextInfo{.text = std::move(text)};
     return made;
@@ -32,7 +32,7 @@ SemanticNode button(std::vector<SemanticNode> children) {
 }
 
 SemanticNode radioButton(std::string name, bool isChecked) {
-    SemanticNode made = button({textNode("text inside")});
+    SemanticNode made = button({visibleText("text inside")});
     made.spoken = {.role = Role::radioButton, .name = std::move(name), .isChecked = isChecked};
     return made;
 }
@@ -45,7 +45,7 @@ std::vector<std::string> namesOf(const ReadingElement& reading) {
 }
 
 TEST(Reading, IsADialogOfTheScreensName) {
-    SemanticNode screen = node({textNode("inside")});
+    SemanticNode screen = node({visibleText("inside")});
     screen.spoken.name = "Plans";
 
     const ReadingElement reading = readingOf(screen);
@@ -56,7 +56,7 @@ TEST(Reading, IsADialogOfTheScreensName) {
 }
 
 TEST(Reading, TellsOfAControlInOnePiece) {
-    const ReadingElement reading = readingOf(node({button({textNode("Yearly"), node({textNode("$99.99")})})}));
+    const ReadingElement reading = readingOf(node({button({visibleText("Yearly"), node({visibleText("$99.99")})})}));
 
     ASSERT_THAT(reading.children, SizeIs(1));
     EXPECT_EQ(reading.children[0].role, Role::button);
@@ -66,9 +66,9 @@ TEST(Reading, TellsOfAControlInOnePiece) {
 
 // A category that opens: its rows stand inside of what is tapped.
 TEST(Reading, TellsOfWhatHasASpokenNameInsideOfAControl) {
-    SemanticNode row = node({textNode("Templates")});
+    SemanticNode row = node({visibleText("Templates")});
     row.spoken.name = "Templates: not in Free, in Pro";
-    SemanticNode category = button({textNode("Content"), row});
+    SemanticNode category = button({visibleText("Content"), row});
     category.label = "Content";
     category.spoken = {.role = Role::disclosure, .isExpanded = true};
 
@@ -80,10 +80,10 @@ TEST(Reading, TellsOfWhatHasASpokenNameInsideOfAControl) {
 }
 
 TEST(Reading, CountsTheRadioButtonsOfAGroup) {
-    SemanticNode group = node({radioButton("Yearly", false), textNode("hint"), radioButton("Monthly", true)});
+    SemanticNode group = node({radioButton("Yearly", false), visibleText("hint"), radioButton("Monthly", true)});
     group.spoken = {.role = Role::radioGroup, .name = "Plans"};
 
-    const ReadingElement reading = readingOf(node({textNode("before"), group}));
+    const ReadingElement reading = readingOf(node({visibleText("before"), group}));
 
     ASSERT_THAT(reading.children, SizeIs(2));
     const ReadingElement& plans = reading.children[1];
@@ -96,14 +96,15 @@ TEST(Reading, CountsTheRadioButtonsOfAGroup) {
 }
 
 TEST(Reading, TellsEarlierOfWhatIsToComeFirst) {
-    SemanticNode bar = node({textNode("title"), textNode("Close")});
+    SemanticNode bar = node({visibleText("title"), visibleText("Close")});
     bar.spoken.order = -1;
 
-    EXPECT_THAT(namesOf(readingOf(node({textNode("page"), bar, textNode("end")}))), ElementsAre("title", "Close", "page", "end"));
+    EXPECT_THAT(namesOf(readingOf(node({visibleText("page"), bar, visibleText("end")}))),
+                ElementsAre("title", "Close", "page", "end"));
 }
 
 TEST(Reading, LeavesOutWhatIsSilentWordlessTransparentOrOutOfReach) {
-    SemanticNode silent = textNode("silent"), transparent = textNode("transparent"), away = textNode("away");
+    SemanticNode silent = visibleText("silent"), transparent = visibleText("transparent"), away = visibleText("away");
     silent.spoken.isSilent = true;
     transparent.opacity = 0;
     away.isOnScreen = false;
@@ -121,7 +122,7 @@ TEST(Reading, TellsOfAListsItemsWithoutViewsInTheirPlaces) {
         made.reveal = [] {};
         return made;
     };
-    SemanticNode list = node({textNode("in sight")});
+    SemanticNode list = node({visibleText("in sight")});
     list.itemsBefore = {item("above")};
     list.itemsAfter = {item("below"), item("further below")};
 

@@ -74,7 +74,7 @@ double areaOf(const Path& path) {
     return doubled / 2;
 }
 
-Rect someRect() {
+Rect someLargeRect() {
     const auto length = [](int lowest) { return *rc::gen::inRange(lowest, 4000) / 8.0; };
     return {{length(-4000), length(-4000)}, {length(1), length(1)}};
 }
@@ -195,7 +195,7 @@ TEST(RoundedRectangle, ContinuousCapsuleKeepsItsRoundEnds) {
 }
 
 RC_GTEST_PROP(RoundedRectangleShape, StaysInsideItsRectangleAndTouchesEverySide, (int tenthsOfRadius)) {
-    const Rect rect = someRect();
+    const Rect rect = someLargeRect();
     const auto style = *rc::gen::element(CornerStyle::circular, CornerStyle::continuous);
     const Rect bounds = Path::roundedRectangle(rect, std::abs(tenthsOfRadius % 4000) / 10.0, style).bounds();
 
@@ -204,7 +204,7 @@ RC_GTEST_PROP(RoundedRectangleShape, StaysInsideItsRectangleAndTouchesEverySide,
 }
 
 RC_GTEST_PROP(RoundedRectangleShape, ContinuousCornersNeverCutOffMoreThanAFewPerCentOfTheArcs, ()) {
-    const Rect rect = someRect();
+    const Rect rect = someLargeRect();
     const double radius = *rc::gen::inRange(1, 2000) / 8.0;
     const double circular = areaOf(Path::roundedRectangle(rect, radius, CornerStyle::circular));
     const double continuous = areaOf(Path::roundedRectangle(rect, radius, CornerStyle::continuous));

@@ -16,7 +16,7 @@ using motion::unRubberBanded;
 namespace {
 
 constexpr ScrollRange hundreds{0, 900};
-constexpr double viewport = 400;
+constexpr double viewportHeight = 400;
 
 struct RandomFlick {
     ScrollRange range;
@@ -46,26 +46,26 @@ TEST(ScrollRange, OfContentReachesFromTheSpaceBeforeItToTheSpaceAfterIt) {
 }
 
 TEST(RubberBand, LeavesOffsetsInsideTheRangeAlone) {
-    for (double offset : {0.0, 1.0, 450.0, 900.0}) EXPECT_EQ(rubberBanded(offset, hundreds, viewport), offset);
+    for (double offset : {0.0, 1.0, 450.0, 900.0}) EXPECT_EQ(rubberBanded(offset, hundreds, viewportHeight), offset);
 }
 
 TEST(RubberBand, FollowsTheFingerByItsFormula) {
     const double pulled = 100;
-    const double shown = (1 - 1 / (pulled * 0.55 / viewport + 1)) * viewport;
+    const double shown = (1 - 1 / (pulled * 0.55 / viewportHeight + 1)) * viewportHeight;
 
-    EXPECT_DOUBLE_EQ(rubberBanded(-pulled, hundreds, viewport), -shown);
-    EXPECT_DOUBLE_EQ(rubberBanded(900 + pulled, hundreds, viewport), 900 + shown);
+    EXPECT_DOUBLE_EQ(rubberBanded(-pulled, hundreds, viewportHeight), -shown);
+    EXPECT_DOUBLE_EQ(rubberBanded(900 + pulled, hundreds, viewportHeight), 900 + shown);
 }
 
 TEST(RubberBand, NeverShowsMoreThanTheViewportsLength) {
-    EXPECT_GT(rubberBanded(-1e12, hundreds, viewport), -viewport - 1e-9);
-    EXPECT_LT(rubberBanded(-1e12, hundreds, viewport), -viewport + 1);
+    EXPECT_GT(rubberBanded(-1e12, hundreds, viewportHeight), -viewportHeight - 1e-9);
+    EXPECT_LT(rubberBanded(-1e12, hundreds, viewportHeight), -viewportHeight + 1);
 }
 
 TEST(RubberBand, RisesWithTheFinger) {
     double previous = -1e9;
     for (double offset = -3000; offset < 4000; offset += 7) {
-        const double shown = rubberBanded(offset, hundreds, viewport);
+        const double shown = rubberBanded(offset, hundreds, viewportHeight);
         ASSERT_GT(shown, previous);
         previous = shown;
     }
@@ -73,7 +73,7 @@ TEST(RubberBand, RisesWithTheFinger) {
 
 TEST(RubberBand, IsUndoneByItsInverse) {
     for (double offset = -3000; offset < 4000; offset += 7) {
-        ASSERT_NEAR(unRubberBanded(rubberBanded(offset, hundreds, viewport), hundreds, viewport), offset, 1e-6);
+        ASSERT_NEAR(unRubberBanded(rubberBanded(offset, hundreds, viewportHeight), hundreds, viewportHeight), offset, 1e-6);
     }
 }
 
@@ -83,7 +83,7 @@ TEST(RubberBand, HoldsTheEdgeWithoutAViewport) {
 }
 
 TEST(RubberBand, GivesAFiniteFingerForContentShownBeyondTheViewport) {
-    EXPECT_TRUE(std::isfinite(unRubberBanded(-5000, hundreds, viewport)));
+    EXPECT_TRUE(std::isfinite(unRubberBanded(-5000, hundreds, viewportHeight)));
 }
 
 TEST(Deceleration, WithoutSpeedInsideTheRangeIsAtRestAtOnce) {

@@ -3,8 +3,8 @@
 using namespace proupsells;
 
 using namespace swiftui;
-using tests::box;
-using tests::TouchScreen;
+using proupsells::tests::box;
+using proupsells::tests::TouchScreen;
 
 namespace {
 

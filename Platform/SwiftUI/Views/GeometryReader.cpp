@@ -1,5 +1,6 @@
 #include "Platform/SwiftUI/Views/GeometryReader.hpp"
 
+#include "Platform/SwiftUI/Layout/FillingSize.hpp"
 #include "Platform/SwiftUI/Layout/SafeArea.hpp"
 #include "Platform/SwiftUI/Tree/ValueElement.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
@@ -7,8 +8,6 @@
 namespace proupsells::swiftui {
 
 namespace {
-
-constexpr double idealLength = 10;
 
 class GeometryReaderNode final : public Node {
 public:
@@ -24,9 +23,7 @@ public:
 protected:
     std::string_view semanticType() const override { return m_isDescribed ? "GeometryReader" : std::string_view(); }
 
-    geometry::Size measure(const geometry::ProposedSize& proposal) override {
-        return proposal.orReplacing({idealLength, idealLength});
-    }
+    geometry::Size measure(const geometry::ProposedSize& proposal) override { return fillingSize(proposal); }
 
     LengthRange lengthRange(Axis, std::optional<double>) override { return {0, geometry::infinity}; }
 

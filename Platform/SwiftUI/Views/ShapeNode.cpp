@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Platform/SwiftUI/Layout/FillingSize.hpp"
 #include "Platform/SwiftUI/Shapes/Shapes.hpp"
 #include "Platform/SwiftUI/Tree/ValueElement.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
@@ -15,15 +16,13 @@ using graphics::RGBA;
 
 namespace {
 
-constexpr double idealLength = 10;
-
 // Everything that fills what it is offered.
 class FillingNode : public Node {
 public:
     LengthRange lengthRange(Axis, std::optional<double>) override { return {0, geometry::infinity}; }
 
 protected:
-    Size measure(const geometry::ProposedSize& proposal) override { return proposal.orReplacing({idealLength, idealLength}); }
+    Size measure(const geometry::ProposedSize& proposal) override { return fillingSize(proposal); }
 };
 
 class ShapeNode final : public FillingNode {
