@@ -40,6 +40,8 @@ def page_ground(c, height, around):
 
 CARD_WIDTH, CARD_HEIGHT = 107, 143
 SPACING = 124
+# How far from either side the cards have faded into the page.
+FADE = 64
 
 
 @dataclass(frozen=True)
@@ -162,6 +164,14 @@ def guide(c, template, done, around):
         c.fill(Path.rounded(px - 1.9, py - 1.9, 3.8, 3.8, 1), "#FFFFFF", opacity)
 
 
+def fade_into_page(c, around):
+    """Cards come and go at both sides without being cut."""
+    eased = ((0, 1), (0.1, 1), (0.3, 0.83), (0.5, 0.5), (0.7, 0.17), (0.85, 0.04), (1, 0))
+    stops = [(offset, around.page, share) for offset, share in eased]
+    c.fill(Path.rect(-2, -2, FADE + 2, 175), linear((0, 0), (FADE, 0), *stops))
+    c.fill(Path.rect(WIDTH - FADE, -2, FADE + 2, 175), linear((WIDTH, 0), (WIDTH - FADE, 0), *stops))
+
+
 def templates(c, phase, around):
     page_ground(c, 171, around)
     # The loop opens on a finished template.
@@ -186,6 +196,7 @@ def templates(c, phase, around):
                 card.fill(outline, around.page, 0.42 * distance)
                 if offset == 0:
                     guide(card, template, done, around)
+    fade_into_page(c, around)
 
 
 # A brand landing on its board
