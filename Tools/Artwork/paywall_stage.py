@@ -2,7 +2,7 @@
 
 They are shown filled into a band 254 high and 320 to 744 wide, with a white title of up to three lines at the bottom left, dots at
 the bottom right and a close button at the top right. Taller screens cut off their upper 10 points.
-So each is 600 x 254: its middle 320 is a complete picture, from 24 to 160 below its top, and clear of the close button. Its wings
+So each is 600 x 254: its middle 320 is a complete picture, from 24 to 166 below its top, and clear of the close button. Its wings
 only go on with it, and below 186 there is nothing but the dark that the title stands on."""
 
 from kit.canvas import linear

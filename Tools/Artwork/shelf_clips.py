@@ -41,7 +41,7 @@ def page_ground(c, height, around):
 CARD_WIDTH, CARD_HEIGHT = 107, 143
 SPACING = 124
 # How far from either side the cards have faded into the page.
-FADE = 64
+FADE = 88
 
 
 @dataclass(frozen=True)
@@ -166,7 +166,7 @@ def guide(c, template, done, around):
 
 def fade_into_page(c, around):
     """Cards come and go at both sides without being cut."""
-    eased = ((0, 1), (0.1, 1), (0.3, 0.83), (0.5, 0.5), (0.7, 0.17), (0.85, 0.04), (1, 0))
+    eased = ((0, 1), (0.04, 1), (0.16, 0.96), (0.3, 0.85), (0.44, 0.66), (0.58, 0.42), (0.72, 0.2), (0.86, 0.05), (1, 0))
     stops = [(offset, around.page, share) for offset, share in eased]
     c.fill(Path.rect(-2, -2, FADE + 2, 175), linear((0, 0), (FADE, 0), *stops))
     c.fill(Path.rect(WIDTH - FADE, -2, FADE + 2, 175), linear((WIDTH, 0), (WIDTH - FADE, 0), *stops))
@@ -189,7 +189,7 @@ def templates(c, phase, around):
             with middle.placed(-CARD_WIDTH / 2, -CARD_HEIGHT / 2) as card:
                 outline = Path.rounded(0, 0, CARD_WIDTH, CARD_HEIGHT, 8)
                 if around.shadow:
-                    card.soft_shadow(outline, 1.5, 4, 5, INK, around.shadow * (1.15 - 0.5 * distance), 5)
+                    card.soft_shadow(outline, 1.5, 4, 5, INK, around.shadow * (1.15 - 0.5 * distance), 9)
                 blank_card(card, template, around)
                 filled = 1.0 if offset < 0 else done if offset == 0 else 0.0
                 filled_card(card, template, filled)
