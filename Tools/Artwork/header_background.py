@@ -2,15 +2,16 @@
 
 import math
 
+from shapely.affinity import scale as scaled
 from shapely.affinity import translate
 from shapely.geometry import box
 
-from kit.canvas import Canvas, from_polygon, linear
-from kit.geometry import Path
+from kit.canvas import Canvas, from_polygon, linear, radial
+from kit.geometry import Path, Transform
 from kit.palette import SUN_DEEP, TEAL, TEAL_LIGHT, VIOLET, darker, lighter
 from kit.photos import photo
 from kit.stickers import silhouette
-from paywall_stage import BLEED, CENTER, HEIGHT, WIDTH, deepen, scrim
+from paywall_stage import BLEED, CENTER, FOOT_TOP, HEIGHT, WIDTH, deepen, scrim
 
 
 def curved_leaf(c, base, bend, tip, width, tone):
@@ -55,8 +56,9 @@ LEAVES = (
 )
 
 
-def plant(c, x, mouth):
-    """Leaves in a coral pot on a wooden stand; the mouth of the pot is centred at (x, mouth)."""
+def plant(c):
+    """Leaves in a coral pot on a wooden stand; the mouth of the pot is centred at the origin."""
+    x = mouth = 0
     wood = linear((x - 26, 0), (x + 26, 0), "#C98F58", "#8E5A34")
     for side in (-1, 1):
         c.fill(
@@ -88,34 +90,33 @@ def plant(c, x, mouth):
 
 def room(c):
     c.fill(
-        Path.rect(-BLEED, -BLEED, CENTER + BLEED, HEIGHT + 2 * BLEED), linear((0, 0), (CENTER, HEIGHT * 0.8), "#FBDDB8", "#F0B288")
+        Path.rect(-BLEED, -BLEED, CENTER + BLEED, HEIGHT + 2 * BLEED), linear((0, 0), (CENTER, HEIGHT * 0.8), "#FBDDB8", "#EBA87C")
     )
     for left in (52, 122):
         c.fill(
             Path.polygon([(left, -4), (left + 60, -4), (left + 122, 140), (left + 62, 140)]),
             linear((left, 0), (left + 100, 140), (0, "#FFF7E8", 0.7), (1, "#FFF7E8", 0.15)),
         )
-    frame = Path.rounded(128, 28, 56, 70, 3)
-    c.long_shadow(frame, 18, 50, "#7A3F1E", 0.30)
-    c.fill(frame, linear((128, 28), (184, 98), "#9C6238", "#6E4023"))
-    c.fill(Path.rect(131.5, 31.5, 49, 63), "#FFF9EF")
-    photo(c, "dusk", 138, 38.5, 36, 49, 1)
-    shelf = Path.rounded(4, 110, 98, 5, 2)
+    frame = Path.rounded(154, 34, 48, 60, 3)
+    c.long_shadow(frame, 15, 50, "#7A3F1E", 0.26)
+    c.fill(frame, linear((154, 34), (202, 94), "#9C6238", "#6E4023"))
+    c.fill(Path.rect(157, 37, 42, 54), "#FFF9EF")
+    photo(c, "dusk", 162.5, 43, 31, 42, 1)
+    shelf = Path.rounded(8, 104, 98, 5, 2)
     c.long_shadow(shelf, 12, 60, "#7A3F1E", 0.24)
-    c.fill(shelf, linear((4, 110), (102, 115), "#A86C3C", "#7E4B29"))
+    c.fill(shelf, linear((8, 104), (106, 109), "#A86C3C", "#7E4B29"))
     for x, width, height, tone, turn in (
-        (14, 9, 42, TEAL, 0),
-        (24, 11, 36, VIOLET, 0),
-        (36, 8, 46, SUN_DEEP, 0),
-        (45, 12, 38, "#E8694F", 0),
-        (64, 9, 40, "#3C8FC9", -9),
+        (18, 9, 42, TEAL, 0),
+        (28, 11, 36, VIOLET, 0),
+        (40, 8, 46, SUN_DEEP, 0),
+        (49, 12, 38, "#E8694F", 0),
+        (68, 9, 40, "#3C8FC9", -9),
     ):
-        with c.placed(x, 110, turn) as book:
+        with c.placed(x, 104, turn) as book:
             book.fill(
                 Path.rounded(0, -height, width, height, 1.6), linear((0, 0), (width, 0), lighter(tone, 0.14), darker(tone, 0.12))
             )
             book.fill(Path.rect(0, -height + 6, width, 1.6), "#FFF4DC", 0.7)
-    c.fill(Path.rect(0, 164, CENTER, 90), linear((0, 164), (0, HEIGHT), "#A9633A", "#6B3A22"))
 
 
 def checkerboard(c, left):
@@ -137,26 +138,53 @@ def ripple(c, x, y):
     c.fill(Path.ellipse(x, y, 6.2), linear((x - 6, y - 6), (x + 6, y + 6), "#14A39B", TEAL))
 
 
+def plant_at(c, x, mouth, scale):
+    with c.placed(x, mouth, 0, scale) as place:
+        plant(place)
+
+
+def floor_shade(c, x, y):
+    """The stand's shade where it meets the floor; the wall runs into the floor without an edge."""
+    with c.mapped(Transform.translation(x + 10, y) @ Transform.scale(1, 0.13)) as flat:
+        flat.fill(Path.ellipse(0, 0, 56), radial((0, 0), 56, (0, "#4A1E0C", 0.55), (0.5, "#4A1E0C", 0.26), (1, "#4A1E0C", 0)))
+
+
+def product_card(c, x, y):
+    """What the cut-out is good for: the same plant on a page of its own."""
+    outline = Path.rounded(x, y, 76, 92, 8)
+    c.soft_shadow(outline, 3, 6, 9, "#06302F", 0.20, 8)
+    c.fill(outline, linear((x, y), (x + 76, y + 92), "#FFDC82", "#FFB53E"))
+    c.fill(Path.ellipse(x + 38, y + 44, 29), "#FFF1CC", 0.75)
+    plant_at(c, x + 38, y + 51, 0.36)
+    c.text("New leaf", "sora-bold", 10.5, x + 38, y + 84, "#5A2B00", "center")
+
+
+SCALE, MOUTH = 0.86, 111
+
+
 def header_c(dark):
     c = Canvas(WIDTH, HEIGHT)
+    area = scaled(silhouette(plant), SCALE, SCALE, origin=(0, 0))
+    area = translate(area, CENTER, MOUTH)
     room(c)
+    with c.clipped(Path.rect(-50, -10, CENTER + 50, HEIGHT + 10)) as left:
+        floor_shade(left, CENTER, MOUTH + 57 * SCALE)
     checkerboard(c, CENTER)
     deepen(c, dark)
-    scrim(c, "#071A1C", 104)
-    mouth = 114
-    area = silhouette(lambda pen: plant(pen, CENTER, mouth))
+    scrim(c, dark, 92)
+    product_card(c, 496, 58)
     half = box(CENTER, -10, WIDTH, HEIGHT)
     with c.clipped(Path.rect(-50, -10, CENTER + 50, HEIGHT + 10)) as left:
         left.fill(
-            from_polygon(translate(area, 9, 10)),
-            linear((CENTER - 90, 20), (CENTER, 150), (0, "#6B2F14", 0.30), (1, "#6B2F14", 0.14)),
+            from_polygon(translate(area, 8, 9)),
+            linear((CENTER - 80, 20), (CENTER, 140), (0, "#6B2F14", 0.26), (1, "#6B2F14", 0.12)),
         )
-    c.fill(from_polygon(area.buffer(4.2, 8).intersection(half)), TEAL_LIGHT)
-    c.fill(from_polygon(area.buffer(2.6, 8).intersection(half)), "#FFFFFF")
-    plant(c, CENTER, mouth)
+    c.fill(from_polygon(area.buffer(4.0, 8).intersection(half)), TEAL_LIGHT)
+    c.fill(from_polygon(area.buffer(2.5, 8).intersection(half)), "#FFFFFF")
+    plant_at(c, CENTER, MOUTH, SCALE)
     c.fill(
-        Path.rect(CENTER - 1, 0, 2, HEIGHT),
-        linear((0, 0), (0, HEIGHT), (0, "#FFFFFF", 1), (0.55, "#FFFFFF", 0.95), (0.71, "#FFFFFF", 0)),
+        Path.rect(CENTER - 1, -BLEED, 2, FOOT_TOP + BLEED),
+        linear((0, 0), (0, FOOT_TOP), (0, "#FFFFFF", 1), (0.6, "#FFFFFF", 0.95), (0.92, "#FFFFFF", 0)),
     )
-    ripple(c, CENTER, 78)
+    ripple(c, CENTER, 80)
     return c

@@ -38,18 +38,20 @@ def squiggle(c, x, y, color):
 
 def nineties(c, phase):
     backdrop(c, "#46D2C8", "#0F9A93")
-    drift = phase * H / 3
+    # Each row stands half a column further right, and one round moves the pattern on by exactly one row.
+    pitch, step = 47, H / 3
     for row in range(-1, 4):
-        for column in range(2):
-            x, y = 7 + column * 47 + (row % 2) * 14, row * H / 3 + drift
+        for column in range(-1, 3):
+            x = (7 + column * pitch + (row + phase) * pitch / 2 + pitch) % (4 * pitch) - pitch
+            y = (row + phase) * step
             squiggle(c, x, y + 10, "#FF6F5B")
             with c.placed(x + 26, y + 28, 360 * phase) as spun:
                 spun.stroke(Path.polygon([(-5, 4), (5, 4), (0, -5)]), "#FFE28A", 1.9)
             for i in range(4):
                 c.fill(Path.ellipse(x + 3 + (i % 2) * 5.5, y + 32 + (i // 2) * 5.5, 1.25), "#FFFFFF", 0.9)
             c.fill(Path.rounded(x + 20, y + 44, 13, 4.4, 2.2), "#6D5BD0")
-    size = fitted_size("90s", "spartan-black", 74)
-    lean = (7 * swing(phase), 6 + 3 * swing(phase, 1, 0.25))
+    size = fitted_size("90s", "spartan-black", 70)
+    lean = (6 * swing(phase), 6 + 3 * swing(phase, 1, 0.25))
     base = H / 2 + size * 0.36
     steps = 9
     for i in range(steps, 0, -1):
@@ -82,8 +84,6 @@ def confetti(c, phase):
                 generator.random(),
             )
         )
-    size = fitted_size("Hooray", "cherry", 76)
-
     def fall(drawn):
         for x, start, falls, turns, sway, length, tone, shift in drawn:
             y = ((start + phase * falls) % 1) * (H + 24) - 12
@@ -91,45 +91,66 @@ def confetti(c, phase):
                 flip = 0.35 + 0.65 * abs(math.cos(2 * math.pi * (phase * 2 + shift)))
                 piece.fill(Path.rounded(-length / 2, -length * flip * 0.7, length, length * 1.4 * flip, 0.8), tone)
 
-    fall(pieces[:47])
-    with c.placed(W / 2, H / 2, 2.5 * swing(phase), 1 + 0.03 * swing(phase, 2)) as word:
-        word.fill(text_path("Hooray", "cherry", size, 1.2, size * 0.3 + 2.2, "center"), "#8E1F1C", 0.35)
-        word.text("Hooray", "cherry", size, 0, size * 0.3, "#FFFFFF", "center")
-    c.text("you are invited", "inter-semibold", 7, W / 2, H / 2 + 27, "#FFF1DC", "center")
-    fall(pieces[47:])
+    fall(pieces)
+    # The words stand on a card, so that nothing falls across them.
+    with c.placed(W / 2, H / 2, 2.5 * swing(phase), 1 + 0.02 * swing(phase, 2)) as card:
+        outline = Path.rounded(-38, -29, 76, 58, 8)
+        card.soft_shadow(outline, 2, 4, 5, "#7A1512", 0.34, 5)
+        card.fill(outline, linear((-38, -29), (38, 29), "#FFFDF8", "#FFF0DC"))
+        size = fitted_size("Hooray", "cherry", 64)
+        card.text("Hooray", "cherry", size, 0, size * 0.12, "#D9382C", "center")
+        card.text("you are invited", "inter-bold", 7.6, 0, 18.5, "#4A1F1C", "center")
 
 
-# A lipstick that turns itself out
+# A lipstick that draws a stroke
+
+
+def along(points, share):
+    """What comes before a share of a line's length, ending exactly there."""
+    lengths = [math.dist(a, b) for a, b in zip(points, points[1:])]
+    left, shown = share * sum(lengths), points[:1]
+    for (x0, y0), (x1, y1), length in zip(points, points[1:], lengths):
+        part = min(1, left / length)
+        shown.append((x0 + (x1 - x0) * part, y0 + (y1 - y0) * part))
+        left -= length
+        if left <= 0:
+            break
+    return shown
+
+
+def lipstick_tube(c):
+    """The lipstick, its tip at the origin."""
+    bullet = Path().move(-9.5, 40).line(-9.5, 9).cubic(-9.5, -1, 2, -5.5, 9.5, -3.5).line(9.5, 40).close()
+    case = Path.rounded(-15, 50, 30, 80, 3)
+    for part in (bullet, Path.rounded(-11.5, 34, 23, 18, 1.6), case):
+        c.fill(part.moved(6, 4), "#8E2A22", 0.14)
+    c.fill(bullet, linear((-9.5, 0), (9.5, 0), "#FF7A6B", "#E5443F", "#B8242B"))
+    c.fill(
+        Path.rounded(-11.5, 34, 23, 18, 1.6),
+        linear((-11.5, 0), (11.5, 0), (0, "#FFE9B0"), (0.3, "#FFF8E0"), (0.6, "#E0A94A"), (1, "#B97C26")),
+    )
+    c.fill(case, linear((-15, 0), (15, 0), (0, "#3A434A"), (0.25, "#56616A"), (1, "#15191C")))
+    c.fill(Path.rect(-15, 56, 30, 2.2), "#FFD98B")
 
 
 def lipstick(c, phase):
     backdrop(c, "#FFE0D8", "#FFB3A6")
-    # The loop opens on the lipstick turned out, so that a still of its start shows the thing.
-    out = there_and_back((phase + 0.45) % 1, 0.42, 0.62)
+    # The loop opens on the finished stroke, so that a still of its start shows the thing.
+    phase = (phase + 0.52) % 1
     c.fill(Path.polygon([(-10, -5), (34, -5), (W + 16, H + 5), (46, H + 5)]), "#FFFFFF", 0.3)
-    smear = Path.smooth([(-12, 74), (22, 64), (50, 76), (78, 62), (108, 70)], tension=0.7)
-    points = smear.flattened(0.05)[0]
-    shown = points[: max(2, int(len(points) * ease(span(out, 0.1, 1))))]
-    if out > 0.12:
-        c.stroke(Path.polyline(shown), "#E5443F", 17, 0.9)
-        c.stroke(Path.polyline([(x, y - 3.6) for x, y in shown]), "#FF7A6B", 3.4, 0.75)
     c.text("lippy", "lobster", 31, W / 2, 38, "#B8242B", "center")
-    x, mouth = W / 2, 118
-    rise = 6 + 32 * out
-    bullet = Path().move(x - 11, mouth + 6).line(x - 11, mouth - rise + 7)
-    bullet.cubic(x - 11, mouth - rise - 7, x + 4, mouth - rise - 13, x + 11, mouth - rise - 10).line(x + 11, mouth + 6).close()
-    c.fill(Path.polygon([(x + 14, 168), (x + 14, mouth), (W + 10, mouth + 44), (W + 10, 175)]), "#8E2A22", 0.16)
-    c.fill(bullet, linear((x - 11, 0), (x + 11, 0), "#FF7A6B", "#E5443F", "#B8242B"))
-    twist = 4 * swing(out / 2)
-    c.fill(
-        Path.rounded(x - 13, mouth - 2, 26, 18, 1.6),
-        linear((x - 13, 0), (x + 13, 0), (0, "#FFE9B0"), (0.3 + twist / 40, "#FFF8E0"), (0.6, "#E0A94A"), (1, "#B97C26")),
-    )
-    c.fill(
-        Path.rounded(x - 17, mouth + 14, 34, 44, 3),
-        linear((x - 17, 0), (x + 17, 0), (0, "#3A434A"), (0.25, "#56616A"), (1, "#15191C")),
-    )
-    c.fill(Path.rect(x - 17, mouth + 20, 34, 2.4), "#FFD98B")
+    line = Path.smooth([(16, 76), (32, 64), (47, 74), (62, 63), (78, 71)], tension=0.7).flattened(0.02)[0]
+    drawn = along(line, ease(span(phase, 0.04, 0.50)))
+    stays = 1 - ease(span(phase, 0.70, 0.90))
+    if phase > 0.04 and stays > 0.01:
+        c.stroke(Path.polyline(drawn), "#E5443F", 14, stays)
+        c.stroke(Path.polyline([(x, y - 3) for x, y in drawn]), "#FF7A6B", 2.8, 0.8 * stays)
+    # The tip is where the stroke ends; afterwards it goes back through the air.
+    back = ease(span(phase, 0.66, 0.98))
+    (x0, y0), (x1, y1) = drawn[-1], line[0]
+    x, y = x0 + (x1 - x0) * back, y0 + (y1 - y0) * back + 30 * math.sin(math.pi * back)
+    with c.placed(x, y, 13 * (x - W / 2) / 31) as held:
+        lipstick_tube(held)
 
 
 # Film night: a leader counting down between two perforated edges
@@ -206,7 +227,7 @@ def grow(c, phase):
 
 
 def sock(c, x, y, degrees, body, stripe, toe):
-    with c.placed(x, y, degrees, 0.98) as place:
+    with c.placed(x, y, degrees, 0.84) as place:
         outline = Path().move(-11, 0).line(11, 0).line(11.5, 36).cubic(11.5, 42, 14, 45, 20, 49)
         outline.cubic(30, 56, 31, 68, 20, 70).cubic(10, 72, -2, 66, -8, 60).cubic(-12, 56, -12.5, 50, -12.5, 44).close()
         place.fill(outline, linear((-12, 0), (26, 66), lighter(body, 0.14), darker(body, 0.08)))
@@ -222,41 +243,45 @@ def sock(c, x, y, degrees, body, stripe, toe):
 def socks(c, phase):
     backdrop(c, "#FFD976", "#FBAE3C")
     c.fill(Path.polygon([(-10, -5), (30, -5), (104, H), (60, H)]), "#FFFFFF", 0.16)
-    c.text("ODD SOCK", "bebas", fitted_size("ODD SOCK", "bebas", 78), W / 2, 139, "#4A2A05", "center")
-    c.text("appreciation day", "inter-semibold", 6.9, W / 2, 151, "#4A2A05", "center")
-    c.stroke(Path.smooth([(-6, 22), (26, 28), (64, 27.5), (100, 20)]), "#7A4A0A", 1.1)
-    sock(c, 19, 25.5, 6 * swing(phase), "#0F9A93", "#FFF3D6", "#FF6F5B")
-    sock(c, 62, 27, 6 * swing(phase, 1, -0.14), "#6D5BD0", "#FFC655", "#7CC4F2")
+    c.text("ODD SOCK", "bebas", fitted_size("ODD SOCK", "bebas", 70), W / 2, 136, "#4A2A05", "center")
+    c.text("appreciation day", "inter-semibold", 6.9, W / 2, 148, "#4A2A05", "center")
+    c.stroke(Path.smooth([(-6, 30), (26, 36), (64, 35.5), (100, 28)]), "#7A4A0A", 1.1)
+    sock(c, 20, 33.5, 5 * swing(phase, 1, 0.25), "#0F9A93", "#FFF3D6", "#FF6F5B")
+    sock(c, 58, 35, 5 * swing(phase, 1, 0.11), "#6D5BD0", "#FFC655", "#7CC4F2")
 
 
 # A cup of tea from above, its motto going round
 
 
+def teacup(c, phase):
+    """On its saucer, around the origin."""
+    c.fill(Path.ellipse(6, 8, 33), radial((6, 8), 33, (0, "#5C4326", 0.5), (0.75, "#5C4326", 0.28), (1, "#5C4326", 0)))
+    c.fill(Path.ellipse(0, 0, 31), linear((-25, -25), (25, 25), "#FFFFFF", "#D9E2DE"))
+    with c.placed(0, 0, 38) as grip:
+        grip.fill(Path.rounded(16, -4, 15, 8, 4), linear((0, -4), (0, 4), "#FF8A6E", "#D94B3D"))
+    c.fill(Path.ellipse(0, 0, 21.5), linear((-18, -18), (18, 18), "#FF8F74", "#D94B3D"))
+    c.fill(Path.ellipse(0, 0, 18.4), linear((-15, -15), (15, 15), "#A9521C", "#DF9440"))
+    with c.clipped(Path.ellipse(0, 0, 18.4)) as tea:
+        for i in range(3):
+            with tea.placed(0, 0, 360 * phase * 2 + i * 120) as swirl:
+                swirl.stroke(Path.smooth([(2, 0), (7, 4), (10, 11), (6, 18)], tension=0.7), "#F6C98B", 1.8, 0.75)
+    with c.placed(0, 0, 360 * phase * 2 + 30) as leaf_:
+        leaf_.fill(blade(-6, 3, 12, 6, -26), linear((-6, 3), (6, -3), "#0E6A5F", "#3BA58D"))
+
+
 def teaspin(c, phase):
     backdrop(c, "#F3E8D5", "#DCC7A2")
-    cx, cy = W / 2, 70
-    c.fill(
-        Path.ellipse(cx + 6, cy + 8, 33),
-        radial((cx + 6, cy + 8), 33, (0, "#5C4326", 0.5), (0.75, "#5C4326", 0.28), (1, "#5C4326", 0)),
-    )
-    c.fill(Path.ellipse(cx, cy, 31), linear((cx - 25, cy - 25), (cx + 25, cy + 25), "#FFFFFF", "#D9E2DE"))
-    with c.placed(cx, cy, 38) as grip:
-        grip.fill(Path.rounded(16, -4, 15, 8, 4), linear((0, -4), (0, 4), "#FF8A6E", "#D94B3D"))
-    c.fill(Path.ellipse(cx, cy, 21.5), linear((cx - 18, cy - 18), (cx + 18, cy + 18), "#FF8F74", "#D94B3D"))
-    c.fill(Path.ellipse(cx, cy, 18.4), linear((cx - 15, cy - 15), (cx + 15, cy + 15), "#A9521C", "#DF9440"))
-    with c.clipped(Path.ellipse(cx, cy, 18.4)) as tea:
-        for i in range(3):
-            with tea.placed(cx, cy, 360 * phase * 2 + i * 120) as swirl:
-                swirl.stroke(Path.smooth([(2, 0), (7, 4), (10, 11), (6, 18)], tension=0.7), "#F6C98B", 1.8, 0.75)
-    with c.placed(cx, cy, 360 * phase * 2 + 30) as leaf_:
-        leaf_.fill(blade(-6, 3, 12, 6, -26), linear((-6, 3), (6, -3), "#0E6A5F", "#3BA58D"))
-    motto, radius, size = "TEA TIME  •  TEA TIME  •  ", 37.5, 10.5
-    step = 360 / len(motto)
+    cx, cy = W / 2, 68
+    with c.placed(cx, cy, scale=0.84) as place:
+        teacup(place, phase)
+    motto, radius, size = "TEA TIME • TEA TIME • ", 30.8, 8.8
+    widths = [text_width(letter, "sora-bold", size) + 1 for letter in motto]
     for i, letter in enumerate(motto):
-        with c.placed(cx, cy, i * step + 360 * phase) as place:
+        turn = (sum(widths[:i]) + widths[i] / 2) / sum(widths)
+        with c.placed(cx, cy, 360 * (turn + phase)) as place:
             place.text(letter, "sora-bold", size, 0, -radius, "#8A3F1D", "center")
-    c.text("Steep", "didot-italic", 25, W / 2, 143, "#4A2A16", "center")
-    c.text("three minutes", "inter-medium", 6.8, W / 2, 155, "#4A2A16", "center")
+    c.text("Steep", "didot-italic", 25, W / 2, 138, "#4A2A16", "center")
+    c.text("three minutes", "inter-medium", 6.8, W / 2, 150, "#4A2A16", "center")
 
 
 # A pineapple among its drifting slices
@@ -285,8 +310,7 @@ def pineapple(c, phase):
     for x, start, radius, turns in ((10, 0.05, 14, 1), (84, 0.30, 17, -1), (16, 0.55, 11, -1), (80, 0.78, 12, 1)):
         y = H + 24 - ((start + phase) % 1) * (H + 48)
         pineapple_ring(c, x + 2.5 * swing(phase, 1, start), y, radius, 360 * turns * phase)
-    cx, cy = W / 2, 92
-    with c.placed(cx, cy + 30, 5 * swing(phase)) as fruit:
+    with c.placed(W / 2, 120, 5 * swing(phase)) as fruit:
         for degrees, length in ((-128, 26), (-52, 26), (-146, 20), (-34, 20), (-108, 31), (-72, 31), (-90, 35)):
             fruit.fill(blade(0, -56, length, length * 0.36, degrees), linear((0, -56), (0, -92), "#0B6A5F", "#54B79B"))
         body = Path.ellipse(0, -28, 23, 31)
@@ -295,7 +319,10 @@ def pineapple(c, phase):
             for i in range(-5, 6):
                 skin.stroke(Path.smooth([(i * 10 - 34, -62), (i * 10, -28), (i * 10 + 34, 6)]), "#B96A12", 1.1, 0.6)
                 skin.stroke(Path.smooth([(i * 10 + 34, -62), (i * 10, -28), (i * 10 - 34, 6)]), "#B96A12", 1.1, 0.6)
-    c.text("juicy", "lobster", 30, W / 2, 150, "#FFF3D6", "center")
+    # The slices dive into the juice, so that none of them passes behind the word.
+    waves(c, 119, 2.2, 47, -phase, "#F0757B", 0.55)
+    waves(c, 122, 2.4, 47, phase + 0.4, linear((0, 118), (0, H), "#C42A48", "#8F1A3C"))
+    c.text("juicy", "lobster", 29, W / 2, 149, "#FFF3D6", "center")
 
 
 # A sale tag on its string
@@ -355,8 +382,9 @@ def summer(c, phase):
         )
 
 
+# The two that move all over get a little less quality, so that no clip is much larger than the others.
 LIBRARY = (
-    Clip("90s3D", W, H, 4, nineties),
+    Clip("90s3D", W, H, 4, nineties, quality=18),
     Clip("LHxVELA_Confetti", W, H, 4, confetti),
     Clip("LIPPY", W, H, 4, lipstick),
     Clip("VELA_FILM", W, H, 3, film),
@@ -364,6 +392,6 @@ LIBRARY = (
     Clip("VELA_SOCKS-", W, H, 4, socks),
     Clip("VELA_TEASPIN", W, H, 6, teaspin),
     Clip("PINEAPPLE", W, H, 5, pineapple),
-    Clip("sale_blue", W, H, 4, sale_tag),
+    Clip("sale_blue", W, H, 4, sale_tag, quality=16),
     Clip("Summer", W, H, 4, summer),
 )

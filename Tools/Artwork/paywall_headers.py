@@ -3,13 +3,13 @@
 from kit.canvas import Canvas, linear
 from kit.geometry import Path, Transform
 from kit.palette import TEAL
-from kit.photos import photo
+from kit.photos import SCENES, photo
 from kit.stickers import sticker
 from kit.templates import page
 from kit.type_outlines import text_path
 from header_background import header_c
 from header_business import header_d
-from paywall_stage import CENTER, HEIGHT, WIDTH, bleed, deepen, scrim
+from paywall_stage import CENTER, FOOT_TOP, HEIGHT, WIDTH, bleed, deepen, scrim
 
 # A: a wall of layouts
 
@@ -43,17 +43,17 @@ def wall(c):
 def header_a(dark):
     c = Canvas(WIDTH, HEIGHT)
     c.fill(bleed(), linear((0, 0), (WIDTH, HEIGHT), "#F8F0E3", "#E6D5BB"))
-    c.document.drawn_height = 188
+    c.document.drawn_height = FOOT_TOP
     wall(c)
     c.document.drawn_height = HEIGHT
     c.fill(bleed(), linear((0, 0), (WIDTH * 0.7, HEIGHT), (0, "#FFF6E6", 0.34), (0.5, "#FFF6E6", 0.0), (1, "#1A2A2C", 0.22)))
     deepen(c, dark)
-    scrim(c, "#071B1E", 86)
-    with c.placed(CENTER - 46, 20, 5) as hero:
-        outline = Path.rounded(0, 0, 108, 144, 7)
-        hero.long_shadow(outline, 62, 50, "#10211F", 0.42)
-        hero.soft_shadow(outline, 5, 9, 12, "#0F1E1C", 0.30)
-        page(hero, "market", 0, 0, 108, 144, 7)
+    scrim(c, dark, 92)
+    with c.placed(CENTER - 47, 25, 5) as hero:
+        outline = Path.rounded(0, 0, 104, 130, 7)
+        # It floats well above the desk: its shadow is wide, soft and light.
+        hero.soft_shadow(outline, 7, 13, 17, "#0F1E1C", 0.34, 14)
+        page(hero, "market", 0, 0, 104, 130, 7)
     return c
 
 
@@ -76,79 +76,100 @@ def photo_tile(c, scene, x, y, width, height):
 def film_tile(c, x, y, width, height):
     """A film frame with its perforations and a play triangle."""
     tile(c, x, y, width, height, linear((x, y), (x + width, y + height), "#2B333B", "#14191D"))
-    count, edge = 9, 11
+    count, edge = 8, 10
     pitch = (width - 12) / count
     for i in range(count):
-        for top in (y + 3.4, y + height - 3.4 - 5):
-            c.fill(Path.rounded(x + 6 + i * pitch + (pitch - 6.4) / 2, top, 6.4, 5, 1.7), "#F6F1E6", 0.9)
+        for top in (y + 3.2, y + height - 3.2 - 4.4):
+            c.fill(Path.rounded(x + 6 + i * pitch + (pitch - 6.4) / 2, top, 6.4, 4.4, 1.6), "#F6F1E6", 0.9)
     photo(c, "dusk", x + 5, y + edge + 1, width - 10, height - 2 * edge - 2, 4)
     cx, cy = x + width / 2, y + height / 2
-    c.fill(Path.ellipse(cx, cy + 1.5, 15.5), "#1A1030", 0.28)
-    c.fill(Path.ellipse(cx, cy, 14.5), "#FFFFFF")
-    triangle = Path.smooth([(cx - 4.2, cy - 6.2), (cx + 6.6, cy), (cx - 4.2, cy + 6.2)], closed=True, tension=0.14)
+    c.fill(Path.ellipse(cx, cy + 1.5, 13.5), "#1A1030", 0.28)
+    c.fill(Path.ellipse(cx, cy, 12.5), "#FFFFFF")
+    triangle = Path.smooth([(cx - 3.6, cy - 5.4), (cx + 5.7, cy), (cx - 3.6, cy + 5.4)], closed=True, tension=0.14)
     c.fill(triangle, TEAL)
 
 
 def sticker_tile(c, x, y, width, height):
     tile(c, x, y, width, height, linear((x, y), (x + width, y + height), "#F2EDFF", "#CFC5F6"))
-    with c.clipped(Path.rounded(x, y, width, height, TILE_RADIUS)) as sheet:
-        for name, sx, sy, radius, turn in (
-            ("daisy", 0.22, 0.30, 16, -8),
-            ("bolt", 0.52, 0.25, 13, 12),
-            ("heart", 0.82, 0.31, 13.5, 10),
-            ("rainbow", 0.25, 0.80, 16, -6),
-            ("cherries", 0.56, 0.73, 15.5, 4),
-            ("lemon", 0.85, 0.78, 13, 0),
-        ):
-            sticker(sheet, name, x + width * sx, y + height * sy, radius, turn, 0.14)
+    for name, sx, sy, radius, turn in (
+        ("daisy", 0.21, 0.27, 13, -8),
+        ("bolt", 0.53, 0.24, 11, 12),
+        ("heart", 0.81, 0.30, 11.5, 10),
+        ("rainbow", 0.22, 0.72, 13, -6),
+        ("cherries", 0.54, 0.68, 13, 4),
+        ("lemon", 0.82, 0.74, 11.5, 0),
+    ):
+        sticker(c, name, x + width * sx, y + height * sy, radius, turn, 0.14)
 
 
 def specimen_tile(c, x, y, width, height):
     """A large "Aa" between its guide lines, with other voices underneath."""
     tile(c, x, y, width, height, linear((x, y), (x + width, y + height), "#FFD67C", "#FBB443"))
-    base, size = y + 76, 70
+    base, size = y + 63, 58
     cap_top = text_path("A", "arapey-black", size, 0, base).bounds()[1]
     for guide in (cap_top, base):
-        c.fill(Path.rect(x + 9, guide, width - 18, 0.7), "#7A4A0A", 0.4)
+        c.fill(Path.rect(x + 8, guide, width - 16, 0.7), "#7A4A0A", 0.4)
     c.text("Aa", "arapey-black", size, x + width / 2, base, "#1B1512", "center")
-    cell, top = (width - 26) / 3, y + height - 53
-    for i, (text, face, size) in enumerate((("Gg", "lobster", 19), ("&", "garamond-italic", 24), ("R", "slab-bold", 23))):
-        left = x + 8 + i * (cell + 5)
-        c.fill(Path.rounded(left, top, cell, 44, 7), "#FFF4DA", 0.75)
-        c.text(text, face, size, left + cell / 2, top + 29.5, "#3A2410", "center")
+    cell, top = (width - 24) / 3, y + height - 44
+    for i, (text, face, size) in enumerate((("Gg", "lobster", 16), ("&", "garamond-italic", 20), ("R", "slab-bold", 19.5))):
+        left = x + 8 + i * (cell + 4)
+        c.fill(Path.rounded(left, top, cell, 34, 6), "#FFF4DA", 0.75)
+        c.text(text, face, size, left + cell / 2, top + 23.4, "#3A2410", "center")
 
 
 def shape_tile(c, x, y, width, height):
     tile(c, x, y, width, height, linear((x, y), (x + width, y + height), "#FF9A80", "#F2604C"))
-    with c.clipped(Path.rounded(x, y, width, height, TILE_RADIUS)) as inside:
-        inside.fill(
-            Path.scalloped(x + width * 0.62, y + height * 0.5, 25, 8, 0.13),
-            linear((x + 40, y), (x + 110, y + height), "#FFE7DC", "#FFC9B6"),
-        )
+    c.fill(
+        Path.scalloped(x + width * 0.5, y + height * 0.5, 21, 8, 0.13),
+        linear((x + 30, y), (x + 80, y + height), "#FFE7DC", "#FFC9B6"),
+    )
+
+
+# Where the mosaic stands.
+FLOOR = 154
+
+
+def reflection(c, x, width, color):
+    """What the polished floor gives back of a tile: its colour, softly, and only right under it."""
+    outline = Path.rounded(x, FLOOR + 2.5, width, 40, TILE_RADIUS)
+    c.fill(outline, linear((0, FLOOR + 2.5), (0, FOOT_TOP + 4), (0, color, 0.30), (0.45, color, 0.10), (1, color, 0)))
+
+
+def beach_tile(c, x, y, width, height):
+    """Nothing but sand and water, as the close button lies on it."""
+    outline = Path.rounded(x, y, width, height, TILE_RADIUS)
+    c.soft_shadow(outline, 3, 6, 9, "#03100F", 0.34, 3)
+    with c.clipped(outline) as inside:
+        with inside.placed(x - 90, y) as shore:
+            SCENES["surf"](shore, width + 90, height)
 
 
 def header_b(dark):
     c = Canvas(WIDTH, HEIGHT)
     c.fill(bleed(), linear((0, 0), (WIDTH * 0.8, HEIGHT), "#14605D", "#0A3A3D", "#07242A"))
-    top, middle, foot = 14, 88, 168
-    photo_tile(c, "foliage", -16, top, 124, middle - 8 - top)
-    shape_tile(c, -16, middle, 124, foot - middle)
-    photo_tile(c, "lake", 116, top, 126, foot - top)
-    specimen_tile(c, 250, top, 110, foot - top)
-    film_tile(c, 368, top, 116, middle - 8 - top)
-    sticker_tile(c, 368, middle, 116, foot - middle)
-    photo_tile(c, "coffee", 492, top, 124, 84)
-    photo_tile(c, "poppy", 492, top + 92, 124, foot - top - 92)
-    for scene, x, width in (
-        ("surf", -16, 96),
-        ("arches", 88, 120),
-        ("city", 216, 110),
-        ("still_life", 334, 96),
-        ("road", 438, 178),
-    ):
-        photo_tile(c, scene, x, foot + 8, width, 90)
+    top, middle = 24, 88
+    photo_tile(c, "city", -40, top, 66, FLOOR - top)
+    photo_tile(c, "foliage", 34, top, 106, middle - 8 - top)
+    shape_tile(c, 34, middle, 106, FLOOR - middle)
+    film_tile(c, 148, top, 106, middle - 8 - top)
+    photo_tile(c, "lake", 148, middle, 106, FLOOR - middle)
+    specimen_tile(c, 262, top, 90, FLOOR - top)
+    beach_tile(c, 360, -18, 264, 76)
+    sticker_tile(c, 360, 66, 92, FLOOR - 66)
+    photo_tile(c, "coffee", 460, 66, 100, FLOOR - 66)
+    photo_tile(c, "poppy", 568, 66, 66, FLOOR - 66)
     deepen(c, dark)
-    scrim(c, "#06191C", 118)
+    scrim(c, dark, 134)
+    for x, width, color in (
+        (-40, 66, "#6A5FA8"),
+        (34, 106, "#F2604C"),
+        (148, 106, "#2C7F88"),
+        (262, 90, "#FBB443"),
+        (360, 92, "#CFC5F6"),
+        (460, 100, "#D9C3A3"),
+        (568, 66, "#8FB9E8"),
+    ):
+        reflection(c, x, width, color)
     return c
 
 

@@ -40,6 +40,8 @@ def page_ground(c, height, around):
 
 CARD_WIDTH, CARD_HEIGHT = 107, 143
 SPACING = 124
+# How far from either side the cards have faded into the page.
+FADE = 88
 
 
 @dataclass(frozen=True)
@@ -162,6 +164,14 @@ def guide(c, template, done, around):
         c.fill(Path.rounded(px - 1.9, py - 1.9, 3.8, 3.8, 1), "#FFFFFF", opacity)
 
 
+def fade_into_page(c, around):
+    """Cards come and go at both sides without being cut."""
+    eased = ((0, 1), (0.04, 1), (0.16, 0.96), (0.3, 0.85), (0.44, 0.66), (0.58, 0.42), (0.72, 0.2), (0.86, 0.05), (1, 0))
+    stops = [(offset, around.page, share) for offset, share in eased]
+    c.fill(Path.rect(-2, -2, FADE + 2, 175), linear((0, 0), (FADE, 0), *stops))
+    c.fill(Path.rect(WIDTH - FADE, -2, FADE + 2, 175), linear((WIDTH, 0), (WIDTH - FADE, 0), *stops))
+
+
 def templates(c, phase, around):
     page_ground(c, 171, around)
     # The loop opens on a finished template.
@@ -179,13 +189,14 @@ def templates(c, phase, around):
             with middle.placed(-CARD_WIDTH / 2, -CARD_HEIGHT / 2) as card:
                 outline = Path.rounded(0, 0, CARD_WIDTH, CARD_HEIGHT, 8)
                 if around.shadow:
-                    card.soft_shadow(outline, 1.5, 4, 5, INK, around.shadow * (1.15 - 0.5 * distance), 5)
+                    card.soft_shadow(outline, 1.5, 4, 5, INK, around.shadow * (1.15 - 0.5 * distance), 9)
                 blank_card(card, template, around)
                 filled = 1.0 if offset < 0 else done if offset == 0 else 0.0
                 filled_card(card, template, filled)
                 card.fill(outline, around.page, 0.42 * distance)
                 if offset == 0:
                     guide(card, template, done, around)
+    fade_into_page(c, around)
 
 
 # A brand landing on its board

@@ -4,7 +4,7 @@ from shapely.geometry import LineString, Point
 
 from kit.canvas import Canvas, from_polygon, linear, to_polygon
 from kit.geometry import Path
-from kit.palette import INK, NIGHT_PAGE, SUN, TEAL, TEAL_DEEP
+from kit.palette import INK, SUN, TEAL, TEAL_DEEP
 from kit.templates import fitted, fruit_slice, lines
 from kit.type_outlines import fitted_size
 
@@ -116,21 +116,33 @@ def device(c, x, y, width, height, radius, bezel, dark):
     return Path.rounded(x + bezel, y + bezel, width - 2 * bezel, height - 2 * bezel, max(1.5, radius - bezel))
 
 
-def shared_document(c, screen, dark):
+def shared_document(c, screen):
     """The poster that all three devices show, fitted to the screen it is on, in the editor's grey surroundings."""
     left, top, right, bottom = screen.bounds()
     w, h = right - left, bottom - top
+    page_height = min(h - 13, (w - 10) * 1.32)
+    page_width = page_height / 1.32
+    desk_and_poster(c, screen, left + (w - page_width) / 2, top + (h - page_height) / 2, page_width, page_height)
+
+
+def phone_document(c, screen):
+    """The same poster over the phone's whole width, with the editor's tools under it."""
+    left, top, right, bottom = screen.bounds()
+    desk_and_poster(c, screen, left + 3, top + 8, right - left - 6, bottom - top - 20)
+    for i in range(3):
+        c.fill(Path.ellipse((left + right) / 2 + (i - 1) * 8.5, bottom - 6.2, 2.2), TEAL if i == 1 else "#AEB8BB")
+    c.fill(Path.rounded((left + right) / 2 - 5, top + 2.6, 10, 2.6, 1.3), INK)
+
+
+def desk_and_poster(c, screen, x, y, width, height):
+    left, top, right, bottom = screen.bounds()
     with c.clipped(screen) as inside:
-        inside.fill(Path.rect(left, top, w, h), linear((left, top), (right, bottom), "#EEF1F0", "#DCE2E1"))
-        page_height = min(h - 13, (w - 10) * 1.32)
-        page_width = page_height / 1.32
-        x, y = left + (w - page_width) / 2, top + (h - page_height) / 2
-        frame = Path.rounded(x, y, page_width, page_height, page_width * 0.05)
+        inside.fill(Path.rect(left, top, right - left, bottom - top), linear((left, top), (right, bottom), "#EEF1F0", "#DCE2E1"))
+        frame = Path.rounded(x, y, width, height, width * 0.05)
         inside.soft_shadow(frame, 1, 2, 3, INK, 0.2, 4)
         with inside.placed(x, y) as place:
-            with place.clipped(Path.rounded(0, 0, page_width, page_height, page_width * 0.05)) as sheet:
-                swim_poster(sheet, page_width, page_height)
-        return x, y, page_width, page_height
+            with place.clipped(Path.rounded(0, 0, width, height, width * 0.05)) as sheet:
+                swim_poster(sheet, width, height)
 
 
 def swim_poster(c, w, h):
@@ -145,46 +157,52 @@ def swim_poster(c, w, h):
     c.text("hours", "sora-extrabold", 19 * u, 8 * u, 43 * u, "#0A4A50")
 
 
-def editor_rails(c, screen, dark):
+def editor_rails(c, screen):
     """Tool dots at the left of a wide screen, a panel at its right."""
     left, top, right, bottom = screen.bounds()
     with c.clipped(screen) as inside:
-        inside.fill(Path.rect(left, top, 15, bottom - top), "#FFFFFF")
+        inside.fill(Path.rect(left, top, 13, bottom - top), "#FFFFFF")
         for i in range(5):
-            inside.fill(Path.rounded(left + 4.5, top + 8 + i * 13, 6, 6, 2), TEAL if i == 1 else "#B4BEC1")
-        inside.fill(Path.rect(right - 42, top, 42, bottom - top), "#FFFFFF")
-        lines(inside, right - 36, top + 9, (20, 28), INK, 0.4, 6, 2.2)
+            inside.fill(Path.rounded(left + 4, top + 8 + i * 11.5, 5, 5, 1.7), TEAL if i == 1 else "#B4BEC1")
+        inside.fill(Path.rect(right - 36, top, 36, bottom - top), "#FFFFFF")
+        lines(inside, right - 30, top + 8, (17, 23), INK, 0.4, 5.4, 2)
         for i, tone in enumerate(("#0A7C78", "#FF6F5B", "#FFC655")):
-            inside.fill(Path.rounded(right - 36 + i * 11, top + 24, 8.5, 8.5, 2.6), tone)
-        lines(inside, right - 36, top + 41, (30, 24, 28), INK, 0.22, 6.5, 2.2)
+            inside.fill(Path.rounded(right - 30 + i * 9, top + 21, 7, 7, 2.2), tone)
+        lines(inside, right - 30, top + 35, (24, 19, 23), INK, 0.22, 5.8, 2)
 
 
 def laptop(c, x, y, dark):
-    screen = device(c, x, y, 182, 116, 8, 4.5, dark)
-    shared_document(c, screen, dark)
-    editor_rails(c, screen, dark)
-    base = Path().move(x - 17, y + 116).line(x + 199, y + 116).cubic(x + 199, y + 122, x + 194, y + 124.5, x + 188, y + 124.5)
-    base.line(x - 6, y + 124.5).cubic(x - 12, y + 124.5, x - 17, y + 122, x - 17, y + 116).close()
-    c.fill(base, linear((0, y + 116), (0, y + 125), *(("#8B979D", "#5C676D") if dark else ("#D9DEDF", "#A9B2B5"))))
-    c.fill(Path.rounded(x + 73, y + 116, 36, 3.6, 1.8), INK, 0.22)
+    """Its screen is 150 x 98; its base reaches 14 further at both sides."""
+    foot = y + 98
+    base = Path().move(x - 14, foot).line(x + 164, foot).cubic(x + 164, foot + 5, x + 160, foot + 7.5, x + 155, foot + 7.5)
+    base.line(x - 5, foot + 7.5).cubic(x - 10, foot + 7.5, x - 14, foot + 5, x - 14, foot).close()
+    c.long_shadow(base, 12, 52, INK, 0.16)
+    with c.clipped(Path.rect(0, 0, 343, foot)) as above:
+        screen = device(above, x, y, 150, 98, 7, 4, dark)
+    shared_document(c, screen)
+    editor_rails(c, screen)
+    c.fill(base, linear((0, foot), (0, foot + 8), *(("#8B979D", "#5C676D") if dark else ("#D9DEDF", "#A9B2B5"))))
+    c.fill(Path.rounded(x + 60, foot, 30, 3, 1.5), INK, 0.22)
 
 
-def cloud(c, x, y, dark):
-    """The place where the document lives, safe; a ring of the page's colour sets it off from the devices."""
-    shape = to_polygon(Path.rounded(x - 30, y - 4, 60, 22, 11), 0.02)
-    for dx, dy, radius in ((-12, -4, 13), (7, -8, 17)):
+def cloud(c, x, y):
+    """The place where the document lives, safe."""
+    shape = to_polygon(Path.rounded(x - 26, y - 3, 52, 19, 9.5), 0.02)
+    for dx, dy, radius in ((-10, -3, 11.5), (6, -7, 15)):
         shape = shape.union(Point(x + dx, y + dy).buffer(radius, 24))
-    c.fill(from_polygon(shape.buffer(4, 12)), NIGHT_PAGE if dark else "#FFFFFF")
-    c.fill(from_polygon(shape.buffer(2, 10).buffer(-2, 10)), linear((x - 28, y - 24), (x + 28, y + 18), "#27B3AA", "#0A7C78"))
-    c.fill(from_polygon(LineString([(x - 8, y + 2), (x - 2, y + 8), (x + 10, y - 5)]).buffer(2, 12)), "#FFFFFF")
+    outline = from_polygon(shape.buffer(2, 10).buffer(-2, 10))
+    c.long_shadow(outline, 9, 52, INK, 0.14)
+    c.fill(outline, linear((x - 24, y - 21), (x + 24, y + 16), "#27B3AA", "#0A7C78"))
+    c.fill(from_polygon(LineString([(x - 7, y + 2), (x - 2, y + 7), (x + 8.5, y - 4.5)]).buffer(1.8, 12)), "#FFFFFF")
 
 
 def cloud_devices(dark):
+    """The devices stand apart on one line, each of them and its shadow whole."""
     c = Canvas(343, 159)
-    laptop(c, 78, 22, dark)
-    shared_document(c, device(c, 16, 52, 76, 97, 8, 4, dark), dark)
-    shared_document(c, device(c, 270, 55, 48, 94, 10, 3, dark), dark)
-    cloud(c, 272, 29, dark)
+    shared_document(c, device(c, 10, 58, 62, 84, 7, 3.6, dark))
+    laptop(c, 96, 37, dark)
+    phone_document(c, device(c, 284, 62, 42, 80, 9, 2.8, dark))
+    cloud(c, 292, 31)
     return c
 
 

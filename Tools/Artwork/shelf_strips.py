@@ -4,6 +4,7 @@ A strip is repeated 21 times with 16 between the copies, so its tiles stand 16 a
 
 import math
 
+from shapely.affinity import scale
 from shapely.geometry import LineString
 
 from kit.canvas import Canvas, from_polygon, linear, to_polygon
@@ -25,7 +26,7 @@ from kit.palette import (
     mix,
 )
 from kit.photos import SCENES, photo
-from kit.stickers import STICKERS, sticker
+from kit.stickers import STICKERS, silhouette, sticker
 from kit.templates import lines
 from kit.type_outlines import fitted_size, text_path
 
@@ -82,6 +83,11 @@ def selection(c, left, top, right, bottom, dark):
         handle(c, x, y, 5.4, dark=dark)
 
 
+def shade(c, path, length, tone, dark):
+    """A shape's long shadow: in its own deep tone by day, stronger and without colour by night."""
+    c.long_shadow(path, length, 50, *(("#04080A", 0.40) if dark else (tone, 0.16)))
+
+
 def outline_frame(c, left, top, right, bottom, dark):
     frame = [(left, top), (right, top), (right, bottom), (left, bottom), (left, top)]
     c.fill(from_polygon(LineString(frame).buffer(0.7, join_style=2)), guide_color(dark))
@@ -97,7 +103,7 @@ def slider(c, x, y, width, share, tone, dark):
 def shape_selected_star(c, x, w, h, dark):
     cx, cy, r = x + w / 2, h / 2 + 7, 46
     path = Path.scalloped(cx, cy, r, 9, 0.13, 4)
-    c.long_shadow(path, 22, 50, "#5A1B10", 0.16)
+    shade(c, path, 22, "#5A1B10", dark)
     c.fill(path, linear((cx - r, cy - r), (cx + r, cy + r), "#FF977D", "#EE5040"))
     selection(c, cx - 54, cy - 54, cx + 54, cy + 54, dark)
 
@@ -106,7 +112,7 @@ def shape_bezier(c, x, w, h, dark):
     points = [(0.18, 0.62), (0.34, 0.24), (0.66, 0.30), (0.83, 0.58), (0.60, 0.80), (0.36, 0.74)]
     nodes = [(x + px * w, py * h) for px, py in points]
     path = Path.smooth(nodes, closed=True, tension=0.62)
-    c.long_shadow(path, 20, 50, "#1F155A", 0.16)
+    shade(c, path, 20, "#1F155A", dark)
     c.fill(path, linear((x + w * 0.2, h * 0.2), (x + w * 0.8, h * 0.8), "#9C8CF0", "#5846BE"))
     c.stroke(path, guide_color(dark), 1.6)
     for i, (px, py) in enumerate(nodes):
@@ -121,7 +127,7 @@ def shape_bezier(c, x, w, h, dark):
 def shape_corners(c, x, w, h, dark):
     left, top, width, height = x + 32, 34, w - 64, h - 78
     path = Path.rounded(left, top, width, height, 25)
-    c.long_shadow(path, 20, 50, "#5A3A08", 0.16)
+    shade(c, path, 20, "#5A3A08", dark)
     c.fill(path, linear((left, top), (left + width, top + height), "#FFDD86", "#F8B03B"))
     outline_frame(c, left, top, left + width, top + height, dark)
     for px, py in (
@@ -139,7 +145,7 @@ def shape_union(c, x, w, h, dark):
     first = Path.rounded(x + 24, cy - 48, 74, 74, 12)
     second = Path.ellipse(x + w - 62, cy + 14, 40)
     joined = from_polygon(to_polygon(first, 0.02).union(to_polygon(second, 0.02)))
-    c.long_shadow(joined, 22, 50, "#03302E", 0.16)
+    shade(c, joined, 22, "#03302E", dark)
     c.fill(joined, linear((x + 24, cy - 48), (x + w - 20, cy + 54), "#3CCBC1", "#0A7C78"))
     c.fill(from_polygon(to_polygon(first, 0.02).intersection(to_polygon(second, 0.02))), "#FFFFFF", 0.34)
     for path in (first, second):
@@ -150,7 +156,7 @@ def shape_sides(c, x, w, h, dark):
     cx, cy, r = x + w / 2, h / 2 - 14, 43
     points = [(cx + r * math.cos(math.radians(-90 + i * 60)), cy + r * math.sin(math.radians(-90 + i * 60))) for i in range(6)]
     path = from_polygon(to_polygon(Path.polygon(points)).buffer(-5).buffer(5, 10))
-    c.long_shadow(path, 20, 50, "#0B2F4A", 0.16)
+    shade(c, path, 20, "#0B2F4A", dark)
     c.fill(path, linear((cx - r, cy - r), (cx + r, cy + r), "#93D2F8", "#3E93CF"))
     pill = Path.rounded(cx - 45, h - 40, 90, 24, 12)
     c.fill(pill, "#2A3338" if dark else "#FFFFFF")
@@ -163,6 +169,9 @@ def shape_sides(c, x, w, h, dark):
 
 def shape_swatches(c, x, w, h, dark):
     cx, cy = x + w / 2, h / 2 - 16
+    with c.placed(cx, cy, -6) as place:
+        heart = from_polygon(scale(silhouette(STICKERS["heart"]), 46, 46, origin=(0, 0)))
+        shade(place, heart, 20, "#2A2440", dark)
     with c.placed(cx, cy, -6, 46) as place:
         STICKERS["heart"](place)
     heart_colors = ("#6D5BD0", "#FF6F5B", "#FFC655", "#0A7C78", "#7CC4F2")

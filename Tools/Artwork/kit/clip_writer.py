@@ -70,6 +70,9 @@ class Clip:
             str(self.quality),
             "-threads",
             "1",
+            "-x264-params",
+            # A change of quality from the last picture to the first would be a jump: those on both sides of the seam get more bits.
+            f"zones=0,0,b=2/{count - 2},{count - 1},b=3",
             "-g",
             "48",
             "-bf",

@@ -37,44 +37,47 @@ def dusk(c, w, h):
     )
 
 
+LAKE_FAR = ((-0.1, 0.6), (0.16, 0.30), (0.27, 0.41), (0.36, 0.33), (0.62, 0.6))
+LAKE_PEAK = ((0.3, 0.6), (0.66, 0.16), (1.05, 0.6))
+LAKE_LIT_SIDE = ((0.66, 0.16), (0.70, 0.32), (0.64, 0.40), (0.68, 0.6), (0.3, 0.6))
+LAKE_SNOW = (
+    (0.66, 0.16),
+    (0.754, 0.267),
+    (0.72, 0.30),
+    (0.70, 0.27),
+    (0.675, 0.33),
+    (0.64, 0.27),
+    (0.61, 0.31),
+    (0.573, 0.267),
+)
+LAKE_SHORE = ((-0.1, 0.55), (0.1, 0.50), (0.25, 0.565), (0.5, 0.575), (0.75, 0.545), (0.92, 0.50), (1.1, 0.54))
+WATERLINE = 0.6
+
+
 def lake(c, w, h):
+    def area(points):
+        return Path.polygon([(w * x, h * y) for x, y in points])
+
+    def mirrored(points):
+        """As the water gives it back: upside down and a little shorter."""
+        return [(x, WATERLINE + (WATERLINE - y) * 0.82) for x, y in points]
+
+    def sinking(color, opacity):
+        return linear((0, h * WATERLINE), (0, h * 0.98), (0, color, opacity), (1, color, opacity * 0.3))
+
     c.fill(Path.rect(0, 0, w, h), linear((0, 0), (0, h * 0.6), "#7CC4F2", "#DDF0F6", "#FDF1DC"))
-    c.fill(
-        Path.polygon([(w * x, h * y) for x, y in [(-0.1, 0.6), (0.16, 0.30), (0.27, 0.41), (0.36, 0.33), (0.62, 0.6)]]),
-        linear((0, h * 0.3), (0, h * 0.62), "#9FB6D6", "#C9D6E2"),
-    )
-    peak = [(0.3, 0.6), (0.66, 0.16), (1.05, 0.6)]
-    c.fill(Path.polygon([(w * x, h * y) for x, y in peak]), linear((w * 0.4, h * 0.2), (w * 0.9, h * 0.6), "#7A8FBC", "#5B7299"))
-    c.fill(
-        Path.polygon([(w * x, h * y) for x, y in [(0.66, 0.16), (0.70, 0.32), (0.64, 0.40), (0.68, 0.6), (0.3, 0.6)]]),
-        linear((w * 0.4, h * 0.2), (w * 0.6, h * 0.6), "#C5D1E6", "#8FA5CB"),
-    )
-    c.fill(
-        Path.polygon(
-            [
-                (w * x, h * y)
-                for x, y in [
-                    (0.66, 0.16),
-                    (0.754, 0.267),
-                    (0.72, 0.30),
-                    (0.70, 0.27),
-                    (0.675, 0.33),
-                    (0.64, 0.27),
-                    (0.61, 0.31),
-                    (0.573, 0.267),
-                ]
-            ]
-        ),
-        "#FFFFFF",
-    )
-    c.fill(
-        ridge(w, h, [(-0.1, 0.55), (0.1, 0.50), (0.25, 0.565), (0.5, 0.575), (0.75, 0.545), (0.92, 0.50), (1.1, 0.54)]), "#2E6B6B"
-    )
-    c.fill(Path.rect(0, h * 0.6, w, h * 0.42), linear((0, h * 0.6), (0, h), "#6FB7BE", "#2C7F88", "#14555E"))
-    c.fill(Path.polygon([(w * x, h * y) for x, y in [(0.46, 0.6), (0.93, 0.6), (0.74, 0.78), (0.66, 0.84)]]), "#D9ECEC", 0.22)
-    for i, (x, y, length) in enumerate(
-        [(0.1, 0.7, 0.22), (0.52, 0.74, 0.3), (0.3, 0.82, 0.2), (0.66, 0.88, 0.26), (0.08, 0.92, 0.3)]
-    ):
+    c.fill(area(LAKE_FAR), linear((0, h * 0.3), (0, h * 0.62), "#9FB6D6", "#C9D6E2"))
+    c.fill(area(LAKE_PEAK), linear((w * 0.4, h * 0.2), (w * 0.9, h * 0.6), "#7A8FBC", "#5B7299"))
+    c.fill(area(LAKE_LIT_SIDE), linear((w * 0.4, h * 0.2), (w * 0.6, h * 0.6), "#C5D1E6", "#8FA5CB"))
+    c.fill(area(LAKE_SNOW), "#FFFFFF")
+    c.fill(ridge(w, h, LAKE_SHORE), "#2E6B6B")
+    c.fill(Path.rect(0, h * WATERLINE, w, h * 0.42), linear((0, h * WATERLINE), (0, h), "#8CC9CE", "#3E8F9A", "#17606B"))
+    c.fill(area(mirrored(LAKE_PEAK)), sinking("#3F5E8C", 0.62))
+    c.fill(area(mirrored(LAKE_LIT_SIDE)), sinking("#B9CBE4", 0.50))
+    c.fill(area(mirrored(LAKE_SNOW)), "#FFFFFF", 0.34)
+    shore = [(w * x, h * y) for x, y in mirrored(LAKE_SHORE)]
+    c.fill(Path.smooth(shore).line(w * 1.1, h * WATERLINE).line(-w * 0.1, h * WATERLINE).close(), "#1D5559", 0.85)
+    for x, y, length in ((0.04, 0.70, 0.22), (0.58, 0.76, 0.34), (0.24, 0.83, 0.24), (0.66, 0.90, 0.26), (0.06, 0.94, 0.3)):
         c.fill(Path.rounded(w * x, h * y, w * length, h * 0.012, h * 0.006), "#E9F6F3", 0.4)
 
 
