@@ -20,6 +20,11 @@ constexpr Word<TextsFormat> textsFormats[] = {
     {"json", TextsFormat::json},
 };
 
+constexpr Word<LintFormat> lintFormats[] = {
+    {"text", LintFormat::text},
+    {"json", LintFormat::json},
+};
+
 template <class Value, std::size_t count>
 Value readWord(const char* key, const std::string& given, const Word<Value> (&words)[count]) {
     const Json all{{key, given}};
@@ -108,15 +113,36 @@ private:
     DeviceOptions m_device;
 };
 
+class Lint final : public Command {
+public:
+    explicit Lint(CLI::App& parent) {
+        CLI::App& command = *parent.add_subcommand("lint", "What is wrong with offers and with translations");
+        command.add_option("OFFERS.json", m_offers, "The offers")->required();
+        command.add_option("--strings", m_strings, "A folder of <language>.lproj/Localizable.strings");
+        command.add_option("--accept", m_accepted, "A file of findings that are known, each with a reason");
+        command.add_option("--format", m_format, "text or json");
+        command.footer("Exit status: 0 nothing is wrong; 1 something is, each on a line of its own; 2 unusable input.\n\n"
+                       "Example: proupsells lint offers.json --strings translations");
+    }
+
+    Arguments read() const override {
+        return LintArguments{system::pathOf(m_offers), readFile(m_strings), readFile(m_accepted),
+                             readWord("format", m_format, lintFormats)};
+    }
+
+private:
+    std::string m_offers, m_strings, m_accepted, m_format = "text";
+};
+
 } // namespace
 
 Arguments readCommandLine(int count, const char* const* arguments) {
-    CLI::App app{"Shows the ProUpsells screens in a window, plays a script of them without one, lists their texts, or says what a "
-                 "screen reader says of them.",
+    CLI::App app{"Shows the ProUpsells screens in a window, plays a script of them without one, and tells what is in them and what "
+                 "is wrong.",
                  "proupsells"};
     app.require_subcommand(1);
     std::unique_ptr<Command> commands[] = {std::make_unique<Show>(app), std::make_unique<Run>(app), std::make_unique<Texts>(app),
-                                           std::make_unique<Read>(app)};
+                                           std::make_unique<Read>(app), std::make_unique<Lint>(app)};
     const auto all = app.get_subcommands([](const CLI::App*) { return true; });
     const auto chosen = [&] { return std::find_if(all.begin(), all.end(), [](const CLI::App* each) { return each->parsed(); }); };
     try {

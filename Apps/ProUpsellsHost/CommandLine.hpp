@@ -33,10 +33,19 @@ struct ReadArguments {
     Device device;                                            // of a screen
 };
 
+enum class LintFormat { text, json };
+
+struct LintArguments {
+    std::filesystem::path offers;
+    std::optional<std::filesystem::path> strings;  // a folder of translations
+    std::optional<std::filesystem::path> accepted; // findings that are known
+    LintFormat format = LintFormat::text;
+};
+
 // Only help was asked for, and has been printed.
 struct HelpShown {};
 
-using Arguments = std::variant<RunArguments, ShowArguments, TextsArguments, ReadArguments, HelpShown>;
+using Arguments = std::variant<RunArguments, ShowArguments, TextsArguments, ReadArguments, LintArguments, HelpShown>;
 
 // Throws InputError with "command line" in the place of a file.
 Arguments readCommandLine(int count, const char* const* arguments);
