@@ -1,70 +1,18 @@
 #include "Apps/ProUpsellsHost/CommandLine.hpp"
 
-#include <array>
 #include <iostream>
+#include <memory>
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
+#include "Apps/ProUpsellsHost/DeviceOptions.hpp"
 #include "Apps/ProUpsellsHost/InputError.hpp"
-#include "Platform/Foundation/DecimalText.hpp"
 #include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
 
 namespace {
-
-constexpr const char* place = "command line";
-
-// The numbers between separators as a JSON array. Anything else stays a text, which the device's reader refuses.
-Json numbersOr(const std::string& text, char separator) {
-    Json numbers = Json::array();
-    for (std::size_t start = 0;;) {
-        const std::size_t end = std::min(text.find(separator, start), text.size());
-        const auto reading = foundation::readDecimal(std::string_view(text).substr(start, end - start));
-        if (!reading || reading->length != end - start) return text;
-        numbers.push_back(reading->number);
-        if (end == text.size()) return numbers;
-        start = end + 1;
-    }
-}
-
-Json text(const std::string& given) { return given; }
-Json size(const std::string& given) { return numbersOr(given, 'x'); }
-Json insets(const std::string& given) { return numbersOr(given, ','); }
-Json number(const std::string& given) {
-    const Json numbers = numbersOr(given, ' ');
-    return numbers.is_array() ? numbers.front() : numbers;
-}
-
-Json flag(const std::string& given) { return given == "true"; }
-
-// An option that stands for a key of the device.
-struct DeviceOption {
-    const char* name;
-    const char* key;
-    const char* help;
-    Json (*read)(const std::string& given);
-};
-
-constexpr DeviceOption deviceOptions[] = {
-    {"--size", "size", "The window in points, such as 375x800", size},
-    {"--scale", "scale", "Pixels a point", number},
-    {"--appearance", "appearance", "light or dark", text},
-    {"--locale", "locale", "Language and region, such as de_AT", text},
-    {"--layout-direction", "layoutDirection", "auto, ltr or rtl", text},
-    {"--text-size", "textSize", "extraSmall ... accessibilityExtraExtraExtraLarge", text},
-    {"--reduce-motion", "reduceMotion", "Less movement", flag},
-    {"--safe-area", "safeArea", "Top, left, bottom, right in points, such as 0,0,34,0", insets},
-    {"--strings", "strings", "A folder of <language>.lproj/Localizable.strings", text},
-    {"--theme", "theme", "A file with colours, typefaces and pictures of a brand", text},
-};
-
-constexpr Word<StartScreen> startScreens[] = {
-    {"paywall", StartScreen::paywall},
-    {"comparison", StartScreen::comparison},
-    {"store", StartScreen::store},
-};
 
 constexpr Word<TextsFormat> textsFormats[] = {
     {"strings", TextsFormat::strings},
@@ -72,75 +20,141 @@ constexpr Word<TextsFormat> textsFormats[] = {
     {"json", TextsFormat::json},
 };
 
-struct ShowOptions {
-    std::string offers, start = "paywall";
-    std::array<std::string, std::size(deviceOptions)> device; // empty where an option is left out
-
-    void addTo(CLI::App& command) {
-        command.add_option("OFFERS.json", offers, "The offers; the sample ones when left out");
-        for (std::size_t i = 0; i < device.size(); ++i) {
-            const auto& [name, key, help, read] = deviceOptions[i];
-            if (read == flag)
-                command.add_flag(name, device[i], help);
-            else
-                command.add_option(name, device[i], help);
-        }
-        command.add_option("--start", start, "paywall, comparison or store");
-    }
-
-    ShowArguments read() const {
-        Json values = Json::object();
-        for (std::size_t i = 0; i < device.size(); ++i)
-            if (!device[i].empty()) values[deviceOptions[i].key] = deviceOptions[i].read(device[i]);
-        const Json all{{"device", values}, {"start", start}};
-
-        const JsonCursor cursor{all, place};
-        ShowArguments result;
-        if (!offers.empty()) result.offers = system::pathOf(offers);
-        result.device = readDevice(cursor.at("device"), std::filesystem::current_path());
-        result.start = cursor.at("start").oneOf(startScreens);
-        return result;
-    }
+constexpr Word<LintFormat> lintFormats[] = {
+    {"text", LintFormat::text},
+    {"json", LintFormat::json},
 };
 
-TextsArguments readTexts(const std::string& format) {
-    const Json all{{"format", format}};
-    return {JsonCursor{all, place}.at("format").oneOf(textsFormats)};
+template <class Value, std::size_t count>
+Value readWord(const char* key, const std::string& given, const Word<Value> (&words)[count]) {
+    const Json all{{key, given}};
+    return JsonCursor{all, commandLinePlace}.at(key).oneOf(words);
 }
+
+std::optional<std::filesystem::path> readFile(const std::string& given) {
+    return given.empty() ? std::nullopt : std::optional(system::pathOf(given));
+}
+
+// What every subcommand does: it names its options, and reads them once they have been parsed. It lives as long as the parser.
+class Command {
+public:
+    virtual ~Command() = default;
+    virtual Arguments read() const = 0;
+};
+
+class Show final : public Command {
+public:
+    explicit Show(CLI::App& parent) {
+        CLI::App& command = *parent.add_subcommand("show", "A window; one line for every event on standard output until it closes");
+        command.add_option("OFFERS.json", m_offers, "The offers; the sample ones when left out");
+        m_device.addTo(command);
+        command.add_option("--start", m_start, "paywall, comparison or store");
+    }
+
+    Arguments read() const override {
+        const Device device = m_device.read();
+        return ShowArguments{readFile(m_offers), device, readWord("start", m_start, startScreens)};
+    }
+
+private:
+    std::string m_offers, m_start = "paywall";
+    DeviceOptions m_device;
+};
+
+class Run final : public Command {
+public:
+    explicit Run(CLI::App& parent) {
+        CLI::App& command = *parent.add_subcommand("run", "A scripted run on a virtual clock, without a window");
+        command.add_option("SCENARIO.json", m_scenario, "The script")->required();
+        command.add_option("--out", m_folder, "Where pictures go; the current folder when left out");
+    }
+
+    Arguments read() const override { return RunArguments{system::pathOf(m_scenario), readFile(m_folder).value_or(".")}; }
+
+private:
+    std::string m_scenario, m_folder;
+};
+
+class Texts final : public Command {
+public:
+    explicit Texts(CLI::App& parent) {
+        CLI::App& command = *parent.add_subcommand("texts", "Every text of the screens with its comment, for translators");
+        command.add_option("--format", m_format, "strings, pot or json");
+    }
+
+    Arguments read() const override { return TextsArguments{readWord("format", m_format, textsFormats)}; }
+
+private:
+    std::string m_format = "strings";
+};
+
+class Read final : public Command {
+public:
+    explicit Read(CLI::App& parent) {
+        CLI::App& command = *parent.add_subcommand("read", "What a screen reader says, as text to compare");
+        command.add_option("SCREEN", m_subject, "paywall, comparison, store, or the file of a scenario")->required();
+        command.add_option("--offers", m_offers, "The offers of a screen; the sample ones when left out");
+        m_device.addTo(command);
+        command.footer("A scenario has a device of its own; what each of its steps changes is told below it.\n\n"
+                       "Example: proupsells read paywall --locale de_DE --strings translations > paywall.txt");
+    }
+
+    Arguments read() const override {
+        ReadArguments result{.subject = StartScreen::paywall, .offers = readFile(m_offers), .device = m_device.read()};
+        if (const auto screen = entryFor(m_subject, startScreens); screen != std::end(startScreens))
+            result.subject = screen->value;
+        else
+            result.subject = system::pathOf(m_subject);
+        return result;
+    }
+
+private:
+    std::string m_subject, m_offers;
+    DeviceOptions m_device;
+};
+
+class Lint final : public Command {
+public:
+    explicit Lint(CLI::App& parent) {
+        CLI::App& command = *parent.add_subcommand("lint", "What is wrong with offers and with translations");
+        command.add_option("OFFERS.json", m_offers, "The offers")->required();
+        command.add_option("--strings", m_strings, "A folder of <language>.lproj/Localizable.strings");
+        command.add_option("--accept", m_accepted, "A file of findings that are known, each with a reason");
+        command.add_option("--format", m_format, "text or json");
+        command.footer("Exit status: 0 nothing is wrong; 1 something is, each on a line of its own; 2 unusable input.\n\n"
+                       "Example: proupsells lint offers.json --strings translations");
+    }
+
+    Arguments read() const override {
+        return LintArguments{system::pathOf(m_offers), readFile(m_strings), readFile(m_accepted),
+                             readWord("format", m_format, lintFormats)};
+    }
+
+private:
+    std::string m_offers, m_strings, m_accepted, m_format = "text";
+};
 
 } // namespace
 
 Arguments readCommandLine(int count, const char* const* arguments) {
-    CLI::App app{"Shows the ProUpsells screens in a window, plays a script of them without one, or lists their texts.",
+    CLI::App app{"Shows the ProUpsells screens in a window, plays a script of them without one, and tells what is in them and what "
+                 "is wrong.",
                  "proupsells"};
     app.require_subcommand(1);
-    ShowOptions showOptions;
-    CLI::App* show = app.add_subcommand("show", "A window; one line for every event on standard output until it closes");
-    showOptions.addTo(*show);
-
-    RunArguments runArguments{.folder = "."};
-    std::string scenario, folder;
-    CLI::App* run = app.add_subcommand("run", "A scripted run on a virtual clock, without a window");
-    run->add_option("SCENARIO.json", scenario, "The script")->required();
-    run->add_option("--out", folder, "Where pictures go; the current folder when left out");
-
-    std::string format = "strings";
-    CLI::App* texts = app.add_subcommand("texts", "Every text of the screens with its comment, for translators");
-    texts->add_option("--format", format, "strings, pot or json");
-
+    std::unique_ptr<Command> commands[] = {std::make_unique<Show>(app), std::make_unique<Run>(app), std::make_unique<Texts>(app),
+                                           std::make_unique<Read>(app), std::make_unique<Lint>(app)};
+    const auto all = app.get_subcommands([](const CLI::App*) { return true; });
+    const auto chosen = [&] { return std::find_if(all.begin(), all.end(), [](const CLI::App* each) { return each->parsed(); }); };
     try {
         app.parse(count, arguments);
     } catch (const CLI::CallForHelp&) {
-        std::cout << (show->parsed() ? show : run->parsed() ? run : texts->parsed() ? texts : &app)->help();
+        std::cout << (chosen() == all.end() ? &app : *chosen())->help();
         return HelpShown{};
     } catch (const CLI::ParseError& error) {
-        throw InputError(place, "", std::string(error.what()) + ", expected arguments as `proupsells --help` lists them");
+        throw InputError(commandLinePlace, "",
+                         std::string(error.what()) + ", expected arguments as `proupsells --help` lists them");
     }
-    if (show->parsed()) return showOptions.read();
-    if (texts->parsed()) return readTexts(format);
-    runArguments.scenario = system::pathOf(scenario);
-    if (!folder.empty()) runArguments.folder = system::pathOf(folder);
-    return runArguments;
+    return commands[chosen() - all.begin()]->read();
 }
 
 } // namespace proupsells::hostprogram

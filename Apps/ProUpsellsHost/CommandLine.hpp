@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "Apps/ProUpsellsHost/Device.hpp"
+#include "Apps/ProUpsellsHost/StartScreen.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -13,8 +14,6 @@ struct RunArguments {
     std::filesystem::path scenario;
     std::filesystem::path folder; // of snapshots
 };
-
-enum class StartScreen { paywall, comparison, store };
 
 struct ShowArguments {
     std::optional<std::filesystem::path> offers; // absent: the sample offers
@@ -28,10 +27,25 @@ struct TextsArguments {
     TextsFormat format = TextsFormat::strings;
 };
 
+struct ReadArguments {
+    std::variant<StartScreen, std::filesystem::path> subject; // a screen, or a scenario
+    std::optional<std::filesystem::path> offers;              // of a screen; absent: the sample offers
+    Device device;                                            // of a screen
+};
+
+enum class LintFormat { text, json };
+
+struct LintArguments {
+    std::filesystem::path offers;
+    std::optional<std::filesystem::path> strings;  // a folder of translations
+    std::optional<std::filesystem::path> accepted; // findings that are known
+    LintFormat format = LintFormat::text;
+};
+
 // Only help was asked for, and has been printed.
 struct HelpShown {};
 
-using Arguments = std::variant<RunArguments, ShowArguments, TextsArguments, HelpShown>;
+using Arguments = std::variant<RunArguments, ShowArguments, TextsArguments, ReadArguments, LintArguments, HelpShown>;
 
 // Throws InputError with "command line" in the place of a file.
 Arguments readCommandLine(int count, const char* const* arguments);

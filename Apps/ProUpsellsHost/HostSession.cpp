@@ -85,6 +85,11 @@ bool HostSession::isShowing() const { return m_entry->presentingViewController()
 
 void HostSession::present() { m_window->rootViewController()->present(m_entry, true); }
 
+void HostSession::open(StartScreen screen) {
+    if (screen == StartScreen::comparison) send({UpsellViewModel::TapEvent::ComparePlans{}});
+    if (screen == StartScreen::store) send({UpsellViewModel::TapEvent::WhatIsPro{}});
+}
+
 void HostSession::setDevice(const Device& device) {
     const bool hasOtherFonts = device.fonts != m_device.fonts;
     const bool hasOtherLanguage = device.locale != m_device.locale || device.strings != m_device.strings;

@@ -7,6 +7,7 @@
 #include "Apps/ProUpsellsHost/HostLedger.hpp"
 #include "Apps/ProUpsellsHost/Offers.hpp"
 #include "Apps/ProUpsellsHost/Scenario.hpp"
+#include "Apps/ProUpsellsHost/StartScreen.hpp"
 #include "Backends/FFmpeg/ClipPlugin.hpp"
 #include "Platform/Host/Services.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
@@ -33,6 +34,8 @@ public:
 
     // Presents the entry controller, animated.
     void present();
+    // Leads on from the paywall to another screen, as its buttons do.
+    void open(StartScreen screen);
     void setDevice(const Device& device);
     void set(const SetStep& step);
     // Sends one of the paywall's tap events, as if a control had.

@@ -3,6 +3,8 @@
 #include <iostream>
 
 #include "Apps/ProUpsellsHost/InputError.hpp"
+#include "Apps/ProUpsellsHost/LintCommand.hpp"
+#include "Apps/ProUpsellsHost/ReadCommand.hpp"
 #include "Apps/ProUpsellsHost/RunCommand.hpp"
 #include "Apps/ProUpsellsHost/TextsCommand.hpp"
 
@@ -14,6 +16,8 @@ int runProgram(int count, const char* const* arguments, const std::function<int(
         const Arguments command = readCommandLine(count, arguments);
         if (const auto* run = std::get_if<RunArguments>(&command)) return runScenario(run->scenario, run->folder);
         if (const auto* shown = std::get_if<ShowArguments>(&command)) return show(*shown);
+        if (const auto* read = std::get_if<ReadArguments>(&command)) return readAloud(*read);
+        if (const auto* lint = std::get_if<LintArguments>(&command)) return lintOffers(*lint);
         if (const auto* texts = std::get_if<TextsArguments>(&command)) printTexts(texts->format);
         return done;
     } catch (const std::runtime_error& error) {

@@ -180,8 +180,10 @@ Scenario readScenario(const std::filesystem::path& file) {
         if (host.has("delegate")) scenario.hasDelegate = host.at("delegate").boolean();
     }
     Surroundings surroundings{folder, scenario.device};
-    if (root.has("steps"))
+    if (root.has("steps")) {
         for (const JsonCursor& step : root.at("steps").elements()) scenario.steps.push_back(readStep(step, surroundings));
+        for (const Json& step : json["steps"]) scenario.stepTexts.push_back(step.dump());
+    }
     return scenario;
 }
 

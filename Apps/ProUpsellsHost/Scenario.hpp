@@ -83,6 +83,7 @@ struct Scenario {
     bool hasTracker = true;
     bool hasDelegate = true;
     std::vector<Step> steps;
+    std::vector<std::string> stepTexts; // each step as JSON, on one line
 };
 
 // Throws InputError.

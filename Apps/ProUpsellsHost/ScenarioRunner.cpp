@@ -42,15 +42,17 @@ geometry::Point withoutRounding(geometry::Point point) {
 } // namespace
 
 ScenarioRunner::ScenarioRunner(const Scenario& scenario, runloop::MainRunLoop& loop, HostSession& session,
-                               std::shared_ptr<EventLog> log, std::filesystem::path folder)
+                               std::shared_ptr<EventLog> log, std::optional<std::filesystem::path> folder)
     : m_scenario(scenario), m_session(session), m_log(std::move(log)), m_folder(std::move(folder)), m_driver(loop, session) {}
 
-bool ScenarioRunner::run() {
+bool ScenarioRunner::run(const Watch& watch) {
     m_session.present();
     m_driver.finishTransitions();
+    if (watch) watch(nullptr);
     for (m_step = 0; m_step < m_scenario.steps.size(); ++m_step) {
         std::visit([this](const auto& step) { perform(step); }, m_scenario.steps[m_step]);
         m_driver.finishTransitions();
+        if (watch) watch(&m_scenario.stepTexts[m_step]);
     }
     return m_allHeld;
 }
@@ -113,11 +115,12 @@ void ScenarioRunner::perform(const DumpStep&) {
 }
 
 void ScenarioRunner::perform(const SnapshotStep& step) {
+    if (!m_folder) return;
     const Device& device = m_session.device();
-    const auto pixels = writeSnapshot(m_session.window(), device.size, device.scale, m_folder, step.file);
+    const auto pixels = writeSnapshot(m_session.window(), device.size, device.scale, *m_folder, step.file);
     if (!pixels)
         throw InputError(system::textOf(m_scenario.file), stepPointer() + "/snapshot",
-                         "\"" + system::textOf(m_folder / system::pathOf(step.file)) +
+                         "\"" + system::textOf(*m_folder / system::pathOf(step.file)) +
                              "\" cannot be written, expected a folder that can be written to");
     m_log->write("snapshot", {{"file", step.file}, {"pixels", Json::array({pixels->width, pixels->height})}});
 }

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
+#include <optional>
 
 #include "Apps/ProUpsellsHost/Driver.hpp"
 #include "Apps/ProUpsellsHost/EventLog.hpp"
@@ -13,13 +15,16 @@ namespace proupsells::hostprogram {
 
 class ScenarioRunner {
 public:
-    // Snapshots go to `folder`, which is made when the first one is taken.
+    // Called with the scenario's step that has just been performed; with null once the entry controller has appeared.
+    using Watch = std::function<void(const std::string* stepText)>;
+
+    // Snapshots go to `folder`, which is made when the first one is taken; none are taken without it.
     ScenarioRunner(const Scenario& scenario, runloop::MainRunLoop& loop, HostSession& session, std::shared_ptr<EventLog> log,
-                   std::filesystem::path folder);
+                   std::optional<std::filesystem::path> folder);
 
     // Presents the entry controller and runs the steps. Returns whether every expectation held; each that did not is one line on
     // standard error. Throws InputError for a step that cannot be done.
-    bool run();
+    bool run(const Watch& watch = {});
 
 private:
     void perform(const TapStep&);
@@ -41,7 +46,7 @@ private:
     const Scenario& m_scenario;
     HostSession& m_session;
     std::shared_ptr<EventLog> m_log;
-    std::filesystem::path m_folder;
+    std::optional<std::filesystem::path> m_folder;
     Driver m_driver;
     std::size_t m_step = 0;
     bool m_allHeld = true;

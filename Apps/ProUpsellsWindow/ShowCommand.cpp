@@ -17,11 +17,6 @@ constexpr int done = 0, noDisplay = 3;
 // How often to look whether the paywall has been closed, which closes the window.
 constexpr double closedCheckInterval_s = 0.25;
 
-void open(HostSession& session, StartScreen start) {
-    if (start == StartScreen::comparison) session.send({UpsellViewModel::TapEvent::ComparePlans{}});
-    if (start == StartScreen::store) session.send({UpsellViewModel::TapEvent::WhatIsPro{}});
-}
-
 } // namespace
 
 int showOffers(const ShowArguments& arguments) {
@@ -44,7 +39,7 @@ int showOffers(const ShowArguments& arguments) {
     const auto watch = loop.scheduleRepeating(closedCheckInterval_s, [&] {
         if (session->window().isTransitioning()) return;
         if (!session->isShowing()) return qtbackend::Application::quit(done);
-        if (!std::exchange(hasOpened, true)) open(*session, arguments.start);
+        if (!std::exchange(hasOpened, true)) session->open(arguments.start);
     });
     session->present();
     const int status = application.run();

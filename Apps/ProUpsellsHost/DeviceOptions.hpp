@@ -1,0 +1,32 @@
+// The options that stand for keys of a device.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "Apps/ProUpsellsHost/Device.hpp"
+
+namespace CLI {
+
+class App;
+
+} // namespace CLI
+
+namespace proupsells::hostprogram {
+
+// What stands in the place of a file in complaints about arguments.
+inline constexpr const char* commandLinePlace = "command line";
+
+// Lives as long as the command that it was added to.
+class DeviceOptions {
+public:
+    void addTo(CLI::App& command);
+    // Throws InputError.
+    Device read() const;
+
+private:
+    static constexpr std::size_t count = 10;
+    std::array<std::string, count> m_values; // empty where an option is left out
+};
+
+} // namespace proupsells::hostprogram

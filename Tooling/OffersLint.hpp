@@ -1,0 +1,24 @@
+// What a customer would see go wrong with a host's offers.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "ProUpsells/SubscriptionOption.hpp"
+#include "Tooling/LintFinding.hpp"
+
+namespace proupsells::tooling {
+
+struct OffersToLint {
+    std::vector<SubscriptionOption> options;
+    // Struck through beside the plans' prices; absent when no promotion is on.
+    std::optional<std::string> annualComparisonPrice{};
+    std::optional<std::string> monthlyComparisonPrice{};
+};
+
+// By rules, and within them in the order of the plans. Places are pointers into an offers file, such as "/options/0/price". Main
+// thread only.
+std::vector<LintFinding> lint(const OffersToLint& offers);
+
+} // namespace proupsells::tooling
