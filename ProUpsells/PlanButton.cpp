@@ -50,6 +50,11 @@ PlanButton::PlanButton() : m_titleLabel(std::make_shared<uikit::UILabel>()) {
     layOut(std::make_shared<ForwardArrow>());
 }
 
+void PlanButton::layoutSubviews() {
+    UIButton::layoutSubviews();
+    setCornerRadius(bounds().height() / 2);
+}
+
 void PlanButton::applyTexts() {
     const std::string title = foundation::LocaleServices::current().titleCased(foundation::localizedString("choose your plan"),
                                                                                foundation::Locale::current());

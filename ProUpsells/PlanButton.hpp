@@ -17,6 +17,7 @@ public:
     // Reads the title anew, in the language of the moment.
     void applyTexts();
     void languageDidChange() override { applyTexts(); }
+    void layoutSubviews() override;
 
 private:
     void layOut(const std::shared_ptr<uikit::UIView>& arrow);

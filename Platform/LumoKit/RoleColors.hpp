@@ -9,7 +9,7 @@ using graphics::Color;
 using graphics::rgb;
 
 // The platform's own colour for texts.
-inline constexpr Color platformPrimary{"primary", rgb(0x000000), rgb(0xFFFFFF)};
+inline constexpr Color platformPrimary{"primary", rgb(0x15191C), rgb(0xF3F5F4)};
 
 // What is read: texts and icons.
 namespace ContentColor {
@@ -21,7 +21,7 @@ inline constexpr Color inverse{"ContentColor.inverse", rgb(0xFFFFFF), rgb(0x0F13
 
 namespace BackgroundColor {
 // The strongest one: ink on paper, paper on ink.
-inline constexpr Color level4{"BackgroundColor.level4", rgb(0x15191C), rgb(0xF3F5F4)};
+inline constexpr Color level4{"BackgroundColor.level4", rgb(0x0A7C78), rgb(0x3CCBC1)};
 } // namespace BackgroundColor
 
 namespace BorderColor {

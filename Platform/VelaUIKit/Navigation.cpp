@@ -17,7 +17,7 @@ std::shared_ptr<uikit::UINavigationController> embedInNavController(const std::s
 uikit::UIBarButtonItem barButtonItem(BarButtonStyle style) {
     uikit::UIBarButtonItem item;
     if (style == BarButtonStyle::close) {
-        item.image = host::namedImage("xmark", lumokit::resourceBundle(), graphics::RenderingMode::tinted);
+        item.image = host::namedImage("xmark", lumokit::resourceBundle());
         item.accessibilityLabel = foundation::localizedString("Close");
     }
     return item;

@@ -10,14 +10,17 @@ namespace proupsells::velauikit {
 using namespace swiftui;
 
 View VelaPrimaryButtonStyle::body(const ButtonStyleConfiguration& configuration, BuildContext& context) const {
-    const double disabledOpacity = context.environment().isEnabled ? 1 : 0.4;
-    const Shape plate = m_cornerRadius == geometry::infinity ? Capsule(geometry::CornerStyle::continuous)
-                                                             : RoundedRectangle(m_cornerRadius, geometry::CornerStyle::continuous);
+    constexpr double greatestHeight = 56;
+    const bool isEnabled = context.environment().isEnabled;
+    const Shape plate =
+        m_cornerRadius == geometry::infinity ? Capsule() : RoundedRectangle(m_cornerRadius, geometry::CornerStyle::continuous);
     return configuration.label | font(velaDefaultFont(FontOption::bold, 17)) | minimumScaleFactor(0.5) |
            lumokit::largestTextSize(lumokit::LargestSize::buttonText) | multilineTextAlignment(graphics::TextAlignment::center) |
-           foregroundStyle(velaLightText) | padding(Edge::horizontal) |
-           frame({.maxWidth = geometry::infinity, .maxHeight = geometry::infinity}) | background(plate.fill(marwickContentAccent)) |
-           scaleEffect(configuration.isPressed ? 0.98 : 1) | opacity(configuration.isPressed ? 0.85 : disabledOpacity);
+           foregroundStyle(isEnabled ? velaLightText : velaLabel) | padding(Edge::horizontal) |
+           frame({.maxWidth = geometry::infinity, .maxHeight = greatestHeight}) |
+           background(plate.fill(marwickContentAccent) | opacity(isEnabled ? 1 : disabledPlateOpacity)) |
+           scaleEffect(configuration.isPressed ? 0.98 : 1) | opacity(configuration.isPressed ? 0.85 : 1) |
+           frame({.maxHeight = geometry::infinity, .alignment = Alignment::bottom});
 }
 
 const std::shared_ptr<const ButtonStyle>& VelaPrimaryButtonStyle::rounded() {

@@ -5,9 +5,13 @@
 
 namespace proupsells::velauikit {
 
-// Fills the size it is offered with the accent, the label in its middle. Answers a finger by dimming and shrinking a little.
+// A plate in the accent with the label in its middle, as wide as there is room and 56 points high, or less where there is less
+// room; at the bottom of more. Answers a finger by dimming and shrinking a little. One that is disabled dims its plate; its label
+// stays readable.
 class VelaPrimaryButtonStyle final : public swiftui::ButtonStyle {
 public:
+    static constexpr double disabledPlateOpacity = 0.4;
+
     explicit VelaPrimaryButtonStyle(double cornerRadius) : m_cornerRadius(cornerRadius) {}
 
     swiftui::View body(const swiftui::ButtonStyleConfiguration& configuration, swiftui::BuildContext& context) const override;

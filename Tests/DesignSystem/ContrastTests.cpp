@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 #include <set>
 #include <string>
 
@@ -6,8 +7,10 @@
 
 #include "Platform/Graphics/Contrast.hpp"
 #include "Platform/LumoKit/RoleColors.hpp"
+#include "Platform/SwiftUI/Tree/EnvironmentValues.hpp"
 #include "Platform/VelaUIKit/DesignColors.hpp"
 #include "Platform/VelaUIKit/VelaColors.hpp"
+#include "Platform/VelaUIKit/VelaPrimaryButtonStyle.hpp"
 
 using namespace proupsells;
 
@@ -36,8 +39,8 @@ TEST_P(Contrast, IsEnoughInBothAppearances) { expectAtLeast(GetParam(), GetParam
 
 // Ours do better than they must.
 TEST_P(Contrast, OfWhatIsReadFirstIsAtLeast7) {
-    const Color readFirst[] = {lumokit::ContentColor::primary, lumokit::ContentColor::inverse, lumokit::platformPrimary,
-                               velauikit::velaLabel, velauikit::dynamicColor(9)};
+    const Color readFirst[] = {lumokit::ContentColor::primary, lumokit::platformPrimary, velauikit::velaLabel,
+                               velauikit::dynamicColor(9)};
     if (std::find(std::begin(readFirst), std::end(readFirst), GetParam().foreground) == std::end(readFirst)) return;
 
     expectAtLeast(GetParam(), 7);
@@ -49,6 +52,29 @@ TEST_P(Contrast, OfTheAccentIsEnoughForTexts) {
 }
 
 INSTANTIATE_TEST_SUITE_P(OfColors, Contrast, ::testing::ValuesIn(velauikit::colorPairs().begin(), velauikit::colorPairs().end()));
+
+// Of a color that is laid over another.
+graphics::RGBA blended(graphics::RGBA over, graphics::RGBA below, double opacity) {
+    const auto channel = [&](std::uint8_t a, std::uint8_t b) { return std::uint8_t(std::lround(a * opacity + b * (1 - opacity))); };
+    return {channel(over.red, below.red), channel(over.green, below.green), channel(over.blue, below.blue), 255};
+}
+
+TEST(DisabledPrimaryButton, KeepsItsTextReadable) {
+    for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+        const graphics::RGBA page = velauikit::velaBackground.own(scheme);
+        const graphics::RGBA plate =
+            blended(velauikit::marwickContentAccent.own(scheme), page, velauikit::VelaPrimaryButtonStyle::disabledPlateOpacity);
+        EXPECT_GE(contrast(velauikit::velaLabel.own(scheme), plate), 4.5);
+    }
+}
+
+TEST(DesignColors, HaveOneInk) {
+    const Color defaultForeground = swiftui::EnvironmentValues{}.foregroundStyle;
+    for (const Color& color : {velauikit::velaLabel, lumokit::ContentColor::primary, lumokit::platformPrimary, defaultForeground}) {
+        EXPECT_EQ(color.light, graphics::rgb(0x15191C)) << color.name;
+        EXPECT_EQ(color.dark, graphics::rgb(0xF3F5F4)) << color.name;
+    }
+}
 
 TEST(DesignColors, HaveEveryNameOnce) {
     std::set<std::string_view> names;

@@ -71,15 +71,25 @@ TEST(MadePictures, AreTheVectorFilesPixelForPixel) {
 }
 
 TEST(MadePictures, AreNearTheVectorFilesAtFractionalScales) {
-    const auto made = foundation::requiredResource("VelaUIKit") / "Images";
-    const std::filesystem::path vectors = "Platform/VelaUIKit/Resources/Images";
-    for (const std::string icon : {"diamond24", "xmark"}) {
-        const auto difference = [&](QSize size) {
-            return largestDifference(shown(made / (icon + ".picture"), size), renderVector(vectors / (icon + ".svg"), size));
-        };
-        const int length = icon == "xmark" ? 16 : 24;
-        EXPECT_LE(difference({length * 3 / 2, length * 3 / 2}), 4) << icon;
-        EXPECT_LE(difference({length * 5 / 4, length * 5 / 4}), 26) << icon;
+    const auto made = foundation::requiredResource("VelaUIKit") / "Images/diamond24.picture";
+    const std::filesystem::path vectors = "Platform/VelaUIKit/Resources/Images/diamond24.svg";
+    const auto difference = [&](QSize size) { return largestDifference(shown(made, size), renderVector(vectors, size)); };
+
+    EXPECT_LE(difference({36, 36}), 4);
+    EXPECT_LE(difference({30, 30}), 26);
+}
+
+TEST(MadePictures, HaveOneCloseButtonForAllScreens) {
+    const auto store = foundation::requiredResource("ProUpsells") / "Images";
+    const auto designSystem = foundation::requiredResource("VelaUIKit") / "Images";
+    for (const std::string appearance : {"", "~dark"}) {
+        const QImage paywall = shown(designSystem / ("inAppMessageCloseIcon" + appearance + ".picture"), {52, 52});
+        const QImage comparison = shown(designSystem / ("xmark" + appearance + ".picture"), {52, 52});
+        // With a margin, because its button is larger.
+        const QImage storePage = shown(store / ("CloseStorePageButton" + appearance + ".picture"), {60, 60});
+
+        EXPECT_EQ(paywall, comparison) << appearance;
+        EXPECT_LE(largestDifference(paywall, storePage.copy(4, 4, 52, 52)), 2) << appearance;
     }
 }
 

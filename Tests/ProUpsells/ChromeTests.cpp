@@ -126,6 +126,8 @@ TEST(SubscribeButton, DoesNothingWhileItIsDisabled) {
     EXPECT_EQ(taps, 0);
     EXPECT_TRUE(contains(disabled.find("subscribe").traits, accessibility::Traits::disabled));
     EXPECT_EQ(firstOfType(disabled.tree(), "Capsule").opacity, 0.4);
+    EXPECT_EQ(firstOfType(disabled.tree(), "Text").opacity, 1);
+    EXPECT_EQ(firstOfType(disabled.tree(), "Text").text->color, "velaLabel");
 
     Screen enabled(SubscribeButton{.text = "x", .action = [&] { ++taps; }}, Size{375, 80});
     enabled.tap("subscribe");

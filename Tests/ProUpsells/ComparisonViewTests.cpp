@@ -222,6 +222,14 @@ TEST(ComparisonView, StacksHeaderListAndBottomBar) {
     EXPECT_EQ(comparison.frame("comparison.choosePlan"), (Rect{{16, 800 - 20 - 64}, {343, 64}}));
 }
 
+TEST(ComparisonView, HasAButtonAsHighAsThePaywallsAtItsBarsBottom) {
+    Screen screen(ComparisonView{}, Size{375, 800});
+
+    const auto button = screen.find("comparison.choosePlan");
+    EXPECT_EQ(button.frame, (Rect{{16, 716}, {343, 64}}));
+    EXPECT_EQ(firstOfType(button, "Capsule").frame, (Rect{{16, 724}, {343, 56}}));
+}
+
 TEST(ComparisonView, HasNoPaddingWhereTheBottomIsUnsafe) {
     Comparison comparison({375, 800}, {.safeArea = {0, 0, 34, 0}});
 

@@ -166,6 +166,7 @@ TEST_F(StorePageChrome, NamesItsColours) {
     EXPECT_EQ(page->view()->backgroundColor()->name, "dynamicColor.2");
     EXPECT_EQ(page->collectionView()->backgroundColor()->name, "dynamicColor.2");
     EXPECT_EQ(find("store.choosePlan").shape->fill, "dynamicColor.22");
+    EXPECT_EQ(find("store.choosePlan").shape->cornerRadius, 30); // half of its height
     EXPECT_EQ(find("store.close").label, "Close");
     EXPECT_EQ(page->title(), "Marwick Folio Pro");
 }

@@ -27,8 +27,8 @@ TEST(PresentationFrame, FillsNarrowWindowsAndStandsInWideOnes) {
         {formSheet, {599.9, 900}, {{0, 0}, {599.9, 900}}},      {formSheet, {600, 900}, {{112.5, 50}, {375, 800}}},
         {formSheet, {744, 1133}, {{184.5, 166.5}, {375, 800}}}, {formSheet, {1133, 744}, {{379, 0}, {375, 744}}},
         {pageSheet, {375, 800}, {{0, 0}, {375, 800}}},          {automatic, {599.9, 800}, {{0, 0}, {599.9, 800}}},
-        {automatic, {600, 800}, {{0, 20}, {600, 780}}},         {pageSheet, {744, 1133}, {{20, 20}, {704, 1113}}},
-        {pageSheet, {1133, 744}, {{214.5, 20}, {704, 724}}},    {fullScreen, {1133, 744}, {{0, 0}, {1133, 744}}},
+        {automatic, {600, 800}, {{20, 20}, {560, 760}}},        {pageSheet, {744, 1133}, {{20, 20}, {704, 1093}}},
+        {pageSheet, {1133, 744}, {{214.5, 20}, {704, 704}}},    {fullScreen, {1133, 744}, {{0, 0}, {1133, 744}}},
     };
     for (const FrameCase& one : cases) {
         SCOPED_TRACE(testing::Message() << presentationStyleName(one.style) << " in " << one.window.width << " x "
@@ -244,6 +244,110 @@ TEST_F(PresentationTest, WhatIsFullyCoveredIsNotPainted) {
     ASSERT_EQ(list.commands.size(), 3u);
     EXPECT_FLOAT_EQ(list.commands[1].opacity, 0.4f);
     EXPECT_EQ(list.commands[2].clipRadius, 12);
+}
+
+TEST_F(PresentationTest, ASheetHasFourRoundCornersAndInTheDarkAnEdge) {
+    window->setSize({1024, 768}, {});
+    window->setTraits({.userInterfaceStyle = graphics::ColorScheme::dark});
+    root->view()->setBackgroundColor(UIColor::black);
+    sheet->view()->setBackgroundColor(UIColor::white);
+
+    root->present(sheet, false);
+
+    const Rect card{{324.5, 0}, {375, 768}};
+    const auto list = painted();
+    ASSERT_EQ(list.commands.size(), 4u); // the host, the dimming, the edge, the sheet
+    EXPECT_EQ(list.commands[2].kind, graphics::CommandKind::strokeRoundedRectangle);
+    EXPECT_EQ(list.commands[2].frame, card);
+    EXPECT_EQ(list.commands[2].color, graphics::rgb(0x343C40));
+    EXPECT_EQ(list.commands[3].roundedClip, card);
+    EXPECT_EQ(list.commands[3].clipRadius, 12);
+}
+
+// --- Cards on cards ---
+
+class CardOnCardTest : public PresentationTest {
+protected:
+    CardOnCardTest() {
+        window->setSize({1024, 768}, {});
+        root->view()->setBackgroundColor(UIColor::white);
+        sheet->view()->setBackgroundColor(lowerPaper);
+        page->view()->setBackgroundColor(upperPaper);
+        page->setModalPresentationStyle(UIModalPresentationStyle::pageSheet);
+        root->present(sheet, false);
+    }
+    // How much of the host's light comes through all that dims it.
+    double lightOnHost() {
+        double light = 1;
+        for (const graphics::Command& command : painted().commands)
+            if (command.color == graphics::rgb(0x000000)) light *= 1 - double(command.opacity);
+        return light;
+    }
+    // 0 where nothing of it is painted.
+    double opacityOf(const UIColor& paper) {
+        for (const graphics::Command& command : painted().commands)
+            if (command.color == paper.light) return double(command.opacity);
+        return 0;
+    }
+
+    static constexpr UIColor lowerPaper{"lowerPaper", graphics::rgb(0x112233), graphics::rgb(0x112233)};
+    static constexpr UIColor upperPaper{"upperPaper", graphics::rgb(0x445566), graphics::rgb(0x445566)};
+    std::shared_ptr<RecordingController> page = controller("page");
+};
+
+TEST_F(CardOnCardTest, DimTheHostOnce) {
+    EXPECT_NEAR(lightOnHost(), 0.6, 1e-6);
+
+    sheet->present(page, true);
+
+    for (int step = 0; step <= 5; ++step) {
+        EXPECT_NEAR(lightOnHost(), 0.6, 1e-6);
+        bed.runFor(transition_s / 5);
+    }
+    EXPECT_NEAR(lightOnHost(), 0.6, 1e-6);
+}
+
+TEST_F(CardOnCardTest, TheLowerOneGoesBackAndReturns) {
+    EXPECT_EQ(opacityOf(lowerPaper), 1);
+
+    sheet->present(page, true);
+    bed.runFor(transition_s / 2);
+    EXPECT_NEAR(opacityOf(lowerPaper), 0.5, 1e-6);
+    bed.runFor(transition_s / 2);
+    EXPECT_EQ(opacityOf(lowerPaper), 0);
+    EXPECT_EQ(opacityOf(upperPaper), 1);
+
+    page->dismiss(true);
+    bed.runFor(transition_s / 2);
+    EXPECT_NEAR(opacityOf(lowerPaper), 0.5, 1e-6);
+    bed.runFor(transition_s / 2);
+    EXPECT_EQ(opacityOf(lowerPaper), 1);
+}
+
+TEST_F(CardOnCardTest, AllLeaveByOneDimming) {
+    sheet->present(page, false);
+
+    root->dismiss(true);
+
+    EXPECT_NEAR(lightOnHost(), 0.6, 1e-6);
+    bed.runFor(transition_s / 2);
+    EXPECT_EQ(opacityOf(lowerPaper), 0);
+    EXPECT_NEAR(lightOnHost(), 0.8, 1e-6);
+    bed.runFor(transition_s / 2);
+    EXPECT_EQ(lightOnHost(), 1);
+}
+
+TEST_F(CardOnCardTest, AskForNoFramesForTheOneThatIsNotSeen) {
+    class Moving : public UIView {
+    public:
+        bool isAnimating() const override { return true; }
+    };
+    sheet->view()->addSubview(std::make_shared<Moving>());
+    EXPECT_TRUE(window->isAnimating());
+
+    sheet->present(page, false);
+
+    EXPECT_FALSE(window->isAnimating());
 }
 
 TEST_F(PresentationTest, WhatMovesBehindASheetThatCoversItAsksForNoFrames) {

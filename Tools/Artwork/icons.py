@@ -37,10 +37,6 @@ def chevron_right():
     return template(10, 10, [[(3.15, 1.2), (6.95, 5), (3.15, 8.8)]], 1.25)
 
 
-def xmark():
-    return template(16, 16, [[(2.2, 2.2), (13.8, 13.8)], [(13.8, 2.2), (2.2, 13.8)]], 1.9)
-
-
 def diamond():
     """A cut gem: table, girdle and pavilion."""
     outline = [(7.2, 4.1), (16.8, 4.1), (21.1, 9.6), (12, 20.4), (2.9, 9.6), (7.2, 4.1)]
@@ -53,19 +49,13 @@ def cross(center, reach):
     return [[(a, a), (b, b)], [(b, a), (a, b)]]
 
 
-def close_on_picture():
-    """Reads on any picture: a dark veil with a hair of light at its rim."""
-    c = Canvas(26, 26)
-    c.fill(Path.ellipse(13, 13, 13), "#FFFFFF", 0.34)
-    c.fill(Path.ellipse(13, 13, 12.2), "#0B1417", 0.66)
-    c.fill(stroked(cross(13, 4.3), 2), "#FFFFFF")
-    return c
-
-
-def close_store_page(dark):
-    c = Canvas(30, 30)
-    c.fill(Path.ellipse(15, 15, 15), "#2C3439" if dark else "#E7EAE9")
-    c.fill(stroked(cross(15, 4.9), 2.1), "#F3F5F4" if dark else INK)
+def close(size, dark):
+    """The same disc on every screen, in the middle of its picture. The hair of light at its rim lifts it off a dark one."""
+    c = Canvas(size, size)
+    middle = size / 2
+    c.fill(Path.ellipse(middle, middle, 13), "#FFFFFF", 0.16 if dark else 0.5)
+    c.fill(Path.ellipse(middle, middle, 12.2), "#2C3439" if dark else "#E7EAE9")
+    c.fill(stroked(cross(middle, 4.3), 2), "#F3F5F4" if dark else INK)
     return c
 
 
@@ -82,14 +72,16 @@ MODULE_ICONS = {
     "CaretRight": caret_right,
     "Button_Arrow_Right": arrow_right,
     "TermsGradient": terms_gradient,
-    "CloseStorePageButton": lambda: close_store_page(False),
-    "CloseStorePageButton~dark": lambda: close_store_page(True),
+    "CloseStorePageButton": lambda: close(30, False),
+    "CloseStorePageButton~dark": lambda: close(30, True),
 }
 DESIGN_SYSTEM_ICONS = {
     "chevron.right": chevron_right,
-    "xmark": xmark,
+    "xmark": lambda: close(26, False),
+    "xmark~dark": lambda: close(26, True),
     "diamond24": diamond,
-    "inAppMessageCloseIcon": close_on_picture,
+    "inAppMessageCloseIcon": lambda: close(26, False),
+    "inAppMessageCloseIcon~dark": lambda: close(26, True),
 }
 
 

@@ -48,7 +48,7 @@ struct InheritedValues {
     geometry::PhysicalInsets safeAreaInsets; // of the host's window
 
     graphics::Font font{.size = 17, .name = "body"};
-    graphics::Color foregroundStyle{"primary", graphics::rgb(0x000000), graphics::rgb(0xFFFFFF)};
+    graphics::Color foregroundStyle{"primary", graphics::rgb(0x15191C), graphics::rgb(0xF3F5F4)};
     graphics::TextAlignment multilineTextAlignment = graphics::TextAlignment::leading;
     TextCase textCase = TextCase::asWritten;
     std::optional<int> lineLimit; // absent: as many lines as it takes

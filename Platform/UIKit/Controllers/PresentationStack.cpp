@@ -81,6 +81,7 @@ bool PresentationStack::beginPresentation(const Operation& operation) {
     const auto view = std::make_shared<UIPresentationView>(operation.controller);
     if (generation != m_generation) return false;
     const bool takesPresenterAway = controller.modalPresentationStyle() == UIModalPresentationStyle::fullScreen;
+    if (!m_presentations.empty()) m_presentations.back().view->setPresentationInFront(view);
     m_presentations.push_back({operation.controller, presenter, view, takesPresenterAway});
     m_window.cancelTouch();
     if (takesPresenterAway) presenter->beginAppearance(false, operation.animated);

@@ -14,20 +14,26 @@ std::string_view presentationStyleName(UIModalPresentationStyle style) {
     return "pageSheet";
 }
 
+namespace {
+
+geometry::Rect centered(geometry::Size size, geometry::Size windowSize) {
+    return {{(windowSize.width - size.width) / 2, (windowSize.height - size.height) / 2}, size};
+}
+
+} // namespace
+
 geometry::Rect presentationFrame(UIModalPresentationStyle style, geometry::Size preferredSize, geometry::Size windowSize) {
     constexpr geometry::Size defaultFormSize{540, 620};
-    constexpr double pageWidth = 704, pageTop = 20;
+    constexpr double pageWidth = 704, pageMargin = 20;
 
     if (style == UIModalPresentationStyle::fullScreen || windowSize.width < regularWidth) return {{0, 0}, windowSize};
     if (style == UIModalPresentationStyle::formSheet) {
         const bool hasPreference = preferredSize.width > 0 && preferredSize.height > 0;
         const geometry::Size wanted = hasPreference ? preferredSize : defaultFormSize;
-        const geometry::Size size{std::min(wanted.width, windowSize.width), std::min(wanted.height, windowSize.height)};
-        return {{(windowSize.width - size.width) / 2, (windowSize.height - size.height) / 2}, size};
+        return centered({std::min(wanted.width, windowSize.width), std::min(wanted.height, windowSize.height)}, windowSize);
     }
-    const double width = std::min(pageWidth, windowSize.width);
-    const double top = std::min(pageTop, windowSize.height);
-    return {{(windowSize.width - width) / 2, top}, {width, windowSize.height - top}};
+    const double widest = windowSize.width - 2 * pageMargin, highest = windowSize.height - 2 * pageMargin;
+    return centered({std::min(pageWidth, widest), std::max(highest, 0.0)}, windowSize);
 }
 
 } // namespace proupsells::uikit

@@ -10,7 +10,7 @@ namespace proupsells::uikit {
 
 enum class UIModalPresentationStyle {
     automatic,  // a page sheet
-    pageSheet,  // fills a window narrower than 600 points; otherwise a card below the window's top edge
+    pageSheet,  // fills a window narrower than 600 points; otherwise a card in the centre, a little smaller than the window
     formSheet,  // fills a window narrower than 600 points; otherwise a card of the preferred size in the centre
     fullScreen, // fills the window and takes the presenter away
 };

@@ -26,11 +26,13 @@ public:
     void rest();
     // How far the card is in, from 0 to 1.
     double progress() const;
+    // What is presented over this one, if anything. A card goes back behind it, so that no strip of one looks out behind another.
+    void setPresentationInFront(std::weak_ptr<const UIPresentationView> front) { m_front = std::move(front); }
 
     void layoutSubviews() override;
     UITraitCollection traitsForSubviews() const override;
     bool covers(const geometry::Rect& rect) const override;
-    bool isAnimating() const override { return m_phase != Phase::resting || UIView::isAnimating(); }
+    bool isAnimating() const override;
     // The controller's view alone.
     accessibility::SemanticNode contentNode(const graphics::PaintState& state) const;
 
@@ -40,11 +42,16 @@ protected:
 private:
     enum class Phase { entering, resting, leaving };
 
+    friend class UIPresentationCard;
+
     geometry::Rect cardFrame(geometry::Size windowSize) const;
+    double progressInFront() const;
+    double cardOpacity() const;
 
     UIModalPresentationStyle m_style;
     geometry::Size m_preferredSize;
     std::shared_ptr<UIPresentationCard> m_card;
+    std::weak_ptr<const UIPresentationView> m_front;
     Phase m_phase = Phase::resting;
     double m_start_s = 0;
 };

@@ -15,7 +15,7 @@ UILabel::UILabel() {
     setUserInteractionEnabled(false);
     m_rules.lineLimit = 1;
     m_attributes.font.size = defaultSize;
-    m_attributes.color = {"label", graphics::rgb(0x000000), graphics::rgb(0xFFFFFF)};
+    m_attributes.color = {"label", graphics::rgb(0x15191C), graphics::rgb(0xF3F5F4)};
     contentDidChange();
 }
 
