@@ -97,20 +97,20 @@ def room(c):
             Path.polygon([(left, -4), (left + 60, -4), (left + 122, 140), (left + 62, 140)]),
             linear((left, 0), (left + 100, 140), (0, "#FFF7E8", 0.7), (1, "#FFF7E8", 0.15)),
         )
-    frame = Path.rounded(154, 34, 48, 60, 3)
-    c.long_shadow(frame, 15, 50, "#7A3F1E", 0.26)
-    c.fill(frame, linear((154, 34), (202, 94), "#9C6238", "#6E4023"))
-    c.fill(Path.rect(157, 37, 42, 54), "#FFF9EF")
-    photo(c, "dusk", 162.5, 43, 31, 42, 1)
-    shelf = Path.rounded(8, 104, 98, 5, 2)
+    frame = Path.rounded(158, 45, 44, 54, 3)
+    c.long_shadow(frame, 14, 50, "#7A3F1E", 0.26)
+    c.fill(frame, linear((158, 45), (202, 99), "#9C6238", "#6E4023"))
+    c.fill(Path.rect(161, 48, 38, 48), "#FFF9EF")
+    photo(c, "dusk", 166, 53.5, 28, 37, 1)
+    shelf = Path.rounded(4, 104, 78, 5, 2)
     c.long_shadow(shelf, 12, 60, "#7A3F1E", 0.24)
-    c.fill(shelf, linear((8, 104), (106, 109), "#A86C3C", "#7E4B29"))
+    c.fill(shelf, linear((4, 104), (82, 109), "#A86C3C", "#7E4B29"))
     for x, width, height, tone, turn in (
-        (18, 9, 42, TEAL, 0),
-        (28, 11, 36, VIOLET, 0),
-        (40, 8, 46, SUN_DEEP, 0),
-        (49, 12, 38, "#E8694F", 0),
-        (68, 9, 40, "#3C8FC9", -9),
+        (11, 9, 42, TEAL, 0),
+        (21, 11, 36, VIOLET, 0),
+        (33, 8, 46, SUN_DEEP, 0),
+        (42, 12, 38, "#E8694F", 0),
+        (61, 9, 40, "#3C8FC9", -9),
     ):
         with c.placed(x, 104, turn) as book:
             book.fill(
@@ -150,13 +150,13 @@ def floor_shade(c, x, y):
 
 
 def product_card(c, x, y):
-    """What the cut-out is good for: the same plant on a page of its own."""
-    outline = Path.rounded(x, y, 76, 92, 8)
+    """What the cut-out is good for: the same plant on a page of its own. Only wide screens have room for it."""
+    outline = Path.rounded(x, y, 74, 90, 8)
     c.soft_shadow(outline, 3, 6, 9, "#06302F", 0.20, 8)
-    c.fill(outline, linear((x, y), (x + 76, y + 92), "#FFDC82", "#FFB53E"))
-    c.fill(Path.ellipse(x + 38, y + 44, 29), "#FFF1CC", 0.75)
-    plant_at(c, x + 38, y + 51, 0.36)
-    c.text("New leaf", "sora-bold", 10.5, x + 38, y + 84, "#5A2B00", "center")
+    c.fill(outline, linear((x, y), (x + 74, y + 90), "#FFDC82", "#FFB53E"))
+    c.fill(Path.ellipse(x + 37, y + 43, 28.5), "#FFF1CC", 0.75)
+    plant_at(c, x + 37, y + 50, 0.35)
+    c.text("New leaf", "sora-bold", 10.5, x + 37, y + 82, "#5A2B00", "center")
 
 
 SCALE, MOUTH = 0.86, 111
@@ -172,7 +172,7 @@ def header_c(dark):
     checkerboard(c, CENTER)
     deepen(c, dark)
     scrim(c, dark, 92)
-    product_card(c, 496, 58)
+    product_card(c, 517, 60)
     half = box(CENTER, -10, WIDTH, HEIGHT)
     with c.clipped(Path.rect(-50, -10, CENTER + 50, HEIGHT + 10)) as left:
         left.fill(

@@ -109,9 +109,9 @@ def header_d(dark):
             linear((0, 0), (0, 190), (0, "#FFFFFF", 0.30), (1, "#FFFFFF", 0)),
         )
     browser(c, 222, 58, 226, 130)
-    note(c, 8, 54, "New order", CORAL_DEEP, PLUS)
-    note(c, 18, 92, "12 followers", VIOLET, PLUS)
-    note(c, 494, 86, "Class is full", TEAL, CHECK)
+    note(c, 5, 56, "Booked", TEAL, CHECK)
+    note(c, 13, 94, "12 fans", VIOLET, PLUS)
+    note(c, 518, 80, "Sold out", CORAL_DEEP, CHECK)
     outline = Path.rounded(158, 24, 102, 206, 18)
     phone_shadow(c, outline)
     deepen(c, dark)

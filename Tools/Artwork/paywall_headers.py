@@ -151,8 +151,8 @@ def header_b(dark):
     photo_tile(c, "city", -40, top, 66, FLOOR - top)
     photo_tile(c, "foliage", 34, top, 106, middle - 8 - top)
     shape_tile(c, 34, middle, 106, FLOOR - middle)
-    film_tile(c, 148, top, 106, middle - 8 - top)
-    photo_tile(c, "lake", 148, middle, 106, FLOOR - middle)
+    photo_tile(c, "lake", 148, top, 106, middle - 8 - top)
+    film_tile(c, 148, middle, 106, FLOOR - middle)
     specimen_tile(c, 262, top, 90, FLOOR - top)
     beach_tile(c, 360, -18, 264, 76)
     sticker_tile(c, 360, 66, 92, FLOOR - 66)
@@ -163,7 +163,7 @@ def header_b(dark):
     for x, width, color in (
         (-40, 66, "#6A5FA8"),
         (34, 106, "#F2604C"),
-        (148, 106, "#2C7F88"),
+        (148, 106, "#3A3554"),
         (262, 90, "#FBB443"),
         (360, 92, "#CFC5F6"),
         (460, 100, "#D9C3A3"),
