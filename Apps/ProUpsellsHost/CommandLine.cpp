@@ -90,12 +90,15 @@ struct ShowOptions {
 
     ShowArguments read() const {
         Json values = Json::object();
-        for (std::size_t i = 0; i < device.size(); ++i)
-            if (!device[i].empty()) values[deviceOptions[i].key] = deviceOptions[i].read(device[i]);
+        ShowArguments result;
+        for (std::size_t i = 0; i < device.size(); ++i) {
+            if (device[i].empty()) continue;
+            values[deviceOptions[i].key] = deviceOptions[i].read(device[i]);
+            result.given.push_back(deviceOptions[i].key);
+        }
         const Json all{{"device", values}, {"start", start}};
 
         const JsonCursor cursor{all, place};
-        ShowArguments result;
         if (!offers.empty()) result.offers = system::pathOf(offers);
         result.device = readDevice(cursor.at("device"), std::filesystem::current_path());
         result.start = cursor.at("start").oneOf(startScreens);
