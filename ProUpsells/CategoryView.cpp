@@ -2,6 +2,7 @@
 
 #include "Platform/LumoKit/RoleColors.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 #include "ProUpsells/ClipShapeModifier.hpp"
 #include "ProUpsells/FeatureCategoryHeader.hpp"
 #include "ProUpsells/FeatureChildRow.hpp"
@@ -33,7 +34,9 @@ View CategoryView::rows() const {
 View CategoryView::body(BuildContext&) const {
     return VStack{.spacing = 0,
                   .content = {
-                      FeatureCategoryHeader{item->name, isExpanded} | padding(Edge::bottom, 18),
+                      // The page's own colour above the heading: rows that fold up above it dissolve before they touch it.
+                      FeatureCategoryHeader{item->name, isExpanded} | shadow(velauikit::velaBackground, 1, 3, 0, -10) |
+                          padding(Edge::bottom, 18),
                       Rectangle().fill(lumokit::BorderColor::secondary) | frame({.height = 1}) | padding(Edge::bottom, 18),
                       rows(),
                   }};

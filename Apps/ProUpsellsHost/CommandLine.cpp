@@ -53,7 +53,7 @@ public:
 
     Arguments read() const override {
         const Device device = m_device.read();
-        return ShowArguments{readFile(m_offers), device, readWord("start", m_start, startScreens)};
+        return ShowArguments{readFile(m_offers), device, m_device.given(), readWord("start", m_start, startScreens)};
     }
 
 private:

@@ -3,7 +3,9 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <variant>
+#include <vector>
 
 #include "Apps/ProUpsellsHost/Device.hpp"
 #include "Apps/ProUpsellsHost/StartScreen.hpp"
@@ -18,6 +20,7 @@ struct RunArguments {
 struct ShowArguments {
     std::optional<std::filesystem::path> offers; // absent: the sample offers
     Device device;
+    std::vector<std::string> given; // the device's keys that were; what was not, the system may decide
     StartScreen start = StartScreen::paywall;
 };
 

@@ -74,4 +74,11 @@ Device DeviceOptions::read() const {
     return readDevice(JsonCursor{all, commandLinePlace}.at("device"), std::filesystem::current_path());
 }
 
+std::vector<std::string> DeviceOptions::given() const {
+    std::vector<std::string> keys;
+    for (std::size_t i = 0; i < count; ++i)
+        if (!m_values[i].empty()) keys.push_back(deviceOptions[i].key);
+    return keys;
+}
+
 } // namespace proupsells::hostprogram

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "Apps/ProUpsellsHost/Device.hpp"
 
@@ -23,6 +24,8 @@ public:
     void addTo(CLI::App& command);
     // Throws InputError.
     Device read() const;
+    // The keys of those that are there.
+    std::vector<std::string> given() const;
 
 private:
     static constexpr std::size_t count = 10;

@@ -26,7 +26,7 @@ HostSession::HostSession(Offers offers, const Device& device, HostParts parts, f
     m_window->setTraits(traits());
     m_observer = std::make_shared<LedgerObserver>(m_log);
     m_window->setPresentationObserver(m_observer);
-    m_window->setRootViewController(std::make_shared<HostViewController>());
+    m_window->setRootViewController(parts.screen ? parts.screen : std::make_shared<HostViewController>());
 
     VelaProStorePageViewController::shouldMentioniCloudSync = offers.shouldMentioniCloudSync;
     m_entry = VelaProUpsellViewController::create(std::move(offers.options), offers.variant, std::move(offers.referrer),

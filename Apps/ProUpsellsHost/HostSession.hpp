@@ -17,6 +17,8 @@ namespace proupsells::hostprogram {
 struct HostParts {
     bool tracker = true;
     bool delegate = true;
+    // What is below the paywall; a plain screen where absent.
+    std::shared_ptr<uikit::UIViewController> screen = nullptr;
 };
 
 // Needs a main run loop.

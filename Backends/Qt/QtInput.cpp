@@ -67,6 +67,11 @@ void QtInput::left() {
     content->pointer(std::nullopt);
 }
 
+bool QtInput::pointsAtControl() {
+    const auto content = m_content;
+    return content->pointsAtControl();
+}
+
 void QtInput::mouseReleased(const QMouseEvent& event) {
     if (event.button() != Qt::LeftButton || !m_mouseIsDown) return;
     m_mouseIsDown = false;

@@ -27,6 +27,8 @@ public:
     // Where the mouse is while no button is held, and that it has left.
     void hovered(QPointF position);
     void left();
+    // Whether the mouse rests on something to be tapped.
+    bool pointsAtControl();
     void touched(const QTouchEvent& event);
     void wheelTurned(const QWheelEvent& event);
     // Returns whether the key meant something.

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <cmath>
+#include <utility>
 
 #include "Backends/Qt/FramePacer.hpp"
 #include "Backends/Qt/PixelImage.hpp"
@@ -41,8 +42,14 @@ bool QtWindow::event(QEvent* event) {
         if (const auto handler = m_closeHandler; handler && event->isAccepted()) handler();
         return isHandled;
     }
-    case QEvent::Enter: m_input->hovered(static_cast<QEnterEvent*>(event)->position()); return true;
-    case QEvent::Leave: m_input->left(); return true;
+    case QEvent::Enter:
+        m_input->hovered(static_cast<QEnterEvent*>(event)->position());
+        adoptCursor();
+        return true;
+    case QEvent::Leave:
+        m_input->left();
+        adoptCursor();
+        return true;
     case QEvent::FocusIn:
     case QEvent::FocusOut: m_accessibility->updateLater(); return QWindow::event(event);
     default: return QWindow::event(event);
@@ -72,7 +79,18 @@ void QtWindow::showFrame(bool isWhole) {
         m_store.flush(isWhole ? QRegion(whole) : regionOf(m_view.lastDamage(), devicePixelRatio()).intersected(whole));
     }
     m_accessibility->update();
+    adoptCursor();
     m_pacer->schedule();
+}
+
+// A hand over what can be tapped.
+void QtWindow::adoptCursor() {
+    const bool pointsAtControl = m_input->pointsAtControl();
+    if (std::exchange(m_showsHand, pointsAtControl) == pointsAtControl) return;
+    if (pointsAtControl)
+        setCursor(Qt::PointingHandCursor);
+    else
+        unsetCursor();
 }
 
 // Paints straight into the backing store's memory. Returns whether that changed any pixel.
@@ -95,7 +113,11 @@ bool QtWindow::paint() {
 
 void QtWindow::mousePressEvent(QMouseEvent* event) { m_input->mousePressed(*event); }
 
-void QtWindow::mouseMoveEvent(QMouseEvent* event) { m_input->mouseMoved(*event); }
+void QtWindow::mouseMoveEvent(QMouseEvent* event) {
+    const QPointer<QtWindow> self(this);
+    m_input->mouseMoved(*event);
+    if (self) adoptCursor();
+}
 
 void QtWindow::mouseReleaseEvent(QMouseEvent* event) { m_input->mouseReleased(*event); }
 

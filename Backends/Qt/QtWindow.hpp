@@ -61,6 +61,7 @@ private:
     geometry::Size sizeInPoints() const { return {double(width()), double(height())}; }
     void showFrame(bool isWhole);
     bool paint();
+    void adoptCursor();
 
     rasterbackend::PixelView m_view;
     geometry::PhysicalInsets m_safeArea;
@@ -68,6 +69,7 @@ private:
     QBackingStore m_store;
     QSize m_lentSize; // pixels
     int m_frameCount = 0;
+    bool m_showsHand = false;
     std::unique_ptr<FramePacer> m_pacer;
     std::unique_ptr<QtInput> m_input;
     std::unique_ptr<QtAccessibility> m_accessibility;

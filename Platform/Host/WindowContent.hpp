@@ -36,6 +36,8 @@ public:
     virtual void touch(const Touch& touch) = 0;
     // Where the mouse rests or goes, its button held or not; absent once it has left. Nothing is told of fingers.
     virtual void pointer(std::optional<geometry::Point> /*location*/) {}
+    // Whether the mouse rests on something to be tapped, which shows it; asked whenever the mouse or the picture has moved.
+    virtual bool pointsAtControl() { return false; }
     // A wheel or trackpad: moves the scroll view under `location` by `delta` points; a positive y shows what is further down.
     virtual void scroll(geometry::Point location, geometry::Point delta) = 0;
     // Returns whether the key meant something. A key that is held down comes again and again, `isRepeated` but for the first time.

@@ -80,4 +80,8 @@ void RepresentableNode::touchEnded(const swiftui::TouchEvent& event) { send(host
 
 void RepresentableNode::touchCancelled() { m_touches->cancel(); }
 
+void RepresentableNode::hovered(bool isHovered) {
+    m_view->hover(isHovered ? std::optional(m_view->bounds().center()) : std::nullopt);
+}
+
 } // namespace proupsells::hosting

@@ -32,6 +32,7 @@ private:
     void touchMoved(const swiftui::TouchEvent& event) override;
     void touchEnded(const swiftui::TouchEvent& event) override;
     void touchCancelled() override;
+    void hovered(bool isHovered) override;
 
     void send(host::TouchPhase phase, const swiftui::TouchEvent& event);
     // Brings the view's place in the retained tree up to date with where the declarative tree shows it.

@@ -126,6 +126,11 @@ void UIHostingView::touchesMoved(const uikit::UITouch& touch) { forward(touch); 
 
 void UIHostingView::touchesEnded(const uikit::UITouch& touch) { forward(touch); }
 
+bool UIHostingView::hover(std::optional<geometry::Point> location) {
+    const auto kept = m_host;
+    return kept->hover(location);
+}
+
 void UIHostingView::touchesCancelled(const uikit::UITouch& touch) { forward(touch); }
 
 bool UIHostingView::scrollBy(geometry::Point location, geometry::Point delta) {

@@ -42,6 +42,7 @@ public:
     void touchesMoved(const uikit::UITouch& touch) override;
     void touchesEnded(const uikit::UITouch& touch) override;
     void touchesCancelled(const uikit::UITouch& touch) override;
+    bool hover(std::optional<geometry::Point> location) override;
     bool scrollBy(geometry::Point location, geometry::Point delta) override;
     bool isAnimating() const override;
 

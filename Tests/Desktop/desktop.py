@@ -102,7 +102,7 @@ class Program:
         self.events = []
         # Qt asks the session whether anybody reads the screen; here somebody does.
         environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb")
-        self._process = subprocess.Popen([PROGRAM, "show", OFFERS, "--start", screen, *options], env=environment, stdout=subprocess.PIPE, text=True)
+        self._process = subprocess.Popen([PROGRAM, "show", OFFERS, "--start", screen, "--size", "375x800", *options], env=environment, stdout=subprocess.PIPE, text=True)
         self._reader = threading.Thread(target=self._read)
         self._reader.start()
         self._screen = SCREENS[screen]

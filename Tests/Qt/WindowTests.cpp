@@ -56,6 +56,10 @@ public:
         if (animatedFrames > 0) context.fillRectangle({}, {{0, double(animatedFrames--)}, {1, 1}}, tests::blue);
     }
     bool isAnimating() const override { return animatedFrames > 0; }
+    // On the square.
+    bool pointsAtControl() override {
+        return !pointers.empty() && pointers.back() && geometry::Rect{{x, 10}, {10, 10}}.contains(*pointers.back());
+    }
     void setNeedsDisplayHandler(std::function<void()> newHandler) override { handler = std::move(newHandler); }
     accessibility::SemanticNode semanticTree() override { return tree; }
 
@@ -195,6 +199,33 @@ TEST_F(QtWindowTest, SaysWhereTheMouseRestsAndThatItHasLeft) {
 
     EXPECT_THAT(content->pointers, ElementsAre(Point{20, 30}, Point{25, 35}, std::nullopt));
     EXPECT_THAT(content->touches, IsEmpty());
+}
+
+TEST_F(QtWindowTest, ShowsAHandOverWhatCanBeTapped) {
+    const auto hover = [&](QPointF at) {
+        QMouseEvent moves(QEvent::MouseMove, at, at, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&window, &moves);
+        return window.cursor().shape();
+    };
+
+    EXPECT_EQ(hover({15, 15}), Qt::PointingHandCursor);
+    EXPECT_EQ(hover({50, 50}), Qt::ArrowCursor);
+    EXPECT_EQ(hover({15, 15}), Qt::PointingHandCursor);
+    QEvent leaves(QEvent::Leave);
+    QCoreApplication::sendEvent(&window, &leaves);
+    EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(QtWindowTest, TakesTheHandAwayWhenTheControlHasMovedFromUnderTheMouse) {
+    QMouseEvent moves(QEvent::MouseMove, QPointF(15, 15), QPointF(15, 15), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &moves);
+    EXPECT_EQ(window.cursor().shape(), Qt::PointingHandCursor);
+
+    content->x = 60;
+    content->changed();
+    settle();
+
+    EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
 }
 
 TEST_F(QtWindowTest, SaysThatAKeyIsHeldDown) {

@@ -149,6 +149,36 @@ TEST(Button, DisabledKeepsTheTouchFromWhatIsAround) {
     EXPECT_EQ(taps, 0);
 }
 
+// --- The mouse ---
+
+TEST(Button, AnswersTheMouseThatRestsOnIt) {
+    TouchScreen screen{[] { return buttonInTheMiddle([] {}); }};
+
+    EXPECT_TRUE(screen.host().hover(middle));
+    EXPECT_NEAR(screen.find("button").opacity, 0.88, 1e-9);
+
+    EXPECT_FALSE(screen.host().hover(geometry::Point{10, 10}));
+    EXPECT_EQ(screen.find("button").opacity, 1);
+}
+
+TEST(Button, DoesNotAnswerTheMouseWhileItIsDisabled) {
+    TouchScreen screen{[] { return buttonInTheMiddle([] {}) | disabled(true); }};
+
+    EXPECT_FALSE(screen.host().hover(middle));
+    EXPECT_EQ(screen.find("button").opacity, 1);
+}
+
+TEST(Button, MayGoFromUnderTheMouse) {
+    bool isThere = true;
+    TouchScreen screen{[&] { return isThere ? buttonInTheMiddle([] {}) : View{}; }};
+    ASSERT_TRUE(screen.host().hover(middle));
+
+    isThere = false;
+    screen.rebuild();
+
+    EXPECT_FALSE(screen.host().hover(middle));
+}
+
 TEST(Button, RunsTheNewestAction) {
     int first = 0, second = 0;
     bool isSecond = false;

@@ -291,5 +291,46 @@ TEST_F(ControlTest, AViewAroundTheTouchedOneMayTakeTheTouchOver) {
     EXPECT_EQ(taker->ends, 1);
 }
 
+// --- The mouse ---
+
+TEST_F(ControlTest, AButtonAnswersTheMouseThatRestsOnIt) {
+    window->pointer(Point{120, 120});
+    EXPECT_TRUE(window->pointsAtControl());
+    EXPECT_NEAR(button->semanticNode({}).opacity, 0.88, 1e-9);
+
+    window->pointer(Point{20, 20});
+    EXPECT_FALSE(window->pointsAtControl());
+    EXPECT_EQ(button->semanticNode({}).opacity, 1);
+}
+
+TEST_F(ControlTest, AButtonThatCannotBeUsedDoesNotAnswerTheMouse) {
+    button->setEnabled(false);
+
+    window->pointer(Point{120, 120});
+
+    EXPECT_FALSE(window->pointsAtControl());
+    EXPECT_FALSE(button->isHovered());
+}
+
+TEST_F(ControlTest, AButtonThatMovesAwayFromTheMouseForgetsIt) {
+    window->pointer(Point{120, 120});
+    ASSERT_TRUE(window->pointsAtControl());
+
+    button->setFrame({{200, 200}, {50, 50}});
+
+    EXPECT_FALSE(window->pointsAtControl());
+    EXPECT_FALSE(button->isHovered());
+}
+
+TEST_F(ControlTest, TheMouseMeansNothingDuringATransition) {
+    window->pointer(Point{120, 120});
+    ASSERT_TRUE(window->pointsAtControl());
+
+    root->present(controller("next"), true);
+
+    EXPECT_FALSE(window->pointsAtControl());
+    EXPECT_FALSE(button->isHovered());
+}
+
 } // namespace
 } // namespace proupsells::uikit

@@ -37,6 +37,8 @@ public:
     virtual void touchMoved(const TouchEvent&) {}
     virtual void touchEnded(const TouchEvent&) {}
     virtual void touchCancelled() {}
+    // The mouse rests on what would get its touch, a control, or has left it.
+    virtual void hovered(bool /*isHovered*/) {}
     // Whether it is something to be tapped.
     virtual bool isControl() const { return false; }
     // Whether to take the touch away from the handler that has it.

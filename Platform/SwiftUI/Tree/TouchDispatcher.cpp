@@ -100,6 +100,29 @@ bool TouchDispatcher::scroll(geometry::Point location, geometry::Point delta) {
     return false;
 }
 
+TouchDispatcher::Candidate TouchDispatcher::controlUnder(geometry::Point location) const {
+    const auto around = [](Node* node) -> Candidate {
+        for (; node; node = node->parent()) {
+            GestureHandler* const handler = node->gestureHandler();
+            if (handler && handler->isControl()) return {node, handler};
+        }
+        return {};
+    };
+    const Candidate hit = around(m_host.nodeAt(location));
+    return hit.node ? hit : around(m_host.controlNear(location).nearest);
+}
+
+bool TouchDispatcher::hover(std::optional<geometry::Point> location) {
+    const ViewHost::Hold hold(m_host);
+    const Candidate here = location ? controlUnder(*location) : Candidate{};
+    if (here.handler != m_hovered.handler) {
+        if (m_hovered.handler) m_hovered.handler->hovered(false);
+        m_hovered = here;
+        if (m_hovered.handler) m_hovered.handler->hovered(true);
+    }
+    return here.node && here.node->environment().isEnabled;
+}
+
 void TouchDispatcher::cancel() {
     if (GestureHandler* handler = release()) handler->touchCancelled();
 }
@@ -112,6 +135,7 @@ GestureHandler* TouchDispatcher::release() {
 }
 
 void TouchDispatcher::nodeGone(const Node& node) {
+    if (isInside(m_hovered.node, node)) m_hovered = {};
     std::erase_if(m_candidates, [&](const Candidate& candidate) {
         const bool isGone = isInside(candidate.node, node);
         if (isGone && candidate.handler == m_active) m_active = nullptr;

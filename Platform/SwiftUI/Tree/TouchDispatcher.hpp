@@ -1,6 +1,7 @@
 // Brings touches to the handlers that they belong to.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "Platform/Geometry/Geometry.hpp"
@@ -21,6 +22,8 @@ public:
 
     // Whether a handler has the touch.
     bool touch(const host::Touch& touch);
+    // Where the mouse rests, or that it has left. Whether a control that can be used is there.
+    bool hover(std::optional<geometry::Point> location);
     // The innermost handler that the movement means something to gets it.
     bool scroll(geometry::Point location, geometry::Point delta);
     // Takes the touch away from whoever has it.
@@ -36,6 +39,7 @@ private:
     };
 
     void collectHandlers(Node* hit);
+    Candidate controlUnder(geometry::Point location) const;
     bool hasControl() const;
     TouchEvent eventAt(geometry::Point location) const;
     GestureHandler* interceptor(const TouchEvent& event) const;
@@ -48,6 +52,7 @@ private:
     ViewHost& m_host;
     std::vector<Candidate> m_candidates; // deepest first; empty between touches
     GestureHandler* m_active = nullptr;
+    Candidate m_hovered; // null while the mouse rests on no control
     geometry::Point m_start;
     geometry::Point m_location;
     geometry::Point m_shift; // from the finger to the place that handlers are told

@@ -97,6 +97,8 @@ public:
     // Whether something inside has the touch. What has it when it begins gets its moves and its end too.
     bool touch(const host::Touch& touch) { return m_touches.touch(touch); }
     bool hits(geometry::Point location);
+    // Where the mouse rests, absent once it has left. Whether a control that can be used is there.
+    bool hover(std::optional<geometry::Point> location) { return m_touches.hover(location); }
     bool scroll(geometry::Point location, geometry::Point delta) { return m_touches.scroll(location, delta); }
     TouchDispatcher& touches() { return m_touches; }
     // What a touch at the place would hit; null for nothing. Brings the tree up to date.

@@ -55,6 +55,15 @@ public:
         if (acts) m_target.act();
     }
     void touchCancelled() override { setPressed(false); }
+    void hovered(bool isHovered) override {
+        m_isHovered = isHovered;
+        setNeedsDisplay();
+    }
+    // The mouse that rests on it is answered quietly.
+    void applyEffects(graphics::PaintState& state, double) const override {
+        constexpr double hoveredOpacity = 0.88;
+        if (m_isHovered && !m_isPressed && environment().isEnabled) state = state.fadedBy(hoveredOpacity);
+    }
 
 protected:
     geometry::Size measure(const geometry::ProposedSize& proposal) override {
@@ -82,6 +91,7 @@ private:
 
     TapTarget m_target;
     bool m_isPressed = false;
+    bool m_isHovered = false;
 };
 
 } // namespace

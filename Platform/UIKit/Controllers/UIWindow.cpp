@@ -193,6 +193,17 @@ void UIWindow::pointer(std::optional<geometry::Point> location) {
     setNeedsDisplay();
 }
 
+bool UIWindow::pointsAtControl() {
+    const auto kept = strongReference(*this);
+    const bool canTap = m_pointer && !isTransitioning();
+    UIView* over = canTap ? hitTest(*m_pointer) : nullptr;
+    while (over && over != this && !over->hover(over->convertFrom(*m_pointer, nullptr))) over = over->superview();
+    if (over == this) over = nullptr;
+    if (const auto before = m_hovered.lock(); before && before.get() != over) before->hover(std::nullopt);
+    m_hovered = over ? weakReference(*over) : std::weak_ptr<UIView>{};
+    return over;
+}
+
 bool UIWindow::isAttended(const geometry::Rect& rect) const {
     if (m_pointer && rect.contains(*m_pointer)) return true;
     const std::optional<geometry::Rect> focused = m_focus->lastFrame();

@@ -53,6 +53,7 @@ public:
     void setSize(geometry::Size size, geometry::PhysicalInsets safeArea) override;
     void touch(const host::Touch& touch) override;
     void pointer(std::optional<geometry::Point> location) override;
+    bool pointsAtControl() override;
     void scroll(geometry::Point location, geometry::Point delta) override;
     // Of the front-most presentation: Tab moves the focus ring through its controls; activate and space tap the one in focus,
     // arrows choose a neighbour, turn a page or open and close; what means nothing to it scrolls the page; escape leaves the
@@ -123,6 +124,7 @@ private:
     bool m_isSeen = true;
     bool m_focusLeaves = false;
     std::optional<geometry::Point> m_pointer; // absent while there is none
+    std::weak_ptr<UIView> m_hovered;          // what the mouse can tap
     std::function<void()> m_rootDismissalHandler;
 };
 

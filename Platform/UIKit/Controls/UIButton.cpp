@@ -14,8 +14,8 @@ geometry::Size UIButton::intrinsicContentSize() const {
 }
 
 double UIButton::presentationAlpha() const {
-    constexpr double pressed = 0.5, disabled = 0.4;
-    return UIControl::presentationAlpha() * (!isEnabled() ? disabled : isHighlighted() ? pressed : 1);
+    constexpr double pressed = 0.5, hovered = 0.88, disabled = 0.4;
+    return UIControl::presentationAlpha() * (!isEnabled() ? disabled : isHighlighted() ? pressed : isHovered() ? hovered : 1);
 }
 
 void UIButton::draw(graphics::PaintContext& context, const graphics::PaintState& state) const {

@@ -7,7 +7,8 @@
 namespace proupsells::uikit {
 
 // Of the custom type: no title, tint or background of its own. Shows its image at its natural size in the centre, and its subviews,
-// which should not take touches. Answers a finger by dimming.
+// which should not take touches. Answers a finger by dimming, and the mouse that rests on it by
+// dimming a little.
 class PROUPSELLS_EXPORT UIButton : public UIControl {
 public:
     std::string_view typeName() const override { return "UIButton"; }

@@ -35,6 +35,11 @@ void UIControl::setHighlighted(bool highlighted) {
     setNeedsDisplay();
 }
 
+bool UIControl::hover(std::optional<geometry::Point> location) {
+    if (std::exchange(m_isHovered, location.has_value()) != m_isHovered) setNeedsDisplay();
+    return isHovered();
+}
+
 bool UIControl::isInside(const UITouch& touch) const {
     return bounds().insetBy(-trackingMargin, -trackingMargin).contains(touch.location(*this));
 }

@@ -46,6 +46,8 @@ public:
     void setEnabled(bool enabled);
     // While a finger is down inside.
     bool isHighlighted() const { return m_isHighlighted; }
+    // While the mouse rests on it, and it can be tapped.
+    bool isHovered() const { return m_isHovered && m_isEnabled; }
     // From the finger's coming down to its lifting.
     bool isTracking() const { return m_isTracking; }
 
@@ -54,6 +56,8 @@ public:
     void touchesMoved(const UITouch& touch) override;
     void touchesEnded(const UITouch& touch) override;
     void touchesCancelled(const UITouch& touch) override;
+
+    bool hover(std::optional<geometry::Point> location) override;
 
     // What assistive technology does instead of a tap; touchUpInside unless overridden.
     virtual void activate() { sendActions(Event::touchUpInside); }
@@ -84,6 +88,7 @@ private:
     std::vector<Entry> m_entries;
     bool m_isEnabled = true;
     bool m_isHighlighted = false;
+    bool m_isHovered = false;
     bool m_isTracking = false;
 };
 

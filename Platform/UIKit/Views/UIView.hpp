@@ -219,6 +219,9 @@ public:
     virtual bool takesOverTouch(const UITouch&) { return false; }
     // Whether the views around must leave the touch that this view has alone.
     virtual bool keepsTouch() const { return false; }
+    // Asked, from the view under the mouse outwards, where the mouse rests: whether there is something to be tapped, which then
+    // shows it. Absent once the mouse has left what was under it.
+    virtual bool hover(std::optional<geometry::Point> /*location*/) { return false; }
     // Whether scrollRectToVisible moves something here.
     virtual bool scrollsItsContent() const { return false; }
     // A wheel: moves what the view shows by `delta` and returns true, or returns false to let the superview try.

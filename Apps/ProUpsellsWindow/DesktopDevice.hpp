@@ -1,0 +1,17 @@
+// What a desktop decides about the window where the arguments say nothing.
+#pragma once
+
+#include "Apps/ProUpsellsHost/CommandLine.hpp"
+
+class QScreen;
+
+namespace proupsells::hostprogram {
+
+// The device of the arguments; where they give no appearance, size or scale, it is the system's. The window is never larger than
+// what the screen has free, unless both its size and its scale are given.
+Device desktopDevice(const ShowArguments& arguments, const QScreen& screen);
+
+// The same after `scale`, or the system, may have changed. The size stays.
+Device followingDevice(const ShowArguments& arguments, Device device, double scale);
+
+} // namespace proupsells::hostprogram
