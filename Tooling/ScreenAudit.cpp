@@ -35,6 +35,7 @@ std::string description(const SemanticNode& node) {
 struct Text {
     const SemanticNode* node;
     std::string path;
+    std::string identifier;         // the nearest
     const SemanticNode* scrollView; // the innermost around it; null for none
     std::string backdrop;           // the colour behind it; empty on a picture
     bool isDisabled;
@@ -43,6 +44,14 @@ struct Text {
 struct Control {
     const SemanticNode* node;
     std::string path;
+    const SemanticNode* scrollView;
+};
+
+// What the nodes inside of one have in common.
+struct Around {
+    std::string path, identifier;
+    const SemanticNode* scrollView = nullptr;
+    bool isDisabled = false;
 };
 
 // What stands behind the nodes that follow.
@@ -54,21 +63,26 @@ struct Backdrop {
 // Walks a tree as it is painted, and keeps what the rules are about.
 class Survey {
 public:
-    explicit Survey(const SemanticNode& screen) { add(screen, "", nullptr, false); }
+    explicit Survey(const SemanticNode& screen) { add(screen, {}); }
 
     std::vector<Text> texts;
     std::vector<Control> controls;
 
 private:
-    void add(const SemanticNode& node, const std::string& path, const SemanticNode* scrollView, bool isDisabled) {
+    void add(const SemanticNode& node, Around around) {
         if (!isVisible(node)) return;
-        isDisabled = isDisabled || contains(node.traits, accessibility::Traits::disabled);
+        around.isDisabled = around.isDisabled || contains(node.traits, accessibility::Traits::disabled);
+        if (!node.identifier.empty()) around.identifier = node.identifier;
         addBackdrop(node);
-        if (node.text) texts.push_back({&node, path, scrollView, backdropOf(node), isDisabled});
-        if (node.isControl) controls.push_back({&node, path});
-        if (node.scroll) scrollView = &node;
-        for (std::size_t i = 0; i < node.children.size(); ++i)
-            add(node.children[i], path.empty() ? std::to_string(i) : path + "." + std::to_string(i), scrollView, isDisabled);
+        if (node.text)
+            texts.push_back({&node, around.path, around.identifier, around.scrollView, backdropOf(node), around.isDisabled});
+        if (node.isControl) controls.push_back({&node, around.path, around.scrollView});
+        if (node.scroll) around.scrollView = &node;
+        const std::string path = around.path.empty() ? "" : around.path + ".";
+        for (std::size_t i = 0; i < node.children.size(); ++i) {
+            around.path = path + std::to_string(i);
+            add(node.children[i], around);
+        }
     }
 
     void addBackdrop(const SemanticNode& node) {
@@ -94,20 +108,40 @@ public:
         for (const Text& text : m_survey.texts) {
             if (text.node->text->isTruncated) add(AuditRule::truncated, text, "is cut off");
             holdInside(text);
+            holdReachable(*text.node, text.path, text.identifier, text.scrollView);
             if (m_options.pseudoLanguage && !isPseudoTranslated(text.node->text->text, *m_options.pseudoLanguage))
                 add(AuditRule::untranslated, text, "is in English");
             if (!text.isDisabled && !text.backdrop.empty()) holdContrast(text);
         }
         for (std::size_t i = 0; i < m_survey.texts.size(); ++i)
             for (std::size_t k = 0; k < i; ++k) holdApart(m_survey.texts[k], m_survey.texts[i]);
-        for (const Control& control : m_survey.controls) holdLarge(control);
+        for (const Control& control : m_survey.controls) {
+            holdLarge(control);
+            holdReachable(*control.node, control.path, control.node->identifier, control.scrollView);
+        }
         std::stable_sort(m_findings.begin(), m_findings.end(), [](const Finding& a, const Finding& b) { return a.rule < b.rule; });
         return std::move(m_findings);
     }
 
 private:
     void add(AuditRule rule, const Text& text, const std::string& what) {
-        m_findings.push_back({rule, text.path, description(*text.node) + " " + what});
+        m_findings.push_back({rule, text.path, description(*text.node) + " " + what, text.identifier});
+    }
+
+    // Something of it can come between the top and the bottom of what scrolls it, or of the screen.
+    void holdReachable(const SemanticNode& node, const std::string& path, const std::string& identifier,
+                       const SemanticNode* scrollView) {
+        double top = m_screen.frame.minY(), bottom = m_screen.frame.maxY();
+        if (scrollView) {
+            const accessibility::ScrollInfo& scroll = *scrollView->scroll;
+            top = scrollView->frame.minY() - scroll.contentOffset.y - scroll.contentInset.top;
+            bottom = scrollView->frame.minY() - scroll.contentOffset.y +
+                     std::max(scroll.contentSize.height, scrollView->frame.height()) + scroll.contentInset.bottom;
+        }
+        const double out = std::max(top - node.frame.minY(), node.frame.maxY() - bottom);
+        if (out <= tolerance || node.frame.isEmpty()) return;
+        m_findings.push_back({AuditRule::unreachable, path,
+                              description(node) + " is out of reach by " + points(out) + " points of its height", identifier});
     }
 
     void holdInside(const Text& text) {
@@ -141,15 +175,18 @@ private:
     }
 
     void holdLarge(const Control& control) {
-        if (!isSmall(*control.node)) return;
-        const auto other = std::find_if(m_survey.controls.begin(), m_survey.controls.end(), [&](const Control& each) {
-            return each.node != control.node && isTooNear(*control.node, *each.node);
-        });
-        if (other == m_survey.controls.end()) return;
         const geometry::Size size = control.node->frame.size;
-        m_findings.push_back({AuditRule::smallControl, control.path,
-                              description(*control.node) + " is " + points(size.width) + " x " + points(size.height) +
-                                  " points beside " + description(*other->node)});
+        const std::string measured =
+            description(*control.node) + " is " + points(size.width) + " x " + points(size.height) + " points";
+        const auto add = [&](AuditRule rule, const std::string& what) {
+            m_findings.push_back({rule, control.path, what, control.node->identifier});
+        };
+        const auto other = std::find_if(m_survey.controls.begin(), m_survey.controls.end(), [&](const Control& each) {
+            return each.node != control.node && isSmall(*control.node) && isTooNear(*control.node, *each.node);
+        });
+        if (other != m_survey.controls.end())
+            return add(AuditRule::smallControl, measured + " beside " + description(*other->node));
+        if (std::min(size.width, size.height) < m_options.leastTarget - tolerance) add(AuditRule::smallTarget, measured);
     }
 
     void holdContrast(const Text& text) {
@@ -197,34 +234,11 @@ std::string outsideOf(std::string_view opening, std::string_view closing, std::s
 
 } // namespace
 
-std::string_view nameOf(AuditRule rule) {
-    switch (rule) {
-    case AuditRule::truncated: return "truncated";
-    case AuditRule::outside: return "outside";
-    case AuditRule::overlapping: return "overlapping";
-    case AuditRule::smallControl: return "small control";
-    case AuditRule::untranslated: return "untranslated";
-    case AuditRule::faint: return "faint";
-    case AuditRule::unknownColor: break;
-    }
-    return "unknown colour";
-}
-
 bool isPseudoTranslated(std::string_view text, PseudoLanguage language) {
     const std::string rest = language == PseudoLanguage::accented ? outsideOf("[", "]", text) : outsideOf("\u202E", "\u202C", text);
     return std::none_of(rest.begin(), rest.end(), [](char c) { return foundation::asciiLower(c) != foundation::asciiUpper(c); });
 }
 
 std::vector<Finding> audit(const SemanticNode& screen, const AuditOptions& options) { return Auditor(screen, options).findings(); }
-
-std::vector<Finding> audit(const accessibility::ReadingElement& reading, const AuditOptions& options) {
-    std::vector<Finding> findings;
-    if (!options.pseudoLanguage) return findings;
-    for (const accessibility::ReadingElement* element : accessibility::elementsOf(reading))
-        for (const std::string& text : {element->name, element->value})
-            if (!isPseudoTranslated(text, *options.pseudoLanguage))
-                findings.push_back({AuditRule::untranslated, "", element->identifier + " \"" + text + "\" is spoken in English"});
-    return findings;
-}
 
 } // namespace proupsells::tooling

@@ -25,6 +25,12 @@ constexpr Word<LintFormat> lintFormats[] = {
     {"json", LintFormat::json},
 };
 
+constexpr Word<AuditFormat> auditFormats[] = {
+    {"text", AuditFormat::text},
+    {"json", AuditFormat::json},
+    {"sarif", AuditFormat::sarif},
+};
+
 template <class Value, std::size_t count>
 Value readWord(const char* key, const std::string& given, const Word<Value> (&words)[count]) {
     const Json all{{key, given}};
@@ -134,6 +140,29 @@ private:
     std::string m_offers, m_strings, m_accepted, m_format = "text";
 };
 
+class Audit final : public Command {
+public:
+    explicit Audit(CLI::App& parent) {
+        CLI::App& command = *parent.add_subcommand("audit", "What is wrong with the screens, however they are shown");
+        command.add_option("SUBJECT", m_subject, "An offers file, or a scenario to look at after each step; the sample offers");
+        command.add_option("--matrix", m_matrix, "A file with screens, locales, sizes, textSizes, appearances; all of them");
+        command.add_option("--accept", m_accepted, "A file of findings that are known, each with a reason");
+        command.add_option("--strings", m_strings, "A folder of <language>.lproj/Localizable.strings");
+        command.add_option("--theme", m_theme, "A file with colours, typefaces and pictures of a brand");
+        command.add_option("--format", m_format, "text, json or sarif");
+        command.footer("Exit status: 0 nothing is wrong; 1 something is, each on a line of its own; 2 unusable input.\n\n"
+                       "Example: proupsells audit offers.json --strings translations --accept accepted.json");
+    }
+
+    Arguments read() const override {
+        return AuditArguments{readFile(m_subject), readFile(m_matrix), readFile(m_accepted),
+                              readFile(m_strings), readFile(m_theme),  readWord("format", m_format, auditFormats)};
+    }
+
+private:
+    std::string m_subject, m_matrix, m_accepted, m_strings, m_theme, m_format = "text";
+};
+
 } // namespace
 
 Arguments readCommandLine(int count, const char* const* arguments) {
@@ -141,8 +170,8 @@ Arguments readCommandLine(int count, const char* const* arguments) {
                  "is wrong.",
                  "proupsells"};
     app.require_subcommand(1);
-    std::unique_ptr<Command> commands[] = {std::make_unique<Show>(app), std::make_unique<Run>(app), std::make_unique<Texts>(app),
-                                           std::make_unique<Read>(app), std::make_unique<Lint>(app)};
+    std::unique_ptr<Command> commands[] = {std::make_unique<Show>(app), std::make_unique<Run>(app),  std::make_unique<Texts>(app),
+                                           std::make_unique<Read>(app), std::make_unique<Lint>(app), std::make_unique<Audit>(app)};
     const auto all = app.get_subcommands([](const CLI::App*) { return true; });
     const auto chosen = [&] { return std::find_if(all.begin(), all.end(), [](const CLI::App* each) { return each->parsed(); }); };
     try {

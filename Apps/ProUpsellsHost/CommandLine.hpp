@@ -45,10 +45,22 @@ struct LintArguments {
     LintFormat format = LintFormat::text;
 };
 
+enum class AuditFormat { text, json, sarif };
+
+struct AuditArguments {
+    std::optional<std::filesystem::path> subject;  // offers or a scenario; absent: the sample offers
+    std::optional<std::filesystem::path> matrix;   // which screens and how; absent: all
+    std::optional<std::filesystem::path> accepted; // findings that are known
+    std::optional<std::filesystem::path> strings;  // a folder of translations
+    std::optional<std::filesystem::path> theme;
+    AuditFormat format = AuditFormat::text;
+};
+
 // Only help was asked for, and has been printed.
 struct HelpShown {};
 
-using Arguments = std::variant<RunArguments, ShowArguments, TextsArguments, ReadArguments, LintArguments, HelpShown>;
+using Arguments =
+    std::variant<RunArguments, ShowArguments, TextsArguments, ReadArguments, LintArguments, AuditArguments, HelpShown>;
 
 // Throws InputError with "command line" in the place of a file.
 Arguments readCommandLine(int count, const char* const* arguments);

@@ -107,6 +107,8 @@ const ReadKey* readerOf(std::string_view key) {
 
 bool isDeviceKey(std::string_view key) { return readerOf(key) != nullptr; }
 
+std::string_view textSizeWord(graphics::ContentSizeCategory textSize) { return wordFor(textSize, textSizes); }
+
 void readDeviceKey(Device& device, std::string_view key, const JsonCursor& value, const std::filesystem::path& folder) {
     const ReadKey* const read = readerOf(key);
     if (!read) value.fail("unknown key \"" + std::string(key) + "\", expected a key of a device");

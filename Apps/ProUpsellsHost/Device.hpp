@@ -33,6 +33,8 @@ struct Device {
 
 // Whether the key is one of a device's.
 bool isDeviceKey(std::string_view key);
+// As "textSize" is written.
+std::string_view textSizeWord(graphics::ContentSizeCategory textSize);
 // Reads one key of a device. Relative paths count from `folder`.
 void readDeviceKey(Device& device, std::string_view key, const JsonCursor& value, const std::filesystem::path& folder);
 // Reads an object of device keys.

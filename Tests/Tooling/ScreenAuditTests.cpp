@@ -44,7 +44,7 @@ SemanticNode control(std::string identifier, Rect frame) {
 SemanticNode screen(std::vector<SemanticNode> children) { return view({{0, 0}, {320, 568}}, std::move(children)); }
 
 // "rule path detail".
-std::vector<std::string> findings(const SemanticNode& screen, const AuditOptions& options = {}) {
+std::vector<std::string> findings(const SemanticNode& screen, const AuditOptions& options = {.leastTarget = 0}) {
     std::vector<std::string> lines;
     for (const Finding& finding : audit(screen, options))
         lines.push_back(std::string(tooling::nameOf(finding.rule)) + " " + finding.path + " " + finding.detail);
@@ -70,7 +70,40 @@ TEST(ScreenAudit, FindsATextThatLeavesTheScreenSideways) {
                 ElementsAre("outside 0 Text \"Monthly\" leaves the screen by 2.5 points"));
 }
 
-TEST(ScreenAudit, LetsTextsScrollOutBelow) { EXPECT_THAT(findings(screen({text({{0, 900}, {100, 20}})})), IsEmpty()); }
+SemanticNode scrolled(double contentHeight, std::vector<SemanticNode> children) {
+    SemanticNode node = view({{0, 0}, {320, 568}}, std::move(children));
+    node.scroll = accessibility::ScrollInfo{.contentOffset = {0, 100}, .contentSize = {320, contentHeight}};
+    return node;
+}
+
+TEST(ScreenAudit, LetsTextsScrollOutBelowAndAbove) {
+    const SemanticNode below = text({{0, 900}, {100, 20}}), above = text({{0, -100}, {100, 20}});
+
+    EXPECT_THAT(findings(screen({scrolled(1020, {above, below})})), IsEmpty());
+}
+
+TEST(ScreenAudit, FindsWhatCannotBeScrolledIntoSight) {
+    EXPECT_THAT(findings(screen({text({{0, 560}, {100, 20}}, "Buy")})),
+                ElementsAre("unreachable 0 Text \"Buy\" is out of reach by 12 points of its height"));
+    EXPECT_THAT(findings(screen({scrolled(1000, {control("terms", {{0, 900}, {100, 20}})})})),
+                ElementsAre("unreachable 0.0 Button terms is out of reach by 20 points of its height"));
+}
+
+TEST(ScreenAudit, FindsTargetsSmallerThanAFingersTip) {
+    const SemanticNode apart = screen({control("terms", {{0, 0}, {100, 43}}), control("close", {{0, 80}, {44, 44}})});
+
+    EXPECT_THAT(findings(apart, {}), ElementsAre("small target 0 Button terms is 100 x 43 points"));
+}
+
+TEST(ScreenAudit, NamesTheNearestIdentifier) {
+    SemanticNode plan = control("plan", {{0, 0}, {320, 44}});
+    plan.children = {text({{0, 0}, {321, 20}})};
+
+    const auto found = audit(screen({plan}), {});
+
+    ASSERT_EQ(found.size(), 1u);
+    EXPECT_EQ(found[0].identifier, "plan");
+}
 
 TEST(ScreenAudit, FindsTextsOnEachOther) {
     EXPECT_THAT(findings(screen({text({{0, 0}, {100, 20}}, "Save"), text({{90, 10}, {100, 20}}, "Monthly")})),
@@ -89,14 +122,14 @@ TEST(ScreenAudit, FindsSmallControlsBesideOthers) {
 
     EXPECT_THAT(findings(links), ElementsAre("small control 0 Button terms is 100 x 17.6 points beside Button privacy",
                                              "small control 1 Button privacy is 100 x 17.6 points beside Button terms"));
-    EXPECT_THAT(findings(links, {.leastControl = 16}), IsEmpty());
+    EXPECT_THAT(findings(links, {.leastControl = 16, .leastTarget = 0}), IsEmpty());
 }
 
 TEST(ScreenAudit, LetsSmallControlsBeThatHaveRoomAroundThem) {
     const SemanticNode apart = screen({control("terms", {{0, 0}, {100, 16}}), control("privacy", {{0, 24}, {100, 16}})});
 
     EXPECT_THAT(findings(apart), IsEmpty());
-    EXPECT_THAT(findings(apart, {.leastControl = 44}), testing::SizeIs(2));
+    EXPECT_THAT(findings(apart, {.leastControl = 44, .leastTarget = 0}), testing::SizeIs(2));
 }
 
 TEST(ScreenAudit, MeasuresTheRoomToTheEdgeOfALargeControl) {

@@ -1,0 +1,20 @@
+// Using all processors where a task needs a process to itself.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Platform/System/Compiler.hpp"
+
+namespace proupsells::system {
+
+// Runs the task for 0 … count - 1, each in a copy of the process as it is now, as many at a time as there are processors. Returns
+// what each task returned, absent where one ended the process. Where processes cannot be copied, the tasks run here, one after
+// another. To be called before the process has threads.
+PROUPSELLS_EXPORT std::vector<std::optional<std::string>> runInProcesses(std::size_t count,
+                                                                         const std::function<std::string(std::size_t)>& task);
+
+} // namespace proupsells::system

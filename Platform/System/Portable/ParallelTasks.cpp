@@ -1,0 +1,11 @@
+#include "Platform/System/ParallelTasks.hpp"
+
+namespace proupsells::system {
+
+std::vector<std::optional<std::string>> runInProcesses(std::size_t count, const std::function<std::string(std::size_t)>& task) {
+    std::vector<std::optional<std::string>> results;
+    for (std::size_t i = 0; i < count; ++i) results.emplace_back(task(i));
+    return results;
+}
+
+} // namespace proupsells::system

@@ -1,0 +1,26 @@
+#include <gmock/gmock.h>
+
+#include "Platform/System/ParallelTasks.hpp"
+
+using namespace proupsells;
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Optional;
+
+TEST(ParallelTasks, ReturnWhatEachTaskReturnsInOrder) {
+    const auto results = system::runInProcesses(5, [](std::size_t number) { return std::to_string(number * number); });
+
+    EXPECT_THAT(results, ElementsAre(Optional(std::string("0")), Optional(std::string("1")), Optional(std::string("4")),
+                                     Optional(std::string("9")), Optional(std::string("16"))));
+}
+
+TEST(ParallelTasks, ReturnMoreThanAPipeHolds) {
+    const auto results = system::runInProcesses(3, [](std::size_t number) { return std::string(1 << 20, char('a' + number)); });
+
+    for (std::size_t number = 0; number < 3; ++number) EXPECT_EQ(results[number], std::string(1 << 20, char('a' + number)));
+}
+
+TEST(ParallelTasks, AreNoneWhereThereIsNothingToDo) {
+    EXPECT_THAT(system::runInProcesses(0, [](std::size_t) { return std::string(); }), IsEmpty());
+}

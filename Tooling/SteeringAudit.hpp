@@ -1,0 +1,22 @@
+// What is wrong with a screen, found by steering it as a person does who has only keys or a screen reader.
+#pragma once
+
+#include <functional>
+
+#include "Platform/UIKit/Controllers/UIWindow.hpp"
+#include "Tooling/ScreenAudit.hpp"
+
+namespace proupsells::tooling {
+
+// Lets time pass, in seconds of the run loop's clock.
+using Wait = std::function<void(double duration_s)>;
+
+// Goes through the front-most screen with Tab: whether every control gets the focus, is in sight then, and looks different with it.
+// The focus is dropped at the end; what was scrolled stays.
+std::vector<Finding> auditKeyboard(uikit::UIWindow& window, const Wait& wait);
+
+// Presses each radio button and disclosure, turns each pager, and compares what is told before and after. Ends with the button
+// checked that was, and the disclosures as they were.
+std::vector<Finding> auditStates(uikit::UIWindow& window, const Wait& wait);
+
+} // namespace proupsells::tooling
