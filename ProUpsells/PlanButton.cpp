@@ -1,9 +1,11 @@
 #include "ProUpsells/PlanButton.hpp"
 
+#include <algorithm>
 #include <utility>
 
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Foundation/Locale.hpp"
+#include "Platform/Graphics/ContentSize.hpp"
 #include "Platform/LumoKit/LargestTextSize.hpp"
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
 #include "Platform/UIKit/Views/UIImageView.hpp"
@@ -14,6 +16,8 @@
 namespace proupsells {
 
 namespace {
+
+constexpr double titleSize = 18;
 
 const uikit::UIColor& textAndIconColor() {
     static const uikit::UIColor color = velauikit::dynamicColor(16);
@@ -42,8 +46,6 @@ PlanButton::PlanButton() : m_titleLabel(std::make_shared<uikit::UILabel>()) {
     setTranslatesAutoresizingMaskIntoConstraints(false);
     m_titleLabel->setTranslatesAutoresizingMaskIntoConstraints(false);
     m_titleLabel->setLargestTextSize(lumokit::LargestSize::buttonText);
-    // There is one line for it, so a large one is set smaller until it fits.
-    m_titleLabel->setMinimumScaleFactor(0.7 / graphics::scaleFactor(lumokit::LargestSize::buttonText));
     // The title gives way before the arrow does.
     m_titleLabel->setContentCompressionResistancePriority(uikit::layoutPriorityHigh - 1, uikit::Axis::horizontal);
     applyTexts();
@@ -53,13 +55,17 @@ PlanButton::PlanButton() : m_titleLabel(std::make_shared<uikit::UILabel>()) {
 void PlanButton::layoutSubviews() {
     UIButton::layoutSubviews();
     setCornerRadius(bounds().height() / 2);
+    // There is one line for the title, so a long one is set smaller until it fits.
+    const auto category = std::min(traitCollection().preferredContentSizeCategory, lumokit::LargestSize::buttonText);
+    m_titleLabel->setMinimumScaleFactor(graphics::leastTextSize / graphics::scaledSize(titleSize, category));
 }
 
 void PlanButton::applyTexts() {
     const std::string title = foundation::LocaleServices::current().titleCased(foundation::localizedString("choose your plan"),
                                                                                foundation::Locale::current());
     graphics::AttributedString text(
-        title, {.font = velauikit::velaDefaultFont(velauikit::FontOption::bold, 18), .color = textAndIconColor(), .kern = 2});
+        title,
+        {.font = velauikit::velaDefaultFont(velauikit::FontOption::bold, titleSize), .color = textAndIconColor(), .kern = 2});
     text.paragraphStyle = graphics::ParagraphStyle{5, graphics::TextAlignment::center};
     m_titleLabel->setAttributedText(std::move(text));
     accessibilityLabel = title;

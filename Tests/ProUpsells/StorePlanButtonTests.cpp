@@ -132,6 +132,23 @@ TEST_F(StorePlanButton, ShrinksATitleThatIsTooLong) {
     EXPECT_EQ(arrow().frame, (geometry::Rect{{320 - 22 - 16 - 24, arrow().frame.minY()}, {24, 16}}));
 }
 
+TEST_F(StorePlanButton, ShrinksATitleToElevenPointsWhateverTheTextSize) {
+    for (const auto& [title, isTruncated] :
+         {std::pair{"den passenden tarif auswählen!", false}, {"den allerbesten tarif jetzt auswählen!", true}}) {
+        const HostTranslations german({{"choose your plan", title}}, "de");
+        window->setSize({320, 700}, {});
+        for (int category = 0; category < graphics::contentSizeCategoryCount; ++category) {
+            uikit::UITraitCollection traits = window->traits();
+            traits.preferredContentSizeCategory = graphics::ContentSizeCategory(category);
+            window->setTraits(traits);
+            showPage();
+
+            EXPECT_EQ(label().text->isTruncated, isTruncated) << title << " at " << category;
+            EXPECT_GE(label().text->size, 11 - 1e-6) << title << " at " << category;
+        }
+    }
+}
+
 TEST_F(StorePlanButton, CutsATitleThatIsFarTooLong) {
     const HostTranslations german({{"choose your plan", "wähle den tarif, der am besten zu dir und deinen projekten passt"}}, "de");
     for (const bool isRightToLeft : {false, true}) {
