@@ -31,10 +31,9 @@ std::vector<uikit::UIScrollView*> strips(const uikit::UIView& view) {
 // Nearly a page onwards (1) or back (-1), as far as there is something.
 void turn(uikit::UIScrollView& strip, int step) {
     constexpr double shareOfPage = 0.8;
-    constexpr motion::Animation movement{motion::TimingCurve::easeInOut(), 0.3, 0};
     const double onwards = shareOfPage * strip.bounds().width() * (strip.isRightToLeft() ? -step : step);
     const double x = std::clamp(strip.contentOffset().x + onwards, 0.0, scrollableWidth(strip));
-    strip.setContentOffset({x, strip.contentOffset().y}, movement);
+    strip.setContentOffset({x, strip.contentOffset().y}, motion::Animation::standard());
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "Platform/Motion/TimingCurve.hpp"
+#include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Platform/System/PathText.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
@@ -23,6 +25,8 @@ void VideoView::play() {
 
 void VideoView::updatePlayback() {
     m_hold.reset();
+    m_wasSeenEmpty = false;
+    m_fadeStart_s.reset();
     m_playback = m_isPlaying && m_file ? ClipPlayback::of(*m_file) : nullptr;
     setNeedsDisplay();
 }
@@ -32,9 +36,15 @@ host::ClipFrame VideoView::dueFrame() const { return standsStill() ? m_playback-
 bool VideoView::isAnimating() const {
     if (UIView::isAnimating()) return true;
     if (!m_playback || !m_playback->isPlayable() || !window() || m_lastPaint != window()->paintCount()) return false;
+    if (fadeProgress() < 1) return true;
     if (m_hold && m_showsPicture) return false;
     // On a real clock the first picture may come some frames late.
     return !standsStill() || !m_showsFirstPicture;
+}
+
+double VideoView::fadeProgress() const {
+    constexpr motion::Animation fade{motion::TimingCurve::easeOut(), 0.15, 0};
+    return m_fadeStart_s ? fade.progressAt(runloop::MainRunLoop::main().now_s() - *m_fadeStart_s) : 1;
 }
 
 geometry::Rect VideoView::pictureFrame(const graphics::Bitmap& picture) const {
@@ -52,8 +62,10 @@ void VideoView::draw(graphics::PaintContext& context, const graphics::PaintState
     const host::ClipFrame frame = dueFrame();
     m_showsPicture = frame.picture != nullptr;
     m_showsFirstPicture = frame.picture && frame.time_s == 0;
+    if (!m_showsPicture) m_wasSeenEmpty = true;
+    if (m_showsPicture && std::exchange(m_wasSeenEmpty, false)) m_fadeStart_s = runloop::MainRunLoop::main().now_s();
     if (frame.picture && frame.picture->width > 0 && frame.picture->height > 0)
-        context.bitmap(state, pictureFrame(*frame.picture), frame.picture);
+        context.bitmap(state.fadedBy(fadeProgress()), pictureFrame(*frame.picture), frame.picture);
 }
 
 void VideoView::describe(accessibility::SemanticNode& node, const graphics::PaintState&) const {

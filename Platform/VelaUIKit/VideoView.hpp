@@ -13,7 +13,8 @@ namespace proupsells::velauikit {
 
 // Shows nothing without a file, with a missing one or with one that cannot be played, and until it is told to play. Costs nothing
 // while it is not painted. The picture keeps its shape and fits in; it fills the view, cut at the edges, when the view clips to its
-// bounds. Without a natural size. For somebody who wants less motion it stands still at its first picture.
+// bounds. A first picture that comes after the view was seen without one fades in. Without a natural size. For somebody who wants
+// less motion it stands still at its first picture.
 class VideoView : public uikit::UIView {
 public:
     VideoView();
@@ -35,6 +36,7 @@ private:
     void updatePlayback();
     bool standsStill() const { return traitCollection().reduceMotion; }
     host::ClipFrame dueFrame() const;
+    double fadeProgress() const;
     geometry::Rect pictureFrame(const graphics::Bitmap& picture) const;
 
     std::optional<std::filesystem::path> m_file;
@@ -44,6 +46,8 @@ private:
     mutable std::shared_ptr<void> m_hold;             // while a person rests on the view, as painted last
     mutable bool m_showsPicture = false;              // likewise
     mutable bool m_showsFirstPicture = false;
+    mutable bool m_wasSeenEmpty = false;         // since playback began, and no picture came yet
+    mutable std::optional<double> m_fadeStart_s; // of a first picture that came late
 };
 
 } // namespace proupsells::velauikit

@@ -216,8 +216,39 @@ TEST_F(VideoViewTest, WaitsForItsFirstPictureWhereLessMotionIsWanted) {
 
     decoder->setHeldBack(false);
 
+    painted();
+    EXPECT_TRUE(window->isAnimating()); // it fades in
+    bed.runFor(0.15);
     EXPECT_THAT(shownPictures(), ElementsAre(0));
     EXPECT_FALSE(window->isAnimating());
+}
+
+TEST_F(VideoViewTest, FadesAPictureInThatComesWhileTheEmptyViewIsSeen) {
+    const auto opacity = [this] {
+        const graphics::DisplayList list = painted();
+        return list.commands.empty() ? 0 : double(list.commands.back().opacity);
+    };
+    decoder->setHeldBack(true);
+    play(*view);
+    EXPECT_EQ(opacity(), 0);
+
+    decoder->setHeldBack(false);
+    EXPECT_EQ(opacity(), 0);
+    EXPECT_TRUE(window->isAnimating());
+    bed.runFor(0.05);
+    const double early = opacity();
+    EXPECT_GT(early, 0);
+    EXPECT_LT(early, 1);
+    bed.runFor(0.05);
+    EXPECT_GT(opacity(), early);
+    bed.runFor(0.05);
+    EXPECT_EQ(opacity(), 1);
+}
+
+TEST_F(VideoViewTest, ShowsAPictureAtOnceThatIsThereInTime) {
+    play(*view);
+
+    EXPECT_EQ(painted().commands.back().opacity, 1);
 }
 
 TEST_F(VideoViewTest, GoesBackToItsFirstPictureWhenTheDecoderHasIt) {
