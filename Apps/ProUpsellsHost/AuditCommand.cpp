@@ -120,7 +120,7 @@ AuditLedger auditScenario(const std::filesystem::path& file) {
 
 int auditScreens(const AuditArguments& arguments) {
     constexpr int clean = 0, hasFindings = 1;
-    const AcceptedFindings accepted(arguments.accepted, {"rule", "screen", "identifier", "path"});
+    const AcceptedFindings accepted(arguments.accepted);
     const bool playsScenario = arguments.subject && isScenario(*arguments.subject);
     if (playsScenario && (arguments.matrix || arguments.strings || arguments.theme))
         throw InputError(commandLinePlace, "", "a scenario has a device of its own, expected no --matrix, --strings or --theme");

@@ -44,7 +44,7 @@ std::string inOneLine(const LintFinding& finding, bool isAboutOffers) {
 
 int lintOffers(const LintArguments& arguments) {
     constexpr int clean = 0, hasFindings = 1;
-    const AcceptedFindings accepted(arguments.accepted, {"rule", "file", "place"});
+    const AcceptedFindings accepted(arguments.accepted);
     const Offers offers = readOffersFile(arguments.offers);
     auto findings = tooling::lint({offers.options, offers.annualSubscriptionPriceForComparisonWithPromotionalPrice,
                                    offers.monthlySubscriptionPriceForComparisonWithPromotionalPrice});
