@@ -4,13 +4,9 @@
 #include <array>
 #include <string>
 
+#include <CLI/CLI.hpp>
+
 #include "Apps/ProUpsellsHost/Device.hpp"
-
-namespace CLI {
-
-class App;
-
-} // namespace CLI
 
 namespace proupsells::hostprogram {
 
