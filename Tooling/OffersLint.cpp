@@ -80,7 +80,7 @@ private:
     void findZeroMonths() {
         for (const SubscriptionOption& option : m_offers.options)
             if (option.isMonthly() && foundation::decimalNumber(option.price()) == 0.0)
-                add("monthly price of 0", place(option, "price"),
+                add(zeroMonth, place(option, "price"),
                     inQuotes(option.price()) + " reads as 0, and a saving against 0 stops the program; leave the plan out");
     }
 

@@ -10,6 +10,9 @@
 
 namespace proupsells::tooling {
 
+// The rule of plans that stop the program when they are shown.
+inline constexpr const char* zeroMonth = "monthly price of 0";
+
 struct OffersToLint {
     std::vector<SubscriptionOption> options;
     // Struck through beside the plans' prices; absent when no promotion is on.

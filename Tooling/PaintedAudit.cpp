@@ -122,6 +122,16 @@ std::vector<PaintedText> textsOnPictures(const DisplayList& list, std::vector<Pa
     return texts;
 }
 
+DisplayList aroundTexts(const DisplayList& list, const std::vector<PaintedText>& texts) {
+    DisplayList part = list;
+    std::erase_if(part.commands, [&](const Command& command) {
+        return std::none_of(texts.begin(), texts.end(),
+                            [&](const PaintedText& text) { return text.command.bounds.intersects(command.bounds); });
+    });
+    part.ahead.clear();
+    return part;
+}
+
 std::vector<Finding> auditWords(const DisplayList& list, const std::vector<PaintedText>& texts) {
     std::vector<Finding> findings;
     for (const auto& [command, path, identifier] : texts) {
@@ -143,8 +153,8 @@ std::vector<Finding> auditWords(const DisplayList& list, const std::vector<Paint
 }
 
 std::vector<Finding> auditContrast(const DisplayList& list, const std::vector<PaintedText>& texts, const Rect& window,
-                                   const ColorAt& behind) {
-    constexpr double step = 2;         // points between the places that are looked at
+                                   const ColorAt& behind, const ColorAt& shown) {
+    constexpr double step = 1;         // points between the places that are looked at
     constexpr double mayBeWorse = .05; // of them
     std::vector<Finding> findings;
     for (const auto& [command, path, identifier] : texts) {
@@ -155,6 +165,7 @@ std::vector<Finding> auditContrast(const DisplayList& list, const std::vector<Pa
         for (double y = place.minY() + step / 2; y < place.maxY(); y += step)
             for (double x = place.minX() + step / 2; x < place.maxX(); x += step) {
                 const RGBA back = behind({x, y});
+                if (shown({x, y}) == back) continue;
                 contrasts.push_back(graphics::contrast(over(command.color, command.opacity, back), back));
             }
         if (contrasts.empty()) continue;

@@ -27,12 +27,15 @@ std::vector<PaintedText> paintedTexts(const graphics::DisplayList& list, const a
 // Those that stand on a picture, where no colour of the design system says what is behind them.
 std::vector<PaintedText> textsOnPictures(const graphics::DisplayList& list, std::vector<PaintedText> texts);
 
+// The part of the list that is painted where the texts stand.
+graphics::DisplayList aroundTexts(const graphics::DisplayList& list, const std::vector<PaintedText>& texts);
+
 // Words and numbers that go on in the next line. Where the text knows where it may be broken, it is not.
 std::vector<Finding> auditWords(const graphics::DisplayList& list, const std::vector<PaintedText>& texts);
 
-// Texts that stand out too little from what is painted behind them. A twentieth of a text's place may be worse than the whole; what
-// fades in or out is let be.
+// Texts that stand out too little from what is painted behind them: their colour against each place where `shown`, with the texts,
+// differs from `behind`. A twentieth of these may be worse than the whole; what fades in or out is let be.
 std::vector<Finding> auditContrast(const graphics::DisplayList& list, const std::vector<PaintedText>& texts,
-                                   const geometry::Rect& window, const ColorAt& behind);
+                                   const geometry::Rect& window, const ColorAt& behind, const ColorAt& shown);
 
 } // namespace proupsells::tooling

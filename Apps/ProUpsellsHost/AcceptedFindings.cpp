@@ -10,16 +10,14 @@
 
 namespace proupsells::hostprogram {
 
-AcceptedFindings::AcceptedFindings(const std::optional<std::filesystem::path>& file, std::initializer_list<std::string_view> keys) {
+AcceptedFindings::AcceptedFindings(const std::optional<std::filesystem::path>& file) {
     if (!file) return;
     constexpr std::string_view reason = "reason";
-    std::vector<std::string_view> known(keys);
-    known.push_back(reason);
     const Json json = readJsonFile(*file);
     const JsonCursor root{json, system::textOf(*file)};
     root.expectObject({"accepted"});
     for (const JsonCursor& entry : root.at("accepted").elements()) {
-        entry.expectObject(known);
+        entry.expectObject({"rule", "file", "place", "screen", "identifier", "path", reason});
         if (entry.at(reason).text().empty()) entry.at(reason).fail("the reason is empty, expected why the finding is let be");
         Keys wanted;
         for (const std::string& key : entry.keys())

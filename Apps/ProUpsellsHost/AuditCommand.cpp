@@ -1,11 +1,11 @@
 #include "Apps/ProUpsellsHost/AuditCommand.hpp"
 
-#include <cstdlib>
 #include <iostream>
 
 #include <nlohmann/json.hpp>
 
 #include "Apps/ProUpsellsHost/AcceptedFindings.hpp"
+#include "Apps/ProUpsellsHost/AuditOffers.hpp"
 #include "Apps/ProUpsellsHost/AuditReport.hpp"
 #include "Apps/ProUpsellsHost/AuditTour.hpp"
 #include "Apps/ProUpsellsHost/DeviceOptions.hpp"
@@ -13,7 +13,6 @@
 #include "Apps/ProUpsellsHost/JsonFile.hpp"
 #include "Apps/ProUpsellsHost/ScenarioRunner.hpp"
 #include "Platform/Foundation/Resources.hpp"
-#include "Platform/System/ParallelTasks.hpp"
 #include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
@@ -33,66 +32,12 @@ Device deviceOf(const AuditArguments& arguments) {
     return readDevice(JsonCursor{keys, commandLinePlace}, std::filesystem::current_path());
 }
 
-struct Subject {
-    Offers offers;
-    Device device;
-    AuditMatrix matrix;
-};
-
-Subject readSubject(const AuditArguments& arguments) {
-    Subject subject;
+AuditSubject readSubject(const AuditArguments& arguments) {
+    AuditSubject subject;
     subject.offers = readOffersFile(arguments.subject ? *arguments.subject : foundation::requiredResource("offers.json"));
     subject.device = deviceOf(arguments);
     subject.matrix = arguments.matrix ? readMatrix(*arguments.matrix, arguments.strings) : defaultMatrix(arguments.strings);
     return subject;
-}
-
-// What is found in one language, as JSON for the process that asked for it.
-std::string auditLanguage(const Subject& subject, const std::string& locale) {
-    AuditLedger ledger;
-    Device device = subject.device;
-    device.locale = locale;
-    Json identifiers = Json::object();
-    for (const StartScreen screen : subject.matrix.screens) {
-        AuditTour tour(screen, subject.offers, device, ledger);
-        tour.run(subject.matrix);
-        identifiers[std::string(wordFor(screen, startScreens))] = tour.identifiers();
-    }
-    Json entries = Json::array();
-    for (const AuditEntry& entry : ledger.entries()) entries.push_back(toJson(entry));
-    return Json{{"entries", entries}, {"identifiers", identifiers}}.dump(-1, ' ', false, Json::error_handler_t::replace);
-}
-
-// Controls that another language has under other identifiers.
-void compareIdentifiers(const Json& first, const Json& other, const Device& device, AuditLedger& ledger) {
-    ledger.begin(device);
-    for (const auto& [screen, identifiers] : other.items())
-        for (const Json& identifier : identifiers) {
-            const Json& known = first[screen];
-            if (std::find(known.begin(), known.end(), identifier) != known.end()) continue;
-            ledger.add(screen, {tooling::AuditRule::languageIdentifier, "",
-                                identifier.get<std::string>() + " is an identifier in " + device.locale + " only",
-                                identifier.get<std::string>()});
-        }
-}
-
-// A process for each language: the comparison keeps the language of its first use, and all processors have something to do.
-AuditLedger auditOffers(const Subject& subject) {
-    const auto& locales = subject.matrix.locales;
-    const auto answers = system::runInProcesses(locales.size(), [&](std::size_t i) { return auditLanguage(subject, locales[i]); });
-    AuditLedger ledger;
-    Json first;
-    for (std::size_t i = 0; i < locales.size(); ++i) {
-        // It has said why.
-        if (!answers[i]) std::abort();
-        const Json answer = Json::parse(*answers[i]);
-        for (const Json& entry : answer["entries"]) ledger.merge(auditEntryOf(entry));
-        if (i == 0) first = answer["identifiers"];
-        Device device = subject.device;
-        device.locale = locales[i];
-        compareIdentifiers(first, answer["identifiers"], device, ledger);
-    }
-    return ledger;
 }
 
 AuditLedger auditScenario(const std::filesystem::path& file) {
@@ -120,7 +65,7 @@ AuditLedger auditScenario(const std::filesystem::path& file) {
 
 int auditScreens(const AuditArguments& arguments) {
     constexpr int clean = 0, hasFindings = 1;
-    const AcceptedFindings accepted(arguments.accepted, {"rule", "screen", "identifier", "path"});
+    const AcceptedFindings accepted(arguments.accepted);
     const bool playsScenario = arguments.subject && isScenario(*arguments.subject);
     if (playsScenario && (arguments.matrix || arguments.strings || arguments.theme))
         throw InputError(commandLinePlace, "", "a scenario has a device of its own, expected no --matrix, --strings or --theme");

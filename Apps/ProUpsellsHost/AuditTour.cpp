@@ -13,8 +13,13 @@ using graphics::ContentSizeCategory;
 
 namespace {
 
-graphics::RGBA colorOf(rasterbackend::Pixel pixel) {
-    return {std::uint8_t(pixel >> 16), std::uint8_t(pixel >> 8), std::uint8_t(pixel), 255};
+// Of what was painted last, at a pixel a point.
+tooling::ColorAt colorsOf(const rasterbackend::RasterSurface& surface) {
+    return [&picture = surface.picture()](geometry::Point point) -> graphics::RGBA {
+        const int x = std::clamp(int(point.x), 0, picture.width() - 1), y = std::clamp(int(point.y), 0, picture.height() - 1);
+        const rasterbackend::Pixel pixel = picture.row(y)[x];
+        return {std::uint8_t(pixel >> 16), std::uint8_t(pixel >> 8), std::uint8_t(pixel), 255};
+    };
 }
 
 double sumOfOffsets(const SemanticNode& node) {
@@ -64,13 +69,11 @@ bool ScreenInspector::lookAtPainting(const std::string& screen, const SemanticNo
     const auto texts = tooling::textsOnPictures(list, std::move(all));
     if (texts.empty()) return false;
     const geometry::Size size = m_session.device().size;
-    m_surface.present(tooling::withoutTexts(list), size, 1);
-    const auto& picture = m_surface.picture();
-    const auto behind = [&](geometry::Point point) {
-        const int x = std::clamp(int(point.x), 0, picture.width() - 1), y = std::clamp(int(point.y), 0, picture.height() - 1);
-        return colorOf(picture.row(y)[x]);
-    };
-    for (const auto& finding : tooling::auditContrast(list, texts, {{}, size}, behind)) m_ledger.add(screen, finding);
+    const graphics::DisplayList part = tooling::aroundTexts(list, texts);
+    m_behind.present(tooling::withoutTexts(part), size, 1);
+    m_shown.present(part, size, 1);
+    for (const auto& finding : tooling::auditContrast(list, texts, {{}, size}, colorsOf(m_behind), colorsOf(m_shown)))
+        m_ledger.add(screen, finding);
     return true;
 }
 
@@ -109,6 +112,8 @@ std::size_t AuditTour::run(const AuditMatrix& matrix) {
 // Each page of the header, and all that is further down. The store page has views only for what is in sight; the trees of the
 // others are whole wherever they are scrolled to.
 void AuditTour::look(const AuditMatrix& matrix) {
+    m_page = 0;
+    turnPage();
     SemanticNode tree = m_session.window().semanticTree();
     for (bool isNewTree = true;;) {
         if (isNewTree) {
@@ -130,7 +135,7 @@ void AuditTour::look(const AuditMatrix& matrix) {
         isNewTree = m_screen == StartScreen::store;
     }
     m_inspector.listen(m_name);
-    m_page = 0;
+    m_session.window().pointer(std::nullopt);
     m_session.window().key(host::Key::home);
     m_driver.wait(0);
 }
@@ -174,14 +179,20 @@ void AuditTour::open() {
         if (element->isOperable()) m_identifiers.insert(element->identifier);
 }
 
-// The paywall's header turns by itself. False behind its last page.
+// To the next page of a header, until all have been seen. It does not turn by itself while a pointer rests on it, and its title
+// comes later than its picture.
 bool AuditTour::turnPage() {
-    constexpr int pages = 4;
-    constexpr double secondsAPage = 5;
-    if (m_screen != StartScreen::paywall || m_page + 1 >= pages) return false;
-    ++m_page;
-    m_driver.wait(secondsAPage);
-    return true;
+    const auto reading = m_session.window().reading();
+    for (const auto* element : accessibility::elementsOf(reading)) {
+        if (element->role != accessibility::Role::pager || !element->adjust || m_page >= element->count) continue;
+        ++m_page;
+        m_session.window().pointer(element->frame.center());
+        element->adjust(element->position == element->count ? 1 - element->count : 1);
+        constexpr double longEnough_s = 1.4;
+        m_driver.wait(longEnough_s);
+        return true;
+    }
+    return false;
 }
 
 void AuditTour::noteTextSizes(const SemanticNode& tree) {

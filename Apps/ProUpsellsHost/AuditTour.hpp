@@ -34,7 +34,7 @@ private:
     HostSession& m_session;
     Driver& m_driver;
     AuditLedger& m_ledger;
-    rasterbackend::RasterSurface m_surface;
+    rasterbackend::RasterSurface m_behind, m_shown; // without texts, and with them
 };
 
 // One screen in every configuration of a language.
@@ -72,7 +72,7 @@ private:
     ScreenInspector m_inspector;
     std::set<std::string> m_identifiers;
     std::map<std::string, TextSizes> m_textSizes;
-    int m_page = 0;
+    int m_page = 0; // how many of a header have been turned to
 };
 
 } // namespace proupsells::hostprogram

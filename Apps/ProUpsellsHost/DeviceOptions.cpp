@@ -1,6 +1,5 @@
 #include "Apps/ProUpsellsHost/DeviceOptions.hpp"
 
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 #include "Platform/Foundation/DecimalText.hpp"

@@ -5,13 +5,9 @@
 #include <string>
 #include <vector>
 
+#include <CLI/CLI.hpp>
+
 #include "Apps/ProUpsellsHost/Device.hpp"
-
-namespace CLI {
-
-class App;
-
-} // namespace CLI
 
 namespace proupsells::hostprogram {
 

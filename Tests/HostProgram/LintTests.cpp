@@ -75,6 +75,28 @@ TEST_F(LintCommand, SaysWhatIsWrongWithATranslationAndWhere) {
                                   ": \"formerly %@\": lost placeholder: \"früher\" has lost %@; put it back\n");
 }
 
+TEST_F(LintCommand, FindsATranslationThatIsLongerThanItsPlace) {
+    const std::string word = "Donaudampfschifffahrtsgesellschaftskapitän";
+    writeGerman(translated() + "\"Annually\" = \"" + word + "\";\n");
+
+    const Json found = Json::parse(lint(goodOptions, {"--strings", folder.path().string(), "--format", "json"}).output)["findings"];
+
+    ASSERT_THAT(found, SizeIs(1));
+    EXPECT_EQ(found[0]["rule"], "too long");
+    EXPECT_EQ(found[0]["place"], "Annually");
+    EXPECT_THAT(found[0]["message"].get<std::string>(), HasSubstr(word));
+}
+
+TEST_F(LintCommand, ShowsNoPlansThatWouldStopTheProgram) {
+    writeGerman(translated());
+
+    const Outcome outcome =
+        lint({option("yearly", "y", "99.99"), option("monthly", "m", "0")}, {"--strings", folder.path().string()});
+
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_THAT(outcome.output, HasSubstr("/options/1/price: monthly price of 0: "));
+}
+
 TEST_F(LintCommand, PrintsJson) {
     const Json findings = Json::parse(lint(Json::array({option("lifetime", "l", "$9")}), {"--format", "json"}).output)["findings"];
 

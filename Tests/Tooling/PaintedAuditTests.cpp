@@ -68,7 +68,9 @@ accessibility::SemanticNode screenOfTexts(Rect place = window) {
 std::vector<tooling::PaintedText> textsIn(const DisplayList& list) { return tooling::paintedTexts(list, screenOfTexts()); }
 
 std::vector<std::string> faintTexts(const DisplayList& list, const tooling::ColorAt& behind) {
-    return details(tooling::auditContrast(list, textsIn(list), window, behind));
+    // Painted wherever the text stands, in a colour that is nowhere behind it.
+    const auto shown = [](Point) { return graphics::rgb(0xFF00FF); };
+    return details(tooling::auditContrast(list, textsIn(list), window, behind, shown));
 }
 
 // The text's lines one below the other, cut at `cut` of all clusters.
@@ -111,6 +113,14 @@ TEST(PaintedContrast, IsHeldWhereThePictureIsWorst) {
     EXPECT_THAT(faintTexts(Painting().text(black).list, [](Point point) { return point.x < 12 ? black : white; }), IsEmpty());
 }
 
+TEST(PaintedContrast, IsHeldOnlyWhereTheTextIsPainted) {
+    const auto behind = [](Point point) { return point.y < 15 ? black : white; };
+    const auto shown = [](Point point) { return point.y < 15 ? black : grey; };
+    const DisplayList list = Painting().text(black).list;
+
+    EXPECT_THAT(tooling::auditContrast(list, textsIn(list), window, behind, shown), IsEmpty());
+}
+
 TEST(PaintedContrast, MayBeLessForLargeTexts) {
     const auto onWhite = [](Point) { return white; }; // 3.9:1
 
@@ -147,6 +157,15 @@ TEST(PaintedTexts, AreNotThoseBehindTheScreen) {
 
     EXPECT_THAT(textsIn(hidden.list), IsEmpty());
     EXPECT_THAT(tooling::paintedTexts(Painting().text(black).list, screenOfTexts({{0, 200}, {320, 100}})), IsEmpty());
+}
+
+TEST(WhatIsAroundTexts, LeavesOutWhatStandsElsewhere) {
+    Painting painting;
+    painting.add(CommandKind::image, {{0, 200}, {320, 100}});
+    painting.add(CommandKind::image, line);
+    painting.text(black);
+
+    EXPECT_THAT(tooling::aroundTexts(painting.list, textsIn(painting.list)).commands, SizeIs(2));
 }
 
 TEST(WhatIsBehindTexts, IsEverythingElse) {

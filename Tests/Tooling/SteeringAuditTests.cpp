@@ -1,0 +1,122 @@
+#include <gmock/gmock.h>
+
+#include "Backends/Headless/TestBed.hpp"
+#include "Platform/UIKit/Controls/UIControl.hpp"
+#include "Tooling/SteeringAudit.hpp"
+
+using namespace proupsells;
+
+using accessibility::Role;
+using geometry::Rect;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+// A control that tells whether it is open or checked. A stuck one always tells the same.
+class Switch : public uikit::UIControl {
+public:
+    Switch(Role role, std::string identifier, bool isStuck) : m_role(role), m_isStuck(isStuck) {
+        accessibilityIdentifier = std::move(identifier);
+        addAction(
+            [this](UIControl&) {
+                if (!m_isStuck) m_isOn = m_role == Role::radioButton || !m_isOn;
+            },
+            Event::touchUpInside);
+    }
+
+protected:
+    void describe(accessibility::SemanticNode& node, const graphics::PaintState& state) const override {
+        UIControl::describe(node, state);
+        node.spoken.role = m_role;
+        node.spoken.name = accessibilityIdentifier;
+        (m_role == Role::disclosure ? node.spoken.isExpanded : node.spoken.isChecked) = m_isOn;
+    }
+
+private:
+    Role m_role;
+    bool m_isStuck;
+    bool m_isOn = false;
+};
+
+// Below the screen, in something that does not scroll although it says so.
+class Unreachable final : public Switch {
+public:
+    Unreachable() : Switch(Role::button, "below", false) {}
+
+protected:
+    void describe(accessibility::SemanticNode& node, const graphics::PaintState& state) const override {
+        Switch::describe(node, state);
+        node.reveal = node.revealWhole = [] {};
+    }
+};
+
+class SteeringAudit : public testing::Test {
+protected:
+    SteeringAudit() {
+        const auto root = std::make_shared<uikit::UIViewController>();
+        window->setRootViewController(root);
+        bed.settle();
+    }
+    ~SteeringAudit() override { window->setRootViewController(nullptr); }
+
+    void add(const std::shared_ptr<uikit::UIView>& view, Rect frame = {{20, 20}, {100, 44}}) {
+        view->setFrame(frame);
+        window->rootViewController()->view()->addSubview(view);
+        bed.settle();
+    }
+    void addSwitch(Role role, const char* identifier, bool isStuck) { add(std::make_shared<Switch>(role, identifier, isStuck)); }
+
+    std::vector<std::string> details(const std::vector<tooling::Finding>& findings) {
+        std::vector<std::string> result;
+        for (const auto& finding : findings) result.push_back(std::string(nameOf(finding.rule)) + ": " + finding.detail);
+        return result;
+    }
+    std::vector<std::string> states() { return details(tooling::auditStates(*window, wait)); }
+    std::vector<std::string> keyboard() { return details(tooling::auditKeyboard(*window, wait)); }
+
+    headless::TestBed bed;
+    std::shared_ptr<uikit::UIWindow> window = uikit::UIWindow::create({375, 800});
+    tooling::Wait wait = [this](double duration_s) { bed.runFor(duration_s); };
+};
+
+TEST_F(SteeringAudit, HasNothingToSayOfWhatTellsItsState) {
+    addSwitch(Role::disclosure, "tools", false);
+    addSwitch(Role::radioButton, "yearly", false);
+
+    EXPECT_THAT(states(), IsEmpty());
+}
+
+TEST_F(SteeringAudit, FindsADisclosureThatTellsTheSameWhenItOpens) {
+    addSwitch(Role::disclosure, "tools", true);
+
+    EXPECT_THAT(states(), ElementsAre("wrong state: disclosure tools \"tools\" tells the same state after it was pressed"));
+}
+
+TEST_F(SteeringAudit, FindsARadioButtonThatIsNotToldAsChosen) {
+    addSwitch(Role::radioButton, "yearly", true);
+
+    EXPECT_THAT(states(), ElementsAre("wrong state: radio button yearly \"yearly\" is not told as checked after it was chosen"));
+}
+
+TEST_F(SteeringAudit, LeavesADisclosureAsItWas) {
+    addSwitch(Role::disclosure, "tools", false);
+
+    states();
+
+    EXPECT_EQ(window->reading().children.at(0).isExpanded, false);
+}
+
+TEST_F(SteeringAudit, HasNothingToSayOfAControlThatKeysComeTo) {
+    addSwitch(Role::button, "buy", false);
+
+    EXPECT_THAT(keyboard(), IsEmpty());
+}
+
+TEST_F(SteeringAudit, FindsAControlThatIsOutOfSightWithTheFocus) {
+    add(std::make_shared<Unreachable>(), {{20, 900}, {100, 44}});
+
+    EXPECT_THAT(keyboard(), ElementsAre("hidden focus: button below \"below\" is out of sight when it has the focus"));
+}
+
+} // namespace
