@@ -123,11 +123,14 @@ std::vector<PaintedText> textsOnPictures(const DisplayList& list, std::vector<Pa
 }
 
 DisplayList aroundTexts(const DisplayList& list, const std::vector<PaintedText>& texts) {
+    Rect place;
+    for (const PaintedText& text : texts) place = place.united(text.command.bounds);
     DisplayList part = list;
-    std::erase_if(part.commands, [&](const Command& command) {
-        return std::none_of(texts.begin(), texts.end(),
-                            [&](const PaintedText& text) { return text.command.bounds.intersects(command.bounds); });
-    });
+    std::erase_if(part.commands, [&](const Command& command) { return !command.bounds.intersects(place); });
+    for (Command& command : part.commands) {
+        command.clip = command.clip.intersection(place);
+        command.bounds = command.bounds.intersection(place);
+    }
     part.ahead.clear();
     return part;
 }
@@ -162,11 +165,15 @@ std::vector<Finding> auditContrast(const DisplayList& list, const std::vector<Pa
         const ShapedText& text = *list.texts[static_cast<std::size_t>(command.resource)];
         const Rect place = command.bounds.intersection(command.clip).intersection(window);
         std::vector<double> contrasts;
+        RGBA last{.alpha = 0}; // neighbours are mostly the same
+        double lastContrast = 0;
         for (double y = place.minY() + step / 2; y < place.maxY(); y += step)
             for (double x = place.minX() + step / 2; x < place.maxX(); x += step) {
                 const RGBA back = behind({x, y});
                 if (shown({x, y}) == back) continue;
-                contrasts.push_back(graphics::contrast(over(command.color, command.opacity, back), back));
+                if (back != last) lastContrast = graphics::contrast(over(command.color, command.opacity, back), back);
+                last = back;
+                contrasts.push_back(lastContrast);
             }
         if (contrasts.empty()) continue;
         const auto low = contrasts.begin() + static_cast<std::ptrdiff_t>(static_cast<double>(contrasts.size()) * mayBeWorse);

@@ -27,7 +27,7 @@ std::vector<PaintedText> paintedTexts(const graphics::DisplayList& list, const a
 // Those that stand on a picture, where no colour of the design system says what is behind them.
 std::vector<PaintedText> textsOnPictures(const graphics::DisplayList& list, std::vector<PaintedText> texts);
 
-// The part of the list that is painted where the texts stand.
+// What the list paints where the texts stand, and nothing elsewhere.
 graphics::DisplayList aroundTexts(const graphics::DisplayList& list, const std::vector<PaintedText>& texts);
 
 // Words and numbers that go on in the next line. Where the text knows where it may be broken, it is not.
