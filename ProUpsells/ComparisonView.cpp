@@ -1,6 +1,9 @@
 #include "ProUpsells/ComparisonView.hpp"
 
+#include <algorithm>
+
 #include "Platform/Foundation/Bundle.hpp"
+#include "Platform/Graphics/ContentSize.hpp"
 #include "Platform/LumoKit/RoleColors.hpp"
 #include "Platform/LumoKit/TextStyle.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
@@ -38,9 +41,11 @@ void toggle(const Expanded& expanded, const std::string& name) {
 } // namespace
 
 View ComparisonView::headerRow(graphics::ContentSizeCategory textSize) const {
+    // Of its usual size, however large it is.
+    const double leastScale = 0.7 / std::max(1.0, graphics::scaleFactor(std::min(textSize, lumokit::headingH2.largestTextSize)));
     View title =
         Text{localizedString("Compare Plans", "Title for screen where users can see a comparison between our Folio plans")} |
-        minimumScaleFactor(0.7) | lumokit::textStyle(lumokit::headingH2) | foregroundStyle(lumokit::ContentColor::primary) |
+        minimumScaleFactor(leastScale) | lumokit::textStyle(lumokit::headingH2) | foregroundStyle(lumokit::ContentColor::primary) |
         accessibilityTraits(accessibility::Traits::header) |
         frame({.maxWidth = geometry::infinity, .alignment = Alignment::leading});
     // The two capsules have different line spacings. This is deliberate.

@@ -54,7 +54,7 @@ View HeaderCarousel::bottomRow(const Binding<int>& currentPage, const Environmen
                       {
                           Text{title} |
                               lumokit::textStyle(lumokit::TextStyle::based(lumokit::PlatformTextStyle::headline, 18, 24, 0.5)) |
-                              lumokit::largestTextSize(lumokit::LargestSize::onPicture) | avoidsShortLastLine() |
+                              lumokit::largestTextSize(lumokit::LargestSize::onPicture) | avoidsShortLastLine() | lineLimit(3) |
                               foregroundStyle(lumokit::ContentColor::primary) | padding(Edge::bottom, 18) |
                               padding(Edge::leading, 10) | allowsHitTesting(false) | transition(titleTransition()) | id(title),
                           Spacer{},

@@ -112,7 +112,7 @@ double FittedText::scaleForWords(const std::optional<double>& width) {
     if (!width || m_unbreakableWidth <= *width + tolerance || m_rules.lineLimit == 1) return 1;
     const double steps = (*width + tolerance) / m_unbreakableWidth / scaleStep;
     const double scale = std::floor(steps) * scaleStep;
-    return scale + tolerance >= std::max(m_rules.wordScale, leastScale(m_runs)) ? scale : 1;
+    return scale + tolerance >= std::max(std::min(m_rules.wordScale, m_rules.minimumScale), leastScale(m_runs)) ? scale : 1;
 }
 
 const std::shared_ptr<const graphics::ShapedText>& FittedText::shapedAt(double scale) {

@@ -23,8 +23,8 @@ struct TextRules {
     double lineSpacing = 0;                                                       // points between two lines
     bool avoidsShortLastLine = false;                                             // see graphics::layOutText
     double minimumScale = 1; // the smallest share of its size to which a text that would be cut is set instead
-    // The smallest share of its size to which a text is set instead of being broken inside a word. Where that does not suffice,
-    // it is broken at its full size.
+    // The smallest share of its size to which a text is set instead of being broken inside a word, unless `minimumScale` allows a
+    // smaller one. Where that does not suffice, it is broken at its full size.
     double wordScale = 1;
 
     bool operator==(const TextRules&) const = default;

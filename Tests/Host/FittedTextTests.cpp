@@ -124,6 +124,14 @@ TEST_F(FittedTextTest, BreaksAWordAtItsFullSizeWhereShrinkingDoesNotHelp) {
     EXPECT_EQ(shownIn({27.9, std::nullopt}).lineCount, 3); // "aaaa", "$119." and "99 bb"
 }
 
+TEST_F(FittedTextTest, MayShrinkForAWordAsMuchAsNotToBeCut) {
+    setText("aaaa $119.99 bb");
+    setRules({.minimumScale = 0.5, .wordScale = 0.8});
+
+    EXPECT_NEAR(shownIn({17.5, std::nullopt}).size, 5, 1e-9); // seven characters of 5 points, half as wide
+    EXPECT_EQ(shownIn({17.4, std::nullopt}).size, 10);
+}
+
 TEST_F(FittedTextTest, NeverBecomesSmallerThanElevenPoints) {
     text.setRuns({{"aaaaaaaaaa", {.size = 20}, 0}});
     setRules({.lineLimit = 1, .minimumScale = 0.2});

@@ -44,5 +44,30 @@ TEST_P(StorePageEnd, ShowsTheLastTextAboveTheBar) {
 
 INSTANTIATE_TEST_SUITE_P(Widths, StorePageEnd, ::testing::Values(320, 360, 375, 390));
 
+// The lower third of the pictures, which is dark, has room for three.
+TEST(HeaderTitle, HasThreeLinesAtMost) {
+    for (const std::string locale : {"de_DE", "fr_FR", "ru_RU"}) {
+        Json steps = Json::array();
+        for (int page = 0; page < 4; ++page) {
+            steps.push_back({{"dump", "screen"}});
+            steps.push_back({{"wait", 5}});
+        }
+        const Json device{{"size", {320, 568}},
+                          {"fonts", "bundled"},
+                          {"locale", locale},
+                          {"textSize", "accessibilityLarge"},
+                          {"strings", std::filesystem::absolute("Examples/Translations").string()}};
+        const Outcome outcome = play({{"device", device}, {"steps", steps}});
+
+        for (const Json& screen : outcome.events("screen")) {
+            const Json title = findText(screen["root"], ""); // the first text of the page
+            ASSERT_FALSE(title.is_null()) << locale;
+            EXPECT_LE(bottomOf(title), 254) << title;
+            EXPECT_LE(title["lines"].get<int>(), 3) << title;
+            EXPECT_EQ(title["truncated"], false) << title;
+        }
+    }
+}
+
 } // namespace
 } // namespace proupsells::tests
