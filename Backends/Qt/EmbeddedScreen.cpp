@@ -66,6 +66,7 @@ void EmbeddedScreen::makeFrame() {
     if (!owner || !m_pacer.isRunning()) return;
     const QRegion damage = paint();
     if (!damage.isEmpty()) m_place.update(damage);
+    adoptCursor();
     schedule();
 }
 
@@ -91,6 +92,11 @@ QSize EmbeddedScreen::wholeSize() const {
 }
 
 // --- Input ---
+
+void EmbeddedScreen::adoptCursor() {
+    const bool pointsAtControl = m_input.pointsAtControl();
+    if (std::exchange(m_showsHand, pointsAtControl) != pointsAtControl) m_place.showHand(pointsAtControl);
+}
 
 bool EmbeddedScreen::keyPressed(QKeyEvent& event) {
     // Before the key, which may delete the owner.

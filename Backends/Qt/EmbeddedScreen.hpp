@@ -49,6 +49,8 @@ public:
 
     // Mouse, touch and wheel go there.
     QtInput& input() { return m_input; }
+    // After whatever the mouse does: it shows a hand over what can be tapped.
+    void adoptCursor();
     // Accepts the event. False where the key means nothing here and the owner may hand it on.
     bool keyPressed(QKeyEvent& event);
     // Tab, or Shift and Tab. False where the focus leaves the screen.
@@ -64,6 +66,7 @@ private:
 
     ScreenPlace& m_place; // owned by what offers it to assistive technology
     ScreenTraits m_traits;
+    bool m_showsHand = false;
     standard::PixelScreen m_screen;
     PixelImage m_image;
     FramePacer m_pacer;

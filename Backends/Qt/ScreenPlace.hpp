@@ -19,6 +19,8 @@ public:
     virtual SystemTraits systemTraits() const = 0;
     // The picture has changed there, in Qt's units.
     virtual void update(const QRegion& damage) = 0;
+    // The mouse, which rests there, shows a hand, or no longer does.
+    virtual void showHand(bool shows) = 0;
 };
 
 } // namespace proupsells::qtbackend

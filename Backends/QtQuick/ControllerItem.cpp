@@ -196,11 +196,17 @@ void ControllerItem::mousePressEvent(QMouseEvent* event) {
 
 void ControllerItem::mouseMoveEvent(QMouseEvent* event) { handOnLater(*event, &qtbackend::QtInput::mouseMoved); }
 
-void ControllerItem::hoverEnterEvent(QHoverEvent* event) { m_screen->input().hovered(event->position()); }
+void ControllerItem::hoverEnterEvent(QHoverEvent* event) { hoverMoveEvent(event); }
 
-void ControllerItem::hoverMoveEvent(QHoverEvent* event) { m_screen->input().hovered(event->position()); }
+void ControllerItem::hoverMoveEvent(QHoverEvent* event) {
+    m_screen->input().hovered(event->position());
+    m_screen->adoptCursor();
+}
 
-void ControllerItem::hoverLeaveEvent(QHoverEvent*) { m_screen->input().left(); }
+void ControllerItem::hoverLeaveEvent(QHoverEvent*) {
+    m_screen->input().left();
+    m_screen->adoptCursor();
+}
 
 void ControllerItem::mouseReleaseEvent(QMouseEvent* event) { handOnLater(*event, &qtbackend::QtInput::mouseReleased); }
 

@@ -1,5 +1,6 @@
 #include "Backends/QtQuick/ItemPlace.hpp"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -58,5 +59,7 @@ qtbackend::SystemTraits ItemPlace::systemTraits() const {
 }
 
 void ItemPlace::update(const QRegion&) { m_item.update(); }
+
+void ItemPlace::showHand(bool shows) { shows ? m_item.setCursor(Qt::PointingHandCursor) : m_item.unsetCursor(); }
 
 } // namespace proupsells::qtquick

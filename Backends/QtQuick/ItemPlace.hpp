@@ -24,6 +24,7 @@ public:
     double scale() const override;
     qtbackend::SystemTraits systemTraits() const override;
     void update(const QRegion& damage) override;
+    void showHand(bool shows) override;
 
 private:
     QQuickItem& m_item;

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QStyle>
 #include <QTouchEvent>
 #include <cmath>
@@ -35,6 +36,7 @@ public:
         return {m_widget.palette(), m_widget.layoutDirection(), isStill};
     }
     void update(const QRegion& damage) override { m_widget.update(damage); }
+    void showHand(bool shows) override { shows ? m_widget.setCursor(Qt::PointingHandCursor) : m_widget.unsetCursor(); }
 
 private:
     QWidget& m_widget;
@@ -123,13 +125,23 @@ void ControllerWidget::mousePressEvent(QMouseEvent* event) { m_screen->input().m
 // The second press of two quick ones.
 void ControllerWidget::mouseDoubleClickEvent(QMouseEvent* event) { m_screen->input().mousePressed(*event); }
 
-void ControllerWidget::mouseMoveEvent(QMouseEvent* event) { m_screen->input().mouseMoved(*event); }
+void ControllerWidget::mouseMoveEvent(QMouseEvent* event) {
+    const QPointer<QWidget> self(this);
+    m_screen->input().mouseMoved(*event);
+    if (self) m_screen->adoptCursor();
+}
 
 void ControllerWidget::mouseReleaseEvent(QMouseEvent* event) { m_screen->input().mouseReleased(*event); }
 
-void ControllerWidget::enterEvent(QEnterEvent* event) { m_screen->input().hovered(event->position()); }
+void ControllerWidget::enterEvent(QEnterEvent* event) {
+    m_screen->input().hovered(event->position());
+    m_screen->adoptCursor();
+}
 
-void ControllerWidget::leaveEvent(QEvent*) { m_screen->input().left(); }
+void ControllerWidget::leaveEvent(QEvent*) {
+    m_screen->input().left();
+    m_screen->adoptCursor();
+}
 
 void ControllerWidget::wheelEvent(QWheelEvent* event) { m_screen->input().wheelTurned(*event); }
 

@@ -3,6 +3,7 @@
 
 #include <QAccessible>
 #include <QGuiApplication>
+#include <QHoverEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPalette>
@@ -117,6 +118,26 @@ TEST_F(Items, SellAndCloseByQml) {
     EXPECT_THAT(told(), ElementsAre("buy pro.monthly", "closed 0"));
     EXPECT_FALSE(paywall->isOpen());
     EXPECT_EQ(paywall->controller(), nullptr);
+}
+
+TEST_F(Items, ShowAHandOverWhatCanBeTapped) {
+    show();
+    const auto hover = [&](geometry::Point at) {
+        const QPointF place(at.x, at.y);
+        QHoverEvent moves(QEvent::HoverMove, place, place, place);
+        QCoreApplication::sendEvent(paywall, &moves);
+        return paywall->cursor().shape();
+    };
+    const accessibility::SemanticNode screen = paywall->uiWindow().semanticTree();
+    const accessibility::SemanticNode* plan = accessibility::findByIdentifier(screen, "plan.pro.monthly");
+    ASSERT_NE(plan, nullptr);
+
+    EXPECT_EQ(hover(plan->frame.center()), Qt::PointingHandCursor);
+    EXPECT_EQ(hover({plan->frame.midX(), 20}), Qt::ArrowCursor);
+    EXPECT_EQ(hover(plan->frame.center()), Qt::PointingHandCursor);
+    QHoverEvent leaves(QEvent::HoverLeave, {-1, -1}, {-1, -1}, {-1, -1});
+    QCoreApplication::sendEvent(paywall, &leaves);
+    EXPECT_EQ(paywall->cursor().shape(), Qt::ArrowCursor);
 }
 
 TEST_F(Items, CloseByTheirOwnButtonAndByEscape) {

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPalette>
 #include <QPointer>
 
@@ -86,6 +87,34 @@ TEST_F(Widgets, HandOnClicks) {
     tests::mouse(*widget, QEvent::MouseButtonRelease, {60, 10});
 
     EXPECT_THAT(screen->presses, ElementsAre("first", "second"));
+}
+
+TEST_F(Widgets, ShowAHandOverWhatCanBeTapped) {
+    show();
+    const auto hover = [&](QPointF at) {
+        QMouseEvent moves(QEvent::MouseMove, at, widget->mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(widget, &moves);
+        return widget->cursor().shape();
+    };
+
+    EXPECT_EQ(hover({10, 10}), Qt::PointingHandCursor);
+    EXPECT_EQ(hover({50, 70}), Qt::ArrowCursor);
+    EXPECT_EQ(hover({60, 10}), Qt::PointingHandCursor);
+    QEvent leaves(QEvent::Leave);
+    QCoreApplication::sendEvent(widget, &leaves);
+    EXPECT_EQ(widget->cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(Widgets, TakeTheHandAwayWithTheControl) {
+    show();
+    QEnterEvent enters(QPointF(10, 10), QPointF(10, 10), QPointF(10, 10));
+    QCoreApplication::sendEvent(widget, &enters);
+    EXPECT_EQ(widget->cursor().shape(), Qt::PointingHandCursor);
+
+    widget->setController(std::make_shared<uikit::UIViewController>());
+    settle();
+
+    EXPECT_EQ(widget->cursor().shape(), Qt::ArrowCursor);
 }
 
 TEST_F(Widgets, LetTheFocusInAndOut) {
