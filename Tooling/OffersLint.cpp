@@ -9,12 +9,11 @@
 #include "ProUpsells/PreparedOptions.hpp"
 #include "ProUpsells/SubscriptionOptionFormatter.hpp"
 #include "Tooling/PriceText.hpp"
+#include "Tooling/Quoted.hpp"
 
 namespace proupsells::tooling {
 
 namespace {
-
-std::string inQuotes(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
 // A text with a price in it, and where it stands.
 struct PlacedPrice {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "Platform/Graphics/Contrast.hpp"
+#include "Tooling/Quoted.hpp"
 
 namespace proupsells::tooling {
 
@@ -149,7 +150,7 @@ std::vector<Finding> auditWords(const DisplayList& list, const std::vector<Paint
         if (std::none_of(list.commands.begin(), list.commands.end(), isOnLineBefore)) continue;
         findings.push_back(
             {AuditRule::brokenWord, path,
-             "\"" + wordAt(text, command.firstCluster) + "\" is broken inside, in \"" + graphics::joinedText(text.runs) + "\"",
+             inQuotes(wordAt(text, command.firstCluster)) + " is broken inside, in " + inQuotes(graphics::joinedText(text.runs)),
              identifier});
     }
     return findings;
@@ -180,7 +181,7 @@ std::vector<Finding> auditContrast(const DisplayList& list, const std::vector<Pa
         std::nth_element(contrasts.begin(), low, contrasts.end());
         if (*low >= leastContrast(text)) continue;
         findings.push_back({AuditRule::faint, path,
-                            "\"" + textOf(text, command.firstCluster, command.endCluster) + "\" stands out by " + tenths(*low) +
+                            inQuotes(textOf(text, command.firstCluster, command.endCluster)) + " stands out by " + tenths(*low) +
                                 ":1 from what is painted behind it",
                             identifier});
     }

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <map>
 
+#include "Tooling/Quoted.hpp"
 #include "Tooling/ScreenAudit.hpp"
 #include "Tooling/SpokenScreen.hpp"
 
@@ -39,7 +40,7 @@ private:
         if (!m_options.pseudoLanguage) return;
         for (const std::string& text : {element.name, element.value})
             if (!isPseudoTranslated(text, *m_options.pseudoLanguage))
-                add(AuditRule::untranslated, element, element.identifier + " \"" + text + "\" is spoken in English");
+                add(AuditRule::untranslated, element, element.identifier + " " + inQuotes(text) + " is spoken in English");
     }
 
     void holdNamed(const ReadingElement& element) {
@@ -84,13 +85,13 @@ private:
                 add(AuditRule::doubledName, *element, described(*element) + " sounds like " + byName[name]->identifier);
             if (!element->identifier.empty() && !byIdentifier.emplace(element->identifier, element).second)
                 add(AuditRule::doubledIdentifier, *element,
-                    described(*element) + " has the identifier of \"" + byIdentifier[element->identifier]->name + "\"");
+                    described(*element) + " has the identifier of " + inQuotes(byIdentifier[element->identifier]->name));
         }
     }
 
     static std::string described(const ReadingElement& element) {
-        return std::string(nameOf(element.role)) + (element.identifier.empty() ? "" : " " + element.identifier) + " \"" +
-               element.name + "\"";
+        return std::string(nameOf(element.role)) + (element.identifier.empty() ? "" : " " + element.identifier) + " " +
+               inQuotes(element.name);
     }
 
     std::vector<const ReadingElement*> m_elements;

@@ -6,6 +6,7 @@
 #include "Platform/Foundation/Ascii.hpp"
 #include "Platform/Graphics/Contrast.hpp"
 #include "Platform/VelaUIKit/DesignColors.hpp"
+#include "Tooling/Quoted.hpp"
 
 namespace proupsells::tooling {
 
@@ -28,7 +29,7 @@ bool isVisible(const SemanticNode& node) { return node.opacity > 0; }
 std::string description(const SemanticNode& node) {
     std::string result = node.type;
     if (!node.identifier.empty()) result += " " + node.identifier;
-    if (node.text) result += " \"" + node.text->text + "\"";
+    if (node.text) result += " " + inQuotes(node.text->text);
     return result;
 }
 
@@ -155,7 +156,7 @@ private:
         const Rect shared = below.node->frame.intersection(above.node->frame);
         if (shared.width() <= tolerance || shared.height() <= tolerance) return;
         add(AuditRule::overlapping, above,
-            "stands on \"" + below.node->text->text + "\", " + points(shared.width()) + " x " + points(shared.height()) +
+            "stands on " + inQuotes(below.node->text->text) + ", " + points(shared.width()) + " x " + points(shared.height()) +
                 " points");
     }
 

@@ -1,4 +1,5 @@
 #include "Tooling/SpokenScreen.hpp"
+#include "Tooling/Quoted.hpp"
 
 #include <algorithm>
 
@@ -8,17 +9,6 @@ using accessibility::ReadingElement;
 using accessibility::Role;
 
 namespace {
-
-std::string inQuotes(std::string_view text) {
-    std::string result = "\"";
-    for (const char c : text) {
-        if (c == '\n')
-            result += "\\n";
-        else
-            result += c;
-    }
-    return result + '"';
-}
 
 std::string place(const ReadingElement& element) {
     return std::to_string(element.position) + " of " + std::to_string(element.count);

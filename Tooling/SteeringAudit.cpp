@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "Tooling/Quoted.hpp"
 #include "Tooling/SpokenScreen.hpp"
 
 namespace proupsells::tooling {
@@ -13,8 +14,8 @@ using accessibility::Role;
 namespace {
 
 std::string described(const ReadingElement& element) {
-    return std::string(nameOf(element.role)) + (element.identifier.empty() ? "" : " " + element.identifier) + " \"" + element.name +
-           "\"";
+    return std::string(nameOf(element.role)) + (element.identifier.empty() ? "" : " " + element.identifier) + " " +
+           inQuotes(element.name);
 }
 
 // The same for an element in every reading of a screen, whether it has a view at the time or not.

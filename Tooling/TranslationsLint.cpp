@@ -8,6 +8,7 @@
 #include "Platform/Foundation/StringsFile.hpp"
 #include "Platform/System/Files.hpp"
 #include "Platform/System/PathText.hpp"
+#include "Tooling/Quoted.hpp"
 
 namespace proupsells::tooling {
 
@@ -81,25 +82,23 @@ private:
         const Placeholders before = placeholdersOf(key), after = placeholdersOf(text);
         for (const std::string& argument : before.arguments)
             if (!after.arguments.contains(argument))
-                add("lost placeholder", key, inText(text) + " has lost " + spelt(argument, before) + "; put it back");
+                add("lost placeholder", key, inQuotes(text) + " has lost " + spelt(argument, before) + "; put it back");
         for (const std::string& argument : std::set(after.arguments.begin(), after.arguments.end()))
             if (!before.arguments.contains(argument))
                 add("added placeholder", key,
-                    inText(text) + " has " + (after.hasNumbers ? "%" + argument + "$@" : "one %@ more") +
+                    inQuotes(text) + " has " + (after.hasNumbers ? "%" + argument + "$@" : "one %@ more") +
                         ", for which there is nothing to put in; take it out");
         if (before.hasPercentSign && !after.hasPercentSign)
             if (foundation::format(text, {}).find('%') == std::string::npos)
-                add("lost placeholder", key, inText(text) + " has lost %%; put it back");
+                add("lost placeholder", key, inQuotes(text) + " has lost %%; put it back");
         if (before.arguments.size() > 1 && before.hasNumbers && after.unnumbered > 0)
             add("placeholders without numbers", key,
-                inText(text) + " has %@ in the place of numbers, so that the order may be wrong; write %1$@, %2$@");
+                inQuotes(text) + " has %@ in the place of numbers, so that the order may be wrong; write %1$@, %2$@");
         if (before.boldMarks != after.boldMarks)
             add("lost bold marks", key,
-                inText(text) + " has " + std::to_string(after.boldMarks) + " of the " + std::to_string(before.boldMarks) +
+                inQuotes(text) + " has " + std::to_string(after.boldMarks) + " of the " + std::to_string(before.boldMarks) +
                     " marks **; put a pair around what is to stand out");
     }
-
-    static std::string inText(const std::string& text) { return "\"" + text + "\""; }
 
     const Translation& m_translation;
     std::span<const TranslatableText> m_texts;

@@ -13,7 +13,7 @@
 
 namespace proupsells::hostprogram {
 
-HostSession::HostSession(Offers offers, const Device& device, HostParts parts, ffmpegbackend::Pace pace,
+HostSession::HostSession(Offers offers, const Device& device, const HostParts& parts, ffmpegbackend::Pace pace,
                          std::shared_ptr<EventLog> log)
     : m_device(device), m_log(std::move(log)),
       m_clipDecoder(std::make_shared<ffmpegbackend::LazyClipDecoder>(pace, ffmpegbackend::LazyClipDecoder::defaultFolders())) {

@@ -24,7 +24,8 @@ struct HostParts {
 // Needs a main run loop.
 class HostSession {
 public:
-    HostSession(Offers offers, const Device& device, HostParts parts, ffmpegbackend::Pace pace, std::shared_ptr<EventLog> log);
+    HostSession(Offers offers, const Device& device, const HostParts& parts, ffmpegbackend::Pace pace,
+                std::shared_ptr<EventLog> log);
     ~HostSession();
 
     uikit::UIWindow& window() { return *m_window; }

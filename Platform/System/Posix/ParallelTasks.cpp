@@ -69,6 +69,7 @@ std::optional<std::string> end(Child& child) {
 // Those that have something to say, or have ended.
 std::vector<pollfd> waitForAny(const std::vector<Child>& children) {
     std::vector<pollfd> outputs;
+    outputs.reserve(children.size());
     for (const Child& child : children) outputs.push_back({.fd = child.output, .events = POLLIN, .revents = 0});
     poll(outputs.data(), outputs.size(), -1);
     return outputs;

@@ -1,0 +1,12 @@
+// Texts of the screens, of offers and of translations inside what the tools say.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace proupsells::tooling {
+
+// The text in quotation marks and on one line: line breaks are "\n", other control characters such as "\u001b".
+std::string inQuotes(std::string_view text);
+
+} // namespace proupsells::tooling
