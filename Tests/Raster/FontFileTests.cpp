@@ -11,15 +11,15 @@ using rasterbackend::GlyphShape;
 
 namespace {
 
-const std::filesystem::path testFonts = PROUPSELLS_TEST_FONTS;
+const std::filesystem::path fontFolder = PROUPSELLS_TEST_FONTS;
 
 // The fonts number their glyphs from 1; 0 is the box.
-GlyphShape shapeIn(const char* font, std::uint32_t glyph) { return FontFile::open(testFonts / font, 0, 400)->readShape(glyph); }
+GlyphShape shapeIn(const char* font, std::uint32_t glyph) { return FontFile::open(fontFolder / font, 0, 400)->readShape(glyph); }
 
 } // namespace
 
 TEST(FontFile, ReadsOutlinesInEmsDownwards) {
-    const auto font = FontFile::open(testFonts / "Layers.ttf", 0, 400);
+    const auto font = FontFile::open(fontFolder / "Layers.ttf", 0, 400);
 
     EXPECT_EQ(font->readShape(0).outline.bounds(), (Rect{{0.05, -0.7}, {0.4, 0.7}}));
     EXPECT_NEAR(font->ascent(), 0.8, 1e-5);
@@ -27,13 +27,13 @@ TEST(FontFile, ReadsOutlinesInEmsDownwards) {
 }
 
 TEST(FontFile, IsNotThereWhereTheFileIsNoFontOrHasNoSuchFace) {
-    EXPECT_EQ(FontFile::open(testFonts / "None.ttf", 0, 400), nullptr);
+    EXPECT_EQ(FontFile::open(fontFolder / "None.ttf", 0, 400), nullptr);
     EXPECT_EQ(FontFile::open(__FILE__, 0, 400), nullptr);
-    EXPECT_EQ(FontFile::open(testFonts / "Layers.ttf", 1, 400), nullptr);
+    EXPECT_EQ(FontFile::open(fontFolder / "Layers.ttf", 1, 400), nullptr);
 }
 
 TEST(FontFile, KnowsItsCharacters) {
-    const auto font = FontFile::open(testFonts / "Layers.ttf", 0, 400);
+    const auto font = FontFile::open(fontFolder / "Layers.ttf", 0, 400);
 
     EXPECT_TRUE(font->covers(0x1F600));
     EXPECT_FALSE(font->covers('a'));

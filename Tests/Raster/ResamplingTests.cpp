@@ -15,7 +15,7 @@ using tests::channel;
 using tests::filled;
 using tests::makePicture;
 
-constexpr Pixel black = 0xFF000000, white = 0xFFFFFFFF;
+constexpr Pixel opaqueBlack = 0xFF000000, opaqueWhite = 0xFFFFFFFF;
 
 Picture somePicture() {
     return makePicture(*rc::gen::inRange(1, 24), *rc::gen::inRange(1, 24), [](int, int) {
@@ -42,30 +42,32 @@ double meanByHand(const Picture& picture, int width, int height, int x, int y, i
 }
 
 TEST(Resampling, SharesThePixelsWhereTheSizeStays) {
-    const Picture picture = filled(3, 2, white);
+    const Picture picture = filled(3, 2, opaqueWhite);
 
     EXPECT_EQ(std::as_const(picture).row(0), resampled(picture, 3, 2).row(0));
 }
 
 TEST(Resampling, MakesNothingOfNothing) {
     EXPECT_TRUE(resampled({}, 3, 2).isNull());
-    EXPECT_TRUE(resampled(filled(3, 2, white), 0, 2).isNull());
-    EXPECT_TRUE(resampled(filled(3, 2, white), 3, -1).isNull());
+    EXPECT_TRUE(resampled(filled(3, 2, opaqueWhite), 0, 2).isNull());
+    EXPECT_TRUE(resampled(filled(3, 2, opaqueWhite), 3, -1).isNull());
 }
 
 TEST(Resampling, KeepsEdgesThatFallOnPixels) {
-    const Picture stripes = makePicture(12, 12, [](int x, int) { return x / 3 % 2 == 0 ? black : white; });
+    const Picture stripes = makePicture(12, 12, [](int x, int) { return x / 3 % 2 == 0 ? opaqueBlack : opaqueWhite; });
 
-    EXPECT_EQ(resampled(stripes, 4, 4), makePicture(4, 4, [](int x, int) { return x % 2 == 0 ? black : white; }));
+    EXPECT_EQ(resampled(stripes, 4, 4), makePicture(4, 4, [](int x, int) { return x % 2 == 0 ? opaqueBlack : opaqueWhite; }));
 }
 
 TEST(Resampling, DividesAnEdgePixelByTheAreaAtEachSide) {
-    const Picture halves = makePicture(6, 1, [](int x, int) { return x < 3 ? black : white; });
+    const Picture halves = makePicture(6, 1, [](int x, int) { return x < 3 ? opaqueBlack : opaqueWhite; });
 
     const Picture fourWide = resampled(halves, 4, 1), fiveWide = resampled(halves, 5, 1);
 
-    EXPECT_THAT(std::vector(fourWide.row(0), fourWide.row(0) + 4), testing::ElementsAre(black, black, white, white));
-    EXPECT_THAT(std::vector(fiveWide.row(0), fiveWide.row(0) + 5), testing::ElementsAre(black, black, 0xFF808080, white, white));
+    EXPECT_THAT(std::vector(fourWide.row(0), fourWide.row(0) + 4),
+                testing::ElementsAre(opaqueBlack, opaqueBlack, opaqueWhite, opaqueWhite));
+    EXPECT_THAT(std::vector(fiveWide.row(0), fiveWide.row(0) + 5),
+                testing::ElementsAre(opaqueBlack, opaqueBlack, 0xFF808080, opaqueWhite, opaqueWhite));
 }
 
 TEST(Resampling, LeavesNoFringeAroundWhatIsTransparent) {
@@ -75,7 +77,7 @@ TEST(Resampling, LeavesNoFringeAroundWhatIsTransparent) {
 }
 
 TEST(Resampling, InterpolatesBetweenTheCentresOfPixels) {
-    const Picture two = makePicture(2, 1, [](int x, int) { return x == 0 ? black : white; });
+    const Picture two = makePicture(2, 1, [](int x, int) { return x == 0 ? opaqueBlack : opaqueWhite; });
 
     const Picture eight = resampled(two, 8, 1);
 
@@ -85,9 +87,9 @@ TEST(Resampling, InterpolatesBetweenTheCentresOfPixels) {
 }
 
 TEST(Resampling, MayShrinkOneWayAndGrowTheOther) {
-    const Picture picture = makePicture(4, 1, [](int x, int) { return x < 2 ? black : white; });
+    const Picture picture = makePicture(4, 1, [](int x, int) { return x < 2 ? opaqueBlack : opaqueWhite; });
 
-    EXPECT_EQ(resampled(picture, 2, 3), makePicture(2, 3, [](int x, int) { return x == 0 ? black : white; }));
+    EXPECT_EQ(resampled(picture, 2, 3), makePicture(2, 3, [](int x, int) { return x == 0 ? opaqueBlack : opaqueWhite; }));
 }
 
 TEST(Resampling, MakesOnePixelOfAVeryLongPicture) {

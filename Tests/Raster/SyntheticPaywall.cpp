@@ -15,7 +15,7 @@ using graphics::RGBA;
 
 namespace {
 
-constexpr RGBA ink = rgb(0x15191C), grey = rgb(0x5A6268), teal = rgb(0x0A7C78), white = rgb(0xFFFFFF), card = rgb(0xF4F5F3);
+constexpr RGBA ink = rgb(0x15191C), grey = rgb(0x5A6268), teal = rgb(0x0A7C78), paper = rgb(0xFFFFFF), card = rgb(0xF4F5F3);
 
 using Color = unsigned; // 0xAARRGGBB, not premultiplied
 
@@ -97,9 +97,9 @@ void SyntheticPaywall::paintLabel(PaintContext& context, const Label& label, geo
 
 void SyntheticPaywall::paintHeader(PaintContext& context) const {
     context.image(PaintState{}.clippedTo({{0, 0}, {375, 244}}), {{0, -10}, {375, 254}}, m_header);
-    paintLabel(context, m_title, {10, 184}, white);
+    paintLabel(context, m_title, {10, 184}, paper);
     for (int dot = 0; dot < 4; ++dot)
-        context.fillEllipse({}, {{306.5 + 10 * dot, 205}, {7, 7}}, dot == 0 ? white : rgb(0xFFFFFF, 90));
+        context.fillEllipse({}, {{306.5 + 10 * dot, 205}, {7, 7}}, dot == 0 ? paper : rgb(0xFFFFFF, 90));
     context.image({}, {{83.5, 257}, {208, 26}}, m_logo);
     context.image({}, {{10, 291}, {24, 24}}, m_diamond);
     paintLabel(context, m_compare, {44, 294}, ink);
@@ -114,7 +114,7 @@ void SyntheticPaywall::paintCard(PaintContext& context, double y, double height,
         context.strokeEllipse({}, ring, 2, teal);
         context.fillEllipse({}, ring.insetBy(4, 4), teal);
     } else {
-        context.fillEllipse({}, ring, white);
+        context.fillEllipse({}, ring, paper);
         context.strokeEllipse({}, ring, 2, rgb(0x8A9299));
     }
 }
@@ -122,7 +122,7 @@ void SyntheticPaywall::paintCard(PaintContext& context, double y, double height,
 void SyntheticPaywall::paintButton(PaintContext& context, int selectedPlan) const {
     const Label& action = m_actions[selectedPlan];
     context.fillRoundedRectangle({}, {{16, 564}, {343, 56}}, 28, CornerStyle::continuous, teal);
-    paintLabel(context, action, {187.5 - action.layout.size.width / 2, 582}, white);
+    paintLabel(context, action, {187.5 - action.layout.size.width / 2, 582}, paper);
     const Label& disclaimer = m_disclaimers[selectedPlan];
     paintLabel(context, disclaimer, {187.5 - disclaimer.layout.size.width / 2, 634}, grey);
     const double linkY = 644 + disclaimer.layout.size.height;
@@ -134,14 +134,14 @@ void SyntheticPaywall::paintButton(PaintContext& context, int selectedPlan) cons
 void SyntheticPaywall::paint(graphics::DisplayList& list, int selectedPlan) const {
     list.clear();
     PaintContext context(list);
-    context.fillRectangle({}, {{}, size}, white);
+    context.fillRectangle({}, {{}, size}, paper);
     paintHeader(context);
     paintCard(context, 323, 105, selectedPlan == 0);
     paintLabel(context, m_yearly, {30, 342}, ink);
     context.fillRoundedRectangle({}, {{109, 340}, {118, 24}}, 12, CornerStyle::continuous, rgb(0xD8F1EE));
     paintLabel(context, m_trial, {117, 345}, rgb(0x085E5B));
     context.fillRoundedRectangle({}, {{286, 315}, {60, 16}}, 2, CornerStyle::circular, teal);
-    paintLabel(context, m_badge, {290, 317}, white);
+    paintLabel(context, m_badge, {290, 317}, paper);
     paintLabel(context, m_oldPrice, {30, 372}, grey);
     context.fillRectangle({}, {{30, 382.5}, {m_oldPrice.layout.size.width, 1}}, grey);
     paintLabel(context, m_price, {103, 372}, ink);

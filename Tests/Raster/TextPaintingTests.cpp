@@ -11,11 +11,11 @@ using geometry::LayoutDirection;
 using geometry::Transform;
 using graphics::PaintState;
 using namespace tests;
-using ShapedRef = std::shared_ptr<const graphics::ShapedText>;
+using TextRef = std::shared_ptr<const graphics::ShapedText>;
 
 namespace {
 
-ShapedRef shape(const std::string& text, double size = 20, LayoutDirection direction = LayoutDirection::leftToRight) {
+TextRef shapedText(const std::string& text, double size = 20, LayoutDirection direction = LayoutDirection::leftToRight) {
     static rasterbackend::RasterTextShaper shaper;
     const graphics::StyledRun run{text, {.size = size}, 0};
     return shaper.shape({&run, 1}, "en", direction);
@@ -27,14 +27,14 @@ double widthOf(const graphics::ShapedText& text, std::uint32_t first, std::uint3
     return width;
 }
 
-void paintText(Canvas& canvas, const ShapedRef& text, geometry::Point baseline, std::uint32_t first, std::uint32_t end,
+void paintText(Canvas& canvas, const TextRef& text, geometry::Point baseline, std::uint32_t first, std::uint32_t end,
                graphics::RGBA color = black, const PaintState& state = {}) {
     const double size = text->runs.front().font.size;
     canvas.context.text(state, baseline, {{baseline.x, baseline.y - size}, {widthOf(*text, first, end), size * 1.25}}, text, first,
                         end, color);
 }
 
-void paintText(Canvas& canvas, const ShapedRef& text, geometry::Point baseline, graphics::RGBA color = black,
+void paintText(Canvas& canvas, const TextRef& text, geometry::Point baseline, graphics::RGBA color = black,
                const PaintState& state = {}) {
     paintText(canvas, text, baseline, 0, std::uint32_t(text->clusters.size()), color, state);
 }
@@ -56,7 +56,7 @@ std::pair<int, int> inkedColumns(const rasterbackend::Picture& image) {
 
 TEST(TextPainting, PaintsLettersAboveTheBaseline) {
     Canvas canvas({60, 40});
-    paintText(canvas, shape("HI"), {10, 30});
+    paintText(canvas, shapedText("HI"), {10, 30});
 
     const rasterbackend::Picture image = canvas.image();
     EXPECT_GT(totalInk(image), 20);
@@ -66,7 +66,7 @@ TEST(TextPainting, PaintsLettersAboveTheBaseline) {
 
 TEST(TextPainting, PaintsInTheTextsColorWithoutFringes) {
     Canvas canvas({60, 40}, 2);
-    paintText(canvas, shape("HI"), {10, 30}, red);
+    paintText(canvas, shapedText("HI"), {10, 30}, red);
 
     const rasterbackend::Picture image = canvas.image();
     for (int y = 0; y < image.height(); ++y) {
@@ -80,22 +80,22 @@ TEST(TextPainting, PaintsInTheTextsColorWithoutFringes) {
 TEST(TextPainting, FollowsTheScale) {
     const double ink = [] {
         Canvas canvas({120, 40}, 1);
-        paintText(canvas, shape("Annually"), {10, 30});
+        paintText(canvas, shapedText("Annually"), {10, 30});
         return totalInk(canvas.image());
     }();
 
     for (const double scale : {1.5, 2.0, 3.0}) {
         Canvas canvas({120, 40}, scale);
-        paintText(canvas, shape("Annually"), {10, 30});
+        paintText(canvas, shapedText("Annually"), {10, 30});
         EXPECT_NEAR(totalInk(canvas.image()) / (scale * scale), ink, ink * 0.01) << scale;
     }
 }
 
 TEST(TextPainting, PlacesLettersBetweenPixelsButLinesOnThem) {
     Canvas left({60, 40}), right({60, 40}), low({60, 40});
-    paintText(left, shape("l"), {10, 30});
-    paintText(right, shape("l"), {10.5, 30});
-    paintText(low, shape("l"), {10, 30.3});
+    paintText(left, shapedText("l"), {10, 30});
+    paintText(right, shapedText("l"), {10.5, 30});
+    paintText(low, shapedText("l"), {10, 30.3});
 
     EXPECT_FALSE(isSame(left.image(), right.image()));
     EXPECT_TRUE(isSame(left.image(), low.image()));
@@ -103,7 +103,7 @@ TEST(TextPainting, PlacesLettersBetweenPixelsButLinesOnThem) {
 }
 
 TEST(TextPainting, PaintsAnyPartOfAText) {
-    const ShapedRef text = shape("Cancel anytime");
+    const TextRef text = shapedText("Cancel anytime");
     Canvas whole({200, 40}), parts({200, 40});
     paintText(whole, text, {10, 30});
     // Apart at the blank, where no letters meet.
@@ -118,7 +118,8 @@ TEST(TextPainting, PaintsAnyPartOfAText) {
 }
 
 TEST(TextPainting, PaintsRightToLeftTextFromItsLeftEnd) {
-    const ShapedRef both = shape("אב", 20, LayoutDirection::rightToLeft), second = shape("ב", 20, LayoutDirection::rightToLeft);
+    const TextRef both = shapedText("אב", 20, LayoutDirection::rightToLeft),
+                  second = shapedText("ב", 20, LayoutDirection::rightToLeft);
     Canvas whole({80, 40}), last({80, 40});
     paintText(whole, both, {10, 30});
     paintText(last, second, {10, 30});
@@ -130,7 +131,7 @@ TEST(TextPainting, PaintsRightToLeftTextFromItsLeftEnd) {
 }
 
 TEST(TextPainting, CutsALigatureBetweenItsCharacters) {
-    const ShapedRef text = shape("لا", 40, LayoutDirection::rightToLeft);
+    const TextRef text = shapedText("لا", 40, LayoutDirection::rightToLeft);
     ASSERT_EQ(text->clusters.size(), 2u);
     const double half = text->clusters[0].advance;
     Canvas whole({80, 80}), first({80, 80}), second({80, 80});
@@ -147,7 +148,7 @@ TEST(TextPainting, CutsALigatureBetweenItsCharacters) {
 }
 
 TEST(TextPainting, FadesClipsAndTurns) {
-    const ShapedRef text = shape("HHH");
+    const TextRef text = shapedText("HHH");
     Canvas plain({80, 80}), faded({80, 80}), clipped({80, 80}), turned({80, 80}), small({80, 80});
     paintText(plain, text, {20, 40});
     paintText(faded, text, {20, 40}, black, PaintState{}.fadedBy(0.5));
@@ -165,7 +166,7 @@ TEST(TextPainting, FadesClipsAndTurns) {
 }
 
 TEST(TextPainting, PaintsALineOfAnyLength) {
-    const ShapedRef text = shape(std::string(5000, 'x'));
+    const TextRef text = shapedText(std::string(5000, 'x'));
     Canvas canvas({100, 40});
     paintText(canvas, text, {-20000, 30});
 
@@ -177,7 +178,7 @@ TEST(TextPainting, PaintsALineOfAnyLength) {
 TEST(TextPainting, PaintsTextOfOtherShapersOnItsOwnPlaces) {
     headless::FixedTextShaper shaper;
     const graphics::StyledRun run{"iiW e\u0301", {.size = 20}, 0};
-    const ShapedRef text = shaper.shape({&run, 1}, "en", LayoutDirection::leftToRight);
+    const TextRef text = shaper.shape({&run, 1}, "en", LayoutDirection::leftToRight);
     Canvas canvas({100, 40});
     paintText(canvas, text, {10, 30});
 
@@ -210,10 +211,10 @@ TEST(TextPainting, PaintsEmojiInTheirOwnColors) {
 
 TEST(TextPainting, SurvivesClustersThatTheTextDoesNotHave) {
     Canvas canvas({60, 40});
-    const ShapedRef text = shape("ab");
+    const TextRef text = shapedText("ab");
     canvas.context.text({}, {10, 30}, {{0, 0}, {60, 40}}, text, 1, 99, black);
     canvas.context.text({}, {10, 30}, {{0, 0}, {60, 40}}, text, 50, 99, black);
-    canvas.context.text({}, {10, 30}, {{0, 0}, {60, 40}}, shape(""), 0, 1, black);
+    canvas.context.text({}, {10, 30}, {{0, 0}, {60, 40}}, shapedText(""), 0, 1, black);
 
     EXPECT_GT(totalInk(canvas.image()), 5);
 }

@@ -25,7 +25,7 @@ using testing::IsEmpty;
 
 namespace {
 
-using ShapedRef = std::shared_ptr<const ShapedText>;
+using TextRef = std::shared_ptr<const ShapedText>;
 
 const graphics::FontFace* inter(int weight) {
     return &graphics::registerFontFace("ShaperTests-Inter" + std::to_string(weight), "Inter", weight);
@@ -34,12 +34,12 @@ const graphics::FontFace* sora(int weight) {
     return &graphics::registerFontFace("ShaperTests-Sora" + std::to_string(weight), "Sora", weight);
 }
 
-ShapedRef shapeRuns(std::vector<StyledRun> runs, LayoutDirection direction = LayoutDirection::leftToRight) {
+TextRef shapeRuns(std::vector<StyledRun> runs, LayoutDirection direction = LayoutDirection::leftToRight) {
     static rasterbackend::RasterTextShaper shaper;
     return shaper.shape(runs, "en", direction);
 }
 
-ShapedRef shape(const std::string& text, LayoutDirection direction = LayoutDirection::leftToRight, double size = 16) {
+TextRef shape(const std::string& text, LayoutDirection direction = LayoutDirection::leftToRight, double size = 16) {
     return shapeRuns({{text, {.size = size}, 0}}, direction);
 }
 
@@ -116,7 +116,7 @@ TEST(RasterTextShaper, AddsTheKernAfterEveryCluster) {
 }
 
 TEST(RasterTextShaper, MeasuresALineByTheFontsOwnHeights) {
-    const ShapedRef text = shapeRuns({{"A", {.face = inter(400), .size = 100}, 0}, {"B", {.face = sora(600), .size = 10}, 0}});
+    const TextRef text = shapeRuns({{"A", {.face = inter(400), .size = 100}, 0}, {"B", {.face = sora(600), .size = 10}, 0}});
 
     EXPECT_NEAR(text->metrics[0].ascent, 96.875, 0.01);
     EXPECT_NEAR(text->metrics[0].descent, 24.148, 0.01);
@@ -146,14 +146,14 @@ TEST(RasterTextShaper, ReportsAFamilyThatIsNotInstalledOnce) {
 
     const std::vector<StyledRun> runs{{"text", {.face = &face, .size = 16}, 0}, {"text", {.face = &bold, .size = 16}, 0}};
 
-    const ShapedRef text = rasterbackend::RasterTextShaper().shape(runs, "en", LayoutDirection::leftToRight);
+    const TextRef text = rasterbackend::RasterTextShaper().shape(runs, "en", LayoutDirection::leftToRight);
 
     EXPECT_GT(width(*text), 0);
     EXPECT_THAT(log.messages(), ElementsAre(testing::HasSubstr("No Such Family")));
 }
 
 TEST(RasterTextShaper, GivesAnEmptyTextItsHeightOnly) {
-    const ShapedRef text = shape("");
+    const TextRef text = shape("");
 
     EXPECT_THAT(text->clusters, IsEmpty());
     ASSERT_EQ(text->metrics.size(), 1u);
@@ -168,7 +168,7 @@ TEST(RasterTextShaper, KeepsUserPerceivedCharactersTogether) {
 }
 
 TEST(RasterTextShaper, NeverJoinsCharactersOfTwoRuns) {
-    const ShapedRef text = shapeRuns({{"e", {.size = 16}, 0}, {"\u0301x", {.size = 16}, 0}});
+    const TextRef text = shapeRuns({{"e", {.size = 16}, 0}, {"\u0301x", {.size = 16}, 0}});
 
     EXPECT_THAT(lengths(*text), ElementsAre(1, 2, 1));
     EXPECT_EQ(text->clusters[0].run, 0);
@@ -179,7 +179,7 @@ TEST(RasterTextShaper, ShapesARunInARichTextLikeATextOfItsOwn) {
     const StyledRun price{"$99.99", {.face = inter(700), .size = 18}, 0},
         period{" per year", {.face = inter(400), .size = 16}, 0.25};
 
-    const ShapedRef both = shapeRuns({price, period});
+    const TextRef both = shapeRuns({price, period});
 
     EXPECT_NEAR(width(*both), width(*shapeRuns({price})) + width(*shapeRuns({period})), 0.01);
     EXPECT_EQ(both->clusters[6].run, 1);
@@ -207,7 +207,7 @@ TEST(RasterTextShaper, BreaksLinesBetweenIdeographs) {
 TEST(RasterTextShaper, MustBreakAfterALineFeedWhichHasNoWidth) {
     for (const std::string feed : {"\n", "\r\n", "\r", "\u2028", "\u2029", "\u0085"}) {
         SCOPED_TRACE(testing::PrintToString(feed));
-        const ShapedRef text = shape("a" + feed + "b" + feed);
+        const TextRef text = shape("a" + feed + "b" + feed);
 
         ASSERT_EQ(text->clusters.size(), 4u);
         EXPECT_EQ(text->clusters[1].breakAfter, LineBreak::mandatory);
@@ -219,7 +219,7 @@ TEST(RasterTextShaper, MustBreakAfterALineFeedWhichHasNoWidth) {
 }
 
 TEST(RasterTextShaper, TellsBlanksFromLetters) {
-    const ShapedRef text = shape("a \t\u2003\u00A0");
+    const TextRef text = shape("a \t\u2003\u00A0");
 
     std::vector<bool> blanks;
     for (const Cluster& cluster : text->clusters) blanks.push_back(cluster.isWhitespace);
@@ -242,7 +242,7 @@ TEST(RasterTextShaper, LiftsNumbersAboveTheRightToLeftTextAroundThem) {
 }
 
 TEST(RasterTextShaper, ShowsMixedTextInItsVisualOrder) {
-    const ShapedRef text = shape("אב 12");
+    const TextRef text = shape("אב 12");
     graphics::TextLayout layout;
     graphics::layOutText(*text, {}, layout);
 
@@ -254,8 +254,8 @@ TEST(RasterTextShaper, ShowsMixedTextInItsVisualOrder) {
 }
 
 TEST(RasterTextShaper, KeepsTheOrderOfATextWhateverTheScreens) {
-    const ShapedRef trial = shape("7 DAY FREE TRIAL.", LayoutDirection::rightToLeft);
-    const ShapedRef greeting = shape("שלום!", LayoutDirection::leftToRight);
+    const TextRef trial = shape("7 DAY FREE TRIAL.", LayoutDirection::rightToLeft);
+    const TextRef greeting = shape("שלום!", LayoutDirection::leftToRight);
 
     EXPECT_THAT(levels(*trial), Each(0));
     EXPECT_THAT(levels(*greeting), Each(1));
@@ -314,15 +314,15 @@ TEST(RasterTextShaper, ShapesWhatNoFontHas) {
     for (const std::string text : {"漢字かな交じり文", "👩🏽‍🚀🎉❤️", "\U000F0000\U0010FFFF", "\u0378", "क्षत्रिय",
                                    "ภาษาไทย", "\uFEFF\u200D\u200C\u2060"}) {
         SCOPED_TRACE(text);
-        const ShapedRef shaped = shape(text + " end");
+        const TextRef shaped = shape(text + " end");
         expectWholeText(*shaped);
         EXPECT_GT(width(*shaped), width(*shape(" end")) - 1e-6);
     }
 }
 
 TEST(RasterTextShaper, CountsTheBytesOfInvalidText) {
-    const ShapedRef text = shape("a\xFF"
-                                 "b\xE2\x82z\xC3");
+    const TextRef text = shape("a\xFF"
+                               "b\xE2\x82z\xC3");
 
     expectWholeText(*text);
     EXPECT_THAT(lengths(*text), ElementsAre(1, 1, 1, 2, 1, 1));
@@ -343,7 +343,7 @@ TEST(RasterTextShaper, TakesAnySequenceOfBytes) {
             runs.push_back(styled);
         }
 
-        const ShapedRef text = shapeRuns(runs, random() % 2 ? LayoutDirection::rightToLeft : LayoutDirection::leftToRight);
+        const TextRef text = shapeRuns(runs, random() % 2 ? LayoutDirection::rightToLeft : LayoutDirection::leftToRight);
 
         expectWholeText(*text);
         for (const Cluster& cluster : text->clusters) ASSERT_GE(cluster.advance, 0);
@@ -354,14 +354,14 @@ TEST(RasterTextShaper, ShapesAVeryLongParagraphInPieces) {
     std::string text;
     for (int word = 0; word < 3000; ++word) text += "word" + std::to_string(word % 10) + " ";
 
-    const ShapedRef shaped = shape(text);
+    const TextRef shaped = shape(text);
 
     expectWholeText(*shaped);
     EXPECT_NEAR(width(*shaped) / width(*shape(text.substr(0, 60))), double(text.size()) / 60, 0.01);
 }
 
 TEST(RasterTextShaper, SurvivesAWordWithoutEnd) {
-    const ShapedRef shaped = shape(std::string(20000, 'm'));
+    const TextRef shaped = shape(std::string(20000, 'm'));
 
     EXPECT_NEAR(width(*shaped), 20000 * width(*shape("m")), 1);
 }
@@ -392,7 +392,7 @@ TEST(RasterTextShaper, JoinsArabicLettersAcrossRuns) {
 
 TEST(RasterTextShaper, LeavesLigaturesOutWhereLettersAreSpaced) {
     const auto groups = [](double kern) {
-        const ShapedRef shaped = shapeRuns({{"ffi", {.face = sora(700), .size = 16}, kern}});
+        const TextRef shaped = shapeRuns({{"ffi", {.face = sora(700), .size = 16}, kern}});
         return std::static_pointer_cast<const rasterbackend::RasterShapedText>(shaped)->groupStarts;
     };
 
@@ -421,7 +421,7 @@ TEST(RasterTextShaper, PutsTheKernOnTheFarSideOfALetter) {
 }
 
 TEST(RasterTextShaper, ShapesTheSameTextTheSameWayAgain) {
-    const ShapedRef first = shape("Déjà vu – אב 12 漢"), second = shape("Déjà vu – אב 12 漢");
+    const TextRef first = shape("Déjà vu – אב 12 漢"), second = shape("Déjà vu – אב 12 漢");
 
     ASSERT_EQ(first->clusters.size(), second->clusters.size());
     for (std::size_t index = 0; index < first->clusters.size(); ++index)
