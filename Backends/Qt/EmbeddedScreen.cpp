@@ -93,6 +93,22 @@ QSize EmbeddedScreen::wholeSize() const {
 
 // --- Input ---
 
+void EmbeddedScreen::mouseMoved(const QMouseEvent& event) {
+    const QPointer<QObject> owner(&m_place.object());
+    m_input.mouseMoved(event);
+    if (owner) adoptCursor();
+}
+
+void EmbeddedScreen::hovered(QPointF position) {
+    m_input.hovered(position);
+    adoptCursor();
+}
+
+void EmbeddedScreen::left() {
+    m_input.left();
+    adoptCursor();
+}
+
 void EmbeddedScreen::adoptCursor() {
     const bool pointsAtControl = m_input.pointsAtControl();
     if (std::exchange(m_showsHand, pointsAtControl) != pointsAtControl) m_place.showHand(pointsAtControl);

@@ -12,6 +12,7 @@
 #include "Platform/System/Compiler.hpp"
 
 class QKeyEvent;
+class QMouseEvent;
 
 namespace proupsells::qtbackend {
 
@@ -49,8 +50,10 @@ public:
 
     // Mouse, touch and wheel go there.
     QtInput& input() { return m_input; }
-    // After whatever the mouse does: it shows a hand over what can be tapped.
-    void adoptCursor();
+    // The mouse goes there with a button held or rests there, and has left. It shows a hand over what can be tapped.
+    void mouseMoved(const QMouseEvent& event);
+    void hovered(QPointF position);
+    void left();
     // Accepts the event. False where the key means nothing here and the owner may hand it on.
     bool keyPressed(QKeyEvent& event);
     // Tab, or Shift and Tab. False where the focus leaves the screen.
@@ -61,6 +64,7 @@ public:
 private:
     QSize wholeSize() const;
     void makeFrame();
+    void adoptCursor();
     QRegion paint();
     void schedule();
 

@@ -198,15 +198,9 @@ void ControllerItem::mouseMoveEvent(QMouseEvent* event) { handOnLater(*event, &q
 
 void ControllerItem::hoverEnterEvent(QHoverEvent* event) { hoverMoveEvent(event); }
 
-void ControllerItem::hoverMoveEvent(QHoverEvent* event) {
-    m_screen->input().hovered(event->position());
-    m_screen->adoptCursor();
-}
+void ControllerItem::hoverMoveEvent(QHoverEvent* event) { m_screen->hovered(event->position()); }
 
-void ControllerItem::hoverLeaveEvent(QHoverEvent*) {
-    m_screen->input().left();
-    m_screen->adoptCursor();
-}
+void ControllerItem::hoverLeaveEvent(QHoverEvent*) { m_screen->left(); }
 
 void ControllerItem::mouseReleaseEvent(QMouseEvent* event) { handOnLater(*event, &qtbackend::QtInput::mouseReleased); }
 

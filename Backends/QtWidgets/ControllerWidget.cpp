@@ -2,7 +2,6 @@
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPointer>
 #include <QStyle>
 #include <QTouchEvent>
 #include <cmath>
@@ -125,23 +124,13 @@ void ControllerWidget::mousePressEvent(QMouseEvent* event) { m_screen->input().m
 // The second press of two quick ones.
 void ControllerWidget::mouseDoubleClickEvent(QMouseEvent* event) { m_screen->input().mousePressed(*event); }
 
-void ControllerWidget::mouseMoveEvent(QMouseEvent* event) {
-    const QPointer<QWidget> self(this);
-    m_screen->input().mouseMoved(*event);
-    if (self) m_screen->adoptCursor();
-}
+void ControllerWidget::mouseMoveEvent(QMouseEvent* event) { m_screen->mouseMoved(*event); }
 
 void ControllerWidget::mouseReleaseEvent(QMouseEvent* event) { m_screen->input().mouseReleased(*event); }
 
-void ControllerWidget::enterEvent(QEnterEvent* event) {
-    m_screen->input().hovered(event->position());
-    m_screen->adoptCursor();
-}
+void ControllerWidget::enterEvent(QEnterEvent* event) { m_screen->hovered(event->position()); }
 
-void ControllerWidget::leaveEvent(QEvent*) {
-    m_screen->input().left();
-    m_screen->adoptCursor();
-}
+void ControllerWidget::leaveEvent(QEvent*) { m_screen->left(); }
 
 void ControllerWidget::wheelEvent(QWheelEvent* event) { m_screen->input().wheelTurned(*event); }
 

@@ -5,6 +5,11 @@
 namespace proupsells::uikit {
 namespace {
 
+class Moving : public UIView {
+public:
+    bool isAnimating() const override { return true; }
+};
+
 using geometry::Point;
 using geometry::Rect;
 using geometry::Size;
@@ -338,10 +343,6 @@ TEST_F(CardOnCardTest, AllLeaveByOneDimming) {
 }
 
 TEST_F(CardOnCardTest, AskForNoFramesForTheOneThatIsNotSeen) {
-    class Moving : public UIView {
-    public:
-        bool isAnimating() const override { return true; }
-    };
     sheet->view()->addSubview(std::make_shared<Moving>());
     EXPECT_TRUE(window->isAnimating());
 
@@ -351,10 +352,6 @@ TEST_F(CardOnCardTest, AskForNoFramesForTheOneThatIsNotSeen) {
 }
 
 TEST_F(PresentationTest, WhatMovesBehindASheetThatCoversItAsksForNoFrames) {
-    class Moving : public UIView {
-    public:
-        bool isAnimating() const override { return true; }
-    };
     root->view()->addSubview(std::make_shared<Moving>());
     EXPECT_TRUE(window->isAnimating());
     sheet->view()->setBackgroundColor(UIColor::white);
