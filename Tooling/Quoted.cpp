@@ -12,7 +12,7 @@ std::string inQuotes(std::string_view text) {
         else if (byte < ' ' || byte == 0x7F)
             result += std::string("\\u00") + digits[byte >> 4] + digits[byte & 15];
         else
-            result += c;
+            result += c == '"' || c == '\\' ? std::string("\\") + c : std::string(1, c);
     }
     return result + '"';
 }

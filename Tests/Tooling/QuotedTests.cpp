@@ -11,5 +11,7 @@ TEST(Quoted, StaysOnOneLineAndSendsNothingToATerminal) {
     EXPECT_EQ(inQuotes("two\nlines\x1B[2J\x7F"), "\"two\\nlines\\u001b[2J\\u007f\"");
 }
 
+TEST(Quoted, EndsWhereItEnds) { EXPECT_EQ(inQuotes("say \"a\\b\""), "\"say \\\"a\\\\b\\\"\""); }
+
 } // namespace
 } // namespace proupsells::tooling

@@ -1,0 +1,20 @@
+// Numbers inside what the tools say.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Platform/Geometry/Geometry.hpp"
+
+namespace proupsells::tooling {
+
+// To the nearest thousandth, a whole number without a fraction: 5, 0.5, -5.35. The same in every language.
+std::string written(double number);
+// "x y width height"
+std::string written(const geometry::Rect& rect);
+
+// Takes a number as written() writes it off the front of the text. Absent, and the text as it was, where none stands there.
+std::optional<double> takeNumber(std::string_view& text);
+
+} // namespace proupsells::tooling
