@@ -21,6 +21,7 @@ set(PROUPSELLS_Platform_HEADERS
   Platform/Foundation/LanguageChanges.hpp
   Platform/Foundation/Locale.hpp
   Platform/Foundation/LocaleServices.hpp
+  Platform/Foundation/PseudoLanguage.hpp
   Platform/Foundation/ResourcePlace.hpp
   Platform/Foundation/Resources.hpp
   Platform/Geometry/Axis.hpp
@@ -139,4 +140,25 @@ set(PROUPSELLS_FFmpeg_HEADERS
   Backends/FFmpeg/ClipPlugin.hpp
   Backends/FFmpeg/LazyClipDecoder.hpp
   Include/ProUpsells/FFmpeg.hpp
+)
+set(PROUPSELLS_Tooling_HEADERS
+  Include/ProUpsells/Tooling.hpp
+  Tooling/LintFinding.hpp
+  Tooling/OffersLint.hpp
+  Tooling/PaintedAudit.hpp
+  Tooling/ScreenAudit.hpp
+  Tooling/ScreenDifference.hpp
+  Tooling/ScreenTree.hpp
+  Tooling/SpokenScreen.hpp
+  Tooling/SteeringAudit.hpp
+  Tooling/TranslatableText.hpp
+  Tooling/TranslationFiles.hpp
+  Tooling/TranslationsLint.hpp
+)
+set(PROUPSELLS_ScreenTest_HEADERS
+  Include/ProUpsells/ScreenTest.hpp
+  ScreenTest/ScreenMatchers.hpp
+  ScreenTest/TestDevice.hpp
+  ScreenTest/TestScreen.hpp
+  ScreenTest/Verdict.hpp
 )

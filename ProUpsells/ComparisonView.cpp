@@ -42,7 +42,7 @@ void toggle(const Expanded& expanded, const std::string& name) {
 
 View ComparisonView::headerRow(graphics::ContentSizeCategory textSize) const {
     // Of its usual size, however large it is.
-    const double leastScale = 0.7 / std::max(1.0, graphics::scaleFactor(std::min(textSize, lumokit::headingH2.largestTextSize)));
+    const double leastScale = 0.6 / std::max(1.0, graphics::scaleFactor(std::min(textSize, lumokit::headingH2.largestTextSize)));
     View title =
         Text{localizedString("Compare Plans", "Title for screen where users can see a comparison between our Folio plans")} |
         minimumScaleFactor(leastScale) | lumokit::textStyle(lumokit::headingH2) | foregroundStyle(lumokit::ContentColor::primary) |

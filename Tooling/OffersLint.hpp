@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "Platform/System/Compiler.hpp"
 #include "ProUpsells/SubscriptionOption.hpp"
 #include "Tooling/LintFinding.hpp"
 
@@ -22,6 +23,6 @@ struct OffersToLint {
 
 // By rules, and within them in the order of the plans. Places are pointers into an offers file, such as "/options/0/price". Main
 // thread only.
-std::vector<LintFinding> lint(const OffersToLint& offers);
+PROUPSELLS_EXPORT std::vector<LintFinding> lint(const OffersToLint& offers);
 
 } // namespace proupsells::tooling

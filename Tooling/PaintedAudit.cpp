@@ -156,33 +156,40 @@ std::vector<Finding> auditWords(const DisplayList& list, const std::vector<Paint
     return findings;
 }
 
-std::vector<Finding> auditContrast(const DisplayList& list, const std::vector<PaintedText>& texts, const Rect& window,
-                                   const ColorAt& behind, const ColorAt& shown) {
+std::optional<double> contrastOf(const PaintedText& text, const Rect& window, const ColorAt& behind, const ColorAt& shown) {
     constexpr double step = 1;         // points between the places that are looked at
     constexpr double mayBeWorse = .05; // of them
+    const Command& command = text.command;
+    const Rect place = command.bounds.intersection(command.clip).intersection(window);
+    std::vector<double> contrasts;
+    RGBA last{.alpha = 0}; // neighbours are mostly the same
+    double lastContrast = 0;
+    for (double y = place.minY() + step / 2; y < place.maxY(); y += step)
+        for (double x = place.minX() + step / 2; x < place.maxX(); x += step) {
+            const RGBA back = behind({x, y});
+            if (shown({x, y}) == back) continue;
+            if (back != last) lastContrast = graphics::contrast(over(command.color, command.opacity, back), back);
+            last = back;
+            contrasts.push_back(lastContrast);
+        }
+    if (contrasts.empty()) return std::nullopt;
+    const auto low = contrasts.begin() + static_cast<std::ptrdiff_t>(static_cast<double>(contrasts.size()) * mayBeWorse);
+    std::nth_element(contrasts.begin(), low, contrasts.end());
+    return *low;
+}
+
+std::vector<Finding> auditContrast(const DisplayList& list, const std::vector<PaintedText>& texts, const Rect& window,
+                                   const ColorAt& behind, const ColorAt& shown) {
     std::vector<Finding> findings;
-    for (const auto& [command, path, identifier] : texts) {
+    for (const PaintedText& painted : texts) {
+        const auto& [command, path, identifier] = painted;
         if (command.opacity < 1) continue;
         const ShapedText& text = *list.texts[static_cast<std::size_t>(command.resource)];
-        const Rect place = command.bounds.intersection(command.clip).intersection(window);
-        std::vector<double> contrasts;
-        RGBA last{.alpha = 0}; // neighbours are mostly the same
-        double lastContrast = 0;
-        for (double y = place.minY() + step / 2; y < place.maxY(); y += step)
-            for (double x = place.minX() + step / 2; x < place.maxX(); x += step) {
-                const RGBA back = behind({x, y});
-                if (shown({x, y}) == back) continue;
-                if (back != last) lastContrast = graphics::contrast(over(command.color, command.opacity, back), back);
-                last = back;
-                contrasts.push_back(lastContrast);
-            }
-        if (contrasts.empty()) continue;
-        const auto low = contrasts.begin() + static_cast<std::ptrdiff_t>(static_cast<double>(contrasts.size()) * mayBeWorse);
-        std::nth_element(contrasts.begin(), low, contrasts.end());
-        if (*low >= leastContrast(text)) continue;
+        const auto contrast = contrastOf(painted, window, behind, shown);
+        if (!contrast || *contrast >= leastContrast(text)) continue;
         findings.push_back({AuditRule::faint, path,
-                            inQuotes(textOf(text, command.firstCluster, command.endCluster)) + " stands out by " + tenths(*low) +
-                                ":1 from what is painted behind it",
+                            inQuotes(textOf(text, command.firstCluster, command.endCluster)) + " stands out by " +
+                                tenths(*contrast) + ":1 from what is painted behind it",
                             identifier});
     }
     return findings;

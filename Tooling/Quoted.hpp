@@ -4,10 +4,12 @@
 #include <string>
 #include <string_view>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::tooling {
 
 // The text in quotation marks and on one line: line breaks are \n, other control characters such as \u001b, and a backslash stands
 // before quotation marks and backslashes.
-std::string inQuotes(std::string_view text);
+PROUPSELLS_EXPORT std::string inQuotes(std::string_view text);
 
 } // namespace proupsells::tooling

@@ -187,7 +187,29 @@ private:
         });
         if (other != m_survey.controls.end())
             return add(AuditRule::smallControl, measured + " beside " + description(*other->node));
-        if (std::min(size.width, size.height) < m_options.leastTarget - tolerance) add(AuditRule::smallTarget, measured);
+        const geometry::Size target = targetOf(*control.node);
+        if (std::min(target.width, target.height) < m_options.leastTarget - tolerance)
+            add(AuditRule::smallTarget,
+                measured + " and can be touched in " + points(target.width) + " x " + points(target.height));
+    }
+
+    // How much of it can be touched: what reaches out around the frame, as far as no other control is nearer.
+    geometry::Size targetOf(const SemanticNode& control) const {
+        const Rect& frame = control.frame;
+        const double wide = std::max(0.0, control.leastTarget - frame.width()) / 2,
+                     high = std::max(0.0, control.leastTarget - frame.height()) / 2;
+        double left = wide, right = wide, up = high, down = high;
+        for (const Control& each : m_survey.controls) {
+            const Rect& other = each.node->frame;
+            if (each.node == &control || other.isEmpty() || other.intersects(frame)) continue;
+            const bool isBeside = other.minY() < frame.maxY() && other.maxY() > frame.minY();
+            const bool isAboveOrBelow = other.minX() < frame.maxX() && other.maxX() > frame.minX();
+            if (isBeside && other.minX() >= frame.maxX()) right = std::min(right, (other.minX() - frame.maxX()) / 2);
+            if (isBeside && other.maxX() <= frame.minX()) left = std::min(left, (frame.minX() - other.maxX()) / 2);
+            if (isAboveOrBelow && other.minY() >= frame.maxY()) down = std::min(down, (other.minY() - frame.maxY()) / 2);
+            if (isAboveOrBelow && other.maxY() <= frame.minY()) up = std::min(up, (frame.minY() - other.maxY()) / 2);
+        }
+        return {frame.width() + left + right, frame.height() + up + down};
     }
 
     void holdContrast(const Text& text) {

@@ -11,6 +11,7 @@
 #include "Platform/Accessibility/SemanticNode.hpp"
 #include "Platform/Foundation/PseudoLanguage.hpp"
 #include "Platform/Graphics/Color.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::tooling {
 
@@ -38,9 +39,9 @@ enum class AuditRule : std::uint8_t {
     invisibleFocus,     // a control in focus that looks as it did before
 };
 inline constexpr int auditRuleCount = int(AuditRule::invisibleFocus) + 1;
-std::string_view nameOf(AuditRule rule);
+PROUPSELLS_EXPORT std::string_view nameOf(AuditRule rule);
 // One sentence: what to do about it.
-std::string_view adviceOf(AuditRule rule);
+PROUPSELLS_EXPORT std::string_view adviceOf(AuditRule rule);
 
 struct Finding {
     AuditRule rule;
@@ -61,11 +62,11 @@ struct AuditOptions {
 
 // What can be scrolled into sight is judged as well; what is fully transparent is not. Texts on pictures are taken to stand out,
 // and so are those of disabled controls. In the order of the tree, by rules.
-std::vector<Finding> audit(const accessibility::SemanticNode& screen, const AuditOptions& options);
+PROUPSELLS_EXPORT std::vector<Finding> audit(const accessibility::SemanticNode& screen, const AuditOptions& options);
 // What only those meet who hear a screen or steer it by keys: names, identifiers, roles and states, and whether all is translated.
-std::vector<Finding> audit(const accessibility::ReadingElement& reading, const AuditOptions& options);
+PROUPSELLS_EXPORT std::vector<Finding> audit(const accessibility::ReadingElement& reading, const AuditOptions& options);
 
 // Whether every letter of the text has been through the pseudo-language, however it was put together. Texts without letters are.
-bool isPseudoTranslated(std::string_view text, foundation::PseudoLanguage language);
+PROUPSELLS_EXPORT bool isPseudoTranslated(std::string_view text, foundation::PseudoLanguage language);
 
 } // namespace proupsells::tooling

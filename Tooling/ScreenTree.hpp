@@ -8,12 +8,13 @@
 #include <vector>
 
 #include "Platform/Accessibility/SemanticNode.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::tooling {
 
 // A node with what stands in it, front-most last. Properties are in a fixed order, only those that the node has: "identifier",
 // "text", "colour" and so on, with numbers in thousandths of a point at most.
-struct ScreenTree {
+struct PROUPSELLS_EXPORT ScreenTree {
     std::string type;
     geometry::Rect frame; // window points
     std::vector<std::pair<std::string, std::string>> properties;
@@ -25,12 +26,12 @@ struct ScreenTree {
     const std::string* property(std::string_view name) const;
 };
 
-ScreenTree screenTree(const accessibility::SemanticNode& screen);
+PROUPSELLS_EXPORT ScreenTree screenTree(const accessibility::SemanticNode& screen);
 
 // One node a line, two blanks further in than what it stands in: `Text [16 20 343 22] text="Annually" colour="velaLabel"`. Ends
 // with a line break.
-std::string screenText(const ScreenTree& screen);
+PROUPSELLS_EXPORT std::string screenText(const ScreenTree& screen);
 // Reads what screenText() wrote. Absent when the text is nothing of the kind.
-std::optional<ScreenTree> readScreenText(std::string_view text);
+PROUPSELLS_EXPORT std::optional<ScreenTree> readScreenText(std::string_view text);
 
 } // namespace proupsells::tooling

@@ -6,19 +6,21 @@
 #include <vector>
 
 #include "Platform/Accessibility/Reading.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::tooling {
 
-std::string_view nameOf(accessibility::Role role);
+PROUPSELLS_EXPORT std::string_view nameOf(accessibility::Role role);
 
 // An element by role, name, value, state and place: `radio button "Monthly", checked, 2 of 2`. One line, whatever its name holds.
-std::string spokenLine(const accessibility::ReadingElement& element);
+PROUPSELLS_EXPORT std::string spokenLine(const accessibility::ReadingElement& element);
 
 // The lines of a reading in the order in which they are told, each two blanks further in than what it stands in.
-std::vector<std::string> spokenLines(const accessibility::ReadingElement& reading);
+PROUPSELLS_EXPORT std::vector<std::string> spokenLines(const accessibility::ReadingElement& reading);
 
 // What is told on the way from one reading to the next: what has gone, what has come or changed, and where the focus has moved.
 // Another screen is told with everything on it.
-std::vector<std::string> announcements(const accessibility::ReadingElement& before, const accessibility::ReadingElement& after);
+PROUPSELLS_EXPORT std::vector<std::string> announcements(const accessibility::ReadingElement& before,
+                                                         const accessibility::ReadingElement& after);
 
 } // namespace proupsells::tooling

@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 #include "Tooling/ScreenAudit.hpp"
 
@@ -13,10 +14,10 @@ using Wait = std::function<void(double duration_s)>;
 
 // Goes through the front-most screen with Tab: whether every control gets the focus, is in sight then, and looks different with it.
 // The focus is dropped at the end; what was scrolled stays.
-std::vector<Finding> auditKeyboard(uikit::UIWindow& window, const Wait& wait);
+PROUPSELLS_EXPORT std::vector<Finding> auditKeyboard(uikit::UIWindow& window, const Wait& wait);
 
 // Presses each radio button and disclosure, turns each pager, and compares what is told before and after. Ends with the button
 // checked that was, and the disclosures as they were.
-std::vector<Finding> auditStates(uikit::UIWindow& window, const Wait& wait);
+PROUPSELLS_EXPORT std::vector<Finding> auditStates(uikit::UIWindow& window, const Wait& wait);
 
 } // namespace proupsells::tooling

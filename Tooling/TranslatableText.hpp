@@ -4,6 +4,8 @@
 #include <span>
 #include <string_view>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::tooling {
 
 struct TranslatableText {
@@ -14,6 +16,6 @@ struct TranslatableText {
 
 // Every text of the screens, each key once, by screens and within them as the sources have them. The build reads them out of the
 // sources.
-std::span<const TranslatableText> translatableTexts();
+PROUPSELLS_EXPORT std::span<const TranslatableText> translatableTexts();
 
 } // namespace proupsells::tooling

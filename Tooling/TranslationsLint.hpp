@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "Platform/System/Compiler.hpp"
 #include "Tooling/LintFinding.hpp"
 #include "Tooling/TranslatableText.hpp"
 
@@ -20,10 +21,10 @@ struct Translation {
 };
 
 // Every <language>.lproj/Localizable.strings of the folder, by name.
-std::vector<Translation> readTranslations(const std::filesystem::path& folder);
+PROUPSELLS_EXPORT std::vector<Translation> readTranslations(const std::filesystem::path& folder);
 
 // Whether each of the texts is there, says the same to its placeholders, and says it in another language. In the order of the
 // texts; keys that no screen has come last.
-std::vector<LintFinding> lint(const Translation& translation, std::span<const TranslatableText> texts);
+PROUPSELLS_EXPORT std::vector<LintFinding> lint(const Translation& translation, std::span<const TranslatableText> texts);
 
 } // namespace proupsells::tooling

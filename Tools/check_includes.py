@@ -3,7 +3,8 @@
 
 usage: check_includes.py ROOT
 
-A room may include itself and the rooms below it, and so may a folder inside a room that has floors of its own. Tooling/,
+A room may include itself and the rooms below it, and so may a folder inside a room that has floors of its own. ScreenTest/ brings the
+module and its backends together for the tests of hosts, and may also include these. Tooling/,
 ProUpsells/ and Platform/ include nothing but the project's own headers and the C++ standard library's, but for Platform/System/Posix/. A backend includes Platform/
 and its library; windows stand on the pixel engine. The module's files belong to screens, as Docs/architecture.md lists them; no screen
 includes another. Exit status 1 when an include points up or out, or when a file and that list disagree, one line each."""
@@ -13,6 +14,7 @@ import sys
 
 # From the top down; rooms in one row never include each other.
 FLOORS = [
+    ["ScreenTest"],
     ["Tooling"],
     ["ProUpsells"],
     ["Platform/VelaUIKit"],
@@ -44,6 +46,8 @@ BELOW_BACKEND = {
     "Backends/QtWidgets": {"Backends/Qt", "Backends/Raster"},
     "Backends/QtQuick": {"Backends/Qt", "Backends/Raster"},
 }
+# Those that the one room above the module may include.
+BELOW_SCREEN_TEST = {"Backends/Headless", "Backends/Raster", "Backends/Standard"}
 # The one backend that knows the module: in QML, its screens are elements.
 KNOWS_MODULE = "Backends/QtQuick"
 # A screen of the module includes what it shares with the others, and the entry includes all of them.
@@ -66,7 +70,7 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 
 def room_of(path: str) -> str | None:
     parts = path.split("/")
-    if parts[0] in ("ProUpsells", "Tooling"):
+    if parts[0] in ("ProUpsells", "Tooling", "ScreenTest"):
         return parts[0]
     if parts[0] in ("Platform", "Backends") and len(parts) > 1:
         return "/".join(parts[:2])
@@ -114,6 +118,8 @@ def complaint(screens: dict[str, str], source: str, bracket: str, target: str) -
         return None if target in STANDARD or source.startswith(SYSTEM_FOLDER) else "only the C++ standard library may be included with <>"
     if target_room is None:
         return "only the project's own headers may be included with quotes"
+    if source_room == "ScreenTest" and target_room in BELOW_SCREEN_TEST:
+        return None
     if target_room.startswith("Backends/"):
         return "only apps bring the module and a backend together"
     if target_room not in FLOOR_OF:
@@ -146,7 +152,7 @@ def main() -> int:
         print(__doc__, file=sys.stderr)
         return 2
     root = pathlib.Path(sys.argv[1])
-    files = [path for top in ("Tooling", "ProUpsells", "Platform", "Backends") for path in sorted((root / top).rglob("*"))
+    files = [path for top in ("ScreenTest", "Tooling", "ProUpsells", "Platform", "Backends") for path in sorted((root / top).rglob("*"))
              if path.suffix in (".hpp", ".cpp")]
     screens = listed_screens((root / SCREENS_DOCUMENT).read_text(encoding="utf-8"))
     found = [complaint for path in files for complaint in complaints_about(root, path, screens)]

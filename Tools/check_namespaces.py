@@ -10,7 +10,7 @@ import pathlib
 import re
 import sys
 
-FOLDERS = ("Apps", "Backends", "Include", "Platform", "ProUpsells", "Tooling")
+FOLDERS = ("Apps", "Backends", "Include", "Platform", "ProUpsells", "ScreenTest", "Tooling")
 NOT_CODE = re.compile(
     r'//[^\n]*|/\*.*?\*/|R"(?P<mark>[^()\s\\]*)\(.*?\)(?P=mark)"|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])+\'|^[ \t]*#(?:[^\n\\]|\\.)*$',
     re.DOTALL | re.MULTILINE)

@@ -9,7 +9,7 @@ import pathlib
 import re
 import sys
 
-FOLDERS = ("Apps", "Backends", "Include", "Platform", "ProUpsells", "Tooling")
+FOLDERS = ("Apps", "Backends", "Include", "Platform", "ProUpsells", "ScreenTest", "Tooling")
 ROOM = "Platform/System/"
 # Strings stay: they name files.
 COMMENT_OR_STRING = re.compile(r'//[^\n]*|/\*.*?\*/|("(?:\\.|[^"\\\n])*")', re.DOTALL)

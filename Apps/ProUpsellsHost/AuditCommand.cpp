@@ -48,7 +48,7 @@ AuditLedger auditScenario(const std::filesystem::path& file) {
     const auto log = std::make_shared<EventLog>(discarded);
     HostSession session(scenario.offers, scenario.device, {.tracker = scenario.hasTracker, .delegate = scenario.hasDelegate},
                         ffmpegbackend::Pace::exact, log);
-    Driver driver(loop, session);
+    tooling::Driver driver(loop, session.window());
     ScreenInspector inspector(session, driver, ledger);
     ScenarioRunner(scenario, loop, session, log, std::nullopt).run([&](const std::string*) {
         if (!session.isShowing()) return;

@@ -87,7 +87,7 @@ AuditTour::AuditTour(StartScreen screen, const Offers& offers, const Device& dev
     : m_screen(screen), m_name(wordFor(screen, startScreens)), m_ledger(ledger), m_device(device),
       m_loop(std::make_shared<runloop::VirtualClock>()),
       m_session(offers, device, {}, ffmpegbackend::Pace::exact, std::make_shared<EventLog>(m_discarded)),
-      m_driver(m_loop, m_session), m_inspector(m_session, m_driver, ledger) {
+      m_driver(m_loop, m_session.window()), m_inspector(m_session, m_driver, ledger) {
     m_session.present();
     m_driver.finishTransitions();
     open();

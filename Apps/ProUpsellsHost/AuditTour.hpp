@@ -9,15 +9,16 @@
 
 #include "Apps/ProUpsellsHost/AuditLedger.hpp"
 #include "Apps/ProUpsellsHost/AuditMatrix.hpp"
-#include "Apps/ProUpsellsHost/Driver.hpp"
+#include "Apps/ProUpsellsHost/HostSession.hpp"
 #include "Backends/Raster/RasterSurface.hpp"
+#include "Tooling/Driver.hpp"
 
 namespace proupsells::hostprogram {
 
 // Looks at what a window shows.
 class ScreenInspector {
 public:
-    ScreenInspector(HostSession& session, Driver& driver, AuditLedger& ledger)
+    ScreenInspector(HostSession& session, tooling::Driver& driver, AuditLedger& ledger)
         : m_session(session), m_driver(driver), m_ledger(ledger) {}
 
     // The whole tree, in each appearance: the layout is the same.
@@ -32,7 +33,7 @@ public:
 
 private:
     HostSession& m_session;
-    Driver& m_driver;
+    tooling::Driver& m_driver;
     AuditLedger& m_ledger;
     rasterbackend::RasterSurface m_behind, m_shown; // without texts, and with them
 };
@@ -68,7 +69,7 @@ private:
     std::ostringstream m_discarded;
     runloop::MainRunLoop m_loop;
     HostSession m_session;
-    Driver m_driver;
+    tooling::Driver m_driver;
     ScreenInspector m_inspector;
     std::set<std::string> m_identifiers;
     std::map<std::string, TextSizes> m_textSizes;

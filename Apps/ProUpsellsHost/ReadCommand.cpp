@@ -25,7 +25,7 @@ int readScreen(StartScreen screen, const ReadArguments& arguments) {
     runloop::MainRunLoop loop(std::make_shared<runloop::VirtualClock>());
     HostSession session(readOffersFile(arguments.offers ? *arguments.offers : foundation::requiredResource("offers.json")),
                         arguments.device, {}, ffmpegbackend::Pace::exact, silentLog(discarded));
-    Driver driver(loop, session);
+    tooling::Driver driver(loop, session.window());
     session.present();
     driver.finishTransitions();
     session.open(screen);

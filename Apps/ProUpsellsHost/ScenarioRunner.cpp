@@ -9,41 +9,15 @@
 #include "Apps/ProUpsellsHost/Numbers.hpp"
 #include "Apps/ProUpsellsHost/ScreenDump.hpp"
 #include "Apps/ProUpsellsHost/Snapshot.hpp"
-#include "Platform/Accessibility/Search.hpp"
 #include "Platform/System/PathText.hpp"
+#include "Tooling/TapPoint.hpp"
 
 namespace proupsells::hostprogram {
 
-using accessibility::SemanticNode;
-
-namespace {
-
-std::vector<const SemanticNode*> controlsIdentified(const SemanticNode& root, const std::string& identifier) {
-    auto found = accessibility::findAllByIdentifier(root, identifier);
-    std::erase_if(found, [](const SemanticNode* node) { return !node->isControl; });
-    return found;
-}
-
-// The control's identifier, and the name that a person sees.
-std::string describe(const SemanticNode& control) {
-    const std::string name = accessibility::nameOf(control);
-    if (control.identifier.empty()) return '"' + name + '"';
-    return control.identifier + (name.empty() ? "" : " (\"" + name + "\")");
-}
-
-// What was revealed stands with its centre at the window's very edge; rounding must not carry it out of there.
-geometry::Point withoutRounding(geometry::Point point) {
-    constexpr double tolerance = 1e-6;
-    if (point.x < 0 && point.x > -tolerance) point.x = 0;
-    if (point.y < 0 && point.y > -tolerance) point.y = 0;
-    return point;
-}
-
-} // namespace
-
 ScenarioRunner::ScenarioRunner(const Scenario& scenario, runloop::MainRunLoop& loop, HostSession& session,
                                std::shared_ptr<EventLog> log, std::optional<std::filesystem::path> folder)
-    : m_scenario(scenario), m_session(session), m_log(std::move(log)), m_folder(std::move(folder)), m_driver(loop, session) {}
+    : m_scenario(scenario), m_session(session), m_log(std::move(log)), m_folder(std::move(folder)),
+      m_driver(loop, session.window()) {}
 
 bool ScenarioRunner::run(const Watch& watch) {
     m_session.present();
@@ -59,35 +33,20 @@ bool ScenarioRunner::run(const Watch& watch) {
 
 std::string ScenarioRunner::stepPointer() const { return "/steps/" + std::to_string(m_step); }
 
-void ScenarioRunner::failTap(const std::string& complaint, const SemanticNode& root) const {
-    std::string tappable;
-    for (const SemanticNode* control : accessibility::controls(root)) tappable += "\n  " + describe(*control);
-    const InputError error(system::textOf(m_scenario.file), stepPointer() + "/tap",
-                           complaint + ", expected exactly one of the controls below");
-    throw InputErrorWithList(error, tappable);
-}
-
 geometry::Point ScenarioRunner::pointOf(const TapTarget& target) {
     if (const auto* point = std::get_if<geometry::Point>(&target)) return *point;
     const auto* identifier = std::get_if<TapIdentifier>(&target);
     const std::string wanted = identifier ? identifier->identifier : std::get<TapText>(target).text;
-    const auto find = [&](const SemanticNode& root) {
-        return identifier ? controlsIdentified(root, wanted) : accessibility::controlsNamed(root, wanted);
-    };
+    const auto find = identifier ? tooling::controlsIdentified(wanted) : tooling::controlsCalled(wanted);
+    const auto found = tooling::tapPoint(m_session.window(), find, [this] { m_driver.wait(0); });
+    if (found.point) return *found.point;
 
-    const SemanticNode before = m_session.window().semanticTree();
-    const auto found = find(before);
-    const std::string what = identifier ? "the identifier \"" + wanted + "\"" : "the text \"" + wanted + "\"";
-    if (found.empty()) failTap("no control has " + what, before);
-    if (found.size() > 1) failTap(std::to_string(found.size()) + " controls have " + what, before);
-    if (!found.front()->reveal) return found.front()->frame.center();
-
-    found.front()->reveal();
-    m_driver.wait(0);
-    const SemanticNode after = m_session.window().semanticTree();
-    const auto revealed = find(after);
-    if (revealed.empty()) failTap("no control has " + what + " any more", after);
-    return withoutRounding(revealed.front()->frame.center());
+    std::string tappable;
+    for (const std::string& control : found.controls) tappable += "\n  " + control;
+    const std::string what = identifier ? "the identifier \"" : "the text \"";
+    throw InputErrorWithList(InputError(system::textOf(m_scenario.file), stepPointer() + "/tap",
+                                        found.complaint + " " + what + wanted + "\", expected exactly one of the controls below"),
+                             tappable);
 }
 
 void ScenarioRunner::perform(const TapStep& step) { m_driver.tap(pointOf(step.target)); }
@@ -107,7 +66,7 @@ void ScenarioRunner::perform(const SetStep& step) { m_session.set(step); }
 void ScenarioRunner::perform(const ReleaseStep& step) { m_session.release(step.part); }
 
 void ScenarioRunner::perform(const DumpStep&) {
-    const SemanticNode root = m_session.window().semanticTree();
+    const accessibility::SemanticNode root = m_session.window().semanticTree();
     const auto* controller = m_session.window().frontMostViewController();
     m_log->write("screen", {{"controller", controller ? controller->typeName() : ""},
                             {"size", toJson(m_session.device().size)},

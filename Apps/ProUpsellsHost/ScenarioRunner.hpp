@@ -6,10 +6,10 @@
 #include <memory>
 #include <optional>
 
-#include "Apps/ProUpsellsHost/Driver.hpp"
 #include "Apps/ProUpsellsHost/EventLog.hpp"
 #include "Apps/ProUpsellsHost/HostSession.hpp"
 #include "Apps/ProUpsellsHost/Scenario.hpp"
+#include "Tooling/Driver.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -40,14 +40,13 @@ private:
     void perform(const ExpectStep&);
 
     geometry::Point pointOf(const TapTarget& target);
-    [[noreturn]] void failTap(const std::string& complaint, const accessibility::SemanticNode& root) const;
     std::string stepPointer() const;
 
     const Scenario& m_scenario;
     HostSession& m_session;
     std::shared_ptr<EventLog> m_log;
     std::optional<std::filesystem::path> m_folder;
-    Driver m_driver;
+    tooling::Driver m_driver;
     std::size_t m_step = 0;
     bool m_allHeld = true;
 };

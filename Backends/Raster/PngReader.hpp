@@ -6,6 +6,7 @@
 
 #include "Backends/Raster/Picture.hpp"
 #include "Platform/Geometry/Geometry.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -13,6 +14,6 @@ namespace proupsells::rasterbackend {
 std::optional<geometry::Size> pngSize(std::string_view bytes);
 
 // Null where the bytes are no PNG file, not all of one, or one of more than 64 million pixels.
-Picture pngPicture(std::string_view bytes);
+PROUPSELLS_EXPORT Picture pngPicture(std::string_view bytes);
 
 } // namespace proupsells::rasterbackend

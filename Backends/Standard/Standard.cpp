@@ -4,7 +4,6 @@
 
 #include "Backends/Raster/RasterImageDecoder.hpp"
 #include "Backends/Raster/RasterTextShaper.hpp"
-#include "Platform/Host/Services.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #ifdef PROUPSELLS_HAS_ICU
 #include "Backends/Icu/IcuLocaleServices.hpp"
@@ -28,25 +27,26 @@ Installed& installed() {
     return *parts;
 }
 
-host::Services services() {
+} // namespace
+
+host::Services newServices([[maybe_unused]] ClipPace pace) {
     host::Services services{.textShaper = std::make_shared<rasterbackend::RasterTextShaper>(),
                             .imageDecoder = std::make_shared<rasterbackend::RasterImageDecoder>()};
 #ifdef PROUPSELLS_HAS_ICU
     services.localeServices = std::make_shared<icubackend::IcuLocaleServices>();
 #endif
 #ifdef PROUPSELLS_HAS_FFMPEG
-    services.clipDecoder = std::make_shared<ffmpegbackend::LazyClipDecoder>(ffmpegbackend::Pace::realTime,
+    services.clipDecoder = std::make_shared<ffmpegbackend::LazyClipDecoder>(pace == ClipPace::exact ? ffmpegbackend::Pace::exact
+                                                                                                    : ffmpegbackend::Pace::realTime,
                                                                             ffmpegbackend::LazyClipDecoder::defaultFolders());
 #endif
     return services;
 }
 
-} // namespace
-
 void install() {
     if (!runloop::MainRunLoop::exists())
         installed().loop = std::make_unique<runloop::MainRunLoop>(std::make_shared<runloop::RealClock>());
-    if (!host::Installation::exists()) installed().services = std::make_unique<host::Installation>(services());
+    if (!host::Installation::exists()) installed().services = std::make_unique<host::Installation>(newServices(ClipPace::realTime));
 }
 
 } // namespace proupsells::standard

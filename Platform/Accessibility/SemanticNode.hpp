@@ -132,6 +132,9 @@ struct SemanticNode {
 
     // Something that a person can tap.
     bool isControl = false;
+    // Of controls: how wide and how high what may be touched is at least, in points, around the frame's centre, where no other
+    // control is nearer; 0 where it is just the frame.
+    double leastTarget = 0;
     // Of controls: does what a tap at the control's centre does. Empty when it is disabled.
     std::function<void()> activate;
     // Of adjustable controls: one step up (1) or down (-1). Empty for others and when it is disabled.

@@ -1,5 +1,7 @@
 #include "Platform/Hosting/RepresentableNode.hpp"
 
+#include "Platform/SwiftUI/Tree/ControlSearch.hpp"
+
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/Hosting/RepresentableStage.hpp"
 #include "Platform/Hosting/Traits.hpp"
@@ -51,6 +53,7 @@ void RepresentableNode::paintContent(graphics::PaintContext& context, const grap
 void RepresentableNode::describe(accessibility::SemanticNode& node, const graphics::PaintState& state, double) const {
     m_stage->layoutIfNeeded();
     node.children.push_back(m_view->semanticNode(state));
+    if (isControl()) node.children.back().leastTarget = swiftui::ControlSearch::leastTarget;
 }
 
 // --- Touches ---

@@ -92,7 +92,18 @@ TEST(ScreenAudit, FindsWhatCannotBeScrolledIntoSight) {
 TEST(ScreenAudit, FindsTargetsSmallerThanAFingersTip) {
     const SemanticNode apart = screen({control("terms", {{0, 0}, {100, 43}}), control("close", {{0, 80}, {44, 44}})});
 
-    EXPECT_THAT(findings(apart, {}), ElementsAre("small target 0 Button terms is 100 x 43 points"));
+    EXPECT_THAT(findings(apart, {}), ElementsAre("small target 0 Button terms is 100 x 43 points and can be touched in 100 x 43"));
+}
+
+TEST(ScreenAudit, CountsWhatCanBeTouchedAroundAControlAsFarAsNoOtherIsNearer) {
+    SemanticNode above = control("terms", {{0, 0}, {100, 20}}), below = control("privacy", {{0, 44}, {100, 20}});
+    above.leastTarget = below.leastTarget = 44;
+    EXPECT_THAT(findings(screen({above, below}), {}), IsEmpty());
+
+    below.frame.origin.y = 30;
+    EXPECT_THAT(findings(screen({above, below}), {}),
+                ElementsAre("small target 0 Button terms is 100 x 20 points and can be touched in 100 x 37",
+                            "small target 1 Button privacy is 100 x 20 points and can be touched in 100 x 37"));
 }
 
 TEST(ScreenAudit, NamesTheNearestIdentifier) {

@@ -56,6 +56,11 @@ class Rooms(unittest.TestCase):
         self.assertEqual(len(complaints({"ProUpsells/Plans.cpp": '#include "Tooling/Audit.hpp"\n'})), 1)
         self.assertEqual(len(complaints({"Tooling/Audit.cpp": '#include "Backends/Qt/Window.hpp"\n'})), 1)
 
+    def test_only_the_room_of_hosts_tests_brings_backends_and_the_module_together(self):
+        self.assertEqual(complaints({"ScreenTest/Screen.cpp": '#include "Backends/Raster/Picture.hpp"\n#include "Tooling/Audit.hpp"\n'}), [])
+        self.assertEqual(len(complaints({"ScreenTest/Screen.cpp": '#include "Backends/Qt/Window.hpp"\n'})), 1)
+        self.assertEqual(len(complaints({"Tooling/Audit.cpp": '#include "ScreenTest/Screen.hpp"\n'})), 1)
+
     def test_windows_stand_on_the_pixel_engine_and_no_other_backend_on_another(self):
         self.assertEqual(complaints({"Backends/Qt/Window.cpp": '#include "Backends/Raster/Painter.hpp"\n'}), [])
         self.assertEqual(len(complaints({"Backends/Raster/Painter.cpp": '#include "Backends/Qt/Window.hpp"\n'})), 1)

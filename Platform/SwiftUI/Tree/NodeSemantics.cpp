@@ -1,4 +1,5 @@
 // The semantic tree.
+#include "Platform/SwiftUI/Tree/ControlSearch.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/SemanticContext.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
@@ -80,6 +81,7 @@ void Node::appendSemantics(SemanticContext& context, const PaintState& parentSta
     appendChildSemantics(context, state, node.children);
     context.pending = {};
     if (takesFrameFromChildren) node.frame = unionOfFrames(node.children);
+    if (node.isControl) node.leastTarget = ControlSearch::leastTarget;
     result.push_back(std::move(node));
 }
 

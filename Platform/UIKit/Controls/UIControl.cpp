@@ -79,8 +79,22 @@ void UIControl::touchesCancelled(const UITouch&) {
     sendActions(Event::touchCancel);
 }
 
+namespace {
+
+constexpr double fingertip = 44; // points
+
+bool takesTouchesAround(const UIControl& control, double size) {
+    const geometry::Point center = control.bounds().center();
+    const double half = size / 2 - 0.01; // the far edges do not belong to a rectangle
+    return control.pointInside({center.x - half, center.y}) && control.pointInside({center.x + half, center.y}) &&
+           control.pointInside({center.x, center.y - half}) && control.pointInside({center.x, center.y + half});
+}
+
+} // namespace
+
 void UIControl::describe(accessibility::SemanticNode& node, const graphics::PaintState&) const {
     node.isControl = isUserInteractionEnabled();
+    node.leastTarget = takesTouchesAround(*this, fingertip) ? fingertip : 0;
     if (!m_isEnabled) {
         node.traits = node.traits | accessibility::Traits::disabled;
         return;

@@ -1,17 +1,16 @@
-// Moves virtual time and a finger over a session's window.
+// Moves virtual time and a finger over a window.
 #pragma once
 
-#include <functional>
-#include <memory>
-
-#include "Apps/ProUpsellsHost/HostSession.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
+#include "Platform/System/Compiler.hpp"
+#include "Platform/UIKit/Controllers/UIWindow.hpp"
 
-namespace proupsells::hostprogram {
+namespace proupsells::tooling {
 
-class Driver {
+// The loop is on a virtual clock; both must live longer.
+class PROUPSELLS_EXPORT Driver {
 public:
-    Driver(runloop::MainRunLoop& loop, HostSession& session) : m_loop(loop), m_session(session) {}
+    Driver(runloop::MainRunLoop& loop, uikit::UIWindow& window) : m_loop(loop), m_window(window) {}
 
     void wait(double duration_s);
     // Lets time pass until no presentation or dismissal is under way.
@@ -20,8 +19,8 @@ public:
     void tap(geometry::Point point);
     // Touches, waits, lifts.
     void press(geometry::Point point, double duration_s);
-    // Presses and lifts a key at once; takes no time.
-    void press(host::Key key);
+    // Presses and lifts a key at once; takes no time. Returns whether the key meant something.
+    bool press(host::Key key);
     // Touches at `from`, moves evenly to `to`, lifts there.
     void drag(geometry::Point from, geometry::Point to, double duration_s);
 
@@ -29,7 +28,7 @@ private:
     void touch(host::TouchPhase phase, geometry::Point point);
 
     runloop::MainRunLoop& m_loop;
-    HostSession& m_session;
+    uikit::UIWindow& m_window;
 };
 
-} // namespace proupsells::hostprogram
+} // namespace proupsells::tooling

@@ -1,8 +1,9 @@
-#include "Apps/ProUpsellsHost/Driver.hpp"
+#include "Tooling/Driver.hpp"
 
+#include <algorithm>
 #include <cmath>
 
-namespace proupsells::hostprogram {
+namespace proupsells::tooling {
 
 namespace {
 
@@ -15,7 +16,7 @@ void Driver::wait(double duration_s) { m_loop.runUntil(m_loop.now_s() + duration
 
 void Driver::finishTransitions() {
     m_loop.settle();
-    while (m_session.window().isTransitioning()) {
+    while (m_window.isTransitioning()) {
         const auto due_s = m_loop.nextDueTime_s();
         if (!due_s) return;
         m_loop.runUntil(*due_s);
@@ -33,9 +34,10 @@ void Driver::press(geometry::Point point, double duration_s) {
     touch(host::TouchPhase::ended, point);
 }
 
-void Driver::press(host::Key key) {
-    m_session.window().key(key);
+bool Driver::press(host::Key key) {
+    const bool meantSomething = m_window.key(key);
     m_loop.settle();
+    return meantSomething;
 }
 
 void Driver::drag(geometry::Point from, geometry::Point to, double duration_s) {
@@ -51,8 +53,8 @@ void Driver::drag(geometry::Point from, geometry::Point to, double duration_s) {
 }
 
 void Driver::touch(host::TouchPhase phase, geometry::Point point) {
-    m_session.window().touch({phase, point, m_loop.now_s()});
+    m_window.touch({phase, point, m_loop.now_s()});
     m_loop.settle();
 }
 
-} // namespace proupsells::hostprogram
+} // namespace proupsells::tooling
