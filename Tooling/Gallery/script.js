@@ -1,0 +1,481 @@
+'use strict';
+
+const axes = [
+    ['screen', 'Screen'], ['moment', 'Moment'], ['locale', 'Language'], ['size', 'Size'], ['textSize', 'Text size'], ['appearance', 'Appearance'],
+];
+const changeAxis = axes.length; // of items in the view of changes
+const data = JSON.parse(document.getElementById('gallery').textContent);
+const hasChanges = Array.isArray(data.changes);
+const element = id => document.getElementById(id);
+
+// --- What there is to see ---
+
+function pictureOf(row) {
+    return { values: row.slice(0, 6), file: row[7], tree: row[8], width: row[9], height: row[10], points: parseFloat(row[3]) };
+}
+
+function itemOf(change) {
+    const before = change.before && pictureOf(change.before), after = change.after && pictureOf(change.after);
+    const kind = !before ? 'new' : !after ? 'gone' : 'changed';
+    const shown = after || before;
+    return { ...shown, values: [...shown.values, kind], before, after, words: change.words, isChange: true };
+}
+
+const all = data.pictures.map(row => pictureOf(row));
+const changes = hasChanges ? data.changes.map(itemOf) : [];
+const views = { all: { items: all }, changes: { items: changes } };
+
+// The values of each axis in the order in which they come first.
+for (const view of Object.values(views)) {
+    view.values = Array.from({ length: axes.length + 1 }, () => []);
+    const known = view.values.map(() => new Set());
+    for (const item of view.items)
+        item.values.forEach((value, axis) => {
+            if (known[axis].has(value)) return;
+            known[axis].add(value);
+            view.values[axis].push(value);
+        });
+}
+
+let view = hasChanges ? views.changes : views.all;
+const chosen = Array.from({ length: axes.length + 1 }, () => new Set()); // none of an axis: all
+let marked = []; // at most two items
+let shownItems = [];
+let current = null; // the card that Tab comes to
+
+const nameOf = item => `${item.values[0]}: ${item.values[1]}`;
+const aboutOf = item => item.values.slice(2, 6).map(spoken).join(' · ');
+const spoken = value => /^[\d.]+x[\d.]+$/.test(value) ? value.replace('x', ' × ') : value;
+const plural = (count, one, many) => `${count.toLocaleString('en')} ${count === 1 ? one : many}`;
+
+function make(tag, properties = {}, ...children) {
+    const made = document.createElement(tag);
+    for (const [name, value] of Object.entries(properties))
+        name in made ? made[name] = value : made.setAttribute(name, value);
+    made.append(...children);
+    return made;
+}
+
+// --- Filters ---
+
+function agrees(item, butFor) {
+    return item.values.every((value, axis) => axis === butFor || !chosen[axis].size || chosen[axis].has(value));
+}
+
+function textMatches(item, words) {
+    if (!words.length) return true;
+    item.text ??= [...item.values, ...(item.words || [])].join(' ').toLowerCase();
+    return words.every(word => item.text.includes(word));
+}
+
+function buildFilters() {
+    const names = [...axes.map(([, name]) => name), 'Change'];
+    const order = view === views.changes ? [changeAxis, 0, 1, 2, 3, 4, 5] : [0, 1, 2, 3, 4, 5];
+    view.chips = [];
+    element('axes').replaceChildren(...order.filter(axis => view.values[axis].length > 1).map(axis => {
+        const chips = view.values[axis].map(value => {
+            const box = make('input', { type: 'checkbox', checked: chosen[axis].has(value) });
+            box.addEventListener('change', () => {
+                box.checked ? chosen[axis].add(value) : chosen[axis].delete(value);
+                apply();
+            });
+            const chip = make('label', { className: 'chip' }, box, make('span', { textContent: spoken(value) }));
+            view.chips.push({ axis, value, chip });
+            return chip;
+        });
+        return make('fieldset', {}, make('legend', { textContent: names[axis] }), make('div', { className: 'chips' }, ...chips));
+    }));
+}
+
+function searchedWords() { return element('search').value.toLowerCase().split(/\s+/).filter(Boolean); }
+
+function apply() {
+    const words = searchedWords();
+    const found = view.items.filter(item => textMatches(item, words));
+    shownItems = found.filter(item => agrees(item));
+    const isShown = new Set(shownItems);
+    for (const item of view.items) item.card.hidden = !isShown.has(item);
+    for (const group of view.groups) group.section.hidden = !group.items.some(item => isShown.has(item));
+    // What would be left of each value, whatever else of its axis is chosen.
+    const counts = view.values.map(() => new Map());
+    chosen.forEach((_, axis) => {
+        for (const item of found)
+            if (agrees(item, axis)) counts[axis].set(item.values[axis], (counts[axis].get(item.values[axis]) || 0) + 1);
+    });
+    for (const { axis, value, chip } of view.chips) chip.classList.toggle('empty', !counts[axis].get(value));
+    captionCards();
+    if (!current || !isShown.has(current)) setCurrent(shownItems[0] || null);
+    tellCount();
+    remember();
+}
+
+function tellCount() {
+    const things = view === views.changes ? ['change', 'changes'] : ['picture', 'pictures'];
+    const total = view.items.length;
+    element('count').textContent = shownItems.length === total
+        ? plural(total, ...things)
+        : `${shownItems.length.toLocaleString('en')} of ${plural(total, ...things)}`;
+    const nothing = element('nothing');
+    nothing.hidden = shownItems.length > 0;
+    if (nothing.hidden) return;
+    const isUnchanged = view === views.changes && total === 0;
+    nothing.replaceChildren(
+        make('b', { textContent: isUnchanged ? 'Nothing has changed' : 'No picture is like that' }),
+        isUnchanged ? `All ${plural(all.length, 'picture is', 'pictures are')} as before.` : 'Choose less in the filters, or search for something else.');
+}
+
+// --- Cards ---
+
+function imageOf(picture, name) {
+    return make('img', { loading: 'lazy', decoding: 'async', alt: '', src: picture.file, width: picture.width, height: picture.height, title: name });
+}
+
+function cardOf(item) {
+    const thumbHeight = 240, gap = 6;
+    const picture = make('div', { className: 'picture' });
+    let width = thumbHeight * item.width / item.height;
+    if (item.isChange) {
+        for (const [side, text] of [[item.before, 'not there before'], [item.after, 'gone']])
+            picture.append(side ? imageOf(side, '') : make('div', { className: 'none', textContent: text }));
+        width = Math.max(2 * width + gap, 300);
+    } else {
+        picture.append(imageOf(item, ''));
+    }
+    const mark = make('span', { className: 'mark', title: 'Mark to compare' });
+    const card = make('div', { className: item.isChange ? 'card pair' : 'card', tabIndex: -1 }, picture, mark);
+    card.setAttribute('role', 'option');
+    card.setAttribute('aria-selected', 'false');
+    card.setAttribute('aria-label', [nameOf(item), aboutOf(item), ...(item.words || [])].join(', '));
+    card.style.setProperty('--width', `${Math.round(width)}px`);
+    item.title = make('b');
+    item.about = make('small');
+    card.append(item.title, item.about);
+    if (item.isChange) {
+        const list = make('ul', {}, ...item.words.slice(0, 4).map(word => make('li', { textContent: word })));
+        if (item.words.length > 4) list.append(make('li', { textContent: `and ${item.words.length - 4} more` }));
+        card.append(list);
+    }
+    card.addEventListener('click', event => event.target === mark ? toggleMark(item) : open(item));
+    card.addEventListener('focus', () => setCurrent(item));
+    item.card = card;
+    return card;
+}
+
+// What all pictures in sight have in common is not said of each.
+function captionCards() {
+    const differs = [2, 3, 4, 5].filter(axis => new Set(shownItems.map(item => item.values[axis])).size > 1);
+    for (const item of shownItems) {
+        item.title.textContent = item.values[1];
+        if (item.isChange) item.title.append(make('span', { className: 'changed-badge', textContent: item.values[changeAxis] }));
+        item.about.textContent = differs.map(axis => spoken(item.values[axis])).join(' · ');
+    }
+}
+
+function buildCards() {
+    view.groups = [];
+    const groups = new Map();
+    for (const item of view.items) {
+        const name = `${item.values[0]} · ${item.values[2]}`;
+        if (!groups.has(name)) {
+            const cards = make('div', { className: 'cards', role: 'presentation' });
+            const heading = make('h2', { textContent: name, role: 'presentation' });
+            const section = make('div', { className: 'group', role: 'group', ariaLabel: name }, heading, cards);
+            const group = { section, cards, items: [] };
+            groups.set(name, group);
+            view.groups.push(group);
+        }
+        const group = groups.get(name);
+        group.items.push(item);
+        group.cards.append(item.card || cardOf(item));
+    }
+    element('pictures').replaceChildren(...view.groups.map(group => group.section));
+}
+
+function setCurrent(item) {
+    if (current?.card) current.card.tabIndex = -1;
+    current = item;
+    if (current?.card) current.card.tabIndex = 0;
+}
+
+function focusCard(item) {
+    if (!item) return;
+    setCurrent(item);
+    item.card.focus();
+    item.card.scrollIntoView({ block: 'nearest' });
+}
+
+// The card above or below, by where they stand.
+function cardInNextRow(direction) {
+    const here = current.card.getBoundingClientRect(), middle = here.left + here.width / 2;
+    let row = null, best = null, bestDistance = Infinity;
+    for (let i = shownItems.indexOf(current) + direction; i >= 0 && i < shownItems.length; i += direction) {
+        const rect = shownItems[i].card.getBoundingClientRect();
+        if (row === null && Math.abs(rect.top - here.top) < 2) continue;
+        row ??= rect.top;
+        if (Math.abs(rect.top - row) >= 2) break;
+        const distance = Math.abs(rect.left + rect.width / 2 - middle);
+        if (distance < bestDistance) [best, bestDistance] = [shownItems[i], distance];
+    }
+    return best;
+}
+
+function onGridKey(event) {
+    if (!current || event.ctrlKey || event.metaKey || event.altKey) return;
+    const at = shownItems.indexOf(current);
+    const targets = {
+        ArrowRight: () => shownItems[at + 1], ArrowLeft: () => shownItems[at - 1], ArrowDown: () => cardInNextRow(1),
+        ArrowUp: () => cardInNextRow(-1), Home: () => shownItems[0], End: () => shownItems.at(-1),
+    };
+    if (targets[event.key]) focusCard(targets[event.key]());
+    else if (event.key === 'Enter') open(current);
+    else if (event.key === ' ') toggleMark(current);
+    else return;
+    event.preventDefault();
+}
+
+// --- Two that are marked ---
+
+function toggleMark(item) {
+    marked = marked.includes(item) ? marked.filter(each => each !== item) : [...marked.slice(-1), item];
+    showMarks();
+}
+
+function showMarks() {
+    for (const each of view.items) {
+        const number = marked.indexOf(each);
+        each.card.setAttribute('aria-selected', String(number >= 0));
+        each.card.querySelector('.mark').dataset.number = number + 1;
+    }
+    element('tray').hidden = marked.length === 0;
+    element('tray-text').textContent = marked.length === 1
+        ? `${nameOf(marked[0])} is marked; mark another one`
+        : marked.map(nameOf).join(' and ');
+    element('tray-compare').disabled = marked.length < 2;
+}
+
+function compareMarked() {
+    if (marked.length === 2) open(marked[0], marked[1], viewer.mode === 'one' ? 'beside' : viewer.mode);
+}
+
+// --- The viewer ---
+
+const viewer = { dialog: element('viewer'), item: null, other: null, mode: 'one', opener: null };
+
+// Pictures that differ from it in one axis only.
+function neighboursOf(item) {
+    const result = [];
+    for (const other of all) {
+        const axesApart = [0, 1, 2, 3, 4, 5].filter(axis => other.values[axis] !== item.values[axis]);
+        if (axesApart.length === 1 && axesApart[0] !== 0) result.push({ other, text: spoken(other.values[axesApart[0]]), axis: axesApart[0] });
+    }
+    return result;
+}
+
+function open(item, other = null, mode = null) {
+    viewer.opener = current;
+    if (mode) viewer.mode = mode;
+    else if (item.isChange && item.before && item.after && viewer.mode === 'one') viewer.mode = 'beside';
+    if (!viewer.dialog.open) viewer.dialog.showModal();
+    show(item, other);
+    element('viewer-title').focus();
+}
+
+function show(item, other = null) {
+    viewer.item = item;
+    const choice = element('with');
+    let options = [];
+    if (item.isChange) {
+        viewer.left = item.before || item.after;
+        viewer.right = item.before && item.after ? item.after : null;
+        viewer.captions = item.before ? ['Before', 'After'] : ['New', ''];
+        if (item.before && !item.after) viewer.captions = ['Gone', ''];
+    } else {
+        options = neighboursOf(item).sort((a, b) => b.axis - a.axis);
+        if (other && !options.some(option => option.other === other)) options.unshift({ other, text: `${nameOf(other)}, ${aboutOf(other)}` });
+        other ??= options[0]?.other || null;
+        viewer.left = item;
+        viewer.right = other;
+        viewer.captions = [captionFor(item, other), other ? captionFor(other, item) : ''];
+    }
+    viewer.other = other;
+    viewer.options = options;
+    choice.replaceChildren(...options.map((option, index) => make('option', { value: index, textContent: option.text, selected: option.other === other })));
+    element('viewer-title').textContent = nameOf(item);
+    element('viewer-about').textContent = aboutOf(item);
+    element('tree').href = item.tree;
+    element('words').replaceChildren(...(item.words || []).map(word => make('li', { textContent: word })));
+    const at = shownItems.indexOf(item);
+    element('previous').disabled = at <= 0;
+    element('next').disabled = at < 0 || at === shownItems.length - 1;
+    setMode(viewer.mode);
+}
+
+// What a picture has for itself.
+function captionFor(item, other) {
+    if (!other) return '';
+    return item.values.slice(0, 6).filter((value, axis) => value !== other.values[axis]).map(spoken).join(' · ') || nameOf(item);
+}
+
+function setMode(mode) {
+    viewer.mode = mode;
+    const isAlone = !viewer.right || mode === 'one';
+    viewer.dialog.dataset.mode = isAlone ? 'one' : mode;
+    for (const button of element('modes').children) {
+        button.setAttribute('aria-pressed', String(button.dataset.mode === viewer.dialog.dataset.mode));
+        button.disabled = !viewer.right && button.dataset.mode !== 'one';
+    }
+    element('with-label').hidden = isAlone || viewer.options.length === 0;
+    // Alone, a changed picture is the new one.
+    const first = isAlone && viewer.item.isChange ? viewer.item.after || viewer.item.before : viewer.left;
+    fill(element('left'), first, isAlone ? '' : viewer.captions[0]);
+    element('right').hidden = isAlone;
+    if (!isAlone) fill(element('right'), viewer.right, viewer.captions[1]);
+}
+
+function fill(figure, picture, caption) {
+    const image = figure.querySelector('img');
+    figure.querySelector('figcaption').textContent = caption;
+    if (image.getAttribute('src') !== picture.file) image.src = picture.file;
+    image.width = picture.width;
+    image.height = picture.height;
+    image.alt = [nameOf(picture), aboutOf(picture), caption].filter(Boolean).join(', ');
+    image.style.setProperty('--points', `${picture.points}px`);
+}
+
+function step(direction) {
+    const next = shownItems[shownItems.indexOf(viewer.item) + direction];
+    if (!next) return;
+    setCurrent(next);
+    show(next);
+}
+
+function setFit(fits) {
+    element('fit').setAttribute('aria-pressed', String(fits));
+    element('stage').classList.toggle('fit', fits);
+}
+
+function moveDivider(percent) {
+    const at = Math.min(100, Math.max(0, percent));
+    element('divider').value = at;
+    element('stage').style.setProperty('--at', `${at}%`);
+}
+
+function onViewerKey(event) {
+    if (event.ctrlKey || event.metaKey || event.altKey) return;
+    const isOnValue = ['INPUT', 'SELECT'].includes(event.target.tagName);
+    const modes = { 1: 'one', 2: 'beside', 3: 'slider' };
+    if (modes[event.key] && (viewer.right || event.key === '1')) {
+        setMode(modes[event.key]);
+        if (event.key === '3') element('divider').focus();
+    } else if (event.key.toLowerCase() === 'f') setFit(!element('stage').classList.contains('fit'));
+    else if (event.key === 'ArrowRight' && !isOnValue) step(1);
+    else if (event.key === 'ArrowLeft' && !isOnValue) step(-1);
+    else return;
+    event.preventDefault();
+}
+
+// --- The state stands in the address, so that it can be handed on ---
+
+function remember() {
+    const state = new URLSearchParams();
+    if (hasChanges && view === views.all) state.set('view', 'all');
+    chosen.forEach((values, axis) => {
+        for (const value of values) state.append(axis === changeAxis ? 'change' : axes[axis][0], value);
+    });
+    if (element('search').value) state.set('search', element('search').value);
+    const text = state.toString();
+    try {
+        history.replaceState(null, '', text ? `#${text}` : '#');
+    } catch { /* a browser may forbid it for files; the page works without */ }
+}
+
+function recall() {
+    const state = new URLSearchParams(location.hash.slice(1));
+    if (state.get('view') === 'all') view = views.all;
+    chosen.forEach((values, axis) => {
+        values.clear();
+        for (const value of state.getAll(axis === changeAxis ? 'change' : axes[axis][0]))
+            if (view.values[axis].includes(value)) values.add(value);
+    });
+    element('search').value = state.get('search') || '';
+}
+
+function showView(next) {
+    view = next;
+    chosen[changeAxis].clear();
+    marked = [];
+    start();
+}
+
+function start() {
+    element('views').hidden = !hasChanges;
+    element('show-changes').setAttribute('aria-pressed', String(view === views.changes));
+    element('show-all').setAttribute('aria-pressed', String(view === views.all));
+    buildCards();
+    buildFilters();
+    showMarks();
+    apply();
+}
+
+// --- Light and dark: the system's, or the other ---
+
+function setUpAppearance() {
+    const isDark = matchMedia('(prefers-color-scheme: dark)');
+    const root = document.documentElement, button = element('appearance');
+    const now = () => root.dataset.appearance || (isDark.matches ? 'dark' : 'light');
+    const name = () => { button.textContent = now() === 'dark' ? 'Light page' : 'Dark page'; };
+    button.addEventListener('click', () => {
+        root.dataset.appearance = now() === 'dark' ? 'light' : 'dark';
+        name();
+    });
+    isDark.addEventListener('change', name);
+    name();
+}
+
+element('pictures').addEventListener('keydown', onGridKey);
+element('search').addEventListener('input', apply);
+element('axes').addEventListener('submit', event => event.preventDefault());
+element('show-changes').addEventListener('click', () => showView(views.changes));
+element('show-all').addEventListener('click', () => showView(views.all));
+element('tray-compare').addEventListener('click', compareMarked);
+element('tray-clear').addEventListener('click', () => {
+    marked = [];
+    showMarks();
+    focusCard(current);
+});
+document.addEventListener('keydown', event => {
+    if (viewer.dialog.open || ['INPUT', 'SELECT'].includes(event.target.tagName) && event.target.type !== 'checkbox') return;
+    if (event.ctrlKey || event.metaKey || event.altKey) return;
+    if (event.key === '/') element('search').focus();
+    else if (event.key.toLowerCase() === 'c') compareMarked();
+    else return;
+    event.preventDefault();
+});
+viewer.dialog.addEventListener('keydown', onViewerKey);
+viewer.dialog.addEventListener('close', () => focusCard(shownItems.includes(viewer.item) ? viewer.item : current));
+element('modes').addEventListener('click', event => event.target.dataset.mode && setMode(event.target.dataset.mode));
+element('with').addEventListener('change', event => show(viewer.item, viewer.options[event.target.value].other));
+element('fit').addEventListener('click', () => setFit(!element('stage').classList.contains('fit')));
+element('previous').addEventListener('click', () => step(-1));
+element('next').addEventListener('click', () => step(1));
+element('close').addEventListener('click', () => viewer.dialog.close());
+element('divider').addEventListener('input', event => moveDivider(Number(event.target.value)));
+const sides = document.querySelector('.sides');
+const follow = event => {
+    const rect = sides.getBoundingClientRect();
+    moveDivider((event.clientX - rect.left) / rect.width * 100);
+};
+sides.addEventListener('pointerdown', event => {
+    if (viewer.dialog.dataset.mode !== 'slider') return;
+    sides.setPointerCapture(event.pointerId);
+    follow(event);
+    event.preventDefault();
+});
+sides.addEventListener('pointermove', event => sides.hasPointerCapture(event.pointerId) && follow(event));
+
+setUpAppearance();
+setFit(true);
+moveDivider(50);
+if (matchMedia('(max-width: 860px)').matches) element('filters').open = false;
+recall();
+start();
