@@ -51,6 +51,8 @@ std::set<std::string> filesOf(const tooling::Gallery& gallery) {
 } // namespace
 
 GalleryFolder::GalleryFolder(fs::path folder) : m_folder(std::move(folder)) {
+    // "gallery/" is "gallery", so that folders inside lead up to it.
+    if (!m_folder.has_filename()) m_folder = m_folder.parent_path();
     std::error_code error;
     fs::create_directories(m_folder, error);
     if (!fs::is_directory(m_folder, error)) fail(m_folder, "the folder cannot be made");

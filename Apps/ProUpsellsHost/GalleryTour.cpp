@@ -114,8 +114,9 @@ void GalleryTour::visitPlans() {
         m_driver.wait(rest_s);
     };
     for (const std::string& identifier : others) {
+        constexpr std::string_view prefix = "plan.";
         choose(identifier);
-        visit(identifier);
+        visit("plan " + identifier.substr(identifier.starts_with(prefix) ? prefix.size() : 0));
     }
     if (!others.empty() && !first.empty()) choose(first);
 }
@@ -134,7 +135,7 @@ void GalleryTour::visitPages() {
     restOnPages();
     m_driver.wait(2 * rest_s);
     for (int shown = 2; shown <= pager->count; ++shown) {
-        while (page() < shown) turnPage();
+        if (page() < shown) turnPage();
         visit("page " + std::to_string(shown));
     }
 }

@@ -11,11 +11,13 @@ namespace proupsells::rasterbackend {
 namespace {
 
 std::vector<std::uint8_t> colours(const Picture& picture) {
-    std::vector<std::uint8_t> bytes;
-    bytes.reserve(std::size_t(picture.width()) * std::size_t(picture.height()) * 3);
-    for (int y = 0; y < picture.height(); ++y)
+    std::vector<std::uint8_t> bytes(std::size_t(picture.width()) * std::size_t(picture.height()) * 3);
+    std::uint8_t* next = bytes.data();
+    for (int y = 0; y < picture.height(); ++y) {
+        const Pixel* const row = picture.row(y);
         for (int x = 0; x < picture.width(); ++x)
-            for (const int shift : {16, 8, 0}) bytes.push_back(std::uint8_t(picture.row(y)[x] >> shift));
+            for (const int shift : {16, 8, 0}) *next++ = std::uint8_t(row[x] >> shift);
+    }
     return bytes;
 }
 

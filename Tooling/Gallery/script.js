@@ -44,7 +44,7 @@ let shownItems = [];
 let current = null; // the card that Tab comes to
 
 const nameOf = item => `${item.values[0]}: ${item.values[1]}`;
-const aboutOf = item => item.values.slice(2, 6).map(spoken).join(' · ');
+const aboutOf = (item, separator = ' · ') => item.values.slice(2, 6).map(spoken).join(separator);
 const spoken = value => /^[\d.]+x[\d.]+$/.test(value) ? value.replace('x', ' × ') : value;
 const plural = (count, one, many) => `${count.toLocaleString('en')} ${count === 1 ? one : many}`;
 
@@ -70,7 +70,7 @@ function textMatches(item, words) {
 
 function buildFilters() {
     const names = [...axes.map(([, name]) => name), 'Change'];
-    const order = view === views.changes ? [changeAxis, 0, 1, 2, 3, 4, 5] : [0, 1, 2, 3, 4, 5];
+    const order = [changeAxis, 0, 2, 3, 4, 5, 1]; // moments are the most
     view.chips = [];
     element('axes').replaceChildren(...order.filter(axis => view.values[axis].length > 1).map(axis => {
         const chips = view.values[axis].map(value => {
@@ -145,14 +145,15 @@ function cardOf(item) {
     const card = make('div', { className: item.isChange ? 'card pair' : 'card', tabIndex: -1 }, picture, mark);
     card.setAttribute('role', 'option');
     card.setAttribute('aria-selected', 'false');
-    card.setAttribute('aria-label', [nameOf(item), aboutOf(item), ...(item.words || [])].join(', '));
+    card.setAttribute('aria-label', [nameOf(item), aboutOf(item, ', '), ...(item.words || [])].join(', '));
     card.style.setProperty('--width', `${Math.round(width)}px`);
     item.title = make('b');
     item.about = make('small');
     card.append(item.title, item.about);
     if (item.isChange) {
-        const list = make('ul', {}, ...item.words.slice(0, 4).map(word => make('li', { textContent: word })));
-        if (item.words.length > 4) list.append(make('li', { textContent: `and ${item.words.length - 4} more` }));
+        const most = 3;
+        const list = make('ul', {}, ...item.words.slice(0, most).map(word => make('li', { textContent: word })));
+        if (item.words.length > most) list.append(make('li', { textContent: `and ${item.words.length - most} more` }));
         card.append(list);
     }
     card.addEventListener('click', event => event.target === mark ? toggleMark(item) : open(item));
@@ -284,14 +285,14 @@ function show(item, other = null) {
     viewer.item = item;
     const choice = element('with');
     let options = [];
-    if (item.isChange) {
+    if (item.isChange && !other) {
         viewer.left = item.before || item.after;
         viewer.right = item.before && item.after ? item.after : null;
         viewer.captions = item.before ? ['Before', 'After'] : ['New', ''];
         if (item.before && !item.after) viewer.captions = ['Gone', ''];
     } else {
         options = neighboursOf(item).sort((a, b) => b.axis - a.axis);
-        if (other && !options.some(option => option.other === other)) options.unshift({ other, text: `${nameOf(other)}, ${aboutOf(other)}` });
+        if (other && !options.some(option => option.other === other)) options.unshift({ other, text: `${nameOf(other)}, ${aboutOf(other, ', ')}` });
         other ??= options[0]?.other || null;
         viewer.left = item;
         viewer.right = other;
@@ -338,7 +339,7 @@ function fill(figure, picture, caption) {
     if (image.getAttribute('src') !== picture.file) image.src = picture.file;
     image.width = picture.width;
     image.height = picture.height;
-    image.alt = [nameOf(picture), aboutOf(picture), caption].filter(Boolean).join(', ');
+    image.alt = [nameOf(picture), aboutOf(picture, ', '), caption].filter(Boolean).join(', ');
     image.style.setProperty('--points', `${picture.points}px`);
 }
 
