@@ -28,6 +28,7 @@ struct GalleryChange {
     std::optional<GalleryPicture> before; // absent: it is new
     std::optional<GalleryPicture> after;  // absent: it is gone
     std::vector<std::string> words;       // what has changed, each a sentence
+    std::string pixels{}; // which of them differ where the trees do not; empty otherwise, or where nobody has looked
 };
 
 struct Gallery {

@@ -26,6 +26,8 @@ std::string pixelsOf(const GalleryPicture& picture) {
     return std::to_string(picture.width) + " x " + std::to_string(picture.height) + " pixels";
 }
 
+constexpr const char* sameTree = "looks different, the same tree";
+
 // Empty where nothing has changed.
 std::vector<std::string> wordsFor(const GalleryPicture& before, const GalleryPicture& after, const GallerySources& sources) {
     std::vector<std::string> words = differences(sources.treeBefore(before), sources.treeAfter(after));
@@ -33,7 +35,7 @@ std::vector<std::string> wordsFor(const GalleryPicture& before, const GalleryPic
     if (hasOtherSize)
         words.insert(words.begin(), "the picture has " + pixelsOf(after) + " instead of " + pixelsOf(before));
     else if (words.empty() && before.digest != after.digest)
-        words.push_back("looks different, the same tree" + (sources.pixels ? ": " + sources.pixels(before, after) : ""));
+        words.emplace_back(sameTree);
     return words;
 }
 
@@ -52,8 +54,11 @@ std::vector<GalleryChange> galleryChanges(std::span<const GalleryPicture> before
             continue;
         }
         found.insert(match->second);
-        if (auto words = wordsFor(*match->second, picture, sources); !words.empty())
-            changes.push_back({*match->second, picture, std::move(words)});
+        const GalleryPicture& other = *match->second;
+        auto words = wordsFor(other, picture, sources);
+        if (words.empty()) continue;
+        const bool asksForPixels = words.front() == sameTree && sources.pixels;
+        changes.push_back({other, picture, std::move(words), asksForPixels ? sources.pixels(other, picture) : ""});
     }
     for (const GalleryPicture& picture : before)
         if (!found.contains(&picture)) changes.push_back({picture, std::nullopt, {"is gone"}});

@@ -59,7 +59,9 @@ void writeChange(std::string& json, const GalleryChange& change) {
     json += R"(,"after":)";
     writeSide(change.after);
     json += R"(,"words":)";
-    writeArray(json, change.words, [&](const std::string& sentence) { writeText(json, sentence); });
+    std::vector<std::string> words = change.words;
+    if (!change.pixels.empty()) words.push_back(change.pixels);
+    writeArray(json, words, [&](const std::string& sentence) { writeText(json, sentence); });
     json += '}';
 }
 

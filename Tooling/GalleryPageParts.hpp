@@ -1,4 +1,4 @@
-// The files in Tooling/Gallery, as they are.
+// The files in Tooling/Gallery, as they are: the script is what the page shows, and then what happens on it.
 #pragma once
 
 #include <string_view>

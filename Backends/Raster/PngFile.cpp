@@ -15,8 +15,11 @@ std::vector<std::uint8_t> colours(const Picture& picture) {
     std::uint8_t* next = bytes.data();
     for (int y = 0; y < picture.height(); ++y) {
         const Pixel* const row = picture.row(y);
-        for (int x = 0; x < picture.width(); ++x)
-            for (const int shift : {16, 8, 0}) *next++ = std::uint8_t(row[x] >> shift);
+        for (int x = 0; x < picture.width(); ++x, next += 3) {
+            next[0] = std::uint8_t(row[x] >> 16);
+            next[1] = std::uint8_t(row[x] >> 8);
+            next[2] = std::uint8_t(row[x]);
+        }
     }
     return bytes;
 }

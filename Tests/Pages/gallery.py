@@ -2,6 +2,7 @@
 import json
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import tempfile
@@ -222,8 +223,7 @@ class GalleryPage(unittest.TestCase):
     def uncovered(self, browser):
         """How many hundredths of the first picture are seen."""
         clip = browser.evaluate("getComputedStyle(document.getElementById('left')).clipPath")
-        hidden = float(clip.removeprefix("inset(0px ").split("%")[0].removeprefix("calc(100% - "))
-        return hidden if "calc" in clip else 100 - hidden
+        return 100 - float(re.fullmatch(r"inset\(0px ([\d.]+)% 0px 0px\)", clip)[1])
 
     def test_changes_are_shown_before_and_after_with_words(self):
         browser = self.page("changes")

@@ -11,7 +11,7 @@ const element = id => document.getElementById(id);
 // --- What there is to see ---
 
 function pictureOf(row) {
-    return { values: row.slice(0, 6), file: row[7], tree: row[8], width: row[9], height: row[10], points: parseFloat(row[3]) };
+    return { values: row.slice(0, 6), file: row[7], tree: row[8], width: row[9], height: row[10], points: row[3].split('x').map(Number) };
 }
 
 function itemOf(change) {
@@ -45,7 +45,12 @@ let current = null; // the card that Tab comes to
 
 const nameOf = item => `${item.values[0]}: ${item.values[1]}`;
 const aboutOf = (item, separator = ' · ') => item.values.slice(2, 6).map(spoken).join(separator);
-const spoken = value => /^[\d.]+x[\d.]+$/.test(value) ? value.replace('x', ' × ') : value;
+
+function spoken(value) {
+    if (/^[\d.]+x[\d.]+$/.test(value)) return value.replace('x', ' × ');
+    return /^(extra|accessibility)[A-Z]/.test(value) ? value.replace(/[A-Z]/g, letter => ' ' + letter.toLowerCase()) : value;
+}
+
 const plural = (count, one, many) => `${count.toLocaleString('en')} ${count === 1 ? one : many}`;
 
 function make(tag, properties = {}, ...children) {
@@ -162,9 +167,9 @@ function cardOf(item) {
     return card;
 }
 
-// What all pictures in sight have in common is not said of each.
+// What all pictures in sight have in common is not said of each, nor what their group is called.
 function captionCards() {
-    const differs = [2, 3, 4, 5].filter(axis => new Set(shownItems.map(item => item.values[axis])).size > 1);
+    const differs = [3, 4, 5].filter(axis => new Set(shownItems.map(item => item.values[axis])).size > 1);
     for (const item of shownItems) {
         item.title.textContent = item.values[1];
         if (item.isChange) item.title.append(make('span', { className: 'changed-badge', textContent: item.values[changeAxis] }));
@@ -257,226 +262,3 @@ function showMarks() {
 function compareMarked() {
     if (marked.length === 2) open(marked[0], marked[1], viewer.mode === 'one' ? 'beside' : viewer.mode);
 }
-
-// --- The viewer ---
-
-const viewer = { dialog: element('viewer'), item: null, other: null, mode: 'one', opener: null };
-
-// Pictures that differ from it in one axis only.
-function neighboursOf(item) {
-    const result = [];
-    for (const other of all) {
-        const axesApart = [0, 1, 2, 3, 4, 5].filter(axis => other.values[axis] !== item.values[axis]);
-        if (axesApart.length === 1 && axesApart[0] !== 0) result.push({ other, text: spoken(other.values[axesApart[0]]), axis: axesApart[0] });
-    }
-    return result;
-}
-
-function open(item, other = null, mode = null) {
-    viewer.opener = current;
-    if (mode) viewer.mode = mode;
-    else if (item.isChange && item.before && item.after && viewer.mode === 'one') viewer.mode = 'beside';
-    if (!viewer.dialog.open) viewer.dialog.showModal();
-    show(item, other);
-    element('viewer-title').focus();
-}
-
-function show(item, other = null) {
-    viewer.item = item;
-    const choice = element('with');
-    let options = [];
-    if (item.isChange && !other) {
-        viewer.left = item.before || item.after;
-        viewer.right = item.before && item.after ? item.after : null;
-        viewer.captions = item.before ? ['Before', 'After'] : ['New', ''];
-        if (item.before && !item.after) viewer.captions = ['Gone', ''];
-    } else {
-        options = neighboursOf(item).sort((a, b) => b.axis - a.axis);
-        if (other && !options.some(option => option.other === other)) options.unshift({ other, text: `${nameOf(other)}, ${aboutOf(other, ', ')}` });
-        other ??= options[0]?.other || null;
-        viewer.left = item;
-        viewer.right = other;
-        viewer.captions = [captionFor(item, other), other ? captionFor(other, item) : ''];
-    }
-    viewer.other = other;
-    viewer.options = options;
-    choice.replaceChildren(...options.map((option, index) => make('option', { value: index, textContent: option.text, selected: option.other === other })));
-    element('viewer-title').textContent = nameOf(item);
-    element('viewer-about').textContent = aboutOf(item);
-    element('tree').href = item.tree;
-    element('words').replaceChildren(...(item.words || []).map(word => make('li', { textContent: word })));
-    const at = shownItems.indexOf(item);
-    element('previous').disabled = at <= 0;
-    element('next').disabled = at < 0 || at === shownItems.length - 1;
-    setMode(viewer.mode);
-}
-
-// What a picture has for itself.
-function captionFor(item, other) {
-    if (!other) return '';
-    return item.values.slice(0, 6).filter((value, axis) => value !== other.values[axis]).map(spoken).join(' · ') || nameOf(item);
-}
-
-function setMode(mode) {
-    viewer.mode = mode;
-    const isAlone = !viewer.right || mode === 'one';
-    viewer.dialog.dataset.mode = isAlone ? 'one' : mode;
-    for (const button of element('modes').children) {
-        button.setAttribute('aria-pressed', String(button.dataset.mode === viewer.dialog.dataset.mode));
-        button.disabled = !viewer.right && button.dataset.mode !== 'one';
-    }
-    element('with-label').hidden = isAlone || viewer.options.length === 0;
-    // Alone, a changed picture is the new one.
-    const first = isAlone && viewer.item.isChange ? viewer.item.after || viewer.item.before : viewer.left;
-    fill(element('left'), first, isAlone ? '' : viewer.captions[0]);
-    element('right').hidden = isAlone;
-    if (!isAlone) fill(element('right'), viewer.right, viewer.captions[1]);
-}
-
-function fill(figure, picture, caption) {
-    const image = figure.querySelector('img');
-    figure.querySelector('figcaption').textContent = caption;
-    if (image.getAttribute('src') !== picture.file) image.src = picture.file;
-    image.width = picture.width;
-    image.height = picture.height;
-    image.alt = [nameOf(picture), aboutOf(picture, ', '), caption].filter(Boolean).join(', ');
-    image.style.setProperty('--points', `${picture.points}px`);
-}
-
-function step(direction) {
-    const next = shownItems[shownItems.indexOf(viewer.item) + direction];
-    if (!next) return;
-    setCurrent(next);
-    show(next);
-}
-
-function setFit(fits) {
-    element('fit').setAttribute('aria-pressed', String(fits));
-    element('stage').classList.toggle('fit', fits);
-}
-
-function moveDivider(percent) {
-    const at = Math.min(100, Math.max(0, percent));
-    element('divider').value = at;
-    element('stage').style.setProperty('--at', `${at}%`);
-}
-
-function onViewerKey(event) {
-    if (event.ctrlKey || event.metaKey || event.altKey) return;
-    const isOnValue = ['INPUT', 'SELECT'].includes(event.target.tagName);
-    const modes = { 1: 'one', 2: 'beside', 3: 'slider' };
-    if (modes[event.key] && (viewer.right || event.key === '1')) {
-        setMode(modes[event.key]);
-        if (event.key === '3') element('divider').focus();
-    } else if (event.key.toLowerCase() === 'f') setFit(!element('stage').classList.contains('fit'));
-    else if (event.key === 'ArrowRight' && !isOnValue) step(1);
-    else if (event.key === 'ArrowLeft' && !isOnValue) step(-1);
-    else return;
-    event.preventDefault();
-}
-
-// --- The state stands in the address, so that it can be handed on ---
-
-function remember() {
-    const state = new URLSearchParams();
-    if (hasChanges && view === views.all) state.set('view', 'all');
-    chosen.forEach((values, axis) => {
-        for (const value of values) state.append(axis === changeAxis ? 'change' : axes[axis][0], value);
-    });
-    if (element('search').value) state.set('search', element('search').value);
-    const text = state.toString();
-    try {
-        history.replaceState(null, '', text ? `#${text}` : '#');
-    } catch { /* a browser may forbid it for files; the page works without */ }
-}
-
-function recall() {
-    const state = new URLSearchParams(location.hash.slice(1));
-    if (state.get('view') === 'all') view = views.all;
-    chosen.forEach((values, axis) => {
-        values.clear();
-        for (const value of state.getAll(axis === changeAxis ? 'change' : axes[axis][0]))
-            if (view.values[axis].includes(value)) values.add(value);
-    });
-    element('search').value = state.get('search') || '';
-}
-
-function showView(next) {
-    view = next;
-    chosen[changeAxis].clear();
-    marked = [];
-    start();
-}
-
-function start() {
-    element('views').hidden = !hasChanges;
-    element('show-changes').setAttribute('aria-pressed', String(view === views.changes));
-    element('show-all').setAttribute('aria-pressed', String(view === views.all));
-    buildCards();
-    buildFilters();
-    showMarks();
-    apply();
-}
-
-// --- Light and dark: the system's, or the other ---
-
-function setUpAppearance() {
-    const isDark = matchMedia('(prefers-color-scheme: dark)');
-    const root = document.documentElement, button = element('appearance');
-    const now = () => root.dataset.appearance || (isDark.matches ? 'dark' : 'light');
-    const name = () => { button.textContent = now() === 'dark' ? 'Light page' : 'Dark page'; };
-    button.addEventListener('click', () => {
-        root.dataset.appearance = now() === 'dark' ? 'light' : 'dark';
-        name();
-    });
-    isDark.addEventListener('change', name);
-    name();
-}
-
-element('pictures').addEventListener('keydown', onGridKey);
-element('search').addEventListener('input', apply);
-element('axes').addEventListener('submit', event => event.preventDefault());
-element('show-changes').addEventListener('click', () => showView(views.changes));
-element('show-all').addEventListener('click', () => showView(views.all));
-element('tray-compare').addEventListener('click', compareMarked);
-element('tray-clear').addEventListener('click', () => {
-    marked = [];
-    showMarks();
-    focusCard(current);
-});
-document.addEventListener('keydown', event => {
-    if (viewer.dialog.open || ['INPUT', 'SELECT'].includes(event.target.tagName) && event.target.type !== 'checkbox') return;
-    if (event.ctrlKey || event.metaKey || event.altKey) return;
-    if (event.key === '/') element('search').focus();
-    else if (event.key.toLowerCase() === 'c') compareMarked();
-    else return;
-    event.preventDefault();
-});
-viewer.dialog.addEventListener('keydown', onViewerKey);
-viewer.dialog.addEventListener('close', () => focusCard(shownItems.includes(viewer.item) ? viewer.item : current));
-element('modes').addEventListener('click', event => event.target.dataset.mode && setMode(event.target.dataset.mode));
-element('with').addEventListener('change', event => show(viewer.item, viewer.options[event.target.value].other));
-element('fit').addEventListener('click', () => setFit(!element('stage').classList.contains('fit')));
-element('previous').addEventListener('click', () => step(-1));
-element('next').addEventListener('click', () => step(1));
-element('close').addEventListener('click', () => viewer.dialog.close());
-element('divider').addEventListener('input', event => moveDivider(Number(event.target.value)));
-const sides = document.querySelector('.sides');
-const follow = event => {
-    const rect = sides.getBoundingClientRect();
-    moveDivider((event.clientX - rect.left) / rect.width * 100);
-};
-sides.addEventListener('pointerdown', event => {
-    if (viewer.dialog.dataset.mode !== 'slider') return;
-    sides.setPointerCapture(event.pointerId);
-    follow(event);
-    event.preventDefault();
-});
-sides.addEventListener('pointermove', event => sides.hasPointerCapture(event.pointerId) && follow(event));
-
-setUpAppearance();
-setFit(true);
-moveDivider(50);
-if (matchMedia('(max-width: 860px)').matches) element('filters').open = false;
-recall();
-start();
