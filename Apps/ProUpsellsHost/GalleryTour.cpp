@@ -26,6 +26,12 @@ void forEachNode(const SemanticNode& node, const Use& use) {
         for (const SemanticNode& each : *nodes) forEachNode(each, use);
 }
 
+double sumOfOffsets(const SemanticNode& node) {
+    double sum = node.scroll ? node.scroll->contentOffset.y : 0;
+    for (const SemanticNode& child : node.children) sum += sumOfOffsets(child);
+    return sum;
+}
+
 } // namespace
 
 GalleryTour::GalleryTour(StartScreen screen, const Offers& offers, const Device& device)
@@ -55,6 +61,7 @@ void GalleryTour::visitPaywall() {
     visit("page 1");
     visitPlans();
     visitPages();
+    visitFurtherDown();
     visitEnd();
 }
 
@@ -84,6 +91,16 @@ void GalleryTour::visitStore() {
 
 void GalleryTour::visit(const std::string& moment) {
     if (m_visited.insert(moment).second) (*m_visit)(moment, m_session.window());
+}
+
+void GalleryTour::visitFurtherDown() {
+    for (int part = 1;; ++part) {
+        const double before = sumOfOffsets(m_session.window().semanticTree());
+        m_session.window().key(host::Key::pageDown);
+        m_driver.wait(rest_s);
+        if (sumOfOffsets(m_session.window().semanticTree()) <= before) return;
+        visit(part == 1 ? "further down" : "further down " + std::to_string(part));
+    }
 }
 
 void GalleryTour::visitEnd() {
@@ -146,15 +163,37 @@ void GalleryTour::visitEach(const std::string& prefix, const std::string& moment
         if (node.identifier.starts_with(prefix)) identifiers.push_back(node.identifier);
     });
     for (const std::string& identifier : identifiers) {
-        bool isRevealed = false;
-        forEachNode(m_session.window().semanticTree(), [&](const SemanticNode& node) {
-            if (isRevealed || node.identifier != identifier || !node.revealWhole) return;
-            node.revealWhole();
-            isRevealed = true;
-        });
+        const std::string name = moment + identifier.substr(prefix.size());
+        if (const auto node = find(identifier); node && node->revealWhole) node->revealWhole();
         m_driver.wait(rest_s);
-        visit(moment + identifier.substr(prefix.size()));
+        visit(name);
+        visitRestOf(identifier, name);
     }
+}
+
+// What is higher than the window, a part at a time.
+void GalleryTour::visitRestOf(const std::string& identifier, const std::string& moment) {
+    const geometry::Size size = m_session.device().size;
+    const double step = 0.6 * size.height, lowest = 0.8 * size.height; // bars stand on the window's ends
+    auto node = find(identifier);
+    if (!node || node->frame.size.height <= lowest) return;
+    for (int part = 2; node && node->frame.maxY() > lowest; ++part) {
+        m_session.window().scroll({size.width / 2, size.height / 2}, {0, std::min(step, node->frame.maxY() - lowest)});
+        m_driver.wait(rest_s);
+        const double before = node->frame.minY();
+        node = find(identifier);
+        if (!node || node->frame.minY() >= before) return;
+        visit(moment + " " + std::to_string(part));
+    }
+}
+
+std::optional<SemanticNode> GalleryTour::find(const std::string& identifier) {
+    std::optional<SemanticNode> found;
+    const SemanticNode tree = m_session.window().semanticTree();
+    forEachNode(tree, [&](const SemanticNode& node) {
+        if (!found && node.identifier == identifier) found = node;
+    });
+    return found;
 }
 
 void GalleryTour::setExpanded(bool isExpanded) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <set>
 #include <sstream>
 #include <string>
@@ -30,14 +31,20 @@ private:
     void visitStore();
 
     void visit(const std::string& moment);
+    // What is below the fold, a page at a time.
+    void visitFurtherDown();
     void visitEnd();
     void visitPlans();
     void visitPages();
     void visitEach(const std::string& prefix, const std::string& moment);
+    void visitRestOf(const std::string& identifier, const std::string& moment);
 
     accessibility::ReadingElement reading() { return m_session.window().reading(); }
-    // Opens or closes all that can be; false when there was nothing to do.
+    // With all that stands in it; absent where nothing has the identifier.
+    std::optional<accessibility::SemanticNode> find(const std::string& identifier);
+    // Opens or closes all that can be.
     void setExpanded(bool isExpanded);
+    // False where there is none left to do it with.
     bool toggleFirst(bool isExpanded);
     // From 1; 0 where there are no pages.
     int page();

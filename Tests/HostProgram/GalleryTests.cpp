@@ -82,9 +82,10 @@ TEST_F(GalleryCommand, ShowsEachPageThePlansAndTheWayBetween) {
     const Outcome outcome = gallery("out");
 
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.output, path("out") + "/index.html: 7 pictures\n");
+    EXPECT_EQ(outcome.output, path("out") + "/index.html: 8 pictures\n");
     EXPECT_THAT(outcome.errors, IsEmpty());
-    EXPECT_THAT(moments("out"), ElementsAre("page 1", "plan pro.monthly", "turning", "page 2", "page 3", "page 4", "end"));
+    EXPECT_THAT(moments("out"),
+                ElementsAre("page 1", "plan pro.monthly", "turning", "page 2", "page 3", "page 4", "further down", "end"));
 }
 
 TEST_F(GalleryCommand, ShowsOpenAndClosedCategoriesAndEveryShelf) {
@@ -94,6 +95,17 @@ TEST_F(GalleryCommand, ShowsOpenAndClosedCategoriesAndEveryShelf) {
 
     EXPECT_THAT(moments("out"), IsSupersetOf({"all open", "category Creation Tools", "all closed", "opening", "drifting",
                                               "shelf TemplatesShelf", "shelf VideoImageLibrariesShelf", "end"}));
+}
+
+TEST_F(GalleryCommand, ShowsInPartsWhatIsHigherThanTheWindow) {
+    matrix["screens"] = {"comparison"};
+    matrix["textSizes"] = {"accessibilityExtraExtraExtraLarge"};
+
+    gallery("out");
+
+    EXPECT_THAT(moments("out"),
+                IsSupersetOf({"category Content And Assets", "category Content And Assets 2", "category Content And Assets 3"}));
+    EXPECT_NE(pictures("out", "category Content And Assets 2")[0][file], pictures("out", "category Content And Assets 3")[0][file]);
 }
 
 TEST_F(GalleryCommand, WritesAPictureAndATreeForEach) {
@@ -147,7 +159,7 @@ TEST_F(GalleryCommand, HasNothingToSayOfTheSameScreens) {
     const Outcome outcome = gallery("new", {"--compare", path("old")});
 
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.output, path("new") + "/index.html: 7 pictures, 0 changed, 0 new, 0 gone\n");
+    EXPECT_EQ(outcome.output, path("new") + "/index.html: 8 pictures, 0 changed, 0 new, 0 gone\n");
     EXPECT_THAT(dataOf("new")["changes"], IsEmpty());
 }
 
@@ -160,8 +172,8 @@ TEST_F(GalleryCommand, SaysWhatAnotherOfferHasChanged) {
     EXPECT_EQ(outcome.status, 1);
     EXPECT_THAT(outcome.output, AllOf(HasSubstr("paywall: "),
                                       HasSubstr("\"Monthly, $9.99 per month\" instead of \"Monthly, $14.99 per "
-                                                "month\" [page 1, en 320x568 large light, the first of 7 pictures]\n"),
-                                      EndsWith("7 pictures, 7 changed, 0 new, 0 gone\n")));
+                                                "month\" [page 1, en 320x568 large light, the first of 8 pictures]\n"),
+                                      EndsWith("8 pictures, 8 changed, 0 new, 0 gone\n")));
     EXPECT_EQ(bytesOf(path("new/" + change["before"][file].get<std::string>())),
               bytesOf(path("old/" + pictures("old", "page 1")[0][file].get<std::string>())));
     EXPECT_NE(change["before"][digest], change["after"][digest]);
@@ -174,9 +186,9 @@ TEST_F(GalleryCommand, SaysWhichPicturesAreNewAndGone) {
     const Outcome outcome = gallery("new", {"--compare", path("old")});
 
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.output, "paywall: is new [page 1, en 320x568 large dark, the first of 7 pictures]\n"
-                              "paywall: is gone [page 1, en 320x568 large light, the first of 7 pictures]\n" +
-                                  path("new") + "/index.html: 7 pictures, 0 changed, 7 new, 7 gone\n");
+    EXPECT_EQ(outcome.output, "paywall: is new [page 1, en 320x568 large dark, the first of 8 pictures]\n"
+                              "paywall: is gone [page 1, en 320x568 large light, the first of 8 pictures]\n" +
+                                  path("new") + "/index.html: 8 pictures, 0 changed, 8 new, 8 gone\n");
 }
 
 TEST_F(GalleryCommand, TellsOfPixelsThatNoTreeSpeaksOf) {
@@ -187,7 +199,7 @@ TEST_F(GalleryCommand, TellsOfPixelsThatNoTreeSpeaksOf) {
 
     EXPECT_EQ(outcome.status, 1);
     EXPECT_THAT(outcome.output,
-                StartsWith("paywall: looks different, the same tree [page 1, en 320x568 large light, the first of 7"));
+                StartsWith("paywall: looks different, the same tree [page 1, en 320x568 large light, the first of 8"));
     EXPECT_THAT(dataOf("new")["changes"][0]["words"], ElementsAre("looks different, the same tree", HasSubstr(" pixels within ")));
 }
 
