@@ -49,11 +49,14 @@ AuditMatrix readMatrix(const std::filesystem::path& file, const std::optional<st
     const Json json = readJsonFile(file);
     const JsonCursor root{json, system::textOf(file)};
     root.expectObject({"screens", "locales", "sizes", "textSizes", "appearances"});
-    AuditMatrix matrix = defaultMatrix(strings);
+    return withKeysOf(root, defaultMatrix(strings));
+}
+
+AuditMatrix withKeysOf(const JsonCursor& object, AuditMatrix matrix) {
     const auto replace = [&](const char* key, auto& values, const auto& read) {
-        if (!root.has(key)) return;
+        if (!object.has(key)) return;
         values.clear();
-        for (const JsonCursor& value : atLeastOne(root.at(key))) values.push_back(read(value));
+        for (const JsonCursor& value : atLeastOne(object.at(key))) values.push_back(read(value));
     };
     replace("screens", matrix.screens, [](const JsonCursor& value) { return value.oneOf(startScreens); });
     replace("locales", matrix.locales, [](const JsonCursor& value) { return deviceWith("locale", value).locale; });

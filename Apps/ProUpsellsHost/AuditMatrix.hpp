@@ -28,4 +28,7 @@ AuditMatrix defaultMatrix(const std::optional<std::filesystem::path>& strings);
 // InputError.
 AuditMatrix readMatrix(const std::filesystem::path& file, const std::optional<std::filesystem::path>& strings);
 
+// `matrix`, but for the keys of these that the object has; it may have others.
+AuditMatrix withKeysOf(const JsonCursor& object, AuditMatrix matrix);
+
 } // namespace proupsells::hostprogram

@@ -163,6 +163,29 @@ private:
     std::string m_subject, m_matrix, m_accepted, m_strings, m_theme, m_format = "text";
 };
 
+class MakeGallery final : public Command {
+public:
+    explicit MakeGallery(CLI::App& parent) {
+        CLI::App& command = *parent.add_subcommand("gallery", "Pictures of all screens, however they are shown, in one page");
+        command.add_option("OFFERS.json", m_offers, "The offers; the sample ones when left out");
+        command.add_option("--out", m_folder, "The folder of the gallery, a new one or one to write over")->required();
+        command.add_option("--compare", m_former, "The folder of another gallery: the page shows what has changed");
+        command.add_option("--matrix", m_matrix, "A file with screens, locales, sizes, textSizes, appearances, scale");
+        command.add_option("--strings", m_strings, "A folder of <language>.lproj/Localizable.strings");
+        command.add_option("--theme", m_theme, "A file with colours, typefaces and pictures of a brand");
+        command.footer("Exit status: 0 done; 1 something has changed, each change on a line of its own; 2 unusable input.\n\n"
+                       "Example: proupsells gallery offers.json --out gallery --compare gallery-of-last-release");
+    }
+
+    Arguments read() const override {
+        return GalleryArguments{readFile(m_offers), system::pathOf(m_folder), readFile(m_former),
+                                readFile(m_matrix), readFile(m_strings),      readFile(m_theme)};
+    }
+
+private:
+    std::string m_offers, m_folder, m_former, m_matrix, m_strings, m_theme;
+};
+
 } // namespace
 
 Arguments readCommandLine(int count, const char* const* arguments) {
@@ -170,8 +193,9 @@ Arguments readCommandLine(int count, const char* const* arguments) {
                  "is wrong.",
                  "proupsells"};
     app.require_subcommand(1);
-    std::unique_ptr<Command> commands[] = {std::make_unique<Show>(app), std::make_unique<Run>(app),  std::make_unique<Texts>(app),
-                                           std::make_unique<Read>(app), std::make_unique<Lint>(app), std::make_unique<Audit>(app)};
+    std::unique_ptr<Command> commands[] = {
+        std::make_unique<Show>(app), std::make_unique<Run>(app),   std::make_unique<Texts>(app),      std::make_unique<Read>(app),
+        std::make_unique<Lint>(app), std::make_unique<Audit>(app), std::make_unique<MakeGallery>(app)};
     const auto all = app.get_subcommands([](const CLI::App*) { return true; });
     const auto chosen = [&] { return std::find_if(all.begin(), all.end(), [](const CLI::App* each) { return each->parsed(); }); };
     try {

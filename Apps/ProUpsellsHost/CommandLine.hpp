@@ -56,11 +56,20 @@ struct AuditArguments {
     AuditFormat format = AuditFormat::text;
 };
 
+struct GalleryArguments {
+    std::optional<std::filesystem::path> offers;  // absent: the sample offers
+    std::filesystem::path folder;                 // where the gallery goes
+    std::optional<std::filesystem::path> former;  // the folder of another gallery, to compare with
+    std::optional<std::filesystem::path> matrix;  // which screens and how; absent: all
+    std::optional<std::filesystem::path> strings; // a folder of translations
+    std::optional<std::filesystem::path> theme;
+};
+
 // Only help was asked for, and has been printed.
 struct HelpShown {};
 
-using Arguments =
-    std::variant<RunArguments, ShowArguments, TextsArguments, ReadArguments, LintArguments, AuditArguments, HelpShown>;
+using Arguments = std::variant<RunArguments, ShowArguments, TextsArguments, ReadArguments, LintArguments, AuditArguments,
+                               GalleryArguments, HelpShown>;
 
 // Throws InputError with "command line" in the place of a file.
 Arguments readCommandLine(int count, const char* const* arguments);

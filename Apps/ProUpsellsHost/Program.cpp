@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "Apps/ProUpsellsHost/AuditCommand.hpp"
+#include "Apps/ProUpsellsHost/GalleryCommand.hpp"
 #include "Apps/ProUpsellsHost/InputError.hpp"
 #include "Apps/ProUpsellsHost/LintCommand.hpp"
 #include "Apps/ProUpsellsHost/ReadCommand.hpp"
@@ -20,6 +21,7 @@ int runProgram(int count, const char* const* arguments, const std::function<int(
         if (const auto* read = std::get_if<ReadArguments>(&command)) return readAloud(*read);
         if (const auto* lint = std::get_if<LintArguments>(&command)) return lintOffers(*lint);
         if (const auto* audit = std::get_if<AuditArguments>(&command)) return auditScreens(*audit);
+        if (const auto* gallery = std::get_if<GalleryArguments>(&command)) return makeGallery(*gallery);
         if (const auto* texts = std::get_if<TextsArguments>(&command)) printTexts(texts->format);
         return done;
     } catch (const std::runtime_error& error) {

@@ -13,8 +13,9 @@ namespace proupsells::system {
 
 // Runs the task for 0 … count - 1, each in a copy of the process as it is now, as many at a time as there are processors. Returns
 // what each task returned, absent where one ended the process. Where processes cannot be copied, the tasks run here, one after
-// another. To be called before the process has threads.
+// another. To be called before the process has threads. `finished`, if any, is told of each task that has ended, in whatever order.
 PROUPSELLS_EXPORT std::vector<std::optional<std::string>> runInProcesses(std::size_t count,
-                                                                         const std::function<std::string(std::size_t)>& task);
+                                                                         const std::function<std::string(std::size_t)>& task,
+                                                                         const std::function<void(std::size_t)>& finished = {});
 
 } // namespace proupsells::system

@@ -11,7 +11,7 @@ using namespace tests;
 using testing::HasSubstr;
 
 TEST(HelpOfTools, FitsAScreenAndHasAnExample) {
-    for (const std::string command : {"read", "lint", "audit"}) {
+    for (const std::string command : {"read", "lint", "audit", "gallery"}) {
         const Outcome outcome = runProgram({command, "--help"});
 
         constexpr int screenHeight = 24;
@@ -24,6 +24,6 @@ TEST(HelpOfTools, FitsAScreenAndHasAnExample) {
 TEST(Help, ListsEveryCommand) {
     const std::string help = runProgram({"--help"}).output;
 
-    for (const char* command : {"show", "run", "texts", "read", "lint", "audit"})
+    for (const char* command : {"show", "run", "texts", "read", "lint", "audit", "gallery"})
         EXPECT_THAT(help, HasSubstr("\n  " + std::string(command) + " "));
 }

@@ -7,6 +7,7 @@ using namespace proupsells;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Optional;
+using testing::UnorderedElementsAre;
 
 TEST(ParallelTasks, ReturnWhatEachTaskReturnsInOrder) {
     const auto results = system::runInProcesses(5, [](std::size_t number) { return std::to_string(number * number); });
@@ -23,4 +24,13 @@ TEST(ParallelTasks, ReturnMoreThanAPipeHolds) {
 
 TEST(ParallelTasks, AreNoneWhereThereIsNothingToDo) {
     EXPECT_THAT(system::runInProcesses(0, [](std::size_t) { return std::string(); }), IsEmpty());
+}
+
+TEST(ParallelTasks, TellOfEachThatHasEnded) {
+    std::vector<std::size_t> ended;
+
+    system::runInProcesses(
+        3, [](std::size_t) { return std::string(); }, [&](std::size_t number) { ended.push_back(number); });
+
+    EXPECT_THAT(ended, UnorderedElementsAre(0, 1, 2));
 }

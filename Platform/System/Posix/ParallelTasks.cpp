@@ -77,22 +77,27 @@ std::vector<pollfd> waitForAny(const std::vector<Child>& children) {
 
 } // namespace
 
-std::vector<std::optional<std::string>> runInProcesses(std::size_t count, const Task& task) {
+std::vector<std::optional<std::string>> runInProcesses(std::size_t count, const Task& task,
+                                                       const std::function<void(std::size_t)>& finished) {
     const std::size_t together = std::max(1u, std::thread::hardware_concurrency());
     std::vector<std::optional<std::string>> results(count);
     std::vector<Child> running;
+    const auto keep = [&](std::size_t number, std::optional<std::string> result) {
+        results[number] = std::move(result);
+        if (finished) finished(number);
+    };
     for (std::size_t next = 0; next < count || !running.empty();) {
         while (next < count && running.size() < together) {
             if (auto child = begin(next, task))
                 running.push_back(std::move(*child));
             else
-                results[next] = task(next);
+                keep(next, task(next));
             ++next;
         }
         const auto outputs = waitForAny(running);
         for (std::size_t i = running.size(); i-- > 0;) {
             if (outputs[i].revents == 0 || readSome(running[i])) continue;
-            results[running[i].number] = end(running[i]);
+            keep(running[i].number, end(running[i]));
             running.erase(running.begin() + static_cast<std::ptrdiff_t>(i));
         }
     }

@@ -1,0 +1,71 @@
+// How far a command has come, for a person at a terminal and for nobody else.
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "Tests/HostProgram/Program.hpp"
+
+using namespace proupsells;
+
+using namespace tests;
+using testing::AllOf;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+// A terminal that a test looks at from behind.
+class Terminal {
+public:
+    Terminal() : m_back(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK)) {
+        if (m_back < 0 || grantpt(m_back) != 0 || unlockpt(m_back) != 0) return;
+        m_name = ptsname(m_back);
+        // It keeps what was written as long as somebody has it open.
+        m_front = open(m_name.c_str(), O_RDWR | O_NOCTTY);
+    }
+    ~Terminal() {
+        close(m_front);
+        close(m_back);
+    }
+    Terminal(const Terminal&) = delete;
+
+    const std::string& name() const { return m_name; }
+
+    std::string shown() const {
+        std::string result(4096, '\0');
+        const ssize_t length = read(m_back, result.data(), result.size());
+        result.resize(length > 0 ? std::size_t(length) : 0);
+        return result;
+    }
+
+private:
+    int m_back;
+    int m_front = -1;
+    std::string m_name;
+};
+
+// What a gallery shows on a terminal of a kind.
+std::string shownBy(const char* kind) {
+    const Folder folder;
+    const Terminal terminal;
+    const Json matrix{{"screens", {"paywall"}},          {"locales", {"en"}},        {"sizes", {{320, 568}}},
+                      {"textSizes", {"small", "large"}}, {"appearances", {"light"}}, {"scale", 1}};
+    const std::string command = "TERM=" + std::string(kind) + " '" + builtProgram.string() + "' gallery --out '" +
+                                (folder.path() / "out").string() + "' --matrix '" + folder.write("matrix.json", matrix).string() +
+                                "' > /dev/null 2> " + terminal.name() + " < /dev/null";
+    EXPECT_EQ(std::system(command.c_str()), 0);
+    return terminal.shown();
+}
+
+} // namespace
+
+TEST(Progress, IsShownOnATerminalWithTheTimeThatIsLeftAndTakenAway) {
+    EXPECT_THAT(shownBy("xterm"), AllOf(HasSubstr(" 0 %"), HasSubstr("████████████████░░░░░░░░░░░░░░░░ 50 %, 0:0"),
+                                        HasSubstr(" 100 %, 0:00 left"), EndsWith("\r\033[K")));
+}
+
+TEST(Progress, IsNotShownWhereALineCannotBeDrawnAgain) { EXPECT_THAT(shownBy("dumb"), IsEmpty()); }
