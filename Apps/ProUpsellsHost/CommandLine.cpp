@@ -55,15 +55,17 @@ public:
         command.add_option("OFFERS.json", m_offers, "The offers; the sample ones when left out");
         m_device.addTo(command);
         command.add_option("--start", m_start, "paywall, comparison or store");
+        command.add_option("--record", m_recording, "A file for what the person does: a scenario that `proupsells run` plays");
     }
 
     Arguments read() const override {
         const Device device = m_device.read();
-        return ShowArguments{readFile(m_offers), device, m_device.given(), readWord("start", m_start, startScreens)};
+        return ShowArguments{readFile(m_offers), device, m_device.given(), readWord("start", m_start, startScreens),
+                             readFile(m_recording)};
     }
 
 private:
-    std::string m_offers, m_start = "paywall";
+    std::string m_offers, m_start = "paywall", m_recording;
     DeviceOptions m_device;
 };
 

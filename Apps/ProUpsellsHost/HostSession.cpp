@@ -1,6 +1,5 @@
 #include "Apps/ProUpsellsHost/HostSession.hpp"
 
-#include "Apps/ProUpsellsHost/HostViewController.hpp"
 #include "Backends/FFmpeg/LazyClipDecoder.hpp"
 #include "Backends/Headless/FixedTextShaper.hpp"
 #include "Backends/Icu/IcuLocaleServices.hpp"
@@ -12,6 +11,10 @@
 #include "ProUpsells/VelaProStorePageViewController.hpp"
 
 namespace proupsells::hostprogram {
+
+HostParts hostPartsOf(const Scenario& scenario) {
+    return {.tracker = scenario.hasTracker, .delegate = scenario.hasDelegate, .screen = scenario.screen};
+}
 
 HostSession::HostSession(Offers offers, const Device& device, const HostParts& parts, ffmpegbackend::Pace pace,
                          std::shared_ptr<EventLog> log)
@@ -26,7 +29,7 @@ HostSession::HostSession(Offers offers, const Device& device, const HostParts& p
     m_window->setTraits(traits());
     m_observer = std::make_shared<LedgerObserver>(m_log);
     m_window->setPresentationObserver(m_observer);
-    m_window->setRootViewController(parts.screen ? parts.screen : std::make_shared<HostViewController>());
+    m_window->setRootViewController(makeHostScreen(parts.screen));
 
     VelaProStorePageViewController::shouldMentioniCloudSync = offers.shouldMentioniCloudSync;
     m_entry = VelaProUpsellViewController::create(std::move(offers.options), offers.variant, std::move(offers.referrer),
@@ -100,6 +103,11 @@ void HostSession::setDevice(const Device& device) {
     if (hasOtherTheme) setTheme(m_device.theme);
     m_window->setSize(device.size, device.safeArea);
     m_window->setTraits(traits());
+}
+
+void HostSession::noteSize(geometry::Size size, geometry::PhysicalInsets safeArea) {
+    m_device.size = size;
+    m_device.safeArea = safeArea;
 }
 
 void HostSession::set(const SetStep& step) {

@@ -5,6 +5,7 @@
 
 #include "Apps/ProUpsellsHost/Device.hpp"
 #include "Apps/ProUpsellsHost/HostLedger.hpp"
+#include "Apps/ProUpsellsHost/HostScreen.hpp"
 #include "Apps/ProUpsellsHost/Offers.hpp"
 #include "Apps/ProUpsellsHost/Scenario.hpp"
 #include "Apps/ProUpsellsHost/StartScreen.hpp"
@@ -17,9 +18,10 @@ namespace proupsells::hostprogram {
 struct HostParts {
     bool tracker = true;
     bool delegate = true;
-    // What is below the paywall; a plain screen where absent.
-    std::shared_ptr<uikit::UIViewController> screen = nullptr;
+    HostScreen screen = HostScreen::plain; // below the paywall
 };
+
+HostParts hostPartsOf(const Scenario& scenario);
 
 // Needs a main run loop.
 class HostSession {
@@ -40,6 +42,8 @@ public:
     // Leads on from the paywall to another screen, as its buttons do.
     void open(StartScreen screen);
     void setDevice(const Device& device);
+    // Whoever shows the window has given it another size.
+    void noteSize(geometry::Size size, geometry::PhysicalInsets safeArea);
     void set(const SetStep& step);
     // Sends one of the paywall's tap events, as if a control had.
     void send(const UpsellViewModel::TapEvent& event);

@@ -1,0 +1,16 @@
+// Translations as a device has them: a folder, or an object in the file itself.
+#pragma once
+
+#include <filesystem>
+
+#include "Apps/ProUpsellsHost/JsonCursor.hpp"
+
+namespace proupsells::hostprogram {
+
+// Of an object with languages, each with texts by their keys. Returns a folder as Bundle takes it.
+std::filesystem::path readInlineTranslations(const JsonCursor& object);
+
+// The same object, of all languages in a folder. Throws InputError for a file that cannot be used.
+Json translationsIn(const std::filesystem::path& folder);
+
+} // namespace proupsells::hostprogram
