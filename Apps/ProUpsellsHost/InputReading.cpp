@@ -19,8 +19,9 @@ constexpr Word<host::AssistiveAction> assistiveActions[] = {
     {"decrease", host::AssistiveAction::decrease},       {"reveal", host::AssistiveAction::reveal},
     {"revealWhole", host::AssistiveAction::revealWhole}, {"focus", host::AssistiveAction::focus},
 };
-constexpr Word<host::ReadingLook> looks[] = {
-    {"reading", {}},
+const Word<host::Input> looks[] = {
+    {"frame", host::FrameLook{}},
+    {"reading", host::ReadingLook{}},
 };
 
 // Reads what stands beside the time.
@@ -40,9 +41,13 @@ public:
 
 private:
     void readFrames(const JsonCursor& entry) {
-        entry.expectObject({"frames"});
-        for (const JsonCursor& time : entry.at("frames").elements())
-            inputs.push_back({{readNextTime(time), host::FrameLook{}}, {}});
+        entry.expectObject({"frames", "areRead"});
+        const bool areRead = entry.has("areRead") && entry.at("areRead").boolean();
+        for (const JsonCursor& time : entry.at("frames").elements()) {
+            const double time_s = readNextTime(time);
+            inputs.push_back({{time_s, host::FrameLook{}}, {}});
+            if (areRead) inputs.push_back({{time_s, host::ReadingLook{}}, {}});
+        }
     }
 
     double readNextTime(const JsonCursor& value) {
@@ -54,7 +59,7 @@ private:
 
     void readKind(const JsonCursor& entry, ScenarioInput& input) {
         entry.expectObject({"time", "touch", "at", "pointer", "scroll", "key", "isRepeated", "focusLeaves", "focus", "isSeen",
-                            "size", "safeArea", "assist", "element", "look", "set", "send"});
+                            "size", "safeArea", "assist", "element", "look", "isEarly", "set", "send"});
         using Read = host::Input (*)(const JsonCursor& entry, const JsonCursor& value);
         struct Kind {
             std::string_view key;
@@ -66,7 +71,7 @@ private:
             {"scroll", "at", readScroll},       {"key", "isRepeated", readPressedKey},
             {"focusLeaves", {}, readFocusRule}, {"focus", {}, readFocus},
             {"isSeen", {}, readSight},          {"size", "safeArea", readSize},
-            {"assist", "element", readAssist},  {"look", {}, readLook},
+            {"assist", "element", readAssist},  {"look", "isEarly", readLook},
         };
         for (const Kind& kind : kinds) {
             if (!entry.has(kind.key)) continue;
@@ -75,6 +80,7 @@ private:
             else
                 entry.expectObject({"time", kind.key, kind.companion});
             input.recorded.input = kind.read(entry, entry.at(kind.key));
+            input.recorded.isEarly = kind.key == "look" && entry.has("isEarly") && entry.at("isEarly").boolean();
             return adoptSize(input.recorded.input);
         }
         readHostInput(entry, input);

@@ -4,6 +4,8 @@
 #include <iostream>
 #include <utility>
 
+#include <nlohmann/json.hpp>
+
 #include "Apps/ProUpsellsWindow/DesktopDevice.hpp"
 #include "Apps/ProUpsellsWindow/EndRequest.hpp"
 #include "Apps/ProUpsellsWindow/WindowClock.hpp"
@@ -76,6 +78,7 @@ void ShownSession::setDevice(const Device& device) {
     Device sized = device;
     m_session.noteSize({double(m_window->width()), double(m_window->height())}, device.safeArea);
     sized.size = m_session.device().size;
+    if (changesBetween(m_session.device(), sized).empty()) return;
     if (m_recording) m_recording->willSetDevice(sized);
     m_session.setDevice(sized);
 }

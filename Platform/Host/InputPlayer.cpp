@@ -6,7 +6,7 @@
 namespace proupsells::host {
 
 void InputPlayer::play(const RecordedInput& recorded) {
-    m_loop.runUntil(recorded.time_s);
+    if (!recorded.isEarly || m_loop.now_s() < recorded.time_s) m_loop.runUntil(recorded.time_s);
     std::visit([this](const auto& input) { perform(input); }, recorded.input);
 }
 

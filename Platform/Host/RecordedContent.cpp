@@ -27,14 +27,12 @@ void RecordedContent::recordWithoutTurns(Input input) {
     if (m_isRecording) m_inputs.push_back({runloop::MainRunLoop::main().now_s(), std::move(input)});
 }
 
-// A frame, or another reading, has brought everything to where it is at this moment.
-void RecordedContent::recordReading() {
-    const double now_s = runloop::MainRunLoop::main().now_s();
-    const auto isLook = [](const Input& input) {
-        return std::holds_alternative<FrameLook>(input) || std::holds_alternative<ReadingLook>(input);
-    };
-    if (!m_inputs.empty() && m_inputs.back().time_s == now_s && isLook(m_inputs.back().input)) return;
-    recordWithoutTurns(ReadingLook{});
+// Looking runs nothing: whoever looks may be in the middle of something.
+void RecordedContent::recordLook(Input look) {
+    if (!m_isRecording) return;
+    const runloop::MainRunLoop& loop = runloop::MainRunLoop::main();
+    const auto due_s = loop.nextDueTime_s();
+    m_inputs.push_back({loop.now_s(), std::move(look), due_s && *due_s <= loop.now_s()});
 }
 
 void RecordedContent::willDo(std::string json) { record(HostInput{std::move(json)}); }
@@ -108,7 +106,7 @@ void RecordedContent::setSeen(bool isSeen) {
 
 // What the mouse rests on is found at once, so that it is found at the same moment when it is played back.
 void RecordedContent::paint(graphics::DisplayList& list) {
-    recordWithoutTurns(FrameLook{});
+    recordLook(FrameLook{});
     const auto content = m_content;
     const std::weak_ptr self = m_self;
     content->paint(list);
@@ -125,13 +123,13 @@ void RecordedContent::setNeedsDisplayHandler(std::function<void()> handler) {
 // --- Reading ---
 
 accessibility::SemanticNode RecordedContent::semanticTree() {
-    recordReading();
+    recordLook(ReadingLook{});
     const auto content = m_content;
     return content->semanticTree();
 }
 
 ReadingElement RecordedContent::reading() {
-    recordReading();
+    recordLook(ReadingLook{});
     const auto content = m_content;
     ReadingElement reading = content->reading();
     recordActionsOf(reading);
@@ -164,7 +162,7 @@ void RecordedContent::perform(const ReadingElement& told, AssistiveAction action
         return element->id == told.id && element->role == told.role && element->identifier == told.identifier &&
                (told.id != 0 || element->name == told.name);
     });
-    if (found == elements.end()) return recordReading();
+    if (found == elements.end()) return recordWithoutTurns(ReadingLook{});
     recordWithoutTurns(AssistiveInput{std::size_t(found - elements.begin()), action});
     host::perform(**found, action);
 }

@@ -56,7 +56,7 @@ public:
 private:
     void record(Input input);
     void recordWithoutTurns(Input input);
-    void recordReading();
+    void recordLook(Input look);
     void recordActionsOf(accessibility::ReadingElement& element);
     void perform(const accessibility::ReadingElement& told, AssistiveAction action);
 

@@ -78,6 +78,7 @@ using Input = std::variant<Touch, SizeInput, PointerInput, ScrollInput, KeyInput
 struct RecordedInput {
     double time_s = 0; // on the main run loop's clock
     Input input;
+    bool isEarly = false; // of looks: what was due at that time had not run yet
 };
 
 } // namespace proupsells::host

@@ -60,7 +60,7 @@ struct Members {
     std::string operator()(const AssistiveInput& input) const {
         return "\"assist\": " + quoted(wordFor(input.action)) + ", \"element\": " + std::to_string(input.element);
     }
-    std::string operator()(const FrameLook&) const { return {}; } // see framesFrom()
+    std::string operator()(const FrameLook&) const { return "\"look\": \"frame\""; }
     std::string operator()(const ReadingLook&) const { return "\"look\": \"reading\""; }
     std::string operator()(const HostInput& input) const { return input.json; }
     std::string operator()(const EndOfRecording&) const { return {}; }
@@ -68,17 +68,26 @@ struct Members {
 
 std::string lineOf(const RecordedInput& recorded) {
     const std::string members = std::visit(Members{}, recorded.input);
-    return "{ \"time\": " + textOf(recorded.time_s) + (members.empty() ? "" : ", ") + members + " }";
+    return "{ \"time\": " + textOf(recorded.time_s) + (members.empty() ? "" : ", ") + members +
+           (recorded.isEarly ? ", \"isEarly\": true" : "") + " }";
 }
 
-bool isFrame(const RecordedInput& recorded) { return std::holds_alternative<FrameLook>(recorded.input); }
+bool isPlainFrame(const RecordedInput& recorded) { return std::holds_alternative<FrameLook>(recorded.input) && !recorded.isEarly; }
+
+// Whether the content is read right after a frame, as it is where somebody hears it.
+bool isRead(const std::vector<RecordedInput>& inputs, std::size_t frame) {
+    if (frame + 1 >= inputs.size()) return false;
+    const RecordedInput& next = inputs[frame + 1];
+    return std::holds_alternative<ReadingLook>(next.input) && !next.isEarly && next.time_s == inputs[frame].time_s;
+}
 
 // The frames from an index on; moves it behind them.
 std::string lineOfFrames(const std::vector<RecordedInput>& inputs, std::size_t& index) {
+    const bool areRead = isRead(inputs, index);
     std::string times;
-    for (; index < inputs.size() && isFrame(inputs[index]); ++index)
+    for (; index < inputs.size() && isPlainFrame(inputs[index]) && isRead(inputs, index) == areRead; index += areRead ? 2 : 1)
         times += (times.empty() ? "" : ", ") + textOf(inputs[index].time_s);
-    return "{ \"frames\": [" + times + "] }";
+    return "{ \"frames\": [" + times + "]" + (areRead ? ", \"areRead\": true" : "") + " }";
 }
 
 } // namespace
@@ -105,7 +114,7 @@ std::string inputsAsJson(const std::vector<RecordedInput>& inputs) {
     std::string json = "[";
     for (std::size_t index = 0; index < inputs.size();) {
         json += json.size() > 1 ? ",\n" : "\n";
-        json += isFrame(inputs[index]) ? lineOfFrames(inputs, index) : lineOf(inputs[index++]);
+        json += isPlainFrame(inputs[index]) ? lineOfFrames(inputs, index) : lineOf(inputs[index++]);
     }
     return json + "\n]";
 }

@@ -15,9 +15,9 @@ namespace proupsells::host {
 PROUPSELLS_EXPORT std::string inputsAsJson(const std::vector<RecordedInput>& inputs);
 
 // The words in it.
-std::string_view wordFor(TouchPhase phase);
-std::string_view wordFor(Key key);
-std::string_view wordFor(FocusEnd end);
-std::string_view wordFor(AssistiveAction action);
+PROUPSELLS_EXPORT std::string_view wordFor(TouchPhase phase);
+PROUPSELLS_EXPORT std::string_view wordFor(Key key);
+PROUPSELLS_EXPORT std::string_view wordFor(FocusEnd end);
+PROUPSELLS_EXPORT std::string_view wordFor(AssistiveAction action);
 
 } // namespace proupsells::host

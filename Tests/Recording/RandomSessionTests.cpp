@@ -68,7 +68,8 @@ private:
         const auto reading = m_session.content().reading();
         std::vector<geometry::Point> centres;
         for (const auto* element : accessibility::elementsOf(reading))
-            if (element->isOperable() && element->isOnScreen && element->identifier != "close") centres.push_back(element->frame.center());
+            if (element->isOperable() && element->isOnScreen && element->identifier != "close")
+                centres.push_back(element->frame.center());
         if (centres.empty()) return;
         const geometry::Point at = centres[upTo(unsigned(centres.size()))];
         m_session.view().pointer(at, false);
@@ -90,9 +91,7 @@ private:
         if (element.activate && element.identifier != "close") element.activate();
     }
 
-    void resize() {
-        m_session.view().setSize({300 + double(upTo(700)), 400 + double(upTo(600))}, {double(upTo(2) * 20), 0, 0, 0});
-    }
+    void resize() { m_session.view().setSize({300 + double(upTo(700)), 400 + double(upTo(600))}, {double(upTo(2) * 20), 0, 0, 0}); }
 
     void change() {
         Device device = m_session.session().device();
@@ -126,7 +125,10 @@ void recordAndPlay(unsigned seed) {
     Device device;
     device.size = {320 + double(random() % 600), 500 + double(random() % 500)};
     device.fonts = FontChoice::fixed;
-    if (random() % 2) device.strings = folder.write("de.lproj/Localizable.strings", "\"Subscribe Now\" = \"Jetzt \\\"abonnieren\\\"\";").parent_path().parent_path();
+    if (random() % 2)
+        device.strings = folder.write("de.lproj/Localizable.strings", "\"Subscribe Now\" = \"Jetzt \\\"abonnieren\\\"\";")
+                             .parent_path()
+                             .parent_path();
 
     tests::Shown recorded;
     {

@@ -23,7 +23,9 @@ std::uint64_t numberOf(const void* pixels, std::size_t count) {
     return hash;
 }
 
-rasterbackend::PixelSize pixelsOf(geometry::Size size) { return {int(std::ceil(size.width * scale)), int(std::ceil(size.height * scale))}; }
+rasterbackend::PixelSize pixelsOf(geometry::Size size) {
+    return {int(std::ceil(size.width * scale)), int(std::ceil(size.height * scale))};
+}
 
 // Painted whole, into memory of its own.
 std::uint64_t numberOf(const graphics::DisplayList& list, geometry::Size size) {
@@ -92,6 +94,7 @@ void RecordedSession::set(const Device& device) {
     m_session->noteSize(m_session->window().frame().size, m_session->window().windowSafeArea());
     sized.size = m_session->device().size;
     sized.safeArea = m_session->device().safeArea;
+    if (changesBetween(m_session->device(), sized).empty()) return;
     m_recording->willSetDevice(sized);
     m_session->setDevice(sized);
 }
