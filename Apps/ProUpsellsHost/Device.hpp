@@ -29,6 +29,8 @@ struct Device {
     std::filesystem::path strings; // the folder of the host's translations; empty for none
     FontChoice fonts = FontChoice::bundled;
     Theme theme; // empty: the module's own look
+
+    bool operator==(const Device&) const = default;
 };
 
 // Whether the key is one of a device's.

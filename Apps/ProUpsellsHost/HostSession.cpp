@@ -119,9 +119,12 @@ void HostSession::set(const SetStep& step) {
 }
 
 void HostSession::send(const UpsellViewModel::TapEvent& event) {
+    if (const auto shown = paywall()) shown->upsellViewModel()->tapEventOccurred.send(event);
+}
+
+std::shared_ptr<UpsellViewController> HostSession::paywall() const {
     const auto& children = m_entry->children();
-    if (const auto paywall = children.empty() ? nullptr : std::dynamic_pointer_cast<UpsellViewController>(children.front()))
-        paywall->upsellViewModel()->tapEventOccurred.send(event);
+    return children.empty() ? nullptr : std::dynamic_pointer_cast<UpsellViewController>(children.front());
 }
 
 void HostSession::release(HostPart part) {

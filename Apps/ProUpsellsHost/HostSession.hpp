@@ -12,6 +12,7 @@
 #include "Backends/FFmpeg/ClipPlugin.hpp"
 #include "Platform/Host/Services.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
+#include "ProUpsells/UpsellViewController.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -45,6 +46,9 @@ public:
     // Whoever shows the window has given it another size.
     void noteSize(geometry::Size size, geometry::PhysicalInsets safeArea);
     void set(const SetStep& step);
+    // Shows other offers in the place of those that are shown. The chosen plan stays chosen, by its SKU; one that is gone makes way
+    // for the first one. Who the offers are from and what they are for stays as it was.
+    void replaceOffers(const Offers& offers);
     // Sends one of the paywall's tap events, as if a control had.
     void send(const UpsellViewModel::TapEvent& event);
     void release(HostPart part);
@@ -53,6 +57,9 @@ private:
     void installServices();
     void setLanguage();
     uikit::UITraitCollection traits() const;
+    std::shared_ptr<UpsellViewController> paywall() const;
+    accessibility::SemanticNode paywallTree();
+    void choosePlan(std::size_t index);
 
     Device m_device;
     std::shared_ptr<EventLog> m_log;

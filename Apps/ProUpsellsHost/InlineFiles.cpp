@@ -1,6 +1,7 @@
 #include "Apps/ProUpsellsHost/InlineFiles.hpp"
 
 #include <algorithm>
+#include <map>
 #include <memory>
 
 #include "Platform/System/EmbeddedFiles.hpp"
@@ -23,15 +24,24 @@ struct Kept {
     std::unique_ptr<system::EmbeddedFiles> table;
 };
 
+// By their folders.
+std::map<std::filesystem::path, std::unique_ptr<Kept>>& keptFiles() {
+    static std::map<std::filesystem::path, std::unique_ptr<Kept>> all;
+    return all;
+}
+
 } // namespace
 
 std::filesystem::path keepInlineFiles(InlineFiles files) {
-    static std::vector<std::unique_ptr<Kept>> all;
-    const std::string folder = "inline-" + std::to_string(all.size() + 1);
-    for (auto& [name, bytes] : files) name = folder + "/" + name;
+    static int count = 0;
+    const std::string name = "inline-" + std::to_string(++count);
+    const std::filesystem::path folder = system::EmbeddedFiles::root() / name;
+    for (auto& file : files) file.first = name + "/" + file.first;
     // A table of none would be a programming error.
-    all.push_back(files.empty() ? nullptr : std::make_unique<Kept>(std::move(files)));
-    return system::EmbeddedFiles::root() / folder;
+    if (!files.empty()) keptFiles()[folder] = std::make_unique<Kept>(std::move(files));
+    return folder;
 }
+
+void dropInlineFiles(const std::filesystem::path& folder) { keptFiles().erase(folder); }
 
 } // namespace proupsells::hostprogram

@@ -59,7 +59,7 @@ private:
 
     void readKind(const JsonCursor& entry, ScenarioInput& input) {
         entry.expectObject({"time", "touch", "at", "pointer", "scroll", "key", "isRepeated", "focusLeaves", "focus", "isSeen",
-                            "size", "safeArea", "assist", "element", "look", "isEarly", "set", "send"});
+                            "size", "safeArea", "assist", "element", "look", "isEarly", "set", "send", "offers"});
         using Read = host::Input (*)(const JsonCursor& entry, const JsonCursor& value);
         struct Kind {
             std::string_view key;
@@ -87,7 +87,7 @@ private:
     }
 
     void readHostInput(const JsonCursor& entry, ScenarioInput& input) {
-        if (!entry.has("set") && !entry.has("send")) {
+        if (!entry.has("set") && !entry.has("send") && !entry.has("offers")) {
             entry.expectObject({"time"});
             input.recorded.input = host::EndOfRecording{};
             return;
@@ -96,6 +96,9 @@ private:
         if (entry.has("set")) {
             entry.expectObject({"time", "set"});
             input.step = readSet(entry.at("set"), m_surroundings);
+        } else if (entry.has("offers")) {
+            entry.expectObject({"time", "offers"});
+            input.step = readOffers(entry.at("offers"));
         } else {
             entry.expectObject({"time", "send"});
             input.step = readSend(entry.at("send"));

@@ -31,11 +31,12 @@ std::shared_ptr<host::WindowContent> Recording::begin(HostSession& session) {
     return m_content;
 }
 
-void Recording::willSetDevice(const Device& device) { willSet(changesBetween(m_session->device(), device)); }
-
-void Recording::willSet(const Json& step) {
-    if (!step.empty()) m_content->willDo(memberText("set", step));
+void Recording::willSetDevice(const Device& device) {
+    const Json changes = changesBetween(m_session->device(), device);
+    if (!changes.empty()) m_content->willDo(memberText("set", changes));
 }
+
+void Recording::willReplaceOffers(const Json& offers) { m_content->willDo(memberText("offers", offers)); }
 
 void Recording::willOpen(StartScreen screen) {
     if (screen != StartScreen::paywall) m_content->willDo(memberText("send", sentToOpen(screen)));

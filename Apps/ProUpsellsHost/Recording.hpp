@@ -24,7 +24,7 @@ public:
 
     // To be called before the session is changed.
     void willSetDevice(const Device& device);
-    void willSet(const Json& step);
+    void willReplaceOffers(const Json& offers);
     void willOpen(StartScreen screen);
 
     // Ends it and writes the file whole, or not at all. Throws InputError.

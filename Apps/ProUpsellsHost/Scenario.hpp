@@ -80,7 +80,7 @@ using Step = std::variant<TapStep, DragStep, PressStep, KeyStep, WaitStep, SendS
 // What was recorded. Where that is something of the host's, it is one of these steps.
 struct ScenarioInput {
     host::RecordedInput recorded;
-    std::variant<std::monostate, SetStep, SendStep> step;
+    std::variant<std::monostate, SetStep, SendStep, Offers> step;
 };
 
 struct Scenario {

@@ -33,6 +33,7 @@ public:
 private:
     void playInputs(const FrameWatch& watch);
     void perform(std::monostate) {}
+    void perform(const Offers& offers) { m_session.replaceOffers(offers); }
     void perform(const TapStep&);
     void perform(const DragStep&);
     void perform(const PressStep&);

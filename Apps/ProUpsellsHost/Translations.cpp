@@ -39,12 +39,12 @@ bool isLanguage(const std::string& name) {
 
 Json textsIn(const std::filesystem::path& file) {
     const auto bytes = system::contentsOf(file);
-    if (!bytes) throw InputError(system::textOf(file), "", "the file cannot be read, expected one that can be recorded");
+    if (!bytes) throw InputError(system::textOf(file), "", "the file cannot be read, expected a file of translations");
     const foundation::StringsFile strings = foundation::StringsFile::parse(*bytes);
     if (strings.error)
         throw InputError(system::textOf(file), "",
                          strings.error->message + " on line " + std::to_string(strings.error->line) +
-                             ", expected translations that can be recorded");
+                             ", expected a file of translations");
     Json texts = Json::object();
     for (const auto& [key, text] : std::map(strings.texts.begin(), strings.texts.end())) texts[key] = text;
     return texts;
@@ -64,14 +64,19 @@ std::filesystem::path readInlineTranslations(const JsonCursor& object) {
     return keepInlineFiles(std::move(files));
 }
 
+std::vector<std::filesystem::path> translationFilesIn(const std::filesystem::path& folder) {
+    std::vector<std::filesystem::path> files;
+    for (const std::filesystem::path& subfolder : system::foldersIn(folder)) {
+        const std::filesystem::path file = subfolder / tableName;
+        if (system::textOf(subfolder.filename()).ends_with(languageFolderExtension) && system::isThere(file)) files.push_back(file);
+    }
+    return files;
+}
+
 Json translationsIn(const std::filesystem::path& folder) {
     Json languages = Json::object();
-    for (const std::filesystem::path& subfolder : system::foldersIn(folder)) {
-        const std::string name = system::textOf(subfolder.filename());
-        const std::filesystem::path file = subfolder / tableName;
-        if (!name.ends_with(languageFolderExtension) || !system::isThere(file)) continue;
-        languages[name.substr(0, name.size() - languageFolderExtension.size())] = textsIn(file);
-    }
+    for (const std::filesystem::path& file : translationFilesIn(folder))
+        languages[system::textOf(file.parent_path().stem())] = textsIn(file);
     return languages;
 }
 

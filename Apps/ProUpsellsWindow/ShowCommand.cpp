@@ -37,8 +37,15 @@ int showOffers(const ShowArguments& arguments) {
     qtbackend::Application application(
         {.name = ShownSession::title, .scale = givesScale ? std::optional(arguments.device.scale) : std::nullopt});
     QGuiApplication::setWindowIcon(windowIcon());
-    const Device device = desktopDevice(arguments, *QGuiApplication::primaryScreen());
-    return ShownSession(arguments, offers, device, recording.get()).run(application);
+    Device device = desktopDevice(arguments, *QGuiApplication::primaryScreen());
+    std::unique_ptr<SourceWatch> watch;
+    if (arguments.isWatching) {
+        const std::filesystem::path& strings = device.strings;
+        watch =
+            std::make_unique<SourceWatch>(Sources{file, strings.empty() ? std::nullopt : std::optional(strings), arguments.theme});
+        if (!strings.empty()) device.strings = SourceWatch::keptTranslations(strings);
+    }
+    return ShownSession(arguments, offers, device, recording.get(), watch.get()).run(application);
 }
 
 } // namespace proupsells::hostprogram

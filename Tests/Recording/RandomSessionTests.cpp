@@ -95,7 +95,8 @@ private:
 
     void change() {
         Device device = m_session.session().device();
-        switch (upTo(6)) {
+        switch (upTo(7)) {
+        case 6: return m_session.replaceOffers(upTo(2));
         case 0: device.appearance = graphics::ColorScheme(1 - int(device.appearance)); break;
         case 1: device.textSize = graphics::ContentSizeCategory(upTo(12)); break;
         case 2: device.layoutDirection = DirectionChoice(upTo(3)); break;

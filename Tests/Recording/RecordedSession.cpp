@@ -105,6 +105,14 @@ void RecordedSession::open(StartScreen screen) {
     m_session->open(screen);
 }
 
+void RecordedSession::replaceOffers(bool onlyMonthly) {
+    Json json = offersJson();
+    if (onlyMonthly) json["options"].erase(0);
+    m_loop.runDueTurns();
+    m_recording->willReplaceOffers(json);
+    m_session->replaceOffers(readOffers(JsonCursor{json, "offers"}));
+}
+
 bool RecordedSession::isOver() const { return !m_session->window().isTransitioning() && !m_session->isShowing(); }
 
 Shown RecordedSession::finish() {

@@ -42,6 +42,8 @@ public:
     void makeFrame();
     void set(const hostprogram::Device& device);
     void open(hostprogram::StartScreen screen);
+    // Only the monthly plan, or all of them.
+    void replaceOffers(bool onlyMonthly);
     // The paywall is gone.
     bool isOver() const;
     // Ends the recording and writes it.
