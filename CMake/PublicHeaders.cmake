@@ -39,12 +39,17 @@ set(PROUPSELLS_Platform_HEADERS
   Platform/Graphics/TextLayout.hpp
   Platform/Host/ClipDecoder.hpp
   Platform/Host/ImageDecoder.hpp
+  Platform/Host/InputPlayer.hpp
+  Platform/Host/RecordedContent.hpp
+  Platform/Host/RecordedInput.hpp
+  Platform/Host/RecordedInputText.hpp
   Platform/Host/Services.hpp
   Platform/Host/TextShaper.hpp
   Platform/Host/Surface.hpp
   Platform/Host/WindowContent.hpp
   Platform/RunLoop/Clock.hpp
   Platform/RunLoop/MainRunLoop.hpp
+  Platform/RunLoop/SteppedClock.hpp
   Platform/RunLoop/Timer.hpp
   Platform/RunLoop/UpdateClient.hpp
   Platform/System/Compiler.hpp

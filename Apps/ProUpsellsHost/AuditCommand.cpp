@@ -46,8 +46,7 @@ AuditLedger auditScenario(const std::filesystem::path& file) {
     std::ostringstream discarded;
     runloop::MainRunLoop loop(std::make_shared<runloop::VirtualClock>());
     const auto log = std::make_shared<EventLog>(discarded);
-    HostSession session(scenario.offers, scenario.device, {.tracker = scenario.hasTracker, .delegate = scenario.hasDelegate},
-                        ffmpegbackend::Pace::exact, log);
+    HostSession session(scenario.offers, scenario.device, hostPartsOf(scenario), ffmpegbackend::Pace::exact, log);
     tooling::Driver driver(loop, session.window());
     ScreenInspector inspector(session, driver, ledger);
     ScenarioRunner(scenario, loop, session, log, std::nullopt).run([&](const std::string*) {

@@ -8,6 +8,7 @@
 
 #include "Apps/ProUpsellsHost/DeviceOptions.hpp"
 #include "Apps/ProUpsellsHost/InputError.hpp"
+#include "Apps/ProUpsellsHost/PreviewKeys.hpp"
 #include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
@@ -55,15 +56,26 @@ public:
         command.add_option("OFFERS.json", m_offers, "The offers; the sample ones when left out");
         m_device.addTo(command);
         command.add_option("--start", m_start, "paywall, comparison or store");
+        command.add_option("--record", m_recording, "A file for what the person does: a scenario that `proupsells run` plays");
+        command.add_flag("--watch", m_isWatching,
+                         "Follows changes of the offers, the translations and the theme while the window is open");
+        command.footer(std::string(previewKeysHelp) + "\n\nExample: proupsells show offers.json --strings translations --watch");
     }
 
     Arguments read() const override {
         const Device device = m_device.read();
-        return ShowArguments{readFile(m_offers), device, m_device.given(), readWord("start", m_start, startScreens)};
+        return ShowArguments{readFile(m_offers),
+                             device,
+                             m_device.given(),
+                             readWord("start", m_start, startScreens),
+                             readFile(m_recording),
+                             m_isWatching,
+                             readFile(m_device.value("theme"))};
     }
 
 private:
-    std::string m_offers, m_start = "paywall";
+    std::string m_offers, m_start = "paywall", m_recording;
+    bool m_isWatching = false;
     DeviceOptions m_device;
 };
 

@@ -22,6 +22,9 @@ struct ShowArguments {
     Device device;
     std::vector<std::string> given; // the device's keys that were; what was not, the system may decide
     StartScreen start = StartScreen::paywall;
+    std::optional<std::filesystem::path> recording; // the scenario to write; absent: nothing is recorded
+    bool isWatching = false;                        // follows its files while the window is open
+    std::optional<std::filesystem::path> theme;     // the device's, as a file
 };
 
 enum class TextsFormat { strings, pot, json };

@@ -1,8 +1,12 @@
 #include "Apps/ProUpsellsHost/Device.hpp"
 
 #include <algorithm>
+#include <type_traits>
+
+#include <nlohmann/json.hpp>
 
 #include "Apps/ProUpsellsHost/ThemeFile.hpp"
+#include "Apps/ProUpsellsHost/Translations.hpp"
 #include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
@@ -26,6 +30,12 @@ geometry::PhysicalInsets readSafeArea(const JsonCursor& value) {
     return {insets[0], insets[1], insets[2], insets[3]};
 }
 
+// As they are, without rounding.
+Json writeSize(const geometry::Size& size) { return Json::array({size.width, size.height}); }
+Json writeSafeArea(const geometry::PhysicalInsets& insets) {
+    return Json::array({insets.top, insets.left, insets.bottom, insets.right});
+}
+
 std::string readLocale(const JsonCursor& value) {
     std::string locale = value.text();
     const bool isTag = !locale.empty() && locale.size() <= 64 && std::all_of(locale.begin(), locale.end(), [](unsigned char c) {
@@ -37,6 +47,7 @@ std::string readLocale(const JsonCursor& value) {
 }
 
 std::filesystem::path readStrings(const JsonCursor& value, const std::filesystem::path& folder) {
+    if (value.isObject()) return readInlineTranslations(value);
     const std::filesystem::path given = system::pathOf(value.text());
     const std::filesystem::path path = given.is_absolute() ? given : folder / given;
     std::error_code error;
@@ -45,12 +56,17 @@ std::filesystem::path readStrings(const JsonCursor& value, const std::filesystem
     return path;
 }
 
+Json writeStrings(const Device& device) { return device.strings.empty() ? Json::object() : translationsIn(device.strings); }
+
 Theme readTheme(const JsonCursor& value, const std::filesystem::path& folder) {
     if (value.isNull()) return {};
+    if (value.isObject()) return readTheme(value, folder, ThemePlace::insideAnotherFile);
     const std::filesystem::path given = system::pathOf(value.text());
     if (given.empty()) value.fail("the file name is empty, expected a theme's file");
     return readThemeFile(given.is_absolute() ? given : folder / given);
 }
+
+Json writeTheme(const Device& device) { return device.theme == Theme{} ? Json(nullptr) : toJson(device.theme); }
 
 constexpr Word<graphics::ColorScheme> appearances[] = {
     {"light", graphics::ColorScheme::light},
@@ -81,38 +97,70 @@ constexpr Word<graphics::ContentSizeCategory> textSizes[] = {
 };
 
 using Folder = std::filesystem::path;
-using ReadKey = void (*)(Device&, const JsonCursor&, const Folder&);
 
-constexpr Word<ReadKey> deviceKeys[] = {
-    {"size", [](Device& device, const JsonCursor& value, const Folder&) { device.size = readSize(value); }},
-    {"scale", [](Device& device, const JsonCursor& value, const Folder&) { device.scale = readScale(value); }},
-    {"appearance", [](Device& device, const JsonCursor& value, const Folder&) { device.appearance = value.oneOf(appearances); }},
-    {"locale", [](Device& device, const JsonCursor& value, const Folder&) { device.locale = readLocale(value); }},
-    {"layoutDirection",
-     [](Device& device, const JsonCursor& value, const Folder&) { device.layoutDirection = value.oneOf(directions); }},
-    {"textSize", [](Device& device, const JsonCursor& value, const Folder&) { device.textSize = value.oneOf(textSizes); }},
-    {"reduceMotion", [](Device& device, const JsonCursor& value, const Folder&) { device.reduceMotion = value.boolean(); }},
-    {"safeArea", [](Device& device, const JsonCursor& value, const Folder&) { device.safeArea = readSafeArea(value); }},
-    {"strings", [](Device& device, const JsonCursor& value, const Folder& folder) { device.strings = readStrings(value, folder); }},
-    {"fonts", [](Device& device, const JsonCursor& value, const Folder&) { device.fonts = value.oneOf(fontChoices); }},
-    {"theme", [](Device& device, const JsonCursor& value, const Folder& folder) { device.theme = readTheme(value, folder); }},
+// How a key is read and written.
+struct DeviceKey {
+    void (*read)(Device&, const JsonCursor&, const Folder&);
+    Json (*write)(const Device&);
+    bool (*isSame)(const Device&, const Device&);
 };
 
-const ReadKey* readerOf(std::string_view key) {
+// Of a key that is a member of the device.
+template <auto member, auto read, auto write>
+constexpr DeviceKey keyOf() {
+    return {[](Device& device, const JsonCursor& value, const Folder& folder) {
+                if constexpr (std::is_invocable_v<decltype(read), const JsonCursor&, const Folder&>)
+                    device.*member = read(value, folder);
+                else
+                    device.*member = read(value);
+            },
+            [](const Device& device) -> Json {
+                if constexpr (std::is_invocable_v<decltype(write), const Device&>)
+                    return write(device);
+                else
+                    return write(device.*member);
+            },
+            [](const Device& one, const Device& other) { return one.*member == other.*member; }};
+}
+
+// Of a key that is a word of a table.
+template <auto member, const auto& table>
+constexpr DeviceKey wordKeyOf() {
+    constexpr auto read = [](const JsonCursor& value) { return value.oneOf(table); };
+    constexpr auto write = [](const Device& device) -> Json { return wordFor(device.*member, table); };
+    return keyOf<member, read, write>();
+}
+
+constexpr Word<DeviceKey> deviceKeys[] = {
+    {"size", keyOf<&Device::size, readSize, writeSize>()},
+    {"scale", keyOf<&Device::scale, readScale, [](double scale) -> Json { return scale; }>()},
+    {"appearance", wordKeyOf<&Device::appearance, appearances>()},
+    {"locale", keyOf<&Device::locale, readLocale, [](const std::string& locale) -> Json { return locale; }>()},
+    {"layoutDirection", wordKeyOf<&Device::layoutDirection, directions>()},
+    {"textSize", wordKeyOf<&Device::textSize, textSizes>()},
+    {"reduceMotion", keyOf<&Device::reduceMotion, [](const JsonCursor& value) { return value.boolean(); },
+                           [](bool reduces) -> Json { return reduces; }>()},
+    {"safeArea", keyOf<&Device::safeArea, readSafeArea, writeSafeArea>()},
+    {"strings", keyOf<&Device::strings, readStrings, writeStrings>()},
+    {"fonts", wordKeyOf<&Device::fonts, fontChoices>()},
+    {"theme", keyOf<&Device::theme, static_cast<Theme (*)(const JsonCursor&, const Folder&)>(readTheme), writeTheme>()},
+};
+
+const DeviceKey* deviceKey(std::string_view key) {
     const auto entry = entryFor(key, deviceKeys);
     return entry == std::end(deviceKeys) ? nullptr : &entry->value;
 }
 
 } // namespace
 
-bool isDeviceKey(std::string_view key) { return readerOf(key) != nullptr; }
+bool isDeviceKey(std::string_view key) { return deviceKey(key) != nullptr; }
 
 std::string_view textSizeWord(graphics::ContentSizeCategory textSize) { return wordFor(textSize, textSizes); }
 
 void readDeviceKey(Device& device, std::string_view key, const JsonCursor& value, const std::filesystem::path& folder) {
-    const ReadKey* const read = readerOf(key);
-    if (!read) value.fail("unknown key \"" + std::string(key) + "\", expected a key of a device");
-    (*read)(device, value, folder);
+    const DeviceKey* const known = deviceKey(key);
+    if (!known) value.fail("unknown key \"" + std::string(key) + "\", expected a key of a device");
+    known->read(device, value, folder);
 
     if (device.size.width * device.scale > maximumPixels || device.size.height * device.scale > maximumPixels)
         value.fail("the window is out of range, expected at most 32000 pixels a side");
@@ -129,6 +177,19 @@ Device readDevice(const JsonCursor& object, const std::filesystem::path& folder)
     for (const std::string_view key : wordsOf(deviceKeys))
         if (object.has(key)) readDeviceKey(device, key, object.at(key), folder);
     return device;
+}
+
+Json toJson(const Device& device) {
+    Json result = Json::object();
+    for (const auto& [word, key] : deviceKeys) result[std::string(word)] = key.write(device);
+    return result;
+}
+
+Json changesBetween(const Device& before, const Device& after) {
+    Json result = Json::object();
+    for (const auto& [word, key] : deviceKeys)
+        if (!key.isSame(before, after)) result[std::string(word)] = key.write(after);
+    return result;
 }
 
 } // namespace proupsells::hostprogram

@@ -29,12 +29,19 @@ struct Device {
     std::filesystem::path strings; // the folder of the host's translations; empty for none
     FontChoice fonts = FontChoice::bundled;
     Theme theme; // empty: the module's own look
+
+    bool operator==(const Device&) const = default;
 };
 
 // Whether the key is one of a device's.
 bool isDeviceKey(std::string_view key);
 // As "textSize" is written.
 std::string_view textSizeWord(graphics::ContentSizeCategory textSize);
+// The device as an object that needs no other file: translations, and a theme with its files, stand in it. Throws InputError where
+// one of them cannot be used.
+Json toJson(const Device& device);
+// The same of the keys that differ.
+Json changesBetween(const Device& before, const Device& after);
 // Reads one key of a device. Relative paths count from `folder`.
 void readDeviceKey(Device& device, std::string_view key, const JsonCursor& value, const std::filesystem::path& folder);
 // Reads an object of device keys.

@@ -73,6 +73,12 @@ Device DeviceOptions::read() const {
     return readDevice(JsonCursor{all, commandLinePlace}.at("device"), std::filesystem::current_path());
 }
 
+std::string DeviceOptions::value(std::string_view key) const {
+    for (std::size_t i = 0; i < count; ++i)
+        if (deviceOptions[i].key == key) return m_values[i];
+    return {};
+}
+
 std::vector<std::string> DeviceOptions::given() const {
     std::vector<std::string> keys;
     for (std::size_t i = 0; i < count; ++i)

@@ -23,6 +23,9 @@ public:
     // The keys of those that are there.
     std::vector<std::string> given() const;
 
+    // As given for a key; empty where it is not.
+    std::string value(std::string_view key) const;
+
 private:
     static constexpr std::size_t count = 10;
     std::array<std::string, count> m_values; // empty where an option is left out

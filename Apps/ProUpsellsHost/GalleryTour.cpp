@@ -37,7 +37,7 @@ double sumOfOffsets(const SemanticNode& node) {
 GalleryTour::GalleryTour(StartScreen screen, const Offers& offers, const Device& device)
     : m_screen(screen), m_loop(std::make_shared<runloop::VirtualClock>()),
       m_session(offers, device, {}, ffmpegbackend::Pace::exact, std::make_shared<EventLog>(m_discarded)),
-      m_driver(m_loop, m_session) {
+      m_driver(m_loop, m_session.window()) {
     m_session.present();
     m_driver.finishTransitions();
     m_session.open(m_screen);

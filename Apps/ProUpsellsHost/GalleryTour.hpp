@@ -7,7 +7,8 @@
 #include <sstream>
 #include <string>
 
-#include "Apps/ProUpsellsHost/Driver.hpp"
+#include "Apps/ProUpsellsHost/HostSession.hpp"
+#include "Tooling/Driver.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -56,7 +57,7 @@ private:
     std::ostringstream m_discarded;
     runloop::MainRunLoop m_loop;
     HostSession m_session;
-    Driver m_driver;
+    tooling::Driver m_driver;
     const Visit* m_visit = nullptr;
     std::set<std::string> m_visited;
 };

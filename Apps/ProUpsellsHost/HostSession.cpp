@@ -1,6 +1,5 @@
 #include "Apps/ProUpsellsHost/HostSession.hpp"
 
-#include "Apps/ProUpsellsHost/HostViewController.hpp"
 #include "Backends/FFmpeg/LazyClipDecoder.hpp"
 #include "Backends/Headless/FixedTextShaper.hpp"
 #include "Backends/Icu/IcuLocaleServices.hpp"
@@ -12,6 +11,10 @@
 #include "ProUpsells/VelaProStorePageViewController.hpp"
 
 namespace proupsells::hostprogram {
+
+HostParts hostPartsOf(const Scenario& scenario) {
+    return {.tracker = scenario.hasTracker, .delegate = scenario.hasDelegate, .screen = scenario.screen};
+}
 
 HostSession::HostSession(Offers offers, const Device& device, const HostParts& parts, ffmpegbackend::Pace pace,
                          std::shared_ptr<EventLog> log)
@@ -26,7 +29,7 @@ HostSession::HostSession(Offers offers, const Device& device, const HostParts& p
     m_window->setTraits(traits());
     m_observer = std::make_shared<LedgerObserver>(m_log);
     m_window->setPresentationObserver(m_observer);
-    m_window->setRootViewController(parts.screen ? parts.screen : std::make_shared<HostViewController>());
+    m_window->setRootViewController(makeHostScreen(parts.screen));
 
     VelaProStorePageViewController::shouldMentioniCloudSync = offers.shouldMentioniCloudSync;
     m_entry = VelaProUpsellViewController::create(std::move(offers.options), offers.variant, std::move(offers.referrer),
@@ -102,6 +105,11 @@ void HostSession::setDevice(const Device& device) {
     m_window->setTraits(traits());
 }
 
+void HostSession::noteSize(geometry::Size size, geometry::PhysicalInsets safeArea) {
+    m_device.size = size;
+    m_device.safeArea = safeArea;
+}
+
 void HostSession::set(const SetStep& step) {
     if (step.options) m_entry->setOptions(*step.options);
     if (step.annualPrice) m_entry->setAnnualSubscriptionPriceForComparisonWithPromotionalPrice(*step.annualPrice);
@@ -111,9 +119,12 @@ void HostSession::set(const SetStep& step) {
 }
 
 void HostSession::send(const UpsellViewModel::TapEvent& event) {
+    if (const auto shown = paywall()) shown->upsellViewModel()->tapEventOccurred.send(event);
+}
+
+std::shared_ptr<UpsellViewController> HostSession::paywall() const {
     const auto& children = m_entry->children();
-    if (const auto paywall = children.empty() ? nullptr : std::dynamic_pointer_cast<UpsellViewController>(children.front()))
-        paywall->upsellViewModel()->tapEventOccurred.send(event);
+    return children.empty() ? nullptr : std::dynamic_pointer_cast<UpsellViewController>(children.front());
 }
 
 void HostSession::release(HostPart part) {

@@ -5,21 +5,24 @@
 
 #include "Apps/ProUpsellsHost/Device.hpp"
 #include "Apps/ProUpsellsHost/HostLedger.hpp"
+#include "Apps/ProUpsellsHost/HostScreen.hpp"
 #include "Apps/ProUpsellsHost/Offers.hpp"
 #include "Apps/ProUpsellsHost/Scenario.hpp"
 #include "Apps/ProUpsellsHost/StartScreen.hpp"
 #include "Backends/FFmpeg/ClipPlugin.hpp"
 #include "Platform/Host/Services.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
+#include "ProUpsells/UpsellViewController.hpp"
 
 namespace proupsells::hostprogram {
 
 struct HostParts {
     bool tracker = true;
     bool delegate = true;
-    // What is below the paywall; a plain screen where absent.
-    std::shared_ptr<uikit::UIViewController> screen = nullptr;
+    HostScreen screen = HostScreen::plain; // below the paywall
 };
+
+HostParts hostPartsOf(const Scenario& scenario);
 
 // Needs a main run loop.
 class HostSession {
@@ -40,7 +43,12 @@ public:
     // Leads on from the paywall to another screen, as its buttons do.
     void open(StartScreen screen);
     void setDevice(const Device& device);
+    // Whoever shows the window has given it another size.
+    void noteSize(geometry::Size size, geometry::PhysicalInsets safeArea);
     void set(const SetStep& step);
+    // Shows other offers in the place of those that are shown. The chosen plan stays chosen, by its SKU; one that is gone makes way
+    // for the first one. Who the offers are from and what they are for stays as it was.
+    void replaceOffers(const Offers& offers);
     // Sends one of the paywall's tap events, as if a control had.
     void send(const UpsellViewModel::TapEvent& event);
     void release(HostPart part);
@@ -49,6 +57,9 @@ private:
     void installServices();
     void setLanguage();
     uikit::UITraitCollection traits() const;
+    std::shared_ptr<UpsellViewController> paywall() const;
+    accessibility::SemanticNode paywallTree();
+    void choosePlan(std::size_t index);
 
     Device m_device;
     std::shared_ptr<EventLog> m_log;

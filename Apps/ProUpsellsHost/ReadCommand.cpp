@@ -40,8 +40,7 @@ int readScenarioAloud(const std::filesystem::path& file) {
     std::ostringstream discarded;
     runloop::MainRunLoop loop(std::make_shared<runloop::VirtualClock>());
     const auto log = silentLog(discarded);
-    HostSession session(scenario.offers, scenario.device, {.tracker = scenario.hasTracker, .delegate = scenario.hasDelegate},
-                        ffmpegbackend::Pace::exact, log);
+    HostSession session(scenario.offers, scenario.device, hostPartsOf(scenario), ffmpegbackend::Pace::exact, log);
 
     std::string told;
     accessibility::ReadingElement before;

@@ -11,8 +11,7 @@ int runScenario(const std::filesystem::path& scenarioFile, const std::filesystem
     const Scenario scenario = readScenario(scenarioFile);
     runloop::MainRunLoop loop(std::make_shared<runloop::VirtualClock>());
     const auto log = std::make_shared<EventLog>(std::cout);
-    HostSession session(scenario.offers, scenario.device, {.tracker = scenario.hasTracker, .delegate = scenario.hasDelegate},
-                        ffmpegbackend::Pace::exact, log);
+    HostSession session(scenario.offers, scenario.device, hostPartsOf(scenario), ffmpegbackend::Pace::exact, log);
     return ScenarioRunner(scenario, loop, session, log, folder).run() ? held : contradicted;
 }
 

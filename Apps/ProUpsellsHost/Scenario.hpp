@@ -8,8 +8,9 @@
 #include <vector>
 
 #include "Apps/ProUpsellsHost/Device.hpp"
+#include "Apps/ProUpsellsHost/HostScreen.hpp"
 #include "Apps/ProUpsellsHost/Offers.hpp"
-#include "Platform/Host/WindowContent.hpp"
+#include "Platform/Host/RecordedInput.hpp"
 #include "ProUpsells/UpsellViewModel.hpp"
 
 namespace proupsells::hostprogram {
@@ -76,12 +77,20 @@ struct ExpectStep {
 using Step = std::variant<TapStep, DragStep, PressStep, KeyStep, WaitStep, SendStep, SetStep, ReleaseStep, DumpStep, SnapshotStep,
                           ExpectStep>;
 
+// What was recorded. Where that is something of the host's, it is one of these steps.
+struct ScenarioInput {
+    host::RecordedInput recorded;
+    std::variant<std::monostate, SetStep, SendStep, Offers> step;
+};
+
 struct Scenario {
     std::filesystem::path file;
     Offers offers;
     Device device;
     bool hasTracker = true;
     bool hasDelegate = true;
+    HostScreen screen = HostScreen::plain;
+    std::vector<ScenarioInput> inputs; // played before the steps; their times ascend
     std::vector<Step> steps;
     std::vector<std::string> stepTexts; // each step as JSON, on one line
 };

@@ -16,12 +16,14 @@ namespace proupsells::hostprogram {
 
 ScenarioRunner::ScenarioRunner(const Scenario& scenario, runloop::MainRunLoop& loop, HostSession& session,
                                std::shared_ptr<EventLog> log, std::optional<std::filesystem::path> folder)
-    : m_scenario(scenario), m_session(session), m_log(std::move(log)), m_folder(std::move(folder)),
+    : m_scenario(scenario), m_loop(loop), m_session(session), m_log(std::move(log)), m_folder(std::move(folder)),
       m_driver(loop, session.window()) {}
 
-bool ScenarioRunner::run(const Watch& watch) {
+bool ScenarioRunner::run(const Watch& watch, const FrameWatch& frameWatch) {
     m_session.present();
-    m_driver.finishTransitions();
+    playInputs(frameWatch);
+    // A recording ends in the middle of a movement if it was made to.
+    if (m_scenario.inputs.empty() || !m_scenario.steps.empty()) m_driver.finishTransitions();
     if (watch) watch(nullptr);
     for (m_step = 0; m_step < m_scenario.steps.size(); ++m_step) {
         std::visit([this](const auto& step) { perform(step); }, m_scenario.steps[m_step]);
@@ -29,6 +31,16 @@ bool ScenarioRunner::run(const Watch& watch) {
         if (watch) watch(&m_scenario.stepTexts[m_step]);
     }
     return m_allHeld;
+}
+
+void ScenarioRunner::playInputs(const FrameWatch& watch) {
+    host::InputPlayer player(m_session.window(), m_loop);
+    for (const auto& [recorded, step] : m_scenario.inputs) {
+        player.play(recorded);
+        if (const auto* size = std::get_if<host::SizeInput>(&recorded.input)) m_session.noteSize(size->size, size->safeArea);
+        if (watch && std::holds_alternative<host::FrameLook>(recorded.input)) watch(player.frame());
+        std::visit([this](const auto& hostStep) { perform(hostStep); }, step);
+    }
 }
 
 std::string ScenarioRunner::stepPointer() const { return "/steps/" + std::to_string(m_step); }

@@ -4,6 +4,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "Apps/ProUpsellsHost/Base64.hpp"
+#include "Apps/ProUpsellsHost/InlineFiles.hpp"
 #include "Apps/ProUpsellsHost/InputError.hpp"
 #include "Apps/ProUpsellsHost/JsonCursor.hpp"
 #include "Apps/ProUpsellsHost/JsonFile.hpp"
@@ -89,22 +91,39 @@ void readFaces(const JsonCursor& faces, const std::filesystem::path& folder, The
 }
 
 // What the file itself does not say wrong: the contrasts.
-void refuseProblems(const Theme& theme, const std::filesystem::path& file) {
+void refuseProblems(const Theme& theme, const JsonCursor& root) {
     std::string list;
     for (const std::string& problem : theme.problems()) list += "\n  " + problem;
     if (list.empty()) return;
-    throw InputErrorWithList(
-        InputError(system::textOf(file), "/colours", "colours do not stand out from each other, expected the contrasts below"),
-        list);
+    try {
+        root.at("colours").fail("colours do not stand out from each other, expected the contrasts below");
+    } catch (const InputError& error) {
+        throw InputErrorWithList(error, list);
+    }
+}
+
+// Returns the folder that they are in.
+std::filesystem::path readFiles(const JsonCursor& files) {
+    InlineFiles kept;
+    for (const std::string& name : files.keys()) {
+        const JsonCursor file = files.at(name);
+        const auto bytes = bytesOfBase64(file.text());
+        if (name.empty() || name.find('/') != std::string::npos || name.find('\0') != std::string::npos)
+            file.fail("\"" + name + "\" is no plain file name, expected one such as \"header.png\"");
+        if (!bytes) file.fail("the bytes cannot be read, expected a text in Base64");
+        kept.emplace_back(name, *bytes);
+    }
+    return keepInlineFiles(std::move(kept));
 }
 
 } // namespace
 
-Theme readThemeFile(const std::filesystem::path& file) {
-    const Json json = readJsonFile(file);
-    const JsonCursor root{json, system::textOf(file)};
-    root.expectObject({"colours", "faces", "pictures"});
-    const std::filesystem::path folder = file.parent_path();
+Theme readTheme(const JsonCursor& root, const std::filesystem::path& folder, ThemePlace place) {
+    if (place == ThemePlace::insideAnotherFile)
+        root.expectObject({"colours", "faces", "pictures", "files"});
+    else
+        root.expectObject({"colours", "faces", "pictures"});
+    const std::filesystem::path files = root.has("files") ? readFiles(root.at("files")) : folder;
 
     Theme theme;
     if (root.has("colours")) {
@@ -112,14 +131,19 @@ Theme readThemeFile(const std::filesystem::path& file) {
         colors.expectObject(Theme::colorNames());
         for (const std::string& name : colors.keys()) theme.colors[name] = readColor(colors.at(name));
     }
-    if (root.has("faces")) readFaces(root.at("faces"), folder, theme);
+    if (root.has("faces")) readFaces(root.at("faces"), files, theme);
     if (root.has("pictures")) {
         const JsonCursor pictures = root.at("pictures");
         pictures.expectObject(Theme::pictureNames());
-        for (const std::string& name : pictures.keys()) theme.pictures[name] = readPicture(pictures.at(name), folder);
+        for (const std::string& name : pictures.keys()) theme.pictures[name] = readPicture(pictures.at(name), files);
     }
-    refuseProblems(theme, file);
+    refuseProblems(theme, root);
     return theme;
+}
+
+Theme readThemeFile(const std::filesystem::path& file) {
+    const Json json = readJsonFile(file);
+    return readTheme(JsonCursor{json, system::textOf(file)}, file.parent_path(), ThemePlace::fileOfItsOwn);
 }
 
 } // namespace proupsells::hostprogram

@@ -3,67 +3,49 @@
 #include <QGuiApplication>
 #include <algorithm>
 #include <iostream>
-#include <utility>
 
-#include "Apps/ProUpsellsHost/HostSession.hpp"
+#include <nlohmann/json.hpp>
+
+#include "Apps/ProUpsellsHost/JsonFile.hpp"
 #include "Apps/ProUpsellsWindow/DesktopDevice.hpp"
-#include "Apps/ProUpsellsWindow/SceneViewController.hpp"
+#include "Apps/ProUpsellsWindow/ShownSession.hpp"
 #include "Apps/ProUpsellsWindow/WindowIcon.hpp"
 #include "Backends/Qt/Application.hpp"
-#include "Backends/Qt/QtRunLoopDriver.hpp"
-#include "Backends/Qt/QtWindow.hpp"
 #include "Platform/Foundation/Resources.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
 
 namespace {
 
-constexpr int done = 0, noDisplay = 3;
-constexpr const char* programName = "ProUpsells";
-// How often to look whether the paywall has been closed, which closes the window.
-constexpr double closedCheckInterval_s = 0.25;
-
-// The scale of the screen that the window is on now, and the system's appearance.
-void follow(HostSession& session, const QWindow& window, const ShowArguments& arguments) {
-    Device device = followingDevice(arguments, session.device(), window.devicePixelRatio());
-    if (device.scale == session.device().scale && device.appearance == session.device().appearance) return;
-    device.size = {double(window.width()), double(window.height())};
-    session.setDevice(device);
-}
+constexpr int noDisplay = 3;
 
 } // namespace
 
 int showOffers(const ShowArguments& arguments) {
-    const Offers offers = readOffersFile(arguments.offers ? *arguments.offers : foundation::requiredResource("offers.json"));
+    const auto file = arguments.offers ? *arguments.offers : foundation::requiredResource("offers.json");
+    const Json json = readJsonFile(file);
+    const Offers offers = readOffers(JsonCursor{json, system::textOf(file)});
+    const auto recording = arguments.recording
+                               ? std::make_unique<Recording>(*arguments.recording, json, arguments.device, HostScreen::scene)
+                               : nullptr;
     if (!qtbackend::Application::hasDisplay()) {
         std::cerr << "There is no display to show a window on; `proupsells run SCENARIO.json` plays a script without one.\n";
         return noDisplay;
     }
     const bool givesScale = std::find(arguments.given.begin(), arguments.given.end(), "scale") != arguments.given.end();
     qtbackend::Application application(
-        {.name = programName, .scale = givesScale ? std::optional(arguments.device.scale) : std::nullopt});
+        {.name = ShownSession::title, .scale = givesScale ? std::optional(arguments.device.scale) : std::nullopt});
     QGuiApplication::setWindowIcon(windowIcon());
-    const Device device = desktopDevice(arguments, *QGuiApplication::primaryScreen());
-    runloop::MainRunLoop loop(std::make_shared<runloop::RealClock>());
-    const auto log = std::make_shared<EventLog>(std::cout);
-    const auto session = std::make_shared<HostSession>(offers, device, HostParts{.screen = std::make_shared<SceneViewController>()},
-                                                       ffmpegbackend::Pace::realTime, log);
-    qtbackend::QtWindow window(session->windowContent(), {.title = programName, .size = device.size, .safeArea = device.safeArea});
-    const qtbackend::QtRunLoopDriver driver(loop);
-    window.show();
-
-    // Follows the system, opens the screen asked for once the paywall is shown, and closes the window once the paywall is gone.
-    bool hasOpened = false;
-    const auto watch = loop.scheduleRepeating(closedCheckInterval_s, [&] {
-        follow(*session, window, arguments);
-        if (session->window().isTransitioning()) return;
-        if (!session->isShowing()) return qtbackend::Application::quit(done);
-        if (!std::exchange(hasOpened, true)) session->open(arguments.start);
-    });
-    session->present();
-    const int status = application.run();
-    watch->invalidate();
-    return status;
+    Device device = desktopDevice(arguments, *QGuiApplication::primaryScreen());
+    std::unique_ptr<SourceWatch> watch;
+    if (arguments.isWatching) {
+        const std::filesystem::path& strings = device.strings;
+        watch =
+            std::make_unique<SourceWatch>(Sources{file, strings.empty() ? std::nullopt : std::optional(strings), arguments.theme});
+        if (!strings.empty()) device.strings = SourceWatch::keptTranslations(strings);
+    }
+    return ShownSession(arguments, offers, device, recording.get(), watch.get()).run(application);
 }
 
 } // namespace proupsells::hostprogram

@@ -20,11 +20,11 @@ QtRunLoopDriver::QtRunLoopDriver(runloop::MainRunLoop& loop) : m_loop(loop) {
 QtRunLoopDriver::~QtRunLoopDriver() { m_loop.setWakeUpHandler({}); }
 
 void QtRunLoopDriver::arm() {
-    const std::optional<double> due_s = m_loop.nextDueTime_s();
-    if (!due_s) return m_timer.stop();
+    const std::optional<double> delay_s = m_loop.nextDueDelay_s();
+    if (!delay_s) return m_timer.stop();
     // Never early, which would wake up for nothing; and at most an hour, which no timer overflows at.
     constexpr double longest_ms = 3'600'000;
-    const double delay_ms = std::ceil(std::clamp((*due_s - m_loop.now_s()) * 1000, 0.0, longest_ms));
+    const double delay_ms = std::ceil(std::min(*delay_s * 1000, longest_ms));
     m_timer.start(std::chrono::milliseconds(std::int64_t(delay_ms)));
 }
 

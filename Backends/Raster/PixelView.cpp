@@ -181,13 +181,8 @@ std::optional<double> PixelView::nextFrameDelay_s() const {
 }
 
 std::optional<double> PixelView::nextDueDelay_s() const {
-    const runloop::MainRunLoop& loop = runloop::MainRunLoop::main();
-    std::optional<double> delay_s = nextFrameDelay_s();
-    if (const auto due_s = loop.nextDueTime_s()) {
-        const double work_s = std::max(0.0, *due_s - loop.now_s());
-        delay_s = delay_s ? std::min(*delay_s, work_s) : work_s;
-    }
-    return delay_s;
+    const std::optional<double> frame_s = nextFrameDelay_s(), work_s = runloop::MainRunLoop::main().nextDueDelay_s();
+    return frame_s && work_s ? std::min(*frame_s, *work_s) : frame_s ? frame_s : work_s;
 }
 
 int PixelView::nextDueDelay_ms() const {

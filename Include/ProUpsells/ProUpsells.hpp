@@ -26,6 +26,12 @@
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Platform/System/EmbeddedFiles.hpp"
 
+// Writing down what a person does, and doing it again.
+#include "Platform/Host/InputPlayer.hpp"
+#include "Platform/Host/RecordedContent.hpp"
+#include "Platform/Host/RecordedInputText.hpp"
+#include "Platform/RunLoop/SteppedClock.hpp"
+
 // Reading the screen back, as a test does.
 #include "Platform/Accessibility/Search.hpp"
 

@@ -16,7 +16,7 @@ public:
 };
 
 // Starts at 0 and stands still until it is told to move.
-class PROUPSELLS_EXPORT VirtualClock final : public Clock {
+class PROUPSELLS_EXPORT VirtualClock : public Clock {
 public:
     double now_s() const override { return m_now_s; }
     // A time that has passed already (or is not a number) changes nothing.

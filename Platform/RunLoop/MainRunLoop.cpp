@@ -8,6 +8,7 @@
 
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/RunLoop/MainActor.hpp"
+#include "Platform/RunLoop/SteppedClock.hpp"
 #include "Platform/RunLoop/UpdateQueue.hpp"
 #include "Platform/RunLoop/WorkQueue.hpp"
 
@@ -29,6 +30,7 @@ std::vector<MainRunLoop*>& livingLoops() {
 struct MainRunLoop::State {
     std::shared_ptr<Clock> clock;
     VirtualClock* virtualClock = nullptr; // null on a real clock
+    SteppedClock* steppedClock = nullptr; // null unless the virtual clock is one
     WorkQueue work;
     UpdateQueue updates;
     std::optional<double> turn_s;
@@ -41,6 +43,7 @@ MainRunLoop::MainRunLoop(std::shared_ptr<Clock> clock) : m_state(std::make_uniqu
     MainActor::adoptCurrentThread();
     MainActor::assertIsolated();
     m_state->virtualClock = dynamic_cast<VirtualClock*>(clock.get());
+    m_state->steppedClock = dynamic_cast<SteppedClock*>(clock.get());
     if (runsOnRealTime() && exists() && main().runsOnRealTime())
         commons::fatalError(
             "A main run loop runs already, and there can be one only: use runloop::MainRunLoop::main() in place of a "
@@ -109,6 +112,12 @@ std::optional<double> MainRunLoop::nextDueTime_s() const {
     return std::isfinite(next_s) ? std::optional(next_s) : std::nullopt;
 }
 
+std::optional<double> MainRunLoop::nextDueDelay_s() const {
+    const auto next_s = nextDueTime_s();
+    if (!next_s) return std::nullopt;
+    return std::max(0.0, *next_s - (m_state->steppedClock ? m_state->steppedClock->nextStep_s() : now_s()));
+}
+
 void MainRunLoop::setWakeUpHandler(std::function<void()> handler) {
     m_state->wakeUp = std::move(handler);
     wakeUpIfEarlierThan(std::nullopt);
@@ -116,7 +125,7 @@ void MainRunLoop::setWakeUpHandler(std::function<void()> handler) {
 
 bool MainRunLoop::hasWakeUpHandler() const { return m_state->wakeUp != nullptr; }
 
-bool MainRunLoop::runsOnRealTime() const { return !m_state->virtualClock; }
+bool MainRunLoop::runsOnRealTime() const { return !m_state->virtualClock || m_state->steppedClock; }
 
 void MainRunLoop::wakeUpIfEarlierThan(std::optional<double> previous_s) {
     if (!m_state->wakeUp || isInTurn()) return;
@@ -129,12 +138,15 @@ void MainRunLoop::wakeUpIfEarlierThan(std::optional<double> previous_s) {
 
 void MainRunLoop::runDueTurns() {
     if (isInTurn()) return;
+    if (m_state->steppedClock) return runUntil(m_state->steppedClock->nextStep_s());
     runTurnsUntil(m_state->clock->now_s());
+    wakeUpIfEarlierThan(std::nullopt);
 }
 
 void MainRunLoop::settle() {
     if (isInTurn()) commons::fatalError("A main run loop cannot settle inside its own turn");
     runTurnsUntil(m_state->clock->now_s());
+    wakeUpIfEarlierThan(std::nullopt);
 }
 
 void MainRunLoop::runUntil(double time_s) {
@@ -143,6 +155,7 @@ void MainRunLoop::runUntil(double time_s) {
     if (!std::isfinite(time_s)) commons::fatalError("A main run loop can only be run until a finite time");
     runTurnsUntil(time_s);
     m_state->virtualClock->advanceTo(time_s);
+    wakeUpIfEarlierThan(std::nullopt);
 }
 
 void MainRunLoop::runTurnsUntil(double limit_s) {
@@ -157,7 +170,6 @@ void MainRunLoop::runTurnsUntil(double limit_s) {
             commons::fatalError("The main run loop does not get past one moment: work keeps scheduling work without a delay");
         runTurn(moment_s);
     }
-    wakeUpIfEarlierThan(std::nullopt);
 }
 
 void MainRunLoop::runTurn(double moment_s) {

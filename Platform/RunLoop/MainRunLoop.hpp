@@ -48,8 +48,10 @@ public:
 
     // When the next turn is due; absent when nothing waits.
     std::optional<double> nextDueTime_s() const;
-    // Runs every turn due up to the clock's time as it is on entry. Inside a turn (a nested event loop of the host) it does
-    // nothing; the outer call goes on afterwards.
+    // Seconds from now until then, 0 when it has come; for whoever waits on a real clock.
+    std::optional<double> nextDueDelay_s() const;
+    // Runs every turn due up to the clock's time as it is on entry. A SteppedClock moves on first. Inside a turn (a nested event
+    // loop of the host) it does nothing; the outer call goes on afterwards.
     void runDueTurns();
     // Virtual clock only: moves through every turn due up to and including `time_s`, then stands there. The time must be finite.
     // Stops the program inside a turn.
@@ -63,7 +65,7 @@ public:
     void setWakeUpHandler(std::function<void()> handler);
     // Whether somebody drives the loop.
     bool hasWakeUpHandler() const;
-    // False on a virtual clock.
+    // False on a virtual clock, unless it follows a real one.
     bool runsOnRealTime() const;
 
 private:

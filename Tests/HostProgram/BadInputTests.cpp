@@ -30,6 +30,7 @@ std::string offers(const std::string& bad) { return R"({"offers": )" + bad + "}"
 std::string option(const std::string& bad) { return offers(R"({"options": [)" + bad + "]}"); }
 std::string device(const std::string& bad) { return R"({"offers": {"options": []}, "device": )" + bad + "}"; }
 std::string step(const std::string& bad) { return R"({"offers": {"options": []}, "steps": [)" + bad + "]}"; }
+std::string input(const std::string& bad) { return R"({"offers": {"options": []}, "inputs": [)" + bad + "]}"; }
 
 const std::string yearly = R"({"SKU": "a", "type": "yearly", "price": "1", "monthlyEffectivePrice": "1"})";
 
@@ -95,6 +96,25 @@ INSTANTIATE_TEST_SUITE_P(
         BadScenario{"SnapshotInAFolder", step(R"({"snapshot": "../x.png"})"), "/steps/0/snapshot", "plain file name"},
         BadScenario{"ExpectWithoutIdentifier", step(R"({"expect": {"label": "x"}})"), "/steps/0/expect",
                     "\"identifier\" is missing"},
+        BadScenario{"InputWithoutTime", input(R"({"key": "tab"})"), "/inputs/0", "\"time\" is missing"},
+        BadScenario{"InputThatGoesBack", input(R"({"time": 2, "key": "tab"}, {"frames": [2, 1]})"), "/inputs/1/frames/1",
+                    "do not go back"},
+        BadScenario{"InputOfTwoKinds", input(R"({"time": 1, "key": "tab", "focus": null})"), "/inputs/0/focus", "unknown key"},
+        BadScenario{"TouchWithoutPlace", input(R"({"time": 1, "touch": "began"})"), "/inputs/0", "\"at\" is missing"},
+        BadScenario{"UnknownTouch", input(R"({"time": 1, "touch": "hovered", "at": [1, 1]})"), "/inputs/0/touch", "hovered"},
+        BadScenario{"NegativeElement", input(R"({"time": 1, "assist": "focus", "element": -1})"), "/inputs/0/element", "negative"},
+        BadScenario{"SetOfARecordingIsEmpty", input(R"({"time": 1, "set": {}})"), "/inputs/0/set", "at least one"},
+        BadScenario{"HugeWindow", input(R"({"time": 1, "size": [30000, 1], "safeArea": [0, 0, 0, 0]})"), "/inputs/0/size",
+                    "out of range"},
+        BadScenario{"UnknownHostScreen", R"({"offers": {"options": []}, "host": {"screen": "desk"}})", "/host/screen", "desk"},
+        BadScenario{"InlineStringsInNoLanguage", device(R"({"strings": {"../de": {}}})"), "/device/strings/..~1de", "no language"},
+        BadScenario{"InlineStringIsNoText", device(R"({"strings": {"de": {"Pro": 1}}})"), "/device/strings/de/Pro", "the number 1"},
+        BadScenario{"InlineThemeWithUnknownColour", device(R"({"theme": {"colours": {"ink": "#000000"}}})"),
+                    "/device/theme/colours/ink", "unknown key"},
+        BadScenario{"InlineFileIsNoBase64", device(R"({"theme": {"files": {"a.png": "AB=C"}}})"), "/device/theme/files/a.png",
+                    "Base64"},
+        BadScenario{"InlineFileInAFolder", device(R"({"theme": {"files": {"../a.png": "AAAA"}}})"), "/device/theme/files/..~1a.png",
+                    "plain file name"},
         BadScenario{"LaterStepIsBad", step(R"({"snapshot": "x.png"}, {"wait": "long"})"), "/steps/1/wait", "a text"}),
     [](const auto& info) { return std::string(info.param.name); });
 

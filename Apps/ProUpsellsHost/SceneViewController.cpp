@@ -1,4 +1,4 @@
-#include "Apps/ProUpsellsWindow/SceneViewController.hpp"
+#include "Apps/ProUpsellsHost/SceneViewController.hpp"
 
 #include <algorithm>
 

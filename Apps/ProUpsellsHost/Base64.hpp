@@ -1,0 +1,16 @@
+// Bytes as text.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace proupsells::hostprogram {
+
+// RFC 4648, with the padding.
+std::string base64Of(std::string_view bytes);
+
+// Absent where the text is not exactly what base64Of() makes of some bytes.
+std::optional<std::string> bytesOfBase64(std::string_view text);
+
+} // namespace proupsells::hostprogram

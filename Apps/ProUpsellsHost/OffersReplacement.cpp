@@ -1,0 +1,72 @@
+// Other offers in a session that is shown.
+#include <algorithm>
+#include <vector>
+
+#include "Apps/ProUpsellsHost/HostSession.hpp"
+#include "Platform/UIKit/Views/UIView.hpp"
+#include "ProUpsells/VelaProStorePageViewController.hpp"
+
+namespace proupsells::hostprogram {
+
+namespace {
+
+using accessibility::SemanticNode;
+
+// The plans of the paywall, in their order.
+void collectPlans(const SemanticNode& node, std::vector<const SemanticNode*>& plans) {
+    if (node.identifier.starts_with("plan.") && node.activate) plans.push_back(&node);
+    for (const SemanticNode& child : node.children) collectPlans(child, plans);
+}
+
+std::vector<const SemanticNode*> plansIn(const SemanticNode& paywall) {
+    std::vector<const SemanticNode*> plans;
+    collectPlans(paywall, plans);
+    return plans;
+}
+
+std::vector<const SemanticNode*>::const_iterator chosenAmong(const std::vector<const SemanticNode*>& plans) {
+    return std::find_if(plans.begin(), plans.end(),
+                        [](const SemanticNode* plan) { return contains(plan->traits, accessibility::Traits::selected); });
+}
+
+} // namespace
+
+// Also while another screen covers it.
+SemanticNode HostSession::paywallTree() {
+    m_window->semanticTree(); // lays out what has changed
+    const auto shown = paywall();
+    const uikit::UIView* const view = shown ? shown->viewIfLoaded() : nullptr;
+    return view ? view->semanticNode({}) : SemanticNode{};
+}
+
+void HostSession::choosePlan(std::size_t index) {
+    const SemanticNode tree = paywallTree();
+    const auto plans = plansIn(tree);
+    if (index < plans.size() && chosenAmong(plans) != plans.begin() + std::ptrdiff_t(index)) plans[index]->activate();
+}
+
+void HostSession::replaceOffers(const Offers& offers) {
+    const SemanticNode before = paywallTree();
+    const auto plans = plansIn(before);
+    const auto chosen = chosenAmong(plans);
+    const std::string identifier = chosen == plans.end() ? "" : (*chosen)->identifier;
+
+    // The paywall has to have a plan at the place that is chosen, whatever plans there are.
+    const auto isShown = [](const SubscriptionOption& option) { return !option.isLifetime(); };
+    const auto count = std::count_if(offers.options.begin(), offers.options.end(), isShown);
+    if (chosen != plans.end() && chosen - plans.begin() >= count) choosePlan(0);
+    m_entry->setOptions(offers.options);
+    m_entry->setAnnualSubscriptionPriceForComparisonWithPromotionalPrice(
+        offers.annualSubscriptionPriceForComparisonWithPromotionalPrice);
+    m_entry->setMonthlySubscriptionPriceForComparisonWithPromotionalPrice(
+        offers.monthlySubscriptionPriceForComparisonWithPromotionalPrice);
+    VelaProStorePageViewController::shouldMentioniCloudSync = offers.shouldMentioniCloudSync;
+
+    const SemanticNode after = paywallTree();
+    const auto newPlans = plansIn(after);
+    const auto place =
+        std::find_if(newPlans.begin(), newPlans.end(), [&](const SemanticNode* plan) { return plan->identifier == identifier; });
+    if (!identifier.empty() && place != newPlans.end()) choosePlan(std::size_t(place - newPlans.begin()));
+}
+
+} // namespace proupsells::hostprogram

@@ -1,0 +1,290 @@
+// Following the files that a session was made of, and the keys beside it.
+#include <gmock/gmock.h>
+
+#include <nlohmann/json.hpp>
+
+#include "Apps/ProUpsellsHost/Driver.hpp"
+#include "Apps/ProUpsellsHost/PreviewKeys.hpp"
+#include "Apps/ProUpsellsHost/SourceWatch.hpp"
+#include "Platform/Accessibility/Search.hpp"
+#include "Platform/Foundation/Bundle.hpp"
+#include "Platform/Foundation/Locale.hpp"
+#include "Tests/Recording/RecordedSession.hpp"
+
+using namespace proupsells;
+using namespace hostprogram;
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+using testing::StartsWith;
+
+namespace {
+
+class FollowedFiles : public testing::Test {
+protected:
+    // Another text has another length, for the file's time may be the same.
+    void write(const std::string& bytes) { folder.write("offers.json", bytes); }
+    void replace(const std::string& bytes) {
+        folder.write("offers.json~", bytes);
+        std::filesystem::rename(folder.path() / "offers.json~", file);
+    }
+    // As often as it takes at most.
+    SourceChange lookOften() {
+        SourceChange change;
+        for (int look = 0; look < 12 && !change.offers && !change.strings && !change.theme && change.complaints.empty(); ++look)
+            change = watch.look();
+        return change;
+    }
+
+    tests::TemporaryFolder folder;
+    std::filesystem::path file = folder.write("offers.json", R"({"options": []})");
+    std::filesystem::path german = folder.write("de.lproj/Localizable.strings", "\"Pro\" = \"Pro\";");
+    std::filesystem::path theme = folder.write("theme.json", "{}");
+    SourceWatch watch{{file, folder.path(), theme}};
+};
+
+TEST_F(FollowedFiles, SayNothingWhileTheyStayAsTheyAre) {
+    const SourceChange change = lookOften();
+
+    EXPECT_FALSE(change.offers || change.strings || change.theme);
+    EXPECT_THAT(change.complaints, IsEmpty());
+}
+
+TEST_F(FollowedFiles, AreReadAtTheSecondLookAfterAChange) {
+    write(R"({"options": [], "referrer": "Home"})");
+
+    EXPECT_FALSE(watch.look().offers);
+    const SourceChange change = watch.look();
+
+    ASSERT_TRUE(change.offers);
+    EXPECT_EQ((*change.offers)["referrer"], "Home");
+    EXPECT_FALSE(watch.look().offers);
+}
+
+TEST_F(FollowedFiles, MayBePutInThePlaceOfEachOther) {
+    replace(R"({"options": [], "referrer": "Replaced"})");
+
+    EXPECT_TRUE(lookOften().offers);
+}
+
+TEST_F(FollowedFiles, MayBeGoneForAMoment) {
+    std::filesystem::remove(file);
+    for (int look = 0; look < 5; ++look) EXPECT_THAT(watch.look().complaints, IsEmpty());
+
+    write(R"({"options": [], "referrer": "Back"})");
+
+    EXPECT_TRUE(lookOften().offers);
+}
+
+TEST_F(FollowedFiles, AreMissedOnceWhenTheyStayAway) {
+    std::filesystem::remove(file);
+
+    EXPECT_THAT(lookOften().complaints, ElementsAre(StartsWith(file.string() + ": /: there is no such file")));
+    EXPECT_THAT(lookOften().complaints, IsEmpty());
+}
+
+TEST_F(FollowedFiles, AreToldOfOnceWhereTheyAreBroken) {
+    write(R"({"options": [], "referrer":)");
+
+    const SourceChange change = lookOften();
+
+    EXPECT_FALSE(change.offers);
+    EXPECT_THAT(change.complaints, ElementsAre(StartsWith(file.string() + ": /referrer: ")));
+    EXPECT_THAT(lookOften().complaints, IsEmpty());
+}
+
+TEST_F(FollowedFiles, KeepTranslationsAsTheyWere) {
+    folder.write("de.lproj/Localizable.strings", "\"Pro\" = \"Profi\";");
+    const SourceChange change = lookOften();
+    folder.write("de.lproj/Localizable.strings", "broken");
+
+    ASSERT_TRUE(change.strings);
+    foundation::Locale::setCurrent(foundation::Locale{"de_DE"});
+    EXPECT_EQ(foundation::Bundle(*change.strings).localizedString("Pro"), "Profi");
+    EXPECT_THAT(lookOften().complaints, ElementsAre(StartsWith(german.string() + ": /: ")));
+}
+
+TEST_F(FollowedFiles, MayGetAnotherLanguage) {
+    folder.write("fr.lproj/Localizable.strings", "\"Pro\" = \"Pro\";");
+
+    EXPECT_TRUE(lookOften().strings);
+}
+
+TEST_F(FollowedFiles, MayBeAThemes) {
+    folder.write("theme.json", R"({"faces": {"text": "DejaVu Sans"}})");
+
+    const SourceChange change = lookOften();
+
+    ASSERT_TRUE(change.theme);
+    EXPECT_EQ(change.theme->families.text, "DejaVu Sans");
+}
+
+// --- Other offers in a session that is shown ---
+
+class ReplacedOffers : public testing::Test {
+protected:
+    ReplacedOffers() {
+        session.present();
+        driver.finishTransitions();
+    }
+
+    static Offers offersOf(const char* options) {
+        const Json json{{"options", Json::parse(options)}};
+        return readOffers(JsonCursor{json, "offers"});
+    }
+    void tap(const std::string& identifier) {
+        const auto tree = session.window().semanticTree();
+        accessibility::findByIdentifier(tree, identifier)->activate();
+        driver.wait(1);
+    }
+    std::vector<std::string> chosen() {
+        driver.wait(1);
+        const auto tree = session.window().semanticTree();
+        std::vector<std::string> result;
+        for (const auto* control : accessibility::controls(tree))
+            if (contains(control->traits, accessibility::Traits::selected)) result.push_back(control->identifier);
+        return result;
+    }
+
+    static constexpr const char* both = R"([
+        { "SKU": "y", "type": "yearly", "price": "$99.99", "monthlyEffectivePrice": "$8.33" },
+        { "SKU": "m", "type": "monthly", "price": "$14.99" } ])";
+
+    runloop::MainRunLoop loop{std::make_shared<runloop::VirtualClock>()};
+    std::ostringstream events;
+    HostSession session{offersOf(both), {}, {}, ffmpegbackend::Pace::exact, std::make_shared<EventLog>(events)};
+    Driver driver{loop, session};
+};
+
+TEST_F(ReplacedOffers, KeepTheChosenPlan) {
+    tap("plan.m");
+
+    session.replaceOffers(offersOf(R"([
+        { "SKU": "y", "type": "yearly", "price": "$88", "monthlyEffectivePrice": "$7" }, { "SKU": "m", "type": "monthly", "price": "$9" } ])"));
+
+    EXPECT_THAT(chosen(), ElementsAre("plan.m"));
+}
+
+TEST_F(ReplacedOffers, KeepTheChosenPlanAtAnotherPlace) {
+    tap("plan.m");
+
+    session.replaceOffers(offersOf(R"([
+        { "SKU": "m", "type": "monthly", "price": "$9" }, { "SKU": "n", "type": "monthly", "price": "$8" } ])"));
+
+    EXPECT_THAT(chosen(), ElementsAre("plan.m"));
+}
+
+TEST_F(ReplacedOffers, ChooseTheFirstPlanInThePlaceOfOneThatIsGone) {
+    tap("plan.m");
+
+    session.replaceOffers(offersOf(R"([{ "SKU": "y", "type": "yearly", "price": "$88", "monthlyEffectivePrice": "$7" }])"));
+
+    EXPECT_THAT(chosen(), ElementsAre("plan.y"));
+}
+
+TEST_F(ReplacedOffers, MayBeNoneForAWhile) {
+    tap("plan.m");
+
+    session.replaceOffers(offersOf("[]"));
+    EXPECT_THAT(chosen(), IsEmpty());
+    session.replaceOffers(offersOf(R"([{ "SKU": "y", "type": "yearly", "price": "$88", "monthlyEffectivePrice": "$7" }])"));
+
+    EXPECT_THAT(chosen(), ElementsAre("plan.y"));
+}
+
+TEST_F(ReplacedOffers, ComeBelowAnotherScreen) {
+    tap("plan.m");
+    session.open(StartScreen::comparison);
+    driver.finishTransitions();
+
+    session.replaceOffers(offersOf(R"([{ "SKU": "y", "type": "yearly", "price": "$88", "monthlyEffectivePrice": "$7" }])"));
+    driver.press(host::Key::escape);
+    driver.finishTransitions();
+
+    EXPECT_THAT(chosen(), ElementsAre("plan.y"));
+}
+
+TEST_F(ReplacedOffers, StayWhereThePageWasScrolledTo) {
+    Device low;
+    low.size = {375, 500};
+    session.setDevice(low);
+    driver.wait(1);
+    session.window().scroll({187, 250}, {0, 120});
+    driver.wait(1);
+    const auto offset = [&] {
+        const auto tree = session.window().semanticTree();
+        std::vector<double> offsets;
+        for (const auto* node : accessibility::findAllByType(tree, "ScrollView"))
+            if (node->scroll) offsets.push_back(node->scroll->contentOffset.y);
+        return offsets;
+    };
+    const auto before = offset();
+
+    session.replaceOffers(offersOf(R"([
+        { "SKU": "y", "type": "yearly", "price": "$88", "monthlyEffectivePrice": "$7" }, { "SKU": "m", "type": "monthly", "price": "$9" } ])"));
+    driver.wait(1);
+
+    EXPECT_THAT(before, testing::Contains(120));
+    EXPECT_EQ(offset(), before);
+}
+
+// --- Keys ---
+
+class Keys : public testing::Test {
+protected:
+    Device press(char32_t key, bool isShifted = false) {
+        const auto changed = keys.pressed(key, isShifted, device, direction);
+        return device = changed.value_or(device);
+    }
+
+    PreviewKeys keys{{"de", "en_US", "ar_XB"}};
+    Device device;
+    geometry::LayoutDirection direction = geometry::LayoutDirection::leftToRight;
+};
+
+TEST_F(Keys, SwitchTheAppearance) {
+    EXPECT_EQ(press(U'A').appearance, graphics::ColorScheme::dark);
+    EXPECT_EQ(press(U'A').appearance, graphics::ColorScheme::light);
+}
+
+TEST_F(Keys, TurnTheDirectionRound) {
+    EXPECT_EQ(press(U'D').layoutDirection, DirectionChoice::rightToLeft);
+    direction = geometry::LayoutDirection::rightToLeft;
+    EXPECT_EQ(press(U'D').layoutDirection, DirectionChoice::leftToRight);
+}
+
+TEST_F(Keys, StepTheTextSizeUpToItsEnds) {
+    EXPECT_EQ(press(U'+').textSize, graphics::ContentSizeCategory::extraLarge);
+    for (int i = 0; i < 20; ++i) press(U'-');
+    EXPECT_EQ(device.textSize, graphics::ContentSizeCategory::extraSmall);
+    EXPECT_FALSE(keys.pressed(U'-', false, device, direction));
+}
+
+TEST_F(Keys, GoThroughTheLanguagesBothWays) {
+    EXPECT_EQ(press(U'L').locale, "ar_XB");
+    EXPECT_EQ(press(U'L').locale, "de");
+    EXPECT_EQ(press(U'L', true).locale, "ar_XB");
+}
+
+TEST_F(Keys, GoThroughTheSizes) {
+    EXPECT_EQ(press(U'S').size, (geometry::Size{768, 1024}));
+    EXPECT_EQ(press(U'S', true).size, (geometry::Size{375, 800}));
+    device.size = {500, 500};
+    EXPECT_EQ(press(U'S').size, (geometry::Size{320, 568}));
+}
+
+TEST_F(Keys, LeaveOthersToTheScreens) {
+    for (const char32_t key : {U' ', U'\t', U'B', U'0'}) EXPECT_FALSE(keys.pressed(key, false, device, direction));
+}
+
+TEST(PreviewLocales, AreThoseThatThereAreTextsIn) {
+    const tests::TemporaryFolder folder;
+    folder.write("pt-BR.lproj/Localizable.strings", "");
+    folder.write("de.lproj/Localizable.strings", "");
+
+    EXPECT_THAT(previewLocales("fr_FR", folder.path()), ElementsAre("fr_FR", "en_US", "de", "pt-BR", "en_XA", "ar_XB"));
+    EXPECT_THAT(previewLocales("en_US", {}), ElementsAre("en_US", "en_XA", "ar_XB"));
+}
+
+} // namespace
