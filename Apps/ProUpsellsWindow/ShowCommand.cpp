@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <algorithm>
 #include <iostream>
+#include <tuple>
 #include <utility>
 
 #include "Apps/ProUpsellsHost/HostSession.hpp"
@@ -10,6 +11,7 @@
 #include "Apps/ProUpsellsWindow/SceneViewController.hpp"
 #include "Apps/ProUpsellsWindow/WindowIcon.hpp"
 #include "Backends/Qt/Application.hpp"
+#include "Backends/Qt/DesktopSettings.hpp"
 #include "Backends/Qt/QtRunLoopDriver.hpp"
 #include "Backends/Qt/QtWindow.hpp"
 #include "Platform/Foundation/Resources.hpp"
@@ -23,10 +25,13 @@ constexpr const char* programName = "ProUpsells";
 // How often to look whether the paywall has been closed, which closes the window.
 constexpr double closedCheckInterval_s = 0.25;
 
-// The scale of the screen that the window is on now, and the system's appearance.
+// What a desktop decides.
+auto decided(const Device& device) { return std::tie(device.scale, device.appearance, device.textSize, device.reduceMotion); }
+
+// The scale of the screen that the window is on now, and the system's settings.
 void follow(HostSession& session, const QWindow& window, const ShowArguments& arguments) {
-    Device device = followingDevice(arguments, session.device(), window.devicePixelRatio());
-    if (device.scale == session.device().scale && device.appearance == session.device().appearance) return;
+    Device device = followingDevice(arguments, qtbackend::DesktopSettings::shared(), session.device(), window.devicePixelRatio());
+    if (decided(device) == decided(session.device())) return;
     device.size = {double(window.width()), double(window.height())};
     session.setDevice(device);
 }
@@ -43,7 +48,7 @@ int showOffers(const ShowArguments& arguments) {
     qtbackend::Application application(
         {.name = programName, .scale = givesScale ? std::optional(arguments.device.scale) : std::nullopt});
     QGuiApplication::setWindowIcon(windowIcon());
-    const Device device = desktopDevice(arguments, *QGuiApplication::primaryScreen());
+    const Device device = desktopDevice(arguments, qtbackend::DesktopSettings::shared(), *QGuiApplication::primaryScreen());
     runloop::MainRunLoop loop(std::make_shared<runloop::RealClock>());
     const auto log = std::make_shared<EventLog>(std::cout);
     const auto session = std::make_shared<HostSession>(offers, device, HostParts{.screen = std::make_shared<SceneViewController>()},
@@ -60,6 +65,9 @@ int showOffers(const ShowArguments& arguments) {
         if (!session->isShowing()) return qtbackend::Application::quit(done);
         if (!std::exchange(hasOpened, true)) session->open(arguments.start);
     });
+    // At once, so that the first sight of the paywall is the desktop's where that has answered by then.
+    const auto& desktop = qtbackend::DesktopSettings::shared();
+    QObject::connect(&desktop, &qtbackend::DesktopSettings::changed, &window, [&] { follow(*session, window, arguments); });
     session->present();
     const int status = application.run();
     watch->invalidate();

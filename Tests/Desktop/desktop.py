@@ -147,11 +147,14 @@ class Program:
         """The exit status."""
         return wait_for("the program to end", lambda: self._process.poll() is not None and [self._process.returncode])[0]
 
+    def window(self):
+        """As the display numbers it."""
+        return wait_for("a window", self._window)
+
     # --- Keys ---
 
     def take_keys(self):
-        window = wait_for("a window", self._window)
-        subprocess.run(["xdotool", "windowfocus", "--sync", window], check=True)
+        subprocess.run(["xdotool", "windowfocus", "--sync", self.window()], check=True)
         self.ear.wait_for("window:activate")
         self.ear.wait_for("object:state-changed:focused", is_on=True)
 

@@ -8,6 +8,7 @@
 #include <QPalette>
 #include <QPointer>
 
+#include "Backends/Qt/DesktopSettings.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Tests/QtWidgets/Shop.hpp"
 
@@ -179,6 +180,25 @@ TEST_F(Widgets, FollowThePaletteAndTheDirectionUnlessTheHostDecides) {
     EXPECT_EQ(traits.layoutDirection, geometry::LayoutDirection::leftToRight);
     EXPECT_TRUE(traits.reduceMotion);
     EXPECT_EQ(traits.preferredContentSizeCategory, graphics::ContentSizeCategory::extraExtraLarge);
+}
+
+TEST_F(Widgets, FollowTheDesktopUnlessTheHostDecides) {
+    auto& desktop = qtbackend::DesktopSettings::shared();
+    show();
+    const uikit::UITraitCollection& traits = widget->uiWindow().traits();
+    desktop.adopt("org.gnome.desktop.interface", "text-scaling-factor", 2.0);
+    desktop.adopt("org.gnome.desktop.interface", "enable-animations", false);
+    EXPECT_EQ(traits.preferredContentSizeCategory, graphics::ContentSizeCategory::accessibilityLarge);
+    EXPECT_TRUE(traits.reduceMotion);
+
+    widget->setTraits({.reducesMotion = false, .textSize = graphics::ContentSizeCategory::large});
+    EXPECT_EQ(traits.preferredContentSizeCategory, graphics::ContentSizeCategory::large);
+    EXPECT_FALSE(traits.reduceMotion);
+
+    // Nobody listens any more.
+    delete widget;
+    desktop.adopt("org.gnome.desktop.interface", "text-scaling-factor", 1.0);
+    desktop.adopt("org.gnome.desktop.interface", "enable-animations", true);
 }
 
 TEST_F(Widgets, RunNothingWhileTheyAreHidden) {
