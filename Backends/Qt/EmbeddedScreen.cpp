@@ -57,6 +57,7 @@ void EmbeddedScreen::setSeen(bool isSeen) {
     schedule();
     m_pacer.setRunning(isSeen);
     if (!isSeen) m_input.cancelTouch();
+    m_accessibility.updateLater();
 }
 
 // The display may have changed since the last frame.

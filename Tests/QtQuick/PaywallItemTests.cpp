@@ -291,6 +291,20 @@ TEST_F(Items, MayBeDeletedFromInsideACallback) {
     EXPECT_TRUE(paywall.isNull());
 }
 
+TEST_F(Items, TellNothingWhileNobodySeesThem) {
+    show();
+    QAccessibleInterface* const tree = QAccessible::queryAccessibleInterface(paywall);
+    ASSERT_EQ(tree->childCount(), 1);
+    paywall->setVisible(false);
+    settle();
+    EXPECT_EQ(tree->childCount(), 0);
+    EXPECT_EQ(tree->focusChild(), nullptr);
+    paywall->setVisible(true);
+    settle();
+
+    EXPECT_EQ(tree->childCount(), 1);
+}
+
 TEST_F(Items, StandInTheScenesAccessibleTree) {
     show();
     QAccessibleInterface* const tree = QAccessible::queryAccessibleInterface(paywall);

@@ -297,6 +297,20 @@ TEST_F(Widgets, TellTheirContainerWhenTheControllerIsToGo) {
     EXPECT_EQ(asked, 1);
 }
 
+TEST_F(Widgets, TellNothingWhileNobodySeesThem) {
+    QWidget window;
+    show(&window);
+    QAccessibleInterface* const tree = QAccessible::queryAccessibleInterface(widget);
+    ASSERT_EQ(tree->childCount(), 1);
+    widget->hide();
+    settle();
+    EXPECT_EQ(tree->childCount(), 0);
+    widget->show();
+    settle();
+
+    EXPECT_EQ(tree->childCount(), 1);
+}
+
 TEST_F(Widgets, HangTheirAccessibleTreeIntoTheHostsOwn) {
     QWidget window;
     show(&window);
