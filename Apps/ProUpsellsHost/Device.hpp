@@ -37,6 +37,8 @@ bool isDeviceKey(std::string_view key);
 std::string_view textSizeWord(graphics::ContentSizeCategory textSize);
 // Reads one key of a device. Relative paths count from `folder`.
 void readDeviceKey(Device& device, std::string_view key, const JsonCursor& value, const std::filesystem::path& folder);
+// Reads those keys of the object that are a device's, in whatever order they stand. False where there are none.
+bool readDeviceKeys(Device& device, const JsonCursor& object, const std::filesystem::path& folder);
 // Reads an object of device keys.
 Device readDevice(const JsonCursor& object, const std::filesystem::path& folder);
 

@@ -11,7 +11,8 @@ namespace proupsells::hostprogram {
 
 namespace {
 
-constexpr double longestTime_s = 1e7;
+// What is waited for is played.
+constexpr double longestTime_s = 86'400;
 
 // What reading a step may need besides the step.
 struct Surroundings {
@@ -19,7 +20,7 @@ struct Surroundings {
     Device device; // as the steps before have left it
 };
 
-double readTime(const JsonCursor& value) { return value.number(0, longestTime_s, "seconds, not negative"); }
+double readTime(const JsonCursor& value) { return value.number(0, longestTime_s, "seconds, not negative, a day at most"); }
 
 geometry::Point readPoint(const JsonCursor& value) {
     const auto numbers = value.numbers(2, -1e6, "a point, x and y");
@@ -61,13 +62,11 @@ SetStep readSet(const JsonCursor& value, Surroundings& surroundings) {
             step.monthlyPrice = textOrNull(member);
         else if (key == "shouldMentioniCloudSync")
             step.shouldMentioniCloudSync = member.boolean();
-        else if (isDeviceKey(key))
-            readDeviceKey(surroundings.device, key, member, surroundings.folder);
-        else
+        else if (!isDeviceKey(key))
             member.fail("unknown key \"" + key +
                         "\", expected options, a comparison price, shouldMentioniCloudSync or a key of a device");
-        if (isDeviceKey(key)) step.device = surroundings.device;
     }
+    if (readDeviceKeys(surroundings.device, value, surroundings.folder)) step.device = surroundings.device;
     return step;
 }
 

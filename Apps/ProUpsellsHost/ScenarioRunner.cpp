@@ -11,6 +11,7 @@
 #include "Apps/ProUpsellsHost/Snapshot.hpp"
 #include "Platform/Accessibility/Search.hpp"
 #include "Platform/System/PathText.hpp"
+#include "Tooling/Quoted.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -27,8 +28,8 @@ std::vector<const SemanticNode*> controlsIdentified(const SemanticNode& root, co
 // The control's identifier, and the name that a person sees.
 std::string describe(const SemanticNode& control) {
     const std::string name = accessibility::nameOf(control);
-    if (control.identifier.empty()) return '"' + name + '"';
-    return control.identifier + (name.empty() ? "" : " (\"" + name + "\")");
+    if (control.identifier.empty()) return tooling::inQuotes(name);
+    return tooling::escaped(control.identifier) + (name.empty() ? "" : " (" + tooling::inQuotes(name) + ")");
 }
 
 // What was revealed stands with its centre at the window's very edge; rounding must not carry it out of there.
@@ -53,6 +54,8 @@ bool ScenarioRunner::run(const Watch& watch) {
         std::visit([this](const auto& step) { perform(step); }, m_scenario.steps[m_step]);
         m_driver.finishTransitions();
         if (watch) watch(&m_scenario.stepTexts[m_step]);
+        // Whoever writes the lines says so at the end.
+        if (m_log->isLost()) break;
     }
     return m_allHeld;
 }

@@ -61,6 +61,7 @@ int showOffers(const ShowArguments& arguments) {
     bool hasOpened = false;
     const auto watch = loop.scheduleRepeating(closedCheckInterval_s, [&] {
         follow(*session, window, arguments);
+        if (log->isLost()) return qtbackend::Application::quit(done);
         if (session->window().isTransitioning()) return;
         if (!session->isShowing()) return qtbackend::Application::quit(done);
         if (!std::exchange(hasOpened, true)) session->open(arguments.start);
