@@ -120,6 +120,7 @@ set(PROUPSELLS_Standard_HEADERS
 )
 set(PROUPSELLS_Qt_HEADERS
   Backends/Qt/Application.hpp
+  Backends/Qt/DesktopSettings.hpp
   Backends/Qt/Install.hpp
   Backends/Qt/QtRunLoopDriver.hpp
   Backends/Qt/QtWindow.hpp

@@ -8,8 +8,10 @@
 
 namespace proupsells::tooling {
 
-// The text in quotation marks and on one line: line breaks are \n, other control characters such as \u001b, and a backslash stands
-// before quotation marks and backslashes.
+// The text on one line: line breaks are \n, other control characters such as \u001b, and a backslash stands before quotation marks
+// and backslashes.
+PROUPSELLS_EXPORT std::string escaped(std::string_view text);
+// The same in quotation marks.
 PROUPSELLS_EXPORT std::string inQuotes(std::string_view text);
 
 } // namespace proupsells::tooling

@@ -59,29 +59,30 @@ public:
     }
 
 private:
-    char character() {
+    // What one character of the text stands for.
+    std::string character() {
         const char c = m_rest.front();
         m_rest.remove_prefix(1);
-        if (c != '\\') return c;
+        if (c != '\\') return {c};
         if (m_rest.empty()) {
             m_holds = false;
-            return c;
+            return {};
         }
         const char escape = m_rest.front();
         m_rest.remove_prefix(1);
-        if (escape == 'n') return '\n';
+        if (escape == 'n') return "\n";
         if (escape == 'u') return controlCharacter();
         if (escape != '"' && escape != '\\') m_holds = false;
-        return escape;
+        return {escape};
     }
 
-    char controlCharacter() {
+    std::string controlCharacter() {
         unsigned code = 0;
         const std::string_view four = m_rest.substr(0, 4);
         const auto [end, error] = std::from_chars(four.data(), four.data() + four.size(), code, 16);
-        if (error != std::errc() || end != four.data() + 4 || code > 0x7F) m_holds = false;
+        if (error != std::errc() || end != four.data() + 4 || code > 0x9F) m_holds = false;
         m_rest.remove_prefix(four.size());
-        return char(code);
+        return code < 0x80 ? std::string{char(code)} : std::string{'\xC2', char(code)};
     }
 
     std::string_view m_rest;

@@ -1,6 +1,7 @@
 #include "Tooling/TapPoint.hpp"
 
 #include "Platform/Accessibility/Search.hpp"
+#include "Tooling/Quoted.hpp"
 
 namespace proupsells::tooling {
 
@@ -11,8 +12,8 @@ namespace {
 // The control's identifier, and the name that a person sees.
 std::string described(const SemanticNode& control) {
     const std::string name = accessibility::nameOf(control);
-    if (control.identifier.empty()) return '"' + name + '"';
-    return control.identifier + (name.empty() ? "" : " (\"" + name + "\")");
+    if (control.identifier.empty()) return inQuotes(name);
+    return escaped(control.identifier) + (name.empty() ? "" : " (" + inQuotes(name) + ")");
 }
 
 // What was revealed stands with its centre at the window's very edge; rounding must not carry it out of there.

@@ -151,6 +151,17 @@ const DeviceKey* deviceKey(std::string_view key) {
     return entry == std::end(deviceKeys) ? nullptr : &entry->value;
 }
 
+void checkPixels(const Device& device, const JsonCursor& value) {
+    if (std::max(device.size.width, device.size.height) * device.scale > maximumPixels)
+        value.fail("the window is out of range, expected at most 32000 pixels a side");
+}
+
+void checkInsets(const Device& device, const JsonCursor& value) {
+    const auto& insets = device.safeArea;
+    if (insets.left + insets.right >= device.size.width || insets.top + insets.bottom >= device.size.height)
+        value.fail("the safe area is out of range, expected insets that leave some of the window");
+}
+
 } // namespace
 
 bool isDeviceKey(std::string_view key) { return deviceKey(key) != nullptr; }
@@ -161,21 +172,28 @@ void readDeviceKey(Device& device, std::string_view key, const JsonCursor& value
     const DeviceKey* const known = deviceKey(key);
     if (!known) value.fail("unknown key \"" + std::string(key) + "\", expected a key of a device");
     known->read(device, value, folder);
+    checkPixels(device, value);
+    checkInsets(device, value);
+}
 
-    if (device.size.width * device.scale > maximumPixels || device.size.height * device.scale > maximumPixels)
-        value.fail("the window is out of range, expected at most 32000 pixels a side");
-    const auto& insets = device.safeArea;
-    if ((key == "safeArea" || key == "size") &&
-        (insets.left + insets.right >= device.size.width || insets.top + insets.bottom >= device.size.height))
-        value.fail("the safe area is out of range, expected insets that leave some of the window");
+bool readDeviceKeys(Device& device, const JsonCursor& object, const std::filesystem::path& folder) {
+    bool hasAny = false;
+    for (const auto& [key, known] : deviceKeys) {
+        if (!object.has(key)) continue;
+        known.read(device, object.at(key), folder);
+        hasAny = true;
+    }
+    // Lengths are held against each other only when all of them are known.
+    const bool hasSize = object.has("size"), hasScale = object.has("scale"), hasInsets = object.has("safeArea");
+    if (hasSize || hasScale) checkPixels(device, object.at(hasSize ? "size" : "scale"));
+    if (hasSize || hasInsets) checkInsets(device, object.at(hasInsets ? "safeArea" : "size"));
+    return hasAny;
 }
 
 Device readDevice(const JsonCursor& object, const std::filesystem::path& folder) {
     object.expectObject(wordsOf(deviceKeys));
     Device device;
-    // In the order of the table: the insets are checked against the size, wherever the two stand in the file.
-    for (const std::string_view key : wordsOf(deviceKeys))
-        if (object.has(key)) readDeviceKey(device, key, object.at(key), folder);
+    readDeviceKeys(device, object, folder);
     return device;
 }
 

@@ -44,6 +44,8 @@ Json toJson(const Device& device);
 Json changesBetween(const Device& before, const Device& after);
 // Reads one key of a device. Relative paths count from `folder`.
 void readDeviceKey(Device& device, std::string_view key, const JsonCursor& value, const std::filesystem::path& folder);
+// Reads those keys of the object that are a device's, in whatever order they stand. False where there are none.
+bool readDeviceKeys(Device& device, const JsonCursor& object, const std::filesystem::path& folder);
 // Reads an object of device keys.
 Device readDevice(const JsonCursor& object, const std::filesystem::path& folder);
 

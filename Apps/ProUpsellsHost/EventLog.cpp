@@ -21,4 +21,6 @@ void EventLog::write(const commons::LogRecord& record) {
     write("log", {{"severity", record.severity}, {"message", record.message}, {"function", record.function}});
 }
 
+bool EventLog::isLost() const { return m_stream.fail(); }
+
 } // namespace proupsells::hostprogram

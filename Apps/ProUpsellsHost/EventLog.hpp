@@ -19,6 +19,9 @@ public:
     // The event "log".
     void write(const commons::LogRecord& record);
 
+    // A line could not be written.
+    bool isLost() const;
+
 private:
     std::ostream& m_stream;
 };

@@ -7,8 +7,8 @@
 
 namespace proupsells::hostprogram {
 
-// Reads the command line and does what it says; `show` is the caller's part. Input that cannot be used is a line on standard error.
-// Returns the exit status.
+// Reads the command line and does what it says; `show` is the caller's part. Input that cannot be used, and output
+// that cannot be written, is a line on standard error. Returns the exit status.
 int runProgram(int count, const char* const* arguments, const std::function<int(const ShowArguments&)>& show);
 
 } // namespace proupsells::hostprogram

@@ -10,6 +10,7 @@
 #include "Apps/ProUpsellsHost/ScreenDump.hpp"
 #include "Apps/ProUpsellsHost/Snapshot.hpp"
 #include "Platform/System/PathText.hpp"
+#include "Tooling/Quoted.hpp"
 #include "Tooling/TapPoint.hpp"
 
 namespace proupsells::hostprogram {
@@ -29,6 +30,8 @@ bool ScenarioRunner::run(const Watch& watch, const FrameWatch& frameWatch) {
         std::visit([this](const auto& step) { perform(step); }, m_scenario.steps[m_step]);
         m_driver.finishTransitions();
         if (watch) watch(&m_scenario.stepTexts[m_step]);
+        // Whoever writes the lines says so at the end.
+        if (m_log->isLost()) break;
     }
     return m_allHeld;
 }
@@ -55,10 +58,11 @@ geometry::Point ScenarioRunner::pointOf(const TapTarget& target) {
 
     std::string tappable;
     for (const std::string& control : found.controls) tappable += "\n  " + control;
-    const std::string what = identifier ? "the identifier \"" : "the text \"";
-    throw InputErrorWithList(InputError(system::textOf(m_scenario.file), stepPointer() + "/tap",
-                                        found.complaint + " " + what + wanted + "\", expected exactly one of the controls below"),
-                             tappable);
+    const std::string what = identifier ? "the identifier " : "the text ";
+    throw InputErrorWithList(
+        InputError(system::textOf(m_scenario.file), stepPointer() + "/tap",
+                   found.complaint + " " + what + tooling::inQuotes(wanted) + ", expected exactly one of the controls below"),
+        tappable);
 }
 
 void ScenarioRunner::perform(const TapStep& step) { m_driver.tap(pointOf(step.target)); }

@@ -104,8 +104,9 @@ constexpr Word<ReadStep> stepReaders[] = {
 } // namespace
 
 double readTime(const JsonCursor& value) {
-    constexpr double longestTime_s = 1e7;
-    return value.number(0, longestTime_s, "seconds, not negative");
+    // What is waited for is played.
+    constexpr double longestTime_s = 86'400;
+    return value.number(0, longestTime_s, "seconds, not negative, a day at most");
 }
 
 geometry::Point readPoint(const JsonCursor& value) {
@@ -132,13 +133,11 @@ SetStep readSet(const JsonCursor& value, Surroundings& surroundings) {
             step.monthlyPrice = textOrNull(member);
         else if (key == "shouldMentioniCloudSync")
             step.shouldMentioniCloudSync = member.boolean();
-        else if (isDeviceKey(key))
-            readDeviceKey(surroundings.device, key, member, surroundings.folder);
-        else
+        else if (!isDeviceKey(key))
             member.fail("unknown key \"" + key +
                         "\", expected options, a comparison price, shouldMentioniCloudSync or a key of a device");
-        if (isDeviceKey(key)) step.device = surroundings.device;
     }
+    if (readDeviceKeys(surroundings.device, value, surroundings.folder)) step.device = surroundings.device;
     return step;
 }
 

@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <algorithm>
 
+#include "Backends/Qt/DesktopSettings.hpp"
 #include "Backends/Qt/ScreenTraits.hpp"
 
 namespace proupsells::hostprogram {
@@ -22,14 +23,17 @@ bool gives(const ShowArguments& arguments, const char* key) {
 
 } // namespace
 
-Device followingDevice(const ShowArguments& arguments, Device device, double scale) {
+Device followingDevice(const ShowArguments& arguments, const qtbackend::DesktopSettings& desktop, Device device, double scale) {
     if (!gives(arguments, "scale")) device.scale = scale;
-    if (!gives(arguments, "appearance")) device.appearance = qtbackend::colorSchemeOf(QGuiApplication::palette());
+    if (!gives(arguments, "appearance"))
+        device.appearance = desktop.colorScheme().value_or(qtbackend::colorSchemeOf(QGuiApplication::palette()));
+    if (!gives(arguments, "textSize")) device.textSize = desktop.textSize(scale);
+    if (!gives(arguments, "reduceMotion")) device.reduceMotion = desktop.reducesMotion();
     return device;
 }
 
-Device desktopDevice(const ShowArguments& arguments, const QScreen& screen) {
-    Device device = followingDevice(arguments, arguments.device, screen.devicePixelRatio());
+Device desktopDevice(const ShowArguments& arguments, const qtbackend::DesktopSettings& desktop, const QScreen& screen) {
+    Device device = followingDevice(arguments, desktop, arguments.device, screen.devicePixelRatio());
     const bool isGivenWhole = gives(arguments, "size") && gives(arguments, "scale");
     if (isGivenWhole) return device;
 

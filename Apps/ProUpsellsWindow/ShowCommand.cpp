@@ -11,6 +11,7 @@
 #include "Apps/ProUpsellsWindow/ShownSession.hpp"
 #include "Apps/ProUpsellsWindow/WindowIcon.hpp"
 #include "Backends/Qt/Application.hpp"
+#include "Backends/Qt/DesktopSettings.hpp"
 #include "Platform/Foundation/Resources.hpp"
 #include "Platform/System/PathText.hpp"
 
@@ -37,7 +38,7 @@ int showOffers(const ShowArguments& arguments) {
     qtbackend::Application application(
         {.name = ShownSession::title, .scale = givesScale ? std::optional(arguments.device.scale) : std::nullopt});
     QGuiApplication::setWindowIcon(windowIcon());
-    Device device = desktopDevice(arguments, *QGuiApplication::primaryScreen());
+    Device device = desktopDevice(arguments, qtbackend::DesktopSettings::shared(), *QGuiApplication::primaryScreen());
     std::unique_ptr<SourceWatch> watch;
     if (arguments.isWatching) {
         const std::filesystem::path& strings = device.strings;

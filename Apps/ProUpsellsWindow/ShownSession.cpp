@@ -11,6 +11,7 @@
 #include "Apps/ProUpsellsWindow/DesktopDevice.hpp"
 #include "Apps/ProUpsellsWindow/EndRequest.hpp"
 #include "Apps/ProUpsellsWindow/WindowClock.hpp"
+#include "Backends/Qt/DesktopSettings.hpp"
 #include "Platform/RunLoop/SteppedClock.hpp"
 
 namespace proupsells::hostprogram {
@@ -46,14 +47,18 @@ private:
 ShownSession::ShownSession(const ShowArguments& arguments, const Offers& offers, const Device& device, Recording* recording,
                            SourceWatch* watch)
     : m_arguments(arguments), m_recording(recording), m_sources(watch), m_clock(std::make_shared<WindowClock>()),
-      m_loop(sessionClock(m_clock, recording)),
-      m_session(offers, device, {.screen = HostScreen::scene}, paceOf(recording), std::make_shared<EventLog>(std::cout)),
-      m_driver(m_loop) {
+      m_loop(sessionClock(m_clock, recording)), m_log(std::make_shared<EventLog>(std::cout)),
+      m_session(offers, device, {.screen = HostScreen::scene}, paceOf(recording), m_log), m_driver(m_loop) {
     m_session.present();
     m_window = std::make_unique<qtbackend::QtWindow>(
         m_recording ? m_recording->begin(m_session) : m_session.windowContent(),
         qtbackend::WindowOptions{.title = title, .size = device.size, .safeArea = device.safeArea});
     QObject::connect(&m_lookAround, &QTimer::timeout, &m_lookAround, [this] { lookAround(); });
+    // At once, so that the first sight of the paywall is the desktop's where that has answered by then.
+    QObject::connect(&qtbackend::DesktopSettings::shared(), &qtbackend::DesktopSettings::changed, m_window.get(), [this] {
+        m_loop.runDueTurns();
+        followSystem();
+    });
     QObject::connect(&m_lookAtSources, &QTimer::timeout, &m_lookAtSources, [this] { lookAtSources(); });
     if (!m_sources) return;
     m_keys.emplace(previewLocales(device.locale, device.strings));
@@ -80,7 +85,7 @@ int ShownSession::run(qtbackend::Application& application) {
 }
 
 void ShownSession::lookAround() {
-    if (EndRequest::isThere()) return qtbackend::Application::quit(done);
+    if (EndRequest::isThere() || m_log->isLost()) return qtbackend::Application::quit(done);
     m_loop.runDueTurns();
     followSystem();
     if (m_session.window().isTransitioning()) return;
@@ -91,8 +96,10 @@ void ShownSession::lookAround() {
     m_session.open(m_arguments.start);
 }
 
-// The scale of the screen that the window is on now, and the system's appearance.
-void ShownSession::followSystem() { setDevice(followingDevice(m_arguments, m_session.device(), m_window->devicePixelRatio())); }
+// The scale of the screen that the window is on now, and the system's settings.
+void ShownSession::followSystem() {
+    setDevice(followingDevice(m_arguments, qtbackend::DesktopSettings::shared(), m_session.device(), m_window->devicePixelRatio()));
+}
 
 // In the window's own size, whatever the session was begun with.
 void ShownSession::setDevice(const Device& device) {

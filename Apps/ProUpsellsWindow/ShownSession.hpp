@@ -50,6 +50,7 @@ private:
     SourceWatch* const m_sources;
     std::shared_ptr<WindowClock> m_clock;
     runloop::MainRunLoop m_loop;
+    std::shared_ptr<EventLog> m_log;
     HostSession m_session;
     std::unique_ptr<qtbackend::QtWindow> m_window;
     qtbackend::QtRunLoopDriver m_driver;

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <utility>
 
+#include "Backends/Qt/DesktopSettings.hpp"
 #include "Backends/Qt/Install.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 
@@ -26,8 +27,12 @@ EmbeddedScreen::EmbeddedScreen(std::unique_ptr<ScreenPlace> place, std::function
       m_input(m_screen.content()), m_accessibility(std::move(place), m_screen.window()) {
     window().setFocusLeaves(true);
     m_screen.setDismissalHandler(std::move(dismissalHandler));
+    m_desktop =
+        QObject::connect(&DesktopSettings::shared(), &DesktopSettings::changed, &m_place.object(), [this] { adoptTraits(); });
     adoptTraits();
 }
+
+EmbeddedScreen::~EmbeddedScreen() { QObject::disconnect(m_desktop); }
 
 bool EmbeddedScreen::setController(std::shared_ptr<uikit::UIViewController> controller) {
     const QPointer<QObject> owner(&m_place.object());
@@ -42,7 +47,9 @@ void EmbeddedScreen::setTraits(const ScreenTraits& traits) {
     adoptTraits();
 }
 
-void EmbeddedScreen::adoptTraits() { window().setTraits(traitsOf(m_traits, m_place.systemTraits(), m_place.scale())); }
+void EmbeddedScreen::adoptTraits() {
+    window().setTraits(traitsOf(m_traits, m_place.systemTraits(), DesktopSettings::shared(), m_place.scale()));
+}
 
 // --- Picture ---
 
@@ -50,6 +57,7 @@ void EmbeddedScreen::setSeen(bool isSeen) {
     schedule();
     m_pacer.setRunning(isSeen);
     if (!isSeen) m_input.cancelTouch();
+    m_accessibility.updateLater();
 }
 
 // The display may have changed since the last frame.

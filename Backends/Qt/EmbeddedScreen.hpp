@@ -1,6 +1,7 @@
 // A screen inside the host's own user interface: what a widget and an item have in common.
 #pragma once
 
+#include <QObject>
 #include <memory>
 
 #include "Backends/Qt/FramePacer.hpp"
@@ -22,6 +23,10 @@ class PROUPSELLS_EXPORT EmbeddedScreen {
 public:
     // Installs what is missing. The handler is told when the controller is to go.
     EmbeddedScreen(std::unique_ptr<ScreenPlace> place, std::function<void()> dismissalHandler);
+
+    ~EmbeddedScreen();
+    EmbeddedScreen(const EmbeddedScreen&) = delete;
+    EmbeddedScreen& operator=(const EmbeddedScreen&) = delete;
 
     // What the controller stands in.
     uikit::UIWindow& window() const { return m_screen.window(); }
@@ -70,6 +75,7 @@ private:
 
     ScreenPlace& m_place; // owned by what offers it to assistive technology
     ScreenTraits m_traits;
+    QMetaObject::Connection m_desktop;
     bool m_showsHand = false;
     standard::PixelScreen m_screen;
     PixelImage m_image;

@@ -116,9 +116,10 @@ void QtAccessibility::updateLater() {
         Qt::QueuedConnection);
 }
 
-// The dialog, or nothing.
+// The dialog, or nothing. A scene goes on listing items that it does not show, so what is hidden is empty.
 std::vector<ReadingElement> QtAccessibility::told() {
     std::vector<ReadingElement> told;
+    if (!m_place->isVisible()) return told;
     if (ReadingElement dialog = m_content.reading(); !isEmpty(dialog)) told.push_back(std::move(dialog));
     return told;
 }

@@ -38,7 +38,8 @@ public:
     QAccessibleInterface* root();
     // To be called when the picture is made anew; not all that is told can be seen.
     void update();
-    // To be called when the focus has come into the window, widget or item, or has left it. Tells of it once Qt has told its own.
+    // To be called when the focus has come into the window, widget or item, or has left it, and when that is shown or hidden. Tells
+    // of it once Qt has told its own.
     void updateLater();
 
     AccessiblePlace& place() const { return *m_place; }

@@ -17,7 +17,7 @@ struct ScreenTraits {
     std::optional<geometry::LayoutDirection> layoutDirection;
     std::optional<bool> reducesMotion;
     // On top of the scale factor, which follows the display.
-    graphics::ContentSizeCategory textSize = graphics::ContentSizeCategory::large;
+    std::optional<graphics::ContentSizeCategory> textSize = std::nullopt;
 
     bool operator==(const ScreenTraits&) const = default;
 };

@@ -7,6 +7,8 @@
 
 namespace proupsells::qtbackend {
 
+class DesktopSettings;
+
 // As the widget or the application around the screen has them.
 struct SystemTraits {
     QPalette palette;
@@ -14,7 +16,9 @@ struct SystemTraits {
     bool reducesMotion = false;
 };
 
-// What the host decides, and else the system, at `scale` pixels a point.
-uikit::UITraitCollection traitsOf(const ScreenTraits& decided, const SystemTraits& system, double scale);
+// What the host decides, and else the system, at `scale` pixels a point. The desktop says how large texts are and whether things
+// move; light or dark is the application's affair, so that the screen looks like what is around it.
+uikit::UITraitCollection traitsOf(const ScreenTraits& decided, const SystemTraits& system, const DesktopSettings& desktop,
+                                  double scale);
 
 } // namespace proupsells::qtbackend

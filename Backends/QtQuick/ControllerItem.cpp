@@ -88,12 +88,26 @@ void ControllerItem::setReducesMotion(bool reduces) {
     setTraits(traits);
 }
 
-int ControllerItem::textSize() const { return int(m_screen->traits().textSize) - usualTextSize; }
+void ControllerItem::resetReducesMotion() {
+    qtbackend::ScreenTraits traits = m_screen->traits();
+    traits.reducesMotion.reset();
+    setTraits(traits);
+}
+
+int ControllerItem::textSize() const {
+    return int(m_screen->traits().textSize.value_or(graphics::ContentSizeCategory(usualTextSize))) - usualTextSize;
+}
 
 void ControllerItem::setTextSize(int steps) {
     constexpr int largest = int(graphics::ContentSizeCategory::accessibilityExtraExtraExtraLarge);
     qtbackend::ScreenTraits traits = m_screen->traits();
     traits.textSize = graphics::ContentSizeCategory(std::clamp(usualTextSize + steps, 0, largest));
+    setTraits(traits);
+}
+
+void ControllerItem::resetTextSize() {
+    qtbackend::ScreenTraits traits = m_screen->traits();
+    traits.textSize.reset();
     setTraits(traits);
 }
 

@@ -20,17 +20,19 @@ namespace proupsells::qtquick {
 // Shows a controller, and whatever it presents, wherever an item can stand. The application, its event loop and its scene stay the
 // host's; the services and the main run loop are installed where the host has not done so (qtbackend::install()).
 //
-// The screen follows the application's palette and layout direction and the window's scale factor, unless a property says
-// otherwise. Tab goes through its controls and on to the next item; Escape leaves the screen in front. Invisible, it costs nothing.
-// It may be moved to another window at any time, and be deleted from inside any call that it makes.
+// The screen follows the application's palette and layout direction, the window's scale factor and the desktop's text size and
+// reduced motion, unless a property says otherwise. Tab goes through its controls and on to the next item; Escape leaves the screen
+// in front. Invisible, it costs nothing. It may be moved to another window at any time, and be deleted from inside any call that it
+// makes.
 class PROUPSELLS_EXPORT ControllerItem : public QQuickItem {
     Q_OBJECT
     // What the host decides about the screen; at first the system and the application decide. `textSize` counts steps from the
-    // usual size, from -3 to 8.
+    // usual size, from -3 to 8. `reducesMotion` and `textSize` are false and 0 while the host says nothing, which setting them to
+    // undefined brings back.
     Q_PROPERTY(ColorScheme colorScheme READ colorScheme WRITE setColorScheme NOTIFY traitsChanged)
     Q_PROPERTY(Direction direction READ direction WRITE setDirection NOTIFY traitsChanged)
-    Q_PROPERTY(bool reducesMotion READ reducesMotion WRITE setReducesMotion NOTIFY traitsChanged)
-    Q_PROPERTY(int textSize READ textSize WRITE setTextSize NOTIFY traitsChanged)
+    Q_PROPERTY(bool reducesMotion READ reducesMotion WRITE setReducesMotion RESET resetReducesMotion NOTIFY traitsChanged)
+    Q_PROPERTY(int textSize READ textSize WRITE setTextSize RESET resetTextSize NOTIFY traitsChanged)
 
 public:
     // NOLINTBEGIN(readability-identifier-naming): QML wants values that begin with a capital.
@@ -63,9 +65,11 @@ public:
     void setDirection(Direction direction);
     bool reducesMotion() const;
     void setReducesMotion(bool reduces);
+    void resetReducesMotion();
     // Steps above (or, negative, below) the usual text size; from -3 to 8.
     int textSize() const;
     void setTextSize(int steps);
+    void resetTextSize();
 
 signals:
     // One of the properties has become another one.

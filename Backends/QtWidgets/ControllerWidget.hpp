@@ -17,9 +17,10 @@ namespace proupsells::qtwidgets {
 // Shows a controller, and whatever it presents, wherever a widget can stand. The application and its event loop stay the host's;
 // the services and the main run loop are installed where the host has not done so (qtbackend::install()).
 //
-// The screen follows the widget's palette and layout direction, the display's scale factor and the style's animations, unless
-// setTraits() says otherwise. Tab goes through its controls and on to the next widget; Escape leaves the screen in front. Hidden,
-// it costs nothing. It may be reparented at any time, and be deleted from inside any call that it makes.
+// The screen follows the widget's palette and layout direction, the display's scale factor, the style's animations and the
+// desktop's text size and reduced motion, unless setTraits() says otherwise. Tab goes through its controls and on to the next
+// widget; Escape leaves the screen in front. Hidden, it costs nothing. It may be reparented at any time, and be deleted from inside
+// any call that it makes.
 class PROUPSELLS_EXPORT ControllerWidget : public QWidget {
     Q_OBJECT
 

@@ -51,6 +51,8 @@ bool writePng(const Picture& picture, const std::filesystem::path& file) {
     std::filesystem::path draft = file;
     draft += ".part";
     std::error_code error;
+    // It may be a link of somebody else's.
+    std::filesystem::remove(draft, error);
     {
         std::ofstream stream(draft, std::ios::binary);
         stream.write(bytes.data(), std::streamsize(bytes.size()));

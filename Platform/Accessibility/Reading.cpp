@@ -39,6 +39,15 @@ std::string spokenName(const SemanticNode& node) {
     return node.label.empty() ? spokenTexts(node) : node.label;
 }
 
+// Null where there is none inside.
+const SemanticNode* plateIn(const SemanticNode& node) {
+    for (const SemanticNode& child : node.children) {
+        if (child.spoken.isPlate) return &child;
+        if (const SemanticNode* const found = child.isControl ? nullptr : plateIn(child)) return found;
+    }
+    return nullptr;
+}
+
 ReadingElement elementOf(const SemanticNode& node) {
     ReadingElement element;
     element.role = roleOf(node);
@@ -47,6 +56,8 @@ ReadingElement elementOf(const SemanticNode& node) {
     element.name = isContainer(element.role) ? node.spoken.name : spokenName(node);
     element.value = node.value;
     element.frame = node.frame;
+    const SemanticNode* const plate = node.isControl ? plateIn(node) : nullptr;
+    element.plate = plate ? plate->frame : node.frame;
     element.isOnScreen = node.isOnScreen;
     element.isDisabled = contains(node.traits, Traits::disabled);
     element.isChecked = node.spoken.isChecked;

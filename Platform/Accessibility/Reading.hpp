@@ -20,6 +20,7 @@ struct ReadingElement {
     std::string name;       // in the person's language; never empty, except where a host's own view has no words
     std::string value;      // such as the page of a pager; empty for none
     geometry::Rect frame;   // window points
+    geometry::Rect plate;   // what is seen of it, in window points; as a rule the frame
     bool isOnScreen = false;
     bool isDisabled = false;
     bool isBusy = false; // of dialogs: it is on its way, and nothing in it can be operated before it stands

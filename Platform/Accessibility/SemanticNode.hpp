@@ -101,6 +101,8 @@ struct SpokenInfo {
     bool isSilent = false; // neither it nor anything inside is read
     // Keys stop at it, be it only to hold what moves in it.
     bool takesFocus = false;
+    // All that is seen of the control that it is in, whose own frame is larger.
+    bool isPlate = false;
 
     bool operator==(const SpokenInfo&) const = default;
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 
 namespace proupsells::graphics {
@@ -29,6 +30,17 @@ inline constexpr int contentSizeCategoryCount = 12;
 constexpr double scaleFactor(ContentSizeCategory category) {
     constexpr double bodySizes[contentSizeCategoryCount] = {14, 15, 16, 17, 19, 21, 23, 28, 33, 40, 47, 53};
     return bodySizes[int(category)] / 17;
+}
+
+// The category that makes texts larger by nearly `factor`, which is above 0: by the least ratio between the two.
+inline ContentSizeCategory nearestCategory(double factor) {
+    const auto distance = [factor](int category) {
+        return std::abs(std::log(scaleFactor(ContentSizeCategory(category)) / factor));
+    };
+    int nearest = 0;
+    for (int category = 1; category < contentSizeCategoryCount; ++category)
+        if (distance(category) < distance(nearest)) nearest = category;
+    return ContentSizeCategory(nearest);
 }
 
 // Points below which no category makes a text smaller.

@@ -18,7 +18,7 @@ View VelaPrimaryButtonStyle::body(const ButtonStyleConfiguration& configuration,
            lumokit::largestTextSize(lumokit::LargestSize::buttonText) | multilineTextAlignment(graphics::TextAlignment::center) |
            foregroundStyle(isEnabled ? velaLightText : velaLabel) | padding(Edge::horizontal) |
            frame({.maxWidth = geometry::infinity, .maxHeight = greatestHeight}) |
-           background(plate.fill(marwickContentAccent) | opacity(isEnabled ? 1 : disabledPlateOpacity)) |
+           background(plate.fill(marwickContentAccent) | opacity(isEnabled ? 1 : disabledPlateOpacity) | accessibilityPlate()) |
            scaleEffect(configuration.isPressed ? 0.98 : 1) | opacity(configuration.isPressed ? 0.85 : 1) |
            frame({.maxHeight = geometry::infinity, .alignment = Alignment::bottom});
 }

@@ -94,26 +94,31 @@ class Ear:
         self.heard.clear()
 
 
-class Program:
-    """`proupsells show --start SCREEN` until the end of the block, once the screen stands."""
+class Host:
+    """A program with a window, and what a person and a client of the bus do with its paywall, until the end of the block."""
 
-    def __init__(self, screen="paywall", *options):
+    def __init__(self, command, window, **environment):
+        """`window` is the title of the one that the paywall stands in."""
         self.ear = Ear()
-        self.events = []
+        self.lines = []
+        self._window_title = window
         # Qt asks the session whether anybody reads the screen; here somebody does.
-        environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb")
-        self._process = subprocess.Popen([PROGRAM, "show", OFFERS, "--start", screen, "--size", "375x800", *options], env=environment, stdout=subprocess.PIPE, text=True)
+        environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb", **environment)
+        self._process = subprocess.Popen(command, env=environment, stdout=subprocess.PIPE, text=True)
         self._reader = threading.Thread(target=self._read)
         self._reader.start()
-        self._screen = SCREENS[screen]
 
     def _read(self):
         for line in self._process.stdout:
-            self.events.append(json.loads(line))
+            self.lines.append(line.rstrip("\n"))
+
+    def open(self):
+        """Brings the first screen about, and waits for it."""
+        self.wait_for_screen(PAYWALL)
 
     def __enter__(self):
         try:
-            self.wait_for_screen(self._screen)
+            self.open()
         except BaseException:
             self.__exit__()
             raise
@@ -126,14 +131,8 @@ class Program:
         self._process.stdout.close()
         self.ear.close()
 
-    # --- Event lines ---
-
-    def wait_for_event(self, event, **details):
-        """The first event line with these details."""
-        def found():
-            return next((line for line in self.events
-                         if line["event"] == event and all(line.get(key) == value for key, value in details.items())), None)
-        return wait_for(lambda: f"the event {event} {details}; there were {self.events}", found)
+    def wait_for_line(self, line):
+        wait_for(lambda: f"the line '{line}'; there were {self.lines}", lambda: line in self.lines)
 
     def wait_for_screen(self, name):
         """The dialog of this name, once it stands."""
@@ -147,18 +146,20 @@ class Program:
         """The exit status."""
         return wait_for("the program to end", lambda: self._process.poll() is not None and [self._process.returncode])[0]
 
+    def window(self, title=None):
+        """As the display numbers it; the paywall's where no title is given."""
+        return wait_for("a window", lambda: self._windows(title or self._window_title))[-1]
+
+    def _windows(self, title):
+        return subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(self._process.pid), "--name", f"^{title}$"],
+                              capture_output=True, text=True).stdout.split()
+
     # --- Keys ---
 
     def take_keys(self):
-        window = wait_for("a window", self._window)
-        subprocess.run(["xdotool", "windowfocus", "--sync", window], check=True)
+        subprocess.run(["xdotool", "windowfocus", "--sync", self.window()], check=True)
         self.ear.wait_for("window:activate")
         self.ear.wait_for("object:state-changed:focused", is_on=True)
-
-    def _window(self):
-        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(self._process.pid), "--name", "ProUpsells"],
-                               capture_output=True, text=True).stdout.split()
-        return found[-1] if found else None
 
     def press_and_hear_focus(self, key):
         """Where the focus has gone: role and name."""
@@ -180,9 +181,10 @@ class Program:
         return next((one for one in desktop if one and one.get_process_id() == self._process.pid), None)
 
     def dialog(self):
+        """The screen's, which is one among whatever else the program tells of; none before it is there."""
         application = self.application()
-        frame = application[0] if application and application.childCount else None
-        return frame[0] if frame and frame.childCount else None
+        is_screen = lambda one: one.getRoleName() == "dialog" and one.name in SCREENS.values()
+        return application and pyatspi.findDescendant(application, is_screen)
 
     def find(self, role, name):
         """What is told under this role and name, which must be there once."""
@@ -201,3 +203,30 @@ class Program:
 
     def press(self, role, name):
         self.act(role, name, "Press")
+
+
+class Program(Host):
+    """`proupsells show --start SCREEN`."""
+
+    def __init__(self, screen="paywall", *options):
+        super().__init__([PROGRAM, "show", OFFERS, "--start", screen, "--size", "375x800", *options], "ProUpsells")
+        self._screen = SCREENS[screen]
+
+    def open(self):
+        self.wait_for_screen(self._screen)
+
+    def dialog(self):
+        application = self.application()
+        frame = application[0] if application and application.childCount else None
+        return frame[0] if frame and frame.childCount else None
+
+    @property
+    def events(self):
+        return [json.loads(line) for line in self.lines]
+
+    def wait_for_event(self, event, **details):
+        """The first event line with these details."""
+        def found():
+            return next((line for line in self.events
+                         if line["event"] == event and all(line.get(key) == value for key, value in details.items())), None)
+        return wait_for(lambda: f"the event {event} {details}; there were {self.events}", found)

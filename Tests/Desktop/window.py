@@ -68,6 +68,14 @@ class Window(unittest.TestCase):
         with Screen("1024x700", "--size", "375x800", "--scale", "2") as screen:
             self.assertEqual(screen.size(), (750, 1600))
 
+    def test_ends_when_its_lines_are_lost(self):
+        environment = dict(os.environ, QT_QPA_PLATFORM="xcb", DBUS_SESSION_BUS_ADDRESS="disabled:")
+        with open("/dev/full", "w") as full:
+            ended = subprocess.run([PROGRAM, "show", OFFERS], env=environment, stdout=full, stderr=subprocess.PIPE, text=True,
+                                   timeout=TIMEOUT_S)
+        self.assertEqual(ended.returncode, 2)
+        self.assertRegex(ended.stderr, r"\Astandard output: /: .*\n\Z")
+
     def test_has_one_name_and_an_icon(self):
         with Screen("1440x1000") as screen:
             properties = screen.properties()

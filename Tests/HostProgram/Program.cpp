@@ -50,15 +50,17 @@ std::vector<Json> Outcome::events(const std::string& kind) const {
 
 std::vector<std::string> Outcome::errorLines() const { return lines(errors); }
 
-Outcome runProgram(const std::vector<std::string>& arguments, const std::filesystem::path& program) {
+Outcome runProgram(const std::vector<std::string>& arguments, const std::filesystem::path& program,
+                   const std::filesystem::path& outputFile) {
     const Folder folder;
     std::string command = quoted(program.string());
     for (const std::string& argument : arguments) command += " " + quoted(argument);
-    command += " > " + quoted(folder.path() / "output") + " 2> " + quoted(folder.path() / "errors") + " < /dev/null";
+    const std::filesystem::path output = outputFile.empty() ? folder.path() / "output" : outputFile;
+    command += " > " + quoted(output) + " 2> " + quoted(folder.path() / "errors") + " < /dev/null";
     const int status = std::system(command.c_str());
     Outcome outcome;
     outcome.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-    outcome.output = bytesOf(folder.path() / "output");
+    if (outputFile.empty()) outcome.output = bytesOf(output);
     outcome.errors = bytesOf(folder.path() / "errors");
     return outcome;
 }

@@ -37,7 +37,9 @@ public:
 
 inline const std::filesystem::path builtProgram = PROUPSELLS_PROGRAM;
 
-Outcome runProgram(const std::vector<std::string>& arguments, const std::filesystem::path& program = builtProgram);
+// `outputFile` takes what the program prints in the outcome's stead, where it is not empty.
+Outcome runProgram(const std::vector<std::string>& arguments, const std::filesystem::path& program = builtProgram,
+                   const std::filesystem::path& outputFile = {});
 // Plays a scenario with fixed fonts unless its device says otherwise; pictures go to the scenario's folder.
 Outcome play(const Json& scenario, const std::filesystem::path& program = builtProgram);
 // The sample offers' options and referrer.

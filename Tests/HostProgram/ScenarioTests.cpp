@@ -244,6 +244,22 @@ TEST(Scenario, TranslationsComeFromTheHostsFolder) {
     EXPECT_THAT(shown, testing::Contains("Terms of Service"));
 }
 
+TEST(Scenario, TheOrderOfADevicesKeysDoesNotCount) {
+    const Json sets[] = {Json::parse(R"({"size": [20000, 300], "scale": 1})"), Json::parse(R"({"scale": 1, "size": [20000, 300]})"),
+                         Json::parse(R"({"size": [375, 60], "safeArea": [10, 0, 10, 0]})"),
+                         Json::parse(R"({"safeArea": [10, 0, 10, 0], "size": [375, 60]})")};
+
+    for (const Json& set : sets) {
+        Json steps = Json::array({{{"set", set}}, {{"dump", "screen"}}});
+        // Insets that the smaller window has no room for.
+        const Json device{{"size", {375, 800}}, {"safeArea", {50, 0, 34, 0}}};
+        const Outcome outcome = play({{"device", device}, {"steps", steps}});
+        EXPECT_EQ(outcome.status, 0) << set << outcome.errors;
+        EXPECT_EQ(outcome.events("screen").front()["size"], set["size"]);
+        EXPECT_EQ(play({{"device", set}}).status, 0) << set;
+    }
+}
+
 TEST(Scenario, SnapshotsHaveThePixelsOfTheDevice) {
     Json odd = scenario(R"([{"snapshot": "a.png"}, {"set": {"scale": 1}}, {"snapshot": "b.png"}])");
     odd["device"] = {{"size", {375, 667}}, {"scale", 1.5}};

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "Tests/ProUpsells/KeyboardScreen.hpp"
+#include "Tests/ProUpsells/SemanticSearch.hpp"
 
 namespace proupsells::tests {
 namespace {
@@ -92,6 +93,22 @@ TEST_F(Keyboard, BeginsAtClose) {
     window->key(Key::tab);
 
     EXPECT_EQ(inFocus(), "close");
+}
+
+// A touch reaches further than the plate that is seen of the comparison's button.
+TEST_F(Keyboard, RingsWhatIsSeenOfAButton) {
+    tap("comparePlans");
+    tabTo("comparison.choosePlan");
+    graphics::DisplayList list;
+    window->paint(list);
+    const accessibility::SemanticNode tree = window->semanticTree();
+    const accessibility::SemanticNode button = find(tree, "comparison.choosePlan");
+    const geometry::Rect plate = firstOfType(button, "Capsule").frame, ring = list.commands.back().frame;
+
+    ASSERT_EQ(list.commands.back().kind, graphics::CommandKind::strokeRoundedRectangle);
+    ASSERT_EQ(button.frame.height(), 64);
+    ASSERT_EQ(plate.height(), 56);
+    EXPECT_EQ(ring, plate.insetBy(-4.5, -4.5));
 }
 
 TEST_F(Keyboard, FollowsTheOrderInWhichThePaywallIsRead) {

@@ -13,6 +13,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
+#include "Backends/Qt/DesktopSettings.hpp"
 #include "Backends/QtQuick/PaywallItem.hpp"
 #include "Platform/Accessibility/Search.hpp"
 #include "Platform/Commons/DefaultLogger.hpp"
@@ -207,6 +208,28 @@ TEST_F(Items, FollowTheirProperties) {
     EXPECT_EQ(traits.userInterfaceStyle, graphics::ColorScheme::light);
 }
 
+TEST_F(Items, FollowTheDesktopUnlessTheHostDecides) {
+    auto& desktop = qtbackend::DesktopSettings::shared();
+    show();
+    const uikit::UITraitCollection& traits = paywall->uiWindow().traits();
+    desktop.adopt("org.gnome.desktop.interface", "text-scaling-factor", 2.0);
+    desktop.adopt("org.gnome.desktop.interface", "enable-animations", false);
+    EXPECT_EQ(traits.preferredContentSizeCategory, graphics::ContentSizeCategory::accessibilityLarge);
+    EXPECT_TRUE(traits.reduceMotion);
+
+    paywall->setTextSize(0);
+    paywall->setReducesMotion(false);
+    EXPECT_EQ(traits.preferredContentSizeCategory, graphics::ContentSizeCategory::large);
+    EXPECT_FALSE(traits.reduceMotion);
+
+    paywall->resetTextSize();
+    paywall->resetReducesMotion();
+    EXPECT_EQ(traits.preferredContentSizeCategory, graphics::ContentSizeCategory::accessibilityLarge);
+    EXPECT_TRUE(traits.reduceMotion);
+    desktop.adopt("org.gnome.desktop.interface", "text-scaling-factor", 1.0);
+    desktop.adopt("org.gnome.desktop.interface", "enable-animations", true);
+}
+
 TEST_F(Items, FollowTheApplicationsPaletteAndDirection) {
     show();
     const QPalette former = QGuiApplication::palette();
@@ -266,6 +289,20 @@ TEST_F(Items, MayBeDeletedFromInsideACallback) {
     clickOn("subscribe");
 
     EXPECT_TRUE(paywall.isNull());
+}
+
+TEST_F(Items, TellNothingWhileNobodySeesThem) {
+    show();
+    QAccessibleInterface* const tree = QAccessible::queryAccessibleInterface(paywall);
+    ASSERT_EQ(tree->childCount(), 1);
+    paywall->setVisible(false);
+    settle();
+    EXPECT_EQ(tree->childCount(), 0);
+    EXPECT_EQ(tree->focusChild(), nullptr);
+    paywall->setVisible(true);
+    settle();
+
+    EXPECT_EQ(tree->childCount(), 1);
 }
 
 TEST_F(Items, StandInTheScenesAccessibleTree) {

@@ -8,6 +8,7 @@
 #include <QPalette>
 #include <QPointer>
 
+#include "Backends/Qt/DesktopSettings.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Tests/QtWidgets/Shop.hpp"
 
@@ -181,6 +182,25 @@ TEST_F(Widgets, FollowThePaletteAndTheDirectionUnlessTheHostDecides) {
     EXPECT_EQ(traits.preferredContentSizeCategory, graphics::ContentSizeCategory::extraExtraLarge);
 }
 
+TEST_F(Widgets, FollowTheDesktopUnlessTheHostDecides) {
+    auto& desktop = qtbackend::DesktopSettings::shared();
+    show();
+    const uikit::UITraitCollection& traits = widget->uiWindow().traits();
+    desktop.adopt("org.gnome.desktop.interface", "text-scaling-factor", 2.0);
+    desktop.adopt("org.gnome.desktop.interface", "enable-animations", false);
+    EXPECT_EQ(traits.preferredContentSizeCategory, graphics::ContentSizeCategory::accessibilityLarge);
+    EXPECT_TRUE(traits.reduceMotion);
+
+    widget->setTraits({.reducesMotion = false, .textSize = graphics::ContentSizeCategory::large});
+    EXPECT_EQ(traits.preferredContentSizeCategory, graphics::ContentSizeCategory::large);
+    EXPECT_FALSE(traits.reduceMotion);
+
+    // Nobody listens any more.
+    delete widget;
+    desktop.adopt("org.gnome.desktop.interface", "text-scaling-factor", 1.0);
+    desktop.adopt("org.gnome.desktop.interface", "enable-animations", true);
+}
+
 TEST_F(Widgets, RunNothingWhileTheyAreHidden) {
     show();
     EXPECT_TRUE(widget->uiWindow().isSeen());
@@ -275,6 +295,20 @@ TEST_F(Widgets, TellTheirContainerWhenTheControllerIsToGo) {
     screen->dismiss(true);
 
     EXPECT_EQ(asked, 1);
+}
+
+TEST_F(Widgets, TellNothingWhileNobodySeesThem) {
+    QWidget window;
+    show(&window);
+    QAccessibleInterface* const tree = QAccessible::queryAccessibleInterface(widget);
+    ASSERT_EQ(tree->childCount(), 1);
+    widget->hide();
+    settle();
+    EXPECT_EQ(tree->childCount(), 0);
+    widget->show();
+    settle();
+
+    EXPECT_EQ(tree->childCount(), 1);
 }
 
 TEST_F(Widgets, HangTheirAccessibleTreeIntoTheHostsOwn) {

@@ -10,7 +10,7 @@ using accessibility::Traits;
 
 SemanticNode sampleScreen() {
     SemanticNode price{.type = "Text", .frame = {{20.5, -3}, {100, 22.3456}}, .isOnScreen = true};
-    price.text = {.text = "say \"9 \\ 10\"\nor\x1B[2J", .font = "body", .size = 17, .color = "velaLabel", .lineCount = 2};
+    price.text = {.text = "say \"9 \\ 10\"\nor\x1B[2J\xC2\x9B", .font = "body", .size = 17, .color = "velaLabel", .lineCount = 2};
     SemanticNode button{.type = "Button", .frame = {{16, 0}, {343, 56}}, .identifier = "subscribe"};
     button.traits = Traits::button | Traits::selected;
     button.opacity = 0.25;
@@ -25,7 +25,7 @@ TEST(ScreenText, HasANodeALineWithWhatTheNodeHas) {
     EXPECT_EQ(screenText(screenTree(sampleScreen())),
               "UIWindow [0 0 375 800] offset=\"0 12.5\" content=\"375 1200\" inset=\"0 0 0 0\"\n"
               "  Button [16 0 343 56] identifier=\"subscribe\" onScreen=\"no\" traits=\"button selected\" opacity=\"0.25\"\n"
-              "    Text [20.5 -3 100 22.346] text=\"say \\\"9 \\\\ 10\\\"\\nor\\u001b[2J\" font=\"body\" size=\"17\" "
+              "    Text [20.5 -3 100 22.346] text=\"say \\\"9 \\\\ 10\\\"\\nor\\u001b[2J\\u009b\" font=\"body\" size=\"17\" "
               "colour=\"velaLabel\" lines=\"2\"\n"
               "  Image [0 0 0 0] image=\"star\"\n");
 }

@@ -60,9 +60,10 @@ def close(size, dark):
 
 
 def terms_gradient():
-    """Clear above, paper in the last eight points, eased so that no edge shows. Low, so that it washes out no more than one line."""
+    """Clear above, paper at the very end, eased so that no edge shows, but in less than the height of a line's letters: what stands
+    below is read or is gone, and never faint."""
     c = Canvas(375, 32)
-    eased = ((0, 0), (0.11, 0.05), (0.22, 0.19), (0.34, 0.42), (0.45, 0.68), (0.56, 0.88), (0.67, 0.98), (0.75, 1), (1, 1))
+    eased = ((0, 0), (0.75, 0), (0.79, 0.1), (0.83, 0.35), (0.87, 0.7), (0.91, 0.93), (0.95, 1), (1, 1))
     c.fill(Path.rect(0, 0, 375, 32), linear((0, 0), (0, 32), *[(offset, "#FFFFFF", share) for offset, share in eased]))
     return c
 

@@ -50,6 +50,7 @@ protected:
         if (!pending.isExpanded) pending.isExpanded = own.isExpanded;
         if (pending.order == 0) pending.order = own.order;
         if (own.isSilent) pending.isSilent = true;
+        if (own.isPlate) pending.isPlate = true;
     }
 
 private:

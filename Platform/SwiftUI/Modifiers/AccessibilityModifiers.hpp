@@ -52,6 +52,8 @@ inline SpokenModifier accessibilityDisclosure(bool isExpanded) {
 }
 // Lower ones are read earlier; 0 is usual.
 inline SpokenModifier accessibilityReadingOrder(int order) { return {{.order = order}}; }
+// All that is seen of the control around it; the ring of the keys goes round it.
+inline SpokenModifier accessibilityPlate() { return {{.isPlate = true}}; }
 // Not read, nor anything inside; still in the semantic tree.
 inline SpokenModifier accessibilitySilent() { return {{.isSilent = true}}; }
 

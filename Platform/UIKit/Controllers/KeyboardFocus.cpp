@@ -216,7 +216,7 @@ std::optional<geometry::Rect> KeyboardFocus::frameInFocus(const accessibility::S
     const Stops stops = stopsIn(screen);
     const std::optional<std::size_t> here = indexInFocus(stops.all);
     if (!here || !stops.all[*here].element->isOnScreen) return std::nullopt;
-    return stops.all[*here].element->frame;
+    return stops.all[*here].element->plate;
 }
 
 } // namespace proupsells::uikit

@@ -40,8 +40,8 @@ public:
 
     // Says of the window's reading who has the focus, and lets it be given to others.
     void mark(accessibility::ReadingElement& reading);
-    // Where the control in focus stood when it was given or painted last, in window points. Absent while nobody had it or while it
-    // could not be seen.
+    // Where what is seen of the control in focus stood when it was given or painted last, in window points. Absent while nobody had
+    // it or while it could not be seen.
     const std::optional<geometry::Rect>& lastFrame() const { return m_lastFrame; }
     void paintRing(graphics::PaintContext& context);
 
