@@ -121,7 +121,7 @@ std::vector<Task> tasksOf(const AuditMatrix& matrix) {
     return tasks;
 }
 
-Json toJson(const GalleryPicture& picture) {
+Json rowOf(const GalleryPicture& picture) {
     return {picture.screen, picture.moment, picture.locale, picture.size,  picture.textSize, picture.appearance,
             picture.digest, picture.file,   picture.tree,   picture.width, picture.height};
 }
@@ -142,7 +142,7 @@ std::string perform(const Task& task, const GallerySubject& subject, const Galle
         for (const ColorScheme appearance : subject.matrix.configurations.appearances) {
             device.appearance = appearance;
             for (const GalleryPicture& picture : ConfigurationPainter(task.screen, subject.offers, device, folder).paint())
-                rows.push_back(toJson(picture));
+                rows.push_back(rowOf(picture));
         }
     } catch (const std::runtime_error& error) {
         rows = error.what();

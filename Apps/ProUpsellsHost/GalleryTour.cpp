@@ -26,9 +26,9 @@ void forEachNode(const SemanticNode& node, const Use& use) {
         for (const SemanticNode& each : *nodes) forEachNode(each, use);
 }
 
-double sumOfOffsets(const SemanticNode& node) {
+double scrolledDistance(const SemanticNode& node) {
     double sum = node.scroll ? node.scroll->contentOffset.y : 0;
-    for (const SemanticNode& child : node.children) sum += sumOfOffsets(child);
+    for (const SemanticNode& child : node.children) sum += scrolledDistance(child);
     return sum;
 }
 
@@ -95,10 +95,10 @@ void GalleryTour::visit(const std::string& moment) {
 
 void GalleryTour::visitFurtherDown() {
     for (int part = 1;; ++part) {
-        const double before = sumOfOffsets(m_session.window().semanticTree());
+        const double before = scrolledDistance(m_session.window().semanticTree());
         m_session.window().key(host::Key::pageDown);
         m_driver.wait(rest_s);
-        if (sumOfOffsets(m_session.window().semanticTree()) <= before) return;
+        if (scrolledDistance(m_session.window().semanticTree()) <= before) return;
         visit(part == 1 ? "further down" : "further down " + std::to_string(part));
     }
 }

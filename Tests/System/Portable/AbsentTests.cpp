@@ -4,6 +4,7 @@
 #include "Platform/System/BecomeProgram.hpp"
 #include "Platform/System/ProgramFile.hpp"
 #include "Platform/System/SharedObject.hpp"
+#include "Platform/System/Terminal.hpp"
 
 using namespace proupsells;
 
@@ -26,5 +27,7 @@ TEST(BecomeProgram, ComesBackAtOnce) {
 
     EXPECT_EQ(system::becomeProgram("some", arguments), std::errc::function_not_supported);
 }
+
+TEST(Terminal, IsNotKnownToListen) { EXPECT_FALSE(system::errorsGoToTerminal()); }
 
 } // namespace
