@@ -97,12 +97,12 @@ class Ear:
 class Program:
     """`proupsells show --start SCREEN` until the end of the block, once the screen stands."""
 
-    def __init__(self, screen="paywall", *options):
+    def __init__(self, screen="paywall", *options, offers=OFFERS, errors=None):
         self.ear = Ear()
         self.events = []
         # Qt asks the session whether anybody reads the screen; here somebody does.
         environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb")
-        self._process = subprocess.Popen([PROGRAM, "show", OFFERS, "--start", screen, "--size", "375x800", *options], env=environment, stdout=subprocess.PIPE, text=True)
+        self._process = subprocess.Popen([PROGRAM, "show", offers, "--start", screen, "--size", "375x800", *options], env=environment, stdout=subprocess.PIPE, stderr=errors, text=True)
         self._reader = threading.Thread(target=self._read)
         self._reader.start()
         self._screen = SCREENS[screen]
