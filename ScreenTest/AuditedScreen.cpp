@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "Backends/Raster/PictureColor.hpp"
 #include "Backends/Raster/RasterSurface.hpp"
 #include "Tooling/PaintedAudit.hpp"
 #include "Tooling/SteeringAudit.hpp"
@@ -12,11 +13,7 @@ namespace {
 
 // Of a picture that was painted at a pixel a point.
 tooling::ColorAt colorsOf(const rasterbackend::Picture& picture) {
-    return [picture](geometry::Point point) -> graphics::RGBA {
-        const int x = std::clamp(int(point.x), 0, picture.width() - 1), y = std::clamp(int(point.y), 0, picture.height() - 1);
-        const rasterbackend::Pixel pixel = picture.row(y)[x];
-        return {std::uint8_t(pixel >> 16), std::uint8_t(pixel >> 8), std::uint8_t(pixel), 255};
-    };
+    return [picture](geometry::Point point) { return rasterbackend::colorAt(picture, point); };
 }
 
 rasterbackend::Picture painted(const graphics::DisplayList& list, geometry::Size size) {

@@ -1,5 +1,6 @@
 #include "Apps/ProUpsellsHost/AuditTour.hpp"
 
+#include "Backends/Raster/PictureColor.hpp"
 #include "Platform/Accessibility/Search.hpp"
 #include "Platform/Foundation/Locale.hpp"
 #include "Tooling/PaintedAudit.hpp"
@@ -15,11 +16,7 @@ namespace {
 
 // Of what was painted last, at a pixel a point.
 tooling::ColorAt colorsOf(const rasterbackend::RasterSurface& surface) {
-    return [&picture = surface.picture()](geometry::Point point) -> graphics::RGBA {
-        const int x = std::clamp(int(point.x), 0, picture.width() - 1), y = std::clamp(int(point.y), 0, picture.height() - 1);
-        const rasterbackend::Pixel pixel = picture.row(y)[x];
-        return {std::uint8_t(pixel >> 16), std::uint8_t(pixel >> 8), std::uint8_t(pixel), 255};
-    };
+    return [&picture = surface.picture()](geometry::Point point) { return rasterbackend::colorAt(picture, point); };
 }
 
 double sumOfOffsets(const SemanticNode& node) {

@@ -6,6 +6,7 @@
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
+#include "Apps/ProUpsellsHost/CommandLineTexts.hpp"
 #include "Apps/ProUpsellsHost/DeviceOptions.hpp"
 #include "Apps/ProUpsellsHost/InputError.hpp"
 #include "Apps/ProUpsellsHost/PreviewKeys.hpp"
@@ -198,6 +199,64 @@ private:
     std::string m_offers, m_folder, m_former, m_matrix, m_strings, m_theme;
 };
 
+class MakeEvidence final : public Command {
+public:
+    explicit MakeEvidence(CLI::App& parent) {
+        CLI::App& command =
+            *parent.add_subcommand("evidence", "What a customer was shown and agreed to, word by word, as one document");
+        command.add_option("SCENARIO.json", m_scenario, "The script, or a recording of what somebody did")->required();
+        command.add_option("--out", m_file, "The document, a page of HTML with its pictures inside")->required();
+        command.footer("Prints the SHA-256 digest that the document's second line has. The same scenario gives the same one.\n\n"
+                       "Example: proupsells evidence recording.json --out evidence.html");
+    }
+
+    Arguments read() const override { return EvidenceArguments{system::pathOf(m_scenario), system::pathOf(m_file)}; }
+
+private:
+    std::string m_scenario, m_file;
+};
+
+constexpr Word<Shell> shells[] = {
+    {"bash", Shell::bash},
+    {"zsh", Shell::zsh},
+    {"fish", Shell::fish},
+};
+
+// What is printed about the program itself.
+class Completion final : public Command {
+public:
+    explicit Completion(CLI::App& parent) : m_program(parent) {
+        CLI::App& command = *parent.add_subcommand("completion", "A script that makes a shell complete what is typed");
+        command.add_option("SHELL", m_shell, "bash, zsh or fish")->required();
+        command.footer("Example: source <(proupsells completion bash)");
+    }
+
+    Arguments read() const override {
+        std::cout << completionScript(m_program, readWord("shell", m_shell, shells));
+        return HelpShown{};
+    }
+
+private:
+    const CLI::App& m_program;
+    std::string m_shell;
+};
+
+class Manual final : public Command {
+public:
+    explicit Manual(CLI::App& parent) : m_program(parent) {
+        parent.add_subcommand("manual", "All that --help says, as a page for man(1)")
+            ->footer("Example: proupsells manual | man -l -");
+    }
+
+    Arguments read() const override {
+        std::cout << manualPage(m_program);
+        return HelpShown{};
+    }
+
+private:
+    const CLI::App& m_program;
+};
+
 } // namespace
 
 Arguments readCommandLine(int count, const char* const* arguments) {
@@ -205,9 +264,11 @@ Arguments readCommandLine(int count, const char* const* arguments) {
                  "is wrong.",
                  "proupsells"};
     app.require_subcommand(1);
-    std::unique_ptr<Command> commands[] = {
-        std::make_unique<Show>(app), std::make_unique<Run>(app),   std::make_unique<Texts>(app),      std::make_unique<Read>(app),
-        std::make_unique<Lint>(app), std::make_unique<Audit>(app), std::make_unique<MakeGallery>(app)};
+    std::unique_ptr<Command> commands[] = {std::make_unique<Show>(app),        std::make_unique<Run>(app),
+                                           std::make_unique<Texts>(app),       std::make_unique<Read>(app),
+                                           std::make_unique<Lint>(app),        std::make_unique<Audit>(app),
+                                           std::make_unique<MakeGallery>(app), std::make_unique<MakeEvidence>(app),
+                                           std::make_unique<Completion>(app),  std::make_unique<Manual>(app)};
     const auto all = app.get_subcommands([](const CLI::App*) { return true; });
     const auto chosen = [&] { return std::find_if(all.begin(), all.end(), [](const CLI::App* each) { return each->parsed(); }); };
     try {

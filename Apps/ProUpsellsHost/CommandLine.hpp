@@ -68,11 +68,16 @@ struct GalleryArguments {
     std::optional<std::filesystem::path> theme;
 };
 
+struct EvidenceArguments {
+    std::filesystem::path scenario;
+    std::filesystem::path file; // the document
+};
+
 // Only help was asked for, and has been printed.
 struct HelpShown {};
 
 using Arguments = std::variant<RunArguments, ShowArguments, TextsArguments, ReadArguments, LintArguments, AuditArguments,
-                               GalleryArguments, HelpShown>;
+                               GalleryArguments, EvidenceArguments, HelpShown>;
 
 // Throws InputError with "command line" in the place of a file.
 Arguments readCommandLine(int count, const char* const* arguments);

@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "Apps/ProUpsellsHost/AuditCommand.hpp"
+#include "Apps/ProUpsellsHost/EvidenceCommand.hpp"
 #include "Apps/ProUpsellsHost/GalleryCommand.hpp"
 #include "Apps/ProUpsellsHost/InputError.hpp"
 #include "Apps/ProUpsellsHost/LintCommand.hpp"
@@ -24,6 +25,7 @@ int obey(const Arguments& command, const Show& show) {
     if (const auto* lint = std::get_if<LintArguments>(&command)) return lintOffers(*lint);
     if (const auto* audit = std::get_if<AuditArguments>(&command)) return auditScreens(*audit);
     if (const auto* gallery = std::get_if<GalleryArguments>(&command)) return makeGallery(*gallery);
+    if (const auto* evidence = std::get_if<EvidenceArguments>(&command)) return writeEvidence(*evidence);
     if (const auto* texts = std::get_if<TextsArguments>(&command)) printTexts(texts->format);
     return done;
 }

@@ -4,12 +4,12 @@
 
 #include <nlohmann/json.hpp>
 
-#include "Apps/ProUpsellsHost/Base64.hpp"
 #include "Apps/ProUpsellsHost/InlineFiles.hpp"
 #include "Apps/ProUpsellsHost/InputError.hpp"
 #include "Apps/ProUpsellsHost/JsonCursor.hpp"
 #include "Apps/ProUpsellsHost/JsonFile.hpp"
 #include "Platform/System/PathText.hpp"
+#include "Tooling/Base64.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -107,7 +107,7 @@ std::filesystem::path readFiles(const JsonCursor& files) {
     InlineFiles kept;
     for (const std::string& name : files.keys()) {
         const JsonCursor file = files.at(name);
-        const auto bytes = bytesOfBase64(file.text());
+        const auto bytes = tooling::bytesOfBase64(file.text());
         if (name.empty() || name.find('/') != std::string::npos || name.find('\0') != std::string::npos)
             file.fail("\"" + name + "\" is no plain file name, expected one such as \"header.png\"");
         if (!bytes) file.fail("the bytes cannot be read, expected a text in Base64");

@@ -2,11 +2,11 @@
 
 #include <nlohmann/json.hpp>
 
-#include "Apps/ProUpsellsHost/Base64.hpp"
 #include "Apps/ProUpsellsHost/InputError.hpp"
 #include "Apps/ProUpsellsHost/ThemeFile.hpp"
 #include "Platform/System/Files.hpp"
 #include "Platform/System/PathText.hpp"
+#include "Tooling/Base64.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -32,7 +32,7 @@ public:
         m_names.emplace_back(file, name);
         const auto bytes = system::contentsOf(file);
         if (!bytes) throw InputError(system::textOf(file), "", "the file cannot be read, expected one that can be recorded");
-        all[name] = base64Of(*bytes);
+        all[name] = tooling::base64Of(*bytes);
         return name;
     }
 

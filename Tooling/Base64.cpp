@@ -1,9 +1,9 @@
-#include "Apps/ProUpsellsHost/Base64.hpp"
+#include "Tooling/Base64.hpp"
 
 #include <algorithm>
 #include <cstdint>
 
-namespace proupsells::hostprogram {
+namespace proupsells::tooling {
 
 namespace {
 
@@ -37,9 +37,9 @@ std::optional<std::string> bytesOfBase64(std::string_view text) {
         }
         for (int shift = 16; shift >= 0; shift -= 8) bytes += char(bits >> shift & 255);
     }
-    bytes.resize(bytes.size() - padding);
+    bytes.erase(bytes.size() - std::min(padding, bytes.size()));
     // No other text stands for the same bytes.
     return base64Of(bytes) == text ? std::optional(bytes) : std::nullopt;
 }
 
-} // namespace proupsells::hostprogram
+} // namespace proupsells::tooling
