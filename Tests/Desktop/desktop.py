@@ -97,14 +97,14 @@ class Ear:
 class Host:
     """A program with a window, and what a person and a client of the bus do with its paywall, until the end of the block."""
 
-    def __init__(self, command, window, **environment):
-        """`window` is the title of the one that the paywall stands in."""
+    def __init__(self, command, window, errors=None, **environment):
+        """`window` is the title of the one that the paywall stands in; `errors` is a file for standard error."""
         self.ear = Ear()
         self.lines = []
         self._window_title = window
         # Qt asks the session whether anybody reads the screen; here somebody does.
         environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb", **environment)
-        self._process = subprocess.Popen(command, env=environment, stdout=subprocess.PIPE, text=True)
+        self._process = subprocess.Popen(command, env=environment, stdout=subprocess.PIPE, stderr=errors, text=True)
         self._reader = threading.Thread(target=self._read)
         self._reader.start()
 
@@ -208,8 +208,8 @@ class Host:
 class Program(Host):
     """`proupsells show --start SCREEN`."""
 
-    def __init__(self, screen="paywall", *options):
-        super().__init__([PROGRAM, "show", OFFERS, "--start", screen, "--size", "375x800", *options], "ProUpsells")
+    def __init__(self, screen="paywall", *options, offers=OFFERS, errors=None):
+        super().__init__([PROGRAM, "show", offers, "--start", screen, "--size", "375x800", *options], "ProUpsells", errors)
         self._screen = SCREENS[screen]
 
     def open(self):

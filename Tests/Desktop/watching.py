@@ -1,0 +1,86 @@
+"""A window that watches follows its files, and the keys that change what its screens are shown on."""
+import json
+import os
+import pathlib
+import tempfile
+import time
+import unittest
+
+import desktop
+
+# What is told to be so within 0.2 s, with time for the bus and a busy machine.
+SOON_S = 2
+GERMAN = '"Start Your Free Trial" = "{}"; "Subscribe Now" = "Jetzt abonnieren";'
+
+
+class Watched(desktop.Program):
+    """A window over files of its own that may be written to."""
+
+    def __init__(self, *options):
+        self._folder = tempfile.TemporaryDirectory()
+        self.folder = pathlib.Path(self._folder.name)
+        self.offers = self.folder / "offers.json"
+        self.offers.write_text(pathlib.Path(desktop.OFFERS).read_text())
+        self.german = self.folder / "de.lproj" / "Localizable.strings"
+        self.german.parent.mkdir()
+        self.german.write_text(GERMAN.format("Eins"))
+        self.errors = self.folder / "errors"
+        super().__init__("paywall", "--watch", "--strings", str(self.folder), *options, offers=str(self.offers), errors=open(self.errors, "w"))
+
+    def __exit__(self, *_):
+        super().__exit__()
+        self._folder.cleanup()
+
+    def write_price(self, price):
+        offers = json.loads(self.offers.read_text())
+        for option in offers["options"]:
+            if option["type"] == "monthly":
+                option["price"] = price
+        # As editors do it.
+        beside = self.folder / "offers.json~"
+        beside.write_text(json.dumps(offers))
+        os.replace(beside, self.offers)
+
+    def wait_for_error(self):
+        return desktop.wait_for("a line on standard error", self.errors.read_text)
+
+
+class Watching(unittest.TestCase):
+    def test_follows_the_offers_and_keeps_the_chosen_plan(self):
+        with Watched() as program:
+            program.press("radio button", "Monthly, $14.99 per month")
+
+            started = time.monotonic()
+            program.write_price("$9.99")
+
+            radio = program.find("radio button", "Monthly, $9.99 per month")
+            self.assertLess(time.monotonic() - started, SOON_S)
+            self.assertTrue(radio.getState().contains(desktop.pyatspi.STATE_CHECKED))
+
+    def test_keeps_the_last_good_screen(self):
+        with Watched() as program:
+            program.offers.write_text('{ "options": [')
+
+            error = program.wait_for_error()
+
+            self.assertEqual(error.count("\n"), 1)
+            self.assertTrue(error.startswith(f"{program.offers}: /options/0: "), error)
+            program.find("radio button", "Monthly, $14.99 per month")
+            program.offers.write_text(pathlib.Path(desktop.OFFERS).read_text())
+            program.write_price("$9.99")
+            program.find("radio button", "Monthly, $9.99 per month")
+
+    def test_follows_translations_and_switches_languages(self):
+        with Watched("--locale", "de_DE") as program:
+            program.find("push button", "Eins")
+            program.german.write_text(GERMAN.format("Zwei"))
+            program.find("push button", "Zwei")
+
+            program.take_keys()
+            desktop.press("l")
+
+            program.find("push button", "Start Your Free Trial")
+
+
+if __name__ == "__main__":
+    unittest.main()
