@@ -3,20 +3,19 @@
 
 #include <nlohmann/json.hpp>
 
-#include "Apps/ProUpsellsHost/Driver.hpp"
 #include "Apps/ProUpsellsHost/PreviewKeys.hpp"
 #include "Apps/ProUpsellsHost/SourceWatch.hpp"
 #include "Platform/Accessibility/Search.hpp"
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Foundation/Locale.hpp"
 #include "Tests/Recording/RecordedSession.hpp"
+#include "Tooling/Driver.hpp"
 
 using namespace proupsells;
 using namespace hostprogram;
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::SizeIs;
 using testing::StartsWith;
 
 namespace {
@@ -154,7 +153,7 @@ protected:
     runloop::MainRunLoop loop{std::make_shared<runloop::VirtualClock>()};
     std::ostringstream events;
     HostSession session{offersOf(both), {}, {}, ffmpegbackend::Pace::exact, std::make_shared<EventLog>(events)};
-    Driver driver{loop, session};
+    tooling::Driver driver{loop, session.window()};
 };
 
 TEST_F(ReplacedOffers, KeepTheChosenPlan) {
