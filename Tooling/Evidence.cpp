@@ -20,6 +20,7 @@ h3 { font-size: 15px; margin: 0 0 8px; }
 table { border-collapse: collapse; width: 100%; font-size: 13px; }
 th, td { text-align: start; vertical-align: top; padding: 6px 12px 6px 0; border-bottom: 1px solid var(--line); }
 th { color: var(--soft); font-weight: 600; }
+th[scope=row] { width: 40%; }
 td.number { white-space: nowrap; font-variant-numeric: tabular-nums; }
 section.moment { margin: 32px 0; padding-top: 24px; border-top: 1px solid var(--line); }
 section.agreed { border-top: 3px solid var(--agreed); }

@@ -4,7 +4,7 @@ namespace proupsells::hostprogram {
 
 namespace {
 
-constexpr int signals[] = {SIGINT, SIGTERM};
+constexpr int endSignals[] = {SIGINT, SIGTERM};
 
 volatile std::sig_atomic_t requested = 0;
 
@@ -13,11 +13,11 @@ extern "C" void noteEndRequest(int signal) { requested = signal; }
 } // namespace
 
 EndRequest::EndRequest() {
-    for (const int signal : signals) std::signal(signal, noteEndRequest);
+    for (const int signal : endSignals) std::signal(signal, noteEndRequest);
 }
 
 EndRequest::~EndRequest() {
-    for (const int signal : signals) std::signal(signal, SIG_DFL);
+    for (const int signal : endSignals) std::signal(signal, SIG_DFL);
 }
 
 bool EndRequest::isThere() { return requested != 0; }

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "Platform/System/Compiler.hpp"
+
 namespace proupsells::foundation {
 
 // Lines of `"key" = "text";` in UTF-8 or UTF-16, with /* */ and // comments between them. Keys and texts stand in quotes or are
@@ -24,7 +26,7 @@ struct StringsFile {
     Texts texts; // empty when there is an error
     std::optional<Error> error;
 
-    static StringsFile parse(std::string_view bytes);
+    PROUPSELLS_EXPORT static StringsFile parse(std::string_view bytes);
 };
 
 } // namespace proupsells::foundation

@@ -98,7 +98,7 @@ class Host:
     """A program with a window, and what a person and a client of the bus do with its paywall, until the end of the block."""
 
     def __init__(self, command, window, errors=None, **environment):
-        """`window` is the title of the one that the paywall stands in, `errors` a file for standard error."""
+        """`window` is the title of the one that the paywall stands in; `errors` is a file for standard error."""
         self.ear = Ear()
         self.lines = []
         self._window_title = window

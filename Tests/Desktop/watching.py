@@ -81,6 +81,19 @@ class Watching(unittest.TestCase):
 
             program.find("push button", "Start Your Free Trial")
 
+    def test_switches_what_no_longer_follows_the_desktop(self):
+        with Watched() as program:
+            height = lambda: program.find("radio button", "Monthly, $14.99 per month").queryComponent().getExtents(0).height
+            before = height()
+            program.take_keys()
+
+            for _ in range(6):
+                desktop.press("plus")
+
+            desktop.wait_for("a larger text", lambda: height() > before)
+            time.sleep(0.6)
+            self.assertGreater(height(), before)
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -16,7 +16,6 @@ using namespace hostprogram;
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::SizeIs;
 using testing::StartsWith;
 
 namespace {
