@@ -161,12 +161,14 @@ std::vector<GalleryPicture> paintGallery(const GallerySubject& subject, const Ga
         ProgressBar progress(total);
         answers = system::runInProcesses(
             tasks.size(), [&](std::size_t i) { return perform(tasks[i], subject, folder); },
-            [&](std::size_t i) { progress.advance(tasks[i].weight()); });
+            [&](std::size_t i, const std::optional<std::string>& answer) {
+                // It has said why. The others would say the same.
+                if (!answer) std::abort();
+                progress.advance(tasks[i].weight());
+            });
     }
     std::vector<GalleryPicture> pictures;
     for (const auto& answer : answers) {
-        // It has said why.
-        if (!answer) std::abort();
         const Json rows = Json::parse(*answer);
         if (rows.is_string()) throw std::runtime_error(rows.get<std::string>());
         for (const Json& row : rows) pictures.push_back(pictureOf(row));

@@ -27,10 +27,13 @@ TEST(ParallelTasks, AreNoneWhereThereIsNothingToDo) {
 }
 
 TEST(ParallelTasks, TellOfEachThatHasEnded) {
-    std::vector<std::size_t> ended;
+    std::vector<std::string> ended;
 
     system::runInProcesses(
-        3, [](std::size_t) { return std::string(); }, [&](std::size_t number) { ended.push_back(number); });
+        3, [](std::size_t number) { return std::to_string(number); },
+        [&](std::size_t number, const std::optional<std::string>& result) {
+            ended.push_back(std::to_string(number) + " " + result.value_or("nothing"));
+        });
 
-    EXPECT_THAT(ended, UnorderedElementsAre(0, 1, 2));
+    EXPECT_THAT(ended, UnorderedElementsAre("0 0", "1 1", "2 2"));
 }

@@ -185,7 +185,7 @@ function buildCards() {
         if (!groups.has(name)) {
             const cards = make('div', { className: 'cards', role: 'presentation' });
             const heading = make('h2', { textContent: name, role: 'presentation' });
-            const section = make('div', { className: 'group', role: 'group', ariaLabel: name }, heading, cards);
+            const section = make('div', { className: 'group', role: 'group', 'aria-label': name }, heading, cards);
             const group = { section, cards, items: [] };
             groups.set(name, group);
             view.groups.push(group);

@@ -77,14 +77,13 @@ std::vector<pollfd> waitForAny(const std::vector<Child>& children) {
 
 } // namespace
 
-std::vector<std::optional<std::string>> runInProcesses(std::size_t count, const Task& task,
-                                                       const std::function<void(std::size_t)>& finished) {
+std::vector<std::optional<std::string>> runInProcesses(std::size_t count, const Task& task, const TaskEnd& finished) {
     const std::size_t together = std::max(1u, std::thread::hardware_concurrency());
     std::vector<std::optional<std::string>> results(count);
     std::vector<Child> running;
     const auto keep = [&](std::size_t number, std::optional<std::string> result) {
         results[number] = std::move(result);
-        if (finished) finished(number);
+        if (finished) finished(number, results[number]);
     };
     for (std::size_t next = 0; next < count || !running.empty();) {
         while (next < count && running.size() < together) {
