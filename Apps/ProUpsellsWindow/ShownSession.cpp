@@ -145,6 +145,7 @@ bool ShownSession::pressed(const QKeyEvent& event) {
     if (!device) return false;
     // What was chosen by hand no longer follows the system.
     if (device->appearance != shown.appearance) m_arguments.given.push_back("appearance");
+    if (device->textSize != shown.textSize) m_arguments.given.push_back("textSize");
     m_loop.runDueTurns();
     setDevice(*device);
     if (device->size != shown.size) m_window->resize(int(device->size.width), int(device->size.height));

@@ -115,6 +115,19 @@ class Settings(unittest.TestCase):
         portal.set(*ANIMATIONS, OFF)
         desktop.wait_for("strips that stand still again", lambda: not moves(program))
 
+    def test_a_text_size_chosen_by_a_key_stays(self):
+        usual = self.usual_height()
+        self.desktop_with({TEXT_SCALE: factor(1.0)})
+        program = self.show("paywall", "--watch")
+        program.take_keys()
+        for _ in range(4):
+            desktop.press("plus")
+        wait_for_height(program, lambda height: height > 1.2 * usual)
+
+        # The desktop is looked at several times a second.
+        time.sleep(WATCHED_S)
+        self.assertGreater(height_of_plan(program), 1.2 * usual)
+
     def test_what_the_command_line_says_wins(self):
         usual = self.usual_height()
         portal = self.desktop_with({TEXT_SCALE: factor(2.0), COLOURS: LIGHT})
