@@ -79,6 +79,7 @@ set(PROUPSELLS_ProUpsells_HEADERS
   Include/ProUpsells/ProUpsells.hpp
   ProUpsells/CallToActionButtonProvider.hpp
   ProUpsells/ComparisonViewControllerDelegate.hpp
+  ProUpsells/ContrastTheme.hpp
   ProUpsells/Entitlement.hpp
   ProUpsells/PersonalizedInfo.hpp
   ProUpsells/ProUpsellControllerType.hpp

@@ -15,9 +15,9 @@ namespace proupsells::hostprogram {
 
 namespace {
 
-using Show = std::function<int(const ShowArguments&)>;
+using ShowFunction = std::function<int(const ShowArguments&)>;
 
-int obey(const Arguments& command, const Show& show) {
+int obey(const Arguments& command, const ShowFunction& show) {
     constexpr int done = 0;
     if (const auto* run = std::get_if<RunArguments>(&command)) return runScenario(run->scenario, run->folder);
     if (const auto* shown = std::get_if<ShowArguments>(&command)) return show(*shown);
@@ -32,7 +32,7 @@ int obey(const Arguments& command, const Show& show) {
 
 } // namespace
 
-int runProgram(int count, const char* const* arguments, const Show& show) {
+int runProgram(int count, const char* const* arguments, const ShowFunction& show) {
     constexpr int unusableInput = 2;
     try {
         const int status = obey(readCommandLine(count, arguments), show);

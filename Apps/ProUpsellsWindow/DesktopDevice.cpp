@@ -7,6 +7,7 @@
 
 #include "Backends/Qt/DesktopSettings.hpp"
 #include "Backends/Qt/ScreenTraits.hpp"
+#include "ProUpsells/ContrastTheme.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -28,6 +29,8 @@ Device followingDevice(const ShowArguments& arguments, const qtbackend::DesktopS
     if (!gives(arguments, "appearance"))
         device.appearance = desktop.colorScheme().value_or(qtbackend::colorSchemeOf(QGuiApplication::palette()));
     if (!gives(arguments, "textSize")) device.textSize = desktop.textSize(scale);
+    // A recording holds no theme that stands in no file.
+    if (!gives(arguments, "theme") && !arguments.recording) device.theme = desktop.increasesContrast() ? contrastTheme() : Theme{};
     if (!gives(arguments, "reduceMotion")) device.reduceMotion = desktop.reducesMotion();
     return device;
 }

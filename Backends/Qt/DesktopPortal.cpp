@@ -24,10 +24,9 @@ const QString read = QStringLiteral("Read"), readOne = QStringLiteral("ReadOne")
 constexpr struct {
     const char *group, *key;
 } followed[] = {
-    {"org.freedesktop.appearance", "color-scheme"},
-    {"org.freedesktop.appearance", "reduced-motion"},
-    {"org.gnome.desktop.interface", "enable-animations"},
-    {"org.gnome.desktop.interface", "text-scaling-factor"},
+    {"org.freedesktop.appearance", "color-scheme"},       {"org.freedesktop.appearance", "contrast"},
+    {"org.freedesktop.appearance", "reduced-motion"},     {"org.gnome.desktop.a11y.interface", "high-contrast"},
+    {"org.gnome.desktop.interface", "enable-animations"}, {"org.gnome.desktop.interface", "text-scaling-factor"},
 };
 
 // Where the session names none, the library of D-Bus would start one.

@@ -11,7 +11,8 @@ namespace proupsells::qtbackend {
 
 namespace {
 
-constexpr const char *anyDesktop = "org.freedesktop.appearance", *gnome = "org.gnome.desktop.interface";
+constexpr const char *anyDesktop = "org.freedesktop.appearance", *gnome = "org.gnome.desktop.interface",
+                     *gnomeAccessibility = "org.gnome.desktop.a11y.interface";
 
 QString nameOf(const QString& group, const QString& key) { return group + QLatin1Char(' ') + key; }
 
@@ -61,6 +62,11 @@ bool DesktopSettings::reducesMotion() const {
     const QVariant animates = value(gnome, "enable-animations");
     const bool isStill = animates.isValid() && !animates.toBool();
     return isStill || value(anyDesktop, "reduced-motion").toInt() == reduced;
+}
+
+bool DesktopSettings::increasesContrast() const {
+    constexpr int more = 1;
+    return value(anyDesktop, "contrast").toInt() == more || value(gnomeAccessibility, "high-contrast").toBool();
 }
 
 void DesktopSettings::adopt(const QString& group, const QString& key, const QVariant& value) {

@@ -33,6 +33,9 @@ public:
     // False where the desktop does not say.
     bool reducesMotion() const;
 
+    // The person asks for more contrast. False where the desktop does not say.
+    bool increasesContrast() const;
+
     // A setting has this value now; for whoever knows the desktop.
     void adopt(const QString& group, const QString& key, const QVariant& value);
 

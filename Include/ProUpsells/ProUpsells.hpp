@@ -3,6 +3,7 @@
 
 // The screens, what they sell, and who is told.
 #include "ProUpsells/CallToActionButtonProvider.hpp"
+#include "ProUpsells/ContrastTheme.hpp"
 #include "ProUpsells/SubscriptionOption.hpp"
 #include "ProUpsells/Theme.hpp"
 #include "ProUpsells/UpsellViewController.hpp"

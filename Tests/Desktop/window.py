@@ -13,7 +13,7 @@ class Screen:
 
     def __init__(self, size, *options):
         reading, writing = os.pipe()
-        self._server = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-screen", "0", size + "x24"], pass_fds=[writing],
+        self._server = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-screen", "0", size + "x24", "-noreset"], pass_fds=[writing],
                                         stderr=subprocess.DEVNULL)
         os.close(writing)
         with os.fdopen(reading) as answer:

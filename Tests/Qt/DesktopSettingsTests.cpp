@@ -110,6 +110,8 @@ TEST_F(DesktopPortals, TellOfChangesWhileTheProgramRuns) {
     EXPECT_TRUE(handleEventsUntil([&] { return settings.reducesMotion(); }));
     portal.change(anyDesktop, "reduced-motion", 0u);
     EXPECT_TRUE(handleEventsUntil([&] { return !settings.reducesMotion(); }));
+    portal.change(anyDesktop, "contrast", 1u);
+    EXPECT_TRUE(handleEventsUntil([&] { return settings.increasesContrast(); }));
     portal.change(anyDesktop, "color-scheme", 2u);
 
     EXPECT_TRUE(handleEventsUntil([&] { return settings.colorScheme() == ColorScheme::light; }));
@@ -170,6 +172,18 @@ TEST(DesktopSettingsOfAPerson, HaveAnAppearanceOnlyWhereItIsWanted) {
         settings.adopt(anyDesktop, "color-scheme", said);
         EXPECT_EQ(settings.colorScheme(), expected) << said;
     }
+}
+
+TEST(DesktopSettingsOfAPerson, AskForMoreContrastWhereEitherSettingSaysSo) {
+    DesktopSettings settings;
+    EXPECT_FALSE(settings.increasesContrast());
+    settings.adopt(anyDesktop, "contrast", 1u);
+    EXPECT_TRUE(settings.increasesContrast());
+    settings.adopt(anyDesktop, "contrast", 0u);
+    EXPECT_FALSE(settings.increasesContrast());
+    settings.adopt("org.gnome.desktop.a11y.interface", "high-contrast", true);
+
+    EXPECT_TRUE(settings.increasesContrast());
 }
 
 TEST(DesktopSettingsOfAPerson, AreToldOnceForEachChange) {
