@@ -2,6 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "Apps/ProUpsellsHost/InputError.hpp"
+
 namespace proupsells::hostprogram {
 
 namespace {
@@ -17,13 +19,6 @@ std::string whereItHappens(const AuditEntry& entry) {
     const std::string count =
         std::to_string(entry.configurations) + (entry.configurations == 1 ? " configuration" : " configurations");
     return entry.configuration + ", the smallest width of " + count;
-}
-
-// A message may show a text of several lines.
-std::string oneLine(const std::string& text) {
-    std::string line;
-    for (const char c : text) line += c == '\n' ? ' ' : c;
-    return line;
 }
 
 std::string textReport(std::span<const AuditEntry> entries) {

@@ -2,17 +2,12 @@
 
 namespace proupsells::hostprogram {
 
-namespace {
-
-// Input may hold line feeds and control characters; the complaint stays one line.
 std::string oneLine(const std::string& text) {
     std::string result;
     result.reserve(text.size());
     for (const char c : text) result += static_cast<unsigned char>(c) < 0x20 || c == 0x7F ? ' ' : c;
     return result;
 }
-
-} // namespace
 
 InputError::InputError(const std::string& file, const std::string& pointer, const std::string& complaint)
     : std::runtime_error(oneLine(file + ": " + (pointer.empty() ? "/" : pointer) + ": " + complaint)) {}

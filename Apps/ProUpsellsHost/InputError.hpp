@@ -6,6 +6,9 @@
 
 namespace proupsells::hostprogram {
 
+// The text with blanks for line feeds and control characters: input may hold them, and what is said of it is one line.
+std::string oneLine(const std::string& text);
+
 // One line: FILE: POINTER: what is wrong, what was expected. Caught in main(), exit status 2.
 class InputError : public std::runtime_error {
 public:

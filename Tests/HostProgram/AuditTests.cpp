@@ -73,15 +73,16 @@ TEST_F(AuditCommand, HasNothingToSayOfGoodScreens) {
 }
 
 TEST_F(AuditCommand, FindsTargetsThatNobodyAccepted) {
-    const auto file = folder.write("matrix.json", matrix("store", "en"));
+    const auto file = folder.write("matrix.json", matrix("paywall", "en"));
 
     const Outcome outcome = runProgram({"audit", "--matrix", file.string()});
 
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(
-        outcome.output,
-        "store store.close 2: small target: ChargedButton store.close is 30 x 30 points. Make the control 44 x 44 points; what "
-        "is touched may be larger than what is seen. [en large 320x568 light, the smallest width of 2 configurations]\n");
+    EXPECT_EQ(outcome.output, "paywall comparePlans 0.0.0.0.0.0.0.0.2.0: small target: Button comparePlans is 320 x 24 points and "
+                              "can be touched in 320 x "
+                              "38. Make the control 44 x 44 points; what is touched may be larger than what is seen. [en large "
+                              "320x568 light, the smallest "
+                              "width of 2 configurations]\n");
 }
 
 TEST_F(AuditCommand, FindsAWordThatIsBrokenInsideAndTheSmallestWidthForIt) {
@@ -127,7 +128,10 @@ TEST_F(AuditCommand, FindsATextThatNoTranslationReaches) {
 }
 
 TEST_F(AuditCommand, LooksAtAScenarioAfterEachStep) {
-    const Json scenario{{"offers", {{"options", sampleOffers()["options"]}}}, {"steps", {{{"send", "whatIsPro"}}}}};
+    const Json strings{{"de", {{"Compare Plans", "Donaudampfschifffahrtsgesellschaftskapitän"}}}};
+    const Json scenario{{"offers", {{"options", sampleOffers()["options"]}}},
+                        {"device", {{"locale", "de"}, {"strings", strings}}},
+                        {"steps", {{{"send", "comparePlans"}}}}};
 
     const Outcome outcome = runProgram({"audit", folder.write("scenario.json", scenario).string(), "--format", "json"});
 
@@ -135,12 +139,12 @@ TEST_F(AuditCommand, LooksAtAScenarioAfterEachStep) {
     std::set<std::string> screens;
     for (const Json& finding : found) screens.insert(finding["screen"]);
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_THAT(rulesOf(found), ElementsAre("small target"));
+    EXPECT_THAT(rulesOf(found), ElementsAre("broken word", "small target"));
     EXPECT_THAT(screens, SizeIs(2));
 }
 
 TEST_F(AuditCommand, PrintsSarif) {
-    const auto file = folder.write("matrix.json", matrix("store", "en"));
+    const auto file = folder.write("matrix.json", matrix("paywall", "en"));
 
     const Json report = Json::parse(runProgram({"audit", "--matrix", file.string(), "--format", "sarif"}).output);
 
@@ -148,7 +152,7 @@ TEST_F(AuditCommand, PrintsSarif) {
     ASSERT_THAT(report["runs"][0]["results"], SizeIs(1));
     const Json result = report["runs"][0]["results"][0];
     EXPECT_EQ(result["ruleId"], "small target");
-    EXPECT_EQ(result["locations"][0]["logicalLocations"][0]["fullyQualifiedName"], "store store.close 2");
+    EXPECT_EQ(result["locations"][0]["logicalLocations"][0]["fullyQualifiedName"], "paywall comparePlans 0.0.0.0.0.0.0.0.2.0");
 }
 
 TEST_F(AuditCommand, RefusesUnusableInputWithOneLine) {

@@ -16,7 +16,10 @@ namespace {
 const Json purchaseSteps = {{{"tap", {{"identifier", "plan.pro.monthly"}}}}, {{"tap", "Subscribe Now"}}};
 
 Json purchase() {
-    return {{"offers", {{"options", sampleOffers()["options"]}}}, {"device", {{"scale", 1}}}, {"steps", purchaseSteps}};
+    return {{"offers",
+             {{"options", sampleOffers()["options"]}, {"annualSubscriptionPriceForComparisonWithPromotionalPrice", "$119.99"}}},
+            {"device", {{"scale", 1}}},
+            {"steps", purchaseSteps}};
 }
 
 Outcome writeEvidence(const Folder& folder, const Json& scenario) {
