@@ -57,10 +57,9 @@ public:
         command.add_option("OFFERS.json", m_offers, "The offers; the sample ones when left out");
         m_device.addTo(command);
         command.add_option("--start", m_start, "paywall, comparison or store");
-        command.add_option("--record", m_recording, "A file for what the person does: a scenario that `proupsells run` plays");
-        command.add_flag("--watch", m_isWatching,
-                         "Follows changes of the offers, the translations and the theme while the window is open");
-        command.footer(std::string(previewKeysHelp) + "\n\nExample: proupsells show offers.json --strings translations --watch");
+        command.add_option("--record", m_recording, "A file for what is done, which `proupsells run` plays");
+        command.add_flag("--watch", m_isWatching, "Follows changes of offers, translations and theme");
+        command.footer(std::string(previewKeysHelp) + "\nExample: proupsells show offers.json --strings translations --watch");
     }
 
     Arguments read() const override {
@@ -86,6 +85,7 @@ public:
         CLI::App& command = *parent.add_subcommand("run", "A scripted run on a virtual clock, without a window");
         command.add_option("SCENARIO.json", m_scenario, "The script")->required();
         command.add_option("--out", m_folder, "Where pictures go; the current folder when left out");
+        command.footer("Example: proupsells run tour.json --out pictures");
     }
 
     Arguments read() const override { return RunArguments{system::pathOf(m_scenario), readFile(m_folder).value_or(".")}; }
@@ -99,6 +99,7 @@ public:
     explicit Texts(CLI::App& parent) {
         CLI::App& command = *parent.add_subcommand("texts", "Every text of the screens with its comment, for translators");
         command.add_option("--format", m_format, "strings, pot or json");
+        command.footer("Example: proupsells texts --format pot > proupsells.pot");
     }
 
     Arguments read() const override { return TextsArguments{readWord("format", m_format, textsFormats)}; }

@@ -1,4 +1,4 @@
-// `--help` of the tools.
+// `--help`.
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -10,8 +10,8 @@ using namespace proupsells;
 using namespace tests;
 using testing::HasSubstr;
 
-TEST(HelpOfTools, FitsAScreenAndHasAnExample) {
-    for (const std::string command : {"read", "lint", "audit", "gallery", "evidence", "manual"}) {
+TEST(HelpOfCommands, FitsAScreenAndHasAnExample) {
+    for (const std::string command : {"show", "run", "texts", "read", "lint", "audit", "gallery", "evidence", "manual"}) {
         const Outcome outcome = runProgram({command, "--help"});
 
         constexpr int screenHeight = 24;
