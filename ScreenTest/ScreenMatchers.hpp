@@ -21,6 +21,7 @@ public:
     // Says why the screen does not match; absent when it does.
     using Complaint = std::function<std::optional<std::string>(const TestScreen& screen)>;
 
+    // The description says what is expected, such as `shows "Close"`.
     ScreenMatcher(std::string description, Complaint complaint);
 
     // With the screen in the message.

@@ -32,6 +32,7 @@ namespace proupsells::screentest {
 // pictures and texts are those that customers see. One at a time, made before the controllers that it shows.
 class PROUPSELLS_EXPORT TestScreen {
 public:
+    // Installs what screens need, until it goes. The screen is empty.
     explicit TestScreen(TestDevice device = {});
     ~TestScreen();
     TestScreen(const TestScreen&) = delete;
@@ -44,6 +45,7 @@ public:
     // What everything stands in.
     uikit::UIWindow& window() const { return *m_window; }
 
+    // What it is shown on.
     const TestDevice& device() const { return m_device; }
     // Changes what it is shown on, but for the fonts. What is shown follows.
     void setDevice(TestDevice device);

@@ -14,8 +14,9 @@ namespace proupsells::tooling {
 // The rule of plans that stop the program when they are shown.
 inline constexpr const char* zeroMonth = "monthly price of 0";
 
+// What a host offers.
 struct OffersToLint {
-    std::vector<SubscriptionOption> options;
+    std::vector<SubscriptionOption> options; // in the order in which they are shown
     // Struck through beside the plans' prices; absent when no promotion is on.
     std::optional<std::string> annualComparisonPrice{};
     std::optional<std::string> monthlyComparisonPrice{};

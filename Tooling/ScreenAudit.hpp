@@ -15,6 +15,7 @@
 
 namespace proupsells::tooling {
 
+// What may be wrong with a screen.
 enum class AuditRule : std::uint8_t {
     truncated,          // a text does not fit
     brokenWord,         // a word or number goes on in the next line
@@ -38,19 +39,24 @@ enum class AuditRule : std::uint8_t {
     hiddenFocus,        // a control in focus that is out of sight
     invisibleFocus,     // a control in focus that looks as it did before
 };
+// How many rules there are.
 inline constexpr int auditRuleCount = int(AuditRule::invisibleFocus) + 1;
+// In a few words: "small target".
 PROUPSELLS_EXPORT std::string_view nameOf(AuditRule rule);
 // One sentence: what to do about it.
 PROUPSELLS_EXPORT std::string_view adviceOf(AuditRule rule);
 
+// What is wrong, and where.
 struct Finding {
-    AuditRule rule;
+    AuditRule rule;           // that is broken
     std::string path;         // of indices from the screen's root on, such as "0.2.1"; empty for what is only spoken
     std::string detail;       // the node and what is wrong with it
     std::string identifier{}; // the node's, or that of the innermost node around it that has one
 };
 
+// What an audit holds a screen to.
 struct AuditOptions {
+    // In which the screen is shown.
     graphics::ColorScheme scheme = graphics::ColorScheme::light;
     // How wide and high a control must be, in points, or the circle around its centre that no other control's reaches.
     double leastControl = 24;

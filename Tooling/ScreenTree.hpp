@@ -26,6 +26,7 @@ struct PROUPSELLS_EXPORT ScreenTree {
     const std::string* property(std::string_view name) const;
 };
 
+// What a semantic tree says.
 PROUPSELLS_EXPORT ScreenTree screenTree(const accessibility::SemanticNode& screen);
 
 // One node a line, two blanks further in than what it stands in: `Text [16 20 343 22] text="Annually" colour="velaLabel"`. Ends

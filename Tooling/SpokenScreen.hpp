@@ -10,6 +10,7 @@
 
 namespace proupsells::tooling {
 
+// As a line of a reading has it: "radio button".
 PROUPSELLS_EXPORT std::string_view nameOf(accessibility::Role role);
 
 // An element by role, name, value, state and place: `radio button "Monthly", checked, 2 of 2`. One line, whatever its name holds.

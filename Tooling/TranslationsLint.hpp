@@ -13,6 +13,7 @@
 
 namespace proupsells::tooling {
 
+// A language of a host.
 struct Translation {
     std::string language;                     // as the folder is named, such as "pt-BR"
     std::string file;                         // such as "pt-BR.lproj/Localizable.strings"

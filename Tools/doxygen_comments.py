@@ -21,7 +21,7 @@ import sys
 SAYS_IT_ITSELF = "&zwj;"
 HEADING = re.compile(r"// --- (.*) ---$")
 PART = re.compile(r"(public|protected|private|signals|(public|protected|private) slots):$")
-TYPE = re.compile(r"(template <.*?> )?(enum (class )?|class |struct |union )\w+\b[^;()=]*$")
+TYPE = re.compile(r"(template <.*?> )?(enum (class )?|class |struct |union )(\[\[\w+\]\] )?\w+\b[^;()=]*$")
 SPACE = re.compile(r"namespace\b[^;()=]*$|extern _+$")
 SELF_EXPLAINING = re.compile(r"= (default|delete);|~\w+\(")
 # Says nothing to readers.

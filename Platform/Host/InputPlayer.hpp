@@ -10,9 +10,10 @@ class MainRunLoop;
 
 namespace proupsells::host {
 
-// The content and the loop must live longer. The loop must run on a virtual clock, and stand no later than what is played.
+// Does to a content what was done to the recorded one.
 class PROUPSELLS_EXPORT InputPlayer {
 public:
+    // Both must live longer. The loop must run on a virtual clock, and stand no later than what is played.
     InputPlayer(WindowContent& content, runloop::MainRunLoop& loop) : m_content(content), m_loop(loop) {}
 
     // Lets the time come and does what was done then, except for a HostInput, which is the host's to do when this returns.

@@ -13,6 +13,10 @@ def translated(header: str, name: str = "Shop") -> str:
 
 
 class DoxygenComments(unittest.TestCase):
+    def test_a_class_with_an_attribute_is_a_class(self):
+        self.assertEqual(translated("// Doors.\nclass [[nodiscard]] Door {\n    // Its number.\n    int number();\n};"),
+                         "/// Doors.\nclass [[nodiscard]] Door {\n    /// Its number.\n    int number();\n};")
+
     def test_a_comment_above_a_declaration_is_about_it(self):
         self.assertEqual(translated("// Opens it,\n// wide.\nvoid open();"), "/// Opens it,\n/// wide.\nvoid open();")
 
