@@ -30,7 +30,7 @@ code { font-size: 12px; overflow-wrap: anywhere; }
 p.soft { color: var(--soft); }
 )";
 
-std::string escaped(std::string_view text) {
+std::string inMarkup(std::string_view text) {
     std::string result;
     for (const char c : text) {
         switch (c) {
@@ -51,13 +51,13 @@ std::string cell(const std::string& content, const char* kind = "") {
 std::string factTable(const EvidenceFacts& facts) {
     std::string result = "<table>\n";
     for (const auto& [name, value] : facts)
-        result += "<tr><th scope=\"row\">" + escaped(name) + "</th>" + cell(escaped(value)) + "</tr>\n";
+        result += "<tr><th scope=\"row\">" + inMarkup(name) + "</th>" + cell(inMarkup(value)) + "</tr>\n";
     return result + "</table>\n";
 }
 
 std::string wordsOf(const EvidenceText& text) {
     std::string result;
-    for (const auto& [part, isStruck] : text.parts) result += isStruck ? "<s>" + escaped(part) + "</s>" : escaped(part);
+    for (const auto& [part, isStruck] : text.parts) result += isStruck ? "<s>" + inMarkup(part) + "</s>" : inMarkup(part);
     return result;
 }
 
@@ -68,12 +68,12 @@ std::string contrastText(const std::optional<double>& contrast) {
 }
 
 std::string screenSection(const EvidenceScreen& screen) {
-    std::string result = "<img alt=\"" + escaped(screen.name) + "\" width=\"" + written(screen.size.width) + "\" height=\"" +
+    std::string result = "<img alt=\"" + inMarkup(screen.name) + "\" width=\"" + written(screen.size.width) + "\" height=\"" +
                          written(screen.size.height) + "\" src=\"data:image/png;base64," + base64Of(screen.png) + "\">\n";
     result += "<table>\n<tr><th scope=\"col\">Text, word by word</th><th scope=\"col\">Part of</th>"
               "<th scope=\"col\">Place: x y width height</th><th scope=\"col\">Size</th><th scope=\"col\">Contrast</th></tr>\n";
     for (const EvidenceText& text : screen.texts)
-        result += "<tr>" + cell(wordsOf(text)) + cell(escaped(text.identifier)) + cell(written(text.frame), "number") +
+        result += "<tr>" + cell(wordsOf(text)) + cell(inMarkup(text.identifier)) + cell(written(text.frame), "number") +
                   cell(written(text.size), "number") + cell(contrastText(text.contrast), "number") + "</tr>\n";
     return result + "</table>\n";
 }
@@ -81,9 +81,9 @@ std::string screenSection(const EvidenceScreen& screen) {
 std::string momentSection(const EvidenceMoment& moment) {
     std::string result = moment.isAgreement ? "<section class=\"moment agreed\">\n" : "<section class=\"moment\">\n";
     result += "<h3>" + written(moment.time_s) +
-              " s: " + (moment.did.empty() ? "the screen stands" : "<code>" + escaped(moment.did) + "</code>") + "</h3>\n";
+              " s: " + (moment.did.empty() ? "the screen stands" : "<code>" + inMarkup(moment.did) + "</code>") + "</h3>\n";
     if (moment.isAgreement) result += "<p>The customer agreed, to what the screen above this line said.</p>\n";
-    for (const std::string& call : moment.calls) result += "<p><code>" + escaped(call) + "</code></p>\n";
+    for (const std::string& call : moment.calls) result += "<p><code>" + inMarkup(call) + "</code></p>\n";
     if (moment.screen)
         result += screenSection(*moment.screen);
     else
@@ -99,7 +99,7 @@ EvidenceDocument evidenceDocument(const Evidence& evidence, const std::string& d
                        "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
                        "<title>What was shown and agreed to</title>\n<style>" +
                        std::string(style) + "</style>\n</head>\n<body>\n<h1>What was shown and agreed to</h1>\n";
-    body += "<p class=\"soft\">The second line of this file has the " + escaped(digestName) +
+    body += "<p class=\"soft\">The second line of this file has the " + inMarkup(digestName) +
             " digest of all that follows it. <code>tail -n +3 FILE</code> shows what it was taken of.</p>\n";
     body += "<h2>Program and device</h2>\n" + factTable(evidence.facts) + "<h2>Offers</h2>\n";
     for (const EvidenceFacts& plan : evidence.offers) body += factTable(plan) + "<p></p>\n";

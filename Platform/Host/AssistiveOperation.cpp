@@ -4,20 +4,18 @@ namespace proupsells::host {
 
 void perform(const accessibility::ReadingElement& element, AssistiveAction action) {
     // Copies, because the operation may change the screen and the element with it.
-    const auto call = [](const std::function<void()> operation) {
-        if (operation) operation();
-    };
-    const auto adjust = element.adjust;
+    std::function<void()> operation;
     switch (action) {
-    case AssistiveAction::activate: return call(element.activate);
+    case AssistiveAction::activate: operation = element.activate; break;
     case AssistiveAction::increase:
     case AssistiveAction::decrease:
-        if (adjust) adjust(action == AssistiveAction::increase ? 1 : -1);
+        if (const auto adjust = element.adjust) adjust(action == AssistiveAction::increase ? 1 : -1);
         return;
-    case AssistiveAction::reveal: return call(element.reveal);
-    case AssistiveAction::revealWhole: return call(element.revealWhole);
-    case AssistiveAction::focus: return call(element.focus);
+    case AssistiveAction::reveal: operation = element.reveal; break;
+    case AssistiveAction::revealWhole: operation = element.revealWhole; break;
+    case AssistiveAction::focus: operation = element.focus; break;
     }
+    if (operation) operation();
 }
 
 } // namespace proupsells::host
