@@ -73,9 +73,6 @@ public:
     // What the screens have logged since the last call; what is never taken goes to standard error at the end.
     std::vector<commons::LogRecord> takeLogRecords() { return m_bed.takeLogRecords(); }
 
-    // The screen as text, as a failed test prints it.
-    friend PROUPSELLS_EXPORT std::ostream& operator<<(std::ostream& stream, const TestScreen& screen);
-
 private:
     void applyDevice();
 
@@ -84,5 +81,8 @@ private:
     std::shared_ptr<uikit::UIWindow> m_window;
     std::unique_ptr<tooling::Driver> m_driver;
 };
+
+// The screen as text, as a failed test prints it.
+PROUPSELLS_EXPORT std::ostream& operator<<(std::ostream& stream, const TestScreen& screen);
 
 } // namespace proupsells::screentest
