@@ -3,11 +3,12 @@
 
 #include <string>
 
+#include "Platform/System/Compiler.hpp"
 #include "ProUpsells/UpsellViewModel.hpp"
 
 namespace proupsells {
 
-class CallToActionTexts {
+class PROUPSELLS_EXPORT CallToActionTexts {
 public:
     CallToActionTexts() = delete;
 

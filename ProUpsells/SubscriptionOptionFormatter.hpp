@@ -7,12 +7,13 @@
 #include <string_view>
 #include <vector>
 
+#include "Platform/System/Compiler.hpp"
 #include "ProUpsells/RadioPickerItem.hpp"
 #include "ProUpsells/UpsellViewModel.hpp"
 
 namespace proupsells {
 
-class SubscriptionOptionFormatter {
+class PROUPSELLS_EXPORT SubscriptionOptionFormatter {
 public:
     SubscriptionOptionFormatter() = delete;
 
