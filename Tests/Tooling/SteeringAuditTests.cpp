@@ -51,6 +51,23 @@ protected:
     }
 };
 
+// Lets the focus go as soon as it comes.
+class Trap final : public Switch {
+public:
+    explicit Trap(std::weak_ptr<uikit::UIWindow> window) : Switch(Role::button, "trap", false), m_window(std::move(window)) {}
+
+protected:
+    void describe(accessibility::SemanticNode& node, const graphics::PaintState& state) const override {
+        Switch::describe(node, state);
+        node.reveal = node.revealWhole = [window = m_window] {
+            runloop::MainRunLoop::main().schedule(0, [window] { window.lock()->dropFocus(); });
+        };
+    }
+
+private:
+    std::weak_ptr<uikit::UIWindow> m_window;
+};
+
 class SteeringAudit : public testing::Test {
 protected:
     SteeringAudit() {
@@ -117,6 +134,15 @@ TEST_F(SteeringAudit, FindsAControlThatIsOutOfSightWithTheFocus) {
     add(std::make_shared<Unreachable>(), {{20, 900}, {100, 44}});
 
     EXPECT_THAT(keyboard(), ElementsAre("hidden focus: button below \"below\" is out of sight when it has the focus"));
+}
+
+TEST_F(SteeringAudit, FindsControlsBehindOneThatLetsTheFocusGo) {
+    addSwitch(Role::button, "buy", false);
+    add(std::make_shared<Trap>(window), {{20, 100}, {100, 44}});
+    add(std::make_shared<Switch>(Role::button, "close", false), {{20, 200}, {100, 44}});
+
+    EXPECT_THAT(keyboard(), ElementsAre("no keyboard: button trap \"trap\" never gets the focus",
+                                        "no keyboard: button close \"close\" never gets the focus"));
 }
 
 } // namespace
