@@ -25,17 +25,10 @@ bool isScenario(const std::filesystem::path& file) {
     return json.is_object() && json.contains("offers");
 }
 
-Device deviceOf(const AuditArguments& arguments) {
-    Json keys = Json::object();
-    if (arguments.strings) keys["strings"] = system::textOf(*arguments.strings);
-    if (arguments.theme) keys["theme"] = system::textOf(*arguments.theme);
-    return readDevice(JsonCursor{keys, commandLinePlace}, std::filesystem::current_path());
-}
-
 AuditSubject readSubject(const AuditArguments& arguments) {
     AuditSubject subject;
     subject.offers = readOffersFile(arguments.subject ? *arguments.subject : foundation::requiredResource("offers.json"));
-    subject.device = deviceOf(arguments);
+    subject.device = brandedDevice(arguments.strings, arguments.theme);
     subject.matrix = arguments.matrix ? readMatrix(*arguments.matrix, arguments.strings) : defaultMatrix(arguments.strings);
     return subject;
 }

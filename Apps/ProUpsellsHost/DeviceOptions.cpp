@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "Platform/Foundation/DecimalText.hpp"
+#include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -84,6 +85,13 @@ std::vector<std::string> DeviceOptions::given() const {
     for (std::size_t i = 0; i < count; ++i)
         if (!m_values[i].empty()) keys.push_back(deviceOptions[i].key);
     return keys;
+}
+
+Device brandedDevice(const std::optional<std::filesystem::path>& strings, const std::optional<std::filesystem::path>& theme) {
+    Json keys = Json::object();
+    if (strings) keys["strings"] = system::textOf(*strings);
+    if (theme) keys["theme"] = system::textOf(*theme);
+    return readDevice(JsonCursor{keys, commandLinePlace}, std::filesystem::current_path());
 }
 
 } // namespace proupsells::hostprogram

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <array>
+#include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,5 +32,8 @@ private:
     static constexpr std::size_t count = 10;
     std::array<std::string, count> m_values; // empty where an option is left out
 };
+
+// The ordinary device with a host's own translations and brand, where they are given. Throws InputError.
+Device brandedDevice(const std::optional<std::filesystem::path>& strings, const std::optional<std::filesystem::path>& theme);
 
 } // namespace proupsells::hostprogram

@@ -20,17 +20,10 @@ namespace {
 using tooling::Gallery;
 using tooling::GalleryPicture;
 
-Device galleryDeviceOf(const GalleryArguments& arguments) {
-    Json keys = Json::object();
-    if (arguments.strings) keys["strings"] = system::textOf(*arguments.strings);
-    if (arguments.theme) keys["theme"] = system::textOf(*arguments.theme);
-    return readDevice(JsonCursor{keys, commandLinePlace}, std::filesystem::current_path());
-}
-
 GallerySubject readGallerySubject(const GalleryArguments& arguments) {
     const auto offers = arguments.offers ? *arguments.offers : foundation::requiredResource("offers.json");
     return {.offers = readOffersFile(offers),
-            .device = galleryDeviceOf(arguments),
+            .device = brandedDevice(arguments.strings, arguments.theme),
             .matrix = arguments.matrix ? readGalleryMatrix(*arguments.matrix, arguments.strings)
                                        : defaultGalleryMatrix(arguments.strings)};
 }
