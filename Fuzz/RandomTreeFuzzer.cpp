@@ -55,5 +55,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto fresh = swiftui::ViewHost::create(make);
     fresh->setSize({320, 480}, {20, 0, 34, 0});
     require(framesOf(*fresh) == changed);
+    require(swiftui::tests::paintTheSame(fresh->displayList(), host->displayList()));
     return 0;
 }

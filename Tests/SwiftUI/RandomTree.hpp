@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "Platform/Graphics/DisplayList.hpp"
 #include "Platform/SwiftUI/SwiftUI.hpp"
 
 namespace proupsells::swiftui::tests {
@@ -26,6 +27,8 @@ public:
         return choice < 8 ? below(120) : choice < 14 ? below(256) / 3.0 : odd[below(8)];
     }
     std::optional<double> maybeLength() { return maybe() ? std::optional(length()) : std::nullopt; }
+    // Of the bytes that were read.
+    std::size_t count() const { return m_position; }
 
 private:
     std::uint8_t next() { return m_position < m_bytes.size() ? m_bytes[m_position++] : 0; }
@@ -34,11 +37,31 @@ private:
     std::size_t m_position = 0;
 };
 
+// Whether two commands of different screens, each of which shapes its texts, paint the same.
+inline bool paintTheSame(const graphics::DisplayList& a, graphics::Command inA, const graphics::DisplayList& b,
+                         graphics::Command inB) {
+    if (inA.kind == graphics::CommandKind::text && inB.kind == inA.kind) {
+        if (a.texts[std::size_t(inA.resource)]->runs != b.texts[std::size_t(inB.resource)]->runs) return false;
+        inA.kind = inB.kind = graphics::CommandKind::fillRectangle; // the rest is compared as for what has no resource
+    }
+    return graphics::paintsTheSame(a, inA, b, inB);
+}
+
+// Whether two lists paint the same, command by command.
+inline bool paintTheSame(const graphics::DisplayList& a, const graphics::DisplayList& b) {
+    if (a.commands.size() != b.commands.size()) return false;
+    for (std::size_t index = 0; index < a.commands.size(); ++index)
+        if (!paintTheSame(a, a.commands[index], b, b.commands[index])) return false;
+    return true;
+}
+
 class RandomTree {
 public:
     explicit RandomTree(std::span<const std::uint8_t> bytes) : m_decisions(bytes) {}
 
     View make() { return view(0); }
+    // How many of the bytes count, once it is made.
+    std::size_t usedByteCount() const { return m_decisions.count(); }
 
 private:
     static constexpr int maximumDepth = 6;
@@ -85,7 +108,7 @@ private:
     }
 
     View modified(const View& content) {
-        switch (m_decisions.below(12)) {
+        switch (m_decisions.below(13)) {
         case 0: return padded(content);
         case 1: return content | frame(frameOptions());
         case 2: return fixed(content);
@@ -97,7 +120,8 @@ private:
         case 8: return content | layoutDirection(geometry::LayoutDirection(m_decisions.below(2)));
         case 9: return content | ignoresSafeArea(Edge(m_decisions.below(16)));
         case 10: return faded(content | scaleEffect(m_decisions.below(5) / 2.0));
-        default: return content | clipped();
+        case 11: return content | clipped();
+        default: return content | clipShape(Shape(Shape::Kind(m_decisions.below(5)), 6));
         }
     }
 

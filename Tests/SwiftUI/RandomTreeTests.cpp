@@ -65,17 +65,26 @@ TEST(AnyTree, LooksAfterAChangeAsIfItHadAlwaysBeenThatWay) {
         SCOPED_TRACE(seed);
         auto bytes = randomBytes(seed);
         std::mt19937 random(seed + 1'000'000);
-        Screen screen{[&] { return RandomTree(bytes).make(); }, {320, 480}, {20, 0, 34, 0}};
+        std::size_t usedByteCount = 1;
+        const auto root = [&] {
+            RandomTree tree(bytes);
+            View view = tree.make();
+            usedByteCount = std::max<std::size_t>(tree.usedByteCount(), 1);
+            return view;
+        };
+        Screen screen{root, {320, 480}, {20, 0, 34, 0}};
 
-        for (int change = 0; change < 4; ++change) {
-            bytes[random() % 200] = std::uint8_t(random());
+        for (int change = 0; change < 12; ++change) {
+            // Another tree from some view on, or the same one with one thing a little different.
+            std::uint8_t& byte = bytes[random() % usedByteCount];
+            byte = std::uint8_t(change % 3 == 0 ? random() : byte + 1);
             screen.host().setNeedsUpdate();
             const auto incremental = framesOf(screen);
             screen.host().displayList();
 
-            Screen fresh{[&] { return RandomTree(bytes).make(); }, {320, 480}, {20, 0, 34, 0}};
+            Screen fresh{root, {320, 480}, {20, 0, 34, 0}};
             ASSERT_EQ(incremental, framesOf(fresh));
-            ASSERT_EQ(screen.host().displayList().commands.size(), fresh.host().displayList().commands.size());
+            ASSERT_TRUE(paintTheSame(screen.host().displayList(), fresh.host().displayList()));
         }
     }
 }
@@ -93,6 +102,27 @@ TEST(AnyTree, ShowsAStrokeThatGrowsIntoTheWindow) {
     EXPECT_EQ(screen.host().displayList().commands.size(), 1u);
 }
 
+TEST(AnyTree, PaintsALayerBehindWhatItStoodInFrontOf) {
+    bool isBehind = false;
+    Screen screen{[&]() -> View {
+                      View content = ColorView{graphics::Color::white} | frame(50, 50),
+                           layer = Circle().fill(graphics::Color::black);
+                      return isBehind ? View{content | background(layer)} : View{content | overlay(layer)};
+                  },
+                  {100, 100}};
+    const auto isCircleInFront = [&] {
+        const auto& commands = screen.host().displayList().commands;
+        return commands.size() == 2 && commands.back().kind == graphics::CommandKind::fillEllipse;
+    };
+    EXPECT_TRUE(isCircleInFront());
+
+    isBehind = true;
+    screen.host().setNeedsUpdate();
+    screen.settle();
+
+    EXPECT_FALSE(isCircleInFront());
+}
+
 TEST(AnyTree, ShowsAShapeThatIsLargerThanItsFrame) {
     Screen screen{[] { return Circle().inset(-100) | frame(10, 10) | offset(-100, 0); }, {100, 100}};
 
@@ -108,6 +138,7 @@ TEST(AnyTree, FollowsAResizeAsIfItHadAlwaysBeenThatSize) {
 
         Screen fresh{[&] { return RandomTree(bytes).make(); }, {200, 300}, {10, 0, 20, 0}};
         ASSERT_EQ(framesOf(screen), framesOf(fresh));
+        ASSERT_TRUE(paintTheSame(screen.host().displayList(), fresh.host().displayList()));
     }
 }
 

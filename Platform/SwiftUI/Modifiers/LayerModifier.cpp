@@ -19,8 +19,10 @@ public:
     void adopt(LayerModifier&& modifier, UpdatePass& pass) {
         const bool sitsElsewhere = modifier.alignment != m_alignment || modifier.ignoredSafeArea != m_ignoredSafeArea;
         if (!isNew() && sitsElsewhere) invalidateLayout();
+        if (!isNew() && modifier.isBehind != m_isBehind) setNeedsDisplay();
         if (modifier.ignoredSafeArea != Edge::none) setDependsOnPosition();
-        setPaintsInReverse(modifier.isBehind);
+        m_isBehind = modifier.isBehind;
+        setPaintsInReverse(m_isBehind);
         m_alignment = modifier.alignment;
         m_ignoredSafeArea = modifier.ignoredSafeArea;
         updateChild(1, modifier.layer, pass);
@@ -41,6 +43,7 @@ protected:
 private:
     Alignment m_alignment;
     Edge m_ignoredSafeArea = Edge::none;
+    bool m_isBehind = false;
 };
 
 } // namespace
