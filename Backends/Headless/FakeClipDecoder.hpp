@@ -5,6 +5,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Platform/Host/ClipDecoder.hpp"
@@ -34,6 +35,8 @@ public:
 
     // The files that were opened, in order; one that is still open is not opened again.
     const std::vector<std::string>& openedFiles() const { return m_shared->openedFiles; }
+    // The same, which are forgotten then.
+    std::vector<std::string> takeOpenedFiles() { return std::exchange(m_shared->openedFiles, {}); }
     // How often a picture was asked for, by everybody.
     int questionCount() const { return m_shared->questionCount; }
     // How many pictures were made: asking for the same one again makes none.

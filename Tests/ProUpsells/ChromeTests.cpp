@@ -9,6 +9,7 @@
 #include "ProUpsells/InfoButton.hpp"
 #include "ProUpsells/ResizableImage.hpp"
 #include "ProUpsells/SubscribeButton.hpp"
+#include "Tests/ProUpsells/HostTranslations.hpp"
 #include "Tests/ProUpsells/Screen.hpp"
 
 namespace proupsells::tests {
@@ -113,10 +114,14 @@ TEST(SubscribeButton, Is56HighAndSharesItsRoomUnequally) {
     EXPECT_EQ(screen.find("subscribe").label, "Subscribe Now");
 }
 
-TEST(SubscribeButton, ShowsItsTextAsGiven) {
+// Who makes the button has looked the text up already.
+TEST(SubscribeButton, ShowsItsTextAsGivenEvenWhereItIsTranslated) {
+    const HostTranslations host({{"Cancel", "Never mind"}}, "en");
     Screen screen(SubscribeButton{.text = "Cancel"}, Size{375, 60});
+    ASSERT_EQ(foundation::Bundle::main().localizedString("Cancel"), "Never mind");
 
     EXPECT_THAT(texts(screen.tree()), ElementsAre("Cancel"));
+    EXPECT_EQ(screen.find("subscribe").label, "Cancel");
 }
 
 TEST(SubscribeButton, DoesNothingWhileItIsDisabled) {

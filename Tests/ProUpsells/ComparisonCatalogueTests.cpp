@@ -1,5 +1,8 @@
 #include "ProUpsells/ComparisonCatalogue.hpp"
 
+#include <cstdlib>
+#include <iostream>
+
 #include <gmock/gmock.h>
 
 #include "Tests/ProUpsells/HostTranslations.hpp"
@@ -53,12 +56,47 @@ TEST(ComparisonCatalogue, ListsItsFeatures) {
     EXPECT_THAT(described(ComparisonCatalogue::automation()), ElementsAre("Logo Generation: free", "Video Generation: free"));
 }
 
-TEST(ComparisonCatalogue, KeepsTheLanguageOfItsFirstUse) {
-    const FeatureCategory before = ComparisonCatalogue::contentAndAssets();
-    HostTranslations host{{{"Content And Assets", "Inhalte"}}, "de"};
+// The catalogue's names and first features, and its headings, on standard error.
+void printCatalogue() {
+    for (const FeatureCategory& category : ComparisonCatalogue::categories())
+        std::cerr << category.name << " (" << category.items.front().name << ") ";
+    std::cerr << ComparisonCatalogue::freeHeading() << ' ' << ComparisonCatalogue::proHeading() << '\n';
+}
 
-    EXPECT_EQ(ComparisonCatalogue::contentAndAssets(), before);
+// In a program of its own, in which nothing has been used yet.
+TEST(ComparisonCatalogueDeathTest, KeepsTheLanguageOfItsFirstUse) {
+    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
+    const auto useInGermanAndThenInEnglish = [] {
+        {
+            const HostTranslations german{{{"Content And Assets", "Inhalte"},
+                                           {"Creation Tools", "Werkzeuge"},
+                                           {"Business Growth Tools", "Wachstum"},
+                                           {"Automation (AI Features)", "Automatik"},
+                                           {"Unlimited Stock Images", "Bilder"},
+                                           {"Video Creation", "Filme"},
+                                           {"Search and Purchase Domains", "Domains"},
+                                           {"Logo Generation", "Logos"},
+                                           {"Free", "Gratis"},
+                                           {"Pro", "Profi"}},
+                                          "de"};
+            printCatalogue();
+        }
+        printCatalogue();
+        std::exit(0);
+    };
+
+    const std::string german =
+        "Inhalte \\(Bilder\\) Werkzeuge \\(Filme\\) Wachstum \\(Domains\\) Automatik \\(Logos\\) GRATIS PROFI\n";
+    EXPECT_EXIT(useInGermanAndThenInEnglish(), ::testing::ExitedWithCode(0), german + german);
+}
+
+TEST(ComparisonCatalogue, IsBuiltOnce) {
     EXPECT_EQ(&ComparisonCatalogue::contentAndAssets(), &ComparisonCatalogue::contentAndAssets());
+    EXPECT_EQ(&ComparisonCatalogue::creationTools(), &ComparisonCatalogue::creationTools());
+    EXPECT_EQ(&ComparisonCatalogue::businessGrowthTools(), &ComparisonCatalogue::businessGrowthTools());
+    EXPECT_EQ(&ComparisonCatalogue::automation(), &ComparisonCatalogue::automation());
+    EXPECT_EQ(&ComparisonCatalogue::freeHeading(), &ComparisonCatalogue::freeHeading());
+    EXPECT_EQ(&ComparisonCatalogue::proHeading(), &ComparisonCatalogue::proHeading());
 }
 
 TEST(ComparisonCatalogue, HasUpperCaseHeadings) {

@@ -9,6 +9,7 @@ namespace proupsells::tests {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::SizeIs;
 
 class RecordingComparisonDelegate final : public ComparisonViewControllerDelegate {
 public:
@@ -99,18 +100,30 @@ TEST_F(ComparisonController, SurvivesADelegateThatDismissesOrReleasesFromInsideA
     EXPECT_THAT(delegate->calls, ElementsAre("choose", "close", "choose"));
 }
 
-TEST_F(ComparisonController, SurvivesADelegateThatPresentsAgainFromInsideACall) {
-    controller->setDelegate(delegate);
-    delegate->duringCall = [&](ComparisonViewController& sender) {
-        sender.dismiss(true);
-        window->rootViewController()->present(std::make_shared<uikit::UIViewController>(), true);
-    };
+TEST_F(ComparisonController, GivesWayToWhatADelegatePresentsFromInsideACall) {
+    for (const char* button : {"comparison.close", "comparison.choosePlan"}) {
+        SCOPED_TRACE(button);
+        const auto next = std::make_shared<uikit::UIViewController>();
+        const std::weak_ptr<ComparisonViewController> former = controller;
+        controller->setDelegate(delegate);
+        controller.reset();
+        delegate->calls.clear();
+        delegate->duringCall = [&](ComparisonViewController& sender) {
+            sender.dismiss(true);
+            window->rootViewController()->present(next, true);
+        };
 
-    press("comparison.close");
-    bed.runFor(3);
-    bed.takeLogRecords();
+        press(button);
+        EXPECT_EQ(window->frontMostViewController()->typeName(), "UINavigationController"); // still on its way out
+        bed.runFor(3);
 
-    EXPECT_THAT(delegate->calls, ElementsAre("close"));
+        EXPECT_THAT(delegate->calls, SizeIs(1));
+        EXPECT_EQ(window->rootViewController()->presentedViewController(), next.get());
+        EXPECT_TRUE(next->isAppeared());
+        EXPECT_TRUE(former.expired());
+        next->dismiss(false);
+        present();
+    }
 }
 
 } // namespace

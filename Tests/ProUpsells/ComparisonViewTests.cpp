@@ -266,6 +266,11 @@ TEST(ComparisonView, TakesSmallCapsulesForLongHeadings) {
     const auto capsules = allOfType(comparison.tree(), "ComparisonColumnCapsule");
 
     EXPECT_EQ(capsules[0].frame.size, (Size{4 * 5.5 + 18, 11 * 1.25 + 8}));
+    EXPECT_EQ(capsules[1].frame.size, (Size{3 * 5.5 + 18, 11 * 1.25 + 8}));
+    for (const auto& capsule : capsules) {
+        const Rect text = firstOfType(capsule, "Text").frame, plate = firstOfType(capsule, "Capsule").frame;
+        EXPECT_EQ(plate, (Rect{{text.minX() - 9, text.minY() - 4}, {text.width() + 18, text.height() + 8}}));
+    }
     EXPECT_EQ(firstOfType(capsules[1], "Text").text->size, 11);
     EXPECT_EQ(firstOfType(capsules[1], "Text").text->font, "Quenby-Semibold");
 }

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "Platform/Graphics/ContentSize.hpp"
 #include "Tests/ProUpsells/Carousel.hpp"
 
 namespace proupsells::tests {
@@ -21,6 +22,26 @@ TEST(HeaderCarousel, AdvancesEvery5SecondsForAMinute) {
 
     EXPECT_THAT(titles, ElementsAre("page 0", "page 1", "page 2", "page 3", "page 0", "page 1", "page 2", "page 3", "page 0",
                                     "page 1", "page 2", "page 3", "page 0"));
+}
+
+TEST(HeaderCarousel, BeginsAgainAfterTheLastOfThreePages) {
+    Carousel carousel(3);
+
+    std::vector<std::string> titles;
+    std::vector<int> dots;
+    std::vector<double> positions;
+    for (int tick = 0; tick <= 6; ++tick) {
+        carousel.runUntil(5.0 * tick + 2.5);
+        titles.push_back(carousel.shownTitle());
+        dots.push_back(carousel.indicatorPage());
+        positions.push_back(carousel.position());
+    }
+
+    EXPECT_THAT(titles, ElementsAre("page 0", "page 1", "page 2", "page 0", "page 1", "page 2", "page 0"));
+    EXPECT_THAT(dots, ElementsAre(0, 1, 2, 0, 1, 2, 0));
+    EXPECT_THAT(positions, ElementsAre(0, 1, 2, 0, 1, 2, 0));
+    EXPECT_EQ(carousel.frame("carousel.pageControl").width(), 30);
+    EXPECT_EQ(carousel.frame("carousel.pageControl").maxX(), 375 - 30);
 }
 
 TEST(HeaderCarousel, AdvancesExactlyAtTheTick) {
@@ -144,15 +165,53 @@ TEST(HeaderCarousel, IsReadInTheDarkSchemeOverItsPictures) {
     EXPECT_TRUE(foundTitle);
 }
 
+// Beside the title are 10 before it, 10 of indicator and 30 behind that, and three gaps of 8.
+TEST(HeaderCarousel, SetsALongTitleInHalfItsSizeAtTheLeast) {
+    const auto titleOf = [](std::size_t words, double width) {
+        std::string title;
+        for (std::size_t word = 0; word < words; ++word) title += "nine more ";
+        const auto pages = std::make_shared<std::vector<Page>>();
+        Screen screen(std::function<swiftui::View()>([=]() -> swiftui::View {
+                          if (pages->empty()) pages->push_back({.image = image(ImageResource::paywallHeaderA()), .title = title});
+                          return HeaderCarousel{pages};
+                      }),
+                      geometry::Size{width, 254});
+        return *firstOfType(screen.tree(), "Text").text;
+    };
+
+    // 670 points have three lines of 55 letters in 24 points, or of 111 in 12.
+    EXPECT_EQ(titleOf(15, 744).size, 24);
+    const auto smaller = titleOf(25, 744);
+    EXPECT_LT(smaller.size, 24);
+    EXPECT_GT(smaller.size, 12);
+    EXPECT_EQ(smaller.lineCount, 3);
+    EXPECT_FALSE(smaller.isTruncated);
+    EXPECT_NEAR(titleOf(40, 744).size, 12, 1e-6);
+    EXPECT_TRUE(titleOf(40, 744).isTruncated);
+    // In 18 points half would be less than anybody can read.
+    EXPECT_EQ(titleOf(9, 375).size, 18);
+    EXPECT_EQ(titleOf(40, 375).size, graphics::leastTextSize);
+    EXPECT_TRUE(titleOf(40, 375).isTruncated);
+}
+
+// The pictures fill their pages, so they are wider: one that were not cut would lie over its neighbour.
 TEST(HeaderCarousel, ClipsEachPictureToItsPage) {
-    Carousel carousel(2);
+    Carousel carousel(3);
+    carousel.runUntil(6); // half-way from the first page to the second
     graphics::DisplayList list;
     carousel.window().paint(list);
 
-    for (const graphics::Command& command : list.commands)
-        if (command.kind == graphics::CommandKind::image) {
-            EXPECT_LE(command.clip.maxX(), 375);
-        }
+    std::vector<geometry::Rect> seen, whole;
+    for (const graphics::Command& command : list.commands) {
+        if (command.kind != graphics::CommandKind::image) continue;
+        seen.push_back(command.clip);
+        whole.push_back(command.frame);
+    }
+    ASSERT_EQ(seen.size(), 2u);
+    EXPECT_NEAR(seen[0].maxX(), 187.5, 0.5);
+    EXPECT_NEAR(seen[1].minX(), 187.5, 0.5);
+    EXPECT_GT(whole[0].maxX(), seen[0].maxX() + 1);
+    EXPECT_LT(whole[1].minX(), seen[1].minX() - 1);
 }
 
 TEST(HeaderCarousel, StopsItsTimerWhenItGoesAway) {

@@ -157,6 +157,53 @@ TEST(RadioPickerButton, SetsTheBadgeAstrideItsTopEdge) {
     EXPECT_EQ(badge.size, (Size{10 * 5 + 8, 12.5 + 4}));
 }
 
+TEST(RadioPickerButton, LiesOnARoundedCardInARoundedBorder) {
+    for (const bool isSelected : {false, true}) {
+        SCOPED_TRACE(isSelected);
+        Screen screen = pickerScreen(plans({"a"}), constant(isSelected ? "a" : "b"));
+        const auto shapes = allOfType(screen.find("plan.a"), "RoundedRectangle");
+        const auto all = allOfType(screen.tree(), "RoundedRectangle");
+        ASSERT_EQ(shapes.size(), 1u);
+        ASSERT_EQ(all.size(), 2u);
+
+        const auto& card = shapes[0];
+        EXPECT_EQ(card.frame, screen.frame("plan.a"));
+        EXPECT_EQ(card.shape->fill, "velaSecondaryAppBackground");
+        EXPECT_EQ(card.shape->cornerRadius, 6);
+        const auto& border = all[1];
+        EXPECT_EQ(border.frame, screen.frame("plan.a"));
+        EXPECT_EQ(border.shape->fill, "");
+        EXPECT_EQ(border.shape->stroke, "accent");
+        EXPECT_EQ(border.shape->lineWidth, 2);
+        EXPECT_EQ(border.shape->cornerRadius, 6);
+        EXPECT_EQ(border.opacity, isSelected ? 1 : 0);
+    }
+}
+
+TEST(RadioPickerButton, HasContinuousCornersOnItsBorderAlone) {
+    Screen screen = pickerScreen(plans({"a"}), constant("a"));
+    graphics::DisplayList list;
+    screen.window().paint(list);
+    std::vector<geometry::CornerStyle> fills, strokes;
+    for (const graphics::Command& command : list.commands) {
+        if (command.kind == graphics::CommandKind::fillRoundedRectangle) fills.push_back(command.cornerStyle);
+        if (command.kind == graphics::CommandKind::strokeRoundedRectangle) strokes.push_back(command.cornerStyle);
+    }
+
+    EXPECT_THAT(fills, ElementsAre(geometry::CornerStyle::circular));
+    EXPECT_THAT(strokes, ElementsAre(geometry::CornerStyle::continuous));
+}
+
+TEST(RadioPickerButton, ColoursItsTexts) {
+    Screen screen = cardScreen(plan({}, false, {}), true);
+    const auto cardTexts = allOfType(screen.tree(), "Text");
+
+    ASSERT_EQ(cardTexts.size(), 2u);
+    EXPECT_EQ(cardTexts[0].text->font, "bodyLarge");
+    EXPECT_EQ(cardTexts[0].text->color, "ContentColor.primary");
+    EXPECT_EQ(cardTexts[1].text->color, "velaSecondaryLabel");
+}
+
 TEST(RadioPickerButton, IsNamedByItsTitleAndPrice) {
     RadioPickerItem item = plan({}, false, {});
     item.title = "Annually";
@@ -179,7 +226,11 @@ TEST(RadioPickerButtonBadge, IsShownInCapitalsOnItsSurroundingsColour) {
     EXPECT_EQ(text.text->font, "Quenby-Bold");
     EXPECT_EQ(text.text->size, 10);
     EXPECT_EQ(text.text->color, "velaLightText");
-    EXPECT_EQ(firstOfType(screen.tree(), "RoundedRectangle").shape->fill, "accent");
+    const auto plate = firstOfType(screen.tree(), "RoundedRectangle");
+    EXPECT_EQ(plate.shape->fill, "accent");
+    EXPECT_EQ(plate.shape->stroke, "");
+    EXPECT_EQ(plate.shape->cornerRadius, 2);
+    EXPECT_EQ(plate.frame, (Rect{{text.frame.minX() - 4, text.frame.minY() - 2}, {10 * 5 + 8, 12.5 + 4}}));
     // What is painted are capitals.
     graphics::DisplayList list;
     screen.window().paint(list);

@@ -1,4 +1,6 @@
 // Stacks of two controllers, headlines, footers, headers and clip views.
+#include <cstdlib>
+#include <iostream>
 #include <limits>
 
 #include "ProUpsells/AllTheThingsHeaderViewShelf.hpp"
@@ -168,6 +170,37 @@ TEST_F(StoreContainer, LeavesALogoWithoutARatioAsItIs) {
     EXPECT_EQ(aspectRatio({0, 26}), 0);
     EXPECT_FALSE(aspectRatio({208, 0}).has_value());
     EXPECT_FALSE(aspectRatio({0, 0}).has_value());
+}
+
+namespace {
+
+// Reads every picture as one without a height.
+class FlatPictures : public host::ImageDecoder {
+public:
+    std::optional<geometry::Size> naturalSize(const std::filesystem::path&) override { return geometry::Size{208, 0}; }
+};
+
+} // namespace
+
+// In a program of its own: a picture that has been read once keeps its size.
+TEST(StoreHeaderDeathTest, LeavesALogoOfNoHeightItsNaturalWidth) {
+    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
+    const auto showFlatLogo = [] {
+        headless::TestBed bed(host::Services{.imageDecoder = std::make_shared<FlatPictures>()});
+        const auto window = uikit::UIWindow::create({375, 800});
+        const auto root = std::make_shared<uikit::UIViewController>();
+        const auto header = std::make_shared<VelaProHeaderView>(geometry::Rect{{0, 0}, {375, 220}});
+        root->view()->addSubview(header);
+        window->setRootViewController(root);
+        bed.settle();
+        const uikit::UIView& logo = *header->proLogoImageView();
+        const geometry::Rect frame = logo.convertTo(logo.bounds(), header.get()), title = header->titleLabel()->frame();
+        std::cerr << frame.minX() << ' ' << frame.minY() << ' ' << frame.width() << ' ' << frame.height() << ", " << title.minX()
+                  << ' ' << title.minY() << ' ' << title.width() << ' ' << title.height() << '\n';
+        std::exit(bed.takeLogRecords().empty() ? 0 : 1);
+    };
+
+    EXPECT_EXIT(showFlatLogo(), ::testing::ExitedWithCode(0), "^83.5 57 208 28, 62 101 251 89\n");
 }
 
 TEST_F(StoreContainer, ShowsTheOtherHeaderToo) {

@@ -1,9 +1,9 @@
 // The page's behaviour: events, actions, clips, sections, traits.
+#include <algorithm>
 #include <limits>
 
 #include "ProUpsells/FooterView.hpp"
 #include "ProUpsells/LibraryClips.hpp"
-#include "ProUpsells/VelaProStoreCell.hpp"
 #include "ProUpsells/VideoImageLibrariesShelf.hpp"
 #include "Tests/ProUpsells/HostTranslations.hpp"
 #include "Tests/ProUpsells/StoreScreen.hpp"
@@ -320,14 +320,27 @@ TEST_F(StorePage, OpensOnlyTheClipsThatAreSeen) {
 }
 
 TEST_F(StorePage, ShowsItsClipsEmptyWhereNoneCanBePlayed) {
+    const auto paintedClips = [this] {
+        const graphics::DisplayList list = painted();
+        return std::count_if(list.commands.begin(), list.commands.end(),
+                             [](const graphics::Command& command) { return command.kind == graphics::CommandKind::bitmap; });
+    };
+    const auto clip = [this] { return tests::firstOfType(find("store.shelf.BrandAssetsShelf"), "VideoView"); };
+    showPage();
+    ASSERT_EQ(paintedClips(), 2);
+    ASSERT_TRUE(clip().clipView->time_s.has_value());
+    window->setRootViewController(nullptr); // whoever plays them shares what is open
     host::Services services = bed.services();
     services.clipDecoder = nullptr;
     const host::Installation without{services};
-    const auto page = showPage();
 
-    painted();
+    showPage();
 
-    EXPECT_TRUE(has("store.shelf.BrandAssetsShelf"));
+    EXPECT_EQ(paintedClips(), 0);
+    EXPECT_EQ(clip().clipView->name, "StorePageBrandingVideo");
+    EXPECT_FALSE(clip().clipView->time_s.has_value());
+    EXPECT_EQ(clip().frame, (geometry::Rect{{0, 220}, {375, 196}}));
+    EXPECT_FALSE(window->isAnimating());
 }
 
 TEST_F(StorePage, ForgetsItsClipsWhenItIsGoneBeforeTheyAreLoaded) {
@@ -340,33 +353,6 @@ TEST_F(StorePage, ForgetsItsClipsWhenItIsGoneBeforeTheyAreLoaded) {
 
     EXPECT_TRUE(weak.expired());
     EXPECT_FALSE(bed.loop().nextDueTime_s().has_value());
-}
-
-// --- Cells ---
-
-TEST_F(StorePage, BorrowsEachControllerForOneCell) {
-    const auto page = showPage();
-    const auto cell = std::dynamic_pointer_cast<VelaProStoreCell>(page->collectionView()->cellForItem({1, 0}));
-    ASSERT_TRUE(cell);
-    const auto controller = page->shelves()[1]->viewController();
-    EXPECT_EQ(cell->viewController(), controller);
-    EXPECT_EQ(controller->parent(), page.get());
-    EXPECT_EQ(controller->view()->frame(), cell->contentView()->bounds());
-
-    scrollTo(*page, 1900);
-
-    EXPECT_EQ(cell->viewController() == controller, false);
-    EXPECT_EQ(controller->parent(), nullptr);
-    EXPECT_EQ(controller->view()->superview(), nullptr);
-    EXPECT_FALSE(controller->isAppeared());
-}
-
-TEST_F(StorePage, LeavesAnEmptyCellAsItIs) {
-    VelaProStoreCell cell;
-
-    cell.detach();
-
-    EXPECT_FALSE(cell.viewController());
 }
 
 // --- Traits ---

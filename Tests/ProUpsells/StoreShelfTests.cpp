@@ -50,6 +50,19 @@ Facts factsOf() {
             shelf.footerSubTitle()};
 }
 
+template <class Shelf>
+class EachShelf : public StoreTest {
+protected:
+    // The one that has no controller without.
+    static void giveClips(Shelf& shelf) {
+        if constexpr (std::is_base_of_v<VideosShelf, Shelf>) shelf.createVideosShelf({});
+    }
+};
+
+using EachShelfType =
+    ::testing::Types<ProIntroHeaderViewShelf, BrandAssetsShelf, TemplatesShelf, PDFsShelf, LayoutCollectionsShelf,
+                     PremiumFontsShelf, ShapesShelf, iCloudSyncShelf, VideoImageLibrariesShelf, AllTheThingsHeaderViewShelf>;
+
 std::vector<std::string> namesOf(const VelaProStorePageViewController& page) {
     std::vector<std::string> names;
     for (const auto& shelf : page.shelves()) names.emplace_back(shelf->className());
@@ -89,8 +102,11 @@ TEST_F(StoreShelf, SpeaksTheHostsLanguage) {
     EXPECT_EQ(BrandAssetsShelf().footerTitle(), "Marke hochladen");
 }
 
-TEST_F(StoreShelf, BuildsItsControllerOnce) {
-    PDFsShelf shelf;
+TYPED_TEST_SUITE(EachShelf, EachShelfType);
+
+TYPED_TEST(EachShelf, BuildsItsControllerOnce) {
+    TypeParam shelf;
+    this->giveClips(shelf);
 
     const auto first = shelf.viewController();
 
@@ -98,13 +114,36 @@ TEST_F(StoreShelf, BuildsItsControllerOnce) {
     EXPECT_EQ(shelf.viewController(), first);
 }
 
-TEST_F(StoreShelf, TakesAnotherController) {
-    ShapesShelf shelf;
+TYPED_TEST(EachShelf, TakesAnotherControllerBeforeAndAfterItHasOne) {
+    TypeParam unread, read;
+    this->giveClips(read);
+    (void)read.viewController();
     const auto other = std::make_shared<uikit::UIViewController>();
 
-    shelf.setViewController(other);
+    unread.setViewController(other);
+    read.setViewController(other);
 
-    EXPECT_EQ(shelf.viewController(), other);
+    EXPECT_EQ(unread.viewController(), other);
+    EXPECT_EQ(read.viewController(), other);
+    EXPECT_EQ(read.viewController(), other);
+}
+
+TYPED_TEST(EachShelf, ReadsItsTextsAnewEachTime) {
+    const TypeParam shelf;
+    const std::string title = shelf.footerTitle(), subtitle = shelf.footerSubTitle();
+    EXPECT_EQ(shelf.footerTitle(), title);
+    EXPECT_EQ(shelf.footerSubTitle(), subtitle);
+    const bool isHeader = title.empty();
+    EXPECT_EQ(subtitle.empty(), isHeader);
+
+    {
+        // A translation of nothing is none.
+        const HostTranslations german({{title, "Titel"}, {subtitle, "Untertitel"}}, "de");
+        EXPECT_EQ(shelf.footerTitle(), isHeader ? "" : "Titel");
+        EXPECT_EQ(shelf.footerSubTitle(), isHeader ? "" : "Untertitel");
+    }
+    EXPECT_EQ(shelf.footerTitle(), title);
+    EXPECT_EQ(shelf.footerSubTitle(), subtitle);
 }
 
 TEST_F(StoreShelf, HasNoControllerUntilItsClipsArrive) {

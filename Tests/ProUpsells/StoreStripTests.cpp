@@ -49,6 +49,16 @@ protected:
         window->setTraits(traits);
         bed.settle();
     }
+    void showIn(uikit::UIViewController& root, const std::shared_ptr<StorePageShelfViewController>& strip) {
+        root.addChild(strip);
+        strip->view()->setFrame(root.view()->bounds());
+        root.view()->addSubview(strip->view());
+        bed.settle();
+    }
+    static void takeFrom(StorePageShelfViewController& strip) {
+        strip.view()->removeFromSuperview();
+        strip.removeFromParent();
+    }
     static double offset(const StorePageShelfViewController& strip) { return strip.scrollView()->contentOffset().x; }
 
     static constexpr double width = 2452;
@@ -240,6 +250,55 @@ TEST_F(StoreStrip, DriftsOnlyWhileItCanBeSeen) {
     EXPECT_FALSE(strip->isAutoScrolling());
     bed.settle();
     EXPECT_FALSE(bed.loop().nextDueTime_s().has_value());
+}
+
+TEST_F(StoreStrip, GoesOnFromBeyondItsRangeWhereItLeftTheScreen) {
+    const auto root = std::make_shared<uikit::UIViewController>();
+    show(root);
+    const auto strip = drifting(ScrollDirection::right);
+    showIn(*root, strip);
+    bed.runUntil(2.2);
+    takeFrom(*strip);
+    bed.runUntil(2.5); // the step that was under way ends unseen
+    const double left = offset(*strip);
+    EXPECT_GT(left, width - 375); // past the last page
+    EXPECT_LT(left, width - 90);
+
+    bed.runUntil(60);
+    EXPECT_EQ(offset(*strip), left);
+    showIn(*root, strip);
+    EXPECT_EQ(offset(*strip), left);
+    bed.runFor(10.1);
+
+    EXPECT_THAT(offset(*strip), DoubleNear(left - 500, 1e-6));
+}
+
+TEST_F(StoreStrip, ComesBackIntoItsRangeWhenItLeavesTheScreenWhilePulledBeyondIt) {
+    for (const bool isHeldMeanwhile : {true, false}) {
+        SCOPED_TRACE(isHeldMeanwhile);
+        const auto root = std::make_shared<uikit::UIViewController>();
+        show(root);
+        const auto strip = drifting(ScrollDirection::left);
+        showIn(*root, strip);
+        touch(host::TouchPhase::began, {50, 20});
+        for (int i = 1; i <= 5; ++i) {
+            bed.runFor(0.016);
+            touch(host::TouchPhase::moved, {50.0 + 30 * i, 20});
+        }
+        if (!isHeldMeanwhile) touch(host::TouchPhase::ended, {200, 20});
+        ASSERT_LT(offset(*strip), -10);
+
+        takeFrom(*strip);
+        bed.runFor(1);
+        if (isHeldMeanwhile) touch(host::TouchPhase::ended, {200, 20});
+        bed.runFor(30);
+        EXPECT_EQ(offset(*strip), 0);
+        EXPECT_FALSE(bed.loop().nextDueTime_s().has_value());
+        showIn(*root, strip);
+        bed.runFor(10.1);
+
+        EXPECT_THAT(offset(*strip), DoubleNear(500, 1e-6));
+    }
 }
 
 TEST_F(StoreStrip, RestsWhileItsWindowIsOutOfSight) {

@@ -1,9 +1,12 @@
 #include "ProUpsells/UpsellViewController.hpp"
 
+#include <algorithm>
+
 #include <gmock/gmock.h>
 
 #include "Tests/ProUpsells/Offers.hpp"
 #include "Tests/ProUpsells/Screen.hpp"
+#include "Tests/ProUpsells/ScreenDescription.hpp"
 
 namespace proupsells::tests {
 namespace {
@@ -103,14 +106,26 @@ TEST_F(UpsellController, ForwardsEachEventOnce) {
 }
 
 TEST_F(UpsellController, DoesNothingWithoutADelegate) {
-    const auto controller = make({yearly()});
+    const auto controller = make(twoPlans());
+    present(controller);
+    const std::string before = described(window->semanticTree());
+    const auto sendAllButCancel = [&] {
+        for (const TapEvent& event : allEvents())
+            if (!std::holds_alternative<TapEvent::Cancel>(event.kind)) controller->upsellViewModel()->tapEventOccurred.send(event);
+        bed.runFor(1);
+    };
 
-    for (const TapEvent& event : allEvents()) controller->upsellViewModel()->tapEventOccurred.send(event);
+    sendAllButCancel();
+    EXPECT_EQ(described(window->semanticTree()), before);
+    EXPECT_EQ(window->frontMostViewController(), controller.get());
+
     controller->setDelegate(delegate);
+    const std::weak_ptr<RecordingDelegate> released = delegate;
     delegate.reset();
-    for (const TapEvent& event : allEvents()) controller->upsellViewModel()->tapEventOccurred.send(event);
-
-    EXPECT_EQ(controller->delegate(), nullptr);
+    EXPECT_TRUE(released.expired()); // it is nobody's but the host's
+    sendAllButCancel();
+    EXPECT_EQ(described(window->semanticTree()), before);
+    EXPECT_EQ(window->frontMostViewController(), controller.get());
 }
 
 TEST_F(UpsellController, DismissesItselfOnCancelEvenWithoutADelegate) {
@@ -193,13 +208,38 @@ TEST_F(UpsellController, ShowsThePaywallOnItsBackground) {
     const auto controller = make(twoPlans());
     present(controller);
 
-    EXPECT_EQ(controller->view()->backgroundColor()->name, "velaBackground");
     ASSERT_EQ(controller->children().size(), 1u);
     const auto& hosted = controller->children().front()->view();
-    EXPECT_EQ(hosted->backgroundColor()->name, "velaBackground");
     EXPECT_EQ(hosted->contentCompressionResistancePriority(uikit::Axis::vertical), 750);
-    EXPECT_EQ(hosted->frame(), controller->view()->bounds());
+    for (const uikit::UIView* view : {controller->view().get(), hosted.get()}) {
+        ASSERT_TRUE(view->backgroundColor().has_value());
+        EXPECT_EQ(view->backgroundColor()->name, "velaBackground");
+    }
+    window->setSize({320, 568}, {});
+    bed.settle();
+    EXPECT_EQ(controller->view()->frame(), (geometry::Rect{{0, 0}, {320, 568}}));
+    EXPECT_EQ(hosted->frame(), (geometry::Rect{{0, 0}, {320, 568}}));
     EXPECT_TRUE(has(window->semanticTree(), "plan.pro.yearly"));
+}
+
+TEST_F(UpsellController, PaintsItsWholePageInTheBackgroundOfEachAppearance) {
+    present(make(twoPlans()));
+
+    for (const auto& [scheme, page] : {std::pair{graphics::ColorScheme::light, graphics::rgb(0xFFFFFF)},
+                                       {graphics::ColorScheme::dark, graphics::rgb(0x0F1315)}}) {
+        uikit::UITraitCollection traits;
+        traits.userInterfaceStyle = scheme;
+        window->setTraits(traits);
+        bed.settle();
+        graphics::DisplayList list;
+        window->paint(list);
+        const auto ground = std::find_if(list.commands.rbegin(), list.commands.rend(), [](const graphics::Command& command) {
+            return command.kind == graphics::CommandKind::fillRectangle && command.bounds == geometry::Rect{{0, 0}, {375, 800}} &&
+                   command.opacity == 1;
+        });
+        ASSERT_NE(ground, list.commands.rend());
+        EXPECT_EQ(ground->color, page);
+    }
 }
 
 TEST_F(UpsellController, CoversItselfOnlyWhileAnImageIsOnItsWay) {

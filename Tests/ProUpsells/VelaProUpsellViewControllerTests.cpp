@@ -76,7 +76,6 @@ TEST_F(EntryController, HandsOutWhatItWasMadeFrom) {
     EXPECT_EQ(entry->referrer(), (Referrer{"Home", 5}));
     EXPECT_EQ(entry->variant(), VelaProUpsellViewController::Variant::comparisonPaywall);
     EXPECT_EQ(entry->entitlement(), Entitlement::velaPRO);
-    EXPECT_FALSE(entry->showLoginOnSuccess());
     EXPECT_THAT(identifiers(entry->options()), ElementsAre("pro.monthly", "pro.forever", "pro.yearly"));
     EXPECT_EQ(entry->tracker(), nullptr);
     EXPECT_EQ(entry->delegate(), nullptr);
@@ -217,13 +216,20 @@ TEST_F(EntryController, PassesOptionsOnBeforeAndAfterLoading) {
     EXPECT_THAT(identifiers(entry->options()), ElementsAre("m", "y"));
 }
 
-TEST_F(EntryController, IgnoresAFirstChildThatIsNoPaywall) {
+// Only the first child counts, so a paywall behind another one keeps what it was made from.
+TEST_F(EntryController, LooksForThePaywallInItsFirstChildAlone) {
     entry->addChild(std::make_shared<uikit::UIViewController>());
+    entry->setMonthlySubscriptionPriceForComparisonWithPromotionalPrice("$19");
+    (void)entry->view();
+    const auto second = std::dynamic_pointer_cast<UpsellViewController>(entry->children().at(1));
+    ASSERT_TRUE(second);
 
     entry->setOptions({yearly()});
     entry->setAnnualSubscriptionPriceForComparisonWithPromotionalPrice("$1");
 
-    EXPECT_EQ(entry->annualSubscriptionPriceForComparisonWithPromotionalPrice(), "$1");
+    EXPECT_THAT(identifiers(second->upsellViewModel()->options.get()), ElementsAre("pro.yearly", "pro.monthly"));
+    EXPECT_FALSE(second->annualSubscriptionPriceForComparisonWithPromotionalPrice().has_value());
+    EXPECT_FALSE(second->monthlySubscriptionPriceForComparisonWithPromotionalPrice().has_value());
 }
 
 TEST_F(EntryController, OpensTheComparisonBeforeItTracksTheTap) {
