@@ -2,7 +2,7 @@
 """Makes the small fonts of the tests: usage: make_fonts.py FOLDER
 
 Weighty.ttf   a variable font: "I" is a stem, 100 units wide at weight 100 and 900 at weight 900; "Ì" the same, without a mark
-Layers.ttf    U+1F600 and U+2194 are a red square under a small blue one, U+2605 is a plain square
+Layers.ttf    U+1F600 and U+2194 are a red square under a small blue one, U+2605 is a plain square, U+25D4 a corner under an arc
 Pixels.ttf    U+1F600 is a green picture of 32 × 16 pixels at 32 pixels per em
 All have 1000 units per em."""
 import pathlib
@@ -25,6 +25,16 @@ def square(left, bottom, right, top):
     pen.moveTo((left, bottom))
     for corner in ((left, top), (right, top), (right, bottom)):
         pen.lineTo(corner)
+    pen.closePath()
+    return pen.glyph()
+
+
+def quarter():
+    """Two straight sides and an arc of a parabola: five sixths of a square of 600."""
+    pen = TTGlyphPen(None)
+    pen.moveTo((0, 0))
+    pen.lineTo((0, 600))
+    pen.qCurveTo((600, 600), (600, 0))
     pen.closePath()
     return pen.glyph()
 
@@ -57,8 +67,8 @@ def variable():
 
 def layers():
     glyphs = {"face": square(0, 0, 1000, 1000), "under": square(0, 0, 1000, 1000), "over": square(250, 250, 750, 750),
-              "star": square(0, 0, 500, 500)}
-    made = builder("Layers", glyphs, {0x1F600: "face", 0x2194: "face", 0x2605: "star"}, {"face": 1000})
+              "star": square(0, 0, 500, 500), "quarter": quarter()}
+    made = builder("Layers", glyphs, {0x1F600: "face", 0x2194: "face", 0x2605: "star", 0x25D4: "quarter"}, {"face": 1000})
     made.setupCOLR({"face": [("under", 0), ("over", 1)]})
     made.setupCPAL([[(1, 0, 0, 1), (0, 0, 1, 1)]])
     return made
