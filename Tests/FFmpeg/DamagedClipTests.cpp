@@ -158,14 +158,48 @@ TEST_F(DamagedClip, ShowsTheSamePictureOnEveryWayToATimeWhereverAPieceOfItIsLost
     }
 }
 
-TEST_F(DamagedClip, SurvivesTruncationAtEveryLengthWhenItsIndexIsGone) {
+TEST_F(DamagedClip, IsGivenUpWithOneLineWhereverItIsCutBeforeItsIndexEnds) {
     const std::string whole = bytesOf(counting);
-    for (std::size_t length = 0; length < whole.size(); length += whole.size() / 23) {
+    for (std::size_t length = 0; length + 97 < whole.size(); length += 97) {
         SCOPED_TRACE(length);
+        const std::size_t complaintsBefore = complaints().size();
         LazyClipDecoder decoder = exactDecoder();
         const auto clip = decoder.open(fileWith(whole.substr(0, length)));
-        for (const double time_s : {0.0, 0.7, 1.9, 4.2}) clip->frameAt(time_s);
+
+        for (const double time_s : {0.0, 0.7, 1.9, 4.2}) EXPECT_FALSE(clip->frameAt(time_s).picture) << "at " << time_s;
+
+        EXPECT_FALSE(clip->isPlayable());
+        ASSERT_EQ(complaints().size(), complaintsBefore + 1);
+        EXPECT_THAT(complaints().back(), HasSubstr("\"clip.mp4\" cannot be played"));
     }
+    LazyClipDecoder decoder = exactDecoder();
+    EXPECT_EQ(numberOf(decoder.open(fileWith(whole))->frameAt(0.7)), 7);
+}
+
+// Decoders make up what they cannot read, from the pictures around it. (Damage that reads like another picture cannot be noticed.)
+TEST_F(DamagedClip, LeavesOutPicturesInItsMiddleRatherThanMakingThemUp) {
+    const std::string whole = bytesOf(countingIndexFirst);
+    // In the packets of the pictures from number 8, a key picture, up to number 16, the next one.
+    for (const std::size_t place : {1912, 1935, 1958, 1981, 2004}) {
+        SCOPED_TRACE(place);
+        LazyClipDecoder decoder = exactDecoder();
+        const auto clip = decoder.open(fileWith(std::string(whole).replace(place, 20, 20, '\xFF')));
+
+        int lost = 0;
+        for (int due = 0; due < 20; ++due) {
+            const Shown shown = shownAt(*clip, due * 0.1 + 0.05);
+            EXPECT_NEAR(shown.time_s, shown.number * 0.1, 1e-6) << "when " << due << " is due";
+            EXPECT_LE(shown.number, due);
+            lost += shown.number != due;
+            if (due < 8 || due >= 16) {
+                EXPECT_EQ(shown.number, due);
+            }
+        }
+        EXPECT_GT(lost, 0);
+        EXPECT_EQ(shownAt(*clip, 2.35).number, 3);
+        EXPECT_TRUE(clip->isPlayable());
+    }
+    EXPECT_THAT(complaints(), IsEmpty());
 }
 
 TEST_F(DamagedClip, ShowsOnTheRealClockWhatItShowsOnAnExactOne) {
