@@ -106,6 +106,48 @@ TEST_F(FittedTextTest, CutsAShrunkTextWithAnEllipsisAsSmall) {
     EXPECT_EQ(painted().commands.back().frame.minX(), 17.5);
 }
 
+// Measured in rooms where it is cut and where it is not, a stack keeps asking.
+TEST_F(FittedTextTest, KeepsItsEllipsisWhereItIsCutAndOnlyThere) {
+    setRules({.lineLimit = 1});
+    const auto isEndedByEllipsis = [this] {
+        const graphics::Command last = painted().commands.back();
+        return list.texts[std::size_t(last.resource)]->runs.front().text == "…";
+    };
+    text.showIn({40, 20});
+    ASSERT_TRUE(isEndedByEllipsis());
+    EXPECT_EQ(list.commands.back().frame.maxX(), 40);
+
+    text.sizeIn({200, 20});
+    EXPECT_TRUE(isEndedByEllipsis());
+    text.sizeIn({30, 20});
+    EXPECT_TRUE(isEndedByEllipsis());
+    text.showIn({40, 20});
+    EXPECT_TRUE(isEndedByEllipsis());
+    EXPECT_EQ(list.commands.back().frame.maxX(), 40);
+
+    text.showIn({200, 20});
+    EXPECT_FALSE(isEndedByEllipsis());
+    EXPECT_EQ(list.commands.size(), 1u);
+    text.showIn({30, 20});
+    EXPECT_TRUE(isEndedByEllipsis());
+    EXPECT_EQ(list.commands.back().frame.maxX(), 25); // without the blank before it
+}
+
+TEST_F(FittedTextTest, LosesItsEllipsisWithTheWordsThatWereTooLong) {
+    setRules({.lineLimit = 1});
+    text.showIn({40, 20});
+    ASSERT_EQ(painted().commands.size(), 2u);
+
+    setText("aaaa");
+    text.showIn({40, 20});
+    EXPECT_EQ(painted().commands.size(), 1u);
+    setText("bbbbbbbbbbbb");
+    text.showIn({40, 20});
+
+    EXPECT_EQ(painted().commands.size(), 2u);
+    EXPECT_EQ(list.commands.back().frame.minX(), 35);
+}
+
 TEST_F(FittedTextTest, ShrinksAsLittleAsItMustBeforeItBreaksAWord) {
     setText("aaaa $119.99 bb");
     setRules({.wordScale = 0.8});

@@ -274,10 +274,36 @@ TEST(ScrollIndicator, StaysAwayWhereItIsNotWantedOrNotNeeded) {
     }
 }
 
+// The view stands between two others in the window, so that what it did not cut would be seen there.
 TEST(ScrollView, PaintsNothingOfWhatIsScrolledAway) {
-    TouchScreen screen{[] { return rows(2000); }};
+    TouchScreen screen{[] {
+        return VStack{.spacing = 0,
+                      .content = {box(300, 100, "above"), rows(2000) | frame({.height = 250}), box(300, 50, "below")}};
+    }};
+    constexpr geometry::Rect viewport{{0, 100}, {300, 250}};
+    const auto paintedRows = [&] {
+        std::vector<geometry::Rect> seen;
+        for (const graphics::Command& command : screen.host().displayList().commands)
+            if (command.kind == graphics::CommandKind::fillRectangle && command.frame.height() == 100 && command.frame.minY() != 0)
+                seen.push_back(command.frame.intersection(command.clip));
+        return seen;
+    };
+    const auto rect = [](double y, double height) { return geometry::Rect{{0, y}, {300, height}}; };
+    EXPECT_THAT(paintedRows(), testing::ElementsAre(rect(100, 100), rect(200, 100), rect(300, 50)));
 
-    EXPECT_LT(screen.host().displayList().commands.size(), 8u);
+    for (const double offset : {30.0, 150'030.0}) {
+        screen.host().scroll({150, 200}, {0, offset - screen.offset().y});
+        screen.settle();
+        const std::size_t visitsBefore = screen.host().paintVisitCount();
+
+        EXPECT_THAT(paintedRows(), testing::ElementsAre(rect(100, 70), rect(170, 100), rect(270, 80)));
+        // Nor does it look at each of the two thousand.
+        EXPECT_LT(screen.host().paintVisitCount() - visitsBefore, 40u);
+        for (const graphics::Command& command : screen.host().displayList().commands)
+            if (command.frame.width() < 300) { // the indicator
+                EXPECT_TRUE(viewport.contains(command.frame.center()));
+            }
+    }
 }
 
 } // namespace
