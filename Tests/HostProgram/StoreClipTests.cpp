@@ -29,6 +29,13 @@ void collectClips(const Json& node, std::map<std::string, double>& result) {
     for (const Json& child : node["children"]) collectClips(child, result);
 }
 
+// The clips inside, from left to right.
+void collectClipNames(const Json& node, std::vector<std::string>& result) {
+    if (node.contains("clipName")) result.push_back(node["clipName"]);
+    if (!node.contains("children")) return;
+    for (const Json& child : node["children"]) collectClipNames(child, result);
+}
+
 // The clips of a dumped screen that show a picture, and its time in seconds.
 std::map<std::string, double> clips(const Json& screen) {
     std::map<std::string, double> result;
@@ -107,6 +114,28 @@ TEST_F(StoreClips, ThatAreMissingLeaveTheirPlaceEmptyWithoutAWord) {
     EXPECT_THAT(shown, Not(testing::Contains(Key("LIPPY"))));
     EXPECT_THAT(shown, testing::Contains(Pair("StorePageTemplatesVideo", 0.5)));
     EXPECT_THAT(loggedMessages(outcome), IsEmpty());
+}
+
+// What there is twice, and the first five of it once more.
+TEST_F(StoreClips, ThatAreMissingAreLeftOutOfEachRound) {
+    const auto row = [this] {
+        const Outcome outcome = program.play(storePage(R"([{"dump": "screen"}])"));
+        std::vector<std::string> names;
+        collectClipNames(find(outcome.events("screen").at(0)["root"], "store.strip.VideoImageLibrariesShelf.1"), names);
+        return names;
+    };
+    for (const char* name : {"90s3D", "VELA_FILM", "Summer"}) program.removeClip(name + std::string(".mp4"));
+    EXPECT_THAT(row(),
+                ElementsAre("LHxVELA_Confetti", "LIPPY", "VELA_GROW", "VELA_SOCKS-", "VELA_TEASPIN", "PINEAPPLE", "sale_blue",
+                            "LHxVELA_Confetti", "LIPPY", "VELA_GROW", "VELA_SOCKS-", "VELA_TEASPIN", "PINEAPPLE", "sale_blue",
+                            "LHxVELA_Confetti", "LIPPY", "VELA_GROW", "VELA_SOCKS-", "VELA_TEASPIN"));
+
+    for (const char* name : {"LHxVELA_Confetti", "VELA_GROW", "VELA_SOCKS-", "VELA_TEASPIN", "PINEAPPLE"})
+        program.removeClip(name + std::string(".mp4"));
+    EXPECT_THAT(row(), ElementsAre("LIPPY", "sale_blue", "LIPPY", "sale_blue", "LIPPY", "sale_blue"));
+
+    for (const char* name : {"LIPPY", "sale_blue"}) program.removeClip(name + std::string(".mp4"));
+    EXPECT_THAT(row(), IsEmpty());
 }
 
 TEST_F(StoreClips, ThatAreBrokenStayEmptyAndCostOneLineEachHoweverOftenThePageReturns) {
