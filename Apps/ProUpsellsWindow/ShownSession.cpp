@@ -113,7 +113,9 @@ void ShownSession::setDevice(const Device& device) {
 
 // --- Watching ---
 
+// A screen that comes or goes is let finish: another one may have to take its place.
 void ShownSession::lookAtSources() {
+    if (m_session.window().isTransitioning()) return;
     const SourceChange change = m_sources->look();
     for (const std::string& complaint : change.complaints) std::cerr << complaint << std::endl;
     adopt(change);

@@ -5,9 +5,13 @@
 
 #include "Apps/ProUpsellsHost/PreviewKeys.hpp"
 #include "Apps/ProUpsellsHost/SourceWatch.hpp"
+#include "Apps/ProUpsellsHost/ThemeFile.hpp"
 #include "Platform/Accessibility/Search.hpp"
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Foundation/Locale.hpp"
+#include "Platform/System/Files.hpp"
+#include "ProUpsells/VelaProStorePageViewController.hpp"
+#include "ProUpsells/iCloudSyncShelf.hpp"
 #include "Tests/Recording/RecordedSession.hpp"
 #include "Tooling/Driver.hpp"
 
@@ -119,6 +123,87 @@ TEST_F(FollowedFiles, MayBeAThemes) {
     EXPECT_EQ(change.theme->families.text, "DejaVu Sans");
 }
 
+// --- The files of a theme ---
+
+class FollowedPictures : public testing::Test {
+protected:
+    SourceChange lookOften() {
+        SourceChange change;
+        for (int look = 0; look < 12 && !change.theme && change.complaints.empty(); ++look) change = watch->look();
+        return change;
+    }
+
+    tests::TemporaryFolder folder;
+    std::filesystem::path theme = folder.write("theme.json", R"({ "pictures": { "diamond24": "gem.png" },
+        "faces": { "headings": { "family": "Ours", "files": [{ "file": "ours.ttf" }] } } })");
+    std::filesystem::path picture = folder.write("gem.png", "a picture");
+    std::filesystem::path face = folder.write("ours.ttf", "a face");
+    std::filesystem::path offers = folder.write("offers.json", R"({"options": []})");
+    std::unique_ptr<SourceWatch> watch = std::make_unique<SourceWatch>(Sources{offers, std::nullopt, theme});
+};
+
+TEST_F(FollowedPictures, AreReadWhereTheThemeStaysAsItIs) {
+    EXPECT_FALSE(lookOften().theme);
+    folder.write("gem.png", "another picture");
+
+    const SourceChange change = lookOften();
+
+    ASSERT_TRUE(change.theme);
+    EXPECT_EQ(system::contentsOf(change.theme->pictures.at("diamond24").file), "another picture");
+    EXPECT_FALSE(lookOften().theme);
+}
+
+TEST_F(FollowedPictures, MayBeFaces) {
+    folder.write("ours.ttf", "another face");
+
+    const SourceChange change = lookOften();
+
+    ASSERT_TRUE(change.theme);
+    EXPECT_EQ(system::contentsOf(change.theme->faceFiles.at(0).file), "another face");
+}
+
+// A picture that is written anew must not change below the screen that shows it.
+TEST_F(FollowedPictures, AreKeptAsTheyWere) {
+    const Theme kept = withKeptFiles(readThemeFile(theme));
+
+    folder.write("gem.png", "half");
+    std::filesystem::remove(face);
+
+    EXPECT_EQ(system::contentsOf(kept.pictures.at("diamond24").file), "a picture");
+    EXPECT_EQ(system::contentsOf(kept.faceFiles.at(0).file), "a face");
+}
+
+TEST_F(FollowedPictures, AreOtherThingsToTheModuleWhenTheyHaveChanged) {
+    folder.write("gem.png", "a second picture");
+    const auto second = lookOften().theme;
+    folder.write("gem.png", "a third picture again");
+    const auto third = lookOften().theme;
+
+    ASSERT_TRUE(second && third);
+    EXPECT_NE(*second, *third);
+}
+
+TEST_F(FollowedPictures, MayComeLaterThanTheTheme) {
+    folder.write("theme.json", R"({ "pictures": { "diamond24": "later.png" } })");
+    const auto early = lookOften().theme;
+    folder.write("later.png", "here it is");
+    const auto late = lookOften().theme;
+
+    ASSERT_TRUE(early && late);
+    EXPECT_EQ(early->pictures.at("diamond24").file, folder.path() / "later.png");
+    EXPECT_EQ(system::contentsOf(late->pictures.at("diamond24").file), "here it is");
+}
+
+TEST_F(FollowedPictures, AreFoundAgainInTheSecondLookWhileAnotherIsMissing) {
+    std::filesystem::remove(face);
+    for (int look = 0; look < 12; ++look) watch->look();
+
+    folder.write("gem.png", "another picture");
+    EXPECT_FALSE(watch->look().theme);
+
+    EXPECT_TRUE(watch->look().theme);
+}
+
 // --- Other offers in a session that is shown ---
 
 class ReplacedOffers : public testing::Test {
@@ -226,6 +311,127 @@ TEST_F(ReplacedOffers, StayWhereThePageWasScrolledTo) {
 
     EXPECT_THAT(before, testing::Contains(120));
     EXPECT_EQ(offset(), before);
+}
+
+// --- Who the offers are from, and what for ---
+
+TEST_F(ReplacedOffers, TellWhereThePersonCameFromFromThenOn) {
+    Offers offers = offersOf(both);
+    offers.referrer = Referrer{"Feed", "A1"};
+    offers.showLoginOnSuccess = false;
+    session.replaceOffers(offers);
+    events.str("");
+
+    tap("termsOfService");
+
+    EXPECT_THAT(events.str(),
+                testing::HasSubstr(R"--("operation":"trackTermsOfServiceTapped","referrer":"Feed - elementIDuuid(\"A1\")")--"));
+    EXPECT_FALSE(session.entry().showLoginOnSuccess());
+}
+
+class ReplacedStorePage : public ReplacedOffers {
+protected:
+    ReplacedStorePage() {
+        session.open(StartScreen::store);
+        driver.finishTransitions();
+        driver.wait(1);
+        events.str("");
+    }
+
+    bool hasShelf() {
+        const auto& page = dynamic_cast<VelaProStorePageViewController&>(*session.entry().presentedViewController());
+        return std::any_of(page.shelves().begin(), page.shelves().end(),
+                           [](const auto& shelf) { return dynamic_cast<const iCloudSyncShelf*>(shelf.get()); });
+    }
+    double offset() {
+        driver.wait(1);
+        const auto tree = session.window().semanticTree();
+        for (const auto* node : accessibility::findAllByType(tree, "UICollectionView"))
+            if (node->scroll) return node->scroll->contentOffset.y;
+        return -1;
+    }
+    void scroll(double distance) {
+        session.window().scroll({187, 400}, {0, distance});
+        driver.wait(1);
+    }
+};
+
+TEST_F(ReplacedStorePage, GetsAndLosesTheShelfAboutSynchronisation) {
+    Offers offers = offersOf(both);
+    ASSERT_FALSE(hasShelf());
+
+    offers.shouldMentioniCloudSync = true;
+    session.replaceOffers(offers);
+    EXPECT_TRUE(hasShelf());
+
+    offers.shouldMentioniCloudSync = false;
+    session.replaceOffers(offers);
+    EXPECT_FALSE(hasShelf());
+}
+
+TEST_F(ReplacedStorePage, StaysWhereItWasScrolledTo) {
+    scroll(700);
+    ASSERT_EQ(offset(), 700);
+    Offers offers = offersOf(both);
+    offers.shouldMentioniCloudSync = true;
+
+    session.replaceOffers(offers);
+
+    EXPECT_EQ(offset(), 700);
+}
+
+TEST_F(ReplacedStorePage, StaysAtItsEndWhereItGetsShorter) {
+    Offers offers = offersOf(both);
+    scroll(100'000);
+    const double end = offset();
+    offers.shouldMentioniCloudSync = true;
+    session.replaceOffers(offers);
+    scroll(100'000);
+    ASSERT_GT(offset(), end);
+
+    offers.shouldMentioniCloudSync = false;
+    session.replaceOffers(offers);
+
+    EXPECT_NEAR(offset(), end, 0.01);
+}
+
+TEST_F(ReplacedStorePage, TellsWhereThePersonCameFrom) {
+    Offers offers = offersOf(both);
+    offers.referrer = Referrer{"Feed"};
+    session.replaceOffers(offers);
+    tap("store.choosePlan");
+
+    EXPECT_THAT(events.str(), testing::HasSubstr(R"("operation":"trackChoosePlanTapped","referrer":"Feed")"));
+}
+
+TEST_F(ReplacedStorePage, LeadsBackToThePaywall) {
+    Offers offers = offersOf(both);
+    offers.referrer = Referrer{"Feed"};
+    session.replaceOffers(offers);
+
+    tap("store.choosePlan");
+    driver.finishTransitions();
+
+    EXPECT_THAT(chosen(), ElementsAre("plan.y"));
+}
+
+TEST_F(ReplacedStorePage, IsTheSamePageWhereOnlyPricesChange) {
+    session.replaceOffers(offersOf(R"([{ "SKU": "m", "type": "monthly", "price": "$9" }])"));
+
+    EXPECT_EQ(events.str(), "");
+}
+
+TEST_F(ReplacedOffers, LetAStorePageArriveFirst) {
+    session.open(StartScreen::store);
+    driver.wait(0.1);
+    Offers offers = offersOf(both);
+    offers.shouldMentioniCloudSync = true;
+
+    session.replaceOffers(offers);
+    driver.finishTransitions();
+
+    const auto tree = session.window().semanticTree();
+    EXPECT_TRUE(accessibility::findByIdentifier(tree, "store.choosePlan"));
 }
 
 // --- Keys ---
