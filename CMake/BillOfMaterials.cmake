@@ -1,5 +1,5 @@
-# What an installed package contains, and what it stands on, as an SPDX 2.3 document beside it: share/proupsells/proupsells.spdx.json, or
-# of one component proupsells-<component>.spdx.json.
+# What an installed package contains, and what it stands on, as an SPDX 2.3 document: share/doc/proupsells/proupsells.spdx.json, or of one
+# component proupsells-<component>.spdx.json. Not among the resources, all of which a host may have inside its program.
 
 include_guard(GLOBAL)
 

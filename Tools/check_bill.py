@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Whether a package's bill of materials says what SPDX 2.3 asks for, and what lies in the package.
 
-usage: check_bill.py PREFIX [DOCUMENT]     the document is PREFIX/share/proupsells/proupsells.spdx.json where none is named
+usage: check_bill.py PREFIX [DOCUMENT]     the document is PREFIX/share/doc/proupsells/proupsells.spdx.json where none is named
 """
 import hashlib
 import json
@@ -127,7 +127,7 @@ def complaints(document, prefix):
 
 def main():
     prefix = pathlib.Path(sys.argv[1])
-    document = pathlib.Path(sys.argv[2]) if len(sys.argv) > 2 else prefix / "share/proupsells/proupsells.spdx.json"
+    document = pathlib.Path(sys.argv[2]) if len(sys.argv) > 2 else prefix / "share/doc/proupsells/proupsells.spdx.json"
     if not document.is_file():
         sys.exit(f"{document}: there is none")
     found = list(complaints(json.loads(document.read_text()), prefix))

@@ -20,7 +20,7 @@ def install(prefix: pathlib.Path, *options: str) -> None:
 
 
 def bill_in(prefix: pathlib.Path, name: str = "proupsells") -> pathlib.Path:
-    return prefix / "share/proupsells" / f"{name}.spdx.json"
+    return prefix / "share/doc/proupsells" / f"{name}.spdx.json"
 
 
 def main() -> int:
