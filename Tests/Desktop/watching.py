@@ -16,7 +16,7 @@ GERMAN = '"Start Your Free Trial" = "{}"; "Subscribe Now" = "Jetzt abonnieren";'
 class Watched(desktop.Program):
     """A window over files of its own that may be written to."""
 
-    def __init__(self, *options):
+    def __init__(self, *options, pictures=()):
         self._folder = tempfile.TemporaryDirectory()
         self.folder = pathlib.Path(self._folder.name)
         self.offers = self.folder / "offers.json"
@@ -27,6 +27,8 @@ class Watched(desktop.Program):
         self.theme = self.folder / "theme.json"
         self.theme.write_text(json.dumps({"pictures": {"paywallHeaderA": "header.png"}}))
         self.picture = self.folder / "header.png"
+        for name in pictures:
+            (self.folder / name).write_text(pictures[name])
         self.errors = self.folder / "errors"
         super().__init__("paywall", "--watch", "--strings", str(self.folder),
                          *(option.format(folder=self.folder) for option in options), offers=str(self.offers), errors=open(self.errors, "w"))
@@ -84,6 +86,17 @@ class Watching(unittest.TestCase):
             program.picture.write_text("no picture")
 
             desktop.wait_for("another line about the picture", lambda: any(line["event"] == "log" for line in program.events[before:]))
+
+    def test_records_no_theme_whose_files_cannot_be_read(self):
+        with Watched("--theme", "{folder}/theme.json", "--record", "{folder}/recording.json", pictures={"header.png": "no picture"}) as program:
+            program.theme.write_text(json.dumps({"pictures": {"paywallHeaderA": "missing.png"}}))
+
+            error = program.wait_for_error()
+
+            self.assertEqual(error.count("\n"), 1)
+            self.assertIn("missing.png: /: the file cannot be read", error)
+            program.write_price("$9.99")
+            program.find("radio button", "Monthly, $9.99 per month")
 
     def test_keeps_the_last_good_screen(self):
         with Watched() as program:
