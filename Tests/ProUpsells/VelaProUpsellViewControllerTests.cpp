@@ -85,45 +85,6 @@ TEST_F(EntryController, HandsOutWhatItWasMadeFrom) {
     EXPECT_EQ(eventScreenTitle(entry->variant()), title);
 }
 
-TEST_F(EntryController, TellsOfTheReferrerThatWasSetLast) {
-    setHost();
-    present();
-    ledger.clear();
-
-    entry->setReferrer(Referrer{"Feed"});
-    entry->setEntitlement(Entitlement::velaPRO);
-    send({TapEvent::RestorePurchases{}});
-    send({TapEvent::Cancel{}});
-
-    EXPECT_EQ(entry->referrer(), Referrer{"Feed"});
-    EXPECT_THAT(ledger, ElementsAre("delegate.didTapRestore()", "restoreTapped(Feed, " + title + ")",
-                                    "dismissed(Feed, " + title + ", VELA_PRO)"));
-    bed.runFor(2);
-}
-
-// The tracker may be told of a referrer that the host replaces from inside the call.
-TEST_F(EntryController, MayGetAnotherReferrerFromInsideATrackersCall) {
-    struct Restless final : LedgerTracker {
-        using LedgerTracker::LedgerTracker;
-        void trackRestoreTapped(const Referrer& referrer, const std::string& screenTitle) override {
-            LedgerTracker::trackRestoreTapped(referrer, screenTitle);
-            entry->setReferrer(Referrer{std::string(100, 'x')});
-            LedgerTracker::trackRestoreTapped(referrer, screenTitle);
-        }
-        VelaProUpsellViewController* entry = nullptr;
-    };
-    const auto restless = std::make_shared<Restless>(ledger);
-    restless->entry = entry.get();
-    entry->setTracker(restless);
-    present();
-    ledger.clear();
-
-    send({TapEvent::RestorePurchases{}});
-
-    EXPECT_EQ(entry->referrer(), Referrer{std::string(100, 'x')});
-    EXPECT_THAT(ledger, ElementsAre("restoreTapped(" + home + ", " + title + ")", "restoreTapped(" + home + ", " + title + ")"));
-}
-
 TEST_F(EntryController, IsAFormSheetOf375By800) {
     EXPECT_EQ(entry->modalPresentationStyle(), uikit::UIModalPresentationStyle::formSheet);
     EXPECT_EQ(entry->preferredContentSize(), (geometry::Size{375, 800}));
