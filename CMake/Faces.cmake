@@ -37,6 +37,17 @@ function(proupsells_add_face source family weight)
   set(PROUPSELLS_FACE_FILES ${PROUPSELLS_FACE_FILES} "${face}" PARENT_SCOPE)
 endfunction()
 
+# proupsells_note_typeface(<name> <source> <pattern>): the installed files that match are made of the typeface, whose version the source
+# tells.
+function(proupsells_note_typeface name source pattern)
+  execute_process(COMMAND "${PROUPSELLS_FONTTOOLS}" -c "
+import re, sys
+from fontTools.ttLib import TTFont
+print(re.search(r'[0-9.]+', TTFont(sys.argv[1])['name'].getDebugName(5)).group())" "${PROUPSELLS_TYPEFACES}/${source}"
+    OUTPUT_VARIABLE version OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+  proupsells_copy_from("${name}" "${version}" OFL-1.1 "${pattern}")
+endfunction()
+
 # proupsells_add_faces(): the target ProUpsellsFaces fills PROUPSELLS_FACES, the folder share/proupsells/Fonts beside the programs'.
 function(proupsells_add_faces)
   set(PROUPSELLS_FACES "${PROUPSELLS_BUILT_RESOURCES}/Fonts")
@@ -51,6 +62,8 @@ function(proupsells_add_faces)
   proupsells_add_face(inter/InterDisplay-Bold.otf "Inter Display" 700)
   proupsells_add_face(sora/Sora-SemiBold.otf "Sora" 600)
   proupsells_add_face(sora/Sora-Bold.otf "Sora" 700)
+  proupsells_note_typeface(Inter inter/Inter-Regular.otf "/Fonts/(fonts-)?[Ii]nter")
+  proupsells_note_typeface(Sora sora/Sora-SemiBold.otf "/Fonts/(fonts-)?[Ss]ora")
   foreach(package IN ITEMS fonts-inter fonts-sora)
     set(licence "${PROUPSELLS_FACES}/${package}.copyright")
     add_custom_command(OUTPUT "${licence}"

@@ -61,6 +61,16 @@ VelaProUpsellViewController::VelaProUpsellViewController(Creation, std::vector<S
     setPreferredContentSize(formSheetSize);
 }
 
+void VelaProUpsellViewController::setReferrer(Referrer referrer) {
+    runloop::MainActor::assertIsolated("VelaProUpsellViewController::setReferrer");
+    m_referrer = std::move(referrer);
+}
+
+void VelaProUpsellViewController::setEntitlement(Entitlement entitlement) {
+    runloop::MainActor::assertIsolated("VelaProUpsellViewController::setEntitlement");
+    m_entitlement = entitlement;
+}
+
 void VelaProUpsellViewController::setTracker(std::weak_ptr<ProUpsellEventTracker> tracker) {
     runloop::MainActor::assertIsolated("VelaProUpsellViewController::setTracker");
     m_tracker = std::move(tracker);
@@ -123,7 +133,7 @@ void VelaProUpsellViewController::setMonthlySubscriptionPriceForComparisonWithPr
 
 void VelaProUpsellViewController::viewDidAppear(bool animated) {
     UIViewController::viewDidAppear(animated);
-    tell(m_tracker, &Tracker::trackUpsellViewed, m_referrer, screenTitle(), analyticsValue(m_entitlement));
+    tell(m_tracker, &Tracker::trackUpsellViewed, Referrer(m_referrer), screenTitle(), analyticsValue(m_entitlement));
 }
 
 // Whoever is only covered by another screen stays in the window.
@@ -135,26 +145,27 @@ void VelaProUpsellViewController::viewDidDisappear(bool animated) {
     tell(m_delegate, &Delegate::proUpsellViewControllerDidClose, *this, std::exchange(m_reason, ClosingReason::dismissed));
 }
 
-// A delegate may let go of this controller from inside a call, so each operation holds it until it is over.
+// A delegate may let go of this controller from inside a call, so each operation holds it until it is over. A tracker may set
+// another referrer, so it is told of a copy.
 
 void VelaProUpsellViewController::upsellViewControllerDidContinueWith(UpsellViewController&, const SubscriptionOption& option) {
     const auto self = uikit::strongReference(*this);
     m_reason = ClosingReason::purchased;
     tell(m_delegate, &Delegate::proUpsellViewControllerDidContinueWith, *this, option);
-    tell(m_tracker, &Tracker::trackSubscriptionOptionSelected, option, m_referrer, screenTitle());
-    tell(m_tracker, &Tracker::trackPurchaseTapped, option, m_referrer, screenTitle(), analyticsValue(m_entitlement));
+    tell(m_tracker, &Tracker::trackSubscriptionOptionSelected, option, Referrer(m_referrer), screenTitle());
+    tell(m_tracker, &Tracker::trackPurchaseTapped, option, Referrer(m_referrer), screenTitle(), analyticsValue(m_entitlement));
 }
 
 void VelaProUpsellViewController::upsellViewControllerDidTapCancel(UpsellViewController&) {
     const auto self = uikit::strongReference(*this);
     m_reason = ClosingReason::cancelled;
-    tell(m_tracker, &Tracker::trackUpsellDismissed, m_referrer, screenTitle(), analyticsValue(m_entitlement));
+    tell(m_tracker, &Tracker::trackUpsellDismissed, Referrer(m_referrer), screenTitle(), analyticsValue(m_entitlement));
 }
 
 void VelaProUpsellViewController::upsellViewControllerDidTapRestoreButton(UpsellViewController&) {
     const auto self = uikit::strongReference(*this);
     tell(m_delegate, &Delegate::proUpsellViewControllerDidTapRestore, *this);
-    tell(m_tracker, &Tracker::trackRestoreTapped, m_referrer, screenTitle());
+    tell(m_tracker, &Tracker::trackRestoreTapped, Referrer(m_referrer), screenTitle());
 }
 
 void VelaProUpsellViewController::upsellViewControllerDidTapWhatIsProButton(UpsellViewController&) {
@@ -170,13 +181,13 @@ void VelaProUpsellViewController::upsellViewControllerDidTapWhatIsProButton(Upse
 void VelaProUpsellViewController::upsellViewControllerDidTapPrivacyPolicyButton(UpsellViewController&) {
     const auto self = uikit::strongReference(*this);
     tell(m_delegate, &Delegate::proUpsellViewControllerDidTapPrivacyPolicy, *this);
-    tell(m_tracker, &Tracker::trackPrivacyPolicyTapped, m_referrer, screenTitle());
+    tell(m_tracker, &Tracker::trackPrivacyPolicyTapped, Referrer(m_referrer), screenTitle());
 }
 
 void VelaProUpsellViewController::upsellViewControllerDidTapTermsOfServiceButton(UpsellViewController&) {
     const auto self = uikit::strongReference(*this);
     tell(m_delegate, &Delegate::proUpsellViewControllerDidTapTermsOfService, *this);
-    tell(m_tracker, &Tracker::trackTermsOfServiceTapped, m_referrer, screenTitle());
+    tell(m_tracker, &Tracker::trackTermsOfServiceTapped, Referrer(m_referrer), screenTitle());
 }
 
 void VelaProUpsellViewController::upsellViewControllerDidTapTermsOfService(UpsellViewController& sender) {
@@ -188,7 +199,7 @@ void VelaProUpsellViewController::upsellViewControllerDidTapComparePlans(UpsellV
     const auto comparison = std::make_shared<ComparisonViewController>();
     comparison->setDelegate(uikit::weakReference(*this));
     present(velauikit::embedInNavController(comparison), true);
-    tell(m_tracker, &Tracker::trackComparePlansTapped, m_referrer, screenTitle());
+    tell(m_tracker, &Tracker::trackComparePlansTapped, Referrer(m_referrer), screenTitle());
 }
 
 void VelaProUpsellViewController::comparisonViewControllerDidTapChooseYourPlan(ComparisonViewController& sender) {

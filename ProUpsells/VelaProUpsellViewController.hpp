@@ -50,10 +50,13 @@ public:
 
     std::string_view typeName() const override { return "VelaProUpsellViewController"; }
 
-    // What the controller was made with.
+    // What the controller was made with, or was set since.
     const Referrer& referrer() const { return m_referrer; }
     Variant variant() const { return m_variant; }
     Entitlement entitlement() const { return m_entitlement; }
+    // For a controller that is presented again, from elsewhere: the tracker is told of them, and store pages get them, from now on.
+    void setReferrer(Referrer referrer);
+    void setEntitlement(Entitlement entitlement);
 
     // Held weakly: null once they have gone, as before they are set.
     std::shared_ptr<ProUpsellEventTracker> tracker() const { return m_tracker.lock(); }

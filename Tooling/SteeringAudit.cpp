@@ -35,20 +35,21 @@ const ReadingElement* elementOf(const ReadingElement& reading, const std::string
 
 class KeyboardWalk {
 public:
-    KeyboardWalk(uikit::UIWindow& window, const Wait& wait) : m_window(window), m_wait(wait) {}
+    KeyboardWalk(host::WindowContent& content, geometry::Size size, const Wait& wait)
+        : m_content(content), m_bounds{{}, size}, m_wait(wait) {}
 
     std::vector<Finding> findings() {
         constexpr int moreThanAnyScreenHas = 500;
-        m_window.dropFocus();
+        m_content.dropFocus();
         for (int i = 0; i < moreThanAnyScreenHas; ++i) {
-            m_window.key(host::Key::tab);
+            m_content.key(host::Key::tab);
             m_wait(0);
-            const ReadingElement reading = m_window.reading();
+            const ReadingElement reading = m_content.reading();
             const ReadingElement* const element = focused(reading);
             if (!element || !m_reached.insert(keyOf(*element)).second) break;
             look(*element);
         }
-        m_window.dropFocus();
+        m_content.dropFocus();
         m_wait(0);
         holdReached();
         return std::move(m_findings);
@@ -60,27 +61,27 @@ private:
     }
 
     void look(const ReadingElement& element) {
-        const geometry::Rect inWindow = element.frame.intersection({{}, m_window.bounds().size});
+        const geometry::Rect inWindow = element.frame.intersection(m_bounds);
         if (!element.isOnScreen || inWindow.isEmpty())
             return add(AuditRule::hiddenFocus, element, "is out of sight when it has the focus");
         graphics::DisplayList with, without;
-        m_window.paint(with);
-        m_window.dropFocus();
+        m_content.paint(with);
+        m_content.dropFocus();
         m_wait(0);
-        m_window.paint(without);
+        m_content.paint(without);
         std::vector<geometry::Rect> damage;
         graphics::findDamage(without, with, damage);
         constexpr double ring = 8; // points around a control
         const bool isSeen = std::any_of(damage.begin(), damage.end(),
                                         [&](const auto& each) { return each.intersects(element.frame.insetBy(-ring, -ring)); });
         if (!isSeen) add(AuditRule::invisibleFocus, element, "looks the same with the focus");
-        const ReadingElement reading = m_window.reading();
+        const ReadingElement reading = m_content.reading();
         if (const ReadingElement* const same = elementOf(reading, keyOf(element)); same && same->focus) same->focus();
         m_wait(0);
     }
 
     void holdReached() {
-        const ReadingElement reading = m_window.reading();
+        const ReadingElement reading = m_content.reading();
         for (const ReadingElement* element : accessibility::elementsOf(reading)) {
             if (!element->isOperable() || element->isDisabled || m_reached.contains(keyOf(*element))) continue;
             // Keys stop at one button of a group; the arrows go on from there.
@@ -99,7 +100,8 @@ private:
         });
     }
 
-    uikit::UIWindow& m_window;
+    host::WindowContent& m_content;
+    geometry::Rect m_bounds;
     const Wait& m_wait;
     std::set<std::string> m_reached;
     std::vector<Finding> m_findings;
@@ -174,7 +176,13 @@ private:
 
 } // namespace
 
-std::vector<Finding> auditKeyboard(uikit::UIWindow& window, const Wait& wait) { return KeyboardWalk(window, wait).findings(); }
+std::vector<Finding> auditKeyboard(uikit::UIWindow& window, const Wait& wait) {
+    return auditKeyboard(window, window.bounds().size, wait);
+}
+
+std::vector<Finding> auditKeyboard(host::WindowContent& content, geometry::Size size, const Wait& wait) {
+    return KeyboardWalk(content, size, wait).findings();
+}
 
 std::vector<Finding> auditStates(uikit::UIWindow& window, const Wait& wait) { return StateTrial(window, wait).findings(); }
 

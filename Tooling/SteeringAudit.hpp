@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "Platform/Host/WindowContent.hpp"
 #include "Platform/System/Compiler.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 #include "Tooling/ScreenAudit.hpp"
@@ -15,6 +16,8 @@ using Wait = std::function<void(double duration_s)>;
 // Goes through the front-most screen with Tab: whether every control gets the focus, is in sight then, and looks different with it.
 // The focus is dropped at the end; what was scrolled stays.
 PROUPSELLS_EXPORT std::vector<Finding> auditKeyboard(uikit::UIWindow& window, const Wait& wait);
+// The same for any content, such as one of the host's own; `size` is its window's, in points.
+PROUPSELLS_EXPORT std::vector<Finding> auditKeyboard(host::WindowContent& content, geometry::Size size, const Wait& wait);
 
 // Presses each radio button and disclosure, turns each pager, and compares what is told before and after. Ends with the button
 // checked that was, and the disclosures as they were.

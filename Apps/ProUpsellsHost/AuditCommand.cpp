@@ -7,11 +7,10 @@
 #include "Apps/ProUpsellsHost/AcceptedFindings.hpp"
 #include "Apps/ProUpsellsHost/AuditOffers.hpp"
 #include "Apps/ProUpsellsHost/AuditReport.hpp"
-#include "Apps/ProUpsellsHost/AuditTour.hpp"
+#include "Apps/ProUpsellsHost/AuditScenario.hpp"
 #include "Apps/ProUpsellsHost/DeviceOptions.hpp"
 #include "Apps/ProUpsellsHost/InputError.hpp"
 #include "Apps/ProUpsellsHost/JsonFile.hpp"
-#include "Apps/ProUpsellsHost/ScenarioRunner.hpp"
 #include "Platform/Foundation/Resources.hpp"
 #include "Platform/System/PathText.hpp"
 
@@ -33,35 +32,16 @@ AuditSubject readSubject(const AuditArguments& arguments) {
     return subject;
 }
 
-AuditLedger auditScenario(const std::filesystem::path& file) {
-    const Scenario scenario = readScenario(file);
-    AuditLedger ledger;
-    std::ostringstream discarded;
-    runloop::MainRunLoop loop(std::make_shared<runloop::VirtualClock>());
-    const auto log = std::make_shared<EventLog>(discarded);
-    HostSession session(scenario.offers, scenario.device, hostPartsOf(scenario), ffmpegbackend::Pace::exact, log);
-    tooling::Driver driver(loop, session.window());
-    ScreenInspector inspector(session, driver, ledger);
-    ScenarioRunner(scenario, loop, session, log, std::nullopt).run([&](const std::string*) {
-        if (!session.isShowing()) return;
-        const std::string screen(session.window().frontMostViewController()->typeName());
-        const accessibility::SemanticNode tree = session.window().semanticTree();
-        inspector.lookAtTree(screen, tree, {&session.device().appearance, 1});
-        inspector.lookAtPainting(screen, tree);
-        inspector.listen(screen);
-    });
-    return ledger;
-}
-
 } // namespace
 
 int auditScreens(const AuditArguments& arguments) {
     constexpr int clean = 0, hasFindings = 1;
     const AcceptedFindings accepted(arguments.accepted);
     const bool playsScenario = arguments.subject && isScenario(*arguments.subject);
-    if (playsScenario && (arguments.matrix || arguments.strings || arguments.theme))
-        throw InputError(commandLinePlace, "", "a scenario has a device of its own, expected no --matrix, --strings or --theme");
-    const AuditLedger ledger = playsScenario ? auditScenario(*arguments.subject) : auditOffers(readSubject(arguments));
+    if (playsScenario && (arguments.strings || arguments.theme))
+        throw InputError(commandLinePlace, "", "a scenario has a device of its own, expected no --strings or --theme");
+    const AuditLedger ledger =
+        playsScenario ? auditScenario(*arguments.subject, arguments.matrix) : auditOffers(readSubject(arguments));
     std::vector<AuditEntry> entries;
     for (const AuditEntry& entry : ledger.entries())
         if (!accepted.covers(

@@ -159,7 +159,8 @@ public:
     explicit Audit(CLI::App& parent) {
         CLI::App& command = *parent.add_subcommand("audit", "What is wrong with the screens, however they are shown");
         command.add_option("SUBJECT", m_subject, "An offers file, or a scenario to look at after each step; the sample offers");
-        command.add_option("--matrix", m_matrix, "A file with screens, locales, sizes, textSizes, appearances; all of them");
+        command.add_option("--matrix", m_matrix,
+                           "A file with locales, sizes, textSizes, appearances, of offers also screens; all of them");
         command.add_option("--accept", m_accepted, "A file of findings that are known, each with a reason");
         command.add_option("--strings", m_strings, "A folder of <language>.lproj/Localizable.strings");
         command.add_option("--theme", m_theme, "A file with colours, typefaces and pictures of a brand");

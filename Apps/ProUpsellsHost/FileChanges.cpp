@@ -27,8 +27,13 @@ bool FileChanges::look() {
     m_looks = now == m_seen ? m_looks + 1 : 1;
     m_seen = std::move(now);
     if (m_seen == m_known) return false;
-    const bool isLoss = m_seen.size() < m_known.size() ||
-                        std::any_of(m_seen.begin(), m_seen.end(), [](const Trace& trace) { return !trace.isThere; });
+    // What has never been there is not lost.
+    const auto isGone = [this](const Trace& trace) {
+        return trace.isThere && std::find_if(m_seen.begin(), m_seen.end(), [&](const Trace& seen) {
+                                    return seen.isThere && seen.file == trace.file;
+                                }) == m_seen.end();
+    };
+    const bool isLoss = std::any_of(m_known.begin(), m_known.end(), isGone);
     if (m_looks < (isLoss ? looksForLoss : looksForChange)) return false;
     m_known = m_seen;
     return true;

@@ -14,6 +14,10 @@
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 #include "ProUpsells/UpsellViewController.hpp"
 
+namespace proupsells {
+class VelaProStorePageViewController;
+}
+
 namespace proupsells::hostprogram {
 
 struct HostParts {
@@ -35,6 +39,7 @@ public:
     // The same, for whoever shows it.
     std::shared_ptr<host::WindowContent> windowContent() { return m_window; }
     const Device& device() const { return m_device; }
+    const VelaProUpsellViewController& entry() const { return *m_entry; }
     // False once the entry controller has been dismissed.
     bool isShowing() const;
 
@@ -47,7 +52,7 @@ public:
     void noteSize(geometry::Size size, geometry::PhysicalInsets safeArea);
     void set(const SetStep& step);
     // Shows other offers in the place of those that are shown. The chosen plan stays chosen, by its SKU; one that is gone makes way
-    // for the first one. Who the offers are from and what they are for stays as it was.
+    // for the first one. A store page that stands still makes way for one with the shelves of these offers, scrolled as far.
     void replaceOffers(const Offers& offers);
     // Sends one of the paywall's tap events, as if a control had.
     void send(const UpsellViewModel::TapEvent& event);
@@ -60,6 +65,7 @@ private:
     std::shared_ptr<UpsellViewController> paywall() const;
     accessibility::SemanticNode paywallTree();
     void choosePlan(std::size_t index);
+    void replaceStorePage(VelaProStorePageViewController& former);
 
     Device m_device;
     std::shared_ptr<EventLog> m_log;

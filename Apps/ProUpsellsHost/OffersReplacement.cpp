@@ -1,9 +1,10 @@
 // Other offers in a session that is shown.
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "Apps/ProUpsellsHost/HostSession.hpp"
-#include "Platform/UIKit/Views/UIView.hpp"
+#include "Platform/UIKit/Collection/UICollectionView.hpp"
 #include "ProUpsells/VelaProStorePageViewController.hpp"
 
 namespace proupsells::hostprogram {
@@ -45,6 +46,21 @@ void HostSession::choosePlan(std::size_t index) {
     if (index < plans.size() && chosenAmong(plans) != plans.begin() + std::ptrdiff_t(index)) plans[index]->activate();
 }
 
+// A page has the shelves, and tells where the person came from, as it was made with.
+void HostSession::replaceStorePage(VelaProStorePageViewController& former) {
+    const double offset = former.collectionView()->contentOffset().y;
+    former.dismiss(false);
+
+    const auto page = VelaProStorePageViewController::create(m_entry->options(), m_entry->referrer(), m_entry->entitlement());
+    page->setTracker(m_entry->tracker());
+    page->continueToSelectPlan = [weakPage = std::weak_ptr<VelaProStorePageViewController>(page)] {
+        if (const auto shown = weakPage.lock()) shown->dismiss(true);
+    };
+    m_entry->present(page, false);
+    m_window->semanticTree(); // lays it out, so that it can be scrolled
+    page->collectionView()->scrollBy({}, {0, offset});
+}
+
 void HostSession::replaceOffers(const Offers& offers) {
     const SemanticNode before = paywallTree();
     const auto plans = plansIn(before);
@@ -60,7 +76,17 @@ void HostSession::replaceOffers(const Offers& offers) {
         offers.annualSubscriptionPriceForComparisonWithPromotionalPrice);
     m_entry->setMonthlySubscriptionPriceForComparisonWithPromotionalPrice(
         offers.monthlySubscriptionPriceForComparisonWithPromotionalPrice);
-    VelaProStorePageViewController::shouldMentioniCloudSync = offers.shouldMentioniCloudSync;
+    m_entry->setShowLoginOnSuccess(offers.showLoginOnSuccess);
+    const bool isAskedFromElsewhere = offers.referrer != m_entry->referrer() || offers.entitlement != m_entry->entitlement();
+    m_entry->setReferrer(offers.referrer);
+    m_entry->setEntitlement(offers.entitlement);
+    const bool hadShelf = std::exchange(VelaProStorePageViewController::shouldMentioniCloudSync, offers.shouldMentioniCloudSync);
+    const bool hasOtherShelves = hadShelf != offers.shouldMentioniCloudSync;
+    if (auto* page = dynamic_cast<VelaProStorePageViewController*>(m_entry->presentedViewController())) {
+        page->updateOptions(offers.options);
+        const bool isOnItsWay = m_window->isTransitioning();
+        if ((isAskedFromElsewhere || hasOtherShelves) && !isOnItsWay) replaceStorePage(*page);
+    }
 
     const SemanticNode after = paywallTree();
     const auto newPlans = plansIn(after);

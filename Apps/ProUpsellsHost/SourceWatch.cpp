@@ -27,6 +27,16 @@ FileChanges::Files tablesIn(const std::optional<std::filesystem::path>& folder) 
     };
 }
 
+FileChanges::Files filesOfTheme(const std::optional<std::filesystem::path>& file) {
+    std::vector<std::filesystem::path> files;
+    try {
+        if (file) files = filesNamedBy(readThemeFile(*file));
+    } catch (const std::runtime_error&) {
+        // It is told of where the theme is used.
+    }
+    return [files] { return files; };
+}
+
 // Reads what has changed. What is wrong with it is told of instead.
 template <class Read>
 void readInto(SourceChange& change, const Read& read) {
@@ -41,11 +51,18 @@ void readInto(SourceChange& change, const Read& read) {
 
 SourceWatch::SourceWatch(Sources sources)
     : m_sources(std::move(sources)), m_offers(only(m_sources.offers)), m_strings(tablesIn(m_sources.strings)),
-      m_theme(only(m_sources.theme)) {}
+      m_theme(only(m_sources.theme)), m_themeFiles(filesOfTheme(m_sources.theme)) {}
 
 std::filesystem::path SourceWatch::keptTranslations(const std::filesystem::path& folder) {
     const Json texts = translationsIn(folder);
     return readInlineTranslations(JsonCursor{texts, system::textOf(folder)});
+}
+
+Theme SourceWatch::readTheme() {
+    const Theme theme = readThemeFile(*m_sources.theme);
+    // Known before they are read: what is written meanwhile is a change.
+    m_themeFiles = FileChanges([files = filesNamedBy(theme)] { return files; });
+    return withKeptFiles(theme);
 }
 
 SourceChange SourceWatch::look() {
@@ -57,7 +74,8 @@ SourceChange SourceWatch::look() {
             change.offers = std::move(json);
         });
     if (m_strings.look()) readInto(change, [&] { change.strings = keptTranslations(*m_sources.strings); });
-    if (m_theme.look()) readInto(change, [&] { change.theme = readThemeFile(*m_sources.theme); });
+    const bool namesOthers = m_theme.look(), areOthers = m_themeFiles.look();
+    if (namesOthers || areOthers) readInto(change, [&] { change.theme = readTheme(); });
     return change;
 }
 

@@ -34,14 +34,18 @@ public:
     // The files as they are now count as known.
     explicit SourceWatch(Sources sources);
 
+    // A theme comes with its files as they are now, kept like translations.
     SourceChange look();
 
     // The translations as they are now, kept so that they can be used whatever becomes of the files. Throws InputError.
     static std::filesystem::path keptTranslations(const std::filesystem::path& folder);
 
 private:
+    Theme readTheme();
+
     Sources m_sources;
     FileChanges m_offers, m_strings, m_theme;
+    FileChanges m_themeFiles; // those that the theme named when it could be read last
 };
 
 } // namespace proupsells::hostprogram

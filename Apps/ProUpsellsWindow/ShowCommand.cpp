@@ -7,6 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include "Apps/ProUpsellsHost/JsonFile.hpp"
+#include "Apps/ProUpsellsHost/ThemeFile.hpp"
 #include "Apps/ProUpsellsWindow/DesktopDevice.hpp"
 #include "Apps/ProUpsellsWindow/ShownSession.hpp"
 #include "Apps/ProUpsellsWindow/WindowIcon.hpp"
@@ -45,6 +46,7 @@ int showOffers(const ShowArguments& arguments) {
         watch =
             std::make_unique<SourceWatch>(Sources{file, strings.empty() ? std::nullopt : std::optional(strings), arguments.theme});
         if (!strings.empty()) device.strings = SourceWatch::keptTranslations(strings);
+        device.theme = withKeptFiles(device.theme);
     }
     return ShownSession(arguments, offers, device, recording.get(), watch.get()).run(application);
 }

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <chrono>
 #include <iostream>
+#include <stdexcept>
 #include <utility>
 
 #include <nlohmann/json.hpp>
@@ -113,10 +114,17 @@ void ShownSession::setDevice(const Device& device) {
 
 // --- Watching ---
 
+// A screen that comes or goes is let finish: another one may have to take its place.
 void ShownSession::lookAtSources() {
+    if (m_session.window().isTransitioning()) return;
     const SourceChange change = m_sources->look();
     for (const std::string& complaint : change.complaints) std::cerr << complaint << std::endl;
-    adopt(change);
+    try {
+        adopt(change);
+    } catch (const std::runtime_error& error) {
+        // A recording has no place for files that cannot be read.
+        std::cerr << error.what() << std::endl;
+    }
 }
 
 void ShownSession::adopt(const SourceChange& change) {

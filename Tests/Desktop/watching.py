@@ -16,7 +16,7 @@ GERMAN = '"Start Your Free Trial" = "{}"; "Subscribe Now" = "Jetzt abonnieren";'
 class Watched(desktop.Program):
     """A window over files of its own that may be written to."""
 
-    def __init__(self, *options):
+    def __init__(self, *options, pictures=()):
         self._folder = tempfile.TemporaryDirectory()
         self.folder = pathlib.Path(self._folder.name)
         self.offers = self.folder / "offers.json"
@@ -24,8 +24,14 @@ class Watched(desktop.Program):
         self.german = self.folder / "de.lproj" / "Localizable.strings"
         self.german.parent.mkdir()
         self.german.write_text(GERMAN.format("Eins"))
+        self.theme = self.folder / "theme.json"
+        self.theme.write_text(json.dumps({"pictures": {"paywallHeaderA": "header.png"}}))
+        self.picture = self.folder / "header.png"
+        for name in pictures:
+            (self.folder / name).write_text(pictures[name])
         self.errors = self.folder / "errors"
-        super().__init__("paywall", "--watch", "--strings", str(self.folder), *options, offers=str(self.offers), errors=open(self.errors, "w"))
+        super().__init__("paywall", "--watch", "--strings", str(self.folder),
+                         *(option.format(folder=self.folder) for option in options), offers=str(self.offers), errors=open(self.errors, "w"))
 
     def __exit__(self, *_):
         super().__exit__()
@@ -36,6 +42,9 @@ class Watched(desktop.Program):
         for option in offers["options"]:
             if option["type"] == "monthly":
                 option["price"] = price
+        self.write_offers(offers)
+
+    def write_offers(self, offers):
         # As editors do it.
         beside = self.folder / "offers.json~"
         beside.write_text(json.dumps(offers))
@@ -56,6 +65,38 @@ class Watching(unittest.TestCase):
             radio = program.find("radio button", "Monthly, $9.99 per month")
             self.assertLess(time.monotonic() - started, SOON_S)
             self.assertTrue(radio.getState().contains(desktop.pyatspi.STATE_CHECKED))
+
+    def test_follows_where_the_person_comes_from(self):
+        with Watched() as program:
+            program.press("radio button", "Monthly, $14.99 per month")
+
+            program.write_offers({**json.loads(program.offers.read_text()), "referrer": "Feed"})
+            program.write_price("$9.99")
+            program.find("radio button", "Monthly, $9.99 per month")
+            program.press("push button", "Terms of Service")
+
+            program.wait_for_event("tracker", operation="trackTermsOfServiceTapped", referrer="Feed")
+
+    def test_follows_the_pictures_of_a_theme_that_stays_as_it_is(self):
+        with Watched("--theme", "{folder}/theme.json") as program:
+            # A missing picture is a log line, and so is one that nobody can read.
+            program.wait_for_event("log")
+            before = len(program.events)
+
+            program.picture.write_text("no picture")
+
+            desktop.wait_for("another line about the picture", lambda: any(line["event"] == "log" for line in program.events[before:]))
+
+    def test_records_no_theme_whose_files_cannot_be_read(self):
+        with Watched("--theme", "{folder}/theme.json", "--record", "{folder}/recording.json", pictures={"header.png": "no picture"}) as program:
+            program.theme.write_text(json.dumps({"pictures": {"paywallHeaderA": "missing.png"}}))
+
+            error = program.wait_for_error()
+
+            self.assertEqual(error.count("\n"), 1)
+            self.assertIn("missing.png: /: the file cannot be read", error)
+            program.write_price("$9.99")
+            program.find("radio button", "Monthly, $9.99 per month")
 
     def test_keeps_the_last_good_screen(self):
         with Watched() as program:

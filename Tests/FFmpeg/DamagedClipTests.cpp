@@ -54,6 +54,16 @@ protected:
 
 } // namespace
 
+// FFmpeg also knows lists of files to play, which may lead anywhere.
+TEST_F(DamagedClip, LeadToNoOtherFile) {
+    LazyClipDecoder decoder = exactDecoder();
+    fileWith(bytesOf(counting), "other.mp4");
+    const auto list = fileWith("ffconcat version 1.0\nfile other.mp4\n", "list.mp4");
+
+    EXPECT_FALSE(decoder.open(list)->frameAt(0).picture);
+    EXPECT_THAT(complaints(), ElementsAre(HasSubstr("\"list.mp4\" cannot be played")));
+}
+
 TEST_F(DamagedClip, IsSilentWhenItsFileIsMissing) {
     LazyClipDecoder decoder = exactDecoder();
     const auto clip = decoder.open("no-such-clip.mp4");

@@ -143,6 +143,87 @@ TEST_F(AuditCommand, LooksAtAScenarioAfterEachStep) {
     EXPECT_THAT(screens, SizeIs(2));
 }
 
+class ScenarioMatrix : public AuditCommand {
+protected:
+    Outcome auditScenario(const Json& scenario, const Json& matrix) {
+        return runProgram({"audit", folder.write("scenario.json", scenario).string(), "--format", "json", "--accept",
+                           folder.write("accepted.json", acceptedTargets).string(), "--matrix",
+                           folder.write("matrix.json", matrix).string()});
+    }
+
+    // German that does not fit.
+    Json germanTexts{{"de", {{"Annually", "Donaudampfschifffahrtsgesellschaftsmütze"}}}};
+    Json scenario{{"offers", {{"options", sampleOffers()["options"]}}},
+                  {"device", {{"locale", "en_US"}, {"size", {900, 800}}, {"strings", germanTexts}}},
+                  {"steps", {{{"tap", {{"identifier", "plan.pro.monthly"}}}}}}};
+};
+
+TEST_F(ScenarioMatrix, LooksAtTheLastScreenInEveryLanguageAndSize) {
+    const Outcome outcome = auditScenario(scenario, {{"locales", {"en_US", "de"}}, {"sizes", {{900, 800}, {320, 568}}}});
+
+    const Json found = Json::parse(outcome.output)["findings"];
+    ASSERT_THAT(found, SizeIs(1)) << outcome.output;
+    EXPECT_EQ(found[0]["rule"], "broken word");
+    EXPECT_EQ(found[0]["identifier"], "plan.pro.yearly");
+    EXPECT_EQ(found[0]["smallestWidth"], 320);
+    EXPECT_EQ(found[0]["configurations"], 2);
+    EXPECT_EQ(found[0]["configuration"], "de large 320x568 light");
+    EXPECT_EQ(outcome.status, 1);
+}
+
+TEST_F(ScenarioMatrix, KeepsTheScenariosDeviceWhereItSaysNothing) {
+    scenario["device"]["locale"] = "de";
+    scenario["device"]["size"] = {320, 568};
+
+    const Json found = Json::parse(
+        auditScenario(scenario, {{"textSizes", {"large", "small"}}, {"appearances", {"light", "dark"}}}).output)["findings"];
+
+    ASSERT_THAT(found, SizeIs(1));
+    EXPECT_EQ(found[0]["configurations"], 4);
+}
+
+TEST_F(ScenarioMatrix, FindsNothingWhereThereIsNothing) {
+    const Outcome outcome =
+        auditScenario(scenario, {{"sizes", {{320, 568}, {1024, 768}}}, {"textSizes", {"large", "accessibilityLarge"}}});
+
+    EXPECT_EQ(outcome.status, 0) << outcome.output;
+}
+
+TEST_F(ScenarioMatrix, StaysInItsLanguageWhenSomethingElseIsSet) {
+    scenario["steps"].push_back({{"set", {{"size", {320, 568}}}}});
+
+    const Json found = Json::parse(auditScenario(scenario, {{"locales", {"de"}}}).output)["findings"];
+
+    EXPECT_THAT(rulesOf(found), ElementsAre("broken word"));
+}
+
+TEST_F(ScenarioMatrix, ExpectsTextsInTheScenariosOwnLanguageOnly) {
+    scenario["device"]["strings"]["de"]["Subscribe Now"] = "Jetzt abonnieren";
+    scenario["steps"].push_back({{"expect", {{"identifier", "subscribe"}, {"label", "Subscribe Now"}}}});
+
+    EXPECT_THAT(auditScenario(scenario, {{"locales", {"de"}}}).errors, IsEmpty());
+}
+
+TEST_F(ScenarioMatrix, RefusesAStepThatCannotBeDoneInALanguage) {
+    scenario["device"]["strings"]["de"]["Monthly"] = "Monatlich";
+    scenario["steps"].push_back({{"tap", "Subscribe Now"}});
+    scenario["device"]["strings"]["de"]["Subscribe Now"] = "Jetzt abonnieren";
+
+    const Outcome outcome = auditScenario(scenario, {{"locales", {"en_US", "de"}}});
+
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(outcome.output, IsEmpty());
+    EXPECT_THAT(outcome.errors, HasSubstr("scenario.json: /steps/1/tap: "));
+}
+
+TEST_F(ScenarioMatrix, HasNoScreensToChooseFrom) {
+    const Outcome outcome = auditScenario(scenario, {{"screens", {"paywall"}}});
+
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(outcome.errorLines(), SizeIs(1));
+    EXPECT_THAT(outcome.errors, HasSubstr("matrix.json: /screens: "));
+}
+
 TEST_F(AuditCommand, PrintsSarif) {
     const auto file = folder.write("matrix.json", matrix("paywall", "en"));
 

@@ -14,7 +14,7 @@ namespace proupsells::tests {
 // Calls in the order in which they came, as "operation(arguments)".
 using Ledger = std::vector<std::string>;
 
-class LedgerTracker final : public ProUpsellEventTracker {
+class LedgerTracker : public ProUpsellEventTracker {
 public:
     explicit LedgerTracker(Ledger& ledger) : m_ledger(ledger) {}
 

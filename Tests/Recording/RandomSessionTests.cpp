@@ -96,7 +96,7 @@ private:
     void change() {
         Device device = m_session.session().device();
         switch (upTo(7)) {
-        case 6: return m_session.replaceOffers(upTo(2));
+        case 6: return replaceOffers();
         case 0: device.appearance = graphics::ColorScheme(1 - int(device.appearance)); break;
         case 1: device.textSize = graphics::ContentSizeCategory(upTo(12)); break;
         case 2: device.layoutDirection = DirectionChoice(upTo(3)); break;
@@ -105,6 +105,11 @@ private:
         case 5: device.reduceMotion = !device.reduceMotion; break;
         }
         m_session.set(device);
+    }
+
+    void replaceOffers() {
+        const bool onlyMonthly = upTo(2);
+        m_session.replaceOffers(onlyMonthly, upTo(2));
     }
 
     tests::RecordedSession& m_session;

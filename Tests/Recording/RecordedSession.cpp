@@ -105,9 +105,10 @@ void RecordedSession::open(StartScreen screen) {
     m_session->open(screen);
 }
 
-void RecordedSession::replaceOffers(bool onlyMonthly) {
+void RecordedSession::replaceOffers(bool onlyMonthly, bool fromElsewhere) {
     Json json = offersJson();
     if (onlyMonthly) json["options"].erase(0);
+    if (fromElsewhere) json.update({{"referrer", "Elsewhere"}, {"shouldMentioniCloudSync", false}});
     m_loop.runDueTurns();
     m_recording->willReplaceOffers(json);
     m_session->replaceOffers(readOffers(JsonCursor{json, "offers"}));

@@ -42,8 +42,8 @@ public:
     void makeFrame();
     void set(const hostprogram::Device& device);
     void open(hostprogram::StartScreen screen);
-    // Only the monthly plan, or all of them.
-    void replaceOffers(bool onlyMonthly);
+    // Only the monthly plan, or all of them; those that the session began with, or ones that another screen has led to.
+    void replaceOffers(bool onlyMonthly, bool fromElsewhere);
     // The paywall is gone.
     bool isOver() const;
     // Ends the recording and writes it.

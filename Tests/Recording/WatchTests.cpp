@@ -5,11 +5,11 @@
 
 #include "Apps/ProUpsellsHost/PreviewKeys.hpp"
 #include "Apps/ProUpsellsHost/SourceWatch.hpp"
-#include "Platform/Accessibility/Search.hpp"
+#include "Apps/ProUpsellsHost/ThemeFile.hpp"
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Foundation/Locale.hpp"
+#include "Platform/System/Files.hpp"
 #include "Tests/Recording/RecordedSession.hpp"
-#include "Tooling/Driver.hpp"
 
 using namespace proupsells;
 using namespace hostprogram;
@@ -119,113 +119,85 @@ TEST_F(FollowedFiles, MayBeAThemes) {
     EXPECT_EQ(change.theme->families.text, "DejaVu Sans");
 }
 
-// --- Other offers in a session that is shown ---
+// --- The files of a theme ---
 
-class ReplacedOffers : public testing::Test {
+class FollowedPictures : public testing::Test {
 protected:
-    ReplacedOffers() {
-        session.present();
-        driver.finishTransitions();
+    SourceChange lookOften() {
+        SourceChange change;
+        for (int look = 0; look < 12 && !change.theme && change.complaints.empty(); ++look) change = watch->look();
+        return change;
     }
 
-    static Offers offersOf(const char* options) {
-        const Json json{{"options", Json::parse(options)}};
-        return readOffers(JsonCursor{json, "offers"});
-    }
-    void tap(const std::string& identifier) {
-        const auto tree = session.window().semanticTree();
-        accessibility::findByIdentifier(tree, identifier)->activate();
-        driver.wait(1);
-    }
-    std::vector<std::string> chosen() {
-        driver.wait(1);
-        const auto tree = session.window().semanticTree();
-        std::vector<std::string> result;
-        for (const auto* control : accessibility::controls(tree))
-            if (contains(control->traits, accessibility::Traits::selected)) result.push_back(control->identifier);
-        return result;
-    }
-
-    static constexpr const char* both = R"([
-        { "SKU": "y", "type": "yearly", "price": "$99.99", "monthlyEffectivePrice": "$8.33" },
-        { "SKU": "m", "type": "monthly", "price": "$14.99" } ])";
-
-    runloop::MainRunLoop loop{std::make_shared<runloop::VirtualClock>()};
-    std::ostringstream events;
-    HostSession session{offersOf(both), {}, {}, ffmpegbackend::Pace::exact, std::make_shared<EventLog>(events)};
-    tooling::Driver driver{loop, session.window()};
+    tests::TemporaryFolder folder;
+    std::filesystem::path theme = folder.write("theme.json", R"({ "pictures": { "diamond24": "gem.png" },
+        "faces": { "headings": { "family": "Ours", "files": [{ "file": "ours.ttf" }] } } })");
+    std::filesystem::path picture = folder.write("gem.png", "a picture");
+    std::filesystem::path face = folder.write("ours.ttf", "a face");
+    std::filesystem::path offers = folder.write("offers.json", R"({"options": []})");
+    std::unique_ptr<SourceWatch> watch = std::make_unique<SourceWatch>(Sources{offers, std::nullopt, theme});
 };
 
-TEST_F(ReplacedOffers, KeepTheChosenPlan) {
-    tap("plan.m");
+TEST_F(FollowedPictures, AreReadWhereTheThemeStaysAsItIs) {
+    EXPECT_FALSE(lookOften().theme);
+    folder.write("gem.png", "another picture");
 
-    session.replaceOffers(offersOf(R"([
-        { "SKU": "y", "type": "yearly", "price": "$88", "monthlyEffectivePrice": "$7" }, { "SKU": "m", "type": "monthly", "price": "$9" } ])"));
+    const SourceChange change = lookOften();
 
-    EXPECT_THAT(chosen(), ElementsAre("plan.m"));
+    ASSERT_TRUE(change.theme);
+    EXPECT_EQ(system::contentsOf(change.theme->pictures.at("diamond24").file), "another picture");
+    EXPECT_FALSE(lookOften().theme);
 }
 
-TEST_F(ReplacedOffers, KeepTheChosenPlanAtAnotherPlace) {
-    tap("plan.m");
+TEST_F(FollowedPictures, MayBeFaces) {
+    folder.write("ours.ttf", "another face");
 
-    session.replaceOffers(offersOf(R"([
-        { "SKU": "m", "type": "monthly", "price": "$9" }, { "SKU": "n", "type": "monthly", "price": "$8" } ])"));
+    const SourceChange change = lookOften();
 
-    EXPECT_THAT(chosen(), ElementsAre("plan.m"));
+    ASSERT_TRUE(change.theme);
+    EXPECT_EQ(system::contentsOf(change.theme->faceFiles.at(0).file), "another face");
 }
 
-TEST_F(ReplacedOffers, ChooseTheFirstPlanInThePlaceOfOneThatIsGone) {
-    tap("plan.m");
+// A picture that is written anew must not change below the screen that shows it.
+TEST_F(FollowedPictures, AreKeptAsTheyWere) {
+    const Theme kept = withKeptFiles(readThemeFile(theme));
 
-    session.replaceOffers(offersOf(R"([{ "SKU": "y", "type": "yearly", "price": "$88", "monthlyEffectivePrice": "$7" }])"));
+    folder.write("gem.png", "half");
+    std::filesystem::remove(face);
 
-    EXPECT_THAT(chosen(), ElementsAre("plan.y"));
+    EXPECT_EQ(system::contentsOf(kept.pictures.at("diamond24").file), "a picture");
+    EXPECT_EQ(system::contentsOf(kept.faceFiles.at(0).file), "a face");
 }
 
-TEST_F(ReplacedOffers, MayBeNoneForAWhile) {
-    tap("plan.m");
+TEST_F(FollowedPictures, AreOtherThingsToTheModuleWhenTheyHaveChanged) {
+    folder.write("gem.png", "a second picture");
+    const auto second = lookOften().theme;
+    folder.write("gem.png", "a third picture again");
+    const auto third = lookOften().theme;
 
-    session.replaceOffers(offersOf("[]"));
-    EXPECT_THAT(chosen(), IsEmpty());
-    session.replaceOffers(offersOf(R"([{ "SKU": "y", "type": "yearly", "price": "$88", "monthlyEffectivePrice": "$7" }])"));
-
-    EXPECT_THAT(chosen(), ElementsAre("plan.y"));
+    ASSERT_TRUE(second && third);
+    EXPECT_NE(*second, *third);
 }
 
-TEST_F(ReplacedOffers, ComeBelowAnotherScreen) {
-    tap("plan.m");
-    session.open(StartScreen::comparison);
-    driver.finishTransitions();
+TEST_F(FollowedPictures, MayComeLaterThanTheTheme) {
+    folder.write("theme.json", R"({ "pictures": { "diamond24": "later.png" } })");
+    const auto early = lookOften().theme;
+    folder.write("later.png", "here it is");
+    const auto late = lookOften().theme;
 
-    session.replaceOffers(offersOf(R"([{ "SKU": "y", "type": "yearly", "price": "$88", "monthlyEffectivePrice": "$7" }])"));
-    driver.press(host::Key::escape);
-    driver.finishTransitions();
-
-    EXPECT_THAT(chosen(), ElementsAre("plan.y"));
+    ASSERT_TRUE(early && late);
+    EXPECT_EQ(early->pictures.at("diamond24").file, folder.path() / "later.png");
+    EXPECT_EQ(system::contentsOf(late->pictures.at("diamond24").file), "here it is");
 }
 
-TEST_F(ReplacedOffers, StayWhereThePageWasScrolledTo) {
-    Device low;
-    low.size = {375, 500};
-    session.setDevice(low);
-    driver.wait(1);
-    session.window().scroll({187, 250}, {0, 120});
-    driver.wait(1);
-    const auto offset = [&] {
-        const auto tree = session.window().semanticTree();
-        std::vector<double> offsets;
-        for (const auto* node : accessibility::findAllByType(tree, "ScrollView"))
-            if (node->scroll) offsets.push_back(node->scroll->contentOffset.y);
-        return offsets;
-    };
-    const auto before = offset();
+TEST_F(FollowedPictures, AreFoundAgainInTheSecondLookWhileAnotherIsMissing) {
+    std::filesystem::remove(face);
+    for (int look = 0; look < 12; ++look) watch->look();
 
-    session.replaceOffers(offersOf(R"([
-        { "SKU": "y", "type": "yearly", "price": "$88", "monthlyEffectivePrice": "$7" }, { "SKU": "m", "type": "monthly", "price": "$9" } ])"));
-    driver.wait(1);
+    folder.write("gem.png", "another picture");
+    EXPECT_FALSE(watch->look().theme);
 
-    EXPECT_THAT(before, testing::Contains(120));
-    EXPECT_EQ(offset(), before);
+    EXPECT_TRUE(watch->look().theme);
 }
 
 // --- Keys ---

@@ -1,6 +1,10 @@
 #include <gmock/gmock.h>
 
+#include <set>
+
 #include "Backends/Headless/TestBed.hpp"
+#include "Platform/Graphics/PaintContext.hpp"
+#include "Platform/Host/WindowContent.hpp"
 #include "Platform/UIKit/Controls/UIControl.hpp"
 #include "Tooling/SteeringAudit.hpp"
 
@@ -66,6 +70,53 @@ protected:
 
 private:
     std::weak_ptr<uikit::UIWindow> m_window;
+};
+
+// Two buttons of a host's own content, without any view. Those in `ringsOf` show that they have the focus.
+class OwnContent final : public host::WindowContent {
+public:
+    explicit OwnContent(std::set<std::string> ringsOf) : m_ringsOf(std::move(ringsOf)) {}
+
+    void setSize(geometry::Size, geometry::PhysicalInsets) override {}
+    void touch(const host::Touch&) override {}
+    void scroll(geometry::Point, geometry::Point) override {}
+    bool key(host::Key key, bool) override {
+        if (key != host::Key::tab) return false;
+        m_focus = m_focus ? (*m_focus + 1) % names.size() : 0;
+        return true;
+    }
+    void dropFocus() override { m_focus.reset(); }
+    void paint(graphics::DisplayList& list) override {
+        graphics::PaintContext context(list);
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            context.fillRectangle({}, frameOf(i), graphics::rgb(0xDDDDDD));
+            if (m_focus == i && m_ringsOf.contains(names[i]))
+                context.fillRectangle({}, frameOf(i).insetBy(-3, -3), graphics::rgb(0x111111));
+        }
+    }
+    bool isAnimating() const override { return false; }
+    void setNeedsDisplayHandler(std::function<void()>) override {}
+    accessibility::SemanticNode semanticTree() override { return {}; }
+    accessibility::ReadingElement reading() override {
+        accessibility::ReadingElement dialog{.role = Role::dialog, .name = "Shop"};
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            accessibility::ReadingElement button{.role = Role::button, .identifier = names[i], .name = names[i]};
+            button.frame = button.plate = frameOf(i);
+            button.isOnScreen = button.takesFocus = true;
+            button.isFocused = m_focus == i;
+            button.activate = [] {};
+            button.focus = [this, i] { m_focus = i; };
+            dialog.children.push_back(std::move(button));
+        }
+        return dialog;
+    }
+
+private:
+    static Rect frameOf(std::size_t index) { return {{20, 20 + 100 * double(index)}, {100, 44}}; }
+
+    const std::vector<std::string> names{"buy", "leave"};
+    std::set<std::string> m_ringsOf;
+    std::optional<std::size_t> m_focus;
 };
 
 class SteeringAudit : public testing::Test {
@@ -143,6 +194,26 @@ TEST_F(SteeringAudit, FindsControlsBehindOneThatLetsTheFocusGo) {
 
     EXPECT_THAT(keyboard(), ElementsAre("no keyboard: button trap \"trap\" never gets the focus",
                                         "no keyboard: button close \"close\" never gets the focus"));
+}
+
+TEST_F(SteeringAudit, FindsAControlThatLooksTheSameWithTheFocus) {
+    OwnContent content({"leave"});
+
+    EXPECT_THAT(details(tooling::auditKeyboard(content, {375, 800}, wait)),
+                ElementsAre("invisible focus: button buy \"buy\" looks the same with the focus"));
+}
+
+TEST_F(SteeringAudit, SeesTheFocusInContentOfAHostsOwn) {
+    OwnContent content({"buy", "leave"});
+
+    EXPECT_THAT(details(tooling::auditKeyboard(content, {375, 800}, wait)), IsEmpty());
+}
+
+TEST_F(SteeringAudit, FindsAFocusOutsideOfTheWindow) {
+    OwnContent content({"buy", "leave"});
+
+    EXPECT_THAT(details(tooling::auditKeyboard(content, {375, 100}, wait)),
+                ElementsAre("hidden focus: button leave \"leave\" is out of sight when it has the focus"));
 }
 
 } // namespace

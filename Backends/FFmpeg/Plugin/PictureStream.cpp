@@ -5,6 +5,7 @@
 extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
+#include <libavutil/dict.h>
 #include <libavutil/log.h>
 }
 
@@ -21,6 +22,19 @@ std::string reasonOf(int error) {
     av_strerror(error, text, sizeof text);
     return text;
 }
+
+// What a file may be, and where it may lie. FFmpeg also takes lists of other files and addresses in a network for clips.
+class Permissions {
+public:
+    Permissions() {
+        av_dict_set(&options, "format_whitelist", "mov,mp4,m4a,3gp,3g2,mj2", 0); // one format, by all its names
+        av_dict_set(&options, "protocol_whitelist", "file", 0);
+    }
+    ~Permissions() { av_dict_free(&options); }
+    Permissions(const Permissions&) = delete;
+
+    AVDictionary* options = nullptr;
+};
 
 } // namespace
 
@@ -44,7 +58,10 @@ std::string PictureStream::begin(const ClipFile& file) {
     av_log_set_level(AV_LOG_QUIET);
     AVFormatContext* format = nullptr;
     if (file.embeddedBytes && (format = avformat_alloc_context())) format->pb = m_input.open(*file.embeddedBytes);
-    if (const int error = avformat_open_input(&format, system::textOf(file.path).c_str(), nullptr, nullptr); error < 0)
+    Permissions permissions;
+    // A path is one even where it looks like an address.
+    const std::string place = "file:" + system::textOf(file.path);
+    if (const int error = avformat_open_input(&format, place.c_str(), nullptr, &permissions.options); error < 0)
         return reasonOf(error);
     m_format.reset(format);
     if (const int error = avformat_find_stream_info(format, nullptr); error < 0) return reasonOf(error);
