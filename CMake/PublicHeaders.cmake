@@ -14,6 +14,7 @@ set(PROUPSELLS_Platform_HEADERS
   Platform/Combine/PassthroughSubject.hpp
   Platform/Commons/DefaultLogger.hpp
   Platform/Commons/FatalError.hpp
+  Platform/Commons/ScopeEnd.hpp
   Platform/Commons/SourceLocation.hpp
   Platform/Foundation/BidiRun.hpp
   Platform/Foundation/Bundle.hpp

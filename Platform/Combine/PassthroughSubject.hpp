@@ -9,12 +9,14 @@
 
 #include "Platform/Combine/AnyCancellable.hpp"
 #include "Platform/Combine/AnyPublisher.hpp"
+#include "Platform/Commons/ScopeEnd.hpp"
 
 namespace proupsells::combine {
 
 // Delivers synchronously, in the order of subscription. From inside a delivery a receiver may send (delivered at once, before the
 // rest of the outer value's receivers get theirs), subscribe (the new subscriber sees only later values), cancel anyone (a
 // cancelled one gets nothing more, this value included) and destroy the subject (the value under way still reaches everyone else).
+// What a receiver throws passes through, and the rest of the receivers do not get that value.
 template <class Value>
 class PassthroughSubject {
 public:
@@ -67,13 +69,15 @@ private:
             // Those who subscribe from now on stand behind this count; nobody is taken out while it is in use.
             const std::size_t count = list->entries.size();
             ++list->deliveries;
+            const commons::Finally end([&] {
+                --list->deliveries;
+                if (list->hasCancelledEntries) list->removeCancelled();
+            });
             for (std::size_t i = 0; i < count; ++i) {
                 // A copy, because a new subscriber may make the list move.
                 const EntryPointer entry = list->entries[i];
                 if (!entry->isCancelled && entry->receive) entry->receive(value);
             }
-            --list->deliveries;
-            if (list->hasCancelledEntries) list->removeCancelled();
         }
 
         // Receivers are let go only after the list is in order again: what they hold may cancel and subscribe when it goes.

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Platform/Commons/FatalError.hpp"
+#include "Platform/Commons/ScopeEnd.hpp"
 #include "Platform/RunLoop/MainActor.hpp"
 #include "Platform/RunLoop/SteppedClock.hpp"
 #include "Platform/RunLoop/UpdateQueue.hpp"
@@ -160,6 +161,7 @@ void MainRunLoop::runUntil(double time_s) {
 
 void MainRunLoop::runTurnsUntil(double limit_s) {
     MainActor::assertIsolated();
+    const commons::OnException wake([this] { wakeUpIfEarlierThan(std::nullopt); });
     double moment_s = 0;
     int turnsOfThisMoment = 0;
     while (const auto next_s = nextDueTime_s()) {
@@ -175,6 +177,10 @@ void MainRunLoop::runTurnsUntil(double limit_s) {
 void MainRunLoop::runTurn(double moment_s) {
     if (m_state->virtualClock) m_state->virtualClock->advanceTo(moment_s);
     m_state->turn_s = moment_s;
+    const commons::Finally end([this] {
+        rearmFiredTimers();
+        m_state->turn_s.reset();
+    });
     const std::uint64_t firstOfNextTurn = m_state->work.nextSequence();
     for (const Timer* timer = m_state->work.first(); timer && timer->m_due_s <= moment_s && timer->m_sequence < firstOfNextTurn;
          timer = m_state->work.first())
@@ -185,18 +191,18 @@ void MainRunLoop::runTurn(double moment_s) {
             commons::fatalError("The main run loop does not get past one turn: updates keep requesting updates");
         client->update();
     }
-    rearmFiredTimers();
-    m_state->turn_s.reset();
 }
 
 void MainRunLoop::fire(const std::shared_ptr<Timer>& timer) {
-    // Moved out, so that the callback survives its own timer's invalidation.
-    std::function<void()> callback = std::exchange(timer->m_callback, nullptr);
     const bool repeats = timer->m_interval_s > 0;
     if (repeats) m_state->fired.push_back(timer);
     if (!repeats) timer->m_isValid = false;
+    // Moved out, so that the callback survives its own timer's invalidation.
+    std::function<void()> callback = std::exchange(timer->m_callback, nullptr);
+    const commons::Finally restore([&] {
+        if (timer->isValid()) timer->m_callback = std::move(callback);
+    });
     if (callback) callback();
-    if (timer->isValid()) timer->m_callback = std::move(callback);
 }
 
 void MainRunLoop::rearmFiredTimers() {

@@ -14,7 +14,8 @@ namespace proupsells::runloop {
 
 // Orders work by (due time, sequence number). A turn is the due callbacks of one moment, then the updates that they
 // caused; repeating timers that fired are re-armed at the turn's end, on their own grid, with new sequence numbers.
-// All of it, scheduling included, belongs to the main thread.
+// All of it, scheduling included, belongs to the main thread. What a callback or an update throws ends the turn and passes through;
+// the rest of the moment waits for the next run.
 class PROUPSELLS_EXPORT MainRunLoop {
 public:
     // Stops the program on a real clock while another loop runs on one. Loops on virtual clocks stand in for the ones before them.

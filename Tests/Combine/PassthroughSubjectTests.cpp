@@ -3,6 +3,7 @@
 #include <array>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -284,6 +285,33 @@ TEST_F(Subject, IsNotKeptAliveByItsPublisher) {
     doomed.reset();
 
     EXPECT_FALSE(publisher.sink(noting("a")));
+}
+
+TEST_F(Subject, GoesOnAfterAReceiverThatThrows) {
+    combine::AnyCancellable first = subject.sink(noting("a"));
+    const auto thrower = subject.sink([&](int value) {
+        first.cancel();
+        if (value == 1) throw std::runtime_error("the host's");
+    });
+    const auto last = subject.sink(noting("c"));
+
+    EXPECT_THROW(subject.send(1), std::runtime_error);
+    subject.send(2);
+
+    EXPECT_THAT(diary, ElementsAre("a1", "c2"));
+}
+
+TEST_F(Subject, LetsACancelledReceiverGoAfterOneThatThrows) {
+    const auto held = std::make_shared<int>();
+    combine::AnyCancellable first = subject.sink([held](int) {});
+    const auto thrower = subject.sink([&](int) {
+        first.cancel();
+        throw std::runtime_error("the host's");
+    });
+
+    EXPECT_THROW(subject.send(1), std::runtime_error);
+
+    EXPECT_EQ(held.use_count(), 1);
 }
 
 TEST(AnyPublisher, NeverDeliversByDefault) {

@@ -16,38 +16,6 @@ using geometry::Size;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// --- Frames ---
-
-struct FrameCase {
-    UIModalPresentationStyle style;
-    Size window;
-    Rect frame;
-};
-
-TEST(PresentationFrame, FillsNarrowWindowsAndStandsInWideOnes) {
-    using enum UIModalPresentationStyle;
-    const std::vector<FrameCase> cases = {
-        {formSheet, {320, 568}, {{0, 0}, {320, 568}}},          {formSheet, {375, 667}, {{0, 0}, {375, 667}}},
-        {formSheet, {375, 800}, {{0, 0}, {375, 800}}},          {formSheet, {414, 896}, {{0, 0}, {414, 896}}},
-        {formSheet, {599.9, 900}, {{0, 0}, {599.9, 900}}},      {formSheet, {600, 900}, {{112.5, 50}, {375, 800}}},
-        {formSheet, {744, 1133}, {{184.5, 166.5}, {375, 800}}}, {formSheet, {1133, 744}, {{379, 0}, {375, 744}}},
-        {pageSheet, {375, 800}, {{0, 0}, {375, 800}}},          {automatic, {599.9, 800}, {{0, 0}, {599.9, 800}}},
-        {automatic, {600, 800}, {{20, 20}, {560, 760}}},        {pageSheet, {744, 1133}, {{20, 20}, {704, 1093}}},
-        {pageSheet, {1133, 744}, {{214.5, 20}, {704, 704}}},    {fullScreen, {1133, 744}, {{0, 0}, {1133, 744}}},
-    };
-    for (const FrameCase& one : cases) {
-        SCOPED_TRACE(testing::Message() << presentationStyleName(one.style) << " in " << one.window.width << " x "
-                                        << one.window.height);
-        EXPECT_EQ(presentationFrame(one.style, {375, 800}, one.window), one.frame);
-    }
-}
-
-TEST(PresentationFrame, FormSheetsWithoutAPreferredSizeHaveOneAllTheSame) {
-    EXPECT_EQ(presentationFrame(UIModalPresentationStyle::formSheet, {}, {1000, 1000}), (Rect{{230, 190}, {540, 620}}));
-}
-
-// --- The course of a presentation ---
-
 class PresentationTest : public ScreenTest {
 protected:
     PresentationTest() {

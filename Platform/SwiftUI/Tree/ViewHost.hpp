@@ -144,6 +144,8 @@ private:
     // For changes inside the tree: the animation in force is used only for what has changed.
     void setNeedsBuild();
     void bringUpToDate();
+    // Returns whether the content was laid out.
+    bool makePasses();
     void build();
     void layOutContent();
     bool runObservers();

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/Commons/ScopeEnd.hpp"
 #include "Platform/SwiftUI/Tree/Alignment.hpp"
 #include "Platform/SwiftUI/Tree/RootNode.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
@@ -32,7 +33,16 @@ void ViewHost::update() {
 void ViewHost::bringUpToDate() {
     if (!m_needsBuild && !m_needsLayout && !m_needsAppearanceUpdate && m_observers.empty()) return;
     const auto self = weak_from_this().lock(); // a handler may let go of the host
+    const bool hasLaidOut = makePasses();
+    if (hasLaidOut && m_layoutHandler) m_layoutHandler();
+}
+
+bool ViewHost::makePasses() {
     m_isUpdating = true;
+    const commons::Finally end([this] {
+        m_updateAnimation.reset();
+        m_isUpdating = false;
+    });
     bool hasLaidOut = false;
     int pass = 0;
     for (; pass < maximumPassCount; ++pass) {
@@ -48,13 +58,11 @@ void ViewHost::bringUpToDate() {
         const bool isDone = !m_needsBuild && !(m_needsLayout && m_hasSize) && !m_needsAppearanceUpdate && m_observers.empty();
         if (isDone || (!hasAppeared && !hasRun && !m_needsBuild && !m_needsLayout)) break;
     }
-    m_updateAnimation.reset();
-    m_isUpdating = false;
     if (pass == maximumPassCount)
         commons::DefaultLogger::shared().log(
             commons::DefaultLogger::errorSeverity,
             "Views keep changing in answer to their own changes; the rest is left for the next update", "ViewHost.update()");
-    if (hasLaidOut && m_layoutHandler) m_layoutHandler();
+    return hasLaidOut;
 }
 
 void ViewHost::build() {
@@ -69,10 +77,12 @@ void ViewHost::layOutContent() {
     m_needsLayout = false;
     m_layoutAnimation = m_updateAnimation ? &*m_updateAnimation : nullptr;
     m_hasPositionChanged = std::exchange(m_hasResized, false);
+    const commons::Finally end([this] {
+        m_hasPositionChanged = false;
+        m_layoutAnimation = nullptr;
+        m_updateAnimation.reset();
+    });
     m_rootNode->layOutIn(m_size);
-    m_hasPositionChanged = false;
-    m_layoutAnimation = nullptr;
-    m_updateAnimation.reset();
     ++m_layoutCount;
     m_needsLayout = false; // geometry readers have built what they have laid out themselves
     m_needsDisplay = true;
@@ -96,10 +106,10 @@ void ViewHost::addPostLayoutObserver(PostLayoutObserver& observer) {
 bool ViewHost::runObservers() {
     if (m_observers.empty()) return false;
     std::swap(m_observers, m_runningObservers);
+    const commons::Finally end([this] { m_runningObservers.clear(); });
     // By index: the list may change in a call, and an observer that goes away leaves a null in its place.
     for (std::size_t i = 0; i < m_runningObservers.size(); ++i)
         if (m_runningObservers[i]) m_runningObservers[i]->afterLayout();
-    m_runningObservers.clear();
     return true;
 }
 

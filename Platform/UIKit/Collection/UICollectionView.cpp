@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "Platform/Commons/FatalError.hpp"
+#include "Platform/Commons/ScopeEnd.hpp"
 
 namespace proupsells::uikit {
 
@@ -70,10 +71,12 @@ void UICollectionView::layoutSubviews() {
         return;
     }
     const auto kept = strongReference(*this);
-    m_isTiling = true;
-    m_mustTileAgain = false;
-    tile();
-    m_isTiling = false;
+    {
+        m_isTiling = true;
+        const commons::Finally end([this] { m_isTiling = false; });
+        m_mustTileAgain = false;
+        tile();
+    }
     if (m_mustTileAgain) setNeedsLayout();
 }
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/Commons/ScopeEnd.hpp"
 
 namespace proupsells::uikit {
 
@@ -25,11 +26,13 @@ void LayoutSystem::place(UIView& root) {
     // Whoever is told of a new frame may ask for another layout; that one waits until this one has ended.
     m_mustPlaceAgain = m_isPlacing;
     if (std::exchange(m_isPlacing, true)) return;
-    const Outcome outcome = solve(root, LayoutProblem::Purpose::place, {});
-    report(outcome.problem, m_solutions.back());
-    setFrames(outcome);
-    setContentSizes(outcome);
-    m_isPlacing = false;
+    {
+        const commons::Finally end([this] { m_isPlacing = false; });
+        const Outcome outcome = solve(root, LayoutProblem::Purpose::place, {});
+        report(outcome.problem, m_solutions.back());
+        setFrames(outcome);
+        setContentSizes(outcome);
+    }
     if (m_mustPlaceAgain) root.setNeedsLayout();
 }
 

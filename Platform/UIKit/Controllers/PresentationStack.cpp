@@ -1,6 +1,7 @@
 #include "Platform/UIKit/Controllers/PresentationStack.hpp"
 
 #include "Platform/Commons/DefaultLogger.hpp"
+#include "Platform/Commons/ScopeEnd.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
 namespace proupsells::uikit {
@@ -35,18 +36,18 @@ void PresentationStack::runWaiting() {
     if (m_isRunningWaiting) return;
     const auto window = strongReference(m_window); // owns the stack, which callbacks may want to release
     m_isRunningWaiting = true;
+    const commons::Finally end([this] { m_isRunningWaiting = false; });
     while (!m_current && !m_waiting.empty()) {
         m_current = std::move(m_waiting.front());
         m_waiting.pop_front();
         begin();
     }
-    m_isRunningWaiting = false;
 }
 
 void PresentationStack::begin() {
     const Operation operation = *m_current;
     const int generation = m_generation;
-    const bool hasBegun = operation.kind == Kind::presentation ? beginPresentation(operation) : beginDismissal(operation);
+    const bool hasBegun = beginOrAbandon(operation);
     if (generation != m_generation) return;
     if (!hasBegun) {
         m_current.reset();
@@ -62,6 +63,13 @@ void PresentationStack::begin() {
             held->presentations().runWaiting();
         }
     });
+}
+
+bool PresentationStack::beginOrAbandon(const Operation& operation) {
+    const commons::OnException giveUp([this, &operation, generation = m_generation] {
+        if (generation == m_generation) abandon(operation);
+    });
+    return operation.kind == Kind::presentation ? beginPresentation(operation) : beginDismissal(operation);
 }
 
 // False when the presentation cannot take place any more.
@@ -129,6 +137,10 @@ void PresentationStack::finishDismissal(const Operation& operation) {
     const std::vector<Presentation> leaving(m_presentations.begin() + std::ptrdiff_t(base), m_presentations.end());
     m_presentations.erase(m_presentations.begin() + std::ptrdiff_t(base), m_presentations.end());
     const auto presenter = leaving.front().presenter.lock();
+    const commons::OnException forgetAll([&] {
+        for (const Presentation& one : leaving)
+            if (one.controller->m_isBeingDismissed) forget(*one.controller);
+    });
     for (auto one = leaving.rbegin(); one != leaving.rend(); ++one) one->view->removeFromSuperview();
     if (leaving.front().takesPresenterAway && presenter) presenter->endAppearance();
     for (auto one = leaving.rbegin(); one != leaving.rend(); ++one) {
@@ -142,13 +154,28 @@ void PresentationStack::finish() {
     // Still the current one while its last calls are made, so that what they ask for waits.
     const Operation operation = *m_current;
     const int generation = m_generation;
+    const commons::Finally end([&] {
+        if (generation == m_generation) m_current.reset();
+    });
     m_timer.reset();
     if (operation.kind == Kind::presentation)
         finishPresentation(operation);
     else
         finishDismissal(operation);
     if (operation.completion) operation.completion();
-    if (generation == m_generation) m_current.reset();
+}
+
+// After an exception of the host's: what was to come does not, and what was to leave has left, without a further call.
+void PresentationStack::abandon(const Operation& operation) {
+    m_current.reset();
+    const auto base = m_presentations.begin() + std::ptrdiff_t(indexOf(*operation.controller));
+    const std::vector<Presentation> leaving(base, m_presentations.end());
+    m_presentations.erase(base, m_presentations.end());
+    for (const Presentation& one : leaving) {
+        one.view->removeFromSuperview();
+        forget(*one.controller);
+    }
+    forget(*operation.controller);
 }
 
 void PresentationStack::removeAll() {

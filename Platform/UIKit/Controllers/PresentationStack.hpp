@@ -52,11 +52,14 @@ private:
 
     void runWaiting();
     void begin();
+    // Returns whether it has begun.
+    bool beginOrAbandon(const Operation& operation);
     bool beginPresentation(const Operation& operation);
     bool beginDismissal(const Operation& operation);
     void finish();
     void finishPresentation(const Operation& operation);
     void finishDismissal(const Operation& operation);
+    void abandon(const Operation& operation);
     void forget(UIViewController& controller);
     std::size_t indexOf(const UIViewController& controller) const;
 
