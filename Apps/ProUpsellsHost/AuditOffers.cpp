@@ -1,19 +1,18 @@
 #include "Apps/ProUpsellsHost/AuditOffers.hpp"
 
 #include <algorithm>
-#include <cstdlib>
 
 #include <nlohmann/json.hpp>
 
 #include "Apps/ProUpsellsHost/AuditTour.hpp"
-#include "Platform/System/ParallelTasks.hpp"
+#include "Apps/ProUpsellsHost/ParallelAnswers.hpp"
 
 namespace proupsells::hostprogram {
 
 namespace {
 
-// What is found in one language, as JSON for the process that asked for it.
-std::string auditLanguage(const AuditSubject& subject, const std::string& locale) {
+// What is found in one language.
+Json auditLanguage(const AuditSubject& subject, const std::string& locale) {
     AuditLedger ledger;
     Device device = subject.device;
     device.locale = locale;
@@ -25,7 +24,7 @@ std::string auditLanguage(const AuditSubject& subject, const std::string& locale
     }
     Json entries = Json::array();
     for (const AuditEntry& entry : ledger.entries()) entries.push_back(toJson(entry));
-    return Json{{"entries", entries}, {"identifiers", identifiers}}.dump(-1, ' ', false, Json::error_handler_t::replace);
+    return {{"entries", entries}, {"identifiers", identifiers}};
 }
 
 // Controls that another language has under other identifiers.
@@ -46,13 +45,11 @@ void compareIdentifiers(const Json& first, const Json& other, const Device& devi
 // A process for each language: the comparison keeps the language of its first use, and all processors have something to do.
 AuditLedger auditOffers(const AuditSubject& subject) {
     const auto& locales = subject.matrix.locales;
-    const auto answers = system::runInProcesses(locales.size(), [&](std::size_t i) { return auditLanguage(subject, locales[i]); });
+    const auto answers = parallelAnswers(locales.size(), [&](std::size_t i) { return auditLanguage(subject, locales[i]); });
     AuditLedger ledger;
     Json first;
     for (std::size_t i = 0; i < locales.size(); ++i) {
-        // It has said why.
-        if (!answers[i]) std::abort();
-        const Json answer = Json::parse(*answers[i]);
+        const Json& answer = answers[i];
         for (const Json& entry : answer["entries"]) ledger.merge(auditEntryOf(entry));
         if (i == 0) first = answer["identifiers"];
         Device device = subject.device;

@@ -6,11 +6,11 @@
 #include <nlohmann/json.hpp>
 
 #include "Apps/ProUpsellsHost/GalleryTour.hpp"
+#include "Apps/ProUpsellsHost/ParallelAnswers.hpp"
 #include "Apps/ProUpsellsHost/PictureDigest.hpp"
 #include "Apps/ProUpsellsHost/ProgressBar.hpp"
 #include "Backends/Raster/PngFile.hpp"
 #include "Backends/Raster/RasterSurface.hpp"
-#include "Platform/System/ParallelTasks.hpp"
 #include "Tooling/ScreenTree.hpp"
 #include "Tooling/WrittenNumber.hpp"
 
@@ -130,24 +130,20 @@ GalleryPicture pictureOf(const Json& row) {
     return {row[0], row[1], row[2], row[3], row[4], row[5], row[6], row[7], row[8], row[9], row[10]};
 }
 
-// What was painted, as JSON for the process that asked for it; or the line to say as a text.
-std::string perform(const Task& task, const GallerySubject& subject, const GalleryFolder& folder) {
+// What was painted.
+Json perform(const Task& task, const GallerySubject& subject, const GalleryFolder& folder) {
     Device device = subject.device;
     device.locale = task.locale;
     device.size = task.size;
     device.textSize = task.textSize;
     device.scale = subject.matrix.scale;
     Json rows = Json::array();
-    try {
-        for (const ColorScheme appearance : subject.matrix.configurations.appearances) {
-            device.appearance = appearance;
-            for (const GalleryPicture& picture : ConfigurationPainter(task.screen, subject.offers, device, folder).paint())
-                rows.push_back(rowOf(picture));
-        }
-    } catch (const std::runtime_error& error) {
-        rows = error.what();
+    for (const ColorScheme appearance : subject.matrix.configurations.appearances) {
+        device.appearance = appearance;
+        for (const GalleryPicture& picture : ConfigurationPainter(task.screen, subject.offers, device, folder).paint())
+            rows.push_back(rowOf(picture));
     }
-    return rows.dump(-1, ' ', false, Json::error_handler_t::replace);
+    return rows;
 }
 
 } // namespace
@@ -156,23 +152,16 @@ std::vector<GalleryPicture> paintGallery(const GallerySubject& subject, const Ga
     const std::vector<Task> tasks = tasksOf(subject.matrix.configurations);
     double total = 0;
     for (const Task& task : tasks) total += task.weight();
-    std::vector<std::optional<std::string>> answers;
+    std::vector<Json> answers;
     {
         ProgressBar progress(total);
-        answers = system::runInProcesses(
+        answers = parallelAnswers(
             tasks.size(), [&](std::size_t i) { return perform(tasks[i], subject, folder); },
-            [&](std::size_t i, const std::optional<std::string>& answer) {
-                // It has said why. The others would say the same.
-                if (!answer) std::abort();
-                progress.advance(tasks[i].weight());
-            });
+            [&](std::size_t i) { progress.advance(tasks[i].weight()); });
     }
     std::vector<GalleryPicture> pictures;
-    for (const auto& answer : answers) {
-        const Json rows = Json::parse(*answer);
-        if (rows.is_string()) throw std::runtime_error(rows.get<std::string>());
+    for (const Json& rows : answers)
         for (const Json& row : rows) pictures.push_back(pictureOf(row));
-    }
     return pictures;
 }
 

@@ -17,6 +17,8 @@ namespace proupsells::hostprogram {
 namespace {
 
 constexpr std::size_t maximumDepth = 100;
+// Takes some 200 MB. Recordings of hours have fewer.
+constexpr std::size_t maximumValueCount = 2'000'000;
 
 // Builds the value while the file is parsed. Stops at the first thing that is wrong, and knows its place.
 class Builder : public nlohmann::json_sax<Json> {
@@ -78,6 +80,7 @@ private:
     [[noreturn]] void fail(const std::string& complaint) const { throw InputError(m_file, pointer(), complaint); }
 
     Json* place(Json value) {
+        if (++m_valueCount > maximumValueCount) fail("there are more than 2000000 values, expected fewer");
         if (m_levels.empty()) {
             result = std::move(value);
             return &result;
@@ -110,6 +113,7 @@ private:
 
     std::string m_file;
     std::vector<Level> m_levels;
+    std::size_t m_valueCount = 0;
     std::size_t m_errorPosition = 0;
 };
 

@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "Apps/ProUpsellsHost/AuditCommand.hpp"
+#include "Apps/ProUpsellsHost/Emergency.hpp"
 #include "Apps/ProUpsellsHost/EvidenceCommand.hpp"
 #include "Apps/ProUpsellsHost/GalleryCommand.hpp"
 #include "Apps/ProUpsellsHost/InputError.hpp"
@@ -33,7 +34,7 @@ int obey(const Arguments& command, const ShowFunction& show) {
 } // namespace
 
 int runProgram(int count, const char* const* arguments, const ShowFunction& show) {
-    constexpr int unusableInput = 2;
+    prepareForEmergencies();
     try {
         const int status = obey(readCommandLine(count, arguments), show);
         if (!std::cout.flush())
@@ -42,6 +43,8 @@ int runProgram(int count, const char* const* arguments, const ShowFunction& show
     } catch (const std::runtime_error& error) {
         std::cerr << error.what() << '\n';
         return unusableInput;
+    } catch (const std::bad_alloc&) {
+        endForWantOfMemory();
     }
 }
 

@@ -12,6 +12,7 @@
 #include "Platform/System/PathText.hpp"
 #include "Tooling/Quoted.hpp"
 #include "Tooling/TapPoint.hpp"
+#include "Tooling/WrittenNumber.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -92,7 +93,15 @@ void ScenarioRunner::perform(const DumpStep&) {
 void ScenarioRunner::perform(const SnapshotStep& step) {
     if (!m_folder) return;
     const Device& device = m_session.device();
-    const auto pixels = writeSnapshot(m_session.window(), device.size, device.scale, *m_folder, step.file);
+    std::optional<rasterbackend::PixelSize> pixels;
+    try {
+        pixels = writeSnapshot(m_session.window(), device.size, device.scale, *m_folder, step.file);
+    } catch (const std::bad_alloc&) {
+        throw InputError(system::textOf(m_scenario.file), stepPointer() + "/snapshot",
+                         "a picture of " + tooling::written(device.size.width) + " by " + tooling::written(device.size.height) +
+                             " points at scale " + tooling::written(device.scale) +
+                             " does not fit into memory, expected a smaller one");
+    }
     if (!pixels)
         throw InputError(system::textOf(m_scenario.file), stepPointer() + "/snapshot",
                          "\"" + system::textOf(*m_folder / system::pathOf(step.file)) +

@@ -68,9 +68,10 @@ SystemFonts::~SystemFonts() {
 
 FcConfig* SystemFonts::configuration() {
     if (m_configuration) return m_configuration;
-    if (m_file.empty()) return m_configuration = FcInitLoadConfigAndFonts();
     m_configuration = FcConfigCreate();
-    FcConfigParseAndLoad(m_configuration, fcText(system::textOf(m_file)), FcFalse);
+    const std::string file = system::textOf(m_file);
+    // Null for the system's own. A machine without one has no fonts, which is nothing to complain about.
+    FcConfigParseAndLoad(m_configuration, m_file.empty() ? nullptr : fcText(file), FcFalse);
     FcConfigBuildFonts(m_configuration);
     return m_configuration;
 }

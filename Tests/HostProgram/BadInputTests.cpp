@@ -150,6 +150,19 @@ TEST(HostProgram, RefusesAFileOver64Megabytes) {
     EXPECT_THAT(outcome.errors, HasSubstr("64 MB"));
 }
 
+TEST(HostProgram, RefusesMoreValuesThanItReads) {
+    const Folder folder;
+    std::string options = "{\"options\":[0";
+    for (int count = 0; count < 10'000'000; ++count) options += ",0";
+    const auto file = folder.write("offers.json", options + "]}");
+
+    const Outcome outcome = runProgram({"lint", file.string()});
+
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(outcome.errors, HasSubstr("there are more than 2000000 values, expected fewer"));
+    EXPECT_THAT(outcome.errorLines(), SizeIs(1));
+}
+
 TEST(HostProgram, RefusesAbsurdNesting) {
     const Folder folder;
     const auto file = folder.write("scenario.json", std::string(1'000'000, '['));

@@ -33,6 +33,25 @@ void collectTexts(const Json& node, std::vector<std::string>& result) {
     for (const Json& child : node["children"]) collectTexts(child, result);
 }
 
+std::string commandOf(const std::filesystem::path& program, const std::vector<std::string>& arguments) {
+    std::string command = quoted(program.string());
+    for (const std::string& argument : arguments) command += " " + quoted(argument);
+    return command;
+}
+
+// `after` may lead the output elsewhere.
+Outcome runCommand(const std::string& command, const std::string& after) {
+    const Folder folder;
+    const auto output = folder.path() / "output", errors = folder.path() / "errors";
+    const std::string whole = command + " > " + quoted(output) + " 2> " + quoted(errors) + " < /dev/null" + after;
+    const int status = std::system(whole.c_str());
+    Outcome outcome;
+    outcome.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    outcome.output = bytesOf(output);
+    outcome.errors = bytesOf(errors);
+    return outcome;
+}
+
 } // namespace
 
 std::vector<Json> Outcome::events() const {
@@ -52,17 +71,12 @@ std::vector<std::string> Outcome::errorLines() const { return lines(errors); }
 
 Outcome runProgram(const std::vector<std::string>& arguments, const std::filesystem::path& program,
                    const std::filesystem::path& outputFile) {
-    const Folder folder;
-    std::string command = quoted(program.string());
-    for (const std::string& argument : arguments) command += " " + quoted(argument);
-    const std::filesystem::path output = outputFile.empty() ? folder.path() / "output" : outputFile;
-    command += " > " + quoted(output) + " 2> " + quoted(folder.path() / "errors") + " < /dev/null";
-    const int status = std::system(command.c_str());
-    Outcome outcome;
-    outcome.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-    if (outputFile.empty()) outcome.output = bytesOf(output);
-    outcome.errors = bytesOf(folder.path() / "errors");
-    return outcome;
+    return runCommand(commandOf(program, arguments), outputFile.empty() ? "" : " > " + quoted(outputFile));
+}
+
+Outcome runProgramIn(const std::string& before, const std::vector<std::string>& arguments, const std::string& after) {
+    // A shell of its own, so that limits do not hold for the one that opens the files for what the program says.
+    return runCommand("sh -c " + quoted(before + R"(exec "$0" "$@")") + " " + commandOf(builtProgram, arguments), after);
 }
 
 Outcome play(const Json& scenario, const std::filesystem::path& program) {

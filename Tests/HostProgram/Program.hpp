@@ -40,6 +40,8 @@ inline const std::filesystem::path builtProgram = PROUPSELLS_PROGRAM;
 // `outputFile` takes what the program prints in the outcome's stead, where it is not empty.
 Outcome runProgram(const std::vector<std::string>& arguments, const std::filesystem::path& program = builtProgram,
                    const std::filesystem::path& outputFile = {});
+// Runs the program with what a shell's line says before and after it: limits before it, say, and a place for its output after it.
+Outcome runProgramIn(const std::string& before, const std::vector<std::string>& arguments, const std::string& after = {});
 // Plays a scenario with fixed fonts unless its device says otherwise; pictures go to the scenario's folder.
 Outcome play(const Json& scenario, const std::filesystem::path& program = builtProgram);
 // The sample offers' options and referrer.

@@ -1,0 +1,7 @@
+#include "Platform/System/StandardStreams.hpp"
+
+namespace proupsells::system {
+
+void holdStandardStreams() {}
+
+} // namespace proupsells::system
