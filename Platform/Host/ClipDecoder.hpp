@@ -35,7 +35,8 @@ public:
 
     // Returns at once, and never null; the same clip for the same file as long as somebody holds it. A missing file makes a silent
     // clip without frames. So does a broken one, which costs one log line when its first frame is asked for, and no other when it
-    // is opened again. One that is cut short plays what it has, and costs a line likewise.
+    // is opened again, and one whose pictures have more than 3840 × 2176 pixels. One that is cut short plays what it has, and costs
+    // a line likewise.
     virtual std::shared_ptr<Clip> open(const std::filesystem::path& file) = 0;
 };
 

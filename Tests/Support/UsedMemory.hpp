@@ -2,8 +2,10 @@
 #pragma once
 
 #include <malloc.h>
+#include <unistd.h>
 
 #include <cstddef>
+#include <fstream>
 
 namespace proupsells::tests {
 
@@ -14,6 +16,14 @@ inline std::size_t usedMemory_bytes() {
     const struct mallinfo info = mallinfo();
 #endif
     return std::size_t(info.uordblks) + std::size_t(info.hblkhd);
+}
+
+// How much of the machine's memory the program has; 0 where nobody says.
+inline std::size_t residentMemory_bytes() {
+    std::ifstream statistics("/proc/self/statm");
+    std::size_t all_pages = 0, resident_pages = 0;
+    statistics >> all_pages >> resident_pages;
+    return resident_pages * std::size_t(sysconf(_SC_PAGESIZE));
 }
 
 } // namespace proupsells::tests

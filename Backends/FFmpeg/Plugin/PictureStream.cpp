@@ -1,6 +1,9 @@
 #include "Backends/FFmpeg/Plugin/PictureStream.hpp"
 
 #include <algorithm>
+#include <initializer_list>
+#include <utility>
+#include <vector>
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -17,23 +20,30 @@ namespace {
 
 constexpr double standInFrameRate = 24; // where a file does not say
 
+// In whole blocks of 16. A decoder keeps some pictures of a clip's own size.
+constexpr std::int64_t mostPixels = 3840 * 2176;
+
 std::string reasonOf(int error) {
     char text[AV_ERROR_MAX_STRING_SIZE] = {};
     av_strerror(error, text, sizeof text);
     return text;
 }
 
-// What a file may be, and where it may lie. FFmpeg also takes lists of other files and addresses in a network for clips.
-class Permissions {
+// A dictionary of FFmpeg's.
+class Options {
 public:
-    Permissions() {
-        av_dict_set(&options, "format_whitelist", "mov,mp4,m4a,3gp,3g2,mj2", 0); // one format, by all its names
-        av_dict_set(&options, "protocol_whitelist", "file", 0);
+    Options(std::initializer_list<std::pair<const char*, const char*>> entries) {
+        for (const auto& [name, value] : entries) av_dict_set(&m_options, name, value, 0);
     }
-    ~Permissions() { av_dict_free(&options); }
-    Permissions(const Permissions&) = delete;
+    ~Options() { av_dict_free(&m_options); }
+    Options(const Options&) = delete;
+    Options& operator=(const Options&) = delete;
 
-    AVDictionary* options = nullptr;
+    // FFmpeg takes out what it has understood.
+    AVDictionary** get() { return &m_options; }
+
+private:
+    AVDictionary* m_options = nullptr;
 };
 
 } // namespace
@@ -58,13 +68,15 @@ std::string PictureStream::begin(const ClipFile& file) {
     av_log_set_level(AV_LOG_QUIET);
     AVFormatContext* format = nullptr;
     if (file.embeddedBytes && (format = avformat_alloc_context())) format->pb = m_input.open(*file.embeddedBytes);
-    Permissions permissions;
+    // What a file may be, by all the names of that one format, and where it may lie. FFmpeg also takes lists of other files and
+    // addresses in a network for clips.
+    Options permissions = {{"format_whitelist", "mov,mp4,m4a,3gp,3g2,mj2"}, {"protocol_whitelist", "file"}};
     // A path is one even where it looks like an address.
     const std::string place = "file:" + system::textOf(file.path);
-    if (const int error = avformat_open_input(&format, place.c_str(), nullptr, &permissions.options); error < 0)
+    if (const int error = avformat_open_input(&format, place.c_str(), nullptr, permissions.get()); error < 0)
         return reasonOf(error);
     m_format.reset(format);
-    if (const int error = avformat_find_stream_info(format, nullptr); error < 0) return reasonOf(error);
+    if (const std::string complaint = findStreams(); !complaint.empty()) return complaint;
     const AVCodec* decoder = nullptr;
     const int index = av_find_best_stream(format, AVMEDIA_TYPE_VIDEO, -1, -1, &decoder, 0);
     if (index < 0 || !decoder) return "there are no pictures in it";
@@ -72,8 +84,23 @@ std::string PictureStream::begin(const ClipFile& file) {
     m_codec.reset(avcodec_alloc_context3(decoder));
     avcodec_parameters_to_context(m_codec.get(), m_stream->codecpar);
     m_codec->thread_count = 1;
+    m_codec->max_pixels = mostPixels;
     if (const int error = avcodec_open2(m_codec.get(), decoder, nullptr); error < 0) return reasonOf(error);
     return {};
+}
+
+// FFmpeg may decode some pictures to find out.
+std::string PictureStream::findStreams() {
+    const std::vector<AVStream*> streams(m_format->streams, m_format->streams + m_format->nb_streams);
+    for (const AVStream* stream : streams)
+        if (std::int64_t(stream->codecpar->width) * stream->codecpar->height > mostPixels)
+            return "its pictures are " + std::to_string(stream->codecpar->width) + " by " +
+                   std::to_string(stream->codecpar->height) + " pixels, expected at most as many as 3840 by 2176 have";
+    std::vector<AVDictionary*> options(streams.size());
+    for (AVDictionary*& one : options) av_dict_set_int(&one, "max_pixels", mostPixels, 0);
+    const int error = avformat_find_stream_info(m_format.get(), options.data());
+    for (AVDictionary*& one : options) av_dict_free(&one);
+    return error < 0 ? reasonOf(error) : std::string();
 }
 
 double PictureStream::declaredDuration_s() const {

@@ -50,6 +50,7 @@ private:
     PictureStream();
     // Empty when all went well.
     std::string begin(const ClipFile& file);
+    std::string findStreams();
     void feedDecoder();
 
     MemoryInput m_input; // read by the format

@@ -48,6 +48,7 @@ host::ClipFrame PlayedClip::frameAt(double time_s) {
         return worker != nullptr;
     };
 
+    if (const auto worker = m_worker.lock()) m_lastQuestion = worker->countQuestion();
     for (;;) {
         if (const std::string complaint = std::exchange(m_complaint, {}); !complaint.empty()) {
             guard.unlock();
@@ -123,6 +124,19 @@ bool PlayedClip::decodeOne() {
     // Somebody has changed the file since it was opened.
     m_state = State::unplayable;
     m_complaint = "cannot be played any more: its pictures have gone";
+    return true;
+}
+
+bool PlayedClip::closeUnlessAskedSince(std::uint64_t question) {
+    {
+        const std::lock_guard guard(m_lock);
+        if (m_isQueued || m_lastQuestion >= question) return false;
+        if (m_state == State::open) m_state = State::unopened;
+        m_window.clear();
+        m_windowReachesEnd = false;
+        m_soughtMoment_s = 0;
+    }
+    m_video.reset();
     return true;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <condition_variable>
+#include <cstdint>
 #include <deque>
 #include <mutex>
 #include <optional>
@@ -29,6 +30,9 @@ public:
     // Called by the worker: opens the file and decodes a few pictures. False when the picture asked for last and some after it are
     // there.
     bool work();
+    // Called by the worker: lets the file and the pictures go when nobody has asked since then, in the worker's count of questions.
+    // They come back when somebody asks. Returns whether they have gone.
+    bool closeUnlessAskedSince(std::uint64_t question);
 
 private:
     enum class State { unopened, open, unplayable };
@@ -62,6 +66,7 @@ private:
     State m_state = State::unopened;
     std::string m_complaint; // to be made by the thread that asks
     double m_duration_s = 0;
+    std::uint64_t m_lastQuestion = 0;     // in the worker's count
     double m_askedTime_s = 0;             // since the clip's start
     std::deque<host::ClipFrame> m_window; // ascending times
     double m_soughtMoment_s = 0;          // what the decoder was last sent to
