@@ -18,6 +18,7 @@ struct PROUPSELLS_EXPORT PaintState {
     double opacity = 1;
     geometry::Transform transform; // about the window's origin
     ColorScheme scheme = ColorScheme::light;
+    bool readsOnlyWhatIsSeen = false; // where the state is for a semantic tree
 
     // The same for what stands `delta` further.
     PaintState movedBy(geometry::Point delta) const;

@@ -15,6 +15,28 @@ using graphics::Color;
 
 namespace {
 
+// Leaves as much of the text as is laid out, and a "…" where something follows. False where it is whole.
+bool cutToLongest(std::vector<graphics::StyledRun>& runs) {
+    std::size_t room = FittedText::longestText;
+    bool isCut = false;
+    for (graphics::StyledRun& run : runs) {
+        if (isCut) run.text.clear();
+        if (run.text.size() <= room) {
+            room -= run.text.size();
+            continue;
+        }
+        isCut = true;
+        const auto continuesCharacter = [&](std::size_t offset) {
+            return (static_cast<unsigned char>(run.text[offset]) & 0xC0) == 0x80;
+        };
+        while (room > 0 && continuesCharacter(room)) --room;
+        run.text.resize(room);
+        run.text += "…";
+        room = 0;
+    }
+    return isCut;
+}
+
 // Room that is short of a line by less than this is a rounding error.
 constexpr double tolerance = 0.005;
 // A text shrinks by this share of its size at a time, and at last to its minimum.
@@ -42,7 +64,9 @@ const Color& colorOf(const graphics::AttributedRun& run, const Color& inherited)
 } // namespace
 
 bool FittedText::setRuns(std::vector<graphics::StyledRun> runs) {
+    const bool isTooLong = cutToLongest(runs);
     if (runs == m_runs) return false;
+    m_isTooLong = isTooLong;
     m_runs = std::move(runs);
     forgetLines();
     return true;
@@ -170,7 +194,7 @@ accessibility::TextInfo FittedText::described(const AttributedString& words, con
     info.weight = font.weightOption;
     info.color = words.isEmpty() ? inherited.name : colorOf(words.runs().front(), inherited).name;
     info.lineCount = int(m_shown.layout.lines.size());
-    info.isTruncated = m_shown.layout.isTruncated;
+    info.isTruncated = m_shown.layout.isTruncated || m_isTooLong;
     for (std::size_t index = 0; index < words.runs().size(); ++index) {
         const graphics::AttributedRun& run = words.runs()[index];
         const graphics::Font& runFont = shownFont(index);

@@ -38,6 +38,9 @@ constexpr double wordScale(graphics::ContentSizeCategory category) { return 0.8 
 // text and of every run whose colour has no name.
 class FittedText {
 public:
+    // In bytes of UTF-8, and more than any screen shows. What follows is told to whoever asks for the words, and not laid out.
+    static constexpr std::size_t longestText = 20'000;
+
     // At least one run before anything else is asked; its text may be empty. False where nothing changes.
     bool setRuns(std::vector<graphics::StyledRun> runs);
     bool setRules(const TextRules& rules);
@@ -77,6 +80,7 @@ private:
 
     TextRules m_rules;
     std::vector<graphics::StyledRun> m_runs;
+    bool m_isTooLong = false; // the end of the words is left out
     std::optional<geometry::Size> m_idealSize;
     int m_idealLineCount = 0;
     bool m_idealIsCut = false;     // by the line limit alone

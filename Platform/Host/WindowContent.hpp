@@ -32,13 +32,15 @@ public:
 
     // How large the window is, and how much of its edges the system covers; in points.
     virtual void setSize(geometry::Size size, geometry::PhysicalInsets safeArea) = 0;
-    // A finger has come down, moved or left.
+    // A finger has come down, moved or left. Places and times that are no finite numbers are dropped, and end the touch where they
+    // say that it has ended.
     virtual void touch(const Touch& touch) = 0;
     // Where the mouse rests or goes, its button held or not; absent once it has left. Nothing is told of fingers.
     virtual void pointer(std::optional<geometry::Point> /*location*/) {}
     // Whether the mouse rests on something to be tapped, which shows it; asked whenever the mouse or the picture has moved.
     virtual bool pointsAtControl() { return false; }
     // A wheel or trackpad: moves the scroll view under `location` by `delta` points; a positive y shows what is further down.
+    // What is no finite number moves nothing.
     virtual void scroll(geometry::Point location, geometry::Point delta) = 0;
     // Returns whether the key meant something. A key that is held down comes again and again, `isRepeated` but for the first time.
     virtual bool key(Key key, bool isRepeated = false) = 0;

@@ -268,5 +268,29 @@ TEST_F(FittedTextTest, NamesAFontWithoutADesignNameByItsFace) {
     EXPECT_EQ(shownIn({}).font, "system");
 }
 
+TEST_F(FittedTextTest, LaysOutNoMoreThanAnyScreenShows) {
+    setText(std::string(10'000'000, 'a'));
+
+    EXPECT_EQ(text.idealSize().width, 5 * (double(FittedText::longestText) + 1));
+    EXPECT_TRUE(shownIn({}).isTruncated);
+    setText(std::string(FittedText::longestText, 'a'));
+    EXPECT_EQ(text.idealSize().width, 5 * double(FittedText::longestText));
+    EXPECT_FALSE(shownIn({}).isTruncated);
+}
+
+TEST_F(FittedTextTest, CutsATextThatIsTooLongBetweenCharacters) {
+    setText("a" + std::string(FittedText::longestText - 2, 'b') + "é");
+
+    EXPECT_EQ(text.idealSize().width, 5 * double(FittedText::longestText));
+}
+
+TEST_F(FittedTextTest, LeavesOutTheRunsBehindTheCut) {
+    const graphics::Font font{.size = 10, .name = "ten"};
+    text.setRuns({{std::string(FittedText::longestText, 'a'), font, 0}, {"b", font, 0}, {"c", font, 0}});
+
+    EXPECT_EQ(text.idealSize().width, 5 * (double(FittedText::longestText) + 1));
+    EXPECT_TRUE(shownIn({}).isTruncated);
+}
+
 } // namespace
 } // namespace proupsells::host

@@ -2,6 +2,8 @@
 #include "ProUpsells/ComparisonView.hpp"
 #include "Tests/ProUpsells/Paywall.hpp"
 #include "Tests/ProUpsells/StoreScreen.hpp"
+#include "Tests/Support/Sanitizers.hpp"
+#include "Tests/Support/UsedMemory.hpp"
 
 namespace proupsells::tests {
 namespace {
@@ -76,6 +78,19 @@ TEST(GrowingPaywall, AScrolledFrameCostsTheSameWithTenPlansAndAThousand) {
 
 // More texts than the shared cache of shaped texts keeps.
 TEST(GrowingPaywall, EachPlanAddsOneTextToShape) { EXPECT_EQ(shapingsOfPaywall(2010) - shapingsOfPaywall(10), 2000u); }
+
+std::size_t memoryOfPaywall_bytes(int planCount) {
+    const std::size_t before = usedMemory_bytes();
+    const Paywall paywall(monthlyPlans(planCount));
+    return usedMemory_bytes() - before;
+}
+
+TEST(GrowingPaywall, EachPlanTakesThirtyTwoKilobytesAtMost) {
+    if (isSanitized) GTEST_SKIP() << "sanitizers put memory around everything";
+    memoryOfPaywall_bytes(10); // what is made once
+
+    EXPECT_LE((memoryOfPaywall_bytes(1010) - memoryOfPaywall_bytes(10)) / 1000, 32u * 1024);
+}
 
 TEST(GrowingComparison, AScrolledFrameCostsTheSameWithThirtyFeaturesAndTwoThousand) {
     expectNoMore(scrolledFrameOfComparison(2000), scrolledFrameOfComparison(30));

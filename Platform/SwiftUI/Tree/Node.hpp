@@ -172,6 +172,9 @@ protected:
     // Calls `function(Node&)` for children and leaving nodes, back to front.
     template <class Function>
     void forEachPainted(Function&& function) const;
+    // The same, without most of the children that stand outside the rectangle, which is in the content's coordinates; absent: all.
+    template <class Function>
+    void forEachIn(const std::optional<geometry::Rect>& rect, double now_s, Function&& function) const;
 
 private:
     friend class CompositeNode;
@@ -241,6 +244,7 @@ private:
     CachedSize m_sizes[4];
     std::uint8_t m_sizeCount = 0;
     std::uint8_t m_nextSize = 0;
+    std::uint16_t m_depth = 0; // how many nodes stand around it
 
     StoredKey m_key;
     std::unique_ptr<motion::Animation> m_buildAnimation; // of the changes that made it need a build
@@ -275,6 +279,16 @@ void Node::forEachPainted(Function&& function) const {
     if (!someLeave) return;
     for (const Leaving& leaving : *m_leaving)
         if (leaving.slot >= m_children.size()) function(*leaving.node);
+}
+
+template <class Function>
+void Node::forEachIn(const std::optional<geometry::Rect>& rect, double now_s, Function&& function) const {
+    if (!rect || !m_childExtents || isMovingAt(now_s) || (m_leaving && !m_leaving->empty())) return forEachPainted(function);
+    const auto [first, end] = childrenNear(rect);
+    for (std::size_t i = 0; i < end - first; ++i) {
+        const auto& child = m_children[m_paintsInReverse ? end - 1 - i : first + i];
+        if (child) function(*child);
+    }
 }
 
 } // namespace proupsells::swiftui

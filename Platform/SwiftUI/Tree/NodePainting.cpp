@@ -47,13 +47,7 @@ void Node::paint(graphics::PaintContext& context, const PaintState& parentState,
 }
 
 void Node::paintChildren(graphics::PaintContext& context, const PaintState& state, double now_s) {
-    if (!m_childExtents || isMovingAt(now_s) || (m_leaving && !m_leaving->empty()))
-        return forEachPainted([&](Node& child) { child.paint(context, state, now_s); });
-    const auto [first, end] = childrenNear(state.visibleRect());
-    for (std::size_t i = 0; i < end - first; ++i) {
-        const auto& child = m_children[m_paintsInReverse ? end - 1 - i : first + i];
-        if (child) child->paint(context, state, now_s);
-    }
+    forEachIn(state.visibleRect(), now_s, [&](Node& child) { child.paint(context, state, now_s); });
 }
 
 void Node::applyEffects(PaintState&, double) const {}

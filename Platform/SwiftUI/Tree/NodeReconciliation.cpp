@@ -1,7 +1,10 @@
 // How the views of a build meet the nodes of the last one.
 #include <algorithm>
+#include <string>
 #include <unordered_map>
 
+#include "Platform/Commons/FatalError.hpp"
+#include "Platform/Host/TreeDepth.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Platform/SwiftUI/Tree/Node.hpp"
 #include "Platform/SwiftUI/Tree/TransitionHandler.hpp"
@@ -72,6 +75,10 @@ void Node::updateNode(Node& node, Element& element, UpdatePass& pass) {
 
 std::unique_ptr<Node> Node::insert(Element& element, UpdatePass& pass) {
     std::unique_ptr<Node> node = element.makeNode();
+    if (m_depth == host::maximumTreeDepth)
+        commons::fatalError("Views are nested too deeply: more than " + std::to_string(host::maximumTreeDepth) +
+                            " stand inside each other. Is one of them its own content?");
+    node->m_depth = std::uint16_t(m_depth + 1);
     node->m_parent = this;
     node->m_host = m_host;
     node->m_type = element.type();

@@ -59,6 +59,8 @@ accessibility::SemanticNode SemanticContext::makeNode(std::string_view type, con
 void Node::appendSemantics(SemanticContext& context, const PaintState& parentState,
                            std::vector<accessibility::SemanticNode>& result) {
     const double now_s = context.now_s;
+    // What moves may be outside the bounds, which are those of the end of the movement.
+    if (parentState.readsOnlyWhatIsSeen && parentState.hides(m_paintBounds.offsetBy(m_frame.origin)) && !isMovingAt(now_s)) return;
     const Rect frame = presentationFrame(now_s);
     PaintState state = parentState.movedBy(frame.origin);
     state.scheme = environment().colorScheme;
@@ -78,6 +80,8 @@ void Node::appendSemantics(SemanticContext& context, const PaintState& parentSta
     const bool takesFrameFromChildren = isTransparent();
     if (node.id == 0) node.id = m_id;
     describe(node, state, now_s);
+    // A control is read as a whole.
+    if (node.isControl || takesFrameFromChildren) state.readsOnlyWhatIsSeen = false;
     appendChildSemantics(context, state, node.children);
     context.pending = {};
     if (takesFrameFromChildren) node.frame = unionOfFrames(node.children);
@@ -87,18 +91,20 @@ void Node::appendSemantics(SemanticContext& context, const PaintState& parentSta
 
 void Node::appendChildSemantics(SemanticContext& context, const PaintState& state,
                                 std::vector<accessibility::SemanticNode>& result) {
-    const PaintState inner = state.movedBy(contentTranslation(context.now_s));
+    PaintState inner = state.movedBy(contentTranslation(context.now_s));
+    if (context.pending.isControl) inner.readsOnlyWhatIsSeen = false;
     const Node* primary = primarySlot() < m_children.size() ? m_children[primarySlot()].get() : nullptr;
     SemanticAttributes own = std::move(context.pending);
     context.pending = {};
-    forEachPainted([&](Node& child) {
+    const auto append = [&](Node& child) {
         if (&child == primary) context.pending = std::move(own);
         const std::size_t first = result.size();
         child.appendSemantics(context, inner, result);
         context.pending = {};
         if (child.m_isLeaving)
             for (std::size_t i = first; i < result.size(); ++i) makeUnreachable(result[i]);
-    });
+    };
+    forEachIn(inner.readsOnlyWhatIsSeen ? inner.visibleRect() : std::nullopt, context.now_s, append);
 }
 
 void Node::describe(accessibility::SemanticNode&, const PaintState&, double) const {}

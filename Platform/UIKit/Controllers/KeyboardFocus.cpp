@@ -49,6 +49,18 @@ KeyboardFocus::Place* KeyboardFocus::place() {
 }
 
 // A view that was made anew has another id and the same identifier; one that shows something else now has it the other way round.
+std::optional<std::size_t> KeyboardFocus::indexOf(const Place& place, const std::vector<Stop>& stops) {
+    const auto isSame = [&](const Stop& stop) {
+        return stop.element->identifier == place.identifier && stop.element->id == place.id;
+    };
+    const auto isAgain = [&](const Stop& stop) {
+        return !place.identifier.empty() && stop.element->identifier == place.identifier;
+    };
+    auto found = std::find_if(stops.begin(), stops.end(), isSame);
+    if (found == stops.end()) found = std::find_if(stops.begin(), stops.end(), isAgain);
+    return found == stops.end() ? std::nullopt : std::optional(std::size_t(found - stops.begin()));
+}
+
 std::optional<std::size_t> KeyboardFocus::indexInFocus(const std::vector<Stop>& stops) {
     if (!m_isThere || stops.empty()) return std::nullopt;
     if (!place()) {
@@ -56,18 +68,9 @@ std::optional<std::size_t> KeyboardFocus::indexInFocus(const std::vector<Stop>& 
         give(stops[*first], *first);
     }
     Place* const here = place();
-    if (!here) return std::nullopt;
-    const auto isSame = [&](const Stop& stop) {
-        return stop.element->identifier == here->identifier && stop.element->id == here->id;
-    };
-    const auto isAgain = [&](const Stop& stop) {
-        return !here->identifier.empty() && stop.element->identifier == here->identifier;
-    };
-    auto found = std::find_if(stops.begin(), stops.end(), isSame);
-    if (found == stops.end()) found = std::find_if(stops.begin(), stops.end(), isAgain);
-    if (found == stops.end()) return std::nullopt;
-    here->index = std::size_t(found - stops.begin());
-    return here->index;
+    const std::optional<std::size_t> index = here ? indexOf(*here, stops) : std::nullopt;
+    if (index) here->index = *index;
+    return index;
 }
 
 void KeyboardFocus::give(const Stop& stop, std::size_t index) {
@@ -139,6 +142,7 @@ void KeyboardFocus::drop() {
     m_isThere = false;
     m_places.clear();
     m_lastFrame.reset();
+    m_ring.reset();
 }
 
 int KeyboardFocus::horizontalStep(Key key) const {
@@ -200,21 +204,32 @@ void KeyboardFocus::mark(Element& reading) {
     });
 }
 
-void KeyboardFocus::paintRing(graphics::PaintContext& context) {
+void KeyboardFocus::paintRing(graphics::PaintContext& context, bool isNew) {
+    if (isNew || m_mustFindRing) findRing();
+    // What moves by itself tells nobody.
+    m_mustFindRing = m_isThere && m_window.isAnimating();
+    if (m_ring) paintFocusRing(context, m_window.windowState(), *m_ring);
+}
+
+// Asks for no more of the screen than is seen of it: it may be long.
+void KeyboardFocus::findRing() {
     m_lastFrame.reset();
-    if (!m_isThere) return;
-    const accessibility::SemanticNode screen = m_window.semanticTree();
+    m_ring.reset();
+    if (!m_isThere || m_window.isTransitioning()) return;
+    if (!place()) (void)indexInFocus(stops().all);
+    const accessibility::SemanticNode screen = m_window.seenTree();
     m_lastFrame = frameInFocus(screen);
     if (!m_lastFrame) return;
     std::vector<geometry::Rect> texts;
     addTexts(screen, texts);
-    paintFocusRing(context, m_window.windowState(), focusRingAround(*m_lastFrame, m_window.bounds(), texts));
+    m_ring = focusRingAround(*m_lastFrame, m_window.bounds(), texts);
 }
 
 std::optional<geometry::Rect> KeyboardFocus::frameInFocus(const accessibility::SemanticNode& screen) {
-    if (!m_isThere || m_window.isTransitioning()) return std::nullopt;
+    const Place* const place = this->place();
+    if (!m_isThere || !place || m_window.isTransitioning()) return std::nullopt;
     const Stops stops = stopsIn(screen);
-    const std::optional<std::size_t> here = indexInFocus(stops.all);
+    const std::optional<std::size_t> here = indexOf(*place, stops.all);
     if (!here || !stops.all[*here].element->isOnScreen) return std::nullopt;
     return stops.all[*here].element->plate;
 }

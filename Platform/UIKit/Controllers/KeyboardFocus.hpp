@@ -43,7 +43,8 @@ public:
     // Where what is seen of the control in focus stood when it was given or painted last, in window points. Absent while nobody had
     // it or while it could not be seen.
     const std::optional<geometry::Rect>& lastFrame() const { return m_lastFrame; }
-    void paintRing(graphics::PaintContext& context);
+    // `isNew` where the picture is another than the last one.
+    void paintRing(graphics::PaintContext& context, bool isNew);
 
 private:
     using Element = accessibility::ReadingElement;
@@ -68,10 +69,14 @@ private:
     static void collect(const Element& element, const Element* group, std::vector<Stop>& stops);
     static Stops stopsIn(const accessibility::SemanticNode& screen);
     Stops stops() const;
+    void findRing();
     std::optional<geometry::Rect> frameInFocus(const accessibility::SemanticNode& screen);
     // Of the screen in front. Null before it was given to one of its controls.
     Place* place();
+    // Gives the focus to the screen's first control where none has it yet.
     std::optional<std::size_t> indexInFocus(const std::vector<Stop>& stops);
+    // Absent where the control in focus is none of them.
+    static std::optional<std::size_t> indexOf(const Place& place, const std::vector<Stop>& stops);
     // Where Tab goes from a place among the controls, which may be before the first one or after the last one; absent for out.
     static std::optional<std::size_t> nextStop(const std::vector<Stop>& stops, std::ptrdiff_t from, int step, const Element* group);
     void give(const Stop& stop, std::size_t index);
@@ -84,6 +89,8 @@ private:
     bool m_isThere = false;
     std::vector<Place> m_places;
     std::optional<geometry::Rect> m_lastFrame;
+    std::optional<geometry::Rect> m_ring; // as painted last
+    bool m_mustFindRing = true;           // whatever the window says of its picture
 };
 
 } // namespace proupsells::uikit

@@ -1,13 +1,33 @@
 // How views come into a superview and a window and leave them, and what their controllers hear of it.
+#include <algorithm>
+#include <string>
+
 #include "Platform/Commons/FatalError.hpp"
+#include "Platform/Host/TreeDepth.hpp"
 #include "Platform/UIKit/Controllers/UIViewController.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
 namespace proupsells::uikit {
 
+namespace {
+
+// How many views stand inside each other, the outermost one included.
+int levelsOf(const UIView& view) {
+    int inside = 0;
+    for (const auto& subview : view.subviews()) inside = std::max(inside, levelsOf(*subview));
+    return 1 + inside;
+}
+
+} // namespace
+
 void UIView::insert(const std::shared_ptr<UIView>& view, std::size_t index) {
     if (!view) commons::fatalError("UIView: there is no view to add");
     if (isDescendantOf(*view)) commons::fatalError("UIView: a view cannot stand inside itself");
+    int around = 1;
+    for (const UIView* outer = m_superview; outer; outer = outer->m_superview) ++around;
+    if (around + levelsOf(*view) > host::maximumTreeDepth)
+        commons::fatalError("UIView: views are nested too deeply: more than " + std::to_string(host::maximumTreeDepth) +
+                            " stand inside each other");
     const auto kept = view; // the argument may be a reference into the former superview's list
     if (kept->m_superview) kept->removeFromSuperview();
 

@@ -1,5 +1,8 @@
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 
+#include <cmath>
+
+#include "Platform/Commons/ScopeEnd.hpp"
 #include "Platform/RunLoop/MainActor.hpp"
 #include "Platform/UIKit/Controllers/KeyboardFocus.hpp"
 #include "Platform/UIKit/Controllers/PresentationStack.hpp"
@@ -7,6 +10,13 @@
 #include "Platform/UIKit/Views/UIScrollView.hpp"
 
 namespace proupsells::uikit {
+
+namespace {
+
+// False for what a broken device says.
+bool isPlace(geometry::Point point) { return std::isfinite(point.x) && std::isfinite(point.y); }
+
+} // namespace
 
 UIWindow::UIWindow(Creation)
     : m_presentations(std::make_unique<PresentationStack>(*this)), m_touches(std::make_unique<TouchRouter>(*this)),
@@ -100,6 +110,7 @@ void UIWindow::subtreeNeedsLayout() { requestUpdate(); }
 
 void UIWindow::subtreeNeedsDisplay() {
     m_needsDisplay = true;
+    m_hasChanged = true;
     requestUpdate();
 }
 
@@ -116,9 +127,11 @@ void UIWindow::requestUpdate() {
 void UIWindow::update() {
     const auto kept = strongReference(*this);
     m_updateIsRequested = false;
-    m_isUpdating = true;
-    layOutInCurrentLanguage();
-    m_isUpdating = false;
+    {
+        m_isUpdating = true;
+        const commons::Finally end([this] { m_isUpdating = false; });
+        layOutInCurrentLanguage();
+    }
     if (!std::exchange(m_needsDisplay, false)) return;
     if (const auto handler = m_needsDisplayHandler) handler();
 }
@@ -148,6 +161,7 @@ std::size_t UIWindow::firstVisibleLayer() const {
 void UIWindow::paint(graphics::DisplayList& list) {
     const auto kept = strongReference(*this);
     m_isUpdating = true;
+    const commons::Finally end([this] { m_isUpdating = false; });
     ++m_paintCount;
     UIScrollView::followTime();
     layOutInCurrentLanguage();
@@ -155,8 +169,7 @@ void UIWindow::paint(graphics::DisplayList& list) {
     graphics::PaintContext context(list);
     const graphics::PaintState state = windowState();
     for (std::size_t i = firstVisibleLayer(); i < subviews().size(); ++i) subviews()[i]->paint(context, state);
-    m_focus->paintRing(context);
-    m_isUpdating = false;
+    m_focus->paintRing(context, std::exchange(m_hasChanged, false));
     m_needsDisplay = false;
 }
 
@@ -169,15 +182,30 @@ bool UIWindow::isAnimating() const {
 accessibility::SemanticNode UIWindow::semanticTree() {
     UIScrollView::followTime();
     layOutInCurrentLanguage();
-    if (const UIPresentationView* front = m_presentations->frontMostView()) return front->contentNode(windowState());
-    if (m_root && m_root->viewIfLoaded()) return m_root->viewIfLoaded()->semanticNode(windowState());
-    return semanticNode(windowState());
+    return frontMostNode(windowState());
+}
+
+accessibility::SemanticNode UIWindow::seenTree() const {
+    graphics::PaintState state = windowState();
+    state.readsOnlyWhatIsSeen = true;
+    return frontMostNode(state);
+}
+
+accessibility::SemanticNode UIWindow::frontMostNode(const graphics::PaintState& state) const {
+    if (const UIPresentationView* front = m_presentations->frontMostView()) return front->contentNode(state);
+    if (m_root && m_root->viewIfLoaded()) return m_root->viewIfLoaded()->semanticNode(state);
+    return semanticNode(state);
 }
 
 // --- Input ---
 
 void UIWindow::touch(const host::Touch& touch) {
     const auto kept = strongReference(*this);
+    if (!isPlace(touch.location) || !std::isfinite(touch.time_s)) {
+        // Where the finger was lifted cannot be said; that it was can.
+        if (touch.phase == host::TouchPhase::ended || touch.phase == host::TouchPhase::cancelled) cancelTouch();
+        return;
+    }
     if (touch.phase == host::TouchPhase::began) {
         if (isTransitioning()) return cancelTouch();
         m_focus->drop();
@@ -188,6 +216,7 @@ void UIWindow::touch(const host::Touch& touch) {
 }
 
 void UIWindow::pointer(std::optional<geometry::Point> location) {
+    if (location && !isPlace(*location)) location.reset();
     if (m_pointer == location) return;
     m_pointer = location;
     setNeedsDisplay();
@@ -213,7 +242,7 @@ bool UIWindow::isAttended(const geometry::Rect& rect) const {
 void UIWindow::cancelTouch() { m_touches->cancel(); }
 
 void UIWindow::scroll(geometry::Point location, geometry::Point delta) {
-    if (isTransitioning()) return;
+    if (isTransitioning() || !isPlace(location) || !isPlace(delta)) return;
     const auto kept = strongReference(*this);
     UIScrollView::followTime();
     layOutInCurrentLanguage();

@@ -105,6 +105,9 @@ private:
     void layOutInCurrentLanguage();
     void requestUpdate();
     graphics::PaintState windowState() const;
+    accessibility::SemanticNode frontMostNode(const graphics::PaintState& state) const;
+    // As semanticTree(), of what is laid out, without most of what stands outside the window and the scroll views in it.
+    accessibility::SemanticNode seenTree() const;
     std::size_t firstVisibleLayer() const;
     bool escape();
     bool scrollPage(host::Key key);
@@ -118,7 +121,8 @@ private:
     std::function<void()> m_needsDisplayHandler;
     std::uint64_t m_paintCount = 0;
     combine::AnyCancellable m_languageChanges;
-    bool m_needsDisplay = false;
+    bool m_needsDisplay = false; // and nobody has been told yet
+    bool m_hasChanged = true;    // since the last picture
     bool m_updateIsRequested = false;
     bool m_isUpdating = false;
     bool m_isSeen = true;

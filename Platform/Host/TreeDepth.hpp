@@ -1,0 +1,10 @@
+// How deep views may stand inside each other.
+#pragma once
+
+namespace proupsells::host {
+
+// Far above what a screen needs, and far below what a stack of a megabyte takes: layout, painting and reading call themselves for
+// each view inside another one. A view that stands in itself by mistake gets here.
+inline constexpr int maximumTreeDepth = 1000;
+
+} // namespace proupsells::host
