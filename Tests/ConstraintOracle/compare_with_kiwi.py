@@ -3,7 +3,7 @@
 
 Kiwi weighs its strengths where the layout solver compares them one after the other; with strengths a thousand times apart and
 small coefficients both find the same errors of every strength, which is what is compared, together with the required constraints
-that are refused.
+that are refused. Exit status 77 without kiwisolver.
 
 usage: compare_with_kiwi.py <SolveSystems program> [<systems>] [<seed>]
 """
@@ -13,7 +13,11 @@ import random
 import subprocess
 import sys
 
-import kiwisolver
+try:
+    import kiwisolver
+except ImportError:
+    print("skipped: there is no kiwisolver")
+    sys.exit(77)
 
 STRENGTHS = {1000: "required", 750: "strong", 500: "medium", 250: "weak"}
 TOLERANCE = 1e-4
