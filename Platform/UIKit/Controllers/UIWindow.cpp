@@ -166,12 +166,40 @@ bool UIWindow::isAnimating() const {
     return false;
 }
 
+namespace {
+
+// Does what `operation` does as long as the screen that is in front now stands there, and none is on its way.
+template <class... Arguments>
+std::function<void(Arguments...)> whileInFront(UIWindow& window, UIViewController& front,
+                                               std::function<void(Arguments...)> operation) {
+    return
+        [window = weakReference(window), front = weakReference(front), operation = std::move(operation)](Arguments... arguments) {
+            const auto held = window.lock();
+            const auto screen = front.lock();
+            if (held && screen && held->frontMostViewController() == screen.get() && !held->isTransitioning())
+                operation(arguments...);
+        };
+}
+
+// Whoever operates a screen without a finger may have looked at it long ago.
+void guardOperations(accessibility::SemanticNode& node, UIWindow& window, UIViewController& front) {
+    if (node.activate) node.activate = whileInFront(window, front, std::move(node.activate));
+    if (node.adjust) node.adjust = whileInFront(window, front, std::move(node.adjust));
+    for (accessibility::SemanticNode& child : node.children) guardOperations(child, window, front);
+}
+
+} // namespace
+
 accessibility::SemanticNode UIWindow::semanticTree() {
     UIScrollView::followTime();
     layOutInCurrentLanguage();
-    if (const UIPresentationView* front = m_presentations->frontMostView()) return front->contentNode(windowState());
-    if (m_root && m_root->viewIfLoaded()) return m_root->viewIfLoaded()->semanticNode(windowState());
-    return semanticNode(windowState());
+    UIViewController* const front = frontMostViewController();
+    if (!front || !front->viewIfLoaded()) return semanticNode(windowState());
+    const UIPresentationView* const presented = m_presentations->frontMostView();
+    accessibility::SemanticNode tree =
+        presented ? presented->contentNode(windowState()) : front->viewIfLoaded()->semanticNode(windowState());
+    guardOperations(tree, *this, *front);
+    return tree;
 }
 
 // --- Input ---
