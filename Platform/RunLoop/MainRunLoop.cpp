@@ -119,6 +119,8 @@ std::optional<double> MainRunLoop::nextDueDelay_s() const {
     return std::max(0.0, *next_s - (m_state->steppedClock ? m_state->steppedClock->nextStep_s() : now_s()));
 }
 
+std::size_t MainRunLoop::waitingTimerCount() const { return m_state->work.validCount(); }
+
 void MainRunLoop::setWakeUpHandler(std::function<void()> handler) {
     m_state->wakeUp = std::move(handler);
     wakeUpIfEarlierThan(std::nullopt);

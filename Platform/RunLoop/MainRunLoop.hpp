@@ -1,6 +1,7 @@
 // The main run loop: everything that happens at a time happens here, in one order, on any clock.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -51,6 +52,8 @@ public:
     std::optional<double> nextDueTime_s() const;
     // Seconds from now until then, 0 when it has come; for whoever waits on a real clock.
     std::optional<double> nextDueDelay_s() const;
+    // How many valid timers wait, each repeating one once; for whoever looks for those that nobody needs any more.
+    std::size_t waitingTimerCount() const;
     // Runs every turn due up to the clock's time as it is on entry. A SteppedClock moves on first. Inside a turn (a nested event
     // loop of the host) it does nothing; the outer call goes on afterwards.
     void runDueTurns();

@@ -22,6 +22,10 @@ const Timer* WorkQueue::first() {
     return m_heap.empty() ? nullptr : m_heap.front().get();
 }
 
+std::size_t WorkQueue::validCount() const {
+    return std::size_t(std::count_if(m_heap.begin(), m_heap.end(), [](const Pointer& timer) { return timer->isValid(); }));
+}
+
 std::shared_ptr<Timer> WorkQueue::pop() {
     std::pop_heap(m_heap.begin(), m_heap.end(), runsAfter);
     Pointer timer = std::move(m_heap.back());

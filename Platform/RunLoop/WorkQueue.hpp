@@ -17,6 +17,8 @@ public:
     void push(std::shared_ptr<Timer> timer);
     // The valid timer that comes first; null when none waits.
     const Timer* first();
+    // How many of the timers are valid.
+    std::size_t validCount() const;
     // Takes the first timer out; only after first() has found one.
     std::shared_ptr<Timer> pop();
     // Every timer pushed so far has a smaller sequence number.

@@ -117,6 +117,24 @@ TEST_F(RunLoop, TellsWhenItIsDueNext) {
     EXPECT_EQ(loop.nextDueTime_s(), 5);
 }
 
+TEST_F(RunLoop, CountsTheTimersThatWait) {
+    EXPECT_EQ(loop.waitingTimerCount(), 0u);
+
+    const auto repeating = loop.scheduleRepeating(1, [] {});
+    const auto later = loop.schedule(5, [] {});
+    loop.schedule(1, [] {});
+    EXPECT_EQ(loop.waitingTimerCount(), 3u);
+
+    loop.runUntil(2);
+    EXPECT_EQ(loop.waitingTimerCount(), 2u);
+
+    later->invalidate();
+    EXPECT_EQ(loop.waitingTimerCount(), 1u);
+
+    repeating->invalidate();
+    EXPECT_EQ(loop.waitingTimerCount(), 0u);
+}
+
 TEST_F(RunLoop, IgnoresANestedRequestToRunDueTurns) {
     loop.schedule(1, [&] {
         loop.schedule(0, noting("inner"));

@@ -16,6 +16,26 @@ namespace {
 // False for what a broken device says.
 bool isPlace(geometry::Point point) { return std::isfinite(point.x) && std::isfinite(point.y); }
 
+// Does what `operation` does as long as the screen that is in front now stands there, and none is on its way.
+template <class... Arguments>
+std::function<void(Arguments...)> whileInFront(UIWindow& window, UIViewController& front,
+                                               std::function<void(Arguments...)> operation) {
+    return
+        [window = weakReference(window), front = weakReference(front), operation = std::move(operation)](Arguments... arguments) {
+            const auto held = window.lock();
+            const auto screen = front.lock();
+            if (held && screen && held->frontMostViewController() == screen.get() && !held->isTransitioning())
+                operation(arguments...);
+        };
+}
+
+// Whoever operates a screen without a finger may have looked at it long ago.
+void guardOperations(accessibility::SemanticNode& node, UIWindow& window, UIViewController& front) {
+    if (node.activate) node.activate = whileInFront(window, front, std::move(node.activate));
+    if (node.adjust) node.adjust = whileInFront(window, front, std::move(node.adjust));
+    for (accessibility::SemanticNode& child : node.children) guardOperations(child, window, front);
+}
+
 } // namespace
 
 UIWindow::UIWindow(Creation)
@@ -182,7 +202,9 @@ bool UIWindow::isAnimating() const {
 accessibility::SemanticNode UIWindow::semanticTree() {
     UIScrollView::followTime();
     layOutInCurrentLanguage();
-    return frontMostNode(windowState());
+    accessibility::SemanticNode tree = frontMostNode(windowState());
+    if (UIViewController* const front = frontMostViewController()) guardOperations(tree, *this, *front);
+    return tree;
 }
 
 accessibility::SemanticNode UIWindow::seenTree() const {

@@ -78,7 +78,8 @@ public:
     std::uint64_t paintCount() const { return m_paintCount; }
 
     void setNeedsDisplayHandler(std::function<void()> handler) override;
-    // Of the front-most presentation, from its controller's view on.
+    // Of the front-most presentation, from its controller's view on. What operates a control does nothing once another one is in
+    // front, and while one is on its way.
     accessibility::SemanticNode semanticTree() override;
     // A dialog by its controller's name.
     accessibility::ReadingElement reading() override;
