@@ -10,7 +10,7 @@ namespace proupsells::commons {
 template <class Action>
 class Finally {
 public:
-    explicit Finally(Action action) : m_action(std::move(action)) {}
+    explicit Finally(Action action) : m_action(std::move(action)) {} // taken over
     ~Finally() { m_action(); }
     Finally(const Finally&) = delete;
     Finally& operator=(const Finally&) = delete;
@@ -24,7 +24,7 @@ private:
 template <class Action>
 class OnException {
 public:
-    explicit OnException(Action action) : m_action(std::move(action)) {}
+    explicit OnException(Action action) : m_action(std::move(action)) {} // taken over
     ~OnException() {
         if (std::uncaught_exceptions() > m_count) m_action();
     }
