@@ -19,14 +19,14 @@ struct ItsOwnContent {
 };
 
 TEST(TreeDepth, MayBeGreat) {
-    Screen screen{[] { return Nest{900}; }, {100, 100}};
+    Screen screen{[] { return Nest{480}; }, {100, 100}};
 
     EXPECT_THAT(screen.texts(), ElementsAre("innermost"));
     screen.host().displayList();
 }
 
-TEST(TreeDepthDeathTest, IsRefusedBeyondAThousand) {
-    EXPECT_DEATH(Screen([] { return Nest{5000}; }, {100, 100}), "Views are nested too deeply: more than 1000");
+TEST(TreeDepthDeathTest, IsRefusedBeyondFiveHundred) {
+    EXPECT_DEATH(Screen([] { return Nest{5000}; }, {100, 100}), "Views are nested too deeply: more than 500");
 }
 
 TEST(TreeDepthDeathTest, IsRefusedOfAViewInItself) {

@@ -32,7 +32,7 @@ TEST_F(TreeDepth, MayBeAsGreatAsStated) {
 TEST_F(TreeDepth, IsRefusedBeyondThatFromOutside) { EXPECT_DEATH(chain(5000), "nested too deeply"); }
 
 TEST_F(TreeDepth, IsRefusedBeyondThatWhereTwoTreesMeet) {
-    const auto outer = chain(600), inner = chain(600);
+    const auto outer = chain(300), inner = chain(300);
 
     EXPECT_DEATH(outer.back()->addSubview(inner.front()), "nested too deeply");
 }
