@@ -61,7 +61,7 @@ protected:
 
     const std::string shell = GetParam();
     const std::string script = "_proupsells"; // the name that zsh looks for
-    const Folder folder;
+    Folder folder;
 };
 
 // The long options that `--help` lists.
