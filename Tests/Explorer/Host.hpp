@@ -5,7 +5,6 @@
 #include <memory>
 #include <string>
 
-#include "Platform/UIKit/Controllers/PresentationObserver.hpp"
 #include "ProUpsells/VelaProUpsellViewController.hpp"
 #include "Tests/ProUpsells/Ledger.hpp"
 
@@ -34,23 +33,6 @@ public:
 
 private:
     Write m_write;
-};
-
-// Presentations among the calls.
-class HostObserver final : public uikit::PresentationObserver {
-public:
-    explicit HostObserver(tests::Ledger& ledger) : m_ledger(ledger) {}
-
-    void willPresent(uikit::UIViewController&, uikit::UIViewController& content, uikit::UIModalPresentationStyle,
-                     geometry::Size) override {
-        m_ledger.push_back("present " + std::string(content.typeName()));
-    }
-    void willDismiss(uikit::UIViewController&, uikit::UIViewController& content) override {
-        m_ledger.push_back("dismiss " + std::string(content.typeName()));
-    }
-
-private:
-    tests::Ledger& m_ledger;
 };
 
 } // namespace proupsells::explorer

@@ -68,7 +68,7 @@ private:
     std::shared_ptr<uikit::UIWindow> m_window;
     std::shared_ptr<HostDelegate> m_delegate;
     std::shared_ptr<tests::LedgerTracker> m_tracker;
-    std::shared_ptr<HostObserver> m_observer = std::make_shared<HostObserver>(m_ledger);
+    std::shared_ptr<tests::LedgerObserver> m_observer = std::make_shared<tests::LedgerObserver>(m_ledger);
     std::shared_ptr<VelaProUpsellViewController> m_entry;
     std::weak_ptr<VelaProUpsellViewController> m_watchedEntry;
     std::weak_ptr<UpsellViewModel> m_watchedModel;

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "Platform/UIKit/Controllers/PresentationObserver.hpp"
 #include "ProUpsells/ProUpsellEventTracker.hpp"
 #include "ProUpsells/VelaProUpsellViewControllerDelegate.hpp"
 
@@ -87,6 +88,22 @@ private:
         m_ledger.push_back(line);
         if (duringCall) duringCall(sender);
     }
+    Ledger& m_ledger;
+};
+
+// Presentations among the calls of the ledger.
+class LedgerObserver final : public uikit::PresentationObserver {
+public:
+    explicit LedgerObserver(Ledger& ledger) : m_ledger(ledger) {}
+    void willPresent(uikit::UIViewController&, uikit::UIViewController& content, uikit::UIModalPresentationStyle,
+                     geometry::Size) override {
+        m_ledger.push_back("present " + std::string(content.typeName()));
+    }
+    void willDismiss(uikit::UIViewController&, uikit::UIViewController& content) override {
+        m_ledger.push_back("dismiss " + std::string(content.typeName()));
+    }
+
+private:
     Ledger& m_ledger;
 };
 

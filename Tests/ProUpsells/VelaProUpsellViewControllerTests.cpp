@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include "Platform/UIKit/Controllers/PresentationObserver.hpp"
 #include "ProUpsells/ComparisonViewController.hpp"
 #include "ProUpsells/UpsellViewController.hpp"
 #include "Tests/ProUpsells/Ledger.hpp"
@@ -19,22 +18,6 @@ using TapEvent = UpsellViewModel::TapEvent;
 
 const std::string home = "Home - elementIDint(5)";
 const std::string title = "ProUpsell Phase 2: with Comparison List and Carousel Sept24";
-
-// Presentations among the calls of the ledger.
-class LedgerObserver final : public uikit::PresentationObserver {
-public:
-    explicit LedgerObserver(Ledger& ledger) : m_ledger(ledger) {}
-    void willPresent(uikit::UIViewController&, uikit::UIViewController& content, uikit::UIModalPresentationStyle,
-                     geometry::Size) override {
-        m_ledger.push_back("present " + std::string(content.typeName()));
-    }
-    void willDismiss(uikit::UIViewController&, uikit::UIViewController& content) override {
-        m_ledger.push_back("dismiss " + std::string(content.typeName()));
-    }
-
-private:
-    Ledger& m_ledger;
-};
 
 class EntryController : public ::testing::Test {
 protected:
