@@ -46,3 +46,11 @@ build_preset() {
     shift
     cmake --build --preset "$preset" ${1:+--target "$@"} -- --quiet >&2
 }
+
+# keep_busy: keeps every processor busy twice over until the shell that called it ends, so that a test that waits for luck shows it.
+keep_busy() {
+    local program=$$
+    for ((i = 0; i < 2 * $(nproc); ++i)); do
+        (while kill -0 "$program" 2> /dev/null; do for ((n = 0; n < 100000; ++n)); do :; done; done) > /dev/null 2>&1 &
+    done
+}
