@@ -13,7 +13,8 @@ public:
     // `size` is the one that the controller will have.
     virtual void willPresent(UIViewController& controller, UIViewController& content, UIModalPresentationStyle style,
                              geometry::Size size) = 0;
-    // Told for each controller that goes. `content` is what the controller shows in the first place.
+    // Told once for all that a call dismisses: `controller` is the lowest one that goes, and what it has presented goes with it.
+    // `content` is what the controller shows in the first place.
     virtual void willDismiss(UIViewController& controller, UIViewController& content) = 0;
 };
 
