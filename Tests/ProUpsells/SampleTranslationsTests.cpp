@@ -23,7 +23,9 @@ namespace {
 
 using foundation::StringsFile;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using TapEvent = UpsellViewModel::TapEvent;
 
 // In the folder above the working directory, or above this source, that has them.
@@ -34,15 +36,24 @@ std::filesystem::path folder() {
     return {};
 }
 
-std::map<std::string, StringsFile::Texts> translations() {
-    std::map<std::string, StringsFile::Texts> found;
+// What stands in the file of each language.
+std::map<std::string, std::string> files() {
+    std::map<std::string, std::string> found;
     for (const auto& entry : std::filesystem::directory_iterator(folder())) {
         std::ifstream file(entry.path() / "Localizable.strings", std::ios::binary);
         std::ostringstream bytes;
         bytes << file.rdbuf();
-        const StringsFile parsed = StringsFile::parse(bytes.str());
-        EXPECT_FALSE(parsed.error) << entry.path() << ": " << parsed.error->line << ": " << parsed.error->message;
-        found.emplace(entry.path().stem().string(), parsed.texts);
+        found.emplace(entry.path().stem().string(), bytes.str());
+    }
+    return found;
+}
+
+std::map<std::string, StringsFile::Texts> translations() {
+    std::map<std::string, StringsFile::Texts> found;
+    for (const auto& [language, bytes] : files()) {
+        const StringsFile parsed = StringsFile::parse(bytes);
+        EXPECT_FALSE(parsed.error) << language << ": " << parsed.error->line << ": " << parsed.error->message;
+        found.emplace(language, parsed.texts);
     }
     return found;
 }
@@ -85,6 +96,18 @@ TEST(SampleTranslations, HaveEveryTextAndNoOther) {
         for (const auto& [key, text] : texts) own.insert(key);
         EXPECT_EQ(own, all) << language;
     }
+}
+
+TEST(SampleTranslations, SayWhatEachTextIsFor) {
+    for (const auto& [language, bytes] : files())
+        for (const tooling::TranslatableText& text : tooling::translatableTexts()) {
+            const std::string entry = "\n\"" + std::string(text.key) + "\" = ";
+            const std::string comment = text.comment.empty() ? std::string() : "\n/* " + std::string(text.comment) + " */";
+            EXPECT_THAT(bytes, HasSubstr(comment + entry)) << language;
+            if (comment.empty()) {
+                EXPECT_THAT(bytes, Not(HasSubstr("*/" + entry))) << language;
+            }
+        }
 }
 
 // What the paywall and the store page show and say, with a trial and without. The comparison's catalogue stays in the language of
