@@ -2,22 +2,19 @@
 // them.
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
 #include "Backends/Headless/TestBed.hpp"
+#include "Fuzz/Require.hpp"
 #include "Platform/Foundation/Format.hpp"
 #include "ProUpsells/SubscriptionOptionFormatter.hpp"
 #include "ProUpsells/UpsellViewModel.hpp"
 
 using namespace proupsells;
+using fuzz::require;
 
 namespace {
-
-void require(bool condition) {
-    if (!condition) std::abort();
-}
 
 void readMarkup(std::string_view text) {
     const std::string shown = SubscriptionOptionFormatter::boldMarkup(text).text();

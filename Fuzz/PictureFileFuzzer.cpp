@@ -4,22 +4,19 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
 #include "Backends/Headless/ImageSizeReader.hpp"
 #include "Backends/Raster/FilePicture.hpp"
 #include "Backends/Raster/PictureFile.hpp"
+#include "Fuzz/Require.hpp"
 #include "Platform/Graphics/PictureHeader.hpp"
 #include "Platform/System/MappedFile.hpp"
 
 using namespace proupsells;
+using fuzz::require;
 
 namespace {
-
-void require(bool condition) {
-    if (!condition) std::abort();
-}
 
 // A file without a place on the disk.
 class MemoryFile {

@@ -2,21 +2,18 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <span>
 #include <vector>
 
 #include "Backends/Headless/TestBed.hpp"
+#include "Fuzz/Require.hpp"
 #include "Platform/SwiftUI/Tree/ViewHost.hpp"
 #include "Tests/SwiftUI/RandomTree.hpp"
 
 using namespace proupsells;
+using fuzz::require;
 
 namespace {
-
-void require(bool condition) {
-    if (!condition) std::abort();
-}
 
 void collectFrames(const swiftui::Node& node, std::vector<geometry::Rect>& result) {
     const geometry::Rect& frame = node.frame();

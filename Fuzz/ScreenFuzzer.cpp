@@ -4,13 +4,13 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <limits>
 #include <memory>
 #include <vector>
 
 #include "Backends/Headless/FakeClipDecoder.hpp"
 #include "Backends/Headless/TestBed.hpp"
+#include "Fuzz/ByteReader.hpp"
+#include "Fuzz/Require.hpp"
 #include "Platform/Accessibility/Search.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 #include "ProUpsells/UpsellViewController.hpp"
@@ -18,38 +18,15 @@
 #include "Tests/ProUpsells/Offers.hpp"
 
 using namespace proupsells;
+using fuzz::require;
 
 namespace {
-
-void require(bool condition) {
-    if (!condition) std::abort();
-}
 
 void requireSound(const accessibility::SemanticNode& node) {
     const geometry::Rect& frame = node.frame;
     require(std::isfinite(frame.minX()) && std::isfinite(frame.minY()) && frame.width() >= 0 && frame.height() >= 0);
     for (const accessibility::SemanticNode& child : node.children) requireSound(child);
 }
-
-// Reads what is to be done next; zeros once the bytes are used up.
-class Script {
-public:
-    Script(const std::uint8_t* data, std::size_t size) : m_data(data), m_size(size) {}
-
-    bool isOver() const { return m_at >= m_size; }
-    int below(int limit) { return isOver() ? 0 : m_data[m_at++] % limit; }
-    // From 0 to 2 times the length, and now and then no number.
-    double coordinate(double length) {
-        const int byte = below(256);
-        if (byte == 255) return std::numeric_limits<double>::quiet_NaN();
-        if (byte == 254) return -std::numeric_limits<double>::infinity();
-        return byte / 127.0 * length;
-    }
-
-private:
-    const std::uint8_t* m_data;
-    std::size_t m_size, m_at = 0;
-};
 
 host::Services services() {
     host::Services services;
@@ -68,8 +45,8 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    void step(Script& script) {
-        switch (script.below(13)) {
+    void step(fuzz::ByteReader& script) {
+        switch (script.below(14)) {
         case 0: return tap(script);
         case 1: return touch(script);
         case 2: m_window->key(host::Key(script.below(13)), script.below(2) == 1); return;
@@ -84,9 +61,11 @@ public:
             m_entry->setAnnualSubscriptionPriceForComparisonWithPromotionalPrice("$" + std::to_string(script.below(256)));
             return;
         case 11: return openStorePage();
+        case 12: return look();
         default: return present();
         }
     }
+    // Looking takes longer than most steps, so it is one of them.
     void look() {
         graphics::DisplayList list;
         m_window->paint(list);
@@ -107,23 +86,23 @@ private:
         const auto paywall = std::dynamic_pointer_cast<UpsellViewController>(m_entry->children().front());
         paywall->upsellViewModel()->tapEventOccurred.send({UpsellViewModel::TapEvent::WhatIsPro{}});
     }
-    geometry::Point place(Script& script) {
+    geometry::Point place(fuzz::ByteReader& script) {
         const geometry::Size size = m_window->frame().size;
         const double x = script.coordinate(size.width);
         return {x, script.coordinate(size.height)};
     }
-    void touch(Script& script) {
+    void touch(fuzz::ByteReader& script) {
         const auto phase = host::TouchPhase(script.below(4));
         m_window->touch({phase, place(script), m_bed.now_s()});
     }
-    void tap(Script& script) {
+    void tap(fuzz::ByteReader& script) {
         const geometry::Point where = place(script);
         m_window->touch({host::TouchPhase::began, where, m_bed.now_s()});
         m_window->touch({host::TouchPhase::ended, where, m_bed.now_s()});
         m_bed.settle();
     }
     // What assistive technology does to one of the controls.
-    void operate(Script& script) {
+    void operate(fuzz::ByteReader& script) {
         const accessibility::SemanticNode tree = m_window->semanticTree();
         const auto controls = accessibility::controls(tree);
         if (controls.empty()) return;
@@ -139,7 +118,7 @@ private:
             if (control.revealWhole) control.revealWhole();
         }
     }
-    void setTraits(Script& script) {
+    void setTraits(fuzz::ByteReader& script) {
         uikit::UITraitCollection traits = m_window->traits();
         traits.userInterfaceStyle = script.below(2) ? graphics::ColorScheme::dark : graphics::ColorScheme::light;
         traits.layoutDirection = script.below(2) ? geometry::LayoutDirection::rightToLeft : geometry::LayoutDirection::leftToRight;
@@ -156,13 +135,10 @@ private:
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    // Each step is laid out and read.
     constexpr std::size_t longest = 256;
-    Script script(data, std::min(size, longest));
+    fuzz::ByteReader script(data, std::min(size, longest));
     Session session;
-    while (!script.isOver()) {
-        session.step(script);
-        session.look();
-    }
+    while (!script.isOver()) session.step(script);
+    session.look();
     return 0;
 }

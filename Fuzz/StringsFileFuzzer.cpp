@@ -2,21 +2,14 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string_view>
 
+#include "Fuzz/Require.hpp"
 #include "Platform/Foundation/StringsFile.hpp"
 #include "Platform/Foundation/Utf8.hpp"
 
 using namespace proupsells;
-
-namespace {
-
-void require(bool condition) {
-    if (!condition) std::abort();
-}
-
-} // namespace
+using fuzz::require;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);

@@ -41,6 +41,8 @@ struct StrokeOutliner::Stroker {
     FT_Library library = nullptr;
     FT_Stroker stroker = nullptr;
     double factor = 1; // from the path's lengths to FreeType's
+    FT_Vector last{};
+    bool hasBegun = false; // the part that is being added
 
     Stroker() {
         // Without modules, which read fonts: the stroker needs none of them.
@@ -55,7 +57,9 @@ struct StrokeOutliner::Stroker {
     Stroker& operator=(const Stroker&) = delete;
 
     FT_Vector vector(Point p) const {
-        const auto whole = [this](double length) { return FT_Pos(std::lround(std::clamp(length * factor, -furthest, furthest))); };
+        const auto whole = [this](double length) {
+            return std::isnan(length) ? FT_Pos(0) : FT_Pos(std::lround(std::clamp(length * factor, -furthest, furthest)));
+        };
         return {whole(p.x), whole(p.y)};
     }
     Point point(const FT_Vector& v) const { return {double(v.x) / factor, double(v.y) / factor}; }
@@ -67,15 +71,18 @@ struct StrokeOutliner::Stroker {
         FT_Stroker_Set(stroker, FT_Fixed(std::lround(radius)), isRound ? FT_STROKER_LINECAP_ROUND : FT_STROKER_LINECAP_BUTT,
                        isRound ? FT_STROKER_LINEJOIN_ROUND : FT_STROKER_LINEJOIN_MITER_FIXED, toFixed(miterLimit));
     }
-    void addPart(std::span<const Path::Verb> verbs, const Point* points, bool isClosed);
-    void addCurve(Point from, const Point* points);
+    // Returns whether it goes anywhere: FreeType ends a part that does not by reading memory that is not its own.
+    bool addPart(Point from, std::span<const Path::Verb> verbs, const Point* points, bool isClosed);
+    void addLine(Point to, bool isClosed);
+    void addCurve(Point from, const Point* points, bool isClosed);
     void appendTo(Path& result) const;
 };
 
 namespace {
 
-// One part of a path: its verbs without the close, and where its points begin.
+// One part of a path: where it starts, and its verbs without the move and the close, with the first of their points.
 struct Part {
+    Point start;
     std::size_t firstVerb = 0, endVerb = 0, firstPoint = 0;
     bool isClosed = false;
 };
@@ -85,12 +92,17 @@ std::vector<Part> partsOf(const Path& path) {
     std::size_t point = 0;
     for (std::size_t verb = 0; verb < path.verbs().size(); ++verb) {
         switch (path.verbs()[verb]) {
-        case Path::Verb::move: parts.push_back({verb, verb + 1, point, false}); break;
+        case Path::Verb::move:
+            parts.push_back({path.points()[point], verb + 1, verb + 1, point + 1, false});
+            ++point;
+            continue;
         case Path::Verb::close:
             if (!parts.empty()) parts.back().isClosed = true;
             continue;
         default:
             if (parts.empty()) return parts;
+            // Behind a close it goes on where the outline began.
+            if (parts.back().isClosed) parts.push_back({parts.back().start, verb, verb, point, false});
             parts.back().endVerb = verb + 1;
         }
         point += path.verbs()[verb] == Path::Verb::cubic ? 3 : 1;
@@ -100,27 +112,39 @@ std::vector<Part> partsOf(const Path& path) {
 
 } // namespace
 
-void StrokeOutliner::Stroker::addPart(std::span<const Path::Verb> verbs, const Point* points, bool isClosed) {
-    FT_Vector at = vector(*points++);
-    FT_Stroker_BeginSubPath(stroker, &at, !isClosed);
-    for (const Path::Verb verb : verbs.subspan(1)) {
+bool StrokeOutliner::Stroker::addPart(Point from, std::span<const Path::Verb> verbs, const Point* points, bool isClosed) {
+    last = vector(from);
+    hasBegun = false;
+    for (const Path::Verb verb : verbs) {
         if (verb == Path::Verb::line) {
-            at = vector(*points++);
-            FT_Stroker_LineTo(stroker, &at);
+            from = *points++;
+            addLine(from, isClosed);
             continue;
         }
-        addCurve(points[-1], points);
+        addCurve(from, points, isClosed);
+        from = points[2];
         points += 3;
     }
-    FT_Stroker_EndSubPath(stroker);
+    if (hasBegun) FT_Stroker_EndSubPath(stroker);
+    return hasBegun;
+}
+
+void StrokeOutliner::Stroker::addLine(Point to, bool isClosed) {
+    FT_Vector at = vector(to);
+    if (at.x == last.x && at.y == last.y) return;
+    if (!std::exchange(hasBegun, true)) FT_Stroker_BeginSubPath(stroker, &last, !isClosed);
+    FT_Stroker_LineTo(stroker, &at);
+    last = at;
 }
 
 // As short lines: FreeType's own way is off by a quarter of a percent of the width.
-void StrokeOutliner::Stroker::addCurve(Point from, const Point* points) {
+void StrokeOutliner::Stroker::addCurve(Point from, const Point* points, bool isClosed) {
     const auto bend = [](Point a, Point b, Point c) { return std::hypot(a.x - 2 * b.x + c.x, a.y - 2 * b.y + c.y); };
     const double bend_px =
         std::max(bend(from, points[0], points[1]), bend(points[0], points[1], points[2])) * factor / unitsPerPixel;
-    const int count = std::clamp(int(std::ceil(std::sqrt(0.75 * bend_px / flatness_px))), 1, 256);
+    // Also of a bend that is no number.
+    const double wanted = std::ceil(std::sqrt(0.75 * bend_px / flatness_px));
+    const int count = wanted > 1 ? int(std::min(wanted, 256.0)) : 1;
     for (int step = 1; step <= count; ++step) {
         const double t = double(step) / count, rest = 1 - t;
         const double weights[] = {rest * rest * rest, 3 * rest * rest * t, 3 * rest * t * t, t * t * t};
@@ -129,8 +153,7 @@ void StrokeOutliner::Stroker::addCurve(Point from, const Point* points) {
             p.x += weights[index + 1] * points[index].x;
             p.y += weights[index + 1] * points[index].y;
         }
-        FT_Vector at = vector(p);
-        FT_Stroker_LineTo(stroker, &at);
+        addLine(p, isClosed);
     }
 }
 
@@ -174,8 +197,8 @@ Path StrokeOutliner::outline(const Path& path, Stroke stroke, double scale) {
     for (const Part& part : partsOf(path)) {
         const std::span verbs(path.verbs().data() + part.firstVerb, part.endVerb - part.firstVerb);
         FT_Stroker_Rewind(m_stroker->stroker);
-        m_stroker->addPart(verbs, path.points().data() + part.firstPoint, part.isClosed);
-        m_stroker->appendTo(result);
+        const Point* const points = path.points().data() + part.firstPoint;
+        if (m_stroker->addPart(part.start, verbs, points, part.isClosed)) m_stroker->appendTo(result);
     }
     return result;
 }

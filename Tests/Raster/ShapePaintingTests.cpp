@@ -182,6 +182,61 @@ TEST(ShapePainting, StrokesPathsWithRoundEndsAndJoins) {
     EXPECT_EQ(canvas.ink(5, 30), 0);
 }
 
+TEST(ShapePainting, StrokesNothingWhereTheOutlineGoesNowhere) {
+    Path still;
+    still.moveTo({5, 5});
+    Path closed = still;
+    closed.close();
+    Path returning = still;
+    returning.lineTo({5, 5});
+    returning.cubicTo({5, 5}, {5, 5}, {5, 5});
+    returning.close();
+    for (const Path& path : {still, closed, returning}) {
+        Canvas canvas({10, 10});
+        canvas.context.strokePath({}, path, 2, black);
+
+        EXPECT_EQ(totalInk(canvas.image()), 0);
+    }
+}
+
+TEST(ShapePainting, StrokesTheRestOfAPathThatAlsoGoesNowhere) {
+    Path path;
+    path.moveTo({5, 5});
+    path.close();
+    path.moveTo({2, 5});
+    path.lineTo({8, 5});
+    Path alone;
+    alone.moveTo({2, 5});
+    alone.lineTo({8, 5});
+    Canvas canvas({10, 10}), expected({10, 10});
+    canvas.context.strokePath({}, path, 2, black);
+    expected.context.strokePath({}, alone, 2, black);
+
+    EXPECT_TRUE(isSame(canvas.image(), expected.image()));
+}
+
+TEST(ShapePainting, StrokesWhatFollowsAClosedOutlineFromItsBeginning) {
+    Path path;
+    path.moveTo({5, 5});
+    path.lineTo({15, 5});
+    path.lineTo({15, 15});
+    path.close();
+    Path further = path;
+    path.cubicTo({8, 25}, {12, 25}, {35, 25});
+    path.close();
+    path.lineTo({35, 5});
+    further.moveTo({5, 5});
+    further.cubicTo({8, 25}, {12, 25}, {35, 25});
+    further.close();
+    further.moveTo({5, 5});
+    further.lineTo({35, 5});
+    Canvas canvas({40, 30}), expected({40, 30});
+    canvas.context.strokePath({}, path, 2, black);
+    expected.context.strokePath({}, further, 2, black);
+
+    EXPECT_TRUE(isSame(canvas.image(), expected.image()));
+}
+
 TEST(ShapePainting, TurnsAndScalesShapesAboutTheirPlace) {
     Canvas turned({40, 40}), scaled({40, 40});
     const Transform quarter = Transform::rotation(std::numbers::pi / 2).about({20, 20});
