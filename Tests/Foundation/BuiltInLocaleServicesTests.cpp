@@ -120,6 +120,21 @@ TEST_F(BuiltInBidi, ReadsAParagraphWithoutLettersLikeTheScreen) {
     EXPECT_EQ(levels("$9.99!", LayoutDirection::rightToLeft), "1:222221");
 }
 
+// The first and the last of each block, and what stands beside it.
+TEST_F(BuiltInBidi, TakesSignsForNoLetters) {
+    const auto readsRightToLeft = [&](char32_t character) {
+        std::string text;
+        foundation::appendUtf8(text, character);
+        return levels(text, LayoutDirection::rightToLeft).front() == '1';
+    };
+    for (const char32_t sign : {0xBF,   0xD7,   0xF7,   0x02B9, 0x036F, 0x2010, 0x206F, 0x2190, 0x2BFF, 0x2E00,  0x2E7F, 0x3000,
+                                0x3004, 0x3008, 0x3020, 0xFE00, 0xFE6F, 0xFF01, 0xFF20, 0xFEFF, 0xFFFD, 0x1F000, 0x1FAFF})
+        EXPECT_TRUE(readsRightToLeft(sign)) << std::hex << std::uint32_t(sign);
+    for (const char32_t letter : {0xC0, 0xD6, 0xD8, 0xF6, 0xF8, 0x02B8, 0x0370, 0x1FFF, 0x2C00, 0x2DFF, 0x2E80, 0x2FFF, 0x3005,
+                                  0x3007, 0x3021, 0xFF21, 0x1FB00})
+        EXPECT_FALSE(readsRightToLeft(letter)) << std::hex << std::uint32_t(letter);
+}
+
 TEST_F(BuiltInBidi, StartsAnewWithEveryParagraph) {
     EXPECT_EQ(levels("ab\nאב\r\n12"), "0:0001:1110:000");
     EXPECT_EQ(levels("\n", LayoutDirection::rightToLeft), "1:1");

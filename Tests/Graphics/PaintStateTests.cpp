@@ -120,5 +120,12 @@ RC_GTEST_PROP(PaintStateComposition, EqualsApplyingEveryStepToThePoint, ()) {
     RC_ASSERT(std::abs(actual.x - expected.x) < 1e-6 && std::abs(actual.y - expected.y) < 1e-6);
 }
 
+TEST(PaintState, ScalesTheRadiusOfAClipWithItsPicture) {
+    const PaintState turned = PaintState{}.transformedBy(Transform::rotation(std::numbers::pi / 4));
+    EXPECT_NEAR(turned.clippedTo({{0, 0}, {50, 50}}, 8).clipRadius, 8, 1e-9);
+    EXPECT_NEAR(turned.transformedBy(Transform::scaling(2, 0.5)).clippedTo({{0, 0}, {50, 50}}, 8).clipRadius, 8, 1e-9);
+    EXPECT_NEAR(turned.transformedBy(Transform::scaling(3, 3)).clippedTo({{0, 0}, {50, 50}}, 8).clipRadius, 24, 1e-9);
+}
+
 } // namespace
 } // namespace proupsells::graphics

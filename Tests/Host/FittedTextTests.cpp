@@ -292,5 +292,12 @@ TEST_F(FittedTextTest, LeavesOutTheRunsBehindTheCut) {
     EXPECT_TRUE(shownIn({}).isTruncated);
 }
 
+TEST_F(FittedTextTest, CutsWhatIsNoCharacterAnywhere) {
+    setText(std::string(FittedText::longestText + 10, '\x80'));
+
+    EXPECT_TRUE(shownIn({}).isTruncated);
+    EXPECT_LT(text.idealSize().width, 5 * double(FittedText::longestText));
+}
+
 } // namespace
 } // namespace proupsells::host

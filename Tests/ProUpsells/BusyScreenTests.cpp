@@ -88,6 +88,19 @@ TEST_F(BusyScreen, ClosesTheStorePageOnce) {
     EXPECT_THAT(ledger, ElementsAre("dismissed(Home, Vela Pro Store Page, VELA_PRO)"));
 }
 
+TEST_F(BusyScreen, MovesNoShelfThatHasGone) {
+    openStore();
+    tabTo("store.shelf.ShapesShelf");
+    const auto turn = adjustment("store.shelf.ShapesShelf");
+    window->setRootViewController(nullptr);
+    bed.runFor(1);
+
+    turn(1);
+
+    const accessibility::SemanticNode tree = window->semanticTree();
+    EXPECT_EQ(accessibility::findByIdentifier(tree, "store.shelf.ShapesShelf"), nullptr);
+}
+
 TEST_F(BusyScreen, MovesNoShelfWhileItGoes) {
     openStore();
     tabTo("store.shelf.ShapesShelf");

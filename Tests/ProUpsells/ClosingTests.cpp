@@ -187,9 +187,11 @@ TEST_F(Closing, ADelegateThatNobodyHoldsIsReported) {
     entry->setDelegate(std::make_shared<Shop>());
     present();
 
-    EXPECT_THAT(bed.takeLogRecords(), ElementsAre(::testing::Field(&commons::LogRecord::message,
-                                                                   "VelaProUpsellViewController - the delegate is gone "
-                                                                   "already: it is held weakly, so the host must keep it")));
+    const auto records = bed.takeLogRecords();
+    ASSERT_THAT(records, SizeIs(1));
+    EXPECT_EQ(records[0].message,
+              "VelaProUpsellViewController - the delegate is gone already: it is held weakly, so the host must keep it");
+    EXPECT_EQ(records[0].function, "viewDidLoad()");
 }
 
 TEST_F(Closing, ATrackerThatNobodyHoldsIsReported) {

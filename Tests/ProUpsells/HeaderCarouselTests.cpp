@@ -229,7 +229,9 @@ TEST(HeaderCarousel, StopsItsTimerWhenItGoesAway) {
     EXPECT_FALSE(bed.loop().nextDueTime_s().has_value());
 }
 
-TEST(HeaderCarouselDeathTest, StopsTheProgramWithoutPages) { EXPECT_DEATH(Carousel(0), "no pages"); }
+TEST(HeaderCarouselDeathTest, StopsTheProgramWithoutPages) {
+    EXPECT_DEATH(Carousel(0), "Division by zero: the header carousel has no pages");
+}
 
 } // namespace
 } // namespace proupsells::tests

@@ -330,6 +330,7 @@ TEST_F(ThemeTest, IsRefusedWithALineForEachProblem) {
 
     EXPECT_EQ(log.messages(), theme.problems());
     EXPECT_THAT(log.messages(), Not(IsEmpty()));
+    for (const auto& record : log.records()) EXPECT_EQ(record.function, "setTheme");
     EXPECT_EQ(commandsOf(painted()), before);
 }
 

@@ -97,4 +97,31 @@ TEST(TapGesture, MakesTheViewAControlWithoutCallingItAButton) {
     EXPECT_EQ(taps, 1);
 }
 
+TEST(TapGesture, LetsTheFingerMoveByTenPoints) {
+    int taps = 0;
+    TouchScreen screen{[&] { return tappable(taps); }};
+
+    screen.down(middle);
+    screen.move({middle.x + 6, middle.y + 8});
+    screen.up(middle);
+    EXPECT_EQ(taps, 1);
+
+    screen.down(middle);
+    screen.move({middle.x + 6, middle.y + 8.1});
+    screen.up(middle);
+    EXPECT_EQ(taps, 1);
+}
+
+TEST(TapGesture, BelongsToTheFirstOfTwoFingers) {
+    int taps = 0;
+    TouchScreen screen{[&] { return tappable(taps); }};
+
+    EXPECT_TRUE(screen.down(middle));
+    EXPECT_TRUE(screen.down({5, 5})); // beside everything, and yet the touch is taken
+    EXPECT_TRUE(screen.up(middle));
+
+    EXPECT_EQ(taps, 1);
+    EXPECT_FALSE(screen.down({5, 5}));
+}
+
 } // namespace

@@ -291,6 +291,32 @@ TEST_F(ControlTest, AViewAroundTheTouchedOneMayTakeTheTouchOver) {
     EXPECT_EQ(taker->ends, 1);
 }
 
+TEST_F(ControlTest, AViewThatDoesNothingWithTouchesHandsThemOn) {
+    class Keeper : public UIView {
+    public:
+        using UIView::UIView;
+        void touchesBegan(const UITouch&) override { phases += "began "; }
+        void touchesMoved(const UITouch& touch) override {
+            phases += "moved to " + std::to_string(int(touch.location(*this).x)) + " ";
+        }
+        void touchesEnded(const UITouch&) override { phases += "ended "; }
+        void touchesCancelled(const UITouch&) override { phases += "cancelled "; }
+        std::string phases;
+    };
+    const auto keeper = std::make_shared<Keeper>(Rect{{50, 200}, {200, 200}});
+    const auto inner = std::make_shared<UIView>(Rect{{0, 0}, {100, 100}});
+    keeper->addSubview(inner);
+    root->view()->addSubview(keeper);
+
+    touch(host::TouchPhase::began, {60, 220});
+    touch(host::TouchPhase::moved, {70, 220});
+    touch(host::TouchPhase::ended, {70, 220});
+    touch(host::TouchPhase::began, {60, 220});
+    touch(host::TouchPhase::cancelled, {60, 220});
+
+    EXPECT_EQ(keeper->phases, "began moved to 20 ended began cancelled ");
+}
+
 // --- The mouse ---
 
 TEST_F(ControlTest, AButtonAnswersTheMouseThatRestsOnIt) {

@@ -61,5 +61,16 @@ TEST(FocusRing, IsThereWhereEveryPlaceCrossesAText) {
     EXPECT_EQ(focusRingAround(control, window, {window}), control.insetBy(-4.5, -4.5));
 }
 
+TEST(FocusRing, PassesBesideATextAtTheControlsSide) {
+    const Rect control{{100, 100}, {50, 40}}, before{{92, 112}, {8, 14}}, behind{{150, 112}, {8, 14}};
+
+    const Rect ring = focusRingAround(control, window, {before, behind});
+
+    EXPECT_FALSE(crosses(ring, before.insetBy(0, 2.5)));
+    EXPECT_FALSE(crosses(ring, behind.insetBy(0, 2.5)));
+    EXPECT_EQ(ring.minY(), 95.5);
+    EXPECT_EQ(ring.maxY(), 144.5);
+}
+
 } // namespace
 } // namespace proupsells::uikit
