@@ -15,9 +15,9 @@ using testing::DoubleNear;
 using testing::ElementsAre;
 using testing::Pair;
 
-class RandomSystem {
+class SmallSystem {
 public:
-    explicit RandomSystem(unsigned seed) : m_random(seed), variableCount(1 + below(ExactOptimum::mostVariables)) {
+    explicit SmallSystem(unsigned seed) : m_random(seed), variableCount(1 + below(ExactOptimum::mostVariables)) {
         for (unsigned count = 1 + below(9); count > 0; --count) constraints.push_back(makeConstraint());
     }
 
@@ -71,7 +71,7 @@ TEST(ExactOptimum, CountsConstraintsThatSayNothingOfAnyVariable) {
 TEST(Solver, ErrsByNoMoreThanItMust) {
     for (unsigned seed = 0; seed < 400; ++seed) {
         SCOPED_TRACE(seed);
-        const RandomSystem system(seed);
+        const SmallSystem system(seed);
         const ExactOptimum optimum(system.variableCount, system.constraints);
         Solver solver;
         for (std::size_t i = 0; i < system.variableCount; ++i) solver.makeVariable();
