@@ -49,6 +49,7 @@ set(PROUPSELLS_Platform_HEADERS
   Platform/Host/Surface.hpp
   Platform/Host/WindowContent.hpp
   Platform/RunLoop/Clock.hpp
+  Platform/RunLoop/ForwardTime.hpp
   Platform/RunLoop/MainRunLoop.hpp
   Platform/RunLoop/SteppedClock.hpp
   Platform/RunLoop/Timer.hpp

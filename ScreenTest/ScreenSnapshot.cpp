@@ -8,6 +8,7 @@
 #include "Backends/Raster/PngFile.hpp"
 #include "Backends/Raster/PngReader.hpp"
 #include "Platform/System/PathText.hpp"
+#include "Platform/System/WholeFile.hpp"
 #include "Tooling/ScreenDifference.hpp"
 #include "Tooling/WrittenNumber.hpp"
 
@@ -79,10 +80,8 @@ std::filesystem::path ScreenSnapshot::ending(const char* middle, const char* end
 bool ScreenSnapshot::take(const TestScreen& screen, const char* middle) const {
     std::error_code error;
     if (m_file.has_parent_path()) std::filesystem::create_directories(m_file.parent_path(), error);
-    std::ofstream tree(treeFile(middle), std::ios::binary);
-    tree << tooling::screenText(tooling::screenTree(screen.tree()));
-    tree.close();
-    return tree && rasterbackend::writePng(screen.picture(), pictureFile(middle));
+    return system::writeWhole(treeFile(middle), tooling::screenText(tooling::screenTree(screen.tree()))) &&
+           rasterbackend::writePng(screen.picture(), pictureFile(middle));
 }
 
 std::optional<std::string> ScreenSnapshot::complaint(const TestScreen& screen) const {

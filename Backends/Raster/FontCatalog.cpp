@@ -89,19 +89,29 @@ GlyphTableRef FontCatalog::fontInstead(const std::string& family, int weight) {
 GlyphTableRef FontCatalog::findFont(const std::string& family, int weight) {
     std::vector<FaceFile> faces = m_registered;
     faces.insert(faces.end(), m_shipped.begin(), m_shipped.end());
-    const FaceFile* nearest = nearestFace(faces, family, weight);
+    const FaceFile* nearest = nearestReadable(faces, family, weight);
     if (!nearest || nearest->weight != weight) {
         const std::vector<FaceFile> installed = m_system.facesOf(family);
         faces.insert(faces.end(), installed.begin(), installed.end());
-        nearest = nearestFace(faces, family, weight);
+        nearest = nearestReadable(faces, family, weight);
     }
     return nearest ? open(*nearest, weight) : nullptr;
+}
+
+const FaceFile* FontCatalog::nearestReadable(std::vector<FaceFile>& faces, const std::string& family, int weight) {
+    while (const FaceFile* nearest = nearestFace(faces, family, weight)) {
+        if (open(*nearest, weight)) return nearest;
+        if (m_unreadableFiles.insert(nearest->path).second)
+            report("The file " + system::textOf(nearest->path) + " is no font", "FontCatalog::nearestReadable");
+        faces.erase(faces.begin() + (nearest - faces.data()));
+    }
+    return nullptr;
 }
 
 GlyphTableRef FontCatalog::standIn(const std::string& missingFamily, int weight) {
     GlyphTableRef font;
     std::string family = defaultFamily;
-    if (const FaceFile* face = nearestFace(m_shipped, family, weight)) {
+    if (const FaceFile* face = nearestReadable(m_shipped, family, weight)) {
         font = open(*face, weight);
     } else if (const std::optional<FaceFile> installed = m_system.faceFor(U"a", {}, weight)) {
         font = open(*installed, weight);
@@ -181,7 +191,7 @@ GlyphTableRef FontCatalog::plainFontShowing(std::u32string_view characters, cons
     };
     for (const FaceFile& face : m_registered)
         if (GlyphTableRef font = shown(nearestFace(m_registered, face.family, weight))) return font;
-    if (GlyphTableRef font = shown(nearestFace(m_shipped, defaultFamily, weight))) return font;
+    if (GlyphTableRef font = shown(nearestReadable(m_shipped, defaultFamily, weight))) return font;
     if (const std::optional<FaceFile> installed = m_system.faceFor(characters, language, weight)) return open(*installed, weight);
     return nullptr;
 }

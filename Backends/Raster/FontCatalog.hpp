@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -58,6 +59,8 @@ private:
     // Null where the family is to be shown itself.
     GlyphTableRef fontInstead(const std::string& family, int weight);
     GlyphTableRef findFont(const std::string& family, int weight);
+    // Null where there is none. Those that cannot be read are reported, each once, and taken out of `faces`.
+    const FaceFile* nearestReadable(std::vector<FaceFile>& faces, const std::string& family, int weight);
     GlyphTableRef standIn(const std::string& missingFamily, int weight);
     void reportMissing(const std::string& family, const std::string& consequence);
     GlyphTableRef open(const FaceFile& face, int weight);
@@ -77,6 +80,7 @@ private:
     std::map<std::tuple<std::filesystem::path::string_type, int, int>, GlyphTableRef>
         m_fonts; // by path, index and weight; 0 for any
     std::vector<std::string> m_missingFamilies;
+    std::set<std::filesystem::path> m_unreadableFiles;
     bool m_hasReportedEmptySystem = false;
 };
 

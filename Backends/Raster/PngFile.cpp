@@ -3,8 +3,9 @@
 #include <png.h>
 
 #include <cstdint>
-#include <fstream>
 #include <vector>
+
+#include "Platform/System/WholeFile.hpp"
 
 namespace proupsells::rasterbackend {
 
@@ -45,26 +46,7 @@ std::string pngBytes(const Picture& picture, PngEffort effort) {
 
 bool writePng(const Picture& picture, const std::filesystem::path& file) {
     const std::string bytes = pngBytes(picture, PngEffort::small);
-    if (bytes.empty()) return false;
-
-    // Whoever looks at the file sees the old picture or the new one, never half of it.
-    std::filesystem::path draft = file;
-    draft += ".part";
-    std::error_code error;
-    // It may be a link of somebody else's.
-    std::filesystem::remove(draft, error);
-    {
-        std::ofstream stream(draft, std::ios::binary);
-        stream.write(bytes.data(), std::streamsize(bytes.size()));
-        if (!stream.flush()) {
-            std::filesystem::remove(draft, error);
-            return false;
-        }
-    }
-    std::filesystem::rename(draft, file, error);
-    if (!error) return true;
-    std::filesystem::remove(draft, error);
-    return false;
+    return !bytes.empty() && system::writeWhole(file, bytes);
 }
 
 } // namespace proupsells::rasterbackend

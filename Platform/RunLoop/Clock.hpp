@@ -7,7 +7,7 @@
 
 namespace proupsells::runloop {
 
-// Tells the time that the loop runs on, in seconds. Never goes back.
+// Tells the time that the loop runs on, in seconds. It should never go back; where it does, the loop goes on from where it was.
 class PROUPSELLS_EXPORT Clock {
 public:
     virtual ~Clock() = default;

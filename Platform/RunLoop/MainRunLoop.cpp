@@ -8,6 +8,7 @@
 
 #include "Platform/Commons/FatalError.hpp"
 #include "Platform/Commons/ScopeEnd.hpp"
+#include "Platform/RunLoop/ForwardTime.hpp"
 #include "Platform/RunLoop/MainActor.hpp"
 #include "Platform/RunLoop/SteppedClock.hpp"
 #include "Platform/RunLoop/UpdateQueue.hpp"
@@ -29,7 +30,10 @@ std::vector<MainRunLoop*>& livingLoops() {
 } // namespace
 
 struct MainRunLoop::State {
+    double clock_s() { return time.read_s(*clock); }
+
     std::shared_ptr<Clock> clock;
+    ForwardTime time;
     VirtualClock* virtualClock = nullptr; // null on a real clock
     SteppedClock* steppedClock = nullptr; // null unless the virtual clock is one
     WorkQueue work;
@@ -69,7 +73,7 @@ MainRunLoop& MainRunLoop::main() {
 
 bool MainRunLoop::exists() { return !livingLoops().empty(); }
 
-double MainRunLoop::now_s() const { return m_state->turn_s ? *m_state->turn_s : m_state->clock->now_s(); }
+double MainRunLoop::now_s() const { return m_state->turn_s ? *m_state->turn_s : m_state->clock_s(); }
 
 bool MainRunLoop::isInTurn() const { return m_state->turn_s.has_value(); }
 
@@ -142,13 +146,13 @@ void MainRunLoop::wakeUpIfEarlierThan(std::optional<double> previous_s) {
 void MainRunLoop::runDueTurns() {
     if (isInTurn()) return;
     if (m_state->steppedClock) return runUntil(m_state->steppedClock->nextStep_s());
-    runTurnsUntil(m_state->clock->now_s());
+    runTurnsUntil(m_state->clock_s());
     wakeUpIfEarlierThan(std::nullopt);
 }
 
 void MainRunLoop::settle() {
     if (isInTurn()) commons::fatalError("A main run loop cannot settle inside its own turn");
-    runTurnsUntil(m_state->clock->now_s());
+    runTurnsUntil(m_state->clock_s());
     wakeUpIfEarlierThan(std::nullopt);
 }
 
@@ -210,7 +214,7 @@ void MainRunLoop::fire(const std::shared_ptr<Timer>& timer) {
 void MainRunLoop::rearmFiredTimers() {
     for (auto& timer : m_state->fired) {
         if (!timer->isValid()) continue;
-        timer->advanceOnGrid(m_state->clock->now_s());
+        timer->advanceOnGrid(m_state->clock_s());
         m_state->work.push(std::move(timer));
     }
     m_state->fired.clear();

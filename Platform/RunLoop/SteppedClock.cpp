@@ -15,6 +15,6 @@ SteppedClock::SteppedClock(std::shared_ptr<const Clock> followed) : m_followed(s
 }
 
 // Divided, so that it is the double nearest to the time as it is written.
-double SteppedClock::nextStep_s() const { return std::max(now_s(), std::floor(m_followed->now_s() * 1000) / 1000); }
+double SteppedClock::nextStep_s() const { return std::max(now_s(), std::floor(m_time.read_s(*m_followed) * 1000) / 1000); }
 
 } // namespace proupsells::runloop

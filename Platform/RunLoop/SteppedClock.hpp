@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "Platform/RunLoop/Clock.hpp"
+#include "Platform/RunLoop/ForwardTime.hpp"
 #include "Platform/System/Compiler.hpp"
 
 namespace proupsells::runloop {
@@ -21,6 +22,7 @@ public:
 
 private:
     std::shared_ptr<const Clock> m_followed;
+    mutable ForwardTime m_time; // as the followed one has told it
 };
 
 } // namespace proupsells::runloop

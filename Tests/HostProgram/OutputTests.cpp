@@ -95,3 +95,34 @@ TEST_F(Output, OfSnapshotsFollowsNoLink) {
     EXPECT_EQ(bytesOf(target), "kept");
     EXPECT_FALSE(std::filesystem::is_symlink(folder.path() / "late.png"));
 }
+
+TEST_F(Output, OfADocumentFollowsNoLink) {
+    const Folder elsewhere;
+    const auto target = elsewhere.write("kept.txt", std::string("kept"));
+    const auto page = folder.path() / "page.html";
+    std::filesystem::create_symlink(target, page);
+    std::filesystem::create_symlink(target, folder.path() / "page.html.part");
+
+    const Outcome outcome = runProgram({"evidence", scenario.string(), "--out", page.string()});
+
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_EQ(bytesOf(target), "kept");
+    EXPECT_FALSE(std::filesystem::is_symlink(page));
+}
+
+TEST_F(Output, ThatCannotTakeItsPlaceLeavesWhatWasThere) {
+    // A folder where the draft would be.
+    const auto page = folder.write("page.html", std::string("before"));
+    std::filesystem::create_directories(folder.path() / "page.html.part" / "full");
+    std::filesystem::create_directories(folder.path() / "late.png.part" / "full");
+
+    const Outcome document = runProgram({"evidence", scenario.string(), "--out", page.string()});
+    const Outcome picture = runProgram({"run", scenario.string(), "--out", folder.path().string()});
+
+    for (const Outcome& outcome : {document, picture}) {
+        EXPECT_EQ(outcome.status, 2);
+        EXPECT_THAT(outcome.errorLines(), SizeIs(1)) << outcome.errors;
+    }
+    EXPECT_EQ(bytesOf(page), "before");
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "late.png"));
+}

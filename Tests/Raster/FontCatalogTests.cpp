@@ -27,6 +27,13 @@ const std::filesystem::path testFonts = PROUPSELLS_TEST_FONTS;
 class BareMachine {
 public:
     FontSources sources() const { return {rasterbackend::shippedFaceFolder(), m_configuration}; }
+    // The module's faces, but nothing in these files.
+    FontSources sourcesWithEmpty(std::initializer_list<const char*> files) const {
+        const std::filesystem::path faces = m_folder.path() / "faces";
+        std::filesystem::copy(rasterbackend::shippedFaceFolder(), faces);
+        for (const char* file : files) std::filesystem::resize_file(faces / file, 0);
+        return {faces, m_configuration};
+    }
     FontSources sourcesWithoutShippedFaces() const { return {m_folder.path() / "none", m_configuration}; }
 
 private:
@@ -110,6 +117,29 @@ TEST(FontCatalog, TakesUpAFaceThatIsRegisteredLate) {
     shaper.registerFace("Inter", 700, testFonts / "Weighty.ttf");
 
     EXPECT_NE(widthOf(*shapedBy(shaper, "I", faceOf("Inter", 700))), before);
+}
+
+TEST(FontCatalog, TakesTheNextFaceWhereAShippedOneCannotBeRead) {
+    tests::LogRecorder log;
+    const BareMachine machine;
+    RasterTextShaper whole(machine.sources()), spoiled(machine.sourcesWithEmpty({"Inter-400.otf"}));
+
+    for (const std::string text : {"text", "more"})
+        EXPECT_EQ(widthOf(*shapedBy(spoiled, text, faceOf("Inter", 400))), widthOf(*shapedBy(whole, text, faceOf("Inter", 500))));
+    EXPECT_GT(widthOf(*shapedBy(spoiled, "Ж", faceOf("Sora", 400))), 0);
+
+    EXPECT_THAT(log.messages(), ElementsAre(HasSubstr("Inter-400.otf is no font")));
+}
+
+TEST(FontCatalog, ShowsAnotherFamilyWhereNoFaceOfOneCanBeRead) {
+    tests::LogRecorder log;
+    const BareMachine machine;
+    RasterTextShaper whole(machine.sources()), spoiled(machine.sourcesWithEmpty({"Sora-600.otf", "Sora-700.otf"}));
+
+    EXPECT_EQ(widthOf(*shapedBy(spoiled, "text", faceOf("Sora", 700))), widthOf(*shapedBy(whole, "text", faceOf("Inter", 700))));
+
+    EXPECT_THAT(log.messages(), testing::Contains(HasSubstr("Sora-700.otf is no font")));
+    EXPECT_THAT(log.messages(), testing::Contains(HasSubstr("\"Inter\" stands in for it")));
 }
 
 TEST(FontCatalog, ReportsARegisteredFileThatIsNoFont) {

@@ -86,6 +86,9 @@ int main(int count, char** arguments) {
     if (pictures.empty()) return fail(system::textOf(in) + " cannot be drawn");
     const std::string bytes = rasterbackend::pictureFileBytes(*naturalSize, pictures);
     std::ofstream stream(out, std::ios::binary);
-    if (!stream.write(bytes.data(), std::streamsize(bytes.size())).flush()) return fail(system::textOf(out) + " cannot be written");
-    return 0;
+    if (stream.write(bytes.data(), std::streamsize(bytes.size())).flush()) return 0;
+    // The build would take half of a picture for a new one.
+    std::error_code ignored;
+    std::filesystem::remove(out, ignored);
+    return fail(system::textOf(out) + " cannot be written");
 }
