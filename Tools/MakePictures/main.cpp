@@ -89,6 +89,6 @@ int main(int count, char** arguments) {
     if (stream.write(bytes.data(), std::streamsize(bytes.size())).flush()) return 0;
     // The build would take half of a picture for a new one.
     std::error_code ignored;
-    std::filesystem::remove(out, ignored);
+    if (std::filesystem::is_regular_file(out, ignored)) std::filesystem::remove(out, ignored);
     return fail(system::textOf(out) + " cannot be written");
 }
