@@ -88,8 +88,9 @@ TEST(Solver, ErrsByNoMoreThanItMust) {
             EXPECT_THAT(sum, DoubleNear(least, 1e-6)) << "at priority " << priority;
         }
         for (std::size_t i = 0; i < taken.size(); ++i)
-            if (taken[i] && system.constraints[i].priority >= LinearConstraint::required)
+            if (taken[i] && system.constraints[i].priority >= LinearConstraint::required) {
                 EXPECT_LT(errorOf(system.constraints[i], solver), 1e-6);
+            }
     }
 }
 
