@@ -4,11 +4,12 @@
 #include <limits>
 
 #include "Platform/RunLoop/Clock.hpp"
+#include "Platform/System/Compiler.hpp"
 
 namespace proupsells::runloop {
 
 // Where the clock has gone back, time goes on from where it was: what waits becomes due neither earlier nor hours later.
-class ForwardTime {
+class PROUPSELLS_EXPORT ForwardTime {
 public:
     // The clock's time in seconds, and what it has gone back since the first call.
     double read_s(const Clock& clock) {
