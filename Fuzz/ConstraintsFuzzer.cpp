@@ -11,9 +11,9 @@
 #include "Fuzz/ByteReader.hpp"
 #include "Fuzz/Require.hpp"
 #include "Platform/UIKit/Constraints/NSLayoutConstraint.hpp"
-#include "Platform/UIKit/Constraints/Solver.hpp"
 #include "Platform/UIKit/Views/UIView.hpp"
 #include "Tests/ConstraintOracle/ExactOptimum.hpp"
+#include "Tests/ConstraintOracle/SolvedSystem.hpp"
 
 using namespace proupsells;
 using namespace uikit::constraints;
@@ -39,27 +39,15 @@ LinearConstraint readConstraint(ByteReader& bytes, std::size_t variableCount) {
     return constraint;
 }
 
-double errorOf(const LinearConstraint& constraint, const Solver& solver) {
-    double value = constraint.constant;
-    for (const Term& term : constraint.terms) value += term.coefficient * solver.value(term.variable);
-    require(std::isfinite(value));
-    if (constraint.relation == Relation::lessThanOrEqual) return std::max(0.0, value);
-    if (constraint.relation == Relation::greaterThanOrEqual) return std::max(0.0, -value);
-    return std::abs(value);
-}
-
 void requireBest(const std::vector<LinearConstraint>& constraints, std::size_t variableCount, const ExactOptimum& optimum) {
     constexpr double tolerance = 1e-5;
-    Solver solver;
-    for (std::size_t i = 0; i < variableCount; ++i) solver.makeVariable();
-    std::vector<bool> taken;
-    for (const LinearConstraint& constraint : constraints) taken.push_back(solver.add(constraint));
+    const auto [values, taken] = solved(variableCount, constraints);
     require(std::count(taken.begin(), taken.end(), true) == std::count(optimum.taken().begin(), optimum.taken().end(), true));
-    solver.solve();
+    for (const double value : values) require(std::isfinite(value));
 
     ErrorSums errors;
     for (std::size_t i = 0; i < constraints.size(); ++i) {
-        const double error = errorOf(constraints[i], solver);
+        const double error = errorOf(constraints[i], values);
         if (constraints[i].priority < LinearConstraint::required)
             errors[constraints[i].priority] += error;
         else

@@ -9,6 +9,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "Tests/ConstraintOracle/SolvedSystem.hpp"
+
 namespace proupsells::uikit::constraints {
 namespace {
 
@@ -26,35 +28,12 @@ LinearConstraint atLeast(std::vector<Term> terms, double value, double priority 
     return {std::move(terms), -value, Relation::greaterThanOrEqual, priority};
 }
 
-struct Result {
-    std::vector<double> values;
-    std::vector<bool> accepted;
-};
-
-Result solved(std::size_t variables, const std::vector<LinearConstraint>& constraints) {
-    Solver solver;
-    for (std::size_t i = 0; i < variables; ++i) solver.makeVariable();
-    Result result;
-    for (const LinearConstraint& constraint : constraints) result.accepted.push_back(solver.add(constraint));
-    solver.solve();
-    for (std::size_t i = 0; i < variables; ++i) result.values.push_back(solver.value(Variable(i)));
-    return result;
-}
-
-double errorOf(const LinearConstraint& constraint, const std::vector<double>& values) {
-    double sum = constraint.constant;
-    for (const Term& term : constraint.terms) sum += term.coefficient * values[term.variable];
-    if (constraint.relation == Relation::lessThanOrEqual) return std::max(0.0, sum);
-    if (constraint.relation == Relation::greaterThanOrEqual) return std::max(0.0, -sum);
-    return std::abs(sum);
-}
-
 // --- Small systems ---
 
 TEST(Solver, AVariableInNoConstraintIsZero) { EXPECT_THAT(solved(1, {}).values, ElementsAre(0)); }
 
 TEST(Solver, EquationsAreSolvedInAnyOrder) {
-    const Result result = solved(3, {equal({{0, 1}, {1, 1}, {2, 1}}, 6), equal({{0, 1}, {1, -1}}, 0), equal({{2, 2}}, 4)});
+    const SolvedSystem result = solved(3, {equal({{0, 1}, {1, 1}, {2, 1}}, 6), equal({{0, 1}, {1, -1}}, 0), equal({{2, 2}}, 4)});
 
     EXPECT_THAT(result.values, ElementsAre(2, 2, 2));
 }
@@ -82,22 +61,23 @@ TEST(Solver, AnInequalityGivesWayAsLittleAsItMust) {
 }
 
 TEST(Solver, ARequiredConstraintThatCannotHoldIsLeftOut) {
-    const Result result = solved(2, {equal({{0, 1}}, 10), equal({{0, 1}}, 20), equal({{1, 1}, {0, -1}}, 1), atMost({{1, 1}}, 5)});
+    const SolvedSystem result =
+        solved(2, {equal({{0, 1}}, 10), equal({{0, 1}}, 20), equal({{1, 1}, {0, -1}}, 1), atMost({{1, 1}}, 5)});
 
     EXPECT_THAT(result.accepted, ElementsAre(true, false, true, false));
     EXPECT_THAT(result.values, ElementsAre(10, 11));
 }
 
 TEST(Solver, ASystemGoesOnUnharmedAfterAConstraintWasLeftOut) {
-    const Result result = solved(2, {atLeast({{0, 1}}, 0), atMost({{0, 1}, {1, 1}}, 10), atLeast({{1, 1}}, 4), atLeast({{0, 1}}, 7),
-                                     equal({{0, 1}}, 100, 300), equal({{1, 1}}, 100, 200)});
+    const SolvedSystem result = solved(2, {atLeast({{0, 1}}, 0), atMost({{0, 1}, {1, 1}}, 10), atLeast({{1, 1}}, 4),
+                                           atLeast({{0, 1}}, 7), equal({{0, 1}}, 100, 300), equal({{1, 1}}, 100, 200)});
 
     EXPECT_THAT(result.accepted, ElementsAre(true, true, true, false, true, true));
     EXPECT_THAT(result.values, ElementsAre(6, 4));
 }
 
 TEST(Solver, ARepeatedRequirementIsAccepted) {
-    const Result result = solved(1, {equal({{0, 3}}, 1), equal({{0, 3}}, 1), atMost({{0, 3}}, 1), atLeast({{0, 3}}, 1)});
+    const SolvedSystem result = solved(1, {equal({{0, 3}}, 1), equal({{0, 3}}, 1), atMost({{0, 3}}, 1), atLeast({{0, 3}}, 1)});
 
     EXPECT_THAT(result.accepted, ElementsAre(true, true, true, true));
 }
@@ -105,14 +85,14 @@ TEST(Solver, ARepeatedRequirementIsAccepted) {
 TEST(Solver, WhatIsNotFiniteIsRefused) {
     const double nan = std::numeric_limits<double>::quiet_NaN(), infinity = std::numeric_limits<double>::infinity();
 
-    const Result result = solved(1, {equal({{0, nan}}, 1), equal({{0, 1}}, infinity), equal({{0, 1}}, 4)});
+    const SolvedSystem result = solved(1, {equal({{0, nan}}, 1), equal({{0, 1}}, infinity), equal({{0, 1}}, 4)});
 
     EXPECT_THAT(result.accepted, ElementsAre(false, false, true));
     EXPECT_THAT(result.values, ElementsAre(4));
 }
 
 TEST(Solver, ConstraintsWithoutVariablesAreTrueOrFalse) {
-    const Result result = solved(1, {equal({}, 0), equal({}, 1), atLeast({}, 1), atMost({}, 1), equal({}, 5, 250)});
+    const SolvedSystem result = solved(1, {equal({}, 0), equal({}, 1), atLeast({}, 1), atMost({}, 1), equal({}, 5, 250)});
 
     EXPECT_THAT(result.accepted, ElementsAre(true, false, false, true, true));
 }
@@ -215,7 +195,7 @@ TEST(SolverAgainstBruteForce, FindsTheBestPointAndLeavesOutTheSameConstraints) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         const RandomSystem system(seed);
         const auto points = meetingPoints(system.constraints, system.variables);
-        const Result result = solved(system.variables, system.constraints);
+        const SolvedSystem result = solved(system.variables, system.constraints);
 
         std::vector<LinearConstraint> demands;
         for (std::size_t i = 0; i < system.constraints.size(); ++i) {
@@ -261,7 +241,7 @@ protected:
 };
 
 TEST_P(LargeSystem, KeepsWhatIsRequired) {
-    const Result result = solved(variables, constraints);
+    const SolvedSystem result = solved(variables, constraints);
 
     for (std::size_t i = 0; i < constraints.size(); ++i) {
         const bool isDemanded = constraints[i].priority >= required && result.accepted[i];
@@ -282,7 +262,7 @@ TEST_P(LargeSystem, AHigherPriorityNeverLosesToLowerOnes) {
 }
 
 TEST_P(LargeSystem, AConstraintThatIsKeptAnywayChangesNothing) {
-    const Result before = solved(variables, constraints);
+    const SolvedSystem before = solved(variables, constraints);
     const auto errors = errorsOf(constraints, before.values);
     std::vector<LinearConstraint> more = constraints;
     for (int i = 0; i < 5; ++i) {
@@ -291,7 +271,7 @@ TEST_P(LargeSystem, AConstraintThatIsKeptAnywayChangesNothing) {
         more.push_back(atMost({{a, 1}, {b, -1}}, distance, i % 2 ? required : 750));
     }
 
-    const Result after = solved(variables, more);
+    const SolvedSystem after = solved(variables, more);
 
     for (std::size_t i = constraints.size(); i < more.size(); ++i) EXPECT_TRUE(after.accepted[i]);
     const auto errorsAfter = errorsOf(more, after.values);
