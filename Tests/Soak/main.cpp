@@ -3,18 +3,28 @@
 #include <gmock/gmock.h>
 
 #include <charconv>
+#include <concepts>
 #include <cstdio>
+#include <optional>
 #include <string_view>
 
+#include "Platform/Foundation/DecimalText.hpp"
 #include "Tests/Soak/Lengths.hpp"
 
 namespace proupsells::soak {
 namespace {
 
-template <class Number>
+template <std::integral Number>
 bool read(std::string_view text, Number& number) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     return error == std::errc() && end == text.data() + text.size() && number > 0;
+}
+
+bool read(std::string_view text, double& number) {
+    const std::optional<foundation::DecimalReading> reading = foundation::readDecimal(text);
+    if (!reading || reading->length != text.size() || reading->number <= 0) return false;
+    number = reading->number;
+    return true;
 }
 
 // False where the word is no option, or its value none of it.

@@ -39,7 +39,7 @@ void PresentationStack::runWaiting() {
     const commons::Finally end([this] { m_isRunningWaiting = false; });
     while (!m_current && !m_waiting.empty()) {
         m_current = std::move(m_waiting.front());
-        m_waiting.pop_front();
+        m_waiting.erase(m_waiting.begin());
         begin();
     }
 }

@@ -1,8 +1,8 @@
 // What stands over a window's root controller, and the order in which it comes and goes.
 #pragma once
 
-#include <deque>
 #include <utility>
+#include <vector>
 
 #include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Platform/UIKit/Controllers/PresentationObserver.hpp"
@@ -66,7 +66,7 @@ private:
     UIWindow& m_window;
     std::weak_ptr<PresentationObserver> m_observer;
     std::vector<Presentation> m_presentations; // back to front
-    std::deque<Operation> m_waiting;
+    std::vector<Operation> m_waiting;          // few, if any
     std::optional<Operation> m_current;
     std::shared_ptr<runloop::Timer> m_timer; // the end of the current one's animation
     bool m_isRunningWaiting = false;
