@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
 """What faults Tools/mutants.py makes of what sources."""
+import json
 import pathlib
 import sys
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "Tools"))
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "Tools"))
 import mutants  # noqa: E402
 
 
@@ -53,6 +55,19 @@ class Faults(unittest.TestCase):
         source = "int a;\nint b = 1;\n"
         mutant, = mutants.mutants_of("a.cpp", source)
         self.assertEqual(mutant.text(source), "int a;\nint b = 2;\n")
+
+
+class ExplainedFaults(unittest.TestCase):
+    def test_are_faults_of_the_sources_as_they_are(self):
+        for entry in json.loads((ROOT / "Tools" / "mutants-explained.json").read_text()):
+            made = {(mutant.before.strip(), mutant.after.strip())
+                    for mutant in mutants.mutants_of(entry["file"], (ROOT / entry["file"]).read_text())}
+            before = entry["before"].strip()
+            if "after" in entry:
+                self.assertIn((before, entry["after"].strip()), made)
+            else:
+                self.assertIn(before, {line for line, _ in made})
+            self.assertTrue(entry["why"], before)
 
 
 if __name__ == "__main__":
