@@ -95,9 +95,18 @@ const std::vector<Change<UIView>>& changesOnlyOnce() {
     static const std::vector<Change<UIView>> changes = {
         {"background", [](UIView& view) { view.setBackgroundColor(UIColor::black); }},
         {"hidden", [](UIView& view) { view.setHidden(true); }},
-        {"place", [](UIView& view) { view.setFrame({{1, 0}, {50, 20}}); }},
-        {"size", [](UIView& view) { view.setFrame({{0, 0}, {51, 20}}); }},
-        {"origin of the bounds", [](UIView& view) { view.setBoundsOrigin({0, 1}); }},
+        {"place",
+         [](UIView& view) {
+             view.setFrame({{1, 0}, {50, 20}});
+         }},
+        {"size",
+         [](UIView& view) {
+             view.setFrame({{0, 0}, {51, 20}});
+         }},
+        {"origin of the bounds",
+         [](UIView& view) {
+             view.setBoundsOrigin({0, 1});
+         }},
         {"transform", [](UIView& view) { view.setTransform(geometry::Transform::scaling(2, 2)); }},
     };
     return changes;
@@ -157,7 +166,10 @@ TEST_F(ViewChange, OfAButtonIsSeen) {
     const std::vector<Change<UIButton>> changes = {
         {"image", [](UIButton& button) { button.setImage(sameImage()); }, true},
         {"disabled", [](UIButton& button) { button.setEnabled(false); }},
-        {"hovered", [](UIButton& button) { button.hover(geometry::Point{1, 1}); }},
+        {"hovered",
+         [](UIButton& button) {
+             button.hover(geometry::Point{1, 1});
+         }},
     };
     expectEachAsksForAPicture<UIButton>(changes);
     expectTheSameAgainAsksForNothing<UIButton>(changes);
@@ -190,8 +202,14 @@ TEST_F(ViewChange, OfPagesIsSeen) {
 
 TEST_F(ViewChange, OfScrolledContentIsSeen) {
     const std::vector<Change<UIScrollView>> changes = {
-        {"content size", [](UIScrollView& list) { list.setContentSize({50, 400}); }},
-        {"offset", [](UIScrollView& list) { list.setContentOffset({0, 10}); }},
+        {"content size",
+         [](UIScrollView& list) {
+             list.setContentSize({50, 400});
+         }},
+        {"offset",
+         [](UIScrollView& list) {
+             list.setContentOffset({0, 10});
+         }},
     };
     expectEachAsksForAPicture<UIScrollView>(changes);
     expectTheSameAgainAsksForNothing<UIScrollView>(changes);
