@@ -205,6 +205,30 @@ TEST_F(DescribedCollection, AnItemWiderThanTheRoomStandsAlone) {
     EXPECT_EQ(collection->frameForItem({0, 1}), (Rect{{12, 50}, {500, 50}}));
 }
 
+// The second row's first item is lower than its second one, and comes back after it.
+TEST_F(DescribedCollection, ItemsOfARowStandInTheirOrderWhicheverComesFirst) {
+    struct Uneven : NamedItems, UICollectionViewDelegateFlowLayout {
+        std::optional<Size> collectionViewLayoutSizeForItemAt(UICollectionView&, UICollectionViewFlowLayout&,
+                                                              IndexPath path) override {
+            return path.item < 2 ? Size{100, path.item == 0 ? 20.0 : 40.0} : Size{375, 790};
+        }
+    };
+    const auto uneven = std::make_shared<Uneven>();
+    uneven->count = 3;
+    collection->setDataSource(uneven);
+    collection->setFlowLayoutDelegate(uneven);
+    bed.settle();
+    scrollTo(35);
+    ASSERT_EQ(collection->subviews().size(), 2u);
+
+    scrollTo(0);
+
+    ASSERT_EQ(collection->subviews().size(), 3u);
+    EXPECT_EQ(collection->subviews()[0], collection->cellForItem({0, 0}));
+    EXPECT_EQ(collection->subviews()[1], collection->cellForItem({0, 1}));
+    EXPECT_EQ(collection->subviews()[2], collection->cellForItem({0, 2}));
+}
+
 TEST_F(DescribedCollection, LeavesTheInsetsFree) {
     collection->setContentInset({.left = 10, .right = 65});
     collection->collectionViewLayout()->itemSize = {100, 50};

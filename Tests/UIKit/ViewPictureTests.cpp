@@ -3,6 +3,7 @@
 
 #include "Platform/UIKit/Controls/UIButton.hpp"
 #include "Platform/UIKit/Views/UIImageView.hpp"
+#include "Platform/UIKit/Views/UILabel.hpp"
 #include "Tests/UIKit/ScrollScene.hpp"
 
 namespace proupsells::uikit {
@@ -295,6 +296,57 @@ TEST(ImageView, KeepsAFlatImageAsItIs) {
 
         EXPECT_EQ(view.imageFrame(), (Rect{{15 - size.width / 2, 15 - size.height / 2}, size}));
     }
+}
+
+TEST_F(ScreenTest, ALabelIsMadeInOneLineOfTheOrdinaryTextSize) {
+    UILabel label;
+
+    EXPECT_EQ(label.font().size, 17);
+    EXPECT_EQ(label.numberOfLines(), 1);
+    EXPECT_EQ(label.minimumScaleFactor(), 1);
+    EXPECT_EQ(label.textColor().name, "label");
+    EXPECT_EQ(label.textColor().light, graphics::rgb(0x15191C));
+    EXPECT_EQ(label.textColor().dark, graphics::rgb(0xF3F5F4));
+    label.setNumberOfLines(-3);
+    EXPECT_EQ(label.numberOfLines(), 0);
+    label.setMinimumScaleFactor(2);
+    EXPECT_EQ(label.minimumScaleFactor(), 1);
+    label.setMinimumScaleFactor(-1);
+    EXPECT_EQ(label.minimumScaleFactor(), 0);
+}
+
+TEST_F(ScreenTest, ALabelSaysHowManyLinesItHas) {
+    const auto root = showRoot();
+    const auto label = std::make_shared<UILabel>();
+    label->setNumberOfLines(0);
+    label->setFrame({{0, 0}, {60, 100}});
+    root->view()->addSubview(label);
+    const auto described = [&] { return *window->semanticTree().children.at(0).text; };
+    EXPECT_EQ(described().lineCount, 0);
+
+    label->setFont({.face = nullptr, .size = 10});
+    label->setText("one two three");
+    EXPECT_EQ(described().lineCount, 2);
+    EXPECT_TRUE(described().runs.empty());
+    EXPECT_TRUE(accessibility::contains(window->semanticTree().children.at(0).traits, accessibility::Traits::staticText));
+    label->setText("");
+    EXPECT_EQ(described().lineCount, 0);
+    EXPECT_THAT(painted().commands, IsEmpty());
+    EXPECT_EQ(label->sizeThatFits({10, 10}), (Size{0, 0}));
+}
+
+TEST_F(ScreenTest, ALabelsNaturalSizeFollowsTheWidthThatItIsGiven) {
+    UILabel label;
+    label.setFont({.face = nullptr, .size = 10}); // a character is 5 wide, a line 12.5 high
+    label.setText("one two");
+    EXPECT_EQ(label.naturalSizeFor({20, 100}), (Size{35, 12.5}));
+
+    label.setNumberOfLines(0);
+    EXPECT_EQ(label.naturalSizeFor({20, 100}), (Size{15, 25}));
+    EXPECT_EQ(label.naturalSizeFor({35, 100}), (Size{35, 12.5}));
+    label.setPreferredMaxLayoutWidth(100);
+    EXPECT_EQ(label.naturalSizeFor({20, 100}), (Size{35, 12.5}));
+    EXPECT_EQ(label.preferredMaxLayoutWidth(), 100);
 }
 
 // --- Revealing ---
