@@ -113,6 +113,45 @@ TEST_F(Entering, LeavesHalfWayByTheWayOut) {
     EXPECT_EQ(top(), 48.75);
 }
 
+// --- Animations of an update ---
+
+TEST(AnimationOfAnUpdate, IsForgottenWhereNothingIsLaidOut) {
+    Screen screen{[] { return block("box", 10, 10) | frame({.maxWidth = geometry::infinity, .alignment = Alignment::trailing}); },
+                  {100, 100}};
+    {
+        const Transaction::Scope scope(motion::Animation{motion::TimingCurve::linear(), 1});
+        screen.host().setNeedsUpdate();
+    }
+    screen.settle();
+
+    screen.host().setSize({200, 100}, {});
+    screen.settle();
+
+    EXPECT_EQ(screen.frame("box").minX(), 190);
+    EXPECT_FALSE(screen.host().isAnimating());
+}
+
+TEST(AnimationOfAnUpdate, EndsWithTheLayoutThatItMoves) {
+    double width = 10;
+    Screen screen{
+        [&] { return block("box", width, 10) | frame({.maxWidth = geometry::infinity, .alignment = Alignment::leading}); },
+        {100, 100}};
+    {
+        const Transaction::Scope scope(motion::Animation{motion::TimingCurve::linear(), 1});
+        width = 30;
+        screen.host().setNeedsUpdate();
+    }
+    screen.settle();
+    screen.runFor(0.5);
+    EXPECT_EQ(screen.frame("box").width(), 20);
+    screen.runFor(1);
+    width = 50;
+    screen.host().setNeedsUpdate();
+    screen.settle();
+
+    EXPECT_EQ(screen.frame("box").width(), 50);
+}
+
 // --- Transforms ---
 
 TEST(TransformedView, IsScaledAboutItsAnchorAndTurnedAboutItsMiddle) {
