@@ -18,7 +18,7 @@ using geometry::Rect;
 using ::testing::ElementsAre;
 using ::testing::UnorderedElementsAre;
 
-constexpr RGBA ink{10, 20, 30}, clear{10, 20, 30, 0};
+constexpr RGBA grey{10, 20, 30}, clear{10, 20, 30, 0};
 constexpr Rect square{{0, 0}, {10, 10}}, flat{{0, 0}, {10, 0}}, negative{{0, 0}, {-1, 10}};
 
 ImageRef imageNamed(std::string name, RenderingMode mode = RenderingMode::original) {
@@ -40,7 +40,7 @@ std::size_t commandsOf(const Paint& paint) {
 
 TEST(Painting, LeavesNothingOfWhatHasNoAreaOrNoColour) {
     for (const auto& [rect, color, count] : std::vector<std::tuple<Rect, RGBA, std::size_t>>{
-             {square, ink, 1}, {square, clear, 0}, {flat, ink, 0}, {negative, ink, 0}}) {
+             {square, grey, 1}, {square, clear, 0}, {flat, grey, 0}, {negative, grey, 0}}) {
         EXPECT_EQ(commandsOf([&](PaintContext& context) { context.fillRectangle({}, rect, color); }), count);
         EXPECT_EQ(commandsOf([&](PaintContext& context) { context.fillEllipse({}, rect, color); }), count);
         EXPECT_EQ(commandsOf([&](PaintContext& context) { context.shadow({}, rect, 3, {}, color); }), count);
@@ -48,7 +48,7 @@ TEST(Painting, LeavesNothingOfWhatHasNoAreaOrNoColour) {
             commandsOf([&](PaintContext& context) { context.fillRoundedRectangle({}, rect, 2, CornerStyle::circular, color); }),
             count);
         EXPECT_EQ(commandsOf([&](PaintContext& context) { context.fillPath({}, geometry::Path::rectangle(rect), color); }),
-                  rect == negative && color == ink ? 1u : count);
+                  rect == negative && color == grey ? 1u : count);
     }
     const RGBA faint{10, 20, 30, 1};
     EXPECT_EQ(commandsOf([&](PaintContext& context) { context.fillRectangle({}, square, faint); }), 1u);
@@ -57,32 +57,32 @@ TEST(Painting, LeavesNothingOfWhatHasNoAreaOrNoColour) {
 
 TEST(Painting, StrokesFlatFramesButNoneWithoutALength) {
     for (const auto& [rect, width, color, count] :
-         std::vector<std::tuple<Rect, double, RGBA, std::size_t>>{{square, 1, ink, 1},
-                                                                  {square, 0.1, ink, 1},
-                                                                  {square, 0, ink, 0},
+         std::vector<std::tuple<Rect, double, RGBA, std::size_t>>{{square, 1, grey, 1},
+                                                                  {square, 0.1, grey, 1},
+                                                                  {square, 0, grey, 0},
                                                                   {square, 1, clear, 0},
-                                                                  {flat, 1, ink, 1},
-                                                                  {negative, 1, ink, 0},
-                                                                  {{{0, 0}, {0, 10}}, 1, ink, 1},
-                                                                  {{{0, 0}, {10, -1}}, 1, ink, 0}}) {
+                                                                  {flat, 1, grey, 1},
+                                                                  {negative, 1, grey, 0},
+                                                                  {{{0, 0}, {0, 10}}, 1, grey, 1},
+                                                                  {{{0, 0}, {10, -1}}, 1, grey, 0}}) {
         EXPECT_EQ(commandsOf([&](PaintContext& context) {
                       context.strokeRoundedRectangle({}, rect, 2, CornerStyle::circular, width, color);
                   }),
                   count);
         EXPECT_EQ(commandsOf([&](PaintContext& context) { context.strokeEllipse({}, rect, width, color); }), count);
     }
-    EXPECT_EQ(commandsOf([](PaintContext& context) { context.strokePath({}, geometry::Path{}, 1, ink); }), 0u);
-    EXPECT_EQ(commandsOf([](PaintContext& context) { context.strokePath({}, geometry::Path::rectangle(square), 0, ink); }), 0u);
+    EXPECT_EQ(commandsOf([](PaintContext& context) { context.strokePath({}, geometry::Path{}, 1, grey); }), 0u);
+    EXPECT_EQ(commandsOf([](PaintContext& context) { context.strokePath({}, geometry::Path::rectangle(square), 0, grey); }), 0u);
     EXPECT_EQ(commandsOf([](PaintContext& context) { context.strokePath({}, geometry::Path::rectangle(square), 1, clear); }), 0u);
-    EXPECT_EQ(commandsOf([](PaintContext& context) { context.strokePath({}, geometry::Path::rectangle(flat), 1, ink); }), 1u);
+    EXPECT_EQ(commandsOf([](PaintContext& context) { context.strokePath({}, geometry::Path::rectangle(flat), 1, grey); }), 1u);
 }
 
 TEST(Painting, PaintsNoImageThatIsNotThereNorOneInAClearTint) {
     const auto painted = [](const ImageRef& image, const Rect& rect, RGBA tint) {
         return commandsOf([&](PaintContext& context) { context.image({}, rect, image, tint); });
     };
-    EXPECT_EQ(painted(nullptr, square, ink), 0u);
-    EXPECT_EQ(painted(imageNamed("a"), flat, ink), 0u);
+    EXPECT_EQ(painted(nullptr, square, grey), 0u);
+    EXPECT_EQ(painted(imageNamed("a"), flat, grey), 0u);
     EXPECT_EQ(painted(imageNamed("a"), square, clear), 1u);
     EXPECT_EQ(painted(imageNamed("a", RenderingMode::tinted), square, clear), 0u);
     EXPECT_EQ(painted(imageNamed("a", RenderingMode::tinted), square, {1, 2, 3, 1}), 1u);
@@ -97,20 +97,20 @@ TEST(Painting, PaintsTextsThatHaveClusters) {
     const auto painted = [&](const ShapedTextPointer& what, std::uint32_t first, std::uint32_t end, RGBA color) {
         return commandsOf([&](PaintContext& context) { context.text({}, {0, 10}, square, what, first, end, color); });
     };
-    EXPECT_EQ(painted(text, 0, 3, ink), 1u);
-    EXPECT_EQ(painted(text, 2, 3, ink), 1u);
-    EXPECT_EQ(painted(text, 3, 3, ink), 0u);
+    EXPECT_EQ(painted(text, 0, 3, grey), 1u);
+    EXPECT_EQ(painted(text, 2, 3, grey), 1u);
+    EXPECT_EQ(painted(text, 3, 3, grey), 0u);
     EXPECT_EQ(painted(text, 0, 3, clear), 0u);
-    EXPECT_EQ(painted(nullptr, 0, 3, ink), 0u);
+    EXPECT_EQ(painted(nullptr, 0, 3, grey), 0u);
 }
 
 TEST(Painting, KeepsWhatASoftShadowNeeds) {
     DisplayList list;
     PaintContext context(list);
 
-    context.shadow({}, {{10, 10}, {20, 20}}, 4, {3, -2}, ink);
-    context.shadow({}, {{10, 10}, {20, 20}}, -4, {}, ink);
-    context.strokeRoundedRectangle({}, {{10, 10}, {20, 20}}, -2, CornerStyle::continuous, 4, ink);
+    context.shadow({}, {{10, 10}, {20, 20}}, 4, {3, -2}, grey);
+    context.shadow({}, {{10, 10}, {20, 20}}, -4, {}, grey);
+    context.strokeRoundedRectangle({}, {{10, 10}, {20, 20}}, -2, CornerStyle::continuous, 4, grey);
 
     ASSERT_EQ(list.commands.size(), 3u);
     EXPECT_EQ(list.commands[0].frame, (Rect{{13, 8}, {20, 20}}));
@@ -128,7 +128,7 @@ TEST(Painting, KeepsWhatASoftShadowNeeds) {
 DisplayList rectangles(const std::vector<Rect>& rects) {
     DisplayList list;
     PaintContext context(list);
-    for (const Rect& rect : rects) context.fillRectangle({}, rect, ink);
+    for (const Rect& rect : rects) context.fillRectangle({}, rect, grey);
     return list;
 }
 
@@ -313,7 +313,7 @@ TEST(StruckThroughText, IsCrossedBetweenItsBaselineAndItsCapitalsTop) {
     DisplayList list;
     PaintContext context(list);
     const auto text = shaped({styled("abc", 16), styled("de", 32)});
-    const std::vector<TextRunPaint> paints{{ink, true}, {ink, true}};
+    const std::vector<TextRunPaint> paints{{grey, true}, {grey, true}};
 
     paintTextLayout(context, {}, laidOut(*text, {}), text, nullptr, {{0, 0}, {200, 40}}, TextAlignment::leading, paints);
 
@@ -332,7 +332,7 @@ TEST(LinesOutOfSight, AreLeftOutButNotThoseWhoseLettersReachIn) {
         DisplayList list;
         PaintContext context(list);
         paintTextLayout(context, PaintState{}.clippedTo(seen), laidOut(*text, {}), text, nullptr, {{0, 0}, {50, 100}},
-                        TextAlignment::leading, std::vector<TextRunPaint>{{ink}});
+                        TextAlignment::leading, std::vector<TextRunPaint>{{grey}});
         std::vector<double> tops;
         for (const Command& command : list.commands) tops.push_back(command.frame.minY() - 10);
         return tops;

@@ -7,7 +7,7 @@ namespace {
 using graphics::CommandKind;
 using testing::ElementsAre;
 
-constexpr graphics::Color red{"red", graphics::rgb(0xFF0000), graphics::rgb(0xFF8080)};
+constexpr graphics::Color crimson{"crimson", graphics::rgb(0xFF0000), graphics::rgb(0xFF8080)};
 constexpr Rect box{{10, 20}, {60, 40}};
 
 geometry::Path slanted(const Rect& rect, double share) {
@@ -70,17 +70,17 @@ TEST(ShapeOutline, HasAName) {
 }
 
 TEST(ShapeStyle, FillsOrStrokesWithAColourOrTheForeground) {
-    const Shape stroked = Circle().stroke(red, 3);
+    const Shape stroked = Circle().stroke(crimson, 3);
     EXPECT_TRUE(stroked.isStroked());
     EXPECT_EQ(stroked.lineWidth(), 3);
-    EXPECT_EQ(stroked.color(), red);
+    EXPECT_EQ(stroked.color(), crimson);
     EXPECT_EQ(stroked.stroke(2).color(), std::nullopt);
     EXPECT_EQ(stroked.stroke(2).lineWidth(), 2);
     EXPECT_EQ(stroked.stroke(geometry::infinity).lineWidth(), 0);
     EXPECT_FALSE(stroked.fill().isStroked());
     EXPECT_EQ(stroked.fill().color(), std::nullopt);
-    EXPECT_FALSE(stroked.fill(red).isStroked());
-    EXPECT_EQ(stroked.fill(red).color(), red);
+    EXPECT_FALSE(stroked.fill(crimson).isStroked());
+    EXPECT_EQ(stroked.fill(crimson).color(), crimson);
 }
 
 // --- Commands ---
@@ -93,9 +93,9 @@ std::vector<graphics::Command> commandsOf(std::function<View()> view) {
 
 TEST(ShapePainting, FillsByTheCommandOfItsKind) {
     const auto kindOf = [](const Shape& shape) {
-        const auto commands = commandsOf([&] { return View{shape.fill(red)}; });
+        const auto commands = commandsOf([&] { return View{shape.fill(crimson)}; });
         EXPECT_EQ(commands.size(), 1u);
-        EXPECT_EQ(commands.at(0).color, red.light);
+        EXPECT_EQ(commands.at(0).color, crimson.light);
         return commands.at(0).kind;
     };
     EXPECT_EQ(kindOf(Rectangle()), CommandKind::fillRectangle);
@@ -108,9 +108,9 @@ TEST(ShapePainting, FillsByTheCommandOfItsKind) {
 
 TEST(ShapePainting, StrokesByTheCommandOfItsKind) {
     const auto kindOf = [](const Shape& shape) {
-        const auto commands = commandsOf([&] { return View{shape.stroke(red, 3)}; });
+        const auto commands = commandsOf([&] { return View{shape.stroke(crimson, 3)}; });
         EXPECT_EQ(commands.size(), 1u);
-        EXPECT_EQ(commands.at(0).color, red.light);
+        EXPECT_EQ(commands.at(0).color, crimson.light);
         EXPECT_EQ(commands.at(0).lineWidth, 3);
         return commands.at(0).kind;
     };
@@ -122,34 +122,34 @@ TEST(ShapePainting, StrokesByTheCommandOfItsKind) {
 }
 
 TEST(ShapePainting, PaintsTheOutlineInsideItsFrame) {
-    const auto filled = commandsOf([] { return RoundedRectangle(6, geometry::CornerStyle::continuous).fill(red).inset(5); });
+    const auto filled = commandsOf([] { return RoundedRectangle(6, geometry::CornerStyle::continuous).fill(crimson).inset(5); });
     EXPECT_EQ(filled.at(0).frame, rect(5, 5, 50, 30));
     EXPECT_EQ(filled.at(0).cornerRadius, 6);
     EXPECT_EQ(filled.at(0).cornerStyle, geometry::CornerStyle::continuous);
 
-    const auto stroked = commandsOf([] { return Capsule().stroke(red, 2).inset(1); });
+    const auto stroked = commandsOf([] { return Capsule().stroke(crimson, 2).inset(1); });
     EXPECT_EQ(stroked.at(0).frame, rect(1, 1, 58, 38));
     EXPECT_EQ(stroked.at(0).cornerRadius, 19);
-    EXPECT_EQ(commandsOf([] { return Circle().stroke(red, 2).inset(1); }).at(0).frame, rect(11, 1, 38, 38));
-    EXPECT_EQ(commandsOf([] { return Circle().fill(red); }).at(0).frame, rect(10, 0, 40, 40));
+    EXPECT_EQ(commandsOf([] { return Circle().stroke(crimson, 2).inset(1); }).at(0).frame, rect(11, 1, 38, 38));
+    EXPECT_EQ(commandsOf([] { return Circle().fill(crimson); }).at(0).frame, rect(10, 0, 40, 40));
 }
 
 TEST(ShapePainting, PaintsNoLineWithoutAWidth) {
-    EXPECT_TRUE(commandsOf([] { return Circle().stroke(red, 0); }).empty());
-    EXPECT_TRUE(commandsOf([] { return Circle().stroke(red, -1); }).empty());
-    EXPECT_EQ(commandsOf([] { return Circle().stroke(red, 0.1); }).size(), 1u);
+    EXPECT_TRUE(commandsOf([] { return Circle().stroke(crimson, 0); }).empty());
+    EXPECT_TRUE(commandsOf([] { return Circle().stroke(crimson, -1); }).empty());
+    EXPECT_EQ(commandsOf([] { return Circle().stroke(crimson, 0.1); }).size(), 1u);
 }
 
 TEST(ShapePainting, TakesTheForegroundAndTheScheme) {
-    EXPECT_EQ(commandsOf([] { return Circle() | foregroundStyle(red); }).at(0).color, red.light);
-    EXPECT_EQ(commandsOf([] { return Circle() | foregroundStyle(red) | colorScheme(graphics::ColorScheme::dark); }).at(0).color,
-              red.dark);
-    EXPECT_EQ(commandsOf([] { return ColorView{red} | colorScheme(graphics::ColorScheme::dark); }).at(0).color, red.dark);
+    EXPECT_EQ(commandsOf([] { return Circle() | foregroundStyle(crimson); }).at(0).color, crimson.light);
+    EXPECT_EQ(commandsOf([] { return Circle() | foregroundStyle(crimson) | colorScheme(graphics::ColorScheme::dark); }).at(0).color,
+              crimson.dark);
+    EXPECT_EQ(commandsOf([] { return ColorView{crimson} | colorScheme(graphics::ColorScheme::dark); }).at(0).color, crimson.dark);
 }
 
 TEST(ShapePainting, FadesAColourByItsOpacity) {
     const auto alphaAt = [](double opacity) {
-        const auto commands = commandsOf([=] { return ColorView{red, opacity}; });
+        const auto commands = commandsOf([=] { return ColorView{crimson, opacity}; });
         return commands.empty() ? 0 : int(commands.at(0).color.alpha);
     };
     EXPECT_EQ(alphaAt(0.5), 128);
@@ -159,7 +159,7 @@ TEST(ShapePainting, FadesAColourByItsOpacity) {
 }
 
 TEST(ShapePainting, CastsAShadowOfItsFrame) {
-    const auto commands = commandsOf([] { return ColorView{red} | frame(20, 10) | shadow(red, 0.5, 4, 3, -2); });
+    const auto commands = commandsOf([] { return ColorView{crimson} | frame(20, 10) | shadow(crimson, 0.5, 4, 3, -2); });
 
     ASSERT_EQ(commands.size(), 2u);
     EXPECT_EQ(commands[0].kind, CommandKind::shadow);
@@ -176,13 +176,13 @@ TEST(ShapePainting, ReachesIntoTheWindowByAllThatIsPaintedOfIt) {
     };
     EXPECT_FALSE(isPainted(Circle(), 0));
     EXPECT_TRUE(isPainted(Circle(), -1));
-    EXPECT_TRUE(isPainted(Circle().stroke(red, 8), 3));
-    EXPECT_FALSE(isPainted(Circle().stroke(red, 8), 5));
-    EXPECT_TRUE(isPainted(Circle().fill(red).inset(-6), 5));
-    EXPECT_FALSE(isPainted(Circle().fill(red).inset(-6), 7));
+    EXPECT_TRUE(isPainted(Circle().stroke(crimson, 8), 3));
+    EXPECT_FALSE(isPainted(Circle().stroke(crimson, 8), 5));
+    EXPECT_TRUE(isPainted(Circle().fill(crimson).inset(-6), 5));
+    EXPECT_FALSE(isPainted(Circle().fill(crimson).inset(-6), 7));
     const auto isShadowPainted = [](double x, double radius, double distance) {
         return !commandsOf([=] {
-                    return ColorView{red} | frame(10, 10) | shadow(red, 1, radius, x, 0) | offset(-35 - distance, 0);
+                    return ColorView{crimson} | frame(10, 10) | shadow(crimson, 1, radius, x, 0) | offset(-35 - distance, 0);
                 }).empty();
     };
     EXPECT_TRUE(isShadowPainted(0, 4, 7));
@@ -192,12 +192,12 @@ TEST(ShapePainting, ReachesIntoTheWindowByAllThatIsPaintedOfIt) {
 }
 
 TEST(ShapePainting, ClipsToAShape) {
-    const auto commands = commandsOf([] { return ColorView{red} | frame(30, 20) | clipShape(Capsule()); });
+    const auto commands = commandsOf([] { return ColorView{crimson} | frame(30, 20) | clipShape(Capsule()); });
     EXPECT_EQ(commands.at(0).clip, rect(15, 10, 30, 20));
     EXPECT_EQ(commands.at(0).clipRadius, 10);
-    const auto rounded = commandsOf([] { return ColorView{red} | frame(30, 20) | cornerRadius(3); });
+    const auto rounded = commandsOf([] { return ColorView{crimson} | frame(30, 20) | cornerRadius(3); });
     EXPECT_EQ(rounded.at(0).clipRadius, 3);
-    const auto plain = commandsOf([] { return ColorView{red} | frame(30, 20) | frame(10, 10) | clipped(); });
+    const auto plain = commandsOf([] { return ColorView{crimson} | frame(30, 20) | frame(10, 10) | clipped(); });
     EXPECT_EQ(plain.at(0).clip, rect(25, 15, 10, 10));
     EXPECT_EQ(plain.at(0).clipRadius, 0);
 }
@@ -205,10 +205,10 @@ TEST(ShapePainting, ClipsToAShape) {
 TEST(ShapePainting, AnImageIsPaintedInItsFrame) {
     const auto picture = std::make_shared<graphics::Image>(
         graphics::Image{.name = "Picture", .size = {20, 10}, .renderingMode = graphics::RenderingMode::tinted});
-    const auto natural = commandsOf([&] { return Image{picture} | foregroundStyle(red); });
+    const auto natural = commandsOf([&] { return Image{picture} | foregroundStyle(crimson); });
     ASSERT_EQ(natural.size(), 1u);
     EXPECT_EQ(natural[0].frame, rect(20, 15, 20, 10));
-    EXPECT_EQ(natural[0].color, red.light);
+    EXPECT_EQ(natural[0].color, crimson.light);
     EXPECT_EQ(commandsOf([&] { return Image{picture}.resizable(); }).at(0).frame, rect(0, 0, 60, 40));
     EXPECT_TRUE(commandsOf([] { return Image{}; }).empty());
 }

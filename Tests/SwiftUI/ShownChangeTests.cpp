@@ -19,7 +19,7 @@ void PrintTo(const ShownChange& change, std::ostream* out) { *out << change.name
 
 View square() { return ColorView{blue} | frame(20, 20); }
 View bar() { return ColorView{red} | frame(40, 10); }
-View words() { return Text{"one two three four five six"} | font(tenPoints) | frame({.width = 60}); }
+View sixWords() { return Text{"one two three four five six"} | font(tenPoints) | frame({.width = 60}); }
 graphics::ImageRef pictureOf(std::string name, Size size, graphics::RenderingMode mode = graphics::RenderingMode::original) {
     return std::make_shared<graphics::Image>(graphics::Image{.name = std::move(name), .size = size, .renderingMode = mode});
 }
@@ -159,19 +159,22 @@ std::vector<ShownChange> pictureChanges() {
         {"resizable image", [] { return Image{small}; }, [] { return Image{small}.resizable(); }},
         {"no image", [] { return Image{small}; }, [] { return Image{}; }},
         {"tint", [] { return Image{tinted} | foregroundStyle(red); }, [] { return Image{tinted} | foregroundStyle(blue); }},
-        {"words", [] { return words(); }, [] { return Text{"seven"} | font(tenPoints) | frame({.width = 60}); }},
-        {"foreground of a text", [] { return words() | foregroundStyle(red); }, [] { return words() | foregroundStyle(blue); }},
-        {"scheme of a text", [] { return words() | foregroundStyle(red) | colorScheme(graphics::ColorScheme::light); },
-         [] { return words() | foregroundStyle(red) | colorScheme(graphics::ColorScheme::dark); }},
+        {"words", [] { return sixWords(); }, [] { return Text{"seven"} | font(tenPoints) | frame({.width = 60}); }},
+        {"foreground of a text", [] { return sixWords() | foregroundStyle(red); },
+         [] { return sixWords() | foregroundStyle(blue); }},
+        {"scheme of a text", [] { return sixWords() | foregroundStyle(red) | colorScheme(graphics::ColorScheme::light); },
+         [] { return sixWords() | foregroundStyle(red) | colorScheme(graphics::ColorScheme::dark); }},
         {"font", [] { return Text{"one"} | font(tenPoints); }, [] { return Text{"one"} | font({.size = 20, .name = "twenty"}); }},
-        {"alignment of lines", [] { return words() | multilineTextAlignment(graphics::TextAlignment::leading); },
-         [] { return words() | multilineTextAlignment(graphics::TextAlignment::trailing); }},
-        {"line limit", [] { return words() | lineLimit(1); }, [] { return words() | lineLimit(2); }},
-        {"line spacing", [] { return words() | lineSpacing(1); }, [] { return words() | lineSpacing(4); }},
-        {"case", [] { return words() | textCase(TextCase::asWritten); }, [] { return words() | textCase(TextCase::uppercase); }},
-        {"least scale", [] { return words() | lineLimit(1); }, [] { return words() | lineLimit(1) | minimumScaleFactor(0.2); }},
-        {"direction", [] { return words() | layoutDirection(geometry::LayoutDirection::leftToRight); },
-         [] { return words() | layoutDirection(geometry::LayoutDirection::rightToLeft); }},
+        {"alignment of lines", [] { return sixWords() | multilineTextAlignment(graphics::TextAlignment::leading); },
+         [] { return sixWords() | multilineTextAlignment(graphics::TextAlignment::trailing); }},
+        {"line limit", [] { return sixWords() | lineLimit(1); }, [] { return sixWords() | lineLimit(2); }},
+        {"line spacing", [] { return sixWords() | lineSpacing(1); }, [] { return sixWords() | lineSpacing(4); }},
+        {"case", [] { return sixWords() | textCase(TextCase::asWritten); },
+         [] { return sixWords() | textCase(TextCase::uppercase); }},
+        {"least scale", [] { return sixWords() | lineLimit(1); },
+         [] { return sixWords() | lineLimit(1) | minimumScaleFactor(0.2); }},
+        {"direction", [] { return sixWords() | layoutDirection(geometry::LayoutDirection::leftToRight); },
+         [] { return sixWords() | layoutDirection(geometry::LayoutDirection::rightToLeft); }},
         {"direction of a row",
          [] {
              return HStack{.content = {square(), bar()}} | layoutDirection(geometry::LayoutDirection::leftToRight);
