@@ -95,9 +95,11 @@ TEST_F(BuiltInServices, TakeEveryCodePointForACharacter) {
 }
 
 TEST_F(BuiltInServices, KnowWhoWritesFromRightToLeft) {
-    for (const char* identifier : {"ar", "ar_EG", "he_IL", "fa", "ur-PK", "AR", "pa_Arab_PK", "az-arab"})
+    for (const char* identifier : {"ar",     "ar_EG",  "he_IL",  "iw",     "fa",     "ur-PK",  "yi",     "ps",         "sd",
+                                   "ug",     "dv",     "ckb",    "prs",    "syr",    "nqo",    "AR",     "pa_Arab_PK", "az-arab",
+                                   "x_Hebr", "x_Syrc", "x_Thaa", "x_Nkoo", "x_Adlm", "x_Aran", "x_Rohg", "x_Mand",     "x_Samr"})
         EXPECT_EQ(services.layoutDirection(Locale(identifier)), LayoutDirection::rightToLeft) << identifier;
-    for (const char* identifier : {"en_US", "de", "", "pa", "ar_Latn", "zh_Hant_TW", "de_1996", "tr_TR"})
+    for (const char* identifier : {"en_US", "de", "", "pa", "ar_Latn", "zh_Hant_TW", "de_1996", "tr_TR", "arab", "arx", "x_Arabi"})
         EXPECT_EQ(services.layoutDirection(Locale(identifier)), LayoutDirection::leftToRight) << identifier;
 }
 

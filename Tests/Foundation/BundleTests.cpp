@@ -137,7 +137,8 @@ TEST_F(Localized, LogsATableThatIsNoFile) {
 
     EXPECT_EQ(lookUp("a", "de"), "a");
 
-    EXPECT_THAT(log.messages(), ElementsAre(HasSubstr("de.lproj/Localizable.strings: the file cannot be read")));
+    EXPECT_THAT(log.messages(),
+                ElementsAre(HasSubstr("de.lproj/Localizable.strings: the file cannot be read; none of its translations are used")));
 }
 
 TEST_F(Localized, ReadsEachTableOnce) {

@@ -5,6 +5,7 @@
 #include "Platform/Graphics/PictureHeader.hpp"
 #include "Platform/Host/NamedImage.hpp"
 #include "Platform/Host/Services.hpp"
+#include "Platform/System/PathText.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
 
@@ -68,8 +69,8 @@ TEST_F(NamedImage, IsReadOnce) {
 TEST_F(NamedImage, StopsTheProgramWhereItIsMissingOrBroken) {
     folder.write("broken.picture", pictureOf({20, 10}).substr(0, 30));
 
-    EXPECT_DEATH(namedImage("logo", bundle), "There is no image \"logo\"");
-    EXPECT_DEATH(namedImage("broken", bundle), "There is no image \"broken\"");
+    EXPECT_DEATH(namedImage("logo", bundle), "There is no image \"logo\" in " + system::textOf(folder.path()));
+    EXPECT_DEATH(namedImage("broken", bundle), "There is no image \"broken\" in " + system::textOf(folder.path()));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // What is written down of what goes into a content.
 #include <gmock/gmock.h>
 
+#include "Platform/Host/AssistiveOperation.hpp"
 #include "Platform/Host/InputPlayer.hpp"
 #include "Platform/Host/RecordedContent.hpp"
 #include "Platform/Host/RecordedInputText.hpp"
@@ -189,6 +190,48 @@ TEST_F(RecordedContents, ArePlayedBack) {
 
     EXPECT_EQ(played.lines, diary->lines);
     EXPECT_EQ(playing.now_s(), 0.75);
+}
+
+TEST_F(RecordedContents, ArePlayedWithMiceWheelsAndKeys) {
+    InputPlayer player(*diary, loop);
+    loop.settle();
+
+    for (const Input& input : std::vector<Input>{PointerInput{}, ScrollInput{}, KeyInput{}, FocusInput{},
+                                                 FocusInput{FocusEnd::last}, FocusRule{}, SightInput{}, ReadingLook{}})
+        player.play({0, input, true});
+
+    EXPECT_THAT(diary->lines, ElementsAre("pointer@0", "scroll@0", "key@0", "dropFocus@0", "takeFocus@0", "setFocusLeaves@0",
+                                          "setSeen@0", "reading@0"));
+}
+
+TEST_F(RecordedContents, PlayNothingOnAnElementThatIsNotThere) {
+    InputPlayer player(*diary, loop);
+
+    player.play({0, AssistiveInput{1, AssistiveAction::activate}, true});
+    player.play({0, AssistiveInput{2, AssistiveAction::activate}, true});
+
+    EXPECT_THAT(diary->lines, ElementsAre("reading@0", "activate@0", "reading@0"));
+}
+
+TEST(RecordedContentDeathTest, NeedsAContent) { EXPECT_DEATH(RecordedContent(nullptr), "A recorded content needs a content"); }
+
+TEST(AssistiveOperation, DoesWhatItIsCalledWhereTheElementCan) {
+    std::vector<std::string> done;
+    accessibility::ReadingElement element;
+    for (const AssistiveAction action : {AssistiveAction::activate, AssistiveAction::increase, AssistiveAction::decrease,
+                                         AssistiveAction::reveal, AssistiveAction::revealWhole, AssistiveAction::focus})
+        perform(element, action);
+    element.activate = [&] { done.push_back("activate"); };
+    element.adjust = [&](int step) { done.push_back("adjust by " + std::to_string(step)); };
+    element.reveal = [&] { done.push_back("reveal"); };
+    element.revealWhole = [&] { done.push_back("revealWhole"); };
+    element.focus = [&] { done.push_back("focus"); };
+
+    for (const AssistiveAction action : {AssistiveAction::activate, AssistiveAction::increase, AssistiveAction::decrease,
+                                         AssistiveAction::reveal, AssistiveAction::revealWhole, AssistiveAction::focus})
+        perform(element, action);
+
+    EXPECT_THAT(done, ElementsAre("activate", "adjust by 1", "adjust by -1", "reveal", "revealWhole", "focus"));
 }
 
 } // namespace

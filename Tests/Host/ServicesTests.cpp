@@ -34,13 +34,15 @@ std::unique_ptr<Installation> installLocaleServices(std::string name) {
 
 TEST(Installation, StopsTheProgramWhereThereIsNone) {
     EXPECT_FALSE(Installation::exists());
-    EXPECT_DEATH(Installation::current(), "No services are installed");
+    EXPECT_DEATH(Installation::current(), "No services are installed: call proupsells::standard::install\\(\\), or create a "
+                                          "host::Installation, before the first view");
 }
 
 TEST(Installation, StopsTheProgramWhereATextIsToBeMeasuredWithoutAShaper) {
     const Installation installation{Services{}};
 
-    EXPECT_DEATH(Installation::textShaper(), "No text shaper is installed");
+    EXPECT_DEATH(Installation::textShaper(),
+                 "No text shaper is installed: host::Services::textShaper is null, and a text is to be measured");
 }
 
 TEST(Installation, CountsWhileItIsTheNewest) {

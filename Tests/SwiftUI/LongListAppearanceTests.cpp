@@ -136,25 +136,33 @@ TEST(LongListAppearances, AreTheSameWhetherEverybodyIsAskedOrNot) {
 }
 
 TEST(LongListAppearances, GoOnAfterRowsHaveGone) {
-    int count = 100;
-    std::vector<std::string> events;
-    TouchScreen screen{[&] {
-        return ScrollView{.content = {VStack{.spacing = 0, .content = {ForEach(count, [&](int row) {
-                                                               return box(300, 100, "row") | swiftui::onAppear([&, row] {
-                                                                          events.push_back(std::to_string(row));
-                                                                      });
-                                                           })}}}};
-    }};
-    screen.host().scroll({100, 100}, {0, 100});
-    screen.settle();
-    count = 50;
-    screen.rebuild();
-    events.clear();
+    // 50 of them, and one.
+    for (const int remaining : {50, 99}) {
+        int count = 100;
+        std::vector<std::string> events;
+        TouchScreen screen{[&] {
+            return ScrollView{.content = {VStack{.spacing = 0, .content = {ForEach(count, [&](int row) {
+                                                                   return box(300, 100, "row") | swiftui::onAppear([&, row] {
+                                                                              events.push_back(std::to_string(row));
+                                                                          });
+                                                               })}}}};
+        }};
+        screen.host().scroll({100, 100}, {0, 100});
+        screen.settle();
+        count = remaining;
+        screen.rebuild();
+        events.clear();
 
-    screen.host().scroll({100, 100}, {0, 9000});
-    screen.settle();
+        screen.host().scroll({100, 100}, {0, 50});
+        screen.settle();
+        EXPECT_THAT(events, ElementsAre("5"));
+        events.clear();
+        screen.host().scroll({100, 100}, {0, 9900});
+        screen.settle();
 
-    EXPECT_THAT(events, ElementsAre("46", "47", "48", "49"));
+        EXPECT_THAT(events, ElementsAre(std::to_string(remaining - 4), std::to_string(remaining - 3), std::to_string(remaining - 2),
+                                        std::to_string(remaining - 1)));
+    }
 }
 
 } // namespace

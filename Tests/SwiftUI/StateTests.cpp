@@ -175,7 +175,8 @@ TEST(EnvironmentObject, ReachesViewsInsideAndIsObserved) {
 }
 
 TEST(EnvironmentObjectDeathTest, AMissingOneStopsTheProgram) {
-    EXPECT_DEATH(Screen([] { return FromEnvironment{}; }, {100, 100}), "No object of type Model in the environment");
+    EXPECT_DEATH(Screen([] { return FromEnvironment{}; }, {100, 100}),
+                 "No object of type Model in the environment; an environmentObject\\(\\) further out is missing");
 }
 
 struct Fickle {

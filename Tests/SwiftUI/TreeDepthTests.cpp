@@ -26,7 +26,8 @@ TEST(TreeDepth, MayBeGreat) {
 }
 
 TEST(TreeDepthDeathTest, IsRefusedBeyondFiveHundred) {
-    EXPECT_DEATH(Screen([] { return Nest{5000}; }, {100, 100}), "Views are nested too deeply: more than 500");
+    EXPECT_DEATH(Screen([] { return Nest{5000}; }, {100, 100}),
+                 "Views are nested too deeply: more than 500 stand inside each other. Is one of them its own content");
 }
 
 TEST(TreeDepthDeathTest, IsRefusedOfAViewInItself) {

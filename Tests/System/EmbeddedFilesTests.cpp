@@ -123,8 +123,9 @@ std::string complaintAbout(std::initializer_list<EmbeddedFile> files) {
 
 TEST(EmbeddedFiles, TellWhatIsWrongWithATable) {
     EXPECT_EQ(complaintAbout({{"a", one, two}, {"b", two, two}}), "");
-    EXPECT_THAT(complaintAbout({}), HasSubstr("none"));
-    EXPECT_THAT(complaintAbout({{"a", one, two}, {nullptr, two, end}}), HasSubstr("number 1"));
+    EXPECT_EQ(complaintAbout({}), "there are none");
+    EXPECT_THAT(complaintAbout({{"a", one, two}, {nullptr, two, end}}), HasSubstr("number 1 has no name"));
+    EXPECT_EQ(complaintAbout({{"", one, two}}), "number 0 has no name");
     EXPECT_THAT(complaintAbout({{"a", two, one}}), HasSubstr("a has no bytes"));
     EXPECT_THAT(complaintAbout({{"a", one, two}, {"c", nullptr, nullptr}}), HasSubstr("c has no bytes"));
     EXPECT_THAT(complaintAbout({{"b", one, two}, {"a", one, two}}), HasSubstr("a is out of order"));

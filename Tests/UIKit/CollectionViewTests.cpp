@@ -389,8 +389,8 @@ TEST_F(CollectionViewDeathTest, ADataSourceMustHaveACellForEveryItem) {
     collection->setDataSource(forgetful);
     collection->setFlowLayoutDelegate(forgetful);
 
-    EXPECT_DEATH(show(), "the data source has no view");
-    EXPECT_DEATH(UICollectionView{nullptr}, "a layout is missing");
+    EXPECT_DEATH(show(), "UICollectionView: the data source has no view for an item, a header or a footer");
+    EXPECT_DEATH(UICollectionView{nullptr}, "UICollectionView: a layout is missing");
 }
 
 } // namespace
