@@ -77,6 +77,21 @@ TEST_F(LargeClip, IsClosedWhileItIsNotShown) {
     EXPECT_THAT(complaints(), testing::IsEmpty());
 }
 
+TEST_F(LargeClip, TakesNoMoreMemoryTheLongerItPlays) {
+    if (isSanitized) GTEST_SKIP() << "sanitizers keep what is given back";
+    LazyClipDecoder decoder = exactDecoder();
+    const auto clip = decoder.open(counting);
+    const auto playRounds = [&](int count) {
+        for (int picture = 0; picture < 20 * count; ++picture) clip->frameAt(picture * 0.1);
+    };
+    playRounds(20);
+    const std::size_t before = usedMemory_bytes();
+    playRounds(200);
+
+    // A hundred bytes for each picture would be 400 KB.
+    EXPECT_LT(usedMemory_bytes(), before + (100u << 10));
+}
+
 TEST_F(LargeClip, ThatIsAPictureIsRefused) {
     // A canvas of 20,000 by 20,000 with a picture of one point in it.
     std::string gif = "GIF89a";
