@@ -45,7 +45,9 @@ TEST_F(LargeClip, IsRefusedByItsSizeAlone) {
     EXPECT_FALSE(clip->frameAt(0).picture);
 
     EXPECT_FALSE(clip->isPlayable());
-    EXPECT_THAT(complaints(), ElementsAre(HasSubstr("its pictures are 16384 by 16384 pixels, expected at most")));
+    EXPECT_THAT(complaints(),
+                ElementsAre("The clip \"clip.mp4\" cannot be played: its pictures are 16384 by 16384 pixels, expected "
+                            "at most as many as 3840 by 2176 have"));
     EXPECT_LT(usedMemory_bytes(), before + (64u << 20));
 }
 
@@ -54,6 +56,8 @@ TEST_F(LargeClip, OfTheGreatestSizeIsNotRefused) {
     LazyClipDecoder decoder = exactDecoder();
 
     EXPECT_TRUE(decoder.open(file)->frameAt(0).picture);
+    EXPECT_FALSE(decoder.open(fileWith(described("avc1", 3840, 2177), "larger.mp4"))->frameAt(0).picture);
+    EXPECT_THAT(complaints(), ElementsAre(HasSubstr("its pictures are 3840 by 2177 pixels")));
 }
 
 TEST_F(LargeClip, IsClosedWhileItIsNotShown) {
