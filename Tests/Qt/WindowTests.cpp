@@ -412,9 +412,12 @@ TEST_F(QtWindowTest, IsReadAsAWindowOfTheProgram) {
 }
 
 TEST_F(QtWindowTest, HasWholePointsForItsSize) {
-    const qtbackend::QtWindow other(std::make_shared<FakeContent>(), {.title = "Other", .size = {99.6, 80.4}});
+    const auto shown = std::make_shared<FakeContent>();
+    const qtbackend::QtWindow other(shown, {.title = "Other", .size = {99.6, 80.4}, .safeArea = {1, 2, 3, 4}});
 
     EXPECT_EQ(other.size(), QSize(100, 80));
+    EXPECT_EQ(shown->size, (geometry::Size{100, 80}));
+    EXPECT_EQ(shown->safeArea, (geometry::PhysicalInsets{1, 2, 3, 4}));
     EXPECT_EQ(other.title(), "Other");
     EXPECT_EQ(other.surfaceType(), QSurface::RasterSurface);
 }
