@@ -449,6 +449,21 @@ TEST_F(Items, MoveToAnotherWindow) {
     EXPECT_NE(other.grabWindow().pixel(187, 450), window.grabWindow().pixel(187, 450));
 }
 
+TEST_F(Items, RunNothingInAWindowThatIsHiddenYet) {
+    show();
+    QQuickWindow other;
+    other.resize(375, 900);
+    root->setParentItem(other.contentItem());
+    EXPECT_FALSE(paywall->uiWindow().isSeen());
+    other.show();
+    EXPECT_TRUE(paywall->uiWindow().isSeen());
+    window.hide();
+    EXPECT_TRUE(paywall->uiWindow().isSeen());
+
+    root->setParentItem(nullptr);
+    EXPECT_FALSE(paywall->uiWindow().isSeen());
+}
+
 TEST_F(Items, MayBeDeletedFromInsideACallback) {
     show();
     QObject::connect(paywall, &PaywallItem::purchaseRequested, [this] { root.reset(); });

@@ -130,6 +130,16 @@ TEST_F(Widgets, HandOnFingers) {
     EXPECT_THAT(screen->presses, ElementsAre("first"));
 }
 
+TEST_F(Widgets, GiveUpAPressWhenTheyAreHidden) {
+    show();
+    tests::mouse(*widget, QEvent::MouseButtonPress, {10, 10});
+    widget->hide();
+    widget->show();
+    tests::mouse(*widget, QEvent::MouseButtonRelease, {10, 10});
+
+    EXPECT_THAT(screen->presses, IsEmpty());
+}
+
 TEST_F(Widgets, ShowAHandAsSoonAsTheMouseComesIn) {
     show();
     QEnterEvent enters({10, 10}, {10, 10}, widget->mapToGlobal(QPointF(10, 10)));
