@@ -88,6 +88,17 @@ TEST(PercentFormat, FindsThePlaceOfANameThatIcuKnowsOtherwise) {
         EXPECT_THAT(differencesIn(icu::Locale(name)), testing::IsEmpty());
 }
 
+TEST(PercentFormat, LeavesTheSignsInQuotesAsTheyAre) {
+    const auto written = [](const char16_t* pattern) {
+        return PercentFormat(icubackend::PercentElements{.pattern = pattern, .percentSign = u"<percent>", .minusSign = u"<minus>"})
+            .text(0.05, 0);
+    };
+
+    EXPECT_EQ(written(u"-'%-'#,##0%"), "<minus>%-5<percent>");
+    EXPECT_EQ(written(u"#,##0'%'%'-'-"), "5%<percent>-<minus>");
+    EXPECT_EQ(written(u"%''#,##0''%"), "<percent>'5'<percent>");
+}
+
 // What no language's pattern has today.
 struct Pattern {
     const char* name;
