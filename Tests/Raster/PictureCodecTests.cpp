@@ -30,7 +30,7 @@ std::string withNumber(const std::string& bytes, std::size_t place, std::uint32_
     return std::string(bytes).replace(4 * place, 4, four);
 }
 
-bool isRead(std::string_view bytes, PixelSize size = {2, 2}) { return CompressedPicture::parse(bytes, size).has_value(); }
+bool canBeRead(std::string_view bytes, PixelSize size = {2, 2}) { return CompressedPicture::parse(bytes, size).has_value(); }
 
 TEST(PictureCodec, GivesBackEveryPixel) {
     const Picture picture = largePicture();
@@ -62,23 +62,23 @@ TEST(PictureCodec, KnowsWhatIsOpaque) {
 TEST(PictureCodec, ReadsTilesOfAnySizeThatAPictureMayHave) {
     const std::string bytes = compressed(smallPicture(0xFF123456));
     for (const std::size_t place : {0, 1}) {
-        EXPECT_TRUE(isRead(withNumber(bytes, place, 2)));
-        EXPECT_TRUE(isRead(withNumber(bytes, place, 0x7FFF)));
-        EXPECT_FALSE(isRead(withNumber(bytes, place, 0)));
-        EXPECT_FALSE(isRead(withNumber(bytes, place, 0x8000)));
-        EXPECT_FALSE(isRead(withNumber(bytes, place, 0xFFFFFFFF)));
+        EXPECT_TRUE(canBeRead(withNumber(bytes, place, 2)));
+        EXPECT_TRUE(canBeRead(withNumber(bytes, place, 0x7FFF)));
+        EXPECT_FALSE(canBeRead(withNumber(bytes, place, 0)));
+        EXPECT_FALSE(canBeRead(withNumber(bytes, place, 0x8000)));
+        EXPECT_FALSE(canBeRead(withNumber(bytes, place, 0xFFFFFFFF)));
     }
-    EXPECT_TRUE(isRead(withNumber(bytes, 2, 0)));
-    EXPECT_FALSE(isRead(withNumber(bytes, 2, 2)));
+    EXPECT_TRUE(canBeRead(withNumber(bytes, 2, 0)));
+    EXPECT_FALSE(canBeRead(withNumber(bytes, 2, 2)));
 }
 
 TEST(PictureCodec, RefusesBytesThatAreTooFewOrTooMany) {
     const std::string bytes = compressed(smallPicture(0xFF123456));
-    EXPECT_TRUE(isRead(bytes));
-    for (std::size_t length = 0; length < bytes.size(); ++length) EXPECT_FALSE(isRead(bytes.substr(0, length))) << length;
-    EXPECT_FALSE(isRead(bytes + "x"));
-    EXPECT_FALSE(isRead(bytes, {0, 2}));
-    EXPECT_FALSE(isRead(bytes, {2, 0}));
+    EXPECT_TRUE(canBeRead(bytes));
+    for (std::size_t length = 0; length < bytes.size(); ++length) EXPECT_FALSE(canBeRead(bytes.substr(0, length))) << length;
+    EXPECT_FALSE(canBeRead(bytes + "x"));
+    EXPECT_FALSE(canBeRead(bytes, {0, 2}));
+    EXPECT_FALSE(canBeRead(bytes, {2, 0}));
     EXPECT_TRUE(decompressed(bytes.substr(0, bytes.size() - 1), 2, 2).isNull());
 }
 
@@ -88,10 +88,10 @@ TEST(PictureCodec, RefusesEndsThatGoBackOrOut) {
     ends.remove_prefix(12);
     const std::uint32_t first = foundation::takeNumber(ends), second = foundation::takeNumber(ends);
 
-    EXPECT_TRUE(isRead(bytes, {300, 70}));
-    EXPECT_FALSE(isRead(withNumber(bytes, 3, second + 1), {300, 70}));
-    EXPECT_FALSE(isRead(withNumber(bytes, 4, first - 1), {300, 70}));
-    EXPECT_FALSE(isRead(withNumber(bytes, 6, 0xFFFFFFF0), {300, 70}));
+    EXPECT_TRUE(canBeRead(bytes, {300, 70}));
+    EXPECT_FALSE(canBeRead(withNumber(bytes, 3, second + 1), {300, 70}));
+    EXPECT_FALSE(canBeRead(withNumber(bytes, 4, first - 1), {300, 70}));
+    EXPECT_FALSE(canBeRead(withNumber(bytes, 6, 0xFFFFFFF0), {300, 70}));
 }
 
 // LZ4 makes at most 255 bytes of one.
@@ -99,7 +99,7 @@ TEST(PictureCodec, RefusesFewBytesForManyPixels) {
     const auto claims = [](std::uint32_t pixels, std::size_t count) {
         std::string bytes;
         for (const std::uint32_t number : {pixels, 1u, 1u, std::uint32_t(count)}) foundation::appendNumber(bytes, number);
-        return isRead(bytes + std::string(count, 'x'), {int(pixels), 1});
+        return canBeRead(bytes + std::string(count, 'x'), {int(pixels), 1});
     };
 
     EXPECT_TRUE(claims(63, 1));

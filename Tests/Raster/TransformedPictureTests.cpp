@@ -34,7 +34,7 @@ double greyBetween(const Picture& picture, Point place) {
            (grey(left, top + 1) * (1 - u) + grey(left + 1, top + 1) * u) * v;
 }
 
-Picture painted(const Picture& source, const Rect& frame, const Transform& toPixels, Pixel ground = 0) {
+Picture paintedOver(const Picture& source, const Rect& frame, const Transform& toPixels, Pixel ground = 0) {
     Picture target = Picture::unwritten(24, 20);
     for (int y = 0; y < target.height(); ++y) std::fill_n(target.row(y), target.width(), ground);
     CoverageRasterizer rasterizer;
@@ -44,7 +44,7 @@ Picture painted(const Picture& source, const Rect& frame, const Transform& toPix
 
 // Checks the pixels that lie in the frame as a whole, and those that lie outside as a whole.
 void expectInterpolated(const Picture& source, const Rect& frame, const Transform& toPixels) {
-    const Picture target = painted(source, frame, toPixels);
+    const Picture target = paintedOver(source, frame, toPixels);
     const Transform back = toPixels.inverted();
     int inside = 0;
     for (int y = 0; y < target.height(); ++y)
@@ -87,7 +87,7 @@ TEST(TransformedPicture, IsTurnedAndMirrored) {
 }
 
 TEST(TransformedPicture, IsShownAsItIsWhereNothingChanges) {
-    const Picture source = greys(10, 8), target = painted(source, {{3, 4}, {10, 8}}, Transform{});
+    const Picture source = greys(10, 8), target = paintedOver(source, {{3, 4}, {10, 8}}, Transform{});
 
     for (int y = 0; y < 20; ++y)
         for (int x = 0; x < 24; ++x) {
@@ -102,7 +102,7 @@ TEST(TransformedPicture, LeavesNothingOutWhereItShrinksToLessThanHalf) {
     for (const bool areUpright : {true, false}) {
         for (int y = 0; y < 60; ++y)
             for (int x = 0; x < 60; ++x) stripes.row(y)[x] = (areUpright ? x : y) % 2 ? 0xFFFFFFFFu : 0xFF000000u;
-        const Picture target = painted(stripes, {{0, 0}, {10, 10}}, Transform{1, 0, 0, 1, 2, 3});
+        const Picture target = paintedOver(stripes, {{0, 0}, {10, 10}}, Transform{1, 0, 0, 1, 2, 3});
         for (int y = 4; y < 12; ++y)
             for (int x = 3; x < 11; ++x) EXPECT_NEAR(target.row(y)[x] & 0xFF, 128, 30) << x << ", " << y;
     }
@@ -111,7 +111,7 @@ TEST(TransformedPicture, LeavesNothingOutWhereItShrinksToLessThanHalf) {
 TEST(TransformedPicture, HasSmoothEdgesOverWhatIsThere) {
     Picture white = Picture::unwritten(2, 2);
     for (int y = 0; y < 2; ++y) std::fill_n(white.row(y), 2, 0xFFFFFFFFu);
-    const Picture target = painted(white, {{2.5, 3}, {4, 2.25}}, Transform{}, 0xFF000000u);
+    const Picture target = paintedOver(white, {{2.5, 3}, {4, 2.25}}, Transform{}, 0xFF000000u);
 
     EXPECT_EQ(target.row(3)[1], 0xFF000000u);
     EXPECT_NEAR(target.row(3)[2] & 0xFF, 128, 1);
@@ -123,9 +123,9 @@ TEST(TransformedPicture, HasSmoothEdgesOverWhatIsThere) {
 }
 
 TEST(TransformedPicture, IsNotThereWhereItHasNoRoom) {
-    const Picture nothing = painted(greys(4, 4), {{2, 2}, {0, 5}}, Transform{});
-    const Picture flat = painted(greys(4, 4), {{2, 2}, {5, 5}}, Transform{1, 2, 2, 4, 0, 0});
-    const Picture none = painted(Picture(), {{2, 2}, {5, 5}}, Transform{});
+    const Picture nothing = paintedOver(greys(4, 4), {{2, 2}, {0, 5}}, Transform{});
+    const Picture flat = paintedOver(greys(4, 4), {{2, 2}, {5, 5}}, Transform{1, 2, 2, 4, 0, 0});
+    const Picture none = paintedOver(Picture(), {{2, 2}, {5, 5}}, Transform{});
     for (const Picture* target : {&nothing, &flat, &none})
         for (int y = 0; y < 20; ++y)
             for (int x = 0; x < 24; ++x) EXPECT_EQ(target->row(y)[x], 0u);
