@@ -23,9 +23,9 @@ bool isHyphen(char32_t c) { return isOneOf(c, U"-\u00AD\u058A\u2010\u2012\u2013\
 bool isDigit(char32_t c) { return isBetween(c, '0', '9') || isBetween(c, 0xFF10, 0xFF19); }
 
 bool isIdeograph(char32_t c) {
-    return isBetween(c, 0x2E80, 0x2FDF) || c == 0x3006 || c == 0x3007 || isBetween(c, 0x3041, 0x30FF) ||
-           isBetween(c, 0x3100, 0x4DBF) || isBetween(c, 0x4E00, 0x9FFF) || isBetween(c, 0xAC00, 0xD7A3) ||
-           isBetween(c, 0xF900, 0xFAFF) || isBetween(c, 0x20000, 0x3FFFF);
+    return isBetween(c, 0x2E80, 0x2FDF) || c == 0x3006 || c == 0x3007 || isBetween(c, 0x3041, 0x4DBF) ||
+           isBetween(c, 0x4E00, 0x9FFF) || isBetween(c, 0xAC00, 0xD7A3) || isBetween(c, 0xF900, 0xFAFF) ||
+           isBetween(c, 0x20000, 0x3FFFF);
 }
 
 bool isClosing(char32_t c) {

@@ -20,8 +20,7 @@ void addClusters(ShapedText& shaped, std::string_view text) {
     const std::vector<std::size_t> ends = foundation::LocaleServices::current().graphemeEnds(text);
     shaped.clusters.reserve(ends.size());
     for (const std::size_t end : ends) {
-        if (end <= offset) continue;
-        while (offset >= runEnd && run + 1 < shaped.runs.size()) runEnd += shaped.runs[++run].text.size();
+        while (offset >= runEnd) runEnd += shaped.runs[++run].text.size();
         Cluster& cluster = shaped.clusters.emplace_back();
         cluster.textOffset = std::uint32_t(offset);
         cluster.textLength = std::uint32_t(end - offset);
@@ -44,7 +43,7 @@ bool isAllowedBetween(char32_t before, char32_t current, char32_t next) {
     if (current == '-' && isDigit(next)) return false;
     if (isHyphen(current)) return before != 0 && !isBreakingSpace(before) && !isClosing(next) && !isHyphen(next);
     if (!isIdeograph(current) && !isIdeograph(next)) return false;
-    const auto mayTouchBreak = [](char32_t c) { return isIdeograph(c) || isLetter(c) || isDigit(c) || c >= 0x3000; };
+    const auto mayTouchBreak = [](char32_t c) { return isIdeograph(c) || isLetter(c) || isDigit(c) || c >= 0x3001; };
     return mayTouchBreak(current) && mayTouchBreak(next) && !isOpening(current) && !isClosing(next);
 }
 

@@ -40,9 +40,8 @@ bool skipDocumentType(std::string_view& text) {
 // The root element's start tag from its name on; absent where there is no element.
 std::optional<std::string_view> rootTag(std::string_view text) {
     if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
-    while (true) {
+    for (bool isSkipped = true; isSkipped;) {
         skipBlanks(text);
-        bool isSkipped = true;
         if (text.starts_with("<?")) {
             isSkipped = skipPast(text, "?>");
         } else if (text.starts_with("<!--")) {
@@ -52,18 +51,15 @@ std::optional<std::string_view> rootTag(std::string_view text) {
         } else if (text.starts_with("<")) {
             return text.substr(1);
         } else {
-            return std::nullopt;
+            isSkipped = false;
         }
-        if (!isSkipped) return std::nullopt;
     }
+    return std::nullopt;
 }
 
 std::string_view takeName(std::string_view& text) {
-    std::size_t length = 0;
-    while (length < text.size() && !isBlank(text[length]) && text[length] != '=' && text[length] != '>' && text[length] != '/')
-        ++length;
-    const std::string_view name = text.substr(0, length);
-    text.remove_prefix(length);
+    const std::string_view name = text.substr(0, text.find_first_of(" \t\n\r=>/"));
+    text.remove_prefix(name.size());
     return name;
 }
 

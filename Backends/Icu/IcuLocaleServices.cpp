@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <unicode/brkiter.h>
 #include <unicode/bytestream.h>
 #include <unicode/casemap.h>
 #include <unicode/locid.h>
 #include <unicode/ubidi.h>
 #include <unicode/utext.h>
+#include <utility>
 
 #include "Backends/Icu/PercentFormat.hpp"
 #include "Platform/Commons/FatalError.hpp"
@@ -35,16 +37,18 @@ std::string changed(std::string_view text, Change change) {
     return U_SUCCESS(status) ? result : std::string(text);
 }
 
-// What numbers are formatted by. Pseudo-languages take the rules of their base; the digits of the mirrored one are Latin, so that
-// whoever reads its English words can read them.
+// Pseudo-languages write numbers by the rules of their base; the digits of the mirrored one are Latin, so that whoever reads its
+// English words can read them.
 std::string numbersLocale(const foundation::Locale& locale) {
-    const auto pseudoLanguage = foundation::pseudoLanguageOf(locale.languageTag());
-    if (!pseudoLanguage) return locale.identifier();
-    return *pseudoLanguage == foundation::PseudoLanguage::accented ? "en" : "ar@numbers=latn";
+    const bool isMirrored = foundation::pseudoLanguageOf(locale.languageTag()) == foundation::PseudoLanguage::mirrored;
+    return isMirrored ? "ar@numbers=latn" : locale.identifier();
 }
 
 // English percents are known. For those of any other language a megabyte of ICU and its data is read.
-bool needsNoData(const foundation::Locale& locale) { return locale.identifier() == "en" || locale.identifier() == "en_US"; }
+bool needsNoData(const foundation::Locale& locale) {
+    return locale.identifier() == "en" || locale.identifier() == "en_US" ||
+           foundation::pseudoLanguageOf(locale.languageTag()) == foundation::PseudoLanguage::accented;
+}
 
 // Absent where only ICU knows them.
 std::optional<std::vector<std::size_t>> plainGraphemeEnds(std::string_view text) {
@@ -64,11 +68,9 @@ struct IcuLocaleServices::Cache {
     std::unique_ptr<icu::BreakIterator> graphemes;
     UText text = UTEXT_INITIALIZER;
 
-    std::string wordsLocale;
-    std::unique_ptr<icu::BreakIterator> words;
-
-    std::string percentLocale;
-    std::optional<PercentFormat> percent;
+    // Each beside the locale that it is for; absent until one was asked for.
+    std::optional<std::pair<std::string, std::unique_ptr<icu::BreakIterator>>> words;
+    std::optional<std::pair<std::string, PercentFormat>> percent;
 
     std::unique_ptr<UBiDi, decltype(&ubidi_close)> directions{ubidi_open(), ubidi_close};
 
@@ -80,7 +82,6 @@ struct IcuLocaleServices::Cache {
         if (U_FAILURE(status)) commons::fatalError(std::string("ICU's data is missing: ") + u_errorName(status));
         utext_openUTF8(&text, bytes.data(), static_cast<std::int64_t>(bytes.size()), &status);
         graphemes->setText(&text, status);
-        if (U_FAILURE(status)) commons::fatalError("ICU cannot look for characters in a text");
         graphemes->first();
         for (auto end = graphemes->next(); end != icu::BreakIterator::DONE; end = graphemes->next())
             ends.push_back(static_cast<std::size_t>(end));
@@ -94,11 +95,10 @@ std::optional<std::string> IcuLocaleServices::percentText(double fraction, int m
                                                           const foundation::Locale& locale) const {
     if (!std::isfinite(fraction)) return std::nullopt;
     if (needsNoData(locale)) return foundation::BuiltInLocaleServices{}.percentText(fraction, maximumFractionDigits, locale);
-    if (!m_cache->percent || m_cache->percentLocale != locale.identifier()) {
-        m_cache->percent.emplace(icu::Locale(numbersLocale(locale).c_str()));
-        m_cache->percentLocale = locale.identifier();
-    }
-    return m_cache->percent->text(fraction, std::clamp(maximumFractionDigits, 0, 340));
+    auto& percent = m_cache->percent;
+    if (!percent || percent->first != locale.identifier())
+        percent.emplace(locale.identifier(), PercentFormat(icu::Locale(numbersLocale(locale).c_str())));
+    return percent->second.text(fraction, std::clamp(maximumFractionDigits, 0, 340));
 }
 
 std::string IcuLocaleServices::upperCased(std::string_view text, const foundation::Locale& locale) const {
@@ -109,11 +109,11 @@ std::string IcuLocaleServices::upperCased(std::string_view text, const foundatio
 
 std::string IcuLocaleServices::titleCased(std::string_view text, const foundation::Locale& locale) const {
     return changed(text, [&](icu::StringPiece source, icu::ByteSink& sink, UErrorCode& status) {
-        if (!m_cache->words || m_cache->wordsLocale != locale.identifier()) {
-            m_cache->words.reset(icu::BreakIterator::createWordInstance(icu::Locale(locale.identifier().c_str()), status));
-            m_cache->wordsLocale = locale.identifier();
-        }
-        icu::CaseMap::utf8ToTitle(locale.identifier().c_str(), 0, m_cache->words.get(), source, sink, nullptr, status);
+        const std::string& name = locale.identifier();
+        auto& words = m_cache->words;
+        if (!words || words->first != name)
+            words.emplace(name, icu::BreakIterator::createWordInstance(icu::Locale(name.c_str()), status));
+        icu::CaseMap::utf8ToTitle(name.c_str(), 0, words->second.get(), source, sink, nullptr, status);
     });
 }
 

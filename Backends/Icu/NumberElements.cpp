@@ -48,12 +48,6 @@ std::optional<icu::UnicodeString> textOf(const BundleRef& resource) {
     return icu::UnicodeString(text, length);
 }
 
-int numberOf(const BundleRef& resource) {
-    UErrorCode status = U_ZERO_ERROR;
-    const int number = ures_getInt(resource.getAlias(), &status);
-    return U_SUCCESS(status) ? number : 0;
-}
-
 // Where a bundle says nothing, the one of this name is asked; then the root, whose name is empty here.
 std::string parentName(const std::string& name, const BundleRef& bundle) {
     const BundleRef parent = child(bundle.getAlias(), "%%Parent");
@@ -101,11 +95,10 @@ std::optional<icu::UnicodeString> NumberElements::digits() const {
     const BundleRef systems = opened("numberingSystems");
     BundleRef system = systems.isValid() ? child(systems.getAlias(), "numberingSystems") : BundleRef();
     if (system.isValid()) system = child(system.getAlias(), m_system.c_str());
-    if (!system.isValid()) return std::nullopt;
-    const BundleRef isAlgorithmic = child(system.getAlias(), "algorithmic"), description = child(system.getAlias(), "desc");
-    if (!isAlgorithmic.isValid() || numberOf(isAlgorithmic) != 0 || !description.isValid()) return std::nullopt;
-    auto digits = textOf(description);
-    return digits && digits->countChar32() == 10 ? digits : std::nullopt;
+    const BundleRef description = system.isValid() ? child(system.getAlias(), "desc") : BundleRef();
+    auto digits = description.isValid() ? textOf(description) : std::nullopt;
+    // Systems without digits have the name of their rules there.
+    return digits && digits->countChar32() == 10 && digits->charAt(0) != u'%' ? digits : std::nullopt;
 }
 
 // The one that the locale's name asks for, else the language's usual one.

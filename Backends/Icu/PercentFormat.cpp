@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace proupsells::icubackend {
 
@@ -24,25 +25,36 @@ int digitCount(std::u16string_view pattern) {
     return int(std::count_if(pattern.begin(), pattern.end(), [](char16_t unit) { return unit == u'#' || unit == u'0'; }));
 }
 
+PercentElements elementsOf(const icu::Locale& locale) {
+    const NumberElements known(locale);
+    PercentElements elements;
+    const auto take = [](icu::UnicodeString& element, const std::optional<icu::UnicodeString>& text) {
+        if (text) element = *text;
+    };
+    take(elements.pattern, known.pattern("percentFormat"));
+    take(elements.digits, known.digits());
+    take(elements.decimal, known.symbol("decimal"));
+    take(elements.group, known.symbol("group"));
+    take(elements.percentSign, known.symbol("percentSign"));
+    take(elements.minusSign, known.symbol("minusSign"));
+    const auto fewest = known.element("minimumGroupingDigits");
+    if (fewest && fewest->length() == 1) elements.fewestDigitsBeforeLastGroup = fewest->charAt(0) - u'0';
+    return elements;
+}
+
 } // namespace
 
-PercentFormat::PercentFormat(const icu::Locale& locale) {
-    const NumberElements elements(locale);
-    m_digits = elements.digits().value_or(u"0123456789");
-    m_decimal = elements.symbol("decimal").value_or(u".");
-    m_group = elements.symbol("group").value_or(u",");
-    m_percentSign = elements.symbol("percentSign").value_or(u"%");
-    m_minusSign = elements.symbol("minusSign").value_or(u"-");
-    const icu::UnicodeString fewest = elements.element("minimumGroupingDigits").value_or(u"1");
-    if (fewest.length() == 1) m_fewestDigitsBeforeLastGroup = fewest[0] - u'0';
+PercentFormat::PercentFormat(const icu::Locale& locale) : PercentFormat(elementsOf(locale)) {}
 
-    const icu::UnicodeString pattern = elements.pattern("percentFormat").value_or(u"#,##0%");
+PercentFormat::PercentFormat(PercentElements elements) : m_elements(std::move(elements)) {
+    const icu::UnicodeString& pattern = m_elements.pattern;
     const std::u16string_view both(pattern.getBuffer(), std::size_t(pattern.length()));
     const std::size_t semicolon = withoutQuoted(both).find(u';');
-    readGroups(both.substr(0, semicolon));
-    m_positive = affixesIn(both.substr(0, semicolon));
+    const std::u16string_view positive = both.substr(0, semicolon);
+    readGroups(positive);
+    m_positive = affixesIn(positive);
     if (semicolon == std::u16string_view::npos)
-        m_negative = {m_minusSign + m_positive.prefix, m_positive.suffix};
+        m_negative = {m_elements.minusSign + m_positive.prefix, m_positive.suffix};
     else
         m_negative = affixesIn(both.substr(semicolon + 1));
 }
@@ -74,9 +86,9 @@ icu::UnicodeString PercentFormat::withSymbols(std::u16string_view affix) const {
         else if (unit == u'\'')
             result += affix[index++]; // two quotes mean one
         else if (unit == u'%' && !isQuoted)
-            result += m_percentSign;
+            result += m_elements.percentSign;
         else if (unit == u'-' && !isQuoted)
-            result += m_minusSign;
+            result += m_elements.minusSign;
         else
             result += unit;
     }
@@ -96,11 +108,11 @@ std::string PercentFormat::text(double fraction, int maximumFractionDigits) cons
 bool PercentFormat::endsGroup(int wholeDigitsAfterwards, int wholeDigits) const {
     const int beforeLastGroup = wholeDigitsAfterwards - m_lastGroup;
     return m_lastGroup > 0 && beforeLastGroup >= 0 && beforeLastGroup % m_otherGroup == 0 &&
-           wholeDigits - m_lastGroup >= m_fewestDigitsBeforeLastGroup;
+           wholeDigits - m_lastGroup >= m_elements.fewestDigitsBeforeLastGroup;
 }
 
 void PercentFormat::appendDigit(icu::UnicodeString& text, char digit) const {
-    text += m_digits.char32At(m_digits.moveIndex32(0, digit - '0'));
+    text += m_elements.digits.char32At(m_elements.digits.moveIndex32(0, digit - '0'));
 }
 
 void PercentFormat::appendNumber(icu::UnicodeString& text, const RoundedDecimal& number) const {
@@ -110,9 +122,9 @@ void PercentFormat::appendNumber(icu::UnicodeString& text, const RoundedDecimal&
     for (int index = firstWhole; index < number.wholeCount; ++index) {
         appendDigit(text, digitAt(index));
         const int afterwards = number.wholeCount - 1 - index;
-        if (afterwards > 0 && endsGroup(afterwards, wholeDigits)) text += m_group;
+        if (afterwards > 0 && endsGroup(afterwards, wholeDigits)) text += m_elements.group;
     }
-    if (digitCount > number.wholeCount && digitCount > 0) text += m_decimal;
+    if (digitCount > number.wholeCount && digitCount > 0) text += m_elements.decimal;
     for (int index = number.wholeCount; index < digitCount; ++index) appendDigit(text, digitAt(index));
 }
 

@@ -11,8 +11,17 @@
 
 namespace proupsells::icubackend {
 
+// The pattern of percents, as Unicode's locale data writes it, and what stands for the characters in it. English unless told.
+struct PercentElements {
+    icu::UnicodeString pattern = u"#,##0%";
+    icu::UnicodeString digits = u"0123456789"; // the ten
+    icu::UnicodeString decimal = u".", group = u",", percentSign = u"%", minusSign = u"-";
+    int fewestDigitsBeforeLastGroup = 1;
+};
+
 class PercentFormat {
 public:
+    explicit PercentFormat(PercentElements elements);
     explicit PercentFormat(const icu::Locale& locale);
 
     // 0.5 is fifty percent. Rounded half to even, without zeros at the end. The fraction must be finite.
@@ -30,12 +39,10 @@ private:
     void appendDigit(icu::UnicodeString& text, char digit) const;
     void appendNumber(icu::UnicodeString& text, const RoundedDecimal& number) const;
 
-    icu::UnicodeString m_digits; // the ten
-    icu::UnicodeString m_decimal, m_group, m_percentSign, m_minusSign;
+    PercentElements m_elements;
     Affixes m_positive, m_negative;
     // Digits in the last group before the fraction, and in each one before it. 0 where nothing is grouped.
     int m_lastGroup = 0, m_otherGroup = 0;
-    int m_fewestDigitsBeforeLastGroup = 1;
 };
 
 } // namespace proupsells::icubackend

@@ -19,13 +19,12 @@ QString scrollAction() { return QStringLiteral("Scroll into view"); }
 } // namespace
 
 AccessibleElement::AccessibleElement(QtAccessibility& owner, AccessibleElement* parent, ReadingElement told)
-    : m_owner(&owner), m_parent(parent), m_told(std::move(told)) {
+    : m_owner(owner), m_parent(parent), m_told(std::move(told)) {
     m_elements.fill(owner, this, std::exchange(m_told.children, {}));
 }
 
 void AccessibleElement::become(ReadingElement told) {
-    if (!m_owner) return;
-    m_elements.adopt(*m_owner, this, std::exchange(told.children, {}));
+    m_elements.adopt(m_owner, this, std::exchange(told.children, {}));
     const QString formerDescription = description();
     const ReadingElement former = std::exchange(m_told, std::move(told));
     if (former.name != m_told.name) tell(QAccessible::NameChanged);
@@ -41,12 +40,12 @@ void AccessibleElement::become(ReadingElement told) {
 
 void AccessibleElement::tell(QAccessible::Event type) {
     QAccessibleEvent event(this, type);
-    m_owner->tell(event);
+    m_owner.tell(event);
 }
 
 void AccessibleElement::tellPage() {
     QAccessibleValueChangeEvent event(this, m_told.position);
-    m_owner->tell(event);
+    m_owner.tell(event);
 }
 
 // One state an event: Qt's bridges look no further than the first that they know.
@@ -54,24 +53,15 @@ void AccessibleElement::tellChange(void (*mark)(QAccessible::State&)) {
     QAccessible::State changed;
     mark(changed);
     QAccessibleStateChangeEvent event(this, changed);
-    m_owner->tell(event);
+    m_owner.tell(event);
 }
 
-void AccessibleElement::detach() {
-    m_owner = nullptr;
-    m_parent = nullptr;
-    m_elements.clear();
-}
+QWindow* AccessibleElement::window() const { return m_owner.place().window(); }
 
-QWindow* AccessibleElement::window() const { return m_owner ? m_owner->place().window() : nullptr; }
-
-QAccessibleInterface* AccessibleElement::parent() const {
-    if (!m_owner) return nullptr;
-    return m_parent ? m_parent : m_owner->root();
-}
+QAccessibleInterface* AccessibleElement::parent() const { return m_parent ? m_parent : m_owner.root(); }
 
 QAccessibleInterface* AccessibleElement::focusChild() const {
-    QAccessibleInterface* const focused = m_owner ? m_owner->focused() : nullptr;
+    QAccessibleInterface* const focused = m_owner.focused();
     for (QAccessibleInterface* around = focused; around; around = around->parent())
         if (around == this) return focused;
     return nullptr;
@@ -102,7 +92,7 @@ QString AccessibleElement::text(QAccessible::Text text) const {
     }
 }
 
-QRect AccessibleElement::rect() const { return m_owner ? m_owner->onDisplay(m_told.frame) : QRect(); }
+QRect AccessibleElement::rect() const { return m_owner.onDisplay(m_told.frame); }
 
 QAccessible::Role AccessibleElement::role() const {
     switch (m_told.role) {
@@ -124,7 +114,6 @@ QAccessible::Role AccessibleElement::role() const {
 
 QAccessible::State AccessibleElement::state() const {
     QAccessible::State state;
-    state.invalid = !m_owner;
     state.disabled = m_told.isDisabled;
     state.busy = m_told.isBusy;
     state.checkable = m_told.isChecked.has_value();
@@ -134,7 +123,7 @@ QAccessible::State AccessibleElement::state() const {
     state.collapsed = state.expandable && !state.expanded;
     state.focusable = m_told.focus || m_told.role == Role::dialog;
     state.active = m_told.role == Role::dialog && window() && window()->isActive();
-    state.focused = m_owner && m_owner->focused() == this;
+    state.focused = m_owner.focused() == this;
     state.readOnly = !m_told.isOperable() && m_elements.count() == 0;
     state.offscreen = !m_told.isOnScreen;
     return state;
@@ -156,12 +145,12 @@ QStringList AccessibleElement::actionNames() const {
 }
 
 void AccessibleElement::doAction(const QString& name) {
-    if (!m_owner || !actionNames().contains(name)) return;
+    if (!actionNames().contains(name)) return;
     // A copy, because the action may change the screen and this element with it.
     const ReadingElement told = m_told;
     if (name == scrollAction()) return told.revealWhole();
     if (name == setFocusAction()) {
-        m_owner->place().takeFocus();
+        m_owner.place().takeFocus();
         return told.focus();
     }
     if (!told.isOnScreen && told.reveal) told.reveal();
@@ -173,7 +162,7 @@ void AccessibleElement::doAction(const QString& name) {
 // Step by step, for that is all that a pager can do. The steps are those of what was told, whatever they change.
 void AccessibleElement::setCurrentValue(const QVariant& value) {
     const auto adjust = m_told.adjust;
-    if (!m_owner || !adjust) return;
+    if (!adjust) return;
     const int wanted = std::clamp(value.toInt(), 1, m_told.count);
     const int steps = wanted - m_told.position, direction = steps < 0 ? -1 : 1;
     for (int step = 0; step != steps; step += direction) adjust(direction);

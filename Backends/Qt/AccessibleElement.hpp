@@ -14,16 +14,17 @@ class AccessibleElement final : public QAccessibleInterface, public QAccessibleA
 public:
     // `parent` is null for what stands in the root.
     AccessibleElement(QtAccessibility& owner, AccessibleElement* parent, accessibility::ReadingElement told);
+    ~AccessibleElement() override { m_elements.clear(); }
+    AccessibleElement(const AccessibleElement&) = delete;
+    AccessibleElement& operator=(const AccessibleElement&) = delete;
 
     // Without what stands in it.
     const accessibility::ReadingElement& told() const { return m_told; }
     const ElementList& elements() const { return m_elements; }
     // Takes over what the element has become, and tells those who listen.
     void become(accessibility::ReadingElement told);
-    // The owner is gone; a screen reader may hold on to the element a little longer.
-    void detach();
 
-    bool isValid() const override { return m_owner != nullptr; }
+    bool isValid() const override { return true; }
     QObject* object() const override { return nullptr; }
     QWindow* window() const override;
     QAccessibleInterface* parent() const override;
@@ -57,7 +58,7 @@ private:
     void tellPage();
     void tellChange(void (*mark)(QAccessible::State&));
 
-    QtAccessibility* m_owner;
+    QtAccessibility& m_owner;
     AccessibleElement* m_parent;
     accessibility::ReadingElement m_told;
     ElementList m_elements;

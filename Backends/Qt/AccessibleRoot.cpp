@@ -7,42 +7,37 @@
 
 namespace proupsells::qtbackend {
 
-AccessibleRoot::AccessibleRoot(QtAccessibility& owner) : QAccessibleObject(&owner.place().object()), m_owner(&owner) {}
+AccessibleRoot::AccessibleRoot(QtAccessibility& owner) : QAccessibleObject(&owner.place().object()), m_owner(owner) {}
 
-QWindow* AccessibleRoot::window() const { return m_owner ? m_owner->place().window() : nullptr; }
+QWindow* AccessibleRoot::window() const { return m_owner.place().window(); }
 
-QAccessibleInterface* AccessibleRoot::parent() const { return m_owner ? m_owner->place().parent() : nullptr; }
+QAccessibleInterface* AccessibleRoot::parent() const { return m_owner.place().parent(); }
 
-QAccessibleInterface* AccessibleRoot::child(int index) const { return m_owner ? m_owner->elements().at(index) : nullptr; }
+QAccessibleInterface* AccessibleRoot::child(int index) const { return m_owner.elements().at(index); }
 
-QAccessibleInterface* AccessibleRoot::childAt(int x, int y) const {
-    return m_owner ? m_owner->elements().at(QPoint(x, y)) : nullptr;
-}
+QAccessibleInterface* AccessibleRoot::childAt(int x, int y) const { return m_owner.elements().at(QPoint(x, y)); }
 
-int AccessibleRoot::childCount() const { return m_owner ? m_owner->elements().count() : 0; }
+int AccessibleRoot::childCount() const { return m_owner.elements().count(); }
 
-int AccessibleRoot::indexOfChild(const QAccessibleInterface* child) const {
-    return m_owner ? m_owner->elements().indexOf(child) : -1;
-}
+int AccessibleRoot::indexOfChild(const QAccessibleInterface* child) const { return m_owner.elements().indexOf(child); }
 
-QAccessibleInterface* AccessibleRoot::focusChild() const { return m_owner ? m_owner->focused() : nullptr; }
+QAccessibleInterface* AccessibleRoot::focusChild() const { return m_owner.focused(); }
 
 QString AccessibleRoot::text(QAccessible::Text text) const {
-    return m_owner && text == QAccessible::Name ? m_owner->place().name() : QString();
+    return text == QAccessible::Name ? m_owner.place().name() : QString();
 }
 
 QRect AccessibleRoot::rect() const {
-    if (!m_owner) return {};
-    const QSize size = m_owner->place().frame().size();
-    return m_owner->onDisplay({{0, 0}, {double(size.width()), double(size.height())}});
+    const QSize size = m_owner.place().frame().size();
+    return m_owner.onDisplay({{0, 0}, {double(size.width()), double(size.height())}});
 }
 
-QAccessible::Role AccessibleRoot::role() const { return m_owner ? m_owner->place().role() : QAccessible::NoRole; }
+QAccessible::Role AccessibleRoot::role() const { return m_owner.place().role(); }
 
 QAccessible::State AccessibleRoot::state() const {
     QAccessible::State state;
-    state.active = m_owner && m_owner->place().window() && m_owner->place().window()->isActive();
-    state.invisible = !m_owner || !m_owner->place().isVisible();
+    state.active = window() && window()->isActive();
+    state.invisible = !m_owner.place().isVisible();
     return state;
 }
 

@@ -11,9 +11,6 @@ class AccessibleRoot final : public QAccessibleObject {
 public:
     explicit AccessibleRoot(QtAccessibility& owner);
 
-    // The owner is gone; a screen reader may hold on to the root a little longer.
-    void detach() { m_owner = nullptr; }
-
     QWindow* window() const override;
     QAccessibleInterface* parent() const override;
     QAccessibleInterface* child(int index) const override;
@@ -27,7 +24,7 @@ public:
     QAccessible::State state() const override;
 
 private:
-    QtAccessibility* m_owner;
+    QtAccessibility& m_owner;
 };
 
 } // namespace proupsells::qtbackend

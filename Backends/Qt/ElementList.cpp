@@ -27,10 +27,7 @@ AccessibleElement* make(QtAccessibility& owner, AccessibleElement* parent, Readi
     return element;
 }
 
-void forget(AccessibleElement* element) {
-    element->detach();
-    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(element));
-}
+void forget(AccessibleElement* element) { QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(element)); }
 
 void tell(QtAccessibility& owner, QAccessibleInterface* element, QAccessible::Event type) {
     QAccessibleEvent event(element, type);

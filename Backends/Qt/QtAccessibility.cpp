@@ -4,6 +4,7 @@
 #include <QScreen>
 #include <QWindow>
 #include <cmath>
+#include <mutex>
 #include <unordered_map>
 
 #include "Backends/Qt/AccessibleElement.hpp"
@@ -52,8 +53,8 @@ void AccessibilityListener::tellAssistiveTechnology(QAccessibleEvent& event) {
 QtAccessibility::QtAccessibility(std::unique_ptr<AccessiblePlace> place, host::WindowContent& content,
                                  AccessibilityListener listener)
     : m_place(std::move(place)), m_content(content), m_listener(std::move(listener)) {
-    static const bool isInstalled = (QAccessible::installFactory(&makeRoot), true);
-    static_cast<void>(isInstalled);
+    static std::once_flag installed;
+    std::call_once(installed, [] { QAccessible::installFactory(&makeRoot); });
     livingPlaces()[&m_place->object()] = this;
 }
 
@@ -63,9 +64,7 @@ QtAccessibility::QtAccessibility(QWindow& window, host::WindowContent& content, 
 QtAccessibility::~QtAccessibility() {
     livingPlaces().erase(&m_place->object());
     m_elements.clear();
-    if (!m_root) return;
-    static_cast<AccessibleRoot*>(m_root)->detach();
-    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(m_root));
+    if (m_root) QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(m_root));
 }
 
 // Qt asks for each class of the object, the most derived one first, and keeps what it gets.
@@ -135,14 +134,17 @@ void QtAccessibility::tellFocus() {
 // Qt's bridge to AT-SPI hands places on as they are, and those who listen there count the pixels of the X server's display.
 QRect QtAccessibility::onDisplay(const geometry::Rect& frame) const {
     const QPoint origin = m_place->frame().topLeft();
+    const geometry::Rect onScreen = frame.offsetBy({double(origin.x()), double(origin.y())});
     const QWindow* const window = m_place->window();
     const bool countsPixels = window && window->screen() && QGuiApplication::platformName() == QLatin1String("xcb");
-    const double scale = countsPixels ? window->devicePixelRatio() : 1;
-    const QPoint fixed = countsPixels ? window->screen()->geometry().topLeft() : QPoint();
-    const auto place = [scale](double points, int origin, int fixed) { return fixed + (origin - fixed + points) * scale; };
-    const QPoint topLeft(int(std::lround(place(frame.minX(), origin.x(), fixed.x()))),
-                         int(std::lround(place(frame.minY(), origin.y(), fixed.y()))));
-    return {topLeft, QSize(int(std::lround(frame.width() * scale)), int(std::lround(frame.height() * scale)))};
+    return countsPixels ? pixelsOf(onScreen, window->screen()->geometry().topLeft(), window->devicePixelRatio())
+                        : pixelsOf(onScreen, {}, 1);
+}
+
+QRect pixelsOf(const geometry::Rect& frame, QPoint corner, double scale) {
+    const auto place = [scale](double points, int fixed) { return int(std::lround(fixed + (points - fixed) * scale)); };
+    return {place(frame.minX(), corner.x()), place(frame.minY(), corner.y()), int(std::lround(frame.width() * scale)),
+            int(std::lround(frame.height() * scale))};
 }
 
 } // namespace proupsells::qtbackend

@@ -23,6 +23,10 @@ struct PROUPSELLS_EXPORT AccessibilityListener {
     static void tellAssistiveTechnology(QAccessibleEvent& event);
 };
 
+// Where a frame, in Qt's units, is in pixels on a display of so many to a unit. The display's own corner has the same place in
+// both.
+PROUPSELLS_EXPORT QRect pixelsOf(const geometry::Rect& frame, QPoint corner, double scale);
+
 // Offers what is told of the content under the window, widget or item that shows it. Reads the content only while somebody listens.
 // The content must live longer.
 class PROUPSELLS_EXPORT QtAccessibility {

@@ -75,9 +75,7 @@ PROUPSELLS_ALWAYS_INLINE void blendRow(Pixel* to, std::size_t count, const Pixel
 
 } // namespace
 
-std::uint8_t opacityFactor(float opacity) {
-    return opacity >= 1 ? 255 : opacity > 0 ? std::uint8_t(std::lround(opacity * 255)) : 0;
-}
+std::uint8_t opacityFactor(float opacity) { return opacity > 0 ? std::uint8_t(std::lround(std::min(opacity, 1.0f) * 255)) : 0; }
 
 Pixel premultiplied(graphics::RGBA color, std::uint8_t opacity) {
     const std::uint8_t alpha = scaledByte(color.alpha, opacity);

@@ -54,7 +54,8 @@ void CoverageRasterizer::addCubic(Point from, Point control1, Point control2, Po
     const double bend = std::sqrt(std::max(bend1.x * bend1.x + bend1.y * bend1.y, bend2.x * bend2.x + bend2.y * bend2.y));
     // A chord of an n-th of the curve strays from it by at most 6·bend / (8·n²).
     const double wanted = std::sqrt(0.75 * bend / tolerance_px) + 1;
-    const int steps = wanted >= 1 ? int(std::min(wanted, mostSteps)) : 1;
+    // Of curves that lead nowhere, too, whose lines are left out.
+    const int steps = int(std::fmin(wanted, mostSteps));
     Point previous = from;
     for (int step = 1; step < steps; ++step) {
         const double t = double(step) / steps, u = 1 - t;

@@ -19,10 +19,7 @@ constexpr png_uint_32 channelOrder = std::endian::native == std::endian::little 
 // A file that is being read.
 class Reading {
 public:
-    explicit Reading(std::string_view bytes) {
-        m_image.version = PNG_IMAGE_VERSION;
-        m_isBegun = !bytes.empty() && png_image_begin_read_from_memory(&m_image, bytes.data(), bytes.size());
-    }
+    explicit Reading(std::string_view bytes) : m_isBegun(begins(m_image, bytes)) {}
     ~Reading() { png_image_free(&m_image); }
     Reading(const Reading&) = delete;
 
@@ -38,8 +35,13 @@ public:
     }
 
 private:
+    static bool begins(png_image& image, std::string_view bytes) {
+        image.version = PNG_IMAGE_VERSION;
+        return !bytes.empty() && png_image_begin_read_from_memory(&image, bytes.data(), bytes.size());
+    }
+
     png_image m_image{};
-    bool m_isBegun = false;
+    const bool m_isBegun;
 };
 
 void premultiply(Pixel* pixels, std::size_t count) {

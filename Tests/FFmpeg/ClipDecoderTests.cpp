@@ -1,5 +1,8 @@
 // Clips as the program meets them: through the plug-in, on either kind of clock.
 
+#include <cmath>
+
+#include "Backends/FFmpeg/ClipPlugin.hpp"
 #include "Tests/FFmpeg/Clips.hpp"
 
 using namespace proupsells;
@@ -55,6 +58,26 @@ TEST_F(ClipDecoder, BeginsANewRoundWhereTheTimeIsRoundedDown) {
     EXPECT_EQ(numberOf(clip->frameAt(2.0 - 1e-9)), 0);
     EXPECT_EQ(numberOf(clip->frameAt(1999 * 0.1 + 1999 * 0.1 + 0.2 - 1e-9)), 0);
     EXPECT_EQ(numberOf(clip->frameAt(1.9 - 1e-9)), 19);
+}
+
+TEST_F(ClipDecoder, ShowsAPictureAMillionthOfASecondEarlyAndNoSooner) {
+    LazyClipDecoder decoder = exactDecoder();
+    const auto clip = decoder.open(counting);
+
+    EXPECT_EQ(numberOf(clip->frameAt(1.0 - 0.8e-6)), 10);
+    EXPECT_EQ(numberOf(clip->frameAt(1.0 - 1.2e-6)), 9);
+    EXPECT_EQ(numberOf(clip->frameAt(2.0 - 0.8e-6)), 0);
+    EXPECT_EQ(numberOf(clip->frameAt(2.0 - 1.2e-6)), 19);
+}
+
+TEST_F(ClipDecoder, RepeatsBackwardsTooAndBeginsWhereATimeIsNone) {
+    LazyClipDecoder decoder = exactDecoder();
+    const auto clip = decoder.open(counting);
+
+    EXPECT_EQ(numberOf(clip->frameAt(-0.05)), 19);
+    EXPECT_EQ(numberOf(clip->frameAt(-1.95)), 0);
+    EXPECT_EQ(numberOf(clip->frameAt(-2.15)), 18);
+    for (const double time_s : {std::nan(""), HUGE_VAL, -HUGE_VAL}) EXPECT_EQ(numberOf(clip->frameAt(time_s)), 0) << time_s;
 }
 
 TEST_F(ClipDecoder, ShowsTheSameFrameOnEveryWayToATime) {
@@ -124,7 +147,7 @@ TEST_F(ClipDecoder, NeverBlocksOnTheRealClock) {
 TEST_F(ClipDecoder, WithoutThePlugInCostsOneLineAndPlaysNothingOnEitherClock) {
     for (const Pace pace : {Pace::exact, Pace::realTime}) {
         SCOPED_TRACE(pace == Pace::exact ? "exact" : "real time");
-        LazyClipDecoder decoder{pace, {"no-such-folder"}};
+        LazyClipDecoder decoder{pace, {"no-such-folder", "nor-such-a-one"}};
         const auto first = decoder.open(counting), second = decoder.open(large);
         const std::size_t complaintsBefore = complaints().size();
         ASSERT_TRUE(first && second);
@@ -138,8 +161,23 @@ TEST_F(ClipDecoder, WithoutThePlugInCostsOneLineAndPlaysNothingOnEitherClock) {
         EXPECT_TRUE(waitUntil(areGivenUp));
 
         EXPECT_EQ(complaints().size(), complaintsBefore + 1);
-        EXPECT_THAT(complaints().back(), HasSubstr("cannot be played"));
+        EXPECT_EQ(complaints().back(),
+                  "Clips cannot be played: there is no " + std::string(pluginFileName) + " in no-such-folder, nor-such-a-one");
     }
+}
+
+TEST_F(ClipDecoder, TakesTheFirstPlugInThatCanBeLoaded) {
+    folder.write(std::string(pluginFileName), "this is no library");
+    std::vector<std::filesystem::path> folders{"no-such-folder", folder.path()};
+    LazyClipDecoder broken{Pace::exact, folders};
+    EXPECT_FALSE(broken.open(counting)->frameAt(0).picture);
+    EXPECT_THAT(complaints(), ElementsAre(testing::AllOf(testing::StartsWith("Clips cannot be played: "),
+                                                         HasSubstr((folder.path() / pluginFileName).string()))));
+
+    for (const auto& usual : LazyClipDecoder::defaultFolders()) folders.push_back(usual);
+    LazyClipDecoder whole{Pace::exact, folders};
+    EXPECT_EQ(numberOf(whole.open(counting)->frameAt(0.5)), 5);
+    EXPECT_EQ(complaints().size(), 1u);
 }
 
 TEST_F(ClipDecoder, OutlivesNobody) {

@@ -64,6 +64,52 @@ TEST_F(DamagedClip, LeadToNoOtherFile) {
     EXPECT_THAT(complaints(), ElementsAre(HasSubstr("\"list.mp4\" cannot be played")));
 }
 
+// What FFmpeg says of it, or what we do.
+TEST_F(DamagedClip, SaysWhyItCannotBePlayed) {
+    LazyClipDecoder decoder = exactDecoder();
+    const std::string whole = bytesOf(countingIndexFirst);
+    const std::size_t handler = whole.find("vide"), pictures = whole.find("mdat") + 4;
+    ASSERT_NE(handler, std::string::npos);
+    const std::pair<std::string, std::string> cases[] = {
+        {"this is no film", "Invalid data found when processing input"},
+        {std::string(whole).replace(handler, 4, "soun"), "there are no pictures in it"},
+        {std::string(whole).replace(pictures, std::string::npos, whole.size() - pictures, '\xFF'),
+         "no picture in it can be decoded"},
+        {whole.substr(0, pictures), "no picture in it can be decoded"}};
+    int number = 0;
+    for (const auto& [bytes, reason] : cases) {
+        const std::string name = std::to_string(++number) + ".mp4";
+        const auto clip = decoder.open(fileWith(bytes, name));
+
+        EXPECT_FALSE(clip->frameAt(0).picture);
+        EXPECT_FALSE(clip->isPlayable());
+        ASSERT_EQ(complaints().size(), std::size_t(number));
+        EXPECT_EQ(complaints().back(), "The clip \"" + name + "\" cannot be played: " + reason);
+    }
+}
+
+TEST_F(DamagedClip, SaysThatItIsCutShortInTheSameWords) {
+    LazyClipDecoder decoder = exactDecoder();
+    decoder.open(fileWith(beginning(twelvePictures)))->frameAt(0);
+
+    EXPECT_THAT(complaints(), ElementsAre("The clip \"clip.mp4\" is cut short: only its beginning is played"));
+    EXPECT_EQ(log.records().front().severity, commons::DefaultLogger::errorSeverity);
+    EXPECT_EQ(log.records().front().function, "ClipDecoder");
+}
+
+TEST_F(DamagedClip, IsGivenUpWhenItsPicturesGoWhileItIsShown) {
+    LazyClipDecoder decoder = exactDecoder();
+    const auto file = fileWith(bytesOf("ProUpsells/Resources/Clips/StorePageTemplatesVideo.mp4"));
+    const auto clip = decoder.open(file);
+    ASSERT_TRUE(clip->frameAt(0).picture);
+
+    std::filesystem::resize_file(file, 1000);
+
+    EXPECT_FALSE(clip->frameAt(5).picture);
+    EXPECT_FALSE(clip->isPlayable());
+    EXPECT_THAT(complaints(), ElementsAre("The clip \"clip.mp4\" cannot be played any more: its pictures have gone"));
+}
+
 TEST_F(DamagedClip, IsSilentWhenItsFileIsMissing) {
     LazyClipDecoder decoder = exactDecoder();
     const auto clip = decoder.open("no-such-clip.mp4");

@@ -45,7 +45,9 @@ TEST_F(LargeClip, IsRefusedByItsSizeAlone) {
     EXPECT_FALSE(clip->frameAt(0).picture);
 
     EXPECT_FALSE(clip->isPlayable());
-    EXPECT_THAT(complaints(), ElementsAre(HasSubstr("its pictures are 16384 by 16384 pixels, expected at most")));
+    EXPECT_THAT(complaints(),
+                ElementsAre("The clip \"clip.mp4\" cannot be played: its pictures are 16384 by 16384 pixels, expected "
+                            "at most as many as 3840 by 2176 have"));
     EXPECT_LT(usedMemory_bytes(), before + (64u << 20));
 }
 
@@ -54,6 +56,8 @@ TEST_F(LargeClip, OfTheGreatestSizeIsNotRefused) {
     LazyClipDecoder decoder = exactDecoder();
 
     EXPECT_TRUE(decoder.open(file)->frameAt(0).picture);
+    EXPECT_FALSE(decoder.open(fileWith(described("avc1", 3840, 2177), "larger.mp4"))->frameAt(0).picture);
+    EXPECT_THAT(complaints(), ElementsAre(HasSubstr("its pictures are 3840 by 2177 pixels")));
 }
 
 TEST_F(LargeClip, IsClosedWhileItIsNotShown) {
@@ -75,6 +79,21 @@ TEST_F(LargeClip, IsClosedWhileItIsNotShown) {
     EXPECT_EQ(again.time_s, fresh.time_s);
     EXPECT_EQ(again.picture->pixels, fresh.picture->pixels);
     EXPECT_THAT(complaints(), testing::IsEmpty());
+}
+
+TEST_F(LargeClip, TakesNoMoreMemoryTheLongerItPlays) {
+    if (isSanitized) GTEST_SKIP() << "sanitizers keep what is given back";
+    LazyClipDecoder decoder = exactDecoder();
+    const auto clip = decoder.open(counting);
+    const auto playRounds = [&](int count) {
+        for (int picture = 0; picture < 20 * count; ++picture) clip->frameAt(picture * 0.1);
+    };
+    playRounds(20);
+    const std::size_t before = usedMemory_bytes();
+    playRounds(200);
+
+    // A hundred bytes for each picture would be 400 KB.
+    EXPECT_LT(usedMemory_bytes(), before + (100u << 10));
 }
 
 TEST_F(LargeClip, ThatIsAPictureIsRefused) {

@@ -81,6 +81,16 @@ TEST(FixedTextShaper, GivesEndsOfLinesNoWidth) {
     EXPECT_THAT(advances, ElementsAre(8, 0, 8, 0, 8, 0));
 }
 
+TEST(FixedTextShaper, TakesBlanksAndEndsOfLinesForWhitespace) {
+    const auto text = shape({run("a \n\u00A0\t")});
+
+    std::vector<bool> isWhitespace;
+    for (const Cluster& cluster : text->clusters) isWhitespace.push_back(cluster.isWhitespace);
+    EXPECT_THAT(isWhitespace, ElementsAre(false, true, true, false, true));
+}
+
+TEST(FixedTextShaper, FillsEachLineAsFarAsItGoes) { EXPECT_TRUE(shape({run("a")})->keepsGreedyLines); }
+
 TEST(FixedTextShaper, StopsTheProgramWithoutARun) { EXPECT_DEATH(shape({}), "without a run"); }
 
 TEST(FixedTextShaper, CountsItsCalls) {
@@ -105,24 +115,34 @@ TEST(LineBreaks, AreAllowedAfterHyphensInsideWords) {
     EXPECT_EQ(withBreaks("a – b—c"), "a |– |b—|c");
     EXPECT_EQ(withBreaks("-20 -x 3-4 3–4"), "-20 |-x |3-4 |3–|4");
     EXPECT_EQ(withBreaks("a-)"), "a-)");
+    EXPECT_EQ(withBreaks("-x a-b"), "-x |a-|b");
+    EXPECT_EQ(withBreaks("a--b"), "a--|b");
 }
 
 TEST(LineBreaks, AreAllowedBetweenIdeographs) {
     EXPECT_EQ(withBreaks("语言设"), "语|言|设");
     EXPECT_EQ(withBreaks("プロ版"), "プ|ロ|版");
     EXPECT_EQ(withBreaks("a语b"), "a|语|b");
+    EXPECT_EQ(withBreaks("1语2"), "1|语|2");
+    EXPECT_EQ(withBreaks("〜语〜"), "〜|语|〜");
+    EXPECT_EQ(withBreaks("#语#"), "#语#");
+    EXPECT_EQ(withBreaks("\u2FFF语"), "\u2FFF语");
 }
 
 TEST(LineBreaks, KeepPunctuationWithItsIdeograph) {
     EXPECT_EQ(withBreaks("语，言。"), "语，|言。");
     EXPECT_EQ(withBreaks("「语」言"), "「语」|言");
+    EXPECT_EQ(withBreaks("、语"), "、|语");
 }
+
+TEST(LineBreaks, AreAllowedWhereABlankWithoutWidthStands) { EXPECT_EQ(withBreaks("a\u200Bb"), "a\u200B|b"); }
 
 TEST(LineBreaks, AreMandatoryAfterEndsOfLines) {
     EXPECT_EQ(withBreaks("a\nb"), "a\n¶b");
     EXPECT_EQ(withBreaks("a\r\nb\n"), "a\r\n¶b\n¶");
     EXPECT_EQ(withBreaks("a\u2028b\u2029"), "a\u2028¶b\u2029¶");
     EXPECT_EQ(withBreaks("a \n"), "a \n¶");
+    EXPECT_EQ(withBreaks("a\rb\n\nc"), "a\r¶b\n¶\n¶c");
 }
 
 TEST(FixedTextShaper, GivesEveryCharacterItsLevelAndItsParagraphs) {

@@ -14,6 +14,7 @@ using geometry::Size;
 TEST(SvgSize, IsTheRootElementsWidthAndHeight) {
     EXPECT_EQ(svgSize(R"(<svg width="24" height="32.5" viewBox="0 0 1 1"/>)"), (Size{24, 32.5}));
     EXPECT_EQ(svgSize("<svg\n\theight = '10px'\n\twidth=' 20px ' ></svg>"), (Size{20, 10}));
+    EXPECT_EQ(svgSize("<svg id=''width=\"2'\" width='24'height='32'>"), (Size{24, 32}));
 }
 
 TEST(SvgSize, IsTheViewBoxsWhereThereIsNoOther) {
@@ -46,11 +47,33 @@ TEST(SvgSize, LooksAtTheRootElementOnly) {
 }
 
 TEST(SvgSize, IsAbsentWhereItMakesNoSense) {
-    for (const std::string_view contents :
-         {"", "   ", "svg", "<svg", "<svg>", "<!-- <svg width='1' height='1'>", "<!DOCTYPE svg [", "<svg width='0' height='5'>",
-          "<svg width='-1' height='5'>", "<svg width='5'>", "<svg width='2em' height='2em'>", "<svg width='nan' height='inf'>",
-          "<svg width=2 height=3>", "<svg width='2", "<svg viewBox='0 0 40'>", "<svg viewBox='0 0 0 30'>",
-          "<svg viewBox='a b c d'>"}) {
+    for (const std::string_view contents : {"",
+                                            "   ",
+                                            "svg",
+                                            "<svg",
+                                            "<svg>",
+                                            "<!-- <svg width='1' height='1'>",
+                                            "<!DOCTYPE svg [",
+                                            "<svg width='0' height='5'>",
+                                            "<svg width='-1' height='5'>",
+                                            "<svg width='5'>",
+                                            "<svg width='2em' height='2em'>",
+                                            "<svg width='nan' height='inf'>",
+                                            "<svg width=2 height=3>",
+                                            "<svg width=242 height=353>",
+                                            "<svg width='2",
+                                            "<svg viewBox='0 0 40'>",
+                                            "<svg width=",
+                                            "<svg viewBox='0 0 0 30'>",
+                                            "<svg viewBox='0 0 40 0'>",
+                                            "<svg viewBox='0 0 -40 -30'>",
+                                            "<svg viewBox='a b c d'>",
+                                            "<?xml <svg width='2' height='3'/>",
+                                            "<!-- --->- <svg width='2' height='3'/>",
+                                            "<!DOCTYPE svg <svg width='2' height='3'/",
+                                            "<svgs width='2' height='3'/>",
+                                            "<svg width '2' height '3'/>",
+                                            "<svg width='px' height='px'/>"}) {
         EXPECT_EQ(svgSize(contents), std::nullopt) << contents;
     }
 }
@@ -59,12 +82,23 @@ std::string pngHeader(std::string widthAndHeight) { return std::string("\x89PNG\
 
 TEST(PngSize, IsTheHeaders) { EXPECT_EQ(pngSize(pngHeader({"\0\0\1\2\0\0\0\xFF", 8})), (Size{258, 255})); }
 
+TEST(PngSize, MayBeAsLargeAsTheFormatAllows) {
+    EXPECT_EQ(pngSize(pngHeader({"\x7F\xFF\xFF\xFF\x7F\xFF\xFF\xFF", 8})), (Size{2147483647, 2147483647}));
+}
+
 TEST(PngSize, IsAbsentForOtherFiles) {
     EXPECT_EQ(pngSize(""), std::nullopt);
     EXPECT_EQ(pngSize(pngHeader({"\0\0\1\2\0\0\0", 7})), std::nullopt);
     EXPECT_EQ(pngSize(pngHeader({"\0\0\0\0\0\0\0\1", 8})), std::nullopt);
     EXPECT_EQ(pngSize(pngHeader({"\xFF\0\0\0\0\0\0\1", 8})), std::nullopt);
+    EXPECT_EQ(pngSize(pngHeader({"\0\0\0\1\0\0\0\0", 8})), std::nullopt);
+    EXPECT_EQ(pngSize(pngHeader({"\0\0\0\1\x80\0\0\0", 8})), std::nullopt);
     EXPECT_EQ(pngSize("<svg width='2' height='3'/> and some more"), std::nullopt);
+    std::string wrongSignature = pngHeader({"\0\0\0\1\0\0\0\1", 8}), wrongChunk = wrongSignature;
+    wrongSignature[7] = '\r';
+    wrongChunk[15] = 'X';
+    EXPECT_EQ(pngSize(wrongSignature), std::nullopt);
+    EXPECT_EQ(pngSize(wrongChunk), std::nullopt);
 }
 
 TEST(ImageSizeReader, ReadsFiles) {
@@ -76,6 +110,21 @@ TEST(ImageSizeReader, ReadsFiles) {
     std::filesystem::remove(file);
     EXPECT_EQ(ImageSizeReader().naturalSize(file), std::nullopt);
     EXPECT_EQ(ImageSizeReader().naturalSize(folder.path()), std::nullopt);
+}
+
+TEST(ImageSizeReader, LooksForTheRootElementInTheFirstMebibyte) {
+    const tests::TemporaryFolder folder;
+    const std::string picture = "<svg width='7' height='8'";
+    const std::string room((1 << 20) - picture.size() - std::string_view("<!---->").size(), ' ');
+
+    EXPECT_EQ(ImageSizeReader().naturalSize(folder.write("near.svg", "<!--" + room + "-->" + picture)), (Size{7, 8}));
+    EXPECT_EQ(ImageSizeReader().naturalSize(folder.write("far.svg", "<!--" + room + " -->" + picture)), std::nullopt);
+}
+
+TEST(ImageSizeReader, ReadsPngFiles) {
+    const tests::TemporaryFolder folder;
+
+    EXPECT_EQ(ImageSizeReader().naturalSize(folder.write("a.png", pngHeader({"\0\0\0\2\0\0\0\3", 8}))), (Size{2, 3}));
 }
 
 TEST(ImageSizeReader, ReadsPicturesThatTheBuildHasMade) {

@@ -97,6 +97,59 @@ TEST(TestBed, CollectsLogRecords) {
     EXPECT_THAT(bed.takeLogRecords(), IsEmpty());
 }
 
+TEST(TestBed, LeavesLogRecordsToTheOneBeforeWhenItEnds) {
+    TestBed outer;
+    { TestBed inner; }
+    logSomething("for the outer one");
+
+    const auto records = outer.takeLogRecords();
+
+    ASSERT_EQ(records.size(), 1u);
+    EXPECT_EQ(records[0].message, "for the outer one");
+}
+
+// Logs when it is let go of.
+struct LastWords {
+    explicit LastWords(std::string words) : m_words(std::move(words)) {}
+    ~LastWords() { logSomething(m_words); }
+    LastWords(const LastWords&) = delete;
+
+private:
+    std::string m_words;
+};
+
+std::shared_ptr<host::TextShaper> shaperWithLastWords(std::string words) {
+    struct Shaper {
+        explicit Shaper(std::string words) : lastWords(std::move(words)) {}
+        FixedTextShaper shaper;
+        LastWords lastWords;
+    };
+    const auto shaper = std::make_shared<Shaper>(std::move(words));
+    return {shaper, &shaper->shaper};
+}
+
+TEST(TestBed, CollectsWhatIsLoggedWhileItEnds) {
+    UnexpectedLogs unexpected;
+    {
+        TestBed bed({.textShaper = shaperWithLastWords("of a service")});
+        bed.loop().schedule(1, [words = std::make_shared<LastWords>("of what waits in the loop")] {});
+    }
+
+    EXPECT_THAT(unexpected.messages, ElementsAre("of what waits in the loop", "of a service"));
+}
+
+TEST(TestBed, WritesToStandardErrorWhatNobodyTookWhereNobodyIsToBeTold) {
+    TestBed::setUnexpectedLogHandler(nullptr);
+    ::testing::internal::CaptureStderr();
+    {
+        TestBed bed;
+        logSomething("surprise");
+    }
+    tests::failOnUnexpectedLog();
+
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "Unexpected log record: surprise (logSomething())\n");
+}
+
 TEST(TestBed, ReportsRecordsThatNobodyTook) {
     UnexpectedLogs unexpected;
     {

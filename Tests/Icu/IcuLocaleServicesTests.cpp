@@ -45,6 +45,7 @@ TEST_F(Icu, WritesPercentagesInTheLocalesOwnFormat) {
 
 TEST_F(Icu, WritesPercentagesOfPseudoLanguagesLikeTheirBaseInLatinDigits) {
     EXPECT_EQ(percent(0.45, "en_XA"), "45%");
+    EXPECT_EQ(percent(12.345, "en_XA", 1), "1,234.5%");
     EXPECT_EQ(percent(0.45, "ar_XB"), "45\u200E%\u200E");
 }
 
@@ -106,6 +107,14 @@ TEST_F(Icu, RaisesEachWordsFirstLetter) {
     EXPECT_EQ(title("ijsvrij", "en"), "Ijsvrij");
     EXPECT_EQ(title("\u00E9l\u00E9ments cr\u00E9atifs", "fr"), "\u00C9l\u00E9ments Cr\u00E9atifs");
     EXPECT_EQ(title(""), "");
+}
+
+TEST_F(Icu, FindsWordsByTheRulesOfTheLanguageThatIsAskedForNow) {
+    // A colon stands inside Swedish words.
+    EXPECT_EQ(title("eu:s regler", "en"), "Eu:S Regler");
+    EXPECT_EQ(title("eu:s regler", "sv"), "Eu:s Regler");
+    EXPECT_EQ(title("eu:s regler", "en"), "Eu:S Regler");
+    EXPECT_EQ(title("eu:s regler", ""), "Eu:S Regler");
 }
 
 class IcuBidi : public Icu {

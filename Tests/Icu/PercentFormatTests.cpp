@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <string>
+#include <unicode/decimfmt.h>
 #include <unicode/numberformatter.h>
 #include <unicode/numsys.h>
 #include <vector>
@@ -85,6 +86,70 @@ TEST(PercentFormat, FindsThePlaceOfANameThatIcuKnowsOtherwise) {
     for (const char* name : {"zh_TW", "zh_HK", "sr_RS@foo=bar", "sr_Latn_XK", "en_AU_POSIX", "de-u-nu-beng", "pt_PT", "no", "nb_SJ",
                              "in_ID", "iw", "es_419", "en_150", "en_Latn_US", "uz_AF", "de_XX", "az_Arab", "de_DE@currency=USD"})
         EXPECT_THAT(differencesIn(icu::Locale(name)), testing::IsEmpty());
+}
+
+TEST(PercentFormat, LeavesTheSignsInQuotesAsTheyAre) {
+    const auto written = [](const char16_t* pattern) {
+        return PercentFormat(icubackend::PercentElements{.pattern = pattern, .percentSign = u"<percent>", .minusSign = u"<minus>"})
+            .text(0.05, 0);
+    };
+
+    EXPECT_EQ(written(u"-'%-'#,##0%"), "<minus>%-5<percent>");
+    EXPECT_EQ(written(u"#,##0'%'%'-'-"), "5%<percent>-<minus>");
+    EXPECT_EQ(written(u"%''#,##0''%"), "<percent>'5'<percent>");
+}
+
+// What no language's pattern has today.
+struct Pattern {
+    const char* name;
+    const char16_t* pattern;
+};
+
+class PercentPattern : public testing::TestWithParam<Pattern> {};
+
+TEST_P(PercentPattern, IsReadAsIcuReadsIt) {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::DecimalFormatSymbols symbols(icu::Locale("en_US"), status);
+    icu::DecimalFormat icuFormat(GetParam().pattern, symbols, status);
+    icuFormat.setMaximumFractionDigits(2);
+    icuFormat.setMinimumFractionDigits(0);
+    ASSERT_TRUE(U_SUCCESS(status)) << u_errorName(status);
+    const PercentFormat format(icubackend::PercentElements{.pattern = GetParam().pattern});
+
+    for (const double fraction : {0.45, -0.05, 9.99, -9.99, 12.345, 123.456, -98'765.4321, 1'234'567.0}) {
+        icu::UnicodeString expected;
+        std::string text;
+        EXPECT_EQ(format.text(fraction, 2), icuFormat.format(fraction, expected).toUTF8String(text)) << fraction;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, PercentPattern,
+    testing::Values(Pattern{"WithoutGroups", u"0%"}, Pattern{"GroupOfOne", u"#,0%"}, Pattern{"GroupsOfTwo", u"#,#0%"},
+                    Pattern{"GroupsOfTwoSizes", u"#,##,##0%"}, Pattern{"GroupsOfOneBeforeThree", u"#,#,##0%"},
+                    Pattern{"GroupsOfFour", u"#,###0%"}, Pattern{"NegativeInParentheses", u"#,##0%;(#,##0%)"},
+                    Pattern{"NegativeWithItsSignBehind", u"#,##0%;#,##0%-"}, Pattern{"SignInFront", u"-#,##0%;#,##0%"},
+                    Pattern{"QuotedWord", u"'about '#,##0%"}, Pattern{"QuotedCharactersOfNumbers", u"'#0,.'#,##0%' #0'"},
+                    Pattern{"QuotedSigns", u"'-%'#,##0%'%-'"}, Pattern{"QuotedSemicolon", u"#,##0%';'"},
+                    Pattern{"QuotedSemicolonAndNegative", u"#,##0%';';(#,##0%)"}, Pattern{"Apostrophe", u"#,##0 o''clock%"},
+                    Pattern{"ApostropheInsideQuotes", u"'it''s '#,##0%"}, Pattern{"ApostropheAtBothEnds", u"''#,##0%''"},
+                    Pattern{"SignBetween", u"% #,##0 x"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(PercentFormat, WritesItsElementsForTheCharactersOfThePattern) {
+    const PercentFormat format(icubackend::PercentElements{.pattern = u"% #,##0",
+                                                           .digits = u"abcdefghij",
+                                                           .decimal = u"<point>",
+                                                           .group = u"<group>",
+                                                           .percentSign = u"<percent>",
+                                                           .minusSign = u"<minus>",
+                                                           .fewestDigitsBeforeLastGroup = 2});
+
+    EXPECT_EQ(format.text(0.05, 2), "<percent> f");
+    EXPECT_EQ(format.text(-0.12345, 2), "<minus><percent> bc<point>de");
+    EXPECT_EQ(format.text(12.34, 2), "<percent> bcde");
+    EXPECT_EQ(format.text(123.45, 2), "<percent> bc<group>def");
+    EXPECT_EQ(format.text(1234567.89, 2), "<percent> bcd<group>efg<group>hij");
 }
 
 RC_GTEST_PROP(PercentFormat, RoundsEveryNumberLikeIcu, ()) {

@@ -210,3 +210,21 @@ TEST(DesktopSettingsOfAPerson, CountTheFactorForTextsOnce) {
                                                             {3.0, 1.0, 3.0}})
         EXPECT_EQ(qtbackend::remainingTextScale(textScale, displayScale), expected) << textScale << " on " << displayScale;
 }
+
+TEST(DesktopSettingsOfAPerson, CountTheFactorForTextsOnEveryDisplayThatDoesNot) {
+    DesktopSettings settings;
+    settings.adopt(gnome, "text-scaling-factor", 1.25);
+
+    for (const double displayScale : {1.0, 1.25, 2.5})
+        EXPECT_EQ(settings.textSize(displayScale), ContentSizeCategory::extraExtraLarge);
+}
+
+TEST(DesktopSettingsOfAPerson, HaveNoFactorThatIsALittleLess) {
+    for (const auto& [textScale, displayScale, expected] : {std::tuple{1.25, 1.25 * 1.019, 1.0},
+                                                            {1.25, 1.25 * 1.021, 1.25},
+                                                            {1.25, 1.25 * 0.981, 1.0},
+                                                            {1.25, 1.25 * 0.979, 1.25},
+                                                            {4.0, 0.04, 4.0},
+                                                            {3.0, 1.5, 3.0}})
+        EXPECT_EQ(qtbackend::remainingTextScale(textScale, displayScale), expected) << textScale << " on " << displayScale;
+}

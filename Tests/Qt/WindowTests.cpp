@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QAccessible>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPixmap>
@@ -8,6 +10,7 @@
 #include <QScreen>
 #include <QWheelEvent>
 
+#include "Backends/Qt/PixelImage.hpp"
 #include "Backends/Qt/QtRunLoopDriver.hpp"
 #include "Backends/Qt/QtWindow.hpp"
 #include "Platform/Graphics/PaintContext.hpp"
@@ -104,6 +107,12 @@ protected:
         QKeyEvent event(QEvent::KeyPress, key, {});
         QCoreApplication::sendEvent(&window, &event);
     }
+    void finger(QEvent::Type type, int id, QEventPoint::State state) {
+        static QPointingDevice device("screen", 1, QInputDevice::DeviceType::TouchScreen, QPointingDevice::PointerType::Finger,
+                                      QInputDevice::Capability::Position, 5, 0);
+        QTouchEvent event(type, &device, {}, {QEventPoint(id, state, {}, {})});
+        QCoreApplication::sendEvent(&window, &event);
+    }
     std::vector<TouchPhase> phases() const {
         std::vector<TouchPhase> phases;
         for (const host::Touch& touch : content->touches) phases.push_back(touch.phase);
@@ -164,10 +173,55 @@ TEST_F(QtWindowTest, FollowsTheFirstFingerOnly) {
     EXPECT_THAT(phases(), ElementsAre(TouchPhase::began, TouchPhase::moved, TouchPhase::ended));
 }
 
+TEST_F(QtWindowTest, WaitsForAFingerThatComesDownWhenTheFirstHasLifted) {
+    finger(QEvent::TouchBegin, 7, QEventPoint::Pressed);
+    finger(QEvent::TouchEnd, 7, QEventPoint::Released);
+    finger(QEvent::TouchUpdate, 8, QEventPoint::Updated);
+    finger(QEvent::TouchUpdate, 8, QEventPoint::Stationary);
+    EXPECT_THAT(phases(), ElementsAre(TouchPhase::began, TouchPhase::ended));
+
+    finger(QEvent::TouchBegin, 8, QEventPoint::Pressed);
+    finger(QEvent::TouchUpdate, 8, QEventPoint::Stationary);
+    finger(QEvent::TouchUpdate, 8, QEventPoint::Updated);
+    EXPECT_THAT(phases(), ElementsAre(TouchPhase::began, TouchPhase::ended, TouchPhase::began, TouchPhase::moved));
+}
+
+TEST_F(QtWindowTest, TakesTheMouseOrAFingerWhicheverComesFirst) {
+    mouse(QEvent::MouseButtonPress, {12, 34});
+    finger(QEvent::TouchBegin, 7, QEventPoint::Pressed);
+    mouse(QEvent::MouseButtonPress, {13, 34});
+    mouse(QEvent::MouseButtonRelease, {12, 34}, Qt::RightButton);
+    mouse(QEvent::MouseButtonRelease, {12, 34});
+    mouse(QEvent::MouseButtonRelease, {12, 34});
+    EXPECT_THAT(phases(), ElementsAre(TouchPhase::began, TouchPhase::ended));
+
+    finger(QEvent::TouchBegin, 7, QEventPoint::Pressed);
+    mouse(QEvent::MouseButtonPress, {12, 34});
+    mouse(QEvent::MouseMove, {12, 35});
+    mouse(QEvent::MouseButtonRelease, {12, 34});
+    EXPECT_THAT(phases(), ElementsAre(TouchPhase::began, TouchPhase::ended, TouchPhase::began));
+}
+
+TEST_F(QtWindowTest, CancelsATouchThatTheSystemTakesAway) {
+    finger(QEvent::TouchBegin, 7, QEventPoint::Pressed);
+    finger(QEvent::TouchUpdate, 7, QEventPoint::Updated);
+    finger(QEvent::TouchCancel, 7, QEventPoint::Updated);
+    finger(QEvent::TouchCancel, 7, QEventPoint::Updated);
+    EXPECT_THAT(phases(), ElementsAre(TouchPhase::began, TouchPhase::moved, TouchPhase::cancelled));
+
+    content->touches.clear();
+    finger(QEvent::TouchBegin, 9, QEventPoint::Pressed);
+    EXPECT_THAT(phases(), ElementsAre(TouchPhase::began));
+}
+
 TEST_F(QtWindowTest, CancelsATouchWhenItIsHidden) {
     mouse(QEvent::MouseButtonPress, {12, 34});
     window.hide();
+    EXPECT_THAT(phases(), ElementsAre(TouchPhase::began, TouchPhase::cancelled));
+    EXPECT_EQ(content->touches.back().location, (Point{12, 34}));
 
+    mouse(QEvent::MouseMove, {14, 35});
+    mouse(QEvent::MouseButtonRelease, {14, 35});
     EXPECT_THAT(phases(), ElementsAre(TouchPhase::began, TouchPhase::cancelled));
 }
 
@@ -180,13 +234,48 @@ TEST_F(QtWindowTest, ScrollsDownWhenTheWheelIsTurnedTowardsThePerson) {
     EXPECT_THAT(content->scrolls, ElementsAre(std::pair(Point{20, 30}, Point{0, 60}), std::pair(Point{20, 30}, Point{-3, -5})));
 }
 
+TEST_F(QtWindowTest, ScrollsSidewaysAndByPartsOfANotchAndNotByNothing) {
+    const auto turn = [&](QPoint angle) {
+        QWheelEvent event({21, 32}, window.mapToGlobal(QPointF(21, 32)), {}, angle, {}, {}, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&window, &event);
+    };
+    turn({-240, 0});
+    turn({0, 30});
+    turn({0, 0});
+
+    EXPECT_THAT(content->scrolls, ElementsAre(std::pair(Point{21, 32}, Point{120, 0}), std::pair(Point{21, 32}, Point{0, -15})));
+}
+
+TEST_F(QtWindowTest, TakesNoFingerForAMouseThatRests) {
+    QPointingDevice device("screen", 1, QInputDevice::DeviceType::TouchScreen, QPointingDevice::PointerType::Finger,
+                           QInputDevice::Capability::Position, 5, 0);
+    content->pointers.clear();
+    QMouseEvent moves(QEvent::MouseMove, {25, 35}, {25, 35}, Qt::NoButton, Qt::NoButton, Qt::NoModifier, &device);
+    QCoreApplication::sendEvent(&window, &moves);
+
+    EXPECT_THAT(content->pointers, IsEmpty());
+}
+
 TEST_F(QtWindowTest, HandsOnTheKeysThatMeanSomething) {
-    for (const int key : {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Space, Qt::Key_Up, Qt::Key_Down,
-                          Qt::Key_Left, Qt::Key_Right, Qt::Key_A})
+    for (const int key :
+         {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Up, Qt::Key_Down,
+          Qt::Key_Left, Qt::Key_Right, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End, Qt::Key_A})
         press(key);
 
-    EXPECT_THAT(content->keys, ElementsAre(Key::escape, Key::tab, Key::backTab, Key::activate, Key::space, Key::up, Key::down,
-                                           Key::left, Key::right));
+    EXPECT_THAT(content->keys, ElementsAre(Key::escape, Key::tab, Key::backTab, Key::activate, Key::activate, Key::space, Key::up,
+                                           Key::down, Key::left, Key::right, Key::pageUp, Key::pageDown, Key::home, Key::end));
+}
+
+TEST_F(QtWindowTest, LeavesAloneTheKeysThatMeanNothing) {
+    const auto isAccepted = [&](int key) {
+        QKeyEvent event(QEvent::KeyPress, key, {});
+        event.setAccepted(true);
+        QCoreApplication::sendEvent(&window, &event);
+        return event.isAccepted();
+    };
+
+    EXPECT_TRUE(isAccepted(Qt::Key_Return));
+    EXPECT_FALSE(isAccepted(Qt::Key_A));
 }
 
 TEST_F(QtWindowTest, SaysWhereTheMouseRestsAndThatItHasLeft) {
@@ -294,6 +383,65 @@ TEST_F(QtWindowTest, ReportsThatItWasClosed) {
     window.close();
 
     EXPECT_EQ(closings, 1);
+}
+
+TEST_F(QtWindowTest, MayReplaceItsHandlerWhenItWasClosed) {
+    int closings = 0;
+    window.setCloseHandler([&] {
+        ++closings;
+        window.setCloseHandler({});
+    });
+    window.close();
+    window.show();
+    window.close();
+
+    EXPECT_EQ(closings, 1);
+}
+
+TEST_F(QtWindowTest, IsReadAsAWindowOfTheProgram) {
+    QAccessibleInterface* const root = window.accessibleRoot();
+
+    EXPECT_EQ(root->role(), QAccessible::Window);
+    EXPECT_EQ(root->text(QAccessible::Name), "Test");
+    EXPECT_EQ(root->rect(), QRect(window.mapToGlobal(QPoint(0, 0)), QSize(100, 80)));
+    EXPECT_EQ(root->parent(), QAccessible::queryAccessibleInterface(qApp));
+    EXPECT_EQ(root->window(), &window);
+    EXPECT_FALSE(root->state().invisible);
+    window.hide();
+    EXPECT_TRUE(root->state().invisible);
+}
+
+TEST_F(QtWindowTest, HasWholePointsForItsSize) {
+    const auto shown = std::make_shared<FakeContent>();
+    const qtbackend::QtWindow other(shown, {.title = "Other", .size = {99.6, 80.4}, .safeArea = {1, 2, 3, 4}});
+
+    EXPECT_EQ(other.size(), QSize(100, 80));
+    EXPECT_EQ(shown->size, (geometry::Size{100, 80}));
+    EXPECT_EQ(shown->safeArea, (geometry::PhysicalInsets{1, 2, 3, 4}));
+    EXPECT_EQ(other.title(), "Other");
+    EXPECT_EQ(other.surfaceType(), QSurface::RasterSurface);
+}
+
+TEST_F(QtWindowTest, ShowsNothingWhileItIsHidden) {
+    window.hide();
+    tests::settle();
+    const int paints = content->paintCount;
+    content->changed();
+    tests::settle();
+    EXPECT_EQ(content->paintCount, paints);
+
+    window.show();
+    EXPECT_TRUE(handleEventsUntil([&] { return content->paintCount > paints; }));
+}
+
+TEST(RegionsOfPixels, HoldEveryUnitThatAPixelTouches) {
+    using qtbackend::regionOf;
+
+    EXPECT_EQ(regionOf({}, 1.5), QRegion());
+    EXPECT_EQ(regionOf({{1, 2, 4, 5}}, 1), QRegion(1, 2, 3, 3));
+    EXPECT_EQ(regionOf({{1, 2, 4, 5}}, 1.5), QRegion(0, 1, 3, 3));
+    EXPECT_EQ(regionOf({{2, 4, 6, 10}}, 2), QRegion(1, 2, 2, 3));
+    EXPECT_EQ(regionOf({{0, 0, 2, 2}, {10, 20, 13, 21}}, 2), QRegion(0, 0, 1, 1) + QRegion(5, 10, 2, 1));
 }
 
 TEST_F(QtWindowTest, LetsGoOfItsContent) {

@@ -12,6 +12,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QWheelEvent>
 
 #include "Backends/Qt/DesktopSettings.hpp"
 #include "Backends/QtQuick/PaywallItem.hpp"
@@ -208,6 +209,171 @@ TEST_F(Items, FollowTheirProperties) {
     EXPECT_EQ(traits.userInterfaceStyle, graphics::ColorScheme::light);
 }
 
+TEST_F(Items, SayWhatTheirPropertiesAreAndWhenTheyBecomeOthers) {
+    show();
+    int changes = 0;
+    QObject::connect(paywall, &PaywallItem::traitsChanged, [&] { ++changes; });
+    for (const auto scheme : {PaywallItem::ColorScheme::Light, PaywallItem::ColorScheme::Dark, PaywallItem::ColorScheme::System}) {
+        paywall->setColorScheme(scheme);
+        paywall->setColorScheme(scheme);
+        EXPECT_EQ(paywall->colorScheme(), scheme);
+    }
+    EXPECT_EQ(changes, 3);
+    for (const auto direction :
+         {PaywallItem::Direction::RightToLeft, PaywallItem::Direction::LeftToRight, PaywallItem::Direction::System}) {
+        paywall->setDirection(direction);
+        EXPECT_EQ(paywall->direction(), direction);
+    }
+    EXPECT_EQ(changes, 6);
+    EXPECT_FALSE(paywall->reducesMotion());
+    paywall->setReducesMotion(true);
+    EXPECT_TRUE(paywall->reducesMotion());
+    paywall->setReducesMotion(false);
+    EXPECT_FALSE(paywall->reducesMotion());
+    EXPECT_EQ(changes, 8);
+    EXPECT_EQ(paywall->textSize(), 0);
+    paywall->setTextSize(2);
+    EXPECT_EQ(paywall->textSize(), 2);
+    paywall->setTextSize(-99);
+    EXPECT_EQ(paywall->textSize(), -3);
+    EXPECT_EQ(paywall->uiWindow().traits().preferredContentSizeCategory, graphics::ContentSizeCategory::extraSmall);
+    paywall->resetTextSize();
+    EXPECT_EQ(paywall->textSize(), 0);
+    EXPECT_EQ(changes, 11);
+}
+
+TEST_F(Items, SayWhenWhatIsSoldHasBecomeSomethingElse) {
+    show();
+    std::vector<std::string> changes;
+    QObject::connect(paywall, &PaywallItem::optionsChanged, [&] { changes.push_back("options"); });
+    QObject::connect(paywall, &PaywallItem::pricesChanged, [&] { changes.push_back("prices"); });
+    QObject::connect(paywall, &PaywallItem::referrerChanged, [&] { changes.push_back("referrer"); });
+    QObject::connect(paywall, &PaywallItem::openChanged, [&] { changes.push_back("open"); });
+    for (int time = 0; time < 2; ++time) {
+        paywall->setOptions({QVariantMap{{"sku", "new"}, {"period", "monthly"}, {"price", "$5"}}});
+        paywall->setAnnualComparisonPrice("$120");
+        paywall->setMonthlyComparisonPrice("$12");
+        paywall->setReferrer("editor");
+    }
+    EXPECT_THAT(changes, ElementsAre("options", "prices", "prices", "referrer"));
+    EXPECT_EQ(paywall->paywall()->annualSubscriptionPriceForComparisonWithPromotionalPrice(), "$120");
+    EXPECT_EQ(paywall->paywall()->monthlySubscriptionPriceForComparisonWithPromotionalPrice(), "$12");
+    paywall->setAnnualComparisonPrice("");
+    paywall->setMonthlyComparisonPrice("");
+    EXPECT_EQ(paywall->paywall()->annualSubscriptionPriceForComparisonWithPromotionalPrice(), std::nullopt);
+    EXPECT_EQ(paywall->paywall()->monthlySubscriptionPriceForComparisonWithPromotionalPrice(), std::nullopt);
+
+    changes.clear();
+    paywall->setAnnualComparisonPrice("$99");
+    paywall->setOpen(true);
+    paywall->setOpen(false);
+    paywall->setOpen(false);
+    EXPECT_EQ(paywall->controller(), nullptr);
+    paywall->setMonthlyComparisonPrice("$9");
+    paywall->setOpen(true);
+    EXPECT_THAT(changes, ElementsAre("prices", "open", "prices", "open"));
+    EXPECT_EQ(paywall->paywall()->annualSubscriptionPriceForComparisonWithPromotionalPrice(), "$99");
+    EXPECT_EQ(paywall->paywall()->monthlySubscriptionPriceForComparisonWithPromotionalPrice(), "$9");
+    EXPECT_EQ(paywall->paywall()->referrer(), Referrer{"editor"});
+}
+
+TEST_F(Items, ScrollByTheWheelAndByAFinger) {
+    show();
+    paywall->setHeight(400);
+    settle();
+    const auto closeTop = [&] {
+        const accessibility::SemanticNode screen = paywall->uiWindow().semanticTree();
+        return accessibility::findByIdentifier(screen, "plan.pro.monthly")->frame.minY();
+    };
+    const double before = closeTop();
+    QWheelEvent notch({100, 100}, paywall->mapToGlobal(QPointF(100, 100)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(paywall, &notch);
+    settle();
+
+    EXPECT_EQ(closeTop(), before - 60);
+}
+
+TEST_F(Items, FollowTheirOwnSize) {
+    show();
+    paywall->setSize({300, 500});
+    settle();
+
+    EXPECT_EQ(paywall->uiWindow().frame().size, (geometry::Size{300, 500}));
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(paywall)->rect().size(), QSize(300, 500));
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(paywall)->rect().topLeft(), window.mapToGlobal(QPoint(0, 50)));
+}
+
+TEST_F(Items, GiveUpAPressThatTheSceneTakesAway) {
+    show();
+    const accessibility::SemanticNode screen = paywall->uiWindow().semanticTree();
+    const accessibility::SemanticNode* subscribe = accessibility::findByIdentifier(screen, "subscribe");
+    ASSERT_NE(subscribe, nullptr);
+    const QPointF at = paywall->mapToScene({subscribe->frame.midX(), subscribe->frame.midY()});
+    QMouseEvent press(QEvent::MouseButtonPress, at, window.mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&window, &press);
+    EXPECT_TRUE(paywall->hasActiveFocus());
+    settle();
+    paywall->ungrabMouse();
+    settle();
+    QMouseEvent release(QEvent::MouseButtonRelease, at, window.mapToGlobal(at), Qt::LeftButton, Qt::NoButton, {});
+    QCoreApplication::sendEvent(&window, &release);
+    settle();
+
+    EXPECT_THAT(told(), IsEmpty());
+}
+
+TEST_F(Items, LeaveKeysThatMeanNothingToThoseAround) {
+    show(R"(
+        import QtQuick
+        import ProUpsells
+        Item {
+            property var told: []
+            Keys.onPressed: event => told.push("key " + event.key)
+            Paywall { objectName: "paywall"; width: 375; height: 800; options: [{ sku: "a", period: "monthly", price: "$1" }] }
+        })");
+    paywall->forceActiveFocus();
+    pressKey(Qt::Key_F);
+    pressKey(Qt::Key_Escape);
+
+    EXPECT_THAT(told(), ElementsAre("key " + std::to_string(int(Qt::Key_F))));
+}
+
+TEST_F(Items, StandInTheItemAroundThemThatIsMarkedAndAreCalledAsQmlCallsThem) {
+    show(R"(
+        import QtQuick
+        import ProUpsells
+        Item {
+            objectName: "marked"
+            Accessible.role: Accessible.Pane
+            Item {
+                Paywall {
+                    objectName: "paywall"; Accessible.name: "The paywall"
+                    options: [{ sku: "a", period: "monthly", price: "$1" }]
+                }
+            }
+        })");
+    QAccessibleInterface* const tree = QAccessible::queryAccessibleInterface(paywall);
+
+    EXPECT_EQ(tree->parent(), QAccessible::queryAccessibleInterface(root.get()));
+    EXPECT_EQ(tree->text(QAccessible::Name), "The paywall");
+    EXPECT_EQ(tree->window(), &window);
+}
+
+TEST_F(Items, GetTheFocusWhenAssistiveTechnologyGivesItToOneOfTheirControls) {
+    show();
+    root->findChild<QQuickItem*>("before")->forceActiveFocus();
+    ASSERT_FALSE(paywall->hasActiveFocus());
+    QAccessibleInterface* const dialog = QAccessible::queryAccessibleInterface(paywall)->child(0);
+    for (int index = 0; index < dialog->childCount(); ++index) {
+        auto* const actions = dialog->child(index)->actionInterface();
+        if (!actions->actionNames().contains(QAccessibleActionInterface::setFocusAction())) continue;
+        actions->doAction(QAccessibleActionInterface::setFocusAction());
+        break;
+    }
+
+    EXPECT_TRUE(paywall->hasActiveFocus());
+}
+
 TEST_F(Items, FollowTheDesktopUnlessTheHostDecides) {
     auto& desktop = qtbackend::DesktopSettings::shared();
     show();
@@ -281,6 +447,21 @@ TEST_F(Items, MoveToAnotherWindow) {
 
     EXPECT_TRUE(paywall->uiWindow().isSeen());
     EXPECT_NE(other.grabWindow().pixel(187, 450), window.grabWindow().pixel(187, 450));
+}
+
+TEST_F(Items, RunNothingInAWindowThatIsHiddenYet) {
+    show();
+    QQuickWindow other;
+    other.resize(375, 900);
+    root->setParentItem(other.contentItem());
+    EXPECT_FALSE(paywall->uiWindow().isSeen());
+    other.show();
+    EXPECT_TRUE(paywall->uiWindow().isSeen());
+    window.hide();
+    EXPECT_TRUE(paywall->uiWindow().isSeen());
+
+    root->setParentItem(nullptr);
+    EXPECT_FALSE(paywall->uiWindow().isSeen());
 }
 
 TEST_F(Items, MayBeDeletedFromInsideACallback) {

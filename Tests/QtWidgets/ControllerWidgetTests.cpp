@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPalette>
 #include <QPointer>
+#include <QPointingDevice>
 
 #include "Backends/Qt/DesktopSettings.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
@@ -61,6 +62,14 @@ TEST_F(Widgets, PreferTheSizeThatTheirControllerPrefers) {
     widget->setController(small);
 
     EXPECT_EQ(widget->sizeHint(), QSize(200, 100));
+    for (const geometry::Size none : {geometry::Size{200, 0}, {0, 200}, {-1, 200}}) {
+        small->setPreferredContentSize(none);
+        EXPECT_EQ(widget->sizeHint(), QSize(375, 800)) << none.width;
+    }
+    small->setPreferredContentSize({0.5, 1});
+    EXPECT_EQ(widget->sizeHint(), QSize(1, 1));
+    widget->setController(nullptr);
+    EXPECT_EQ(widget->sizeHint(), QSize(375, 800));
 }
 
 TEST_F(Widgets, MayBeEmpty) {
@@ -88,6 +97,55 @@ TEST_F(Widgets, HandOnClicks) {
     tests::mouse(*widget, QEvent::MouseButtonRelease, {60, 10});
 
     EXPECT_THAT(screen->presses, ElementsAre("first", "second"));
+}
+
+TEST_F(Widgets, TellTheContainerThatTheyPreferAnotherSize) {
+    QWidget container;
+    auto* const layout = new QHBoxLayout(&container);
+    layout->setContentsMargins(0, 0, 0, 0);
+    widget = new ControllerWidget(screen);
+    layout->addWidget(widget);
+    EXPECT_EQ(container.sizeHint(), QSize(375, 800));
+    const auto small = std::make_shared<uikit::UIViewController>();
+    small->setPreferredContentSize({400, 500});
+    widget->setController(small);
+
+    EXPECT_EQ(container.sizeHint(), QSize(400, 500));
+    delete widget;
+}
+
+TEST_F(Widgets, HandOnFingers) {
+    show();
+    QPointingDevice device("screen", 1, QInputDevice::DeviceType::TouchScreen, QPointingDevice::PointerType::Finger,
+                           QInputDevice::Capability::Position, 5, 0);
+    for (const auto& [type, state] :
+         {std::pair{QEvent::TouchBegin, QEventPoint::Pressed}, {QEvent::TouchEnd, QEventPoint::Released}}) {
+        // Without Qt's delivery a point has no place but the corner.
+        QTouchEvent event(type, &device, {}, {QEventPoint(7, state, {}, {})});
+        event.setAccepted(false);
+        QCoreApplication::sendEvent(widget, &event);
+        EXPECT_TRUE(event.isAccepted());
+    }
+
+    EXPECT_THAT(screen->presses, ElementsAre("first"));
+}
+
+TEST_F(Widgets, GiveUpAPressWhenTheyAreHidden) {
+    show();
+    tests::mouse(*widget, QEvent::MouseButtonPress, {10, 10});
+    widget->hide();
+    widget->show();
+    tests::mouse(*widget, QEvent::MouseButtonRelease, {10, 10});
+
+    EXPECT_THAT(screen->presses, IsEmpty());
+}
+
+TEST_F(Widgets, ShowAHandAsSoonAsTheMouseComesIn) {
+    show();
+    QEnterEvent enters({10, 10}, {10, 10}, widget->mapToGlobal(QPointF(10, 10)));
+    QCoreApplication::sendEvent(widget, &enters);
+
+    EXPECT_EQ(widget->cursor().shape(), Qt::PointingHandCursor);
 }
 
 TEST_F(Widgets, ShowAHandOverWhatCanBeTapped) {

@@ -5,6 +5,7 @@
 #include <rapidcheck/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 namespace proupsells::rasterbackend {
@@ -45,6 +46,31 @@ std::vector<Pixel> someGround(std::size_t count) {
     std::vector<Pixel> row(count);
     for (Pixel& pixel : row) pixel = somePixel(255);
     return row;
+}
+
+TEST(Blending, TakesAnOpacityOfAnyNumberForOneFromNothingToWhole) {
+    for (const auto& [opacity, factor] : {std::pair{0.0f, 0},
+                                          {-0.5f, 0},
+                                          {-HUGE_VALF, 0},
+                                          {std::nanf(""), 0},
+                                          {0.001f, 0},
+                                          {0.002f, 1},
+                                          {0.5f, 128},
+                                          {0.75f, 191},
+                                          {0.998f, 254},
+                                          {0.999f, 255},
+                                          {1.0f, 255},
+                                          {1.5f, 255},
+                                          {HUGE_VALF, 255}})
+        EXPECT_EQ(opacityFactor(opacity), factor) << opacity;
+}
+
+TEST(Blending, MultipliesColoursByTheirAlphaAndTheOpacity) {
+    EXPECT_EQ(premultiplied({255, 128, 1, 255}, 255), 0xFFFF8001u);
+    EXPECT_EQ(premultiplied({255, 128, 1, 128}, 255), 0x80804001u);
+    EXPECT_EQ(premultiplied({255, 128, 1, 255}, 128), 0x80804001u);
+    EXPECT_EQ(premultiplied({255, 128, 1, 128}, 128), 0x40402000u);
+    EXPECT_EQ(premultiplied({255, 128, 1, 0}, 255), 0u);
 }
 
 RC_GTEST_PROP(Blending, PaintsPixelsOverAColorAsOverItsPixels, ()) {

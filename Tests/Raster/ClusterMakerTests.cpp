@@ -1,7 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "Backends/Raster/ClusterMaker.hpp"
+#include "Platform/Foundation/Utf8.hpp"
 
 using namespace proupsells;
 
@@ -52,4 +55,27 @@ TEST(ClusterMaker, BreaksByTheRulesThatTheLanguageAsksFor) {
 TEST(ClusterMaker, TakesAnyLanguage) {
     for (const char* language : {"", "xx", "not a language", "en_US", "zh-Hant-TW", "\xFF"})
         EXPECT_THAT(pieces("per year.", language), ElementsAre("per ", "year.")) << language;
+}
+
+TEST(ClusterMaker, BreaksNoLineAtASoftHyphenNorInsideAKoreanWord) {
+    EXPECT_THAT(pieces("extra\u00ADordinary", "en"), ElementsAre("extra\u00ADordinary"));
+    EXPECT_THAT(pieces("\uAC00\uD7A3\uAC00", "ko"), ElementsAre("\uAC00\uD7A3\uAC00"));
+}
+
+TEST(ClusterMaker, TakesBlanksAndEndsOfLinesForWhitespaceButNoBlankThatHoldsWordsTogether) {
+    rasterbackend::ClusterMaker maker;
+    std::ostringstream whitespace;
+    whitespace << std::hex << std::uppercase;
+    for (char32_t character = 1; character < 0xD800; ++character) {
+        std::string text;
+        foundation::appendUtf8(text, character);
+        std::vector<graphics::Cluster> clusters;
+        std::vector<std::uint32_t> starts;
+        const std::vector<graphics::StyledRun> runs{{text, {}, 0}};
+        maker.makeClusters(rasterbackend::RunUnits(runs), "en", clusters, starts);
+        ASSERT_EQ(clusters.size(), 1u);
+        if (clusters.front().isWhitespace) whitespace << std::uint32_t(character) << ' ';
+    }
+
+    EXPECT_EQ(whitespace.str(), "9 A B C D 20 85 1680 2000 2001 2002 2003 2004 2005 2006 2008 2009 200A 2028 2029 205F 3000 ");
 }

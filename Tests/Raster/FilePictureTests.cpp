@@ -97,6 +97,27 @@ TEST_F(FilePictureTest, StaysInMemoryOnceItIsKept) {
     EXPECT_TRUE(isRead(*picture));
 }
 
+TEST_F(FilePictureTest, IsKeptPixelForPixel) {
+    const auto picture = open();
+    picture->keep();
+    FilePicture::Reader reader(*picture);
+
+    EXPECT_EQ(reader.kept({0, 0, size.width, size.height}), whole());
+    EXPECT_EQ(reader.tile(1, false), tests::part(whole(), picture->tiles().rect(1).left, 0, picture->tiles().rect(1).width(),
+                                                 picture->tiles().rect(1).height()));
+}
+
+TEST(NarrowFilePicture, IsKeptPixelForPixelWhereATileIsAsWideAsThePicture) {
+    const tests::TemporaryFolder folder;
+    const Picture pictures[] = {tests::makePicture(100, 200, pixelAt)};
+    const auto picture = FilePicture::open(folder.write("narrow.picture", pictureFileBytes({100, 200}, pictures)), {100, 200});
+    ASSERT_TRUE(picture);
+    ASSERT_GT(picture->tiles().rowCount(), 2);
+    picture->keep();
+
+    EXPECT_EQ(FilePicture::Reader(*picture).kept({0, 0, 100, 200}), pictures[0]);
+}
+
 TEST_F(FilePictureTest, HandsATileOutAgainWhereItIsWantedAgain) {
     const auto picture = open();
     FilePicture::Reader(*picture).tile(1, true);

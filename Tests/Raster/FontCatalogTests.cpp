@@ -234,13 +234,6 @@ TEST(FontCatalog, RatherColoursAPlainSymbolThanShowsABox) {
     EXPECT_THAT(log.messages(), IsEmpty());
 }
 
-TEST(FontCatalog, TellsStylesByTheirNames) {
-    EXPECT_EQ(rasterbackend::weightOfStyle("Semi Bold"), 600);
-    EXPECT_EQ(rasterbackend::weightOfStyle("Extra-Light"), 200);
-    EXPECT_EQ(rasterbackend::weightOfStyle("Bold Italic"), 0);
-    EXPECT_EQ(rasterbackend::weightOfStyle("Poster"), 0);
-}
-
 TEST(FontCatalog, LetsLightTextsBecomeLighterAndBoldOnesBolder) {
     const std::vector<rasterbackend::FaceFile> faces{{"Kit", 300, "light"}, {"Kit", 600, "semibold"}, {"Kit", 900, "black"}};
     const auto nearest = [&](int weight) { return rasterbackend::nearestFace(faces, "kit", weight)->path; };

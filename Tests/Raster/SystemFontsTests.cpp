@@ -1,14 +1,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Backends/Raster/FallbackLanguage.hpp"
 #include "Backends/Raster/SystemFonts.hpp"
 #include "Tests/Raster/Shaping.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
 
 using namespace proupsells;
 
-using rasterbackend::fallbackLanguage;
 using rasterbackend::RasterTextShaper;
 using rasterbackend::SystemFonts;
 using testing::Field;
@@ -99,22 +97,4 @@ TEST(SystemFonts, ShowIdeographsAsTheLanguageWritesThem) {
         {"ja", "Noto Sans CJK JP"}, {"ko", "Noto Sans CJK KR"}, {"zh-cn", "Noto Sans CJK SC"}, {"zh-tw", "Noto Sans CJK TC"}};
     for (const auto& [language, family] : families)
         EXPECT_THAT(fonts.faceFor(U"\u76F4", language, 400), testing::Optional(Field(&rasterbackend::FaceFile::family, family)));
-}
-
-TEST(FallbackLanguage, IsTheTextsOwnWhereThatIsWrittenInTheScript) {
-    EXPECT_EQ(fallbackLanguage("ja", "Hani"), "ja");
-    EXPECT_EQ(fallbackLanguage("ja-JP", "Kana"), "ja");
-    EXPECT_EQ(fallbackLanguage("ko", "Hang"), "ko");
-    EXPECT_EQ(fallbackLanguage("zh-Hant", "Hani"), "zh-tw");
-    EXPECT_EQ(fallbackLanguage("zh", "Hani"), "zh-cn");
-    EXPECT_EQ(fallbackLanguage("mr", "Deva"), "mr");
-    EXPECT_EQ(fallbackLanguage("de-AT", "Zyyy"), "de");
-}
-
-TEST(FallbackLanguage, IsTheScriptsMostUsualOneElsewhere) {
-    EXPECT_EQ(fallbackLanguage("en", "Hani"), "zh-cn");
-    EXPECT_EQ(fallbackLanguage("en", "Deva"), "hi");
-    EXPECT_EQ(fallbackLanguage("", "Arab"), "ar");
-    EXPECT_EQ(fallbackLanguage("", "Zyyy"), "");
-    EXPECT_EQ(fallbackLanguage("no language", "Thai"), "th");
 }

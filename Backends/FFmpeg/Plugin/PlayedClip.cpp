@@ -24,7 +24,7 @@ PlayedClip::PlayedClip(ClipFile file, Pace pace, std::shared_ptr<Complaints> com
     : m_file(std::move(file)), m_pace(pace), m_worker(std::move(worker)), m_complaints(std::move(complaints)) {}
 
 double PlayedClip::momentAt(double time_s) const {
-    if (!(m_duration_s > 0) || !std::isfinite(time_s)) return 0;
+    if (!std::isfinite(time_s)) return 0;
     const double moment_s = std::fmod(time_s + timeTolerance_s, m_duration_s);
     return moment_s < 0 ? moment_s + m_duration_s : moment_s;
 }

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "Platform/System/BecomeProgram.hpp"
 #include "Platform/System/ProgramFile.hpp"
 #include "Platform/System/SharedObject.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
@@ -30,6 +31,13 @@ TEST(ProgramFile, IsTheOneThatRunsTheTest) {
 }
 
 TEST(OwnFile, IsTheProgramForWhatWasLinkedIntoIt) { EXPECT_EQ(system::ownFile(), system::programFile()); }
+
+TEST(OwnFileDeathTest, IsTheProgramWhateverNameThatWasStartedBy) {
+    char name[] = "no such file", filter[] = "--gtest_filter=OwnFile.IsTheProgramForWhatWasLinkedIntoIt";
+    char* const arguments[] = {name, filter, nullptr};
+
+    EXPECT_EXIT(system::becomeProgram(system::programFile(), arguments), testing::ExitedWithCode(0), "");
+}
 
 TEST(OwnFile, IsTheLibraryForWhatWasLinkedIntoThat) {
     SharedObject object(library);
