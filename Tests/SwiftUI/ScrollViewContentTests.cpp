@@ -197,6 +197,42 @@ TEST(ScrollView, RevealsThroughScrollViewsAround) {
     EXPECT_EQ(centre, (geometry::Point{299, 399}));
 }
 
+// Ten rows at their end, of which some go in a second.
+struct ShrinkingRows {
+    explicit ShrinkingRows(int remaining) {
+        screen.host().scroll({150, 200}, {0, 600});
+        withAnimation(motion::Animation{motion::TimingCurve::linear(), 1}, [&] {
+            count = remaining;
+            screen.rebuild();
+        });
+    }
+
+    int count = 10;
+    TouchScreen screen{[this] { return rows(count); }};
+};
+
+TEST(ScrollView, RevealsAtOnceWhatAChangeHasYetToBringBack) {
+    ShrinkingRows rows(6);
+    ASSERT_EQ(rows.screen.frame("row3").minY(), -300);
+
+    rows.screen.find("row3").reveal();
+    EXPECT_EQ(rows.screen.frame("row3").minY(), 100);
+
+    rows.screen.wait(0.5);
+    EXPECT_EQ(rows.screen.frame("row3").minY(), 100);
+}
+
+TEST(ScrollView, LeavesTheAnimationOfAChangeToWhatIsInSight) {
+    ShrinkingRows rows(8);
+    ASSERT_EQ(rows.screen.frame("row7").minY(), 100);
+
+    rows.screen.find("row7").reveal();
+    EXPECT_EQ(rows.screen.frame("row7").minY(), 100);
+
+    rows.screen.wait(0.5);
+    EXPECT_NEAR(rows.screen.frame("row7").minY(), 200, 1e-9);
+}
+
 TEST(ScrollView, RevealsNothingOnceItIsGone) {
     bool isThere = true;
     TouchScreen screen{[&] { return isThere ? rows() : View{}; }};

@@ -297,12 +297,14 @@ geometry::Point ScrollViewNode::revealed(const geometry::Rect& inWindow, Reveale
     const double around =
         revealed == Revealed::centre ? 0 : extent * sight.pointsPerWindowPoint / 2 + accessibility::roomAroundRevealed;
     const double first = inContent - around, last = inContent + around;
-    const double now_s = host().now_s(), offset = m_offset.offsetAt(now_s);
+    const double now_s = host().now_s(), offset = m_offset.offsetAt(now_s), shown = shownOffset(now_s);
     // One point less at the far edge, which is not part of the viewport.
     double wanted = offset;
     if (last >= offset + length()) wanted = last - length() + 1;
     if (first < wanted) wanted = first;
-    if (wanted != offset && m_offset.scrollTo(wanted, now_s)) {
+    const bool isShown = first >= shown && last < shown + length();
+    // A change that still moves the content may bring it into sight: too late.
+    if ((wanted != offset && m_offset.scrollTo(wanted, now_s)) || (!isShown && m_correction.isAnimatingAt(now_s))) {
         m_correction = Animated<double>(0);
         coast();
         noteMoved();
