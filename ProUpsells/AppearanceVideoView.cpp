@@ -10,7 +10,6 @@ namespace proupsells {
 
 AppearanceVideoView::AppearanceVideoView(std::string lightClip, std::string darkClip)
     : m_lightClip(std::move(lightClip)), m_darkClip(std::move(darkClip)), m_videoView(std::make_shared<velauikit::VideoView>()) {
-    m_videoView->setTranslatesAutoresizingMaskIntoConstraints(false);
     addSubview(m_videoView);
     m_videoView->fillSuperview();
     m_videoView->play();

@@ -90,7 +90,6 @@ LazyStorePageShelf::Controller LazyStorePageShelf::withTexts(const Controller& p
 
 LazyStorePageShelf::Controller LazyStorePageShelf::headerController(const std::shared_ptr<uikit::UIView>& header) {
     const auto controller = std::make_shared<uikit::UIViewController>();
-    header->setTranslatesAutoresizingMaskIntoConstraints(false);
     controller->view()->addSubview(header);
     header->fillSuperview();
     return controller;

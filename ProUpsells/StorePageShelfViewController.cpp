@@ -25,7 +25,6 @@ struct StorePageShelfViewController::Maker : StorePageShelfViewController {};
 StorePageShelfViewController::StorePageShelfViewController() : m_scrollView(std::make_shared<uikit::UIScrollView>()) {
     m_scrollView->setShowsHorizontalScrollIndicator(false);
     m_scrollView->setShowsVerticalScrollIndicator(false);
-    m_scrollView->setTranslatesAutoresizingMaskIntoConstraints(false);
 }
 
 StorePageShelfViewController::~StorePageShelfViewController() { stopAutoScrollTimer(); }

@@ -128,7 +128,6 @@ void VelaProStorePageViewController::loadClips() {
         videoView->widthAnchor().constraintEqualToConstant(clipWidth)->setActive(true);
         videoView->setCornerRadius(10);
         videoView->setClipsToBounds(true);
-        videoView->setTranslatesAutoresizingMaskIntoConstraints(false);
         videoViews.push_back(videoView);
     }
     handleLoadedVideoViews(videoViews);

@@ -62,8 +62,9 @@ public:
     std::string pointer() const {
         std::string result;
         for (const Level& level : m_levels) {
+            // What is entered stands in its array already; what comes next does not.
             if (level.value->is_array())
-                result += pointerStep(std::to_string(level.value->size()));
+                result += pointerStep(std::to_string(level.value->size() - (&level == &m_levels.back() ? 0 : 1)));
             else if (!level.key.empty() || !level.keys.empty())
                 result += pointerStep(level.key);
         }

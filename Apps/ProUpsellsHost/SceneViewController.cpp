@@ -96,7 +96,6 @@ private:
 void SceneViewController::viewDidLoad() {
     UIViewController::viewDidLoad();
     const auto scene = std::make_shared<SceneView>();
-    scene->setTranslatesAutoresizingMaskIntoConstraints(false);
     view()->addSubview(scene);
     scene->fillSuperview();
 }

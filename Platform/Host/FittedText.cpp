@@ -96,7 +96,6 @@ const Size& FittedText::idealSize() {
         m_measured.room.emplace();
         m_idealSize = m_measured.layout.size;
         m_idealLineCount = int(m_measured.layout.lines.size());
-        m_idealIsCut = m_measured.layout.isTruncated;
         m_unbreakableWidth = graphics::unbreakableWidth(*m_measured.shaped);
     }
     return *m_idealSize;
@@ -115,7 +114,7 @@ void FittedText::showIn(const ProposedSize& room) {
 
 ProposedSize FittedText::limitsIn(const ProposedSize& room) {
     const Size& ideal = idealSize();
-    const bool fits = !m_idealIsCut && (!room.width || *room.width + tolerance >= ideal.width) &&
+    const bool fits = (!room.width || *room.width + tolerance >= ideal.width) &&
                       (!room.height || m_idealLineCount <= 1 || *room.height + tolerance >= ideal.height);
     return fits ? ProposedSize{} : room;
 }

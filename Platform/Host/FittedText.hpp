@@ -83,7 +83,6 @@ private:
     bool m_isTooLong = false; // the end of the words is left out
     std::optional<geometry::Size> m_idealSize;
     int m_idealLineCount = 0;
-    bool m_idealIsCut = false;     // by the line limit alone
     double m_unbreakableWidth = 0; // of the text at its full size; known with the ideal size
 
     // A stack measures its views in rooms that they do not get, so what is shown is kept apart from what was measured last.

@@ -97,6 +97,17 @@ TEST_F(FittedTextTest, ShrinksStepByStepAndAtLastToItsMinimum) {
     EXPECT_TRUE(shownIn({30, 20}).isTruncated);
 }
 
+// No size would make it whole.
+TEST_F(FittedTextTest, KeepsItsSizeWhereItsLineLimitAloneCutsIt) {
+    setText("aaaa\nbb");
+    setRules({.lineLimit = 1, .minimumScale = 0.5});
+
+    const accessibility::TextInfo shown = shownIn({200, 100});
+
+    EXPECT_TRUE(shown.isTruncated);
+    EXPECT_EQ(shown.size, 10);
+}
+
 TEST_F(FittedTextTest, CutsAShrunkTextWithAnEllipsisAsSmall) {
     setText("aaaaaaaaaa");
     setRules({.lineLimit = 1, .minimumScale = 0.5});

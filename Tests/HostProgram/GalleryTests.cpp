@@ -93,8 +93,12 @@ TEST_F(GalleryCommand, ShowsOpenAndClosedCategoriesAndEveryShelf) {
 
     gallery("out");
 
-    EXPECT_THAT(moments("out"), IsSupersetOf({"all open", "category Creation Tools", "all closed", "opening", "drifting",
-                                              "shelf TemplatesShelf", "shelf VideoImageLibrariesShelf", "end"}));
+    EXPECT_THAT(moments("out"),
+                ElementsAre("at first", "all open", "category Content And Assets", "category Content And Assets 2",
+                            "category Creation Tools", "category Business Growth Tools", "category Automation (AI Features)", "end",
+                            "all closed", "opening", "drifting", "shelf ProIntroHeaderViewShelf", "shelf BrandAssetsShelf",
+                            "shelf TemplatesShelf", "shelf PDFsShelf", "shelf LayoutCollectionsShelf", "shelf PremiumFontsShelf",
+                            "shelf ShapesShelf", "shelf VideoImageLibrariesShelf"));
 }
 
 TEST_F(GalleryCommand, ShowsInPartsWhatIsHigherThanTheWindow) {
@@ -119,6 +123,23 @@ TEST_F(GalleryCommand, WritesAPictureAndATreeForEach) {
     EXPECT_EQ(picture[width], 640);
     EXPECT_EQ(picture[height], 1136);
     EXPECT_THAT(bytesOf(path("out/" + picture[tree].get<std::string>())), HasSubstr("identifier=\"subscribe\""));
+}
+
+TEST_F(GalleryCommand, NamesPicturesAfterWhatTheyShow) {
+    const std::string sku = "A.Very/Long:Name_" + std::string(60, 'x');
+    Json offers = sampleOffers();
+    offers["options"] = Json::array({offers["options"][0], offers["options"][1], offers["options"][1]});
+    offers["options"][1]["SKU"] = sku + "1";
+    offers["options"][2]["SKU"] = sku + "2";
+
+    gallery("out", {folder.write("offers.json", offers).string()});
+
+    const std::string begin = "pictures/en/paywall-320x568-large-light-";
+    const std::string plan = begin + "plan-a.very-long-name-" + std::string(38, 'x');
+    EXPECT_EQ(pictures("out", "page 1")[0][file], begin + "page-1.png");
+    EXPECT_EQ(pictures("out", "further down")[0][tree], begin + "further-down.txt");
+    EXPECT_EQ(pictures("out", "plan " + sku + "1")[0][tree], plan + ".txt");
+    EXPECT_EQ(pictures("out", "plan " + sku + "2")[0][tree], plan + "-2.txt");
 }
 
 TEST_F(GalleryCommand, ComesOutTheSameAgain) {

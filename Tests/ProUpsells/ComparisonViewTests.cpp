@@ -300,6 +300,22 @@ TEST(ComparisonView, CastsItsBarsShadowUpAndToTheRight) {
     EXPECT_NEAR(alpha, 0.1, 0.003);
 }
 
+TEST(ComparisonView, DissolvesWhatFoldsUpAboveAHeadingInThePagesColour) {
+    Comparison comparison;
+    graphics::DisplayList list;
+    comparison.window().paint(list);
+    const auto heading = allOfType(comparison.tree(), "FeatureCategoryHeader").at(1).frame;
+
+    const auto shadow = std::find_if(list.commands.begin(), list.commands.end(), [&](const graphics::Command& command) {
+        return command.kind == graphics::CommandKind::shadow && command.frame == heading.offsetBy({0, -10});
+    });
+
+    ASSERT_NE(shadow, list.commands.end());
+    EXPECT_EQ(shadow->color, graphics::rgb(0xFFFFFF));
+    EXPECT_EQ(shadow->blurRadius, 3);
+    EXPECT_EQ(shadow->opacity, 1);
+}
+
 TEST(ComparisonView, CallsItsHandler) {
     int calls = 0;
     Comparison comparison({.chooseYourPlanHandler = [&] { ++calls; }}, {375, 800});

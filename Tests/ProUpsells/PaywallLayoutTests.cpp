@@ -156,6 +156,17 @@ TEST(PaywallLayout, KeepsItsLinksApart) {
     }
 }
 
+// 47 characters of 7 points, and 8 points between each two of the three links.
+TEST(PaywallLayout, SetsItsLinksInOneLineWhereTheyJustFit) {
+    const Paywall roomy(yearlyTrialAndMonthly(), {2 * inset + 47 * 7 + 2 * 8, 800});
+    EXPECT_EQ(roomy.frame("restorePurchases").minY(), roomy.frame("termsOfService").minY());
+    EXPECT_EQ(roomy.frame("privacyPolicy").minX(), roomy.frame("termsOfService").maxX() + 8);
+    EXPECT_EQ(roomy.frame("restorePurchases").minX(), roomy.frame("privacyPolicy").maxX() + 8);
+
+    const Paywall narrow(yearlyTrialAndMonthly(), {2 * inset + 47 * 7 + 2 * 8 - 1, 800});
+    EXPECT_EQ(narrow.frame("restorePurchases").minY(), narrow.frame("termsOfService").minY() + 44);
+}
+
 TEST(PaywallLayout, IsPulledUpFromAHeightOf700On) {
     EXPECT_EQ(Paywall(yearlyTrialAndMonthly(), {375, 699.9}).frame("carousel").minY(), 0);
     EXPECT_EQ(Paywall(yearlyTrialAndMonthly(), {375, 700}).frame("carousel").minY(), -10);

@@ -43,6 +43,12 @@ TEST(Referrer, EscapesWhatCannotStandBetweenQuotes) {
     EXPECT_EQ(described("\n\t\r\0"s), R"(uuid("\n\t\r\0"))");
     EXPECT_EQ(described("\x01\x1F\x7F"), R"(uuid("\u{1}\u{1F}\u{7F}"))");
     EXPECT_EQ(described("\xC2\x85"), R"(uuid("\u{85}"))");
+    EXPECT_EQ(described("a\xC2\x80\xC2\x9F"
+                        "b"),
+              R"(uuid("a\u{80}\u{9F}b"))");
+    EXPECT_EQ(described("\xC3\x85\xC2\xBF ~"), "uuid(\"\xC3\x85\xC2\xBF ~\")");
+    EXPECT_EQ(described("a\xC2"), "uuid(\"a\xC2\")");
+    EXPECT_EQ(described("\x10\x19\x1A"), R"(uuid("\u{10}\u{19}\u{1A}"))");
     EXPECT_EQ(described("it's ü \xC2\xA0"), "uuid(\"it's ü \xC2\xA0\")");
 }
 

@@ -1,4 +1,5 @@
 // Cells that borrow the controllers of shelves while they are seen.
+#include "ProUpsells/RepeatableShelfImageView.hpp"
 #include "ProUpsells/VelaProStoreCell.hpp"
 #include "Tests/ProUpsells/StoreScreen.hpp"
 
@@ -115,6 +116,93 @@ TEST_F(StoreCell, HasNothingToGiveBackOnceItsControllerIsGone) {
     cell.layoutIfNeeded();
 
     EXPECT_FALSE(cell.viewController());
+}
+
+// --- Turning what is in it, for those who do not swipe ---
+
+namespace {
+
+class StripInACell : public StoreCell {
+protected:
+    // 21 tiles and 16 points at either end.
+    void showStrip(double tileWidth) {
+        auto tile = std::make_shared<graphics::Image>();
+        tile->size = {tileWidth, 50};
+        strip = StorePageShelfViewController::create(RepeatableShelfImageView({tile}), 0);
+        shelf->controller = strip;
+        page = showPageWith(shelf);
+    }
+    std::function<void(int)> adjustment() { return find(firstCell(*page)->accessibilityIdentifier).adjust; }
+    // How far the strip is scrolled after that many steps at once.
+    double offsetAfter(int step) {
+        adjustment()(step);
+        bed.runFor(1);
+        return strip->scrollView()->contentOffset().x;
+    }
+
+    const std::shared_ptr<OneShelf> shelf = std::make_shared<OneShelf>();
+    std::shared_ptr<StorePageShelfViewController> strip;
+    std::shared_ptr<VelaProStorePageViewController> page;
+};
+
+} // namespace
+
+TEST_F(StripInACell, IsTurnedByFourFifthsOfAPage) {
+    showStrip(100);
+
+    EXPECT_EQ(offsetAfter(1), 300);
+    EXPECT_EQ(offsetAfter(1), 600);
+    EXPECT_EQ(offsetAfter(-1), 300);
+}
+
+TEST_F(StripInACell, IsTurnedNoFurtherThanItsEnds) {
+    showStrip(100);
+
+    EXPECT_EQ(offsetAfter(-1), 0);
+    for (int turn = 0; turn < 10; ++turn) offsetAfter(1);
+    EXPECT_EQ(strip->scrollView()->contentOffset().x, 21 * 100 + 32 - 375);
+    EXPECT_EQ(offsetAfter(-1), 21 * 100 + 32 - 375 - 300);
+}
+
+TEST_F(StripInACell, IsTurnedTheOtherWayWhereTheLanguageRunsFromTheRight) {
+    uikit::UITraitCollection traits = window->traits();
+    traits.layoutDirection = geometry::LayoutDirection::rightToLeft;
+    window->setTraits(traits);
+    showStrip(100);
+    strip->scrollView()->setContentOffset({1000, 0});
+
+    EXPECT_EQ(offsetAfter(1), 700);
+    EXPECT_EQ(offsetAfter(-1), 1000);
+}
+
+TEST_F(StripInACell, MovesThereInSightOfThePerson) {
+    showStrip(100);
+
+    adjustment()(1);
+    bed.runFor(0.1);
+
+    EXPECT_GT(strip->scrollView()->contentOffset().x, 0);
+    EXPECT_LT(strip->scrollView()->contentOffset().x, 300);
+}
+
+TEST_F(StripInACell, IsNotTurnedWhereAllOfItIsSeen) {
+    showStrip(10);
+
+    EXPECT_FALSE(adjustment());
+}
+
+TEST_F(StoreCell, IsOneStopForThoseWhoHearItWhereItHasAName) {
+    VelaProStoreCell cell;
+
+    cell.setSpokenName("Shapes");
+    EXPECT_EQ(cell.accessibilitySpoken.role, accessibility::Role::group);
+    EXPECT_EQ(cell.accessibilitySpoken.name, "Shapes");
+    EXPECT_TRUE(cell.accessibilitySpoken.takesFocus);
+
+    cell.setSpokenName("");
+    EXPECT_EQ(cell.accessibilitySpoken.role, accessibility::Role::unstated);
+    EXPECT_EQ(cell.accessibilitySpoken.name, "");
+    EXPECT_FALSE(cell.accessibilitySpoken.takesFocus);
 }
 
 } // namespace proupsells::tests

@@ -314,8 +314,9 @@ TEST_F(ThemeTest, TellsNamesThatDoNotExist) {
 TEST_F(ThemeTest, TellsAColorThatIsNotOpaque) {
     Theme theme;
     theme.colors["velaBackground"].light = rgb(0xFFFFFF, 254);
+    theme.colors["focusRing"] = {rgb(0x000000, 255), rgb(0xFFFFFF, 254)};
 
-    EXPECT_THAT(theme.problems(), ElementsAre("velaBackground in light is not opaque"));
+    EXPECT_THAT(theme.problems(), ElementsAre("focusRing in dark is not opaque", "velaBackground in light is not opaque"));
 }
 
 TEST_F(ThemeTest, IsRefusedWithALineForEachProblem) {
