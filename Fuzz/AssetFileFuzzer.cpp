@@ -89,7 +89,8 @@ void showFace(headless::TestBed& bed) {
     for (const graphics::Cluster& cluster : text->clusters) require(std::isfinite(cluster.advance));
     for (const graphics::RunMetrics& metrics : text->metrics)
         require(std::isfinite(metrics.ascent) && std::isfinite(metrics.descent));
-    require(bed.takeLogRecords().size() <= 2);
+    // The file is no font, its family is missing, and the machine has none.
+    require(bed.takeLogRecords().size() <= 3);
 
     graphics::DisplayList list;
     graphics::PaintContext context(list);

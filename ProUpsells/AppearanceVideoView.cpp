@@ -22,10 +22,7 @@ AppearanceVideoView::AppearanceVideoView(const geometry::Rect&, std::string_view
 
 AppearanceVideoView::AppearanceVideoView(const foundation::Coder&) { stopAtInitializerFromArchive(); }
 
-void AppearanceVideoView::traitCollectionDidChange(const uikit::UITraitCollection& previous) {
-    UIView::traitCollectionDidChange(previous);
-    chooseClip();
-}
+void AppearanceVideoView::traitCollectionDidChange(const uikit::UITraitCollection&) { chooseClip(); }
 
 void AppearanceVideoView::didMoveToWindow() {
     if (window()) chooseClip();

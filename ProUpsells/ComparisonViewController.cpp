@@ -10,7 +10,6 @@
 namespace proupsells {
 
 void ComparisonViewController::viewDidLoad() {
-    UIViewController::viewDidLoad();
     makeCloseButton();
 
     const auto weakSelf = uikit::weakReference(*this);
@@ -21,10 +20,7 @@ void ComparisonViewController::viewDidLoad() {
     velauikit::addHostingController(*this, hostingController);
 }
 
-void ComparisonViewController::languageDidChange() {
-    UIViewController::languageDidChange();
-    makeCloseButton();
-}
+void ComparisonViewController::languageDidChange() { makeCloseButton(); }
 
 bool ComparisonViewController::accessibilityPerformEscape() {
     dismissController();

@@ -53,7 +53,6 @@ PlanButton::PlanButton() : m_titleLabel(std::make_shared<uikit::UILabel>()) {
 }
 
 void PlanButton::layoutSubviews() {
-    UIButton::layoutSubviews();
     setCornerRadius(bounds().height() / 2);
     // There is one line for the title, so a long one is set smaller until it fits.
     const auto category = std::min(traitCollection().preferredContentSizeCategory, lumokit::LargestSize::buttonText);

@@ -70,7 +70,6 @@ std::shared_ptr<StorePageShelfViewController> StorePageShelfViewController::crea
 // --- Layout ---
 
 void StorePageShelfViewController::viewDidLoad() {
-    UIViewController::viewDidLoad();
     view()->addSubview(m_scrollView);
     m_scrollView->fillSuperview();
     view()->setContentHuggingPriority(uikit::layoutPriorityHigh, uikit::Axis::vertical);
@@ -121,27 +120,19 @@ void StorePageShelfViewController::resetScrollOffset() {
     }
 }
 
-void StorePageShelfViewController::viewWillAppear(bool animated) {
-    UIViewController::viewWillAppear(animated);
+void StorePageShelfViewController::viewWillAppear(bool /*animated*/) {
     m_isShown = true;
     startAutoScrollTimer();
 }
 
-void StorePageShelfViewController::viewDidDisappear(bool animated) {
-    UIViewController::viewDidDisappear(animated);
+void StorePageShelfViewController::viewDidDisappear(bool /*animated*/) {
     m_isShown = false;
     stopAutoScrollTimer();
 }
 
-void StorePageShelfViewController::traitCollectionDidChange(const uikit::UITraitCollection& previous) {
-    UIViewController::traitCollectionDidChange(previous);
-    followSight();
-}
+void StorePageShelfViewController::traitCollectionDidChange(const uikit::UITraitCollection&) { followSight(); }
 
-void StorePageShelfViewController::windowVisibilityDidChange() {
-    UIViewController::windowVisibilityDidChange();
-    followSight();
-}
+void StorePageShelfViewController::windowVisibilityDidChange() { followSight(); }
 
 void StorePageShelfViewController::followSight() {
     if (traitCollection().reduceMotion || isInHiddenWindow())
@@ -157,7 +148,6 @@ bool StorePageShelfViewController::isInHiddenWindow() const {
 
 // A strip that cannot work its way back to its content shows the end of it.
 void StorePageShelfViewController::viewDidLayoutSubviews() {
-    UIViewController::viewDidLayoutSubviews();
     if (m_scrollDirection != ScrollDirection::right || !traitCollection().reduceMotion) return;
     const double end = std::max(0.0, m_scrollView->contentSize().width - view()->bounds().width());
     if (m_scrollView->contentOffset().x > end) m_scrollView->setContentOffset({end, m_scrollView->contentOffset().y});

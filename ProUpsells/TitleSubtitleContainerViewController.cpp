@@ -50,7 +50,6 @@ void TitleSubtitleContainerViewController::applyTexts() {
 }
 
 void TitleSubtitleContainerViewController::viewDidLoad() {
-    UIViewController::viewDidLoad();
     m_labels.addTo(*view());
     m_height = view()->heightAnchor().constraintEqualToConstant(usualHeight);
     m_height->setActive(true);
@@ -58,7 +57,6 @@ void TitleSubtitleContainerViewController::viewDidLoad() {
 }
 
 void TitleSubtitleContainerViewController::viewDidLayoutSubviews() {
-    UIViewController::viewDidLayoutSubviews();
     const auto shelf = m_shelf.lock();
     if (!shelf) return;
     const double width = view()->bounds().width(), height = heightFor(*shelf, width, traitCollection());

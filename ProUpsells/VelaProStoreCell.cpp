@@ -72,7 +72,6 @@ void VelaProStoreCell::describe(accessibility::SemanticNode& node, const graphic
 }
 
 void VelaProStoreCell::layoutSubviews() {
-    UICollectionViewCell::layoutSubviews();
     if (const auto controller = m_viewController.lock()) controller->view()->setFrame(contentView()->bounds());
 }
 

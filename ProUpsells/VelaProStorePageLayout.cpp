@@ -23,7 +23,6 @@ std::string closeLabel() { return foundation::localizedString("Close"); }
 } // namespace
 
 void VelaProStorePageViewController::viewDidLoad() {
-    UIViewController::viewDidLoad();
     applyTexts();
     view()->setBackgroundColor(pageBackground());
     collectionView()->setBackgroundColor(pageBackground());

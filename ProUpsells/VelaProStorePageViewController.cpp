@@ -83,15 +83,9 @@ void VelaProStorePageViewController::track(TrackingOperation operation) {
     tell(m_tracker, operation, m_referrer, subscriptionScreenVariantTitle, analyticsValue(m_entitlement));
 }
 
-void VelaProStorePageViewController::viewDidAppear(bool animated) {
-    UIViewController::viewDidAppear(animated);
-    track(&ProUpsellEventTracker::trackUpsellViewed);
-}
+void VelaProStorePageViewController::viewDidAppear(bool /*animated*/) { track(&ProUpsellEventTracker::trackUpsellViewed); }
 
-void VelaProStorePageViewController::traitCollectionDidChange(const uikit::UITraitCollection& previous) {
-    UIViewController::traitCollectionDidChange(previous);
-    collectionView()->reloadData();
-}
+void VelaProStorePageViewController::traitCollectionDidChange(const uikit::UITraitCollection&) { collectionView()->reloadData(); }
 
 void VelaProStorePageViewController::dismissView() {
     const auto self = uikit::strongReference(*this);

@@ -82,7 +82,6 @@ void VelaProUpsellViewController::setDelegate(std::weak_ptr<VelaProUpsellViewCon
 }
 
 void VelaProUpsellViewController::viewDidLoad() {
-    UIViewController::viewDidLoad();
     reportIfNobodyHolds(m_delegate, "delegate");
     reportIfNobodyHolds(m_tracker, "tracker");
     setModalPresentationStyle(uikit::UIModalPresentationStyle::formSheet);
@@ -131,14 +130,12 @@ void VelaProUpsellViewController::setMonthlySubscriptionPriceForComparisonWithPr
     passOnMonthlyComparisonPrice();
 }
 
-void VelaProUpsellViewController::viewDidAppear(bool animated) {
-    UIViewController::viewDidAppear(animated);
+void VelaProUpsellViewController::viewDidAppear(bool /*animated*/) {
     tell(m_tracker, &Tracker::trackUpsellViewed, Referrer(m_referrer), screenTitle(), analyticsValue(m_entitlement));
 }
 
 // Whoever is only covered by another screen stays in the window.
-void VelaProUpsellViewController::viewDidDisappear(bool animated) {
-    UIViewController::viewDidDisappear(animated);
+void VelaProUpsellViewController::viewDidDisappear(bool /*animated*/) {
     const bool isGone = isBeingDismissed() || !view()->window();
     if (!isGone) return;
     const auto self = uikit::strongReference(*this);

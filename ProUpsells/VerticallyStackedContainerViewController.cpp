@@ -20,7 +20,6 @@ void VerticallyStackedContainerViewController::setContentSpacing(double spacing)
 }
 
 void VerticallyStackedContainerViewController::viewDidLoad() {
-    UIViewController::viewDidLoad();
     addChild(m_firstShelf);
     addChild(m_secondShelf);
     m_firstShelf->didMoveToParent(this);

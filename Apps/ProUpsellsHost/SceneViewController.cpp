@@ -94,7 +94,6 @@ private:
 } // namespace
 
 void SceneViewController::viewDidLoad() {
-    UIViewController::viewDidLoad();
     const auto scene = std::make_shared<SceneView>();
     view()->addSubview(scene);
     scene->fillSuperview();

@@ -24,14 +24,8 @@ void UIHostingController::loadView() {
     setView(m_hostingView);
 }
 
-void UIHostingController::viewWillAppear(bool animated) {
-    UIViewController::viewWillAppear(animated);
-    m_hostingView->setShown(true);
-}
+void UIHostingController::viewWillAppear(bool /*animated*/) { m_hostingView->setShown(true); }
 
-void UIHostingController::viewDidDisappear(bool animated) {
-    UIViewController::viewDidDisappear(animated);
-    m_hostingView->setShown(false);
-}
+void UIHostingController::viewDidDisappear(bool /*animated*/) { m_hostingView->setShown(false); }
 
 } // namespace proupsells::hosting

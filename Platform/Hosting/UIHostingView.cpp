@@ -75,10 +75,7 @@ void UIHostingView::layoutSubviews() {
     if (m_host->needsUpdate()) m_host->update();
 }
 
-void UIHostingView::traitCollectionDidChange(const uikit::UITraitCollection& previous) {
-    UIView::traitCollectionDidChange(previous);
-    adoptEnvironment();
-}
+void UIHostingView::traitCollectionDidChange(const uikit::UITraitCollection&) { adoptEnvironment(); }
 
 void UIHostingView::didMoveToWindow() {
     if (window()) adoptEnvironment();

@@ -103,7 +103,6 @@ void UpsellViewController::setMonthlySubscriptionPriceForComparisonWithPromotion
 }
 
 void UpsellViewController::viewDidLoad() {
-    UIViewController::viewDidLoad();
     view()->setBackgroundColor(velauikit::velaBackground);
 
     m_hostingController = hosting::UIHostingController::create(paywall(m_upsellViewModel));
@@ -114,7 +113,6 @@ void UpsellViewController::viewDidLoad() {
 
 // A view's carousel titles are in the language in which it was made. The states, such as the page, pass to the new view.
 void UpsellViewController::languageDidChange() {
-    UIViewController::languageDidChange();
     if (m_hostingController) m_hostingController->setRootView(paywall(m_upsellViewModel));
 }
 
@@ -128,8 +126,7 @@ std::string UpsellViewController::accessibilityScreenName() const {
     return foundation::localizedString("Choose Your Plan", "Button that a user clicks to go back to upsell page");
 }
 
-void UpsellViewController::viewWillAppear(bool animated) {
-    UIViewController::viewWillAppear(animated);
+void UpsellViewController::viewWillAppear(bool /*animated*/) {
     if (!imageDownloadTask) return;
     m_emptyStateView->configure({.kind = velauikit::EmptyStateView::Kind(2)});
     view()->addSubview(m_emptyStateView);

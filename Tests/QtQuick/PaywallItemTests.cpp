@@ -2,101 +2,24 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QGuiApplication>
 #include <QHoverEvent>
-#include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPalette>
-#include <QPointer>
-#include <QQmlComponent>
-#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QWheelEvent>
 
-#include "Backends/Qt/DesktopSettings.hpp"
 #include "Backends/QtQuick/PaywallItem.hpp"
 #include "Platform/Accessibility/Search.hpp"
-#include "Platform/Commons/DefaultLogger.hpp"
-#include "Platform/RunLoop/MainRunLoop.hpp"
 #include "Tests/Qt/Events.hpp"
+#include "Tests/QtQuick/Items.hpp"
 
 using namespace proupsells;
 
 using qtquick::PaywallItem;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using tests::Items;
 using tests::settle;
-
-namespace {
-
-const char* const usualPaywall = R"(
-    import QtQuick
-    import ProUpsells
-    Item {
-        width: 375; height: 900
-        property var told: []
-        TextInput { objectName: "before"; activeFocusOnTab: true; width: 100; height: 20 }
-        Paywall {
-            objectName: "paywall"
-            y: 50; width: 375; height: 800
-            options: [
-                { sku: "pro.monthly", period: "monthly", price: "$14.99" },
-                { sku: "pro.yearly", period: "yearly", price: "$99.99", monthlyPrice: "$8.33", trial: "1 week" }
-            ]
-            onPurchaseRequested: sku => { told.push("buy " + sku); open = false }
-            onRestoreRequested: told.push("restore")
-            onClosed: reason => told.push("closed " + reason)
-        }
-        TextInput { objectName: "after"; activeFocusOnTab: true; y: 860; width: 100; height: 20 }
-    })";
-
-class Items : public testing::Test {
-protected:
-    void show(const char* qml = usualPaywall) {
-        QQmlComponent component(&engine);
-        component.setData(qml, {});
-        root.reset(qobject_cast<QQuickItem*>(component.create()));
-        ASSERT_TRUE(root) << component.errorString().toStdString();
-        root->setParentItem(window.contentItem());
-        paywall = root->findChild<PaywallItem*>("paywall");
-        window.resize(375, 900);
-        window.show();
-        window.requestActivate();
-        settle();
-    }
-
-    void click(QPointF at) {
-        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            QMouseEvent event(type, at, window.mapToGlobal(at), Qt::LeftButton,
-                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, {});
-            QCoreApplication::sendEvent(&window, &event);
-        }
-    }
-    void clickOn(std::string_view identifier) {
-        const accessibility::SemanticNode screen = paywall->uiWindow().semanticTree();
-        const accessibility::SemanticNode* node = accessibility::findByIdentifier(screen, identifier);
-        ASSERT_NE(node, nullptr) << identifier;
-        click(paywall->mapToScene({node->frame.midX(), node->frame.midY()}));
-        settle();
-    }
-    void pressKey(int key) {
-        QKeyEvent event(QEvent::KeyPress, key, {});
-        QCoreApplication::sendEvent(&window, &event);
-    }
-    std::vector<std::string> told() const {
-        std::vector<std::string> lines;
-        for (const QVariant& line : root->property("told").toList()) lines.push_back(line.toString().toStdString());
-        return lines;
-    }
-
-    QQmlEngine engine;
-    QQuickWindow window;
-    std::unique_ptr<QQuickItem> root;
-    QPointer<PaywallItem> paywall;
-};
-
-} // namespace
 
 TEST_F(Items, ShowThePaywallInTheScene) {
     show();
@@ -154,129 +77,6 @@ TEST_F(Items, CloseByTheirOwnButtonAndByEscape) {
     EXPECT_THAT(told(), ElementsAre("closed 1", "closed 1"));
 }
 
-TEST_F(Items, StayShutWhereQmlSaysSo) {
-    show("import ProUpsells\n import QtQuick\n Item { Paywall { objectName: \"paywall\"; open: false;"
-         "options: [{ sku: 'a', period: 'monthly', price: '$1' }] } }");
-    EXPECT_FALSE(paywall->isOpen());
-    paywall->setOpen(true);
-
-    EXPECT_TRUE(paywall->isOpen());
-}
-
-TEST_F(Items, PassOnOptionsAndPricesWhileTheyAreOpen) {
-    show();
-    paywall->setOptions({QVariantMap{{"sku", "new"}, {"period", "monthly"}, {"price", "$5"}}});
-    paywall->setMonthlyComparisonPrice("$9");
-    settle();
-    const accessibility::SemanticNode screen = paywall->uiWindow().semanticTree();
-
-    EXPECT_NE(accessibility::findByIdentifier(screen, "plan.new"), nullptr);
-    EXPECT_EQ(paywall->paywall()->monthlySubscriptionPriceForComparisonWithPromotionalPrice(), "$9");
-}
-
-TEST_F(Items, LeaveOutOptionsThatLackSomething) {
-    std::vector<std::string> messages;
-    const auto former =
-        commons::DefaultLogger::shared().setSink([&](const commons::LogRecord& record) { messages.push_back(record.message); });
-    show("import ProUpsells\n import QtQuick\n Item { Paywall { objectName: \"paywall\"; options: ["
-         "{ period: 'monthly', price: '$1' }, { sku: 'b', period: 'weekly', price: '$1' }, { sku: 'c', period: 'yearly', price: "
-         "'$1' },"
-         "{ sku: 'd', period: 'monthly', price: '$1' }] } }");
-    commons::DefaultLogger::shared().setSink(former);
-
-    EXPECT_THAT(
-        messages,
-        ElementsAre("Paywall - option number 1 is left out: it has no \"sku\"",
-                    "Paywall - option number 2 is left out: its \"period\" is none of \"monthly\", \"yearly\" and \"lifetime\"",
-                    "Paywall - option number 3 is left out: it has no \"monthlyPrice\""));
-    EXPECT_EQ(paywall->paywall()->options().size(), 1u);
-}
-
-TEST_F(Items, FollowTheirProperties) {
-    show();
-    paywall->setColorScheme(PaywallItem::ColorScheme::Dark);
-    paywall->setDirection(PaywallItem::Direction::RightToLeft);
-    paywall->setReducesMotion(true);
-    paywall->setTextSize(99);
-    const uikit::UITraitCollection& traits = paywall->uiWindow().traits();
-
-    EXPECT_EQ(traits.userInterfaceStyle, graphics::ColorScheme::dark);
-    EXPECT_EQ(traits.layoutDirection, geometry::LayoutDirection::rightToLeft);
-    EXPECT_TRUE(traits.reduceMotion);
-    EXPECT_EQ(traits.preferredContentSizeCategory, graphics::ContentSizeCategory::accessibilityExtraExtraExtraLarge);
-    EXPECT_EQ(paywall->textSize(), 8);
-    paywall->setColorScheme(PaywallItem::ColorScheme::System);
-    EXPECT_EQ(traits.userInterfaceStyle, graphics::ColorScheme::light);
-}
-
-TEST_F(Items, SayWhatTheirPropertiesAreAndWhenTheyBecomeOthers) {
-    show();
-    int changes = 0;
-    QObject::connect(paywall, &PaywallItem::traitsChanged, [&] { ++changes; });
-    for (const auto scheme : {PaywallItem::ColorScheme::Light, PaywallItem::ColorScheme::Dark, PaywallItem::ColorScheme::System}) {
-        paywall->setColorScheme(scheme);
-        paywall->setColorScheme(scheme);
-        EXPECT_EQ(paywall->colorScheme(), scheme);
-    }
-    EXPECT_EQ(changes, 3);
-    for (const auto direction :
-         {PaywallItem::Direction::RightToLeft, PaywallItem::Direction::LeftToRight, PaywallItem::Direction::System}) {
-        paywall->setDirection(direction);
-        EXPECT_EQ(paywall->direction(), direction);
-    }
-    EXPECT_EQ(changes, 6);
-    EXPECT_FALSE(paywall->reducesMotion());
-    paywall->setReducesMotion(true);
-    EXPECT_TRUE(paywall->reducesMotion());
-    paywall->setReducesMotion(false);
-    EXPECT_FALSE(paywall->reducesMotion());
-    EXPECT_EQ(changes, 8);
-    EXPECT_EQ(paywall->textSize(), 0);
-    paywall->setTextSize(2);
-    EXPECT_EQ(paywall->textSize(), 2);
-    paywall->setTextSize(-99);
-    EXPECT_EQ(paywall->textSize(), -3);
-    EXPECT_EQ(paywall->uiWindow().traits().preferredContentSizeCategory, graphics::ContentSizeCategory::extraSmall);
-    paywall->resetTextSize();
-    EXPECT_EQ(paywall->textSize(), 0);
-    EXPECT_EQ(changes, 11);
-}
-
-TEST_F(Items, SayWhenWhatIsSoldHasBecomeSomethingElse) {
-    show();
-    std::vector<std::string> changes;
-    QObject::connect(paywall, &PaywallItem::optionsChanged, [&] { changes.push_back("options"); });
-    QObject::connect(paywall, &PaywallItem::pricesChanged, [&] { changes.push_back("prices"); });
-    QObject::connect(paywall, &PaywallItem::referrerChanged, [&] { changes.push_back("referrer"); });
-    QObject::connect(paywall, &PaywallItem::openChanged, [&] { changes.push_back("open"); });
-    for (int time = 0; time < 2; ++time) {
-        paywall->setOptions({QVariantMap{{"sku", "new"}, {"period", "monthly"}, {"price", "$5"}}});
-        paywall->setAnnualComparisonPrice("$120");
-        paywall->setMonthlyComparisonPrice("$12");
-        paywall->setReferrer("editor");
-    }
-    EXPECT_THAT(changes, ElementsAre("options", "prices", "prices", "referrer"));
-    EXPECT_EQ(paywall->paywall()->annualSubscriptionPriceForComparisonWithPromotionalPrice(), "$120");
-    EXPECT_EQ(paywall->paywall()->monthlySubscriptionPriceForComparisonWithPromotionalPrice(), "$12");
-    paywall->setAnnualComparisonPrice("");
-    paywall->setMonthlyComparisonPrice("");
-    EXPECT_EQ(paywall->paywall()->annualSubscriptionPriceForComparisonWithPromotionalPrice(), std::nullopt);
-    EXPECT_EQ(paywall->paywall()->monthlySubscriptionPriceForComparisonWithPromotionalPrice(), std::nullopt);
-
-    changes.clear();
-    paywall->setAnnualComparisonPrice("$99");
-    paywall->setOpen(true);
-    paywall->setOpen(false);
-    paywall->setOpen(false);
-    EXPECT_EQ(paywall->controller(), nullptr);
-    paywall->setMonthlyComparisonPrice("$9");
-    paywall->setOpen(true);
-    EXPECT_THAT(changes, ElementsAre("prices", "open", "prices", "open"));
-    EXPECT_EQ(paywall->paywall()->annualSubscriptionPriceForComparisonWithPromotionalPrice(), "$99");
-    EXPECT_EQ(paywall->paywall()->monthlySubscriptionPriceForComparisonWithPromotionalPrice(), "$9");
-    EXPECT_EQ(paywall->paywall()->referrer(), Referrer{"editor"});
-}
-
 TEST_F(Items, ScrollByTheWheelAndByAFinger) {
     show();
     paywall->setHeight(400);
@@ -291,16 +91,6 @@ TEST_F(Items, ScrollByTheWheelAndByAFinger) {
     settle();
 
     EXPECT_EQ(closeTop(), before - 60);
-}
-
-TEST_F(Items, FollowTheirOwnSize) {
-    show();
-    paywall->setSize({300, 500});
-    settle();
-
-    EXPECT_EQ(paywall->uiWindow().frame().size, (geometry::Size{300, 500}));
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(paywall)->rect().size(), QSize(300, 500));
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(paywall)->rect().topLeft(), window.mapToGlobal(QPoint(0, 50)));
 }
 
 TEST_F(Items, GiveUpAPressThatTheSceneTakesAway) {
@@ -372,45 +162,6 @@ TEST_F(Items, GetTheFocusWhenAssistiveTechnologyGivesItToOneOfTheirControls) {
     }
 
     EXPECT_TRUE(paywall->hasActiveFocus());
-}
-
-TEST_F(Items, FollowTheDesktopUnlessTheHostDecides) {
-    auto& desktop = qtbackend::DesktopSettings::shared();
-    show();
-    const uikit::UITraitCollection& traits = paywall->uiWindow().traits();
-    desktop.adopt("org.gnome.desktop.interface", "text-scaling-factor", 2.0);
-    desktop.adopt("org.gnome.desktop.interface", "enable-animations", false);
-    EXPECT_EQ(traits.preferredContentSizeCategory, graphics::ContentSizeCategory::accessibilityLarge);
-    EXPECT_TRUE(traits.reduceMotion);
-
-    paywall->setTextSize(0);
-    paywall->setReducesMotion(false);
-    EXPECT_EQ(traits.preferredContentSizeCategory, graphics::ContentSizeCategory::large);
-    EXPECT_FALSE(traits.reduceMotion);
-
-    paywall->resetTextSize();
-    paywall->resetReducesMotion();
-    EXPECT_EQ(traits.preferredContentSizeCategory, graphics::ContentSizeCategory::accessibilityLarge);
-    EXPECT_TRUE(traits.reduceMotion);
-    desktop.adopt("org.gnome.desktop.interface", "text-scaling-factor", 1.0);
-    desktop.adopt("org.gnome.desktop.interface", "enable-animations", true);
-}
-
-TEST_F(Items, FollowTheApplicationsPaletteAndDirection) {
-    show();
-    const QPalette former = QGuiApplication::palette();
-    QPalette dark = former;
-    dark.setColor(QPalette::Window, Qt::black);
-    dark.setColor(QPalette::WindowText, Qt::white);
-    QGuiApplication::setPalette(dark);
-    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
-    settle();
-    const uikit::UITraitCollection traits = paywall->uiWindow().traits();
-    QGuiApplication::setPalette(former);
-    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
-
-    EXPECT_EQ(traits.userInterfaceStyle, graphics::ColorScheme::dark);
-    EXPECT_EQ(traits.layoutDirection, geometry::LayoutDirection::rightToLeft);
 }
 
 TEST_F(Items, RunNothingWhileTheyAreInvisible) {

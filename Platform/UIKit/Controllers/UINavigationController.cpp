@@ -29,7 +29,6 @@ void UINavigationController::setBarTintColor(const std::optional<UIColor>& color
 }
 
 void UINavigationController::viewDidLoad() {
-    UIViewController::viewDidLoad();
     view()->setBackgroundColor(m_barBackgroundColor);
     if (UIViewController* top = topViewController()) view()->addSubview(top->view());
     m_bar = std::make_shared<UINavigationBar>();
@@ -39,7 +38,6 @@ void UINavigationController::viewDidLoad() {
 }
 
 void UINavigationController::viewDidLayoutSubviews() {
-    UIViewController::viewDidLayoutSubviews();
     const geometry::Rect all = view()->bounds();
     const double barBottom = view()->safeAreaInsets().top + barHeight;
     m_bar->setFrame({{}, {all.width(), barBottom}});

@@ -35,7 +35,8 @@ public:
 
     // Makes the view and hands it to setView; a plain view unless overridden.
     virtual void loadView();
-    // Told once, when the view is there, before anybody else gets it.
+    // Told once, when the view is there, before anybody else gets it. The class itself does nothing about what it is told, here and
+    // below: an override need not call it.
     virtual void viewDidLoad() {}
     // Told before and after the view comes into sight, and before and after it goes.
     virtual void viewWillAppear(bool /*animated*/) {}

@@ -104,7 +104,6 @@ void UILabel::contentDidChange() {
 }
 
 void UILabel::traitCollectionDidChange(const UITraitCollection& previous) {
-    UIView::traitCollectionDidChange(previous);
     const bool hasOtherTextSize =
         m_largestTextSize && previous.preferredContentSizeCategory != traitCollection().preferredContentSizeCategory;
     if (hasOtherTextSize) contentDidChange();

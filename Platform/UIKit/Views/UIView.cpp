@@ -42,8 +42,6 @@ bool UIView::isDescendantOf(const UIView& view) const {
 
 UIWindow* UIView::window() const { return m_window; }
 
-void UIView::traitCollectionDidChange(const UITraitCollection&) {}
-
 // --- Properties ---
 
 void UIView::setBackgroundColor(const std::optional<UIColor>& color) {

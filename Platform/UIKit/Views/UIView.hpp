@@ -156,7 +156,7 @@ public:
     // The window's traits as they arrive here; before the view is in a window, those of the place that it is made for.
     UITraitCollection traitCollection() const;
     // Told of changes while the view is shown, not of the first traits.
-    virtual void traitCollectionDidChange(const UITraitCollection& previous);
+    virtual void traitCollectionDidChange(const UITraitCollection& /*previous*/) {}
     // The texts read so far may be in another language now: those that the view keeps are to be read again. Told in the window's
     // next update, or when the view comes back into a window, however often the language has changed meanwhile.
     virtual void languageDidChange() {}
