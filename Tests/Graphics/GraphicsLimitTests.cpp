@@ -38,9 +38,18 @@ std::size_t commandsOf(const Paint& paint) {
     return list.commands.size();
 }
 
+struct Filled {
+    Rect rect;
+    RGBA color;
+    std::size_t count; // of commands
+};
+
 TEST(Painting, LeavesNothingOfWhatHasNoAreaOrNoColour) {
-    for (const auto& [rect, color, count] : std::vector<std::tuple<Rect, RGBA, std::size_t>>{
-             {square, grey, 1}, {square, clear, 0}, {flat, grey, 0}, {negative, grey, 0}}) {
+    for (const Filled& filled :
+         {Filled{square, grey, 1}, Filled{square, clear, 0}, Filled{flat, grey, 0}, Filled{negative, grey, 0}}) {
+        const Rect& rect = filled.rect;
+        const RGBA color = filled.color;
+        const std::size_t count = filled.count;
         EXPECT_EQ(commandsOf([&](PaintContext& context) { context.fillRectangle({}, rect, color); }), count);
         EXPECT_EQ(commandsOf([&](PaintContext& context) { context.fillEllipse({}, rect, color); }), count);
         EXPECT_EQ(commandsOf([&](PaintContext& context) { context.shadow({}, rect, 3, {}, color); }), count);
@@ -55,21 +64,23 @@ TEST(Painting, LeavesNothingOfWhatHasNoAreaOrNoColour) {
     EXPECT_EQ(commandsOf([&](PaintContext& context) { context.fillEllipse({}, square, faint); }), 1u);
 }
 
+struct Stroked {
+    Rect rect;
+    double width;
+    RGBA color;
+    std::size_t count; // of commands
+};
+
 TEST(Painting, StrokesFlatFramesButNoneWithoutALength) {
-    for (const auto& [rect, width, color, count] :
-         std::vector<std::tuple<Rect, double, RGBA, std::size_t>>{{square, 1, grey, 1},
-                                                                  {square, 0.1, grey, 1},
-                                                                  {square, 0, grey, 0},
-                                                                  {square, 1, clear, 0},
-                                                                  {flat, 1, grey, 1},
-                                                                  {negative, 1, grey, 0},
-                                                                  {{{0, 0}, {0, 10}}, 1, grey, 1},
-                                                                  {{{0, 0}, {10, -1}}, 1, grey, 0}}) {
+    for (const Stroked& stroked : {Stroked{square, 1, grey, 1}, Stroked{square, 0.1, grey, 1}, Stroked{square, 0, grey, 0},
+                                   Stroked{square, 1, clear, 0}, Stroked{flat, 1, grey, 1}, Stroked{negative, 1, grey, 0},
+                                   Stroked{{{0, 0}, {0, 10}}, 1, grey, 1}, Stroked{{{0, 0}, {10, -1}}, 1, grey, 0}}) {
         EXPECT_EQ(commandsOf([&](PaintContext& context) {
-                      context.strokeRoundedRectangle({}, rect, 2, CornerStyle::circular, width, color);
+                      context.strokeRoundedRectangle({}, stroked.rect, 2, CornerStyle::circular, stroked.width, stroked.color);
                   }),
-                  count);
-        EXPECT_EQ(commandsOf([&](PaintContext& context) { context.strokeEllipse({}, rect, width, color); }), count);
+                  stroked.count);
+        EXPECT_EQ(commandsOf([&](PaintContext& context) { context.strokeEllipse({}, stroked.rect, stroked.width, stroked.color); }),
+                  stroked.count);
     }
     EXPECT_EQ(commandsOf([](PaintContext& context) { context.strokePath({}, geometry::Path{}, 1, grey); }), 0u);
     EXPECT_EQ(commandsOf([](PaintContext& context) { context.strokePath({}, geometry::Path::rectangle(square), 0, grey); }), 0u);

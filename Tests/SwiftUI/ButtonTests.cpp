@@ -6,11 +6,10 @@ using namespace proupsells;
 
 using namespace swiftui;
 using proupsells::tests::box;
+using proupsells::tests::middle;
 using proupsells::tests::TouchScreen;
 
 namespace {
-
-constexpr geometry::Point middle{150, 200};
 
 // A button of 100 × 50 in the middle of the screen.
 View buttonInTheMiddle(Action action) {

@@ -7,9 +7,8 @@ namespace {
 
 using geometry::Point;
 using proupsells::tests::box;
+using proupsells::tests::middle;
 using proupsells::tests::TouchScreen;
-
-constexpr Point middle{150, 200};
 
 // A tap that is over before the screen has been brought up to date.
 void quickTap(TouchScreen& screen, Point at = middle) {

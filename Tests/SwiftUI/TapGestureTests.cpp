@@ -4,11 +4,10 @@ using namespace proupsells;
 
 using namespace swiftui;
 using proupsells::tests::box;
+using proupsells::tests::middle;
 using proupsells::tests::TouchScreen;
 
 namespace {
-
-constexpr geometry::Point middle{150, 200};
 
 View tappable(int& taps) {
     return VStack{.spacing = 40, .content = {box(100, 30, "top"), box(60, 30, "bottom")}} | onTapGesture([&taps] { ++taps; }) |

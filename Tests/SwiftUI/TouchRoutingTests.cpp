@@ -4,11 +4,10 @@ using namespace proupsells;
 
 using namespace swiftui;
 using proupsells::tests::box;
+using proupsells::tests::middle;
 using proupsells::tests::TouchScreen;
 
 namespace {
-
-constexpr geometry::Point middle{150, 200};
 
 View button(int& taps, double width = 100, double height = 50) {
     return Button{.action = [&taps] { ++taps; }, .label = box(width, height, "label")};

@@ -102,6 +102,9 @@ private:
     std::shared_ptr<swiftui::ViewHost> m_host;
 };
 
+// Of a screen of the usual size.
+inline constexpr geometry::Point middle{150, 200};
+
 // A view of a fixed size that can be found again and that touches do not go through.
 inline swiftui::View box(double width, double height, const std::string& identifier) {
     return swiftui::ColorView{graphics::Color::black} | swiftui::frame(width, height) |
