@@ -359,6 +359,8 @@ TEST(ScaledRect, KeepsAShareOfTheHeight) {
     EXPECT_EQ(ScaledRect{0}.path(rect).bounds(), (Rect{{10, 20}, {100, 0}}));
     EXPECT_EQ(ScaledRect{0.5}.path(rect).bounds(), (Rect{{10, 20}, {100, 25}}));
     EXPECT_EQ(ScaledRect{1}.path(rect).bounds(), rect);
+    EXPECT_EQ(swiftui::Shape(ScaledRect{0.5}).path(rect).bounds(), (Rect{{10, 20}, {100, 25}}));
+    EXPECT_EQ(swiftui::Shape(ScaledRect{0.5}).typeName(), "ScaledRect");
 }
 
 } // namespace

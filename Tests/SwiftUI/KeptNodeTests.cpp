@@ -156,5 +156,32 @@ TEST(KeptReveal, ScrollsNothingOnceTheViewHasGone) {
     last.reveal();
 }
 
+// An action that has the screen brought up to date at once, as an event loop of the host's would, and whose view is then gone.
+TEST(ActionThatTakesItsViewAway, HasWhatItHoldsUntilItIsDone) {
+    bool isThere = true, hadIt = false, hasRun = false;
+    std::weak_ptr<int> held;
+    ViewHost* host = nullptr;
+    TouchScreen screen{[&] {
+        if (!isThere) return View{};
+        const auto token = std::make_shared<int>(1);
+        held = token;
+        const auto act = [&, token] {
+            hasRun = true;
+            isThere = false;
+            host->setNeedsUpdate();
+            host->update();
+            hadIt = !held.expired();
+        };
+        return View{Button{.action = act, .label = box(100, 50, "label")} | accessibilityIdentifier("button")};
+    }};
+    host = &screen.host();
+
+    screen.find("button").activate();
+
+    EXPECT_TRUE(hasRun);
+    EXPECT_TRUE(hadIt);
+    EXPECT_TRUE(held.expired());
+}
+
 } // namespace
 } // namespace proupsells::swiftui::tests

@@ -128,6 +128,18 @@ TEST(ChangesOfChanges, AreCutOffWithOneLogLine) {
     EXPECT_EQ(records.front().function, "ViewHost.update()");
 }
 
+TEST(ChangesOfChanges, ThatAreCutOffWaitForTheNextUpdateInsteadOfAskingForIt) {
+    headless::TestBed bed;
+    const auto host = ViewHost::create(Climber{10'000});
+    host->setSize({100, 100});
+
+    bed.settle();
+
+    EXPECT_EQ(bed.takeLogRecords().size(), 1u);
+    EXPECT_TRUE(host->needsUpdate());
+    EXPECT_EQ(runloop::MainRunLoop::main().nextDueTime_s(), std::nullopt);
+}
+
 TEST_F(Lifecycle, ReceivesWhatASubjectSends) {
     combine::PassthroughSubject<int> subject;
     std::string prefix = "old ";
