@@ -105,7 +105,7 @@ TEST(DesignColors, HaveEveryColorOfAPair) {
 }
 
 TEST(DynamicColorDeathTest, StopsTheProgramForANumberThatDoesNotExist) {
-    EXPECT_DEATH((void)velauikit::dynamicColor(3), "dynamic colour number 3");
+    EXPECT_DEATH((void)velauikit::dynamicColor(3), "There is no dynamic colour number 3");
 }
 
 } // namespace

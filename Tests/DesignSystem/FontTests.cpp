@@ -30,7 +30,7 @@ TEST(DefaultFont, IsCutTighterForHeadlines) {
 }
 
 TEST(DefaultFontDeathTest, StopsTheProgramForAWeightThatDoesNotExist) {
-    EXPECT_DEATH((void)velauikit::velaDefaultFont(FontOption(3), 16), "no weight option 3");
+    EXPECT_DEATH((void)velauikit::velaDefaultFont(FontOption(3), 16), "The default font has no weight option 3");
 }
 
 TEST(FontRegistrar, MakesTheBrandFontsKnownByName) {
@@ -45,7 +45,7 @@ TEST(FontRegistrar, MakesTheBrandFontsKnownByName) {
 }
 
 TEST(FontRegistrarDeathTest, StopsTheProgramForAFontThatNobodyRegistered) {
-    EXPECT_DEATH((void)velauikit::brandFont("Quenby-Thin", 14), "Quenby-Thin");
+    EXPECT_DEATH((void)velauikit::brandFont("Quenby-Thin", 14), "The font Quenby-Thin is not registered");
 }
 
 TEST(TextStyle, TakesItsSizeByTheWidth) {

@@ -91,7 +91,7 @@ TEST(FixedTextShaper, TakesBlanksAndEndsOfLinesForWhitespace) {
 
 TEST(FixedTextShaper, FillsEachLineAsFarAsItGoes) { EXPECT_TRUE(shape({run("a")})->keepsGreedyLines); }
 
-TEST(FixedTextShaper, StopsTheProgramWithoutARun) { EXPECT_DEATH(shape({}), "without a run"); }
+TEST(FixedTextShaper, StopsTheProgramWithoutARun) { EXPECT_DEATH(shape({}), "A text without a run cannot be shaped"); }
 
 TEST(FixedTextShaper, CountsItsCalls) {
     FixedTextShaper shaper;

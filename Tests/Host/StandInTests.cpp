@@ -6,6 +6,7 @@
 #include "Platform/Graphics/PaintContext.hpp"
 #include "Platform/Host/NamedImage.hpp"
 #include "Platform/Host/Services.hpp"
+#include "Platform/System/PathText.hpp"
 #include "Tests/Support/LogRecorder.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
@@ -95,7 +96,8 @@ TEST_F(StandInTest, IsNotTakenFromAFileThatIsMissingAndSaysSoOnce) {
 
     EXPECT_EQ(painted().file, own);
     namedImage("emblem", bundle, graphics::RenderingMode::tinted);
-    EXPECT_THAT(log.messages(), ElementsAre(AllOf(HasSubstr("none.svg cannot be read"), HasSubstr("\"emblem\" stays as it is"))));
+    EXPECT_THAT(log.messages(), ElementsAre("The picture " + proupsells::system::textOf(folder.path() / "none.svg") +
+                                            " cannot be read; \"emblem\" stays as it is"));
 }
 
 TEST_F(StandInTest, IsNotTakenWithoutTheDarkPictureThatWasAskedFor) {

@@ -33,7 +33,10 @@ INSTANTIATE_TEST_SUITE_P(HostProgram, PrintedTexts,
                          testing::Values(PrintedText{{"--help"}, "help.txt"}, PrintedText{{"manual"}, "manual.1"},
                                          PrintedText{{"completion", "bash"}, "completion.bash"},
                                          PrintedText{{"completion", "zsh"}, "completion.zsh"},
-                                         PrintedText{{"completion", "fish"}, "completion.fish"}),
+                                         PrintedText{{"completion", "fish"}, "completion.fish"},
+                                         PrintedText{{"texts"}, "texts.strings"},
+                                         PrintedText{{"texts", "--format", "pot"}, "texts.pot"},
+                                         PrintedText{{"texts", "--format", "json"}, "texts.json"}),
                          [](const auto& text) {
                              std::string name = text.param.file;
                              std::replace(name.begin(), name.end(), '.', '_');

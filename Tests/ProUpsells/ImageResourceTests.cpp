@@ -65,7 +65,8 @@ TEST(ImageResource, HasAnAssetForEachEntryOfTheCatalogue) {
 TEST(ImageResourceDeathTest, StopsTheProgramWhereThereIsNoSuchAsset) {
     headless::TestBed bed;
 
-    EXPECT_DEATH((void)image(ImageResource{"NotInTheCatalogue", &ResourceBundleClass::bundle()}), "no image \"NotInTheCatalogue\"");
+    EXPECT_DEATH((void)image(ImageResource{"NotInTheCatalogue", &ResourceBundleClass::bundle()}),
+                 "There is no image \"NotInTheCatalogue\"");
 }
 
 } // namespace

@@ -240,13 +240,13 @@ TEST_F(StoreContainer, CannotComeFromAnArchiveOrHaveAFrameOfItsOwn) {
     const foundation::Coder coder;
     EXPECT_DEATH(TemplatesVideoView{coder}, "init\\(coder:\\) has not been implemented");
     EXPECT_DEATH(BrandAssetsVideoView(geometry::Rect{}),
-                 "unimplemented initializer 'init\\(frame:\\)' for class 'ProUpsells.BrandAssetsVideoView'");
+                 "Use of unimplemented initializer 'init\\(frame:\\)' for class 'ProUpsells.BrandAssetsVideoView'");
     EXPECT_DEATH(TemplatesVideoView(geometry::Rect{}),
-                 "unimplemented initializer 'init\\(frame:\\)' for class 'ProUpsells.TemplatesVideoView'");
+                 "Use of unimplemented initializer 'init\\(frame:\\)' for class 'ProUpsells.TemplatesVideoView'");
     EXPECT_DEATH(VelaProHeaderView{coder}, "init\\(coder:\\) has not been implemented");
     EXPECT_DEATH(LabelHeaderView{coder}, "init\\(coder:\\) has not been implemented");
-    EXPECT_DEATH(VerticallyStackedContainerViewController{coder}, "init\\(coder:\\)");
-    EXPECT_DEATH(TitleSubtitleContainerViewController{coder}, "init\\(coder:\\)");
+    EXPECT_DEATH(VerticallyStackedContainerViewController{coder}, "init\\(coder:\\) has not been implemented");
+    EXPECT_DEATH(TitleSubtitleContainerViewController{coder}, "init\\(coder:\\) has not been implemented");
 }
 
 } // namespace proupsells::tests

@@ -342,7 +342,8 @@ TEST_F(StoreStrip, IsNotKeptAliveByItsTimer) {
 }
 
 TEST_F(StoreStrip, CannotComeFromAnArchive) {
-    EXPECT_DEATH(StorePageShelfViewController::create(foundation::Coder{}), "unimplemented initializer 'init\\(coder:\\)'");
+    EXPECT_DEATH(StorePageShelfViewController::create(foundation::Coder{}),
+                 "Use of unimplemented initializer 'init\\(coder:\\)' for class 'ProUpsells\\.StorePageShelfViewController'");
 }
 
 // --- Where motion is to be reduced

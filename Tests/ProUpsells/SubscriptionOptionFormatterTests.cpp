@@ -254,9 +254,9 @@ TEST(Savings, FollowFromTheRatioOfThePrices) {
 }
 
 TEST(SavingsDeathTest, StopTheProgramWhereThereIsNoSuchNumber) {
-    EXPECT_DEATH(savings("99", "0"), "savings percentage");
-    EXPECT_DEATH(savings("0", "0"), "savings percentage");
-    EXPECT_DEATH(savings("1e300", "1e-5"), "savings percentage");
+    EXPECT_DEATH(savings("99", "0"), "The savings percentage is not a whole number that can be shown");
+    EXPECT_DEATH(savings("0", "0"), "The savings percentage is not a whole number that can be shown");
+    EXPECT_DEATH(savings("1e300", "1e-5"), "The savings percentage is not a whole number that can be shown");
 }
 
 TEST(Savings, HoldNumbersOf64Bits) { EXPECT_EQ(savings("12e12", "1"), -99999999999900); }

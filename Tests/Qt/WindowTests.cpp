@@ -112,6 +112,22 @@ TEST_F(QtWindowTest, IsReadAsAWindowOfTheProgram) {
     EXPECT_TRUE(root->state().invisible);
 }
 
+TEST_F(QtWindowTest, IsReadAgainWhenTheFocusComesOrGoes) {
+    const auto name = [&] { return window.accessibleRoot()->child(0)->text(QAccessible::Name).toStdString(); };
+    content->tree.label = "Pro";
+    ASSERT_EQ(name(), "Pro");
+    for (const QEvent::Type type : {QEvent::FocusIn, QEvent::FocusOut}) {
+        content->tree.label = std::to_string(type);
+        settle();
+        EXPECT_NE(name(), std::to_string(type));
+
+        QFocusEvent event(type);
+        QCoreApplication::sendEvent(&window, &event);
+        settle();
+        EXPECT_EQ(name(), std::to_string(type));
+    }
+}
+
 TEST_F(QtWindowTest, HasWholePointsForItsSize) {
     const auto shown = std::make_shared<FakeContent>();
     const qtbackend::QtWindow other(shown, {.title = "Other", .size = {99.6, 80.4}, .safeArea = {1, 2, 3, 4}});

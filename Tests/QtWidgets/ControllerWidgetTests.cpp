@@ -1,17 +1,15 @@
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPalette>
-#include <QPointer>
 #include <QPointingDevice>
 
 #include "Backends/Qt/DesktopSettings.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
-#include "Tests/QtWidgets/Shop.hpp"
+#include "Tests/QtWidgets/ShownWidget.hpp"
 
 using namespace proupsells;
 
@@ -20,27 +18,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using tests::settle;
 using tests::TwoButtons;
-
-namespace {
-
-class Widgets : public testing::Test {
-protected:
-    ControllerWidget& show(QWidget* parent = nullptr) {
-        widget = new ControllerWidget(screen, parent);
-        widget->resize(100, 80);
-        (parent ? parent : widget.data())->show();
-        settle();
-        return *widget;
-    }
-    ~Widgets() override { delete widget; }
-
-    QRgb pixel(int x, int y) const { return widget->grab().toImage().pixel(x, y) & 0xFFFFFF; }
-
-    std::shared_ptr<TwoButtons> screen = std::make_shared<TwoButtons>();
-    QPointer<ControllerWidget> widget;
-};
-
-} // namespace
+using tests::Widgets;
 
 TEST_F(Widgets, ShowAControllerAtTheirSize) {
     show();
@@ -353,58 +331,4 @@ TEST_F(Widgets, TellTheirContainerWhenTheControllerIsToGo) {
     screen->dismiss(true);
 
     EXPECT_EQ(asked, 1);
-}
-
-TEST_F(Widgets, TellNothingWhileNobodySeesThem) {
-    QWidget window;
-    show(&window);
-    QAccessibleInterface* const tree = QAccessible::queryAccessibleInterface(widget);
-    ASSERT_EQ(tree->childCount(), 1);
-    widget->hide();
-    settle();
-    EXPECT_EQ(tree->childCount(), 0);
-    widget->show();
-    settle();
-
-    EXPECT_EQ(tree->childCount(), 1);
-}
-
-TEST_F(Widgets, HangTheirAccessibleTreeIntoTheHostsOwn) {
-    QWidget window;
-    show(&window);
-    QAccessibleInterface* const around = QAccessible::queryAccessibleInterface(&window);
-    ASSERT_EQ(around->childCount(), 1);
-    QAccessibleInterface* const tree = around->child(0);
-    ASSERT_EQ(tree->childCount(), 1);
-    QAccessibleInterface* const dialog = tree->child(0);
-    ASSERT_EQ(dialog->childCount(), 2);
-
-    EXPECT_EQ(tree->parent()->object(), &window);
-    EXPECT_EQ(dialog->child(1)->text(QAccessible::Name), "second");
-    EXPECT_EQ(dialog->child(1)->rect(), QRect(widget->mapToGlobal(QPoint(50, 0)), QSize(50, 50)));
-    dialog->child(1)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_THAT(screen->presses, ElementsAre("second"));
-}
-
-TEST_F(Widgets, TellAssistiveTechnologyWhereThingsAreAfterAChangeOfSize) {
-    class WideButton : public uikit::UIViewController {
-        void viewDidLoad() override {
-            m_button->accessibilityLabel = "wide";
-            view()->addSubview(m_button);
-        }
-        void viewDidLayoutSubviews() override { m_button->setFrame(view()->bounds()); }
-
-        std::shared_ptr<uikit::UIButton> m_button = std::make_shared<uikit::UIButton>();
-    };
-    show();
-    widget->setController(std::make_shared<WideButton>());
-    QAccessible::setActive(true);
-    QAccessibleInterface* const tree = QAccessible::queryAccessibleInterface(widget);
-    ASSERT_EQ(tree->childCount(), 1);
-    ASSERT_EQ(tree->child(0)->childCount(), 1);
-    widget->resize(60, 90);
-    settle();
-    QAccessible::setActive(false);
-
-    EXPECT_EQ(tree->child(0)->child(0)->rect().size(), QSize(60, 90));
 }

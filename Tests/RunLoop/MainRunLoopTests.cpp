@@ -48,7 +48,7 @@ TEST(MainRunLoopDeathTest, StopsTheProgramWhenThereIsNone) {
                  "^There is no main run loop: call proupsells::standard::install\\(\\), or create a runloop::MainRunLoop\n$");
 }
 
-TEST(MainRunLoopDeathTest, StopsTheProgramWithoutAClock) { EXPECT_DEATH(MainRunLoop{nullptr}, "needs a clock"); }
+TEST(MainRunLoopDeathTest, StopsTheProgramWithoutAClock) { EXPECT_DEATH(MainRunLoop{nullptr}, "A main run loop needs a clock"); }
 
 using RunLoop = tests::LoopFixture;
 
@@ -188,36 +188,37 @@ TEST_F(RunLoopDeathTest, StopsTheProgramWhenOneMomentNeverEnds) {
     std::function<void()> again = [&] { loop.schedule(0, again); };
     loop.schedule(1, again);
 
-    EXPECT_DEATH(loop.runUntil(2), "does not get past one moment");
+    EXPECT_DEATH(loop.runUntil(2), "The main run loop does not get past one moment: work keeps scheduling work without a delay");
 }
 
 TEST_F(RunLoopDeathTest, StopsTheProgramWhenAnIntervalIsLostInRounding) {
     clock->advanceTo(1e9);
     loop.scheduleRepeating(1e-12, [] {});
 
-    EXPECT_DEATH(loop.runUntil(1e9 + 1), "does not get past one moment");
+    EXPECT_DEATH(loop.runUntil(1e9 + 1),
+                 "The main run loop does not get past one moment: work keeps scheduling work without a delay");
 }
 
 TEST_F(RunLoopDeathTest, StopsTheProgramWhenRunInsideItsTurn) {
     loop.schedule(1, [&] { loop.runUntil(2); });
-    EXPECT_DEATH(loop.runUntil(1), "cannot be run inside its own turn");
+    EXPECT_DEATH(loop.runUntil(1), "A main run loop cannot be run inside its own turn");
 }
 
 TEST_F(RunLoopDeathTest, StopsTheProgramWhenSettledInsideItsTurn) {
     loop.schedule(1, [&] { loop.settle(); });
-    EXPECT_DEATH(loop.runUntil(1), "cannot settle inside its own turn");
+    EXPECT_DEATH(loop.runUntil(1), "A main run loop cannot settle inside its own turn");
 }
 
 TEST_F(RunLoopDeathTest, StopsTheProgramWhenDestroyedInsideItsTurn) {
     auto doomed = newLoop();
     doomed->schedule(1, [&] { doomed.reset(); });
 
-    EXPECT_DEATH(doomed->runUntil(1), "destroyed inside its own turn");
+    EXPECT_DEATH(doomed->runUntil(1), "A main run loop was destroyed inside its own turn");
 }
 
 TEST_F(RunLoopDeathTest, StopsTheProgramWhenRunUntilNoTime) {
-    EXPECT_DEATH(loop.runUntil(HUGE_VAL), "finite time");
-    EXPECT_DEATH(loop.runUntil(std::nan("")), "finite time");
+    EXPECT_DEATH(loop.runUntil(HUGE_VAL), "A main run loop can only be run until a finite time");
+    EXPECT_DEATH(loop.runUntil(std::nan("")), "A main run loop can only be run until a finite time");
 }
 
 TEST_F(RunLoopDeathTest, StopsTheProgramWhenARealClockIsToBeMoved) {

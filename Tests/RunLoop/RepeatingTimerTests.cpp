@@ -150,7 +150,7 @@ TEST_F(RepeatingTimer, DoesNotAllocateWhileItTicks) {
 
 TEST_F(RepeatingTimer, StopsTheProgramWithoutAPositiveFiniteInterval) {
     for (const double interval_s : {0.0, -1.0, std::nan(""), HUGE_VAL})
-        EXPECT_DEATH(loop.scheduleRepeating(interval_s, [] {}), "interval of a repeating timer must be positive and finite");
+        EXPECT_DEATH(loop.scheduleRepeating(interval_s, [] {}), "The interval of a repeating timer must be positive and finite");
 }
 
 } // namespace

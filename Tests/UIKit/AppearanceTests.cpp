@@ -198,8 +198,8 @@ TEST(ContainmentDeathTest, AControllerCannotBeItsOwnAncestor) {
                child = std::make_shared<RecordingController>("child", calls);
     parent->addChild(child);
 
-    EXPECT_DEATH(child->addChild(parent), "a controller cannot be its own child");
-    EXPECT_DEATH(child->addChild(nullptr), "there is no child to add");
+    EXPECT_DEATH(child->addChild(parent), "UIViewController: a controller cannot be its own child");
+    EXPECT_DEATH(child->addChild(nullptr), "UIViewController: there is no child to add");
 }
 
 } // namespace

@@ -45,7 +45,7 @@ TEST_F(ConstraintDetail, AViewThatHasGoneIsCalledSo) {
     a.reset();
 
     EXPECT_EQ(constraint->description(), "(gone).width = 10");
-    EXPECT_DEATH(constraint->setActive(true), "a view of \\(gone\\).width = 10 has gone");
+    EXPECT_DEATH(constraint->setActive(true), "NSLayoutConstraint: a view of \\(gone\\).width = 10 has gone");
 }
 
 TEST_F(ConstraintDetail, HoldsWhileItIsActive) {

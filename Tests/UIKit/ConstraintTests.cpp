@@ -325,7 +325,7 @@ TEST_F(ConstraintDeathTest, ViewsWithoutAViewAroundThemStopTheProgram) {
     stranger->accessibilityIdentifier = "stranger";
 
     EXPECT_DEATH(stranger->topAnchor().constraintEqualTo(root->topAnchor())->setActive(true),
-                 "there is no view around both views of stranger.top = UIView.top");
+                 "NSLayoutConstraint: there is no view around both views of stranger.top = UIView.top");
 }
 
 // --- Descriptions ---

@@ -58,10 +58,10 @@ TEST(ViewHierarchyDeathTest, AViewCannotStandInsideItself) {
     const auto outer = viewAt({}), inner = viewAt({});
     outer->addSubview(inner);
 
-    EXPECT_DEATH(inner->addSubview(outer), "a view cannot stand inside itself");
-    EXPECT_DEATH(outer->addSubview(outer), "a view cannot stand inside itself");
-    EXPECT_DEATH(outer->addSubview(nullptr), "there is no view to add");
-    EXPECT_DEATH(outer->insertSubviewAbove(viewAt({}), *viewAt({})), "the sibling is not a subview");
+    EXPECT_DEATH(inner->addSubview(outer), "UIView: a view cannot stand inside itself");
+    EXPECT_DEATH(outer->addSubview(outer), "UIView: a view cannot stand inside itself");
+    EXPECT_DEATH(outer->addSubview(nullptr), "UIView: there is no view to add");
+    EXPECT_DEATH(outer->insertSubviewAbove(viewAt({}), *viewAt({})), "UIView: the sibling is not a subview of this view");
 }
 
 // --- Geometry ---
