@@ -90,7 +90,8 @@ TEST(TicksDeathTest, NeedAMainRunLoop) {
 }
 
 TEST_F(Ticks, NeedAPositiveInterval) {
-    EXPECT_DEATH(static_cast<void>(TimerPublisher{0}.sink([](double) {})), "The interval of a repeating timer must be positive and finite");
+    EXPECT_DEATH(static_cast<void>(TimerPublisher{0}.sink([](double) {})),
+                 "The interval of a repeating timer must be positive and finite");
 }
 
 } // namespace

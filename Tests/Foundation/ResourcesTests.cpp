@@ -113,7 +113,8 @@ TEST_F(ResourcePlacesDeathTest, StopTheProgramWhereTheyAreMissingAndNameEveryPla
     foundation::setResourceRoot(folder.path() / "own");
     for (const auto& place : resourcePlaces())
         EXPECT_DEATH(foundation::requiredResource("Nowhere"),
-                     "The resources of Nowhere were looked for in vain in .*" + system::textOf(place) + ".*; name their folder with proupsells::foundation::setResourceRoot\\(\\)");
+                     "The resources of Nowhere were looked for in vain in .*" + system::textOf(place) +
+                         ".*; name their folder with proupsells::foundation::setResourceRoot\\(\\)");
 }
 
 TEST_F(ResourcePlacesDeathTest, StopTheProgramWhereTheyAreMissingInsideItToo) {

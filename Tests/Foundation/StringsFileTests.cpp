@@ -135,6 +135,7 @@ INSTANTIATE_TEST_SUITE_P(
         Broken{"NoHexadecimal", "a = \"\n\\U12g4\";", 2, "expected four hexadecimal digits after \"\\U\""},
         Broken{"UnicodeAtEnd", "a = \"\\u004", 1, "expected four hexadecimal digits after \"\\U\""},
         Broken{"HighSurrogateAlone", "a = \"\\Ud83d\";", 1, "expected both halves of a surrogate pair"},
+        Broken{"HighSurrogateAtTheStartOfALine", "a = \"\n\\Ud83d\";", 2, "expected both halves of a surrogate pair"},
         Broken{"LowSurrogateAlone", "a = \"\\Ude00\";", 1, "expected both halves of a surrogate pair"},
         Broken{"TwoHighSurrogates", "a = \"\\Ud83d\\Ud83d\";", 1, "expected the second half of a surrogate pair"},
         Broken{"InvalidUtf8", "a = b;\nc = \"\xC3\";", 2, "expected valid UTF-8 or UTF-16"},
