@@ -153,6 +153,32 @@ TEST_F(Items, FollowTheirOwnSize) {
     EXPECT_EQ(QAccessible::queryAccessibleInterface(paywall)->rect().topLeft(), window.mapToGlobal(QPoint(0, 50)));
 }
 
+TEST_F(Items, ShowNothingOfTheirFormerSizeInTheNextPictureOfTheScene) {
+    show();
+    window.setColor(Qt::green);
+    paywall->setSize({300, 500});
+    const QImage shown = window.grabWindow();
+
+    EXPECT_NE(shown.pixelColor(299, 549), QColor(Qt::green));
+    EXPECT_EQ(shown.pixelColor(300, 549), QColor(Qt::green));
+    EXPECT_EQ(shown.pixelColor(299, 550), QColor(Qt::green));
+}
+
+TEST_F(Items, TellTheirSizeToThoseWhoDependOnIt) {
+    show(R"(
+        import QtQuick
+        import ProUpsells
+        Item {
+            width: 375; height: 900
+            property real farEdge: paywall.x + paywall.width
+            Paywall { id: paywall; objectName: "paywall"; width: 200; height: 800 }
+        })");
+    paywall->setSize({300, 500});
+    EXPECT_EQ(root->property("farEdge").toDouble(), 300);
+    paywall->setX(50);
+    EXPECT_EQ(root->property("farEdge").toDouble(), 350);
+}
+
 TEST_F(Items, FollowTheDesktopUnlessTheHostDecides) {
     auto& desktop = qtbackend::DesktopSettings::shared();
     show();
