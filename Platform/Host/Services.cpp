@@ -12,12 +12,17 @@ namespace {
 
 Installation* newest = nullptr;
 
+// Before any other part of an installation, which would stop the program without its name.
+Services onMainThread(Services services) {
+    runloop::MainActor::assertIsolated("host::Installation");
+    return services;
+}
+
 } // namespace
 
 Installation::Installation(Services services)
-    : m_services(std::move(services)), m_previous(newest),
+    : m_services(onMainThread(std::move(services))), m_previous(newest),
       m_previousLocale(foundation::LocaleServices::setCurrent(m_services.localeServices)) {
-    runloop::MainActor::assertIsolated("host::Installation");
     newest = this;
     TextCache::shared().clear();
 }

@@ -109,7 +109,9 @@ TEST_F(Localized, CostsOneLogLineForABrokenTable) {
 
     ASSERT_THAT(log.records(), SizeIs(1));
     EXPECT_EQ(log.records()[0].severity, 4);
-    EXPECT_THAT(log.records()[0].message, HasSubstr("de-AT.lproj/Localizable.strings:2: expected \";\" after the text"));
+    EXPECT_THAT(log.records()[0].message,
+                HasSubstr("de-AT.lproj/Localizable.strings:2: expected \";\" after the text; none of its translations are used"));
+    EXPECT_EQ(log.records()[0].function, "Bundle.localizedString");
 }
 
 TEST_F(Localized, NamesABrokenTableInUtf8) {

@@ -18,6 +18,14 @@ TEST(PictureHeader, ReadsWhatItWrites) {
     EXPECT_EQ(PictureHeader::parse(bytes + "pixels", fileSize), twoSizes);
 }
 
+// Files of today are read tomorrow.
+TEST(PictureHeader, HasItsNumbersBehindTheNameOfTheFormatTheLowestByteFirst) {
+    const PictureHeader oneSize{{24.5, 16}, {{25, 0x0102, 36, 100}}};
+    const std::string_view numbers("\xB4\x5F\0\0\x80\x3E\0\0\1\0\0\0\x19\0\0\0\2\1\0\0\x24\0\0\0\x64\0\0\0", 28);
+
+    EXPECT_EQ(oneSize.bytes(), std::string("\x93Pict\r\n\x02", 8) + std::string(numbers));
+}
+
 TEST(PictureHeader, IsAbsentWhereTheFileIsCutOff) {
     const std::string bytes = twoSizes.bytes();
 

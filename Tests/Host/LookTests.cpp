@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include "Backends/Headless/FixedTextShaper.hpp"
 #include "Platform/Foundation/LanguageChanges.hpp"
 #include "Platform/Host/Services.hpp"
 #include "Platform/Host/TextCache.hpp"
+#include "Platform/RunLoop/MainRunLoop.hpp"
 
 namespace proupsells::host {
 namespace {
@@ -43,6 +46,24 @@ TEST_F(LookTest, KeepsNoTextOfTheFormerTypefaces) {
     Look::setCurrent({});
 
     EXPECT_NE(TextCache::shared().shaped({&run, 1}, "en", geometry::LayoutDirection::leftToRight), before);
+}
+
+TEST(LookDeathTest, BelongsToTheMainThread) {
+    EXPECT_DEATH(
+        {
+            runloop::MainRunLoop loop{std::make_shared<runloop::VirtualClock>()};
+            std::thread([] { Look::setCurrent({}); }).join();
+        },
+        "host::Look::setCurrent must be called on the main thread");
+}
+
+TEST(InstallationDeathTest, BelongsToTheMainThread) {
+    EXPECT_DEATH(
+        {
+            runloop::MainRunLoop loop{std::make_shared<runloop::VirtualClock>()};
+            std::thread([] { const Installation installation({}); }).join();
+        },
+        "host::Installation must be called on the main thread");
 }
 
 } // namespace

@@ -233,6 +233,13 @@ struct Blank {
     Element* makeElement() && { return newRepresentable(std::move(*this)); }
 };
 
+struct Missing {
+    using UIViewType = uikit::UIView;
+    std::shared_ptr<UIViewType> makeUIView(const UIViewRepresentableContext<Missing>&) const { return nullptr; }
+    void updateUIView(UIViewType&, const UIViewRepresentableContext<Missing>&) const {}
+    Element* makeElement() && { return newRepresentable(std::move(*this)); }
+};
+
 struct ScrolledBlank {
     std::function<void()> tapped;
 
@@ -241,6 +248,10 @@ struct ScrolledBlank {
             .content = {Blank{tapped} | frame({.width = 100, .height = 60}), Rectangle() | frame({.width = 10, .height = 2000})}};
     }
 };
+
+TEST_F(HostingTest, StopsTheProgramWhereNoViewIsMade) {
+    EXPECT_DEATH(show(Missing{}), "UIViewRepresentable: makeUIView has made no view");
+}
 
 TEST_F(HostingTest, AViewWithoutANaturalSizeTakesWhatItIsOffered) {
     show(ScrolledBlank{[] {}});

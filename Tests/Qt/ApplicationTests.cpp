@@ -6,6 +6,7 @@
 
 #include <QGuiApplication>
 #include <QLoggingCategory>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <filesystem>
@@ -148,6 +149,22 @@ TEST(HeadlessApplication, EndsWithTheStatusThatItIsToldToQuitWith) {
     QTimer::singleShot(0, [] { Application::quit(3); });
 
     EXPECT_EQ(QGuiApplication::exec(), 3);
+}
+
+TEST(ScaledApplication, HasTheScaleOfItsHostOnEveryDisplay) {
+    const auto scales = [](const char* scale) {
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QT_QPA_PLATFORM", "offscreen:configfile=" PROUPSELLS_DISPLAYS);
+        program.setProcessEnvironment(environment);
+        program.start(QCoreApplication::applicationFilePath(), {"--print-scales", scale});
+        EXPECT_TRUE(program.waitForFinished(-1));
+        return program.readAllStandardOutput().toStdString();
+    };
+
+    EXPECT_EQ(scales("1.75"), "1.75\n1.75\n1.75\n1.75\n");
+    EXPECT_EQ(scales("1"), "1\n1\n1\n1\n");
+    EXPECT_EQ(scales(""), "1\n1.25\n1.5\n2\n");
 }
 
 TEST(MessagesOfQt, ThatAreNobodysBusinessAreLeftOut) {

@@ -2,13 +2,27 @@
 #include <gtest/gtest.h>
 
 #include <QByteArray>
+#include <QGuiApplication>
+#include <QScreen>
+#include <cstdlib>
+#include <iostream>
+#include <optional>
+#include <string_view>
 
 #include "Backends/Icu/IcuLocaleServices.hpp"
 #include "Backends/Qt/Application.hpp"
 
 using namespace proupsells;
 
+// What one pixel of Qt's is on each display of a program that asks for this scale, or for none; the process has one application.
+static int printScales(const char* scale) {
+    const qtbackend::Application application({.scale = *scale ? std::optional(std::atof(scale)) : std::nullopt});
+    for (const QScreen* screen : QGuiApplication::screens()) std::cout << screen->devicePixelRatio() << '\n';
+    return 0;
+}
+
 int main(int argc, char** argv) {
+    if (argc == 3 && argv[1] == std::string_view("--print-scales")) return printScales(argv[2]);
     testing::InitGoogleTest(&argc, argv);
     // The desktop of whoever runs the tests decides nothing.
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");

@@ -87,6 +87,10 @@ private:
     int m_count = 0;
 };
 
+TEST(SteppedClockDeathTest, FollowsAClock) {
+    EXPECT_DEATH(runloop::SteppedClock{nullptr}, "A stepped clock needs a clock to follow");
+}
+
 TEST(SteppedClock, IsPlayedBackOnAVirtualClock) {
     for (unsigned seed = 1; seed <= 200; ++seed) {
         SCOPED_TRACE(seed);

@@ -1,4 +1,5 @@
-// Where a presented view stands in its window.
+// Where a presented view stands in its window, and its edge.
+#include "Platform/Graphics/Palette.hpp"
 #include "Tests/UIKit/Screen.hpp"
 
 namespace proupsells::uikit {
@@ -33,6 +34,32 @@ TEST(PresentationFrame, FillsNarrowWindowsAndStandsInWideOnes) {
 
 TEST(PresentationFrame, FormSheetsWithoutAPreferredSizeHaveOneAllTheSame) {
     EXPECT_EQ(presentationFrame(UIModalPresentationStyle::formSheet, {}, {1000, 1000}), (Rect{{230, 190}, {540, 620}}));
+}
+
+using SheetEdge = ScreenTest;
+
+TEST_F(SheetEdge, HasTheColourOfTheHostsPalette) {
+    const auto root = showRoot(), sheet = controller("sheet");
+    sheet->setModalPresentationStyle(UIModalPresentationStyle::formSheet);
+    window->setSize({1024, 768}, {});
+    window->setTraits({.userInterfaceStyle = graphics::ColorScheme::dark});
+    sheet->setPreferredContentSize({375, 368});
+    root->present(sheet, false);
+    const auto edge = [&]() -> std::optional<graphics::RGBA> {
+        for (const graphics::Command& command : painted().commands)
+            if (command.lineWidth == 2) return command.color;
+        return std::nullopt;
+    };
+    EXPECT_EQ(edge(), graphics::rgb(0x343C40));
+    window->setTraits({.userInterfaceStyle = graphics::ColorScheme::light});
+    EXPECT_EQ(edge(), std::nullopt);
+
+    graphics::Palette palette;
+    palette.set("cardEdge", graphics::ColorScheme::light, graphics::rgb(0x123456));
+    graphics::Palette::setCurrent(palette);
+    const std::optional<graphics::RGBA> own = edge();
+    graphics::Palette::setCurrent({});
+    EXPECT_EQ(own, graphics::rgb(0x123456));
 }
 
 } // namespace

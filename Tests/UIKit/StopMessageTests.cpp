@@ -1,4 +1,6 @@
 // What the program says before it stops, and what is logged where it goes on.
+#include <thread>
+
 #include "Platform/UIKit/Collection/UICollectionView.hpp"
 #include "Platform/UIKit/Controllers/UINavigationController.hpp"
 #include "Tests/UIKit/ConstraintScene.hpp"
@@ -15,6 +17,15 @@ TEST_F(StopDeathTest, NamesTheControllerThatIsMissing) {
 
     EXPECT_DEATH(root->present(nullptr, false), "UIViewController: there is no controller to present");
     EXPECT_DEATH(UINavigationController::create(nullptr), "UINavigationController: there is no root controller");
+}
+
+TEST_F(StopDeathTest, NamesWhatWasCalledOnAnotherThread) {
+    const auto root = showRoot();
+
+    EXPECT_DEATH(std::thread([&] { root->present(controller("sheet"), false); }).join(),
+                 "UIViewController::present must be called");
+    EXPECT_DEATH(std::thread([&] { root->dismiss(false); }).join(), "UIViewController::dismiss must be called");
+    EXPECT_DEATH(std::thread([] { UIWindow::create(); }).join(), "UIWindow::create must be called");
 }
 
 TEST_F(StopDeathTest, NamesAControllerThatLoadsNothing) {
