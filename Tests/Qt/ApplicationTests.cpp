@@ -151,6 +151,20 @@ TEST(HeadlessApplication, EndsWithTheStatusThatItIsToldToQuitWith) {
     EXPECT_EQ(QGuiApplication::exec(), 3);
 }
 
+TEST(WithoutAnApplication, ItIsSaidWhatIsMissing) {
+    const auto said = [](const char* call) {
+        QProcess program;
+        program.start(QCoreApplication::applicationFilePath(), {"--call-too-early", call});
+        EXPECT_TRUE(program.waitForFinished(-1));
+        EXPECT_EQ(program.exitStatus(), QProcess::CrashExit);
+        return program.readAllStandardError().toStdString();
+    };
+
+    EXPECT_EQ(said("install"),
+              "There is no QApplication yet: create one before proupsells::qtbackend::install() and before any screen\n");
+    EXPECT_EQ(said("settings"), "There is no QApplication yet: create one before qtbackend::DesktopSettings::shared()\n");
+}
+
 TEST(ScaledApplication, HasTheScaleOfItsHostOnEveryDisplay) {
     const auto scales = [](const char* scale) {
         QProcess program;

@@ -11,6 +11,8 @@
 
 #include "Backends/Icu/IcuLocaleServices.hpp"
 #include "Backends/Qt/Application.hpp"
+#include "Backends/Qt/DesktopSettings.hpp"
+#include "Backends/Qt/Install.hpp"
 
 using namespace proupsells;
 
@@ -21,7 +23,15 @@ static int printScales(const char* scale) {
     return 0;
 }
 
+// Stops: there is no application of Qt's yet.
+static int callTooEarly(std::string_view call) {
+    if (call == "install") qtbackend::install();
+    if (call == "settings") qtbackend::DesktopSettings::shared();
+    return 0;
+}
+
 int main(int argc, char** argv) {
+    if (argc == 3 && argv[1] == std::string_view("--call-too-early")) return callTooEarly(argv[2]);
     if (argc == 3 && argv[1] == std::string_view("--print-scales")) return printScales(argv[2]);
     testing::InitGoogleTest(&argc, argv);
     // The desktop of whoever runs the tests decides nothing.
