@@ -76,7 +76,11 @@ TEST_F(ScreenTest, SafeAreaIsWhatTheWindowsUnsafeEdgesCover) {
     EXPECT_EQ(top->safeAreaInsets(), (geometry::PhysicalInsets{10, 5, 0, 6}));
     EXPECT_EQ(middle->safeAreaInsets(), (geometry::PhysicalInsets{}));
     EXPECT_EQ(beyond->safeAreaInsets(), (geometry::PhysicalInsets{0, 5, 34, 6}));
+    EXPECT_EQ(root->view()->safeAreaRect(), (Rect{{5, 20}, {364, 746}}));
     EXPECT_EQ(top->safeAreaRect(), (Rect{{5, 10}, {364, 90}}));
+    EXPECT_EQ(beyond->safeAreaRect(), (Rect{{5, 0}, {364, 266}}));
+    beyond->setFrame({{0, 790}, {5, 8}});
+    EXPECT_EQ(beyond->safeAreaRect(), (Rect{{5, 0}, {0, 0}}));
 }
 
 TEST_F(ScreenTest, ViewsAreToldWhenTheirSafeAreaChanges) {
