@@ -28,12 +28,10 @@ namespace {
 using graphics::ColorScheme;
 using graphics::rgb;
 using ::testing::Contains;
-using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
-using ::testing::UnorderedElementsAreArray;
 using TapEvent = UpsellViewModel::TapEvent;
 
 enum class Shown { paywall, comparison, store };
@@ -269,55 +267,6 @@ TEST_F(ThemeTest, KnowsTheColorOfEveryShape) {
 }
 
 // --- What is refused ---
-
-TEST_F(ThemeTest, HasNoProblemsWhenItIsEmpty) { EXPECT_THAT(Theme{}.problems(), IsEmpty()); }
-
-TEST_F(ThemeTest, TellsAFaintPairByNameAndNumber) {
-    Theme theme;
-    theme.colors["ContentColor.secondary"].dark = rgb(0x707070);
-
-    EXPECT_THAT(theme.problems(), ElementsAre("ContentColor.secondary on velaBackground in dark: 3.7:1, at least 4.5:1 is needed"));
-}
-
-TEST_F(ThemeTest, TellsAFaintBorder) {
-    Theme theme;
-    theme.colors["velaBorder"].light = rgb(0xCCCCCC);
-
-    EXPECT_THAT(theme.problems(),
-                ElementsAre("velaBorder on velaBackground in light: 1.6:1, at least 3.0:1 is needed",
-                            "velaBorder on velaSecondaryAppBackground in light: 1.4:1, at least 3.0:1 is needed"));
-}
-
-TEST_F(ThemeTest, ChecksAColorThatFollowsAnother) {
-    Theme theme;
-    theme.colors["velaSecondaryLabel"].light = rgb(0xBBBBBB);
-
-    EXPECT_THAT(theme.problems(), Contains("dynamicColor.10 on dynamicColor.2 in light: 1.9:1, at least 4.5:1 is needed"));
-}
-
-// 4.478 is not enough, and must not be told as 4.5.
-TEST_F(ThemeTest, RoundsAContrastDown) {
-    Theme theme;
-    theme.colors["ContentColor.secondary"].light = rgb(0x777777);
-
-    EXPECT_THAT(theme.problems(), ElementsAre(HasSubstr("in light: 4.4:1, at least 4.5:1")));
-}
-
-TEST_F(ThemeTest, TellsNamesThatDoNotExist) {
-    Theme theme;
-    theme.colors["velaBackgroud"] = inBoth(0xFFFFFF);
-    theme.pictures["paywallHeaderE"] = {"e.png", {}};
-
-    EXPECT_THAT(theme.problems(), ElementsAre("There is no colour \"velaBackgroud\"", "There is no picture \"paywallHeaderE\""));
-}
-
-TEST_F(ThemeTest, TellsAColorThatIsNotOpaque) {
-    Theme theme;
-    theme.colors["velaBackground"].light = rgb(0xFFFFFF, 254);
-    theme.colors["focusRing"] = {rgb(0x000000, 255), rgb(0xFFFFFF, 254)};
-
-    EXPECT_THAT(theme.problems(), ElementsAre("focusRing in dark is not opaque", "velaBackground in light is not opaque"));
-}
 
 TEST_F(ThemeTest, IsRefusedWithALineForEachProblem) {
     Theme theme = terminal();
