@@ -10,12 +10,12 @@
 
 namespace proupsells::tests {
 
-// Handles events until the condition holds. False when it does not hold within ten seconds.
+// Handles events until the condition holds. False when it does not hold within a minute.
 inline bool handleEventsUntil(const std::function<bool()>& condition) {
     // Something must wake the loop for the deadline to be looked at.
     QTimer alarm;
     alarm.start(100);
-    for (const QDeadlineTimer deadline(10'000); !condition();) {
+    for (const QDeadlineTimer deadline(60'000); !condition();) {
         if (deadline.hasExpired()) return false;
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
     }

@@ -91,7 +91,7 @@ TEST(EndingTasks, DoNotOutliveTheProcessThatWantsTheirResults) {
     // The task's end of the pipe closes with the task.
     pollfd end{.fd = ends[0], .events = POLLIN, .revents = 0};
     char more = 0;
-    const bool hasEnded = poll(&end, 1, 10'000) == 1 && read(ends[0], &more, 1) == 0;
+    const bool hasEnded = poll(&end, 1, 60'000) == 1 && read(ends[0], &more, 1) == 0;
     EXPECT_TRUE(hasEnded);
     if (!hasEnded) kill(task, SIGKILL);
     close(ends[0]);
