@@ -33,13 +33,13 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, ObjectReference&)
 
 namespace {
 
-// An event of AT-SPI: a signal with a kind, what it is about, two numbers and a value.
+// An event of AT-SPI: a signal with a kind, what it is about, two numbers, of which nobody here has use for the second, and a
+// value.
 struct Signal {
     QAccessibleInterface* source;
     QString name;
     QString detail;
-    int first = 0;
-    int second = 0;
+    int first;
     QVariant value;
 };
 
@@ -55,7 +55,7 @@ public:
         static const QString objectEvents = QStringLiteral("org.a11y.atspi.Event.Object");
         static const QDBusObjectPath application(QStringLiteral("/org/a11y/atspi/accessible/root"));
         QDBusMessage message = QDBusMessage::createSignal(path(signal.source), objectEvents, signal.name);
-        message << signal.detail << signal.first << signal.second << QVariant::fromValue(QDBusVariant(signal.value))
+        message << signal.detail << signal.first << 0 << QVariant::fromValue(QDBusVariant(signal.value))
                 << QVariant::fromValue(ObjectReference{m_connection.baseService(), application});
         m_connection.send(message);
     }
@@ -71,7 +71,7 @@ private:
 };
 
 void sendState(const Bus& bus, QAccessibleInterface* source, const QString& state, bool isOn) {
-    bus.send({source, QStringLiteral("StateChanged"), state, isOn ? 1 : 0, 0, QVariant::fromValue(bus.reference(source))});
+    bus.send({source, QStringLiteral("StateChanged"), state, isOn ? 1 : 0, QVariant::fromValue(bus.reference(source))});
 }
 
 bool sendState(const Bus& bus, QAccessibleInterface* source, const QAccessible::State& changed) {
@@ -94,14 +94,14 @@ bool sendState(const Bus& bus, QAccessibleInterface* source, const QAccessible::
 }
 
 void sendProperty(const Bus& bus, QAccessibleInterface* source, const QString& property, const QVariant& value) {
-    bus.send({source, QStringLiteral("PropertyChange"), property, 0, 0, value});
+    bus.send({source, QStringLiteral("PropertyChange"), property, 0, value});
 }
 
 // Absent parents have nobody who would listen.
 void sendChild(const Bus& bus, QAccessibleInterface* child, const QString& change) {
     QAccessibleInterface* const parent = child->parent();
     if (!parent) return;
-    bus.send({parent, QStringLiteral("ChildrenChanged"), change, parent->indexOfChild(child), 0,
+    bus.send({parent, QStringLiteral("ChildrenChanged"), change, parent->indexOfChild(child),
               QVariant::fromValue(bus.reference(child))});
 }
 

@@ -19,6 +19,11 @@ FramePacer::FramePacer(rasterbackend::PixelView& view, std::function<void()> pai
     m_view.setSeen(false);
 }
 
+double framesPerSecondFor(double refreshRate) {
+    constexpr double slowest = 30, fastest = 240;
+    return std::clamp(refreshRate, slowest, fastest);
+}
+
 FramePacer::~FramePacer() { m_view.setFrameHandler({}); }
 
 void FramePacer::setRunning(bool isRunning) {
@@ -28,8 +33,8 @@ void FramePacer::setRunning(bool isRunning) {
 }
 
 void FramePacer::setScreen(const QScreen* screen) {
-    constexpr double slowest = 30, fastest = 240, usual = 60;
-    m_view.setRefreshRate(screen ? std::clamp(screen->refreshRate(), slowest, fastest) : usual);
+    constexpr double usual = 60;
+    m_view.setRefreshRate(framesPerSecondFor(screen ? screen->refreshRate() : usual));
 }
 
 void FramePacer::schedule() {

@@ -11,6 +11,9 @@ class QScreen;
 
 namespace proupsells::qtbackend {
 
+// How many frames a second are worth making for a display that says it is refreshed so often: displays are not always right.
+PROUPSELLS_EXPORT double framesPerSecondFor(double refreshRate);
+
 // Asks for a frame as soon as one is due, at most once a refresh of the display, and not at all while nobody can see it.
 class PROUPSELLS_EXPORT FramePacer {
 public:

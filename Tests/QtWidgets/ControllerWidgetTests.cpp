@@ -183,6 +183,27 @@ TEST_F(Widgets, LetTheFocusInAndOut) {
     EXPECT_THAT(screen->presses, ElementsAre("first", "second", "second"));
 }
 
+TEST_F(Widgets, KeepTheFocusOfTheirControlsWhileAnotherWindowOrAMenuIsInFront) {
+    const auto pressesAfter = [&](Qt::FocusReason reason) {
+        QWidget window;
+        screen = std::make_shared<TwoButtons>();
+        show(&window);
+        tests::pressKey(*widget, Qt::Key_Tab);
+        for (const QEvent::Type type : {QEvent::FocusOut, QEvent::FocusIn}) {
+            QFocusEvent event(type, reason);
+            QCoreApplication::sendEvent(widget, &event);
+        }
+        tests::pressKey(*widget, Qt::Key_Space);
+        delete widget;
+        return screen->presses.size();
+    };
+
+    EXPECT_EQ(pressesAfter(Qt::ActiveWindowFocusReason), 1u);
+    EXPECT_EQ(pressesAfter(Qt::PopupFocusReason), 1u);
+    EXPECT_EQ(pressesAfter(Qt::MouseFocusReason), 0u);
+    EXPECT_EQ(pressesAfter(Qt::OtherFocusReason), 0u);
+}
+
 TEST_F(Widgets, LeaveAloneTheKeysThatMeanNothingToThem) {
     struct Around : QWidget {
         void keyPressEvent(QKeyEvent* event) override { keys.push_back(event->key()); }
