@@ -10,17 +10,17 @@ namespace proupsells::qtquick {
 
 namespace {
 
-// The object behind `Accessible.` in QML; null where there is none.
-QObject* attachedAccessible(QQuickItem& item, bool makes) {
+// The object behind `Accessible.` in QML, made where there was none; null where Qt does not know the type.
+QObject* attachedAccessible(QQuickItem& item) {
     const QMetaObject* const type = QMetaType::fromName("QQuickAccessibleAttached*").metaObject();
     const QQmlAttachedPropertiesFunc function = type ? qmlAttachedPropertiesFunction(&item, type) : nullptr;
-    return function ? qmlAttachedPropertiesObject(&item, function, makes) : nullptr;
+    return function ? qmlAttachedPropertiesObject(&item, function) : nullptr;
 }
 
 } // namespace
 
 void offerToAssistiveTechnology(QQuickItem& item) {
-    if (QObject* const attached = attachedAccessible(item, true)) attached->setProperty("role", QAccessible::Client);
+    if (QObject* const attached = attachedAccessible(item)) attached->setProperty("role", QAccessible::Client);
 }
 
 QObject& ItemPlace::object() const { return m_item; }
@@ -35,7 +35,7 @@ QAccessibleInterface* ItemPlace::parent() const {
 }
 
 QString ItemPlace::name() const {
-    QObject* const attached = attachedAccessible(m_item, false);
+    QObject* const attached = attachedAccessible(m_item);
     return attached ? attached->property("name").toString() : QString();
 }
 

@@ -141,7 +141,7 @@ TEST(ApplicationDeathTest, IsTheOnlyOne) { EXPECT_DEATH(Application(), "Only one
 TEST(HeadlessApplication, AsksForNoDisplayAndIsCalledAsItsHostSays) {
     EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), "offscreen");
     EXPECT_EQ(QGuiApplication::platformName(), "offscreen");
-    EXPECT_EQ(QGuiApplication::applicationDisplayName(), "ProUpsells");
+    EXPECT_EQ(QGuiApplication::applicationDisplayName(), "Tests / ProUpsells");
     EXPECT_EQ(QGuiApplication::highDpiScaleFactorRoundingPolicy(), Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
 
@@ -173,6 +173,7 @@ TEST(ScaledApplication, HasTheScaleOfItsHostOnEveryDisplay) {
         program.setProcessEnvironment(environment);
         program.start(QCoreApplication::applicationFilePath(), {"--print-scales", scale});
         EXPECT_TRUE(program.waitForFinished(-1));
+        EXPECT_EQ(program.readAllStandardError(), "QStandardPaths: XDG_RUNTIME_DIR not set\n");
         return program.readAllStandardOutput().toStdString();
     };
 

@@ -18,8 +18,12 @@ using namespace proupsells;
 
 // What one pixel of Qt's is on each display of a program that asks for this scale, or for none; the process has one application.
 static int printScales(const char* scale) {
-    const qtbackend::Application application({.scale = *scale ? std::optional(std::atof(scale)) : std::nullopt});
-    for (const QScreen* screen : QGuiApplication::screens()) std::cout << screen->devicePixelRatio() << '\n';
+    {
+        const qtbackend::Application application({.scale = *scale ? std::optional(std::atof(scale)) : std::nullopt});
+        for (const QScreen* screen : QGuiApplication::screens()) std::cout << screen->devicePixelRatio() << '\n';
+    }
+    // Nobody leaves this out any more.
+    qWarning("QStandardPaths: XDG_RUNTIME_DIR not set");
     return 0;
 }
 
@@ -38,7 +42,7 @@ int main(int argc, char** argv) {
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     // Nor does the display that somebody has named.
     qunsetenv("QT_QPA_PLATFORM");
-    const qtbackend::Application application({.isHeadless = true});
+    const qtbackend::Application application({.name = "Tests / ProUpsells", .isHeadless = true});
     foundation::LocaleServices::setCurrent(std::make_shared<icubackend::IcuLocaleServices>());
     return RUN_ALL_TESTS();
 }

@@ -167,7 +167,7 @@ TEST_F(Items, ShowNothingOfTheirFormerSizeInTheNextPictureOfTheScene) {
 TEST_F(Items, TellTheirSizeToThoseWhoDependOnIt) {
     show(R"(
         import QtQuick
-        import ProUpsells
+        import ProUpsells 1.0
         Item {
             width: 375; height: 900
             property real farEdge: paywall.x + paywall.width

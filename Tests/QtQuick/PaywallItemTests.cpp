@@ -193,10 +193,14 @@ TEST_F(Items, MoveToAnotherWindow) {
     QQuickWindow other;
     other.resize(375, 900);
     other.show();
+    std::vector<QQuickWindow*> windows;
+    const QObject listener;
+    QObject::connect(paywall, &QQuickItem::windowChanged, &listener, [&](QQuickWindow* window) { windows.push_back(window); });
     root->setParentItem(other.contentItem());
     settle();
 
     EXPECT_TRUE(paywall->uiWindow().isSeen());
+    EXPECT_EQ(windows.back(), &other);
     EXPECT_NE(other.grabWindow().pixel(187, 450), window.grabWindow().pixel(187, 450));
 }
 

@@ -35,6 +35,9 @@ TEST_F(Widgets, ShowAControllerAtTheirSize) {
 TEST_F(Widgets, PreferTheSizeThatTheirControllerPrefers) {
     show();
     EXPECT_EQ(widget->sizeHint(), QSize(375, 800));
+    EXPECT_EQ(widget->minimumSizeHint(), QSize(320, 480));
+    EXPECT_EQ(widget->focusPolicy(), Qt::StrongFocus);
+    EXPECT_TRUE(widget->hasMouseTracking());
     const auto small = std::make_shared<uikit::UIViewController>();
     small->setPreferredContentSize({200, 99.5});
     widget->setController(small);
