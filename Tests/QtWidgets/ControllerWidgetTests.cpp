@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPalette>
 #include <QPointingDevice>
+#include <QProxyStyle>
 
 #include "Backends/Qt/DesktopSettings.hpp"
 #include "Platform/RunLoop/MainRunLoop.hpp"
@@ -240,6 +241,28 @@ TEST_F(Widgets, FollowThePaletteAndTheDirectionUnlessTheHostDecides) {
     EXPECT_EQ(traits.layoutDirection, geometry::LayoutDirection::leftToRight);
     EXPECT_TRUE(traits.reduceMotion);
     EXPECT_EQ(traits.preferredContentSizeCategory, graphics::ContentSizeCategory::extraExtraLarge);
+}
+
+// A style whose widgets move for so long.
+class TimedStyle : public QProxyStyle {
+public:
+    explicit TimedStyle(int duration_ms) : m_duration_ms(duration_ms) {}
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* answer) const override {
+        return hint == SH_Widget_Animation_Duration ? m_duration_ms : QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+
+private:
+    int m_duration_ms;
+};
+
+TEST_F(Widgets, MoveLessInAStyleThatDoesNotMove) {
+    TimedStyle still(0), quick(1);
+    show();
+    widget->setStyle(&still);
+    EXPECT_TRUE(widget->uiWindow().traits().reduceMotion);
+    widget->setStyle(&quick);
+    EXPECT_FALSE(widget->uiWindow().traits().reduceMotion);
+    delete widget;
 }
 
 TEST_F(Widgets, FollowTheDesktopUnlessTheHostDecides) {
