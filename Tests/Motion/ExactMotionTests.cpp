@@ -58,6 +58,14 @@ TEST(ExactDeceleration, SpringsBackByItsFormula) {
     EXPECT_NEAR((50 + 600 * end_s) * std::exp(-12 * end_s), 0.01, 1e-6);
 }
 
+TEST(ExactDeceleration, SwingsOutFromNearlyTheEndBeforeItRests) {
+    const Deceleration path(1000.005, 1000, range);
+
+    const double end_s = path.duration_s(), slope = 1000 + 12 * 0.005;
+    EXPECT_GT(end_s, 0.5);
+    EXPECT_NEAR((0.005 + slope * end_s) * std::exp(-12 * end_s), 0.01, 1e-6);
+}
+
 TEST(ExactDeceleration, MeetsTheEndAtTheSpeedThatIsLeft) {
     const Deceleration path(900, 1000, range);
     const double shareLeft = 1 - 100 * rate / 1000, meeting_s = -std::log(shareLeft) / rate;
@@ -104,6 +112,16 @@ TEST(ExactRubberBand, FollowsByItsFormulaOnBothSides) {
 }
 
 // --- The axis ---
+
+TEST(ExactAxis, PullsByTheLengthThatIsSeenNow) {
+    ScrollAxis axis;
+    axis.setRange(range, 400, 0);
+    axis.setRange(range, 200, 0);
+    axis.beginTracking(0, 0);
+    axis.track(100, 0.1);
+
+    EXPECT_EQ(axis.offsetAt(0.1), rubberBanded(-100, range, 200));
+}
 
 TEST(ExactAxis, IsThrownAtEightThousandPointsASecondAtMost) {
     const auto thrownAt = [](double speed) {
