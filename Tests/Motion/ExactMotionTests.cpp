@@ -96,6 +96,7 @@ TEST(ExactDeceleration, SettlesAsFastAsTheSpringTakesIt) {
     EXPECT_EQ(fast.velocityAt(0), 120);
     EXPECT_EQ(away.velocityAt(0), -30);
     EXPECT_EQ(back.velocityAt(0), -120);
+    EXPECT_NEAR(fast.duration_s(), std::log(10 / 0.01) / 12, 1e-9);
     EXPECT_EQ(Deceleration::settling(10, 50, 10).duration_s(), 0);
 }
 

@@ -52,6 +52,20 @@ TEST(MainRunLoopDeathTest, StopsTheProgramWithoutAClock) { EXPECT_DEATH(MainRunL
 
 using RunLoop = tests::LoopFixture;
 
+TEST_F(RunLoop, MayHaveAHundredThousandTurnsOfOneMoment) {
+    int left = 100'000;
+    std::function<void()> again = [&] {
+        if (--left > 0) loop.schedule(0, again);
+    };
+    loop.schedule(0, again);
+    loop.runUntil(0);
+    EXPECT_EQ(left, 0);
+
+    left = 100'001;
+    loop.schedule(0, again);
+    EXPECT_DEATH(loop.runUntil(0), "does not get past one moment");
+}
+
 TEST_F(RunLoop, TellsTheClocksTimeOutsideTurns) {
     EXPECT_EQ(loop.now_s(), 0);
 

@@ -142,6 +142,21 @@ TEST_F(Update, KeepsItsClientUntilItReturns) {
     EXPECT_THAT(diary, ElementsAre("alive@0"));
 }
 
+TEST_F(Update, MayAskForItselfAHundredThousandTimesInATurn) {
+    int left = 100'000;
+    std::shared_ptr<tests::FunctionClient> screen;
+    screen = std::make_shared<tests::FunctionClient>([&] {
+        if (--left > 0) loop.requestUpdate(screen);
+    });
+    loop.requestUpdate(screen);
+    loop.settle();
+    EXPECT_EQ(left, 0);
+
+    left = 100'001;
+    loop.requestUpdate(screen);
+    EXPECT_DEATH(loop.settle(), "does not get past one turn");
+}
+
 TEST_F(Update, StopsTheProgramWhenUpdatesKeepAskingForUpdates) {
     std::shared_ptr<tests::FunctionClient> screen;
     screen = std::make_shared<tests::FunctionClient>([&] { loop.requestUpdate(screen); });
