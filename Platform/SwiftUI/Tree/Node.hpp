@@ -214,6 +214,11 @@ private:
     void collectTransitions(std::vector<TransitionHandler*>& result);
     void matchKeyedChildren(const ViewList& views, UpdatePass& pass);
     void animateFrameTo(const geometry::Rect& target);
+    void withdrawAbsentChildren();
+    // Whether something inside is on its way out.
+    bool holdsLeaving() const;
+    // Back to where a node is that was never placed: nowhere, neither painted nor touched nor told.
+    void withdraw();
     void paintChildren(graphics::PaintContext& context, const graphics::PaintState& state, double now_s);
     void updatePaintBounds();
     void updateChildExtents();

@@ -1,4 +1,5 @@
 // Sizes and places.
+#include <algorithm>
 #include <cmath>
 
 #include "Platform/SwiftUI/Tree/Node.hpp"
@@ -64,6 +65,7 @@ void Node::place(Point origin, const ProposedSize& proposed) {
     m_placedProposal = proposal;
     const bool hadPositionChanged = std::exchange(m_host->m_hasPositionChanged, m_host->m_hasPositionChanged || hasMoved);
     layOut(proposal, target.size);
+    withdrawAbsentChildren();
     m_host->m_hasPositionChanged = hadPositionChanged;
     m_needsLayout = false;
     updatePaintBounds();
@@ -127,6 +129,7 @@ void Node::placeAt(Node& child, Point leadingOrigin, Size childSize, const Propo
 }
 
 void Node::settleTransparentChildren(Size size) {
+    withdrawAbsentChildren();
     for (const auto& child : m_children) {
         if (!child || !child->isTransparent() || child->isAbsent()) continue;
         child->m_frame = {{}, size};
@@ -136,6 +139,25 @@ void Node::settleTransparentChildren(Size size) {
         child->settleTransparentChildren(size);
         child->updatePaintBounds();
     }
+}
+
+// What has become absent is skipped by layOut(), and must not stay where it was. What still leaves in it keeps its place for so long.
+void Node::withdrawAbsentChildren() {
+    for (const auto& child : m_children)
+        if (child && child->m_hasBeenPlaced && child->isAbsent() && !child->holdsLeaving()) child->withdraw();
+}
+
+bool Node::holdsLeaving() const {
+    if (m_leaving && !m_leaving->empty()) return true;
+    return std::any_of(m_children.begin(), m_children.end(), [](const auto& child) { return child && child->holdsLeaving(); });
+}
+
+void Node::withdraw() {
+    m_frame = m_paintBounds = {};
+    m_frameAnimation.reset();
+    m_hasBeenPlaced = false;
+    for (const auto& child : m_children)
+        if (child) child->withdraw();
 }
 
 void Node::updatePaintBounds() {

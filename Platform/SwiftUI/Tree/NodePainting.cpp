@@ -31,6 +31,7 @@ PaintState stateOfContent(const Node& node, const PaintState& state, double now_
 
 void Node::paint(graphics::PaintContext& context, const PaintState& parentState, double now_s) {
     ++m_host->m_paintVisitCount;
+    if (!m_hasBeenPlaced) return;
     // What moves may be outside the bounds, which are those of the end of the movement.
     if (parentState.hides(m_paintBounds.offsetBy(m_frame.origin)) && !isMovingAt(now_s)) return;
     const PaintState state = stateInside(*this, parentState, now_s);
@@ -56,7 +57,7 @@ void Node::paintContent(graphics::PaintContext&, const PaintState&, double) {}
 void Node::paintOverlay(graphics::PaintContext&, const PaintState&, double) {}
 
 Node* Node::hitTest(Point inWindow, const PaintState& parentState, double now_s) {
-    if (!allowsHitTesting()) return nullptr;
+    if (!m_hasBeenPlaced || !allowsHitTesting()) return nullptr;
     const bool isInside = parentState.toWindow(m_paintBounds.offsetBy(m_frame.origin)).contains(inWindow);
     if (!isInside && !isMovingAt(now_s)) return nullptr;
     const PaintState state = stateInside(*this, parentState, now_s);
@@ -74,7 +75,7 @@ Node* Node::hitTest(Point inWindow, const PaintState& parentState, double now_s)
 }
 
 void Node::findControl(ControlSearch& search, const PaintState& parentState, double now_s) {
-    if (!allowsHitTesting()) return;
+    if (!m_hasBeenPlaced || !allowsHitTesting()) return;
     const Rect bounds = parentState.toWindow(m_paintBounds.offsetBy(m_frame.origin));
     const bool isNear = bounds.insetBy(-ControlSearch::reach, -ControlSearch::reach).contains(search.finger);
     if (!isNear && !isMovingAt(now_s)) return;

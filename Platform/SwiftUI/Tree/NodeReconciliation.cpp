@@ -113,6 +113,7 @@ void Node::removeLeaving(Node* node) {
         std::find_if(m_leaving->begin(), m_leaving->end(), [node](const Leaving& l) { return l.node.get() == node; });
     if (leaving == m_leaving->end()) return;
     m_host->departed(std::move(leaving->node));
+    if (isAbsent()) invalidateLayout();
     // Last, since it ends the timer whose callback this is.
     m_leaving->erase(leaving);
 }

@@ -58,6 +58,7 @@ accessibility::SemanticNode SemanticContext::makeNode(std::string_view type, con
 
 void Node::appendSemantics(SemanticContext& context, const PaintState& parentState,
                            std::vector<accessibility::SemanticNode>& result) {
+    if (!m_hasBeenPlaced) return;
     const double now_s = context.now_s;
     // What moves may be outside the bounds, which are those of the end of the movement.
     if (parentState.readsOnlyWhatIsSeen && parentState.hides(m_paintBounds.offsetBy(m_frame.origin)) && !isMovingAt(now_s)) return;
