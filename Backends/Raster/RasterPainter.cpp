@@ -126,7 +126,7 @@ struct RasterPainter::Item {
         const PixelRect extent{job.window.left, mask.top(), job.window.right, mask.bottom()};
         paintRows(job, extent, [&](int y, int left, int right, std::uint8_t coverage) {
             Pixel* row = job.row(y);
-            const Pixel covered = coverage == 255 ? color : scaled(color, coverage);
+            const Pixel covered = scaled(color, coverage);
             mask.visitRow(y, left, right, [&](int from, int to, const std::uint8_t* coverages, std::uint8_t shared) {
                 if (coverages)
                     blendColor(row + from, std::size_t(to - from), covered, coverages);

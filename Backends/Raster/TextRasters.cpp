@@ -121,11 +121,6 @@ struct SnappedPlace {
 
 } // namespace
 
-bool TextRasters::Key::operator==(const Key& other) const {
-    return text == other.text && range.first == other.range.first && range.end == other.range.end && linear == other.linear &&
-           phaseX == other.phaseX && phaseY == other.phaseY && color == other.color;
-}
-
 std::size_t TextRasters::Key::Hash::operator()(const Key& key) const {
     std::size_t hash = key.text * 31 + key.range.first;
     const auto mix = [&hash](std::uint64_t value) {
