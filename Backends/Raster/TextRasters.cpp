@@ -103,7 +103,7 @@ void drawPicture(Picture& target, const PixelRect& pixels, const GlyphPlace& gly
     const Rect& frame = glyph.shape->pictureFrame;
     const Rect shown = t.apply(frame);
     if (t.b != 0 || t.c != 0 || t.a <= 0 || t.d <= 0) return paintTransformed(target, glyph.shape->picture, frame, t, rasterizer);
-    const auto side = [](double length) { return std::max(1, int(std::lround(length))); };
+    const auto side = [](double length) { return int(std::lround(length)); };
     blendAt(target, resampled(glyph.shape->picture, side(shown.width()), side(shown.height())), nearestPixel(shown.minX()),
             nearestPixel(shown.minY()));
 }

@@ -182,6 +182,39 @@ TEST_F(FilePictureTest, IsThereWhenItComesIfItWasAhead) {
     EXPECT_EQ(surface.picture(), whole());
 }
 
+TEST_F(FilePictureTest, IsReadAheadWhereItWillBeSeen) {
+    const auto painter = std::make_shared<RasterPainter>();
+    RasterSurface surface(painter);
+    const geometry::Rect place{{-400, -100}, {size.width, size.height}};
+    const graphics::PaintState seen = graphics::PaintState().clippedTo({{0, 0}, {100, 80}});
+    Canvas before({100, 80}), after({100, 80});
+    before.context.fillRectangle({}, {{0, 0}, {100, 80}}, tests::white);
+    before.context.lookAhead([&] { before.context.image(seen, place, image()); });
+    after.context.image(seen, place, image());
+    surface.present(before.list, before.size, 1);
+
+    surface.prepareAhead();
+    painter->finishPreparing();
+    removeFile();
+    surface.present(after.list, after.size, 1);
+
+    EXPECT_EQ(surface.picture(), tests::part(whole(), 400, 100, 100, 80));
+}
+
+TEST_F(FilePictureTest, IsNotReadAheadWhereNothingIsShown) {
+    const auto painter = std::make_shared<RasterPainter>();
+    RasterSurface surface(painter);
+    const Canvas canvas = this->canvas();
+    surface.present(canvas.list, canvas.size, 1);
+    const std::size_t before = painter->pictureBytes();
+
+    surface.forgetShown();
+    surface.prepareAhead();
+    painter->finishPreparing();
+
+    EXPECT_EQ(painter->pictureBytes(), before);
+}
+
 TEST_F(FilePictureTest, IsPaintedAsFarAsItCanBeRead) {
     tests::LogRecorder log;
     damage(3000); // the last tile and the end of the one before

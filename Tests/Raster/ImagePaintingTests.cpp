@@ -161,6 +161,16 @@ TEST_F(ImagePainting, ReportsAPictureThatCannotBeReadOnceAndPaintsNothing) {
     EXPECT_THAT(log.messages(), ElementsAre(HasSubstr("missing.png")));
 }
 
+TEST_F(ImagePainting, ReadsNoPictureThatCannotBeSeen) {
+    LogRecorder log;
+    Canvas canvas({20, 20});
+    canvas.context.image({}, {{30, 5}, {10, 10}}, image(path("missing.png")));
+    canvas.context.image(PaintState().fadedBy(0.001), {{5, 5}, {10, 10}}, image(path("missing.png")));
+
+    EXPECT_EQ(totalInk(canvas.image()), 0);
+    EXPECT_THAT(log.messages(), testing::IsEmpty());
+}
+
 TEST_F(ImagePainting, PaintsPicturesOfPixelsScaled) {
     writePicture(path("blue.png"), 2, 2, [](int, int) { return 0xFF0000FFu; });
     Canvas canvas({10, 10}, 2);

@@ -291,6 +291,15 @@ TEST_F(TextRastersTest, TurnAndMirrorPicturesToo) {
     EXPECT_NEAR(redAt(Transform{1, 0.5, 0, 1, 0, 0}, {0, 0}, 18, 4), 19, 1);
 }
 
+TEST_F(TextRastersTest, ShowNothingOfAPictureThatIsLowerThanHalfAPixel) {
+    const EmojiText emoji;
+
+    for (const double scale : {0.04, 0.001}) {
+        const TextRaster made = raster(emoji.text(), {0, 2}, {0, 0}, Transform::scaling(scale, scale), textColor);
+        EXPECT_TRUE(made.picture.isNull() || made.picture.row(0)[0] == 0) << scale;
+    }
+}
+
 // --- Texts that another shaper made ---
 
 std::shared_ptr<graphics::ShapedText> foreignText(const std::string& letters) {

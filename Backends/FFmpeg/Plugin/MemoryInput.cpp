@@ -1,8 +1,6 @@
 #include "Backends/FFmpeg/Plugin/MemoryInput.hpp"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
 
 extern "C" {
 #include <libavformat/avio.h>
@@ -40,12 +38,8 @@ int MemoryInput::read(void* self, std::uint8_t* to, int size) {
 
 std::int64_t MemoryInput::seek(void* self, std::int64_t offset, int whence) {
     auto& input = *static_cast<MemoryInput*>(self);
-    const auto size = std::int64_t(input.m_bytes.size());
-    if (whence & AVSEEK_SIZE) return size;
-    if (whence == SEEK_CUR) offset += std::int64_t(input.m_position);
-    if (whence == SEEK_END) offset += size;
-    if (offset < 0) return AVERROR(EINVAL);
-    // As in files, one may go past the end, where nothing can be read.
+    if (whence & AVSEEK_SIZE) return std::int64_t(input.m_bytes.size());
+    // Else FFmpeg always counts from the beginning. As in files, one may go past the end, where nothing can be read.
     input.m_position = std::size_t(offset);
     return offset;
 }
