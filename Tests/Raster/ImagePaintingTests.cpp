@@ -230,8 +230,14 @@ TEST_F(ImagePainting, SurvivesABitmapWithoutItsPixels) {
     broken->pixels.resize(3);
     Canvas canvas({10, 10});
     canvas.context.bitmap({}, {{0, 0}, {10, 10}}, broken);
-    for (const auto& [width, height] : {std::pair{0, 0}, {0, 5}, {5, 0}, {-2, -2}})
-        canvas.context.bitmap({}, {{0, 0}, {10, 10}}, bitmap(width, height, 0xFF000000));
+    for (const auto& [width, height] : {std::pair{0, 0}, {0, 5}, {5, 0}, {-2, -2}}) {
+        // Its memory is there, but nothing counts.
+        auto nothing = bitmap(5, 5, 0xFF000000);
+        nothing->width = width;
+        nothing->height = height;
+        nothing->pixels.resize(std::size_t(width * height));
+        canvas.context.bitmap({}, {{0, 0}, {10, 10}}, nothing);
+    }
 
     EXPECT_EQ(totalInk(canvas.image()), 0);
 }
