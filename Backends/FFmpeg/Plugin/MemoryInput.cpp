@@ -29,7 +29,7 @@ AVIOContext* MemoryInput::open(std::string_view bytes) {
 
 int MemoryInput::read(void* self, std::uint8_t* to, int size) {
     auto& input = *static_cast<MemoryInput*>(self);
-    if (size <= 0 || input.m_position >= input.m_bytes.size()) return AVERROR_EOF;
+    if (input.m_position >= input.m_bytes.size()) return AVERROR_EOF;
     const std::string_view rest = input.m_bytes.substr(input.m_position, std::size_t(size));
     std::copy(rest.begin(), rest.end(), to);
     input.m_position += rest.size();
