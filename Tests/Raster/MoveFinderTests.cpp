@@ -59,7 +59,7 @@ protected:
 
     const graphics::ImageRef m_picture = someImage();
     MoveFinder m_finder;
-    const PaintState m_plain, m_moved = PaintState().movedBy(step);
+    const PaintState m_plain{}, m_moved = PaintState().movedBy(step);
 };
 
 TEST_F(MoveFinderTest, PaintsTheTwoSidesAtWhichSomethingHasComeIn) {
