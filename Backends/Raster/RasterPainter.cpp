@@ -37,8 +37,7 @@ void forEachRow(const PixelRect& area, const PlacedMask& clip, PaintRow&& paintR
         }
         clip.visitRow(y, area.left, area.right, [&](int left, int right, const std::uint8_t* coverages, std::uint8_t shared) {
             if (!coverages) return paintRow(y, left, right, shared);
-            for (int x = left; x < right; ++x)
-                if (coverages[x - left] > 0) paintRow(y, x, x + 1, coverages[x - left]);
+            for (int x = left; x < right; ++x) paintRow(y, x, x + 1, coverages[x - left]);
         });
     }
 }

@@ -1,7 +1,9 @@
 // What of a change is painted where something that stays hides a part of it.
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <functional>
+#include <iterator>
 
 #include "Tests/Raster/Canvas.hpp"
 
@@ -93,6 +95,21 @@ TEST(HiddenDamage, IsPaintedBelowACoverThatChangesToo) {
 
     EXPECT_EQ(colorAt(surface.picture(), 5, 5), 0x0000FFu);
     EXPECT_EQ(colorAt(surface.picture(), 30, 50), 0x0000FFu);
+}
+
+// Two of them share a row of pixels, and what is around both shares some with the third.
+TEST(Damage, NeverOverlapsHoweverItsPartsLie) {
+    const Rect parts[] = {{{35, 0}, {10, 5}}, {{20, 0}, {10, 10.5}}, {{25, 10.5}, {15, 9.5}}};
+    int order[] = {0, 1, 2};
+    do {
+        RasterSurface surface;
+        for (const graphics::RGBA color : {red, blue}) {
+            Canvas canvas({100, 100});
+            for (const int part : order) canvas.context.fillRectangle({}, parts[part], color);
+            surface.present(canvas.list, canvas.size, 1);
+        }
+        EXPECT_THAT(surface.lastDamage(), ElementsAre(PixelRect{20, 0, 45, 20})) << order[0] << order[1] << order[2];
+    } while (std::next_permutation(std::begin(order), std::end(order)));
 }
 
 } // namespace
