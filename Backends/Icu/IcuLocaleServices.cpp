@@ -82,7 +82,6 @@ struct IcuLocaleServices::Cache {
         if (U_FAILURE(status)) commons::fatalError(std::string("ICU's data is missing: ") + u_errorName(status));
         utext_openUTF8(&text, bytes.data(), static_cast<std::int64_t>(bytes.size()), &status);
         graphemes->setText(&text, status);
-        graphemes->first();
         for (auto end = graphemes->next(); end != icu::BreakIterator::DONE; end = graphemes->next())
             ends.push_back(static_cast<std::size_t>(end));
     }

@@ -124,7 +124,7 @@ void PercentFormat::appendNumber(icu::UnicodeString& text, const RoundedDecimal&
         const int afterwards = number.wholeCount - 1 - index;
         if (afterwards > 0 && endsGroup(afterwards, wholeDigits)) text += m_elements.group;
     }
-    if (digitCount > number.wholeCount && digitCount > 0) text += m_elements.decimal;
+    if (digitCount > number.wholeCount) text += m_elements.decimal;
     for (int index = number.wholeCount; index < digitCount; ++index) appendDigit(text, digitAt(index));
 }
 

@@ -75,7 +75,8 @@ PROUPSELLS_ALWAYS_INLINE void blendRow(Pixel* to, std::size_t count, const Pixel
 
 } // namespace
 
-std::uint8_t opacityFactor(float opacity) { return opacity > 0 ? std::uint8_t(std::lround(std::min(opacity, 1.0f) * 255)) : 0; }
+// Of what is not a number, max returns its first argument.
+std::uint8_t opacityFactor(float opacity) { return std::uint8_t(std::lround(std::min(std::max(0.0f, opacity), 1.0f) * 255)); }
 
 Pixel premultiplied(graphics::RGBA color, std::uint8_t opacity) {
     const std::uint8_t alpha = scaledByte(color.alpha, opacity);
@@ -84,7 +85,7 @@ Pixel premultiplied(graphics::RGBA color, std::uint8_t opacity) {
 }
 
 PROUPSELLS_VECTORIZED void blendColor(Pixel* to, std::size_t count, Pixel color, std::uint8_t coverage) {
-    const Pixel top = coverage == 255 ? color : scaled(color, coverage);
+    const Pixel top = scaled(color, coverage);
     const std::uint32_t rest = 255u - alphaOf(top);
     if (rest == 0) {
         fill(to, count, top);

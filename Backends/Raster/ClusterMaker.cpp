@@ -60,7 +60,6 @@ struct ClusterMaker::Rules {
         utext_openUChars(&text, units.data(), std::int64_t(units.size()), &status);
         iterator->setText(&text, status);
         if (U_FAILURE(status)) commons::fatalError("ICU cannot look for boundaries in a text");
-        iterator->first();
         return *iterator;
     }
 };

@@ -9,8 +9,8 @@ using geometry::Path;
 using geometry::Point;
 
 void CoverageRasterizer::begin(int width, int height) {
-    m_width = std::max(width, 0);
-    m_height = std::max(height, 0);
+    m_width = width;
+    m_height = height;
     m_cells.resize(std::max(m_cells.size(), std::size_t(m_width + 2) * std::size_t(m_height)));
     m_extents.assign(std::size_t(m_height), {m_width + 2, 0});
     m_row.resize(std::size_t(m_width));
@@ -69,7 +69,7 @@ void CoverageRasterizer::addCubic(Point from, Point control1, Point control2, Po
 }
 
 void CoverageRasterizer::addLine(Point from, Point to) {
-    if (from.y == to.y || !std::isfinite(from.x + from.y + to.x + to.y)) return;
+    if (!std::isfinite(from.x + from.y + to.x + to.y)) return;
     const double sign = from.y < to.y ? 1 : -1;
     const Point top = sign > 0 ? from : to, bottom = sign > 0 ? to : from;
     const double slope = (bottom.x - top.x) / (bottom.y - top.y);

@@ -38,11 +38,6 @@ bool isPicture(const Command& command) {
     return (command.kind == CommandKind::image || command.kind == CommandKind::bitmap) && command.transform < 0;
 }
 
-bool isShape(CommandKind kind) {
-    return kind != CommandKind::image && kind != CommandKind::bitmap && kind != CommandKind::text &&
-           kind != CommandKind::fillPath && kind != CommandKind::strokePath;
-}
-
 } // namespace
 
 MovedPixels MoveFinder::find(const graphics::DisplayList& before, const graphics::DisplayList& after, double scale,
@@ -142,8 +137,11 @@ bool MoveFinder::looksTheSame(const Command& before, const Command& after) const
     case CommandKind::text:
         return before.firstCluster == after.firstCluster && before.endCluster == after.endCluster &&
                sharesResource(m_before->texts, before, m_after->texts, after);
+    // To compare outlines costs as much as to paint them.
+    case CommandKind::fillPath:
+    case CommandKind::strokePath: return false;
     default:
-        return isShape(after.kind) && before.cornerRadius == after.cornerRadius && before.cornerStyle == after.cornerStyle &&
+        return before.cornerRadius == after.cornerRadius && before.cornerStyle == after.cornerStyle &&
                before.lineWidth == after.lineWidth && before.blurRadius == after.blurRadius;
     }
 }
@@ -152,7 +150,7 @@ bool MoveFinder::looksTheSame(const Command& before, const Command& after) const
 // move along, or stay, except for its corners.
 bool MoveFinder::isAtOffset(const Command& before, const Command& after, const PixelRect& area) const {
     const bool isClipKept = pixels(before.roundedClip) == pixels(after.roundedClip);
-    if (after.clipRadius > 0 && !isClipKept && !hasClipOfBefore(before, after)) return false;
+    if (!isClipKept && !hasClipOfBefore(before, after)) return false;
     if (isPicture(after)) return imagePixels(before, m_scale).moved(m_offset.x, m_offset.y) == imagePixels(after, m_scale);
     const geometry::Rect from = scaledBy(before.frame, m_scale), to = scaledBy(after.frame, m_scale);
     // A ground that fills the area may well have stayed.
@@ -163,7 +161,7 @@ bool MoveFinder::isAtOffset(const Command& before, const Command& after, const P
 }
 
 bool MoveFinder::hasClipOfBefore(const Command& before, const Command& after) const {
-    return after.clipRadius <= 0 || pixels(before.roundedClip, m_offset) == pixels(after.roundedClip);
+    return pixels(before.roundedClip, m_offset) == pixels(after.roundedClip);
 }
 
 void MoveFinder::repaintCorners(const Command& clipped, PixelOffset by, const PixelRect& area) {

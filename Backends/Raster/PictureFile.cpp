@@ -47,7 +47,6 @@ std::optional<geometry::Size> naturalPictureSize(const std::filesystem::path& fi
 }
 
 Picture readPicture(const std::filesystem::path& file, int width, int height) {
-    if (width <= 0 || height <= 0) return {};
     const system::MappedFile mapped(file);
     const auto header = PictureHeader::parse(mapped.bytes(), mapped.bytes().size());
     const Picture picture = header ? readVariant(mapped.bytes(), *header, {width, height}) : pngPicture(mapped.bytes());

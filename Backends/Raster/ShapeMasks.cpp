@@ -44,7 +44,7 @@ struct Axis {
     // `corner` pixels at either end are to be kept.
     Axis(double from, double to, double corner) {
         const std::int64_t first = toSubpixels(from);
-        pixel = int(first >= 0 ? first / subpixels : -((-first + subpixels - 1) / subpixels));
+        pixel = int(std::floor(toPixels(first)));
         start = first - pixel * subpixels;
         length = std::max<std::int64_t>(toSubpixels(to) - first, 0);
         // Wide enough for a span of one coverage to hold the repeated pixel.
@@ -55,7 +55,7 @@ struct Axis {
         length -= extra * subpixels;
         repeated = int((start + length / 2) / subpixels);
     }
-    int end() const { return int((start + length + subpixels - 1) / subpixels); }
+    int end() const { return int(std::ceil(toPixels(start + length))); }
 };
 
 double scaleOf(const Transform& transform) { return std::sqrt(std::abs(transform.a * transform.d - transform.b * transform.c)); }
@@ -112,22 +112,22 @@ PlacedMask ShapeMasks::roundedRectangle(const Rect& frame, double radius, Corner
     // Continuous corners begin a little earlier than at their radius.
     constexpr double longestReach = 1.6;
     const double cutRadius = std::max(0.0, std::min({radius, frame.width() / 2, frame.height() / 2}));
-    const double half = lineWidth > 0 ? lineWidth / 2 : 0;
-    const Placement placement(frame, cutRadius * longestReach + half, half > 0 ? int(std::ceil(std::min(half, 1e6))) + 1 : 0);
-    return shape(style == CornerStyle::continuous ? Kind::continuous : Kind::circular, placement, cutRadius,
-                 std::max(0.0, lineWidth));
+    const double half = lineWidth / 2;
+    // Of a flat one the outlines of both sides would lie over each other.
+    if (lineWidth > 0 && (frame.width() <= 0 || frame.height() <= 0))
+        return roundedRectangle(frame.insetBy(-half, -half), 0, CornerStyle::circular, 0);
+    const Placement placement(frame, cutRadius * longestReach + half, int(std::ceil(half)));
+    return shape(style == CornerStyle::continuous ? Kind::continuous : Kind::circular, placement, cutRadius, lineWidth);
 }
 
 PlacedMask ShapeMasks::ellipse(const Rect& frame, double lineWidth) {
-    const double half = lineWidth > 0 ? lineWidth / 2 : 0;
-    const Placement placement(frame, std::max(frame.width(), frame.height()),
-                              half > 0 ? int(std::ceil(std::min(half, 1e6))) + 1 : 0);
-    return shape(Kind::ellipse, placement, 0, std::max(0.0, lineWidth));
+    const Placement placement(frame, std::max(frame.width(), frame.height()), int(std::ceil(lineWidth / 2)));
+    return shape(Kind::ellipse, placement, 0, lineWidth);
 }
 
 PlacedMask ShapeMasks::shadow(const Rect& frame, double blurRadius) {
-    const double reach = 2 * std::clamp(blurRadius, 0.0, 1e4);
-    return shape(Kind::shadow, Placement(frame, reach, int(std::ceil(reach)) + 1), blurRadius, 0);
+    const double reach = 2 * blurRadius;
+    return shape(Kind::shadow, Placement(frame, reach, int(std::ceil(reach))), blurRadius, 0);
 }
 
 PlacedMask ShapeMasks::shape(Kind kind, const Placement& placement, double radius, double lineWidth) {
@@ -152,16 +152,15 @@ CoverageMask ShapeMasks::makeShape(Kind kind, const Placement& placement, double
     const CornerStyle style = kind == Kind::continuous ? CornerStyle::continuous : CornerStyle::circular;
     const Path path =
         kind == Kind::ellipse ? Path::ellipse(placement.frame()) : Path::roundedRectangle(placement.frame(), radius, style);
-    return makeOutline(path, {}, {lineWidth}, {0, 0, placement.width(), placement.height()});
+    return makeOutline(path, {}, {lineWidth}, {placement.width(), placement.height()});
 }
 
-CoverageMask ShapeMasks::makeOutline(const Path& path, const Transform& toPixels, Stroke stroke, const PixelRect& pixels) {
-    const Transform moved = toPixels.then(Transform::translation(-pixels.left, -pixels.top));
-    m_rasterizer.begin(pixels.width(), pixels.height());
+CoverageMask ShapeMasks::makeOutline(const Path& path, const Transform& toPixels, Stroke stroke, PixelSize size) {
+    m_rasterizer.begin(size.width, size.height);
     if (stroke.width > 0)
-        m_rasterizer.add(m_strokes.outline(path, stroke, scaleOf(toPixels)), moved);
+        m_rasterizer.add(m_strokes.outline(path, stroke, scaleOf(toPixels)), toPixels);
     else
-        m_rasterizer.add(path, moved);
+        m_rasterizer.add(path, toPixels);
     return m_rasterizer.finish();
 }
 
@@ -187,24 +186,21 @@ CoverageMask ShapeMasks::makeShadow(const Placement& placement, double blurRadiu
 }
 
 PlacedMask ShapeMasks::path(const Path& path, const Transform& toPixels, Stroke stroke, const PixelRect& window) {
-    // A miter's tip may be ten line widths long.
-    const double reach = stroke.width * (stroke.join == LineJoin::mitred ? 5 : 0.5);
-    const PixelRect touched = touchedPixels(toPixels.apply(path.bounds().insetBy(-reach, -reach)));
-    const PixelRect visible = touched.intersection(window);
+    // Only rectangles have mitred corners, whose tips reach no further than their sides.
+    const double reach = stroke.width / 2;
+    const PixelRect visible = touchedPixels(toPixels.apply(path.bounds().insetBy(-reach, -reach))).intersection(window);
     if (visible.isEmpty()) return {};
 
-    // Where the window cuts nothing off, the mask moves with whole pixels.
-    const bool isWhole = visible == touched;
-    const int x = isWhole ? visible.left : 0, y = isWhole ? visible.top : 0;
+    // The mask moves with whole pixels.
     m_lookup.path = path;
-    m_lookup.transform = toPixels.then(Transform::translation(-x, -y));
+    m_lookup.transform = toPixels.then(Transform::translation(-visible.left, -visible.top));
     m_lookup.stroke = stroke;
-    m_lookup.window = {visible.left - x, visible.top - y, visible.right - x, visible.bottom - y};
+    m_lookup.size = {visible.width(), visible.height()};
     MaskRef mask;
     if (const MaskRef* known = m_paths.find(m_lookup)) {
         mask = *known;
     } else {
-        mask = std::make_shared<CoverageMask>(makeOutline(path, m_lookup.transform, stroke, m_lookup.window));
+        mask = std::make_shared<CoverageMask>(makeOutline(path, m_lookup.transform, stroke, m_lookup.size));
         m_paths.insert(m_lookup, mask, mask->byteCount() + path.points().size() * sizeof(Point) + sizeof(PathKey));
     }
     return {std::move(mask), visible.left, visible.top};

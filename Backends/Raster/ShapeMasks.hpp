@@ -17,7 +17,7 @@ public:
     // The rasterizer is lent, and used in no two calls at once.
     explicit ShapeMasks(CoverageRasterizer& rasterizer);
 
-    // Filled, or, where the line width is positive, stroked along its edge.
+    // Filled where the line width is 0, else stroked along its edge.
     PlacedMask roundedRectangle(const geometry::Rect& frame, double radius, geometry::CornerStyle style, double lineWidth);
     PlacedMask ellipse(const geometry::Rect& frame, double lineWidth);
     // The stroke's width is in the path's own lengths. Only what is inside of `window` is made.
@@ -41,7 +41,7 @@ private:
         geometry::Path path;
         geometry::Transform transform;
         Stroke stroke;
-        PixelRect window;
+        PixelSize size;
 
         bool operator==(const PathKey&) const = default;
         struct Hash {
@@ -52,8 +52,7 @@ private:
 
     PlacedMask shape(Kind kind, const Placement& placement, double radius, double lineWidth);
     CoverageMask makeShape(Kind kind, const Placement& placement, double radius, double lineWidth);
-    CoverageMask makeOutline(const geometry::Path& path, const geometry::Transform& toPixels, Stroke stroke,
-                             const PixelRect& pixels);
+    CoverageMask makeOutline(const geometry::Path& path, const geometry::Transform& toPixels, Stroke stroke, PixelSize size);
     static CoverageMask makeShadow(const Placement& placement, double blurRadius);
 
     CoverageRasterizer& m_rasterizer;

@@ -26,8 +26,7 @@ namespace {
 constexpr double unitsPerPixel = 1024;
 constexpr double furthest = 1 << 28; // of them, from the origin
 constexpr double flatness_px = 0.01;
-constexpr double miterLimit = 10;             // line widths
-constexpr FT_UInt maximumPointCount = 32'767; // of an outline of FreeType
+constexpr double miterLimit = 10; // line widths
 
 FT_Fixed toFixed(double value) { return FT_Fixed(std::lround(value * 65536)); }
 
@@ -159,8 +158,9 @@ void StrokeOutliner::Stroker::addCurve(Point from, const Point* points, bool isC
 
 void StrokeOutliner::Stroker::appendTo(Path& result) const {
     FT_UInt pointCount = 0, contourCount = 0;
-    if (FT_Stroker_GetCounts(stroker, &pointCount, &contourCount) != 0 || pointCount > maximumPointCount) return;
+    if (FT_Stroker_GetCounts(stroker, &pointCount, &contourCount) != 0) return;
     FT_Outline outline;
+    // It refuses more points than an outline can have.
     if (FT_Outline_New(library, pointCount, FT_Int(contourCount), &outline) != 0) return;
     outline.n_points = 0;
     outline.n_contours = 0;

@@ -103,7 +103,7 @@ void drawPicture(Picture& target, const PixelRect& pixels, const GlyphPlace& gly
     const Rect& frame = glyph.shape->pictureFrame;
     const Rect shown = t.apply(frame);
     if (t.b != 0 || t.c != 0 || t.a <= 0 || t.d <= 0) return paintTransformed(target, glyph.shape->picture, frame, t, rasterizer);
-    const auto side = [](double length) { return std::max(1, int(std::lround(length))); };
+    const auto side = [](double length) { return int(std::lround(length)); };
     blendAt(target, resampled(glyph.shape->picture, side(shown.width()), side(shown.height())), nearestPixel(shown.minX()),
             nearestPixel(shown.minY()));
 }
@@ -120,11 +120,6 @@ struct SnappedPlace {
 };
 
 } // namespace
-
-bool TextRasters::Key::operator==(const Key& other) const {
-    return text == other.text && range.first == other.range.first && range.end == other.range.end && linear == other.linear &&
-           phaseX == other.phaseX && phaseY == other.phaseY && color == other.color;
-}
 
 std::size_t TextRasters::Key::Hash::operator()(const Key& key) const {
     std::size_t hash = key.text * 31 + key.range.first;

@@ -25,6 +25,8 @@ struct TextRaster {
 struct FragmentRange {
     std::uint32_t first = 0;
     std::uint32_t end = 0;
+
+    bool operator==(const FragmentRange&) const = default;
 };
 
 class TextRasters {
@@ -47,7 +49,7 @@ private:
         int phaseX, phaseY; // quarters of a pixel
         Pixel color;        // of a picture
 
-        bool operator==(const Key& other) const;
+        bool operator==(const Key&) const = default;
         struct Hash {
             std::size_t operator()(const Key& key) const;
         };

@@ -45,19 +45,17 @@ Transform sourceToFrame(const Picture& source, const Rect& frame) {
 // A picture that shrinks to less than half is made smaller first: interpolation alone would leave pixels out.
 Picture prepared(const Picture& source, const Rect& frame, const Transform& toPixels) {
     const Transform shown = sourceToFrame(source, frame).then(toPixels);
-    const auto shrunk = [](int length, double factor) {
-        return factor < 0.5 ? std::max(1, int(std::ceil(length * factor))) : length;
-    };
+    const auto shrunk = [](int length, double factor) { return factor < 0.5 ? int(std::ceil(length * factor)) : length; };
     const int width = shrunk(source.width(), std::hypot(shown.a, shown.b));
     const int height = shrunk(source.height(), std::hypot(shown.c, shown.d));
-    return width == source.width() && height == source.height() ? source : resampled(source, width, height);
+    return resampled(source, width, height);
 }
 
 } // namespace
 
 void paintTransformed(Picture& target, const Picture& source, const Rect& frame, const Transform& toPixels,
                       CoverageRasterizer& rasterizer) {
-    if (target.isNull() || source.isNull() || frame.isEmpty() || toPixels.a * toPixels.d == toPixels.b * toPixels.c) return;
+    if (source.isNull() || frame.isEmpty()) return;
     const Picture shown = prepared(source, frame, toPixels);
     const Transform toSource = sourceToFrame(shown, frame).then(toPixels).inverted();
 

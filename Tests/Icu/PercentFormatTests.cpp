@@ -152,6 +152,11 @@ TEST(PercentFormat, WritesItsElementsForTheCharactersOfThePattern) {
     EXPECT_EQ(format.text(1234567.89, 2), "<percent> bcd<group>efg<group>hij");
 }
 
+TEST(PercentFormat, TakesACommaBeforeAllDigitsForTheOneThatParts) {
+    EXPECT_EQ(PercentFormat(icubackend::PercentElements{.pattern = u",##0%"}).text(12345.67, 0), "1,234,567%");
+    EXPECT_EQ(PercentFormat(icubackend::PercentElements{.pattern = u"#,##0%"}).text(12345.67, 0), "1,234,567%");
+}
+
 RC_GTEST_PROP(PercentFormat, RoundsEveryNumberLikeIcu, ()) {
     const icu::Locale locale("en_US");
     static const PercentFormat format(locale);

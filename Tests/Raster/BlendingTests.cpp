@@ -101,7 +101,7 @@ RC_GTEST_PROP(Blending, PaintsEveryPixelOverTheOneBelow, ()) {
 RC_GTEST_PROP(Blending, PaintsAColourWithASharedCoverage, ()) {
     const auto count = std::size_t(*rc::gen::inRange(0, 100));
     const int coverage = *rc::gen::element(255, 200, 1, 0);
-    const Pixel color = somePixel(*rc::gen::element(255, 100, 0));
+    const Pixel color = somePixel(*rc::gen::element(255, 254, 100, 0));
     const std::vector<Pixel> ground = someGround(count);
 
     std::vector<Pixel> result = ground;
@@ -128,6 +128,32 @@ RC_GTEST_PROP(Blending, PaintsAColourWithACoverageForEveryPixel, ()) {
             return (2 * (channel(color, part) * share + channel(ground[index], part) * (255 - share)) + 255) / 510;
         });
         RC_ASSERT(result[index] == mixed);
+    }
+}
+
+RC_GTEST_PROP(Blending, PaintsAFaintColourWithACoverageForEveryPixel, ()) {
+    const auto count = std::size_t(*rc::gen::inRange(0, 100));
+    const Pixel color = somePixel(*rc::gen::element(254, 100, 1, 0));
+    const std::vector<Pixel> ground = someGround(count);
+    std::vector<std::uint8_t> coverages;
+    for (std::size_t index = 0; index < count; ++index) coverages.push_back(std::uint8_t(*rc::gen::inRange(0, 256)));
+
+    std::vector<Pixel> result = ground;
+    blendColor(result.data(), count, color, coverages.data());
+
+    for (std::size_t index = 0; index < count; ++index)
+        RC_ASSERT(result[index] == overByHand(fadedByHand(color, coverages[index]), ground[index]));
+}
+
+// Written as bytes where all four are equal.
+TEST(Blending, FillsWithOpaqueColoursOfEqualAndOfDifferentBytes) {
+    for (const Pixel color : {0xFFFFFFFFu, 0xFF000000u, 0xFFFFFF00u, 0xFFFEFFFFu}) {
+        std::vector<Pixel> row(20, 0xFF123456u);
+        blendColor(row.data() + 1, 18, color, 255);
+
+        std::vector<Pixel> expected(20, color);
+        expected.front() = expected.back() = 0xFF123456u;
+        EXPECT_EQ(row, expected);
     }
 }
 

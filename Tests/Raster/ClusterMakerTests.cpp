@@ -79,3 +79,22 @@ TEST(ClusterMaker, TakesBlanksAndEndsOfLinesForWhitespaceButNoBlankThatHoldsWord
 
     EXPECT_EQ(whitespace.str(), "9 A B C D 20 85 1680 2000 2001 2002 2003 2004 2005 2006 2008 2009 200A 2028 2029 205F 3000 ");
 }
+
+TEST(ClusterMaker, KeepsACarriageReturnAndItsLineFeedOnOneLineEvenInTwoRuns) {
+    rasterbackend::ClusterMaker maker;
+    const auto breaks = [&](const std::vector<graphics::StyledRun>& runs) {
+        std::vector<graphics::Cluster> clusters;
+        std::vector<std::uint32_t> starts;
+        maker.makeClusters(rasterbackend::RunUnits(runs), "en", clusters, starts);
+        std::vector<std::pair<int, LineBreak>> result;
+        for (const graphics::Cluster& cluster : clusters) result.push_back({cluster.run, cluster.breakAfter});
+        return result;
+    };
+    using Breaks = std::vector<std::pair<int, LineBreak>>;
+
+    EXPECT_EQ(breaks({{"a\r", {}, 0}, {"\nb", {}, 0}}),
+              (Breaks{{0, LineBreak::none}, {0, LineBreak::none}, {1, LineBreak::mandatory}, {1, LineBreak::none}}));
+    EXPECT_EQ(breaks({{"a\r", {}, 0}, {"b\r", {}, 0}}),
+              (Breaks{{0, LineBreak::none}, {0, LineBreak::mandatory}, {1, LineBreak::none}, {1, LineBreak::mandatory}}));
+    EXPECT_EQ(breaks({{"\n", {}, 0}, {"\n", {}, 0}}), (Breaks{{0, LineBreak::mandatory}, {1, LineBreak::mandatory}}));
+}

@@ -188,6 +188,77 @@ TEST(ExactArea, OfAnyTriangle) {
     }
 }
 
+// Some with one end or both ends nearly straight, most of them partly outside.
+TEST(ExactArea, OfAnyCurve) {
+    std::mt19937 random(2);
+    std::uniform_real_distribution<double> x(-8, 24), y(-6, 18), little(-0.4, 0.4);
+    const auto near = [&](Point a, Point b) { return Point{2 * a.x - b.x + little(random), 2 * a.y - b.y + little(random)}; };
+    for (int count = 0; count < 4000; ++count) {
+        const Point from{x(random), y(random)}, to{x(random), y(random)}, some{x(random), y(random)};
+        const bool isStraightFirst = count % 4 == 1 || count % 4 == 3, isStraightLast = count % 4 == 2;
+        Path path;
+        path.moveTo(from);
+        if (isStraightFirst && count % 8 == 7)
+            path.cubicTo({from.x + (to.x - from.x) / 3 + little(random), from.y + (to.y - from.y) / 3 + little(random)},
+                         {from.x + (to.x - from.x) / 1.5 + little(random), from.y + (to.y - from.y) / 1.5 + little(random)}, to);
+        else if (isStraightFirst)
+            path.cubicTo(some, near(some, from), to);
+        else if (isStraightLast)
+            path.cubicTo(near(some, to), some, to);
+        else
+            path.cubicTo(some, {x(random), y(random)}, to);
+        path.close();
+        SCOPED_TRACE(testing::Message() << count);
+
+        ASSERT_LE(largestDifference(rasterized(path, 16, 12), coveragesByCutting(flattened(path, {}, 300), 16, 12)), 4);
+    }
+}
+
+TEST(ExactArea, OfOutlinesThatAreLeftOpen) {
+    const Polygon first{{1, 1}, {5.5, 1}, {5, 4.25}}, second{{7, 2}, {9, 2.5}, {8, 5}};
+    Path path;
+    for (const Polygon* polygon : {&first, &second}) {
+        path.moveTo(polygon->at(0));
+        path.lineTo(polygon->at(1));
+        path.lineTo(polygon->at(2));
+    }
+
+    EXPECT_LE(largestDifference(rasterized(path, 12, 8), coveragesByCutting({first, second}, 12, 8)), 1);
+}
+
+TEST(ExactArea, OfWhatGoesOnFromWhereAClosedOutlineBegan) {
+    const Polygon first{{2, 2}, {6, 2}, {6, 6}}, second{{2, 2}, {8, 9}, {2, 9}};
+    Path path = closed(first);
+    path.lineTo({8, 9});
+    path.lineTo({2, 9});
+
+    EXPECT_LE(largestDifference(rasterized(path, 12, 10), coveragesByCutting({first, second}, 12, 10)), 1);
+}
+
+TEST(ExactArea, OfWhatTheRightSideCutsOff) {
+    const auto stripe = [](double height) { return closed({{1, 0}, {20, 0}, {20, height}, {1, height}}); };
+
+    EXPECT_THAT(rasterized(stripe(0.75), 4, 1), ElementsAre(ElementsAre(0, 191, 191, 191)));
+    EXPECT_THAT(rasterized(stripe(0.5), 4, 1), ElementsAre(ElementsAre(0, 128, 128, 128)));
+    EXPECT_THAT(rasterized(stripe(0.004), 4, 1), ElementsAre(ElementsAre(0, 1, 1, 1)));
+    EXPECT_THAT(rasterized(stripe(0.001), 4, 1), ElementsAre(ElementsAre(0, 0, 0, 0)));
+    Path twice = stripe(1);
+    for (const Point point : {Point{1, 0}, {20, 0}, {20, 1}, {1, 1}})
+        point == Point{1, 0} ? twice.moveTo(point) : twice.lineTo(point);
+    EXPECT_THAT(rasterized(twice, 4, 1), ElementsAre(ElementsAre(0, 255, 255, 255)));
+}
+
+TEST(ExactArea, OfNothingWhereAnOutlineIsBesideTheRectangle) {
+    const auto square = [](double x, double y) { return closed({{x, y}, {x + 3, y}, {x + 3, y + 3}, {x, y + 3}}); };
+    const Coverages nothing(2, std::vector<int>(4, 0));
+
+    for (const Point place : {Point{-3, 0}, {-5, 0}, {4, 0}, {9, 0}, {0, -3}, {0, -9}, {0, 2}, {0, 7}})
+        EXPECT_EQ(rasterized(square(place.x, place.y), 4, 2), nothing) << place.x << ", " << place.y;
+    EXPECT_EQ(sumOf(rasterized(square(0, 0), 4, 2)), 3 * 2);
+    EXPECT_EQ(sumOf(rasterized(square(-1, -1), 4, 2)), 2 * 2);
+    EXPECT_EQ(sumOf(rasterized(square(2, 1), 4, 2)), 2);
+}
+
 TEST(ExactArea, OfAPictureAfterAnotherOne) {
     CoverageRasterizer rasterizer;
     const Polygon first{{0, 0}, {15.3, 2.2}, {3.1, 11.8}}, second{{2.5, 9}, {7, 1.5}, {8.25, 8}};

@@ -118,6 +118,24 @@ TEST(NarrowFilePicture, IsKeptPixelForPixelWhereATileIsAsWideAsThePicture) {
     EXPECT_EQ(FilePicture::Reader(*picture).kept({0, 0, 100, 200}), pictures[0]);
 }
 
+TEST(SmallFilePicture, StaysInMemoryFromTheBeginning) {
+    const tests::TemporaryFolder folder;
+    const Picture pictures[] = {tests::makePicture(40, 30, pixelAt)};
+    const auto file = folder.write("small.picture", pictureFileBytes({40, 30}, pictures));
+    auto image = std::make_shared<graphics::Image>();
+    image->file = file;
+    Canvas canvas({40, 30});
+    canvas.context.image({}, {{0, 0}, {40, 30}}, image);
+    RasterSurface surface(std::make_shared<RasterPainter>());
+    surface.present(canvas.list, canvas.size, 1);
+
+    std::filesystem::remove(file);
+    surface.forgetShown();
+    surface.present(canvas.list, canvas.size, 1);
+
+    EXPECT_EQ(surface.picture(), pictures[0]);
+}
+
 TEST_F(FilePictureTest, HandsATileOutAgainWhereItIsWantedAgain) {
     const auto picture = open();
     FilePicture::Reader(*picture).tile(1, true);
@@ -151,6 +169,33 @@ TEST_F(FilePictureTest, IsPaintedAlikeForTheFirstTimeAndAgain) {
     }
 }
 
+TEST_F(FilePictureTest, IsForgottenWhereItIsPaintedOnce) {
+    tests::LogRecorder log;
+    const Canvas canvas = this->canvas();
+    RasterSurface surface(std::make_shared<RasterPainter>());
+    surface.present(canvas.list, canvas.size, 1);
+
+    removeFile();
+    surface.forgetShown();
+    surface.present(canvas.list, canvas.size, 1);
+
+    EXPECT_EQ(tests::totalInk(surface.picture()), 0);
+    EXPECT_THAT(log.messages(), testing::ElementsAre(testing::HasSubstr("some.picture cannot be read")));
+}
+
+TEST_F(FilePictureTest, MayBeTintedAndTurned) {
+    Canvas tinted({size.width, size.height}), turned({size.width, size.height});
+    auto tintedImage = std::make_shared<graphics::Image>(*image());
+    tintedImage->renderingMode = graphics::RenderingMode::tinted;
+    const geometry::Transform half{-1, 0, 0, -1, double(size.width), double(size.height)};
+    tinted.context.image({}, {{0, 0}, {size.width, size.height}}, tintedImage, tests::red);
+    turned.context.image(graphics::PaintState().transformedBy(half), {{0, 0}, {size.width, size.height}}, image());
+
+    EXPECT_EQ(tinted.image(), tests::filled(size.width, size.height, 0xFFFF0000));
+    EXPECT_EQ(turned.image(), tests::makePicture(size.width, size.height,
+                                                 [](int x, int y) { return pixelAt(size.width - 1 - x, size.height - 1 - y); }));
+}
+
 TEST_F(FilePictureTest, StaysInMemoryOnceItIsPaintedAgain) {
     const Canvas canvas = this->canvas();
     RasterSurface surface(std::make_shared<RasterPainter>());
@@ -180,6 +225,39 @@ TEST_F(FilePictureTest, IsThereWhenItComesIfItWasAhead) {
     surface.present(canvas().list, before.size, 1);
 
     EXPECT_EQ(surface.picture(), whole());
+}
+
+TEST_F(FilePictureTest, IsReadAheadWhereItWillBeSeen) {
+    const auto painter = std::make_shared<RasterPainter>();
+    RasterSurface surface(painter);
+    const geometry::Rect place{{-400, -100}, {size.width, size.height}};
+    const graphics::PaintState seen = graphics::PaintState().clippedTo({{0, 0}, {100, 80}});
+    Canvas before({100, 80}), after({100, 80});
+    before.context.fillRectangle({}, {{0, 0}, {100, 80}}, tests::white);
+    before.context.lookAhead([&] { before.context.image(seen, place, image()); });
+    after.context.image(seen, place, image());
+    surface.present(before.list, before.size, 1);
+
+    surface.prepareAhead();
+    painter->finishPreparing();
+    removeFile();
+    surface.present(after.list, after.size, 1);
+
+    EXPECT_EQ(surface.picture(), tests::part(whole(), 400, 100, 100, 80));
+}
+
+TEST_F(FilePictureTest, IsNotReadAheadWhereNothingIsShown) {
+    const auto painter = std::make_shared<RasterPainter>();
+    RasterSurface surface(painter);
+    const Canvas canvas = this->canvas();
+    surface.present(canvas.list, canvas.size, 1);
+    const std::size_t before = painter->pictureBytes();
+
+    surface.forgetShown();
+    surface.prepareAhead();
+    painter->finishPreparing();
+
+    EXPECT_EQ(painter->pictureBytes(), before);
 }
 
 TEST_F(FilePictureTest, IsPaintedAsFarAsItCanBeRead) {

@@ -253,6 +253,40 @@ TEST(FontCatalog, SharesAFileAmongItsWeights) {
     EXPECT_EQ(&firstShape(shapedBy(shaper, "a", faceOf("Sora", 900))), &firstShape(shapedBy(shaper, "a", faceOf("Sora", 850))));
 }
 
+TEST(FontCatalog, GivesALineTheUsualHeightWithoutAnyFont) {
+    tests::LogRecorder log;
+    const BareMachine machine;
+    RasterTextShaper shaper(machine.sourcesWithoutShippedFaces());
+
+    const ShapedRef text = shapedBy(shaper, "a", nullptr, 100);
+
+    EXPECT_NEAR(text->metrics[0].ascent, 97, 1e-6);
+    EXPECT_NEAR(text->metrics[0].descent, 24, 1e-6);
+}
+
+TEST(FontCatalog, AsksAgainForWhatNoFontHadOnceAFaceIsRegistered) {
+    tests::LogRecorder log;
+    const BareMachine machine;
+    RasterTextShaper shaper(machine.sources());
+    ASSERT_TRUE(firstShape(shapedBy(shaper, "\U0001F600")).picture.isNull());
+
+    shaper.registerFace("Layers", 400, testFonts / "Layers.ttf");
+
+    EXPECT_FALSE(firstShape(shapedBy(shaper, "\U0001F600")).picture.isNull());
+}
+
+// No font of a bare machine has the mark, which is a Tibetan one.
+TEST(FontCatalog, ShowsALetterWithoutTheMarkThatNoFontHas) {
+    tests::LogRecorder log;
+    const BareMachine machine;
+    RasterTextShaper shaper(machine.sources());
+
+    EXPECT_EQ(&firstShape(shapedBy(shaper, "Ж\u0F39", faceOf("Sora", 700))),
+              &firstShape(shapedBy(shaper, "Ж", faceOf("Inter", 700))));
+    EXPECT_EQ(&firstShape(shapedBy(shaper, "x\u0F39", faceOf("Sora", 700))),
+              &firstShape(shapedBy(shaper, "x", faceOf("Sora", 700))));
+}
+
 // --- Typefaces that are shown instead ---
 
 class TypefacesTest : public testing::Test {
@@ -315,4 +349,31 @@ TEST_F(TypefacesTest, AreAskedBeforeTheFacesThatAHostRegistered) {
     RasterTextShaper other;
 
     EXPECT_EQ(withBoth, widthOf(*shapedBy(other, "IIII", faceOf("Sora", 700))));
+}
+
+TEST_F(TypefacesTest, LeaveTheFacesThatAHostRegistered) {
+    shaper.registerFace("Own", 700, testFonts / "Weighty.ttf");
+    const double registered = widthOf(*shapedBy(shaper, "IIII", faceOf("Own", 700)));
+    const std::vector<graphics::Typefaces::File> files{{.family = "Brand", .weight = 700, .path = testFonts / "Layers.ttf"},
+                                                       {.family = "Brand", .weight = 400, .path = testFonts / "Layers.ttf"}};
+
+    for (int time = 0; time < 2; ++time) {
+        graphics::Typefaces::setCurrent({.files = files});
+        EXPECT_EQ(widthOf(*shapedBy(shaper, "IIII", faceOf("Own", 700))), registered);
+        graphics::Typefaces::setCurrent({});
+        EXPECT_EQ(widthOf(*shapedBy(shaper, "IIII", faceOf("Own", 700))), registered);
+    }
+    EXPECT_THAT(log.messages(), IsEmpty());
+}
+
+TEST_F(TypefacesTest, MayHaveWhatNoFontHadBefore) {
+    const BareMachine machine;
+    RasterTextShaper bare(machine.sources());
+    ASSERT_TRUE(firstShape(shapedBy(bare, "\U0001F600")).picture.isNull());
+
+    graphics::Typefaces::setCurrent({.files = {{.family = "Brand", .weight = 400, .path = testFonts / "Layers.ttf"}}});
+    EXPECT_FALSE(firstShape(shapedBy(bare, "\U0001F600")).picture.isNull());
+
+    graphics::Typefaces::setCurrent({});
+    EXPECT_TRUE(firstShape(shapedBy(bare, "\U0001F600")).picture.isNull());
 }

@@ -69,6 +69,26 @@ TEST(FontFile, ReadsPicturesOfPixels) {
     EXPECT_EQ(face.pictureFrame, (Rect{{0, -0.5}, {1, 0.5}}));
 }
 
+TEST(FontFile, TakesTheSmallestPicturesThatNeedNotBeEnlargedOrTheLargest) {
+    const GlyphShape among = shapeIn("Strikes.ttf", 1), below = shapeIn("Small.ttf", 1);
+
+    EXPECT_EQ(among.picture.width(), 160);
+    EXPECT_EQ(among.picture.height(), 80);
+    EXPECT_EQ(among.pictureFrame, (Rect{{0, -0.5}, {1, 0.5}}));
+    EXPECT_EQ(below.picture.width(), 100);
+    EXPECT_EQ(below.pictureFrame, (Rect{{0, -0.5}, {1, 0.5}}));
+}
+
+// As large as four emoji.
+TEST(FontFile, TakesNoPictureThatIsTooLargeForALine) {
+    EXPECT_EQ(shapeIn("Strikes.ttf", 2).picture.width(), 544);
+    EXPECT_EQ(shapeIn("Strikes.ttf", 3).picture.height(), 544);
+    EXPECT_TRUE(shapeIn("Strikes.ttf", 4).picture.isNull());
+    EXPECT_TRUE(shapeIn("Strikes.ttf", 5).picture.isNull());
+}
+
+TEST(FontFile, MakesPicturesOfLayersAsLargeAsTheyAreDrawn) { EXPECT_EQ(shapeIn("Layers.ttf", 1).picture.width(), 136); }
+
 TEST(FontFile, OutlivesNothingThatATextNeeds) {
     tests::ShapedRef text;
     {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <functional>
 #include <random>
 
 #include "Backends/Raster/PictureFile.hpp"
@@ -161,6 +162,16 @@ TEST_F(ImagePainting, ReportsAPictureThatCannotBeReadOnceAndPaintsNothing) {
     EXPECT_THAT(log.messages(), ElementsAre(HasSubstr("missing.png")));
 }
 
+TEST_F(ImagePainting, ReadsNoPictureThatCannotBeSeen) {
+    LogRecorder log;
+    Canvas canvas({20, 20});
+    canvas.context.image({}, {{30, 5}, {10, 10}}, image(path("missing.png")));
+    canvas.context.image(PaintState().fadedBy(0.001), {{5, 5}, {10, 10}}, image(path("missing.png")));
+
+    EXPECT_EQ(totalInk(canvas.image()), 0);
+    EXPECT_THAT(log.messages(), testing::IsEmpty());
+}
+
 TEST_F(ImagePainting, PaintsPicturesOfPixelsScaled) {
     writePicture(path("blue.png"), 2, 2, [](int, int) { return 0xFF0000FFu; });
     Canvas canvas({10, 10}, 2);
@@ -179,12 +190,54 @@ TEST_F(ImagePainting, PaintsBitmapsScaledAndBlended) {
     EXPECT_EQ(canvas.pixel(15, 5), 0x7F7FFFu);
 }
 
+TEST_F(ImagePainting, StretchesABitmapOneWay) {
+    Canvas wide({8, 4}), high({4, 8});
+    wide.context.bitmap({}, {{0, 0}, {8, 4}}, bitmap(4, 4, 0xFF00FF00));
+    high.context.bitmap({}, {{0, 0}, {4, 8}}, bitmap(4, 4, 0xFF00FF00));
+
+    for (int place = 0; place < 8; ++place) {
+        EXPECT_EQ(wide.pixel(place, 3), 0x00FF00u);
+        EXPECT_EQ(high.pixel(3, place), 0x00FF00u);
+    }
+}
+
+// And a little for the places of each.
+TEST_F(ImagePainting, CountsTheBytesOfWhatItRemembers) {
+    const auto bytesOf = [&](const std::function<void(graphics::PaintContext&)>& paint, int times = 1) {
+        rasterbackend::RasterPainter painter;
+        std::vector<rasterbackend::Pixel> pixels(100 * 100);
+        Canvas canvas({100, 100});
+        paint(canvas.context);
+        const rasterbackend::PixelRect window{0, 0, 100, 100};
+        for (int time = 0; time < times; ++time) painter.paint({pixels.data(), 100, {100, 100}}, canvas.list, 1, {&window, 1});
+        return painter.pictureBytes();
+    };
+    const auto isAbout = [](std::size_t bytes) { return testing::AllOf(testing::Ge(bytes), testing::Le(bytes + 500)); };
+    const auto shared = bitmap(60, 50, 0xFF112233);
+
+    EXPECT_EQ(bytesOf([](auto&) {}), 0u);
+    EXPECT_THAT(bytesOf([&](auto& context) { context.bitmap({}, {{0, 0}, {60, 50}}, shared); }, 3), isAbout(2 * 4 * 60 * 50));
+    EXPECT_THAT(bytesOf([&](auto& context) { context.bitmap({}, {{0, 0}, {30, 20}}, shared); }), isAbout(4 * (60 * 50 + 30 * 20)));
+    EXPECT_THAT(bytesOf([&](auto& context) { context.image({}, {{0, 0}, {40, 20}}, image(halfRed())); }), isAbout(4 * 40 * 20));
+    EXPECT_THAT(bytesOf([&](auto& context) {
+                    context.image({}, {{0, 0}, {40, 20}}, image(halfRed(), RenderingMode::tinted), red);
+                }),
+                testing::AllOf(testing::Ge(4u * 40 * 20 + 20 * 16), testing::Le(4u * 40 * 20 + 2500)));
+}
+
 TEST_F(ImagePainting, SurvivesABitmapWithoutItsPixels) {
     auto broken = bitmap(4, 4, 0xFF000000);
     broken->pixels.resize(3);
     Canvas canvas({10, 10});
     canvas.context.bitmap({}, {{0, 0}, {10, 10}}, broken);
-    canvas.context.bitmap({}, {{0, 0}, {10, 10}}, bitmap(0, 0, 0));
+    for (const auto& [width, height] : {std::pair{0, 0}, {0, 5}, {5, 0}, {-2, -2}}) {
+        // Its memory is there, but nothing counts.
+        auto nothing = bitmap(5, 5, 0xFF000000);
+        nothing->width = width;
+        nothing->height = height;
+        nothing->pixels.resize(std::size_t(width * height));
+        canvas.context.bitmap({}, {{0, 0}, {10, 10}}, nothing);
+    }
 
     EXPECT_EQ(totalInk(canvas.image()), 0);
 }

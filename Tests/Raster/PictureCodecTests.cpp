@@ -107,6 +107,19 @@ TEST(PictureCodec, RefusesFewBytesForManyPixels) {
     EXPECT_FALSE(claims(702, 10)); // 2808 bytes
 }
 
+// LZ4 takes at most 0x7E000000 bytes, here exactly as many as 32256 × 16384 pixels have.
+TEST(PictureCodec, RefusesTilesLargerThanLZ4Makes) {
+    const std::string tile(9'000'000, 'x');
+    const auto canHaveHeight = [&](std::uint32_t height) {
+        std::string bytes;
+        for (const std::uint32_t number : {32256u, height, 1u, std::uint32_t(tile.size())}) foundation::appendNumber(bytes, number);
+        return canBeRead(bytes + tile, {32256, int(height)});
+    };
+
+    EXPECT_TRUE(canHaveHeight(16384));
+    EXPECT_FALSE(canHaveHeight(16385));
+}
+
 TEST(PictureCodec, SaysWhatCannotBeDecompressed) {
     std::string bytes = compressed(smallPicture(0xFF123456));
     bytes.replace(16, std::string::npos, bytes.size() - 16, '\xFF');

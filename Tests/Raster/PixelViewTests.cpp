@@ -26,6 +26,7 @@ public:
     void setSize(geometry::Size newSize, geometry::PhysicalInsets) override {
         size = newSize;
         ++sizings;
+        if (whenSized) whenSized();
     }
     void touch(const host::Touch& touch) override {
         touches.push_back(touch);
@@ -41,6 +42,7 @@ public:
         graphics::PaintContext context(list);
         context.fillRectangle({}, {{0, 0}, size}, tests::white);
         context.fillRectangle({}, {{x, 0}, {1, 1}}, tests::red);
+        if (ahead) context.lookAhead([&] { context.image({}, {{0, 0}, size}, ahead); });
         if (whenPainted) whenPainted();
     }
     bool isAnimating() const override { return animates; }
@@ -60,7 +62,8 @@ public:
     double x = 0;
     bool animates = false;
     bool isSeen = false;
-    std::function<void()> handler, whenTouched, whenPainted;
+    graphics::ImageRef ahead;
+    std::function<void()> handler, whenSized, whenTouched, whenPainted;
 };
 
 class PixelViews : public testing::Test {
@@ -289,4 +292,86 @@ TEST_F(PixelViews, PaintsNothingIntoNoMemory) {
     view->setSize({});
 
     EXPECT_FALSE(paint());
+}
+
+TEST_F(PixelViews, HasAFrameDueBeforeItHasASize) {
+    PixelView fresh(std::make_shared<Square>());
+
+    EXPECT_EQ(fresh.nextFrameDelay_s(), 0);
+}
+
+TEST_F(PixelViews, TellsItsContentOfASizeOfNothingToo) {
+    view = std::make_unique<PixelView>(content);
+    view->setSize({});
+
+    EXPECT_EQ(content->sizings, 2);
+    EXPECT_EQ(content->size, (geometry::Size{0, 0}));
+}
+
+TEST_F(PixelViews, ShowsAFrameASecondAtLeast) {
+    paint();
+    content->move(1);
+
+    for (const double framesPerSecond : {0.5, 0.0, -60.0}) {
+        view->setRefreshRate(framesPerSecond);
+        EXPECT_EQ(view->nextFrameDelay_s(), 1) << framesPerSecond;
+    }
+}
+
+TEST_F(PixelViews, IsDueForWhatComesFirst) {
+    paint();
+    content->animates = true;
+    bed.loop().schedule(0.25, [] {});
+    EXPECT_DOUBLE_EQ(view->nextDueDelay_s().value(), 1.0 / 60);
+    view->setRefreshRate(1);
+    EXPECT_EQ(view->nextDueDelay_s(), 0.25);
+    bed.loop().runDueTurns();
+    bed.runFor(0.3);
+    EXPECT_NEAR(view->nextDueDelay_s().value(), 0.7, 1e-9);
+}
+
+TEST_F(PixelViews, PaintsNothingInsideItself) {
+    content->whenPainted = [this] {
+        EXPECT_FALSE(paint());
+        EXPECT_FALSE(view->repaint(buffer, 2));
+    };
+
+    EXPECT_TRUE(paint());
+    EXPECT_EQ(memory[0], 0xFFFF0000u);
+}
+
+TEST_F(PixelViews, ReadsAheadWhenItHasLookedAheadForASecond) {
+    paint();
+    EXPECT_EQ(view->nextDueDelay_s(), std::nullopt);
+
+    content->ahead = std::make_shared<graphics::Image>();
+    paint();
+    EXPECT_EQ(view->nextDueDelay_s(), 1);
+    bed.runFor(0.75);
+    paint();
+    EXPECT_EQ(view->nextDueDelay_s(), 0.25);
+
+    content->ahead = nullptr;
+    paint();
+    EXPECT_EQ(view->nextDueDelay_s(), std::nullopt);
+}
+
+TEST_F(PixelViews, ReadsNothingAheadOnceItIsGone) {
+    content->ahead = std::make_shared<graphics::Image>();
+    paint();
+    ASSERT_EQ(bed.loop().nextDueDelay_s(), 1);
+
+    view.reset();
+
+    EXPECT_EQ(bed.loop().nextDueDelay_s(), std::nullopt);
+}
+
+TEST_F(PixelViews, WantsNoFrameOnceItIsGone) {
+    int wishes = 0;
+    view->setFrameHandler([&] { ++wishes; });
+    content->whenSized = [this] { view.reset(); };
+    view->setSize({3, 2});
+
+    EXPECT_EQ(view, nullptr);
+    EXPECT_EQ(wishes, 0);
 }

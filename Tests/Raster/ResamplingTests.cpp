@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 #include "Tests/Raster/Pictures.hpp"
 
@@ -84,6 +85,25 @@ TEST(Resampling, InterpolatesBetweenTheCentresOfPixels) {
     std::vector<int> greys;
     for (int x = 0; x < 8; ++x) greys.push_back(channel(eight.row(0)[x], 0));
     EXPECT_THAT(greys, testing::ElementsAre(0, 0, 32, 96, 159, 223, 255, 255));
+}
+
+// Of 33 pixels, whose means lie a 66th of a shade below a half, or, where the last one is brighter, above it.
+TEST(Resampling, RoundsTheMeanToTheNearestShade) {
+    const auto evenGrey = [](int place) { return place < 16 ? 12 : 11; };
+    const auto unevenGrey = [](int place) { return place == 0 ? 255 : place < 32 ? 4 : 0; };
+    for (const auto& greyAt : {std::function<int(int)>(evenGrey), std::function<int(int)>(unevenGrey)})
+        for (const int more : {0, 1}) {
+            int sum = 0;
+            for (int place = 0; place < 33; ++place) sum += greyAt(place) + (place == 32) * more;
+            ASSERT_EQ(sum, 33 * 11 + 16 + more);
+            const auto pixelAt = [&](int x, int y) {
+                return 0xFF000000u | 0x010101u * Pixel(greyAt(x + y) + (x + y == 32) * more);
+            };
+
+            const Pixel expected = 0xFF000000u | 0x010101u * Pixel(11 + more);
+            EXPECT_EQ(resampled(makePicture(33, 1, pixelAt), 1, 1).row(0)[0], expected);
+            EXPECT_EQ(resampled(makePicture(1, 33, pixelAt), 1, 1).row(0)[0], expected);
+        }
 }
 
 TEST(Resampling, MayShrinkOneWayAndGrowTheOther) {

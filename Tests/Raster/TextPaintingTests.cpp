@@ -175,6 +175,39 @@ TEST(TextPainting, PaintsALineOfAnyLength) {
     EXPECT_GT(totalInk(part(canvas.image(), 80, 0, 20, 40)), 20);
 }
 
+// Painted are only those pieces of 256 letters that are in sight; alone, a piece is painted wherever it is.
+TEST(TextPainting, LeavesOutNoPieceOfALongLineThatIsInSight) {
+    std::string latin, hebrew;
+    for (int index = 0; index < 600; ++index) {
+        latin += "gjpqyHfW"[index % 8];
+        hebrew += std::string("\xD7") + char(0x90 + index % 27);
+    }
+    const TextRef texts[] = {shapedText(latin), shapedText(hebrew, 20, LayoutDirection::rightToLeft)};
+    for (const TextRef& text : texts) {
+        const bool isRightToLeft = &text != texts;
+        const std::uint32_t ends[] = {0, 256, 512, 600};
+        ASSERT_EQ(text->clusters.size(), 600u);
+        double border = 0;
+        std::vector<double> places{0};
+        for (int piece = 0; piece < 3; ++piece) {
+            const int index = isRightToLeft ? 2 - piece : piece;
+            places.push_back(border += widthOf(*text, ends[index], ends[index + 1]));
+        }
+        for (const double place : places)
+            for (const double offset : {-130.0, -105.0, -99.5, -90.0, -60.0, -10.0, -0.5, 3.0, 12.0, 25.0})
+                for (const double baseline : {-3.0, 30.0, 53.0}) {
+                    const double left = -place - offset;
+                    Canvas whole({100, 40}), pieces({100, 40});
+                    paintText(whole, text, {left, baseline});
+                    for (int piece = 0; piece < 3; ++piece) {
+                        const int index = isRightToLeft ? 2 - piece : piece;
+                        paintText(pieces, text, {left + places[std::size_t(piece)], baseline}, ends[index], ends[index + 1]);
+                    }
+                    EXPECT_TRUE(isSame(whole.image(), pieces.image())) << place << ", " << offset << ", " << baseline;
+                }
+    }
+}
+
 TEST(TextPainting, PaintsTextOfOtherShapersOnItsOwnPlaces) {
     headless::FixedTextShaper shaper;
     const graphics::StyledRun run{"iiW e\u0301", {.size = 20}, 0};

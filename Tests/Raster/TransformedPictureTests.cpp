@@ -108,6 +108,50 @@ TEST(TransformedPicture, LeavesNothingOutWhereItShrinksToLessThanHalf) {
     }
 }
 
+TEST(TransformedPicture, LeavesNothingOutWhereOnlyOneSideShrinks) {
+    Picture stripes = Picture::unwritten(60, 60);
+    for (const bool isNarrow : {true, false}) {
+        for (int y = 0; y < 60; ++y)
+            for (int x = 0; x < 60; ++x) stripes.row(y)[x] = (isNarrow ? x : y) % 2 ? 0xFFFFFFFFu : 0xFF000000u;
+        const Rect frame{{0, 0}, isNarrow ? geometry::Size{10, 60} : geometry::Size{60, 10}};
+        const Picture target = paintedOver(stripes, frame, Transform{});
+        for (int index = 1; index < 9; ++index) EXPECT_NEAR(target.row(isNarrow ? 5 : index)[isNarrow ? index : 5] & 0xFF, 128, 30);
+    }
+}
+
+TEST(TransformedPicture, IsOnlyInterpolatedWhereItShrinksToHalfAndMore) {
+    expectInterpolated(greys(40, 32), {{2, 3}, {20, 16}}, Transform::translation(0.25, 0.25));
+    expectInterpolated(greys(32, 26), {{2, 3}, {20, 16}}, Transform::translation(0.25, 0.25));
+}
+
+// A pixel of it is as wide as four of the source's, and only a half of that is seen.
+TEST(TransformedPicture, HasTheMeanOfAllWhereItShrinksToLessThanAPixel) {
+    Picture stripe = Picture::unwritten(4, 4);
+    for (int y = 0; y < 4; ++y)
+        for (int x = 0; x < 4; ++x) stripe.row(y)[x] = x < 2 ? 0xFF000000u : 0xFFFFFFFFu;
+    const Picture target = paintedOver(stripe, {{3.5, 2}, {0.5, 4}}, Transform{}, 0xFF000000u);
+
+    for (int y = 2; y < 6; ++y) EXPECT_NEAR(target.row(y)[3] & 0xFF, 64, 2);
+}
+
+TEST(TransformedPicture, FillsATargetThatIsSmaller) {
+    const Picture target = paintedOver(greys(40, 40), {{-8, -10}, {40, 40}}, Transform{});
+
+    for (int y = 0; y < 20; ++y)
+        for (int x = 0; x < 24; ++x) EXPECT_EQ(target.row(y)[x] & 0xFF, Pixel(greyAt(x + 8, y + 10))) << x << ", " << y;
+}
+
+// At a 256th of the way from one pixel to the next.
+TEST(TransformedPicture, RoundsToTheNearestShade) {
+    Picture pair = Picture::unwritten(2, 1);
+    for (const auto& [second, expected] : {std::pair{0xFF7F7F7Fu, 0u}, {0xFF808080u, 0x010101u}}) {
+        pair.row(0)[0] = 0xFF000000u;
+        pair.row(0)[1] = second;
+        const Picture target = paintedOver(pair, {{0, 0}, {2, 1}}, Transform::translation(-1.0 / 256, 0));
+        EXPECT_EQ(target.row(0)[0] & 0xFFFFFF, expected);
+    }
+}
+
 TEST(TransformedPicture, HasSmoothEdgesOverWhatIsThere) {
     Picture white = Picture::unwritten(2, 2);
     for (int y = 0; y < 2; ++y) std::fill_n(white.row(y), 2, 0xFFFFFFFFu);
@@ -126,7 +170,8 @@ TEST(TransformedPicture, IsNotThereWhereItHasNoRoom) {
     const Picture nothing = paintedOver(greys(4, 4), {{2, 2}, {0, 5}}, Transform{});
     const Picture flat = paintedOver(greys(4, 4), {{2, 2}, {5, 5}}, Transform{1, 2, 2, 4, 0, 0});
     const Picture none = paintedOver(Picture(), {{2, 2}, {5, 5}}, Transform{});
-    for (const Picture* target : {&nothing, &flat, &none})
+    const Picture inverse = paintedOver(greys(4, 4), {{12, 12}, {-5, -5}}, Transform{});
+    for (const Picture* target : {&nothing, &flat, &none, &inverse})
         for (int y = 0; y < 20; ++y)
             for (int x = 0; x < 24; ++x) EXPECT_EQ(target->row(y)[x], 0u);
 }

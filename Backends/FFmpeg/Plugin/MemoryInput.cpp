@@ -1,8 +1,6 @@
 #include "Backends/FFmpeg/Plugin/MemoryInput.hpp"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
 
 extern "C" {
 #include <libavformat/avio.h>
@@ -31,7 +29,7 @@ AVIOContext* MemoryInput::open(std::string_view bytes) {
 
 int MemoryInput::read(void* self, std::uint8_t* to, int size) {
     auto& input = *static_cast<MemoryInput*>(self);
-    if (size <= 0 || input.m_position >= input.m_bytes.size()) return AVERROR_EOF;
+    if (input.m_position >= input.m_bytes.size()) return AVERROR_EOF;
     const std::string_view rest = input.m_bytes.substr(input.m_position, std::size_t(size));
     std::copy(rest.begin(), rest.end(), to);
     input.m_position += rest.size();
@@ -40,12 +38,8 @@ int MemoryInput::read(void* self, std::uint8_t* to, int size) {
 
 std::int64_t MemoryInput::seek(void* self, std::int64_t offset, int whence) {
     auto& input = *static_cast<MemoryInput*>(self);
-    const auto size = std::int64_t(input.m_bytes.size());
-    if (whence & AVSEEK_SIZE) return size;
-    if (whence == SEEK_CUR) offset += std::int64_t(input.m_position);
-    if (whence == SEEK_END) offset += size;
-    if (offset < 0) return AVERROR(EINVAL);
-    // As in files, one may go past the end, where nothing can be read.
+    if (whence & AVSEEK_SIZE) return std::int64_t(input.m_bytes.size());
+    // Else FFmpeg always counts from the beginning. As in files, one may go past the end, where nothing can be read.
     input.m_position = std::size_t(offset);
     return offset;
 }

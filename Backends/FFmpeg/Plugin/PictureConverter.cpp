@@ -1,6 +1,5 @@
 #include "Backends/FFmpeg/Plugin/PictureConverter.hpp"
 
-#include <algorithm>
 #include <cmath>
 
 extern "C" {
@@ -22,7 +21,7 @@ PixelSize boundedSize(int width, int height) {
     const double pixels = static_cast<double>(width) * height;
     if (pixels <= PictureConverter::maximumPixels) return {width, height};
     const double factor = std::sqrt(PictureConverter::maximumPixels / pixels);
-    const auto bounded = [&](int length) { return std::max(2, int(length * factor / 2) * 2); };
+    const auto bounded = [&](int length) { return int(length * factor / 2) * 2; };
     return {bounded(width), bounded(height)};
 }
 
@@ -31,7 +30,6 @@ PixelSize boundedSize(int width, int height) {
 PictureConverter::~PictureConverter() { sws_freeContext(m_scaler); }
 
 std::shared_ptr<const graphics::Bitmap> PictureConverter::bitmapOf(const AVFrame& frame) {
-    if (frame.width <= 0 || frame.height <= 0) return nullptr;
     const auto [width, height] = boundedSize(frame.width, frame.height);
     // Not SWS_ACCURATE_RND: where no scaling is needed it turns white into 253 of 255, at nine times the cost.
     m_scaler = sws_getCachedContext(m_scaler, frame.width, frame.height, static_cast<AVPixelFormat>(frame.format), width, height,

@@ -161,11 +161,9 @@ double PictureStream::secondsOf(std::int64_t duration) const { return static_cas
 void PictureStream::seek(double time_s) {
     const std::int64_t start = m_stream->start_time == AV_NOPTS_VALUE ? 0 : m_stream->start_time;
     const auto stamp = static_cast<std::int64_t>((std::max(0.0, time_s) + secondsOf(start)) / av_q2d(m_stream->time_base));
-    if (av_seek_frame(m_format.get(), m_stream->index, stamp, AVSEEK_FLAG_BACKWARD) < 0)
-        av_seek_frame(m_format.get(), -1, 0, AVSEEK_FLAG_BYTE);
+    av_seek_frame(m_format.get(), m_stream->index, stamp, AVSEEK_FLAG_BACKWARD);
     avcodec_flush_buffers(m_codec.get());
     m_isDraining = false;
-    m_needsKey = false;
     m_lastTime_s = 0;
 }
 

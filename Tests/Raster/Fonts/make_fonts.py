@@ -4,6 +4,9 @@
 Weighty.ttf   a variable font: "I" is a stem, 100 units wide at weight 100 and 900 at weight 900; "Ì" the same, without a mark
 Layers.ttf    U+1F600 and U+2194 are a red square under a small blue one, U+2605 is a plain square, U+25D4 a corner under an arc
 Pixels.ttf    U+1F600 is a green picture of 32 × 16 pixels at 32 pixels per em
+Strikes.ttf   U+1F600 is a picture at 32, 160 and 300 pixels per em, as wide as an em and half as high; at 160 pixels U+1F601 and
+              U+1F602 are 544 pixels wide and high, U+1F603 and U+1F604 one more
+Small.ttf     U+1F600 is a picture at 32 and at 100 pixels per em
 All have 1000 units per em."""
 import pathlib
 import struct
@@ -83,21 +86,43 @@ def png(width, height, rgba):
             + chunk(b"IDAT", zlib.compress(rows)) + chunk(b"IEND", b""))
 
 
+def add_strikes(made, sizes):
+    """Green pictures: their sizes by pixels per em and by glyph."""
+    table = newTable("sbix")
+    table.version, table.flags, table.numStrikes, table.strikes = 1, 1, len(sizes), {}
+    for ppem, glyphs in sizes.items():
+        strike = table.strikes[ppem] = Strike(ppem=ppem, resolution=72)
+        strike.glyphs = {name: PictureGlyph(glyphName=name) for name in made.font.getGlyphOrder()}
+        for name, (width, height) in glyphs.items():
+            strike.glyphs[name] = PictureGlyph(glyphName=name, graphicType="png ", imageData=png(width, height, (0, 255, 0, 255)))
+    made.font["sbix"] = table
+
+
 def pixels():
     made = builder("Pixels", {"face": square(0, 0, 1000, 500)}, {0x1F600: "face"}, {"face": 1000})
-    strike = Strike(ppem=32, resolution=72)
-    strike.glyphs = {name: PictureGlyph(glyphName=name) for name in made.font.getGlyphOrder()}
-    strike.glyphs["face"] = PictureGlyph(glyphName="face", graphicType="png ", imageData=png(32, 16, (0, 255, 0, 255)))
-    table = newTable("sbix")
-    table.version, table.flags, table.numStrikes, table.strikes = 1, 1, 1, {32: strike}
-    made.font["sbix"] = table
+    add_strikes(made, {32: {"face": (32, 16)}})
+    return made
+
+
+def strikes():
+    sizes = {"face": None, "wide": (544, 1), "high": (1, 544), "wider": (545, 1), "higher": (1, 545)}
+    made = builder("Strikes", {name: square(0, 0, 1000, 500) for name in sizes}, {0x1F600 + n: name for n, name in enumerate(sizes)},
+                   {name: 1000 for name in sizes})
+    add_strikes(made, {ppem: {name: size or (ppem, ppem // 2) for name, size in sizes.items() if size is None or ppem == 160}
+                       for ppem in (32, 160, 300)})
+    return made
+
+
+def small():
+    made = builder("Small", {"face": square(0, 0, 1000, 500)}, {0x1F600: "face"}, {"face": 1000})
+    add_strikes(made, {ppem: {"face": (ppem, ppem // 2)} for ppem in (32, 100)})
     return made
 
 
 def main():
     folder = pathlib.Path(sys.argv[1])
     folder.mkdir(parents=True, exist_ok=True)
-    for name, make in (("Weighty", variable), ("Layers", layers), ("Pixels", pixels)):
+    for name, make in (("Weighty", variable), ("Layers", layers), ("Pixels", pixels), ("Strikes", strikes), ("Small", small)):
         make().save(folder / f"{name}.ttf")
 
 
