@@ -90,20 +90,17 @@ AuditTour::AuditTour(StartScreen screen, const Offers& offers, const Device& dev
     open();
 }
 
-std::size_t AuditTour::run(const AuditMatrix& matrix) {
-    std::size_t count = 0;
+void AuditTour::run(const AuditMatrix& matrix) {
     for (const geometry::Size size : matrix.sizes) {
         m_textSizes.clear();
         for (const ContentSizeCategory textSize : matrix.textSizes) {
             set(size, textSize, matrix.appearances.front());
             look(matrix);
-            count += matrix.appearances.size();
             const bool isAtAnEnd = textSize == matrix.textSizes.back() || textSize == ContentSizeCategory::large;
             if (size == matrix.sizes.front() && isAtAnEnd) m_inspector.steer(m_name);
         }
         holdTextSizes();
     }
-    return count;
 }
 
 // Each page of the header, and all that is further down. The store page has views only for what is in sight; the trees of the
@@ -120,7 +117,6 @@ void AuditTour::look(const AuditMatrix& matrix) {
         if (m_inspector.lookAtPainting(m_name, tree)) lookAtOtherAppearances(matrix, tree);
 
         if (turnPage()) {
-            isNewTree = true;
             tree = m_session.window().semanticTree();
             continue;
         }

@@ -43,8 +43,7 @@ class AuditTour {
 public:
     AuditTour(StartScreen screen, const Offers& offers, const Device& device, AuditLedger& ledger);
 
-    // Returns how many configurations there were.
-    std::size_t run(const AuditMatrix& matrix);
+    void run(const AuditMatrix& matrix);
     // The controls' identifiers in the first configuration.
     const std::set<std::string>& identifiers() const { return m_identifiers; }
 
