@@ -49,7 +49,10 @@ public:
 
 private:
     void open();
+    // Opens or closes all that can be.
+    void setExpanded(bool isExpanded);
     void look(const AuditMatrix& matrix);
+    void goToTop();
     void lookAtOtherAppearances(const AuditMatrix& matrix, const accessibility::SemanticNode& tree);
     bool turnPage();
     void noteTextSizes(const accessibility::SemanticNode& tree);
