@@ -210,7 +210,7 @@ void AuditTour::noteTextSizes(const SemanticNode& tree) {
 void AuditTour::holdTextSizes() {
     constexpr double rounding = 0.01;
     for (const auto& [key, sizes] : m_textSizes) {
-        if (sizes.usual == 0 || sizes.largest == 0 || sizes.largest > sizes.usual + rounding) continue;
+        if (sizes.largest == 0 || sizes.largest > sizes.usual + rounding) continue;
         m_ledger.add(m_name, {tooling::AuditRule::fixedSize, sizes.path,
                               "Text \"" + key.substr(key.find('\n') + 1) + "\" is never larger than at the usual text size",
                               sizes.identifier});

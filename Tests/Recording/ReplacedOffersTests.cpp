@@ -222,9 +222,11 @@ TEST_F(ReplacedStorePage, LeadsBackToThePaywall) {
     offers.referrer = Referrer{"Feed"};
     session.replaceOffers(offers);
 
-    tap("store.choosePlan");
-    driver.finishTransitions();
+    const auto tree = session.window().semanticTree();
+    accessibility::findByIdentifier(tree, "store.choosePlan")->activate();
 
+    EXPECT_TRUE(session.window().isTransitioning()) << "it goes at once";
+    driver.finishTransitions();
     EXPECT_THAT(chosen(), ElementsAre("plan.y"));
 }
 
