@@ -100,7 +100,6 @@ void AuditTour::run(const AuditMatrix& matrix) {
             if (size != matrix.sizes.front() || !isAtAnEnd) continue;
             // What is closed by itself as it comes into sight would not be told as pressed.
             setExpanded(false);
-            goToTop();
             m_inspector.steer(m_name);
         }
         holdTextSizes();
@@ -110,7 +109,6 @@ void AuditTour::run(const AuditMatrix& matrix) {
 // Each page of the header, and all that is further down. What comes into sight may close again. The store page has views only for
 // what is in sight; the trees of the others are whole wherever they are scrolled to.
 void AuditTour::look(const AuditMatrix& matrix) {
-    setExpanded(true);
     goToTop();
     m_page = 0;
     turnPage();

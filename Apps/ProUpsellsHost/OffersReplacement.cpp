@@ -34,7 +34,6 @@ std::vector<const SemanticNode*>::const_iterator chosenAmong(const std::vector<c
 
 // Also while another screen covers it.
 SemanticNode HostSession::paywallTree() {
-    m_window->semanticTree(); // lays out what has changed
     const auto shown = paywall();
     const uikit::UIView* const view = shown ? shown->viewIfLoaded() : nullptr;
     return view ? view->semanticNode({}) : SemanticNode{};

@@ -25,6 +25,15 @@ Trees momentsOf(StartScreen screen, geometry::Size size, const std::string& offe
     return trees;
 }
 
+// When each moment is pictured, on the tour's clock.
+std::map<std::string, double> timesOf(StartScreen screen, geometry::Size size) {
+    const Json json = Json::parse(tests::sampleOffersText());
+    GalleryTour tour(screen, readOffers(JsonCursor{json, "offers"}), {.size = size, .fonts = FontChoice::fixed});
+    std::map<std::string, double> times_s;
+    tour.run([&](const std::string& moment, uikit::UIWindow&) { times_s[moment] = runloop::MainRunLoop::main().now_s(); });
+    return times_s;
+}
+
 // The first node of which this is true, from the outside.
 template <class Predicate>
 const SemanticNode* firstWhere(const SemanticNode& node, const Predicate& isWanted) {
@@ -96,6 +105,35 @@ TEST(MomentsOfThePaywall, HaveEachPlanChosenOnceAndTheFirstOneInAllOthers) {
         EXPECT_EQ(isSelected(tree, "plan.pro.monthly"), moment == "plan pro.monthly") << moment;
         EXPECT_EQ(isSelected(tree, "plan.pro.yearly"), moment != "plan pro.monthly") << moment;
     }
+}
+
+// Indicators have faded, and titles have come. Pictures of strips that drift are held against those of earlier versions.
+TEST(MomentsOfEachScreen, ComeASecondAfterWhatLeadsToThemAndTwoAfterAPage) {
+    constexpr double precision_s = 1e-6;
+    const auto expectBetween = [](const std::map<std::string, double>& times_s, const char* before, const char* after,
+                                  double duration_s) {
+        EXPECT_NEAR(times_s.at(after) - times_s.at(before), duration_s, precision_s) << before << ", " << after;
+    };
+
+    const auto paywall = timesOf(StartScreen::paywall, {320, 240});
+    EXPECT_NEAR(paywall.at("page 1"), 0.5 + 1, precision_s);
+    expectBetween(paywall, "page 1", "plan pro.monthly", 1);
+    expectBetween(paywall, "turning", "page 2", 2);
+    expectBetween(paywall, "page 2", "page 3", 2);
+    expectBetween(paywall, "page 3", "page 4", 2);
+    expectBetween(paywall, "page 4", "further down", 1);
+    expectBetween(paywall, "further down", "further down 2", 1);
+
+    const auto comparison = timesOf(StartScreen::comparison, {375, 300});
+    expectBetween(comparison, "at first", "all open", 3);
+    expectBetween(comparison, "all open", "category Content And Assets", 1);
+    expectBetween(comparison, "category Content And Assets", "category Content And Assets 2", 1);
+
+    const auto store = timesOf(StartScreen::store, {375, 800});
+    expectBetween(store, "at first", "drifting", 4);
+    expectBetween(store, "drifting", "shelf ProIntroHeaderViewShelf", 1);
+    expectBetween(store, "shelf ProIntroHeaderViewShelf", "shelf BrandAssetsShelf", 1);
+    expectBetween(store, "shelf VideoImageLibrariesShelf", "end", 1);
 }
 
 TEST(MomentsOfThePaywall, HaveAllThatIsFurtherDown) {

@@ -231,9 +231,14 @@ TEST_F(ReplacedStorePage, LeadsBackToThePaywall) {
 }
 
 TEST_F(ReplacedStorePage, IsTheSamePageWhereOnlyPricesChange) {
+    const auto* const page = session.entry().presentedViewController();
     session.replaceOffers(offersOf(R"([{ "SKU": "m", "type": "monthly", "price": "$9" }])"));
 
     EXPECT_EQ(events.str(), "");
+    EXPECT_EQ(session.entry().presentedViewController(), page);
+    const auto& options = dynamic_cast<const VelaProStorePageViewController&>(*page).subscriptionsOptions();
+    ASSERT_EQ(options.size(), 1u);
+    EXPECT_EQ(options[0].price(), "$9");
 }
 
 TEST_F(ReplacedOffers, LetAStorePageArriveFirst) {

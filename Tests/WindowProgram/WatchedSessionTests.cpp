@@ -13,6 +13,7 @@
 #include "Apps/ProUpsellsWindow/ShownSession.hpp"
 #include "Backends/Qt/DesktopSettings.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
+#include "Tests/WindowProgram/Played.hpp"
 #include "Tests/WindowProgram/Program.hpp"
 
 namespace proupsells::hostprogram {
@@ -92,6 +93,7 @@ protected:
             status = session.run(*tests::program);
         }
         printed = output.text();
+        played = tests::playedLines(file);
         said = errors.text();
         const Json recorded = Json::parse(tests::bytesOf(file));
         for (const Json& input : recorded["inputs"])
@@ -104,7 +106,7 @@ protected:
         folder.write("offers.json", R"({"options": [{"SKU": "m", "type": "monthly", "price": "$14.99"}], "referrer": "Home"})");
     std::filesystem::path german = folder.write("de.lproj/Localizable.strings", "\"Close\" = \"Zu\";");
     int status = -1;
-    std::string printed, said;
+    std::string printed, said, played;
     std::vector<Json> changes; // of the device and the offers
 };
 
@@ -178,6 +180,7 @@ TEST_F(WatchedSession, ShowsOtherOffersAndSaysWhatIsWrongWithTranslations) {
     EXPECT_THAT(said, StartsWith(german.string() + ": /: "));
     EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1);
     EXPECT_THAT(printed, HasSubstr(R"("operation":"trackUpsellDismissed","referrer":"Feed")"));
+    EXPECT_EQ(played, printed);
 }
 
 TEST_F(WatchedSession, ShowsOtherTranslationsAndSaysWhatIsWrongWithOffers) {
