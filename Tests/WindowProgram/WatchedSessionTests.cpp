@@ -72,7 +72,8 @@ protected:
         arguments.device.size = {375, 700};
         arguments.device.scale = 1; // the screen's
         arguments.device.strings = isWatching ? SourceWatch::keptTranslations(folder.path()) : std::filesystem::path();
-        SourceWatch watch({offers, folder.path(), std::nullopt});
+        arguments.given.push_back("theme");
+        SourceWatch watch({offers, folder.path(), theme});
         const std::filesystem::path file = folder.path() / "recording.json";
         const WrittenTo output(std::cout), errors(std::cerr);
         {
@@ -105,6 +106,7 @@ protected:
     std::filesystem::path offers =
         folder.write("offers.json", R"({"options": [{"SKU": "m", "type": "monthly", "price": "$14.99"}], "referrer": "Home"})");
     std::filesystem::path german = folder.write("de.lproj/Localizable.strings", "\"Close\" = \"Zu\";");
+    std::filesystem::path theme = folder.write("theme.json", "{}");
     int status = -1;
     std::string printed, said, played;
     std::vector<Json> changes; // of the device and the offers
@@ -195,6 +197,18 @@ TEST_F(WatchedSession, ShowsOtherTranslationsAndSaysWhatIsWrongWithOffers) {
     EXPECT_THAT(changes, ElementsAre(Json{{"strings", {{"de", {{"Close", "Weg damit"}}}}}}));
     EXPECT_THAT(said, StartsWith(offers.string() + ": /: malformed JSON"));
     EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1);
+}
+
+TEST_F(WatchedSession, ShowsAnotherTheme) {
+    show({{"trackUpsellViewed",
+           [&](QWindow&) {
+               folder.write("theme.json", R"({"faces": {"text": "DejaVu Sans"}})");
+               folder.write("offers.json", "{");
+           }},
+          {"offers.json: /: ", [](QWindow&) {}},
+          closing});
+
+    EXPECT_THAT(changes, ElementsAre(Json{{"theme", {{"faces", {{"text", {{"family", "DejaVu Sans"}}}}}}}}));
 }
 
 // --- The end ---
