@@ -27,7 +27,8 @@ Json auditLanguage(const AuditSubject& subject, const std::string& locale) {
     return {{"entries", entries}, {"identifiers", identifiers}};
 }
 
-// Controls that another language has under other identifiers.
+} // namespace
+
 void compareIdentifiers(const Json& first, const Json& other, const Device& device, AuditLedger& ledger) {
     ledger.begin(device);
     for (const auto& [screen, identifiers] : other.items())
@@ -39,8 +40,6 @@ void compareIdentifiers(const Json& first, const Json& other, const Device& devi
                                 identifier.get<std::string>()});
         }
 }
-
-} // namespace
 
 // A process for each language: the comparison keeps the language of its first use, and all processors have something to do.
 AuditLedger auditOffers(const AuditSubject& subject) {

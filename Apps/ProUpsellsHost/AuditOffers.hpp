@@ -13,6 +13,10 @@ struct AuditSubject {
     AuditMatrix matrix;
 };
 
+// Adds the controls that another language, which the device has, has under other identifiers than the first. Both are arrays by the
+// names of screens; the first has all screens.
+void compareIdentifiers(const Json& first, const Json& other, const Device& device, AuditLedger& ledger);
+
 AuditLedger auditOffers(const AuditSubject& subject);
 
 } // namespace proupsells::hostprogram

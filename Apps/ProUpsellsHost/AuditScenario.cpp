@@ -1,15 +1,14 @@
 #include "Apps/ProUpsellsHost/AuditScenario.hpp"
 
-#include <cstdlib>
-#include <stdexcept>
+#include <array>
 
 #include <nlohmann/json.hpp>
 
 #include "Apps/ProUpsellsHost/AuditMatrix.hpp"
 #include "Apps/ProUpsellsHost/AuditTour.hpp"
 #include "Apps/ProUpsellsHost/JsonFile.hpp"
+#include "Apps/ProUpsellsHost/ParallelAnswers.hpp"
 #include "Apps/ProUpsellsHost/ScenarioRunner.hpp"
-#include "Platform/System/ParallelTasks.hpp"
 #include "Platform/System/PathText.hpp"
 
 namespace proupsells::hostprogram {
@@ -79,7 +78,7 @@ private:
         if (!m_session.isShowing()) return;
         const std::string screen(m_session.window().frontMostViewController()->typeName());
         const accessibility::SemanticNode tree = m_session.window().semanticTree();
-        m_inspector.lookAtTree(screen, tree, {&m_session.device().appearance, 1});
+        m_inspector.lookAtTree(screen, tree, std::array{m_session.device().appearance});
         m_inspector.lookAtPainting(screen, tree);
         m_inspector.listen(screen);
     }
@@ -93,20 +92,16 @@ private:
     ScreenInspector m_inspector;
 };
 
-// What is found in one language, or why it cannot be played, for the process that asked for it.
-std::string auditLanguage(Scenario scenario, const std::string& locale, const AuditMatrix& matrix) {
+// What is found in one language.
+Json auditLanguage(Scenario scenario, const std::string& locale, const AuditMatrix& matrix) {
     AuditLedger ledger;
     translate(scenario, locale);
-    try {
-        AuditedScenario played(scenario, ledger);
-        played.play();
-        played.vary(matrix);
-    } catch (const std::runtime_error& error) {
-        return Json{{"refusal", error.what()}}.dump(-1, ' ', false, Json::error_handler_t::replace);
-    }
+    AuditedScenario played(scenario, ledger);
+    played.play();
+    played.vary(matrix);
     Json entries = Json::array();
     for (const AuditEntry& entry : ledger.entries()) entries.push_back(toJson(entry));
-    return Json{{"entries", entries}}.dump(-1, ' ', false, Json::error_handler_t::replace);
+    return entries;
 }
 
 } // namespace
@@ -122,14 +117,9 @@ AuditLedger auditScenario(const std::filesystem::path& file, const std::optional
     const auto locales = orOnly(matrix.locales, scenario.device.locale);
     // The comparison keeps the language of its first use.
     const auto answers =
-        system::runInProcesses(locales.size(), [&](std::size_t i) { return auditLanguage(scenario, locales[i], matrix); });
-    for (const auto& answer : answers) {
-        // It has said why.
-        if (!answer) std::abort();
-        const Json found = Json::parse(*answer);
-        if (found.contains("refusal")) throw std::runtime_error(found["refusal"].get<std::string>());
-        for (const Json& entry : found["entries"]) ledger.merge(auditEntryOf(entry));
-    }
+        parallelAnswers(locales.size(), [&](std::size_t i) { return auditLanguage(scenario, locales[i], matrix); });
+    for (const Json& entries : answers)
+        for (const Json& entry : entries) ledger.merge(auditEntryOf(entry));
     return ledger;
 }
 

@@ -43,14 +43,16 @@ class AuditTour {
 public:
     AuditTour(StartScreen screen, const Offers& offers, const Device& device, AuditLedger& ledger);
 
-    // Returns how many configurations there were.
-    std::size_t run(const AuditMatrix& matrix);
+    void run(const AuditMatrix& matrix);
     // The controls' identifiers in the first configuration.
     const std::set<std::string>& identifiers() const { return m_identifiers; }
 
 private:
     void open();
+    // Opens or closes all that can be.
+    void setExpanded(bool isExpanded);
     void look(const AuditMatrix& matrix);
+    void goToTop();
     void lookAtOtherAppearances(const AuditMatrix& matrix, const accessibility::SemanticNode& tree);
     bool turnPage();
     void noteTextSizes(const accessibility::SemanticNode& tree);

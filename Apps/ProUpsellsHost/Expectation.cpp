@@ -1,7 +1,7 @@
 #include "Apps/ProUpsellsHost/Expectation.hpp"
 
-#include <algorithm>
 #include <cmath>
+#include <set>
 
 #include <nlohmann/json.hpp>
 
@@ -46,9 +46,9 @@ std::optional<std::string> contradiction(const ExpectStep& expected, const acces
     if (expected.onScreen && node->isOnScreen != *expected.onScreen)
         return in(differs("onScreen", node->isOnScreen, *expected.onScreen));
     if (expected.traits) {
-        auto found = traitNames(node->traits), wanted = *expected.traits;
-        std::sort(found.begin(), found.end());
-        std::sort(wanted.begin(), wanted.end());
+        const auto names = traitNames(node->traits);
+        const std::multiset<std::string> found(names.begin(), names.end()),
+            wanted(expected.traits->begin(), expected.traits->end());
         if (found != wanted) return in(differs("traits", found, wanted));
     }
     if (expected.frame && !isClose(node->frame, *expected.frame))

@@ -59,10 +59,8 @@ std::vector<tooling::GalleryChange> compare(const Gallery& before, const std::fi
 }
 
 std::string summaryOf(const Gallery& gallery, const std::filesystem::path& page) {
-    const auto counted = [](std::size_t count, const char* one, const char* many) {
-        return std::to_string(count) + " " + (count == 1 ? one : many);
-    };
-    std::string summary = system::textOf(page) + ": " + counted(gallery.pictures.size(), "picture", "pictures");
+    // Every screen has several moments.
+    const std::string summary = system::textOf(page) + ": " + std::to_string(gallery.pictures.size()) + " pictures";
     if (!gallery.changes) return summary;
     std::size_t changed = 0, appeared = 0, gone = 0;
     for (const auto& change : *gallery.changes) ++(!change.before ? appeared : !change.after ? gone : changed);

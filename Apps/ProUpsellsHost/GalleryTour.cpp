@@ -11,6 +11,8 @@ namespace {
 
 // After a tap, until nothing moves on its account.
 constexpr double rest_s = 1;
+// After a page was turned to: its title comes later than its picture.
+constexpr double turned_s = 2;
 
 const ReadingElement* pagerIn(const ReadingElement& reading) {
     for (const auto* element : accessibility::elementsOf(reading))
@@ -46,13 +48,11 @@ GalleryTour::GalleryTour(StartScreen screen, const Offers& offers, const Device&
 
 void GalleryTour::run(const Visit& visit) {
     m_visit = &visit;
-    m_visited.clear();
     switch (m_screen) {
     case StartScreen::paywall: visitPaywall(); break;
     case StartScreen::comparison: visitComparison(); break;
     case StartScreen::store: visitStore(); break;
     }
-    m_visit = nullptr;
 }
 
 void GalleryTour::visitPaywall() {
@@ -116,7 +116,7 @@ void GalleryTour::visitPlans() {
     const ReadingElement before = reading();
     for (const auto* element : accessibility::elementsOf(before)) {
         if (element->role != accessibility::Role::radioButton || !element->activate) continue;
-        if (element->isChecked.value_or(false))
+        if (element->isChecked == true)
             first = element->identifier;
         else
             others.push_back(element->identifier);
@@ -135,13 +135,13 @@ void GalleryTour::visitPlans() {
         choose(identifier);
         visit("plan " + identifier.substr(identifier.starts_with(prefix) ? prefix.size() : 0));
     }
-    if (!others.empty() && !first.empty()) choose(first);
+    if (!first.empty()) choose(first);
 }
 
 void GalleryTour::visitPages() {
     const ReadingElement before = reading();
     const auto* const pager = pagerIn(before);
-    if (!pager || pager->count < 2) return;
+    if (!pager) return;
 
     // The first one goes by itself.
     m_session.window().pointer(std::nullopt);
@@ -150,7 +150,7 @@ void GalleryTour::visitPages() {
     m_driver.wait(halfWay_s);
     visit("turning");
     restOnPages();
-    m_driver.wait(2 * rest_s);
+    m_driver.wait(turned_s);
     for (int shown = 2; shown <= pager->count; ++shown) {
         if (page() < shown) turnPage();
         visit("page " + std::to_string(shown));
@@ -177,7 +177,7 @@ void GalleryTour::visitRestOf(const std::string& identifier, const std::string& 
     const double step = 0.6 * size.height, lowest = 0.8 * size.height; // bars stand on the window's ends
     auto node = find(identifier);
     if (!node || node->frame.size.height <= lowest) return;
-    for (int part = 2; node && node->frame.maxY() > lowest; ++part) {
+    for (int part = 2; node->frame.maxY() > lowest; ++part) {
         m_session.window().scroll({size.width / 2, size.height / 2}, {0, std::min(step, node->frame.maxY() - lowest)});
         m_driver.wait(rest_s);
         const double before = node->frame.minY();
@@ -191,7 +191,7 @@ std::optional<SemanticNode> GalleryTour::find(const std::string& identifier) {
     std::optional<SemanticNode> found;
     const SemanticNode tree = m_session.window().semanticTree();
     forEachNode(tree, [&](const SemanticNode& node) {
-        if (!found && node.identifier == identifier) found = node;
+        if (node.identifier == identifier) found = node;
     });
     return found;
 }
@@ -216,11 +216,10 @@ int GalleryTour::page() {
     return pager ? pager->position : 0;
 }
 
-// The title comes later than its picture.
 void GalleryTour::turnPage() {
     const ReadingElement now = reading();
     if (const auto* const pager = pagerIn(now)) pager->adjust(1);
-    m_driver.wait(2 * rest_s);
+    m_driver.wait(turned_s);
 }
 
 void GalleryTour::restOnPages() {

@@ -21,6 +21,7 @@ public:
 
     GalleryTour(StartScreen screen, const Offers& offers, const Device& device);
 
+    // Once.
     void run(const Visit& visit);
 
 private:

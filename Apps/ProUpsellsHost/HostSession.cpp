@@ -59,7 +59,6 @@ void HostSession::installServices() {
     services.imageDecoder = std::make_shared<rasterbackend::RasterImageDecoder>();
     services.clipDecoder = m_clipDecoder;
     services.localeServices = std::make_shared<icubackend::IcuLocaleServices>();
-    m_services.reset();
     m_services = std::make_unique<host::Installation>(std::move(services));
 }
 

@@ -53,11 +53,11 @@ public:
     bool parse_error(std::size_t position, const std::string& token, const nlohmann::json::exception& error) override {
         constexpr int numberOverflow = 406; // nlohmann-json's documented number of the error
         if (error.id == numberOverflow) fail("the number " + token + " is out of range, expected a smaller one");
-        m_errorPosition = position;
+        m_errorOffset = position - 1; // it counts from 1
         return false;
     }
 
-    std::size_t errorPosition() const { return m_errorPosition; }
+    std::size_t errorOffset() const { return m_errorOffset; }
 
     std::string pointer() const {
         std::string result;
@@ -115,7 +115,7 @@ private:
     std::string m_file;
     std::vector<Level> m_levels;
     std::size_t m_valueCount = 0;
-    std::size_t m_errorPosition = 0;
+    std::size_t m_errorOffset = 0;
 };
 
 std::string readBytes(const std::filesystem::path& file) {
@@ -139,11 +139,11 @@ std::string readBytes(const std::filesystem::path& file) {
     return bytes;
 }
 
-std::string lineAndColumn(const std::string& text, std::size_t offset) {
+std::string lineAndColumn(std::string_view text, std::size_t offset) {
     std::size_t line = 1, column = 1;
-    for (std::size_t i = 0; i < offset && i < text.size(); ++i) {
+    for (const char c : text.substr(0, offset)) {
         ++column;
-        if (text[i] == '\n') {
+        if (c == '\n') {
             ++line;
             column = 1;
         }
@@ -160,9 +160,8 @@ Json readJsonFile(const std::filesystem::path& file) {
 
     Builder builder(system::textOf(file));
     if (!Json::sax_parse(bytes, &builder)) {
-        const std::size_t offset = builder.errorPosition() > 0 ? builder.errorPosition() - 1 : 0;
         throw InputError(system::textOf(file), builder.pointer(),
-                         "malformed JSON at " + lineAndColumn(bytes, offset) + ", expected well-formed JSON");
+                         "malformed JSON at " + lineAndColumn(bytes, builder.errorOffset()) + ", expected well-formed JSON");
     }
     return std::move(builder.result);
 }

@@ -34,7 +34,6 @@ std::vector<const SemanticNode*>::const_iterator chosenAmong(const std::vector<c
 
 // Also while another screen covers it.
 SemanticNode HostSession::paywallTree() {
-    m_window->semanticTree(); // lays out what has changed
     const auto shown = paywall();
     const uikit::UIView* const view = shown ? shown->viewIfLoaded() : nullptr;
     return view ? view->semanticNode({}) : SemanticNode{};
@@ -42,8 +41,7 @@ SemanticNode HostSession::paywallTree() {
 
 void HostSession::choosePlan(std::size_t index) {
     const SemanticNode tree = paywallTree();
-    const auto plans = plansIn(tree);
-    if (index < plans.size() && chosenAmong(plans) != plans.begin() + std::ptrdiff_t(index)) plans[index]->activate();
+    plansIn(tree).at(index)->activate();
 }
 
 // A page has the shelves, and tells where the person came from, as it was made with.
@@ -92,7 +90,7 @@ void HostSession::replaceOffers(const Offers& offers) {
     const auto newPlans = plansIn(after);
     const auto place =
         std::find_if(newPlans.begin(), newPlans.end(), [&](const SemanticNode* plan) { return plan->identifier == identifier; });
-    if (!identifier.empty() && place != newPlans.end()) choosePlan(std::size_t(place - newPlans.begin()));
+    if (place != newPlans.end()) choosePlan(std::size_t(place - newPlans.begin()));
 }
 
 } // namespace proupsells::hostprogram

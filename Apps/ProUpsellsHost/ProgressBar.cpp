@@ -1,8 +1,10 @@
 #include "Apps/ProUpsellsHost/ProgressBar.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <iostream>
 #include <string>
+#include <utility>
 
 #include "Platform/System/Terminal.hpp"
 
@@ -21,10 +23,16 @@ std::string timeText(double time_s) {
 
 } // namespace
 
-ProgressBar::ProgressBar(double total) : m_isSeen(system::errorsGoToTerminal()), m_total(total) { draw(); }
+ProgressBar::ProgressBar(double total)
+    : ProgressBar(total, system::errorsGoToTerminal() ? &std::cerr : nullptr, std::make_shared<runloop::RealClock>()) {}
+
+ProgressBar::ProgressBar(double total, std::ostream* terminal, std::shared_ptr<const runloop::Clock> clock)
+    : m_total(total), m_terminal(terminal), m_clock(std::move(clock)), m_begin_s(m_clock->now_s()) {
+    draw();
+}
 
 ProgressBar::~ProgressBar() {
-    if (m_isSeen) std::cerr << emptyLine << std::flush;
+    if (m_terminal) *m_terminal << emptyLine << std::flush;
 }
 
 void ProgressBar::advance(double done) {
@@ -33,18 +41,15 @@ void ProgressBar::advance(double done) {
 }
 
 void ProgressBar::draw() const {
-    if (!m_isSeen || m_total <= 0) return;
+    if (!m_terminal) return;
     constexpr int width = 32;
     const double share = std::min(1.0, m_done / m_total);
     const int filled = int(share * width);
     std::string line = emptyLine;
     for (int i = 0; i < width; ++i) line += i < filled ? "█" : "░";
     line += " " + std::to_string(int(share * 100)) + " %";
-    if (m_done > 0) {
-        const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - m_begin;
-        line += ", " + timeText(elapsed.count() * (1 - share) / share) + " left";
-    }
-    std::cerr << line << std::flush;
+    if (share > 0) line += ", " + timeText((m_clock->now_s() - m_begin_s) * (1 - share) / share) + " left";
+    *m_terminal << line << std::flush;
 }
 
 } // namespace proupsells::hostprogram

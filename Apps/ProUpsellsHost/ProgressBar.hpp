@@ -1,7 +1,10 @@
 // How far something has come, for a person who waits for it.
 #pragma once
 
-#include <chrono>
+#include <iosfwd>
+#include <memory>
+
+#include "Platform/RunLoop/Clock.hpp"
 
 namespace proupsells::hostprogram {
 
@@ -9,8 +12,10 @@ namespace proupsells::hostprogram {
 // at all where standard error is no terminal.
 class ProgressBar {
 public:
-    // `total` counts whatever tells how long it takes.
+    // `total`, more than 0, counts whatever tells how long it takes.
     explicit ProgressBar(double total);
+    // The same on any terminal, which must live longer, and by any clock. Nothing is seen where the terminal is null.
+    ProgressBar(double total, std::ostream* terminal, std::shared_ptr<const runloop::Clock> clock);
     ~ProgressBar();
     ProgressBar(const ProgressBar&) = delete;
 
@@ -19,10 +24,11 @@ public:
 private:
     void draw() const;
 
-    bool m_isSeen;
     double m_total;
     double m_done = 0;
-    std::chrono::steady_clock::time_point m_begin = std::chrono::steady_clock::now();
+    std::ostream* m_terminal;
+    std::shared_ptr<const runloop::Clock> m_clock;
+    double m_begin_s;
 };
 
 } // namespace proupsells::hostprogram

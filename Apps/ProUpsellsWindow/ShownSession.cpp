@@ -78,8 +78,6 @@ int ShownSession::run(qtbackend::Application& application) {
     m_lookAround.start(250ms);
     if (m_sources) m_lookAtSources.start(40ms);
     const int status = application.run();
-    m_lookAround.stop();
-    m_lookAtSources.stop();
     if (m_recording) m_recording->write();
     EndRequest::obey();
     return status;

@@ -1,4 +1,8 @@
 // What is said about bad input, word for word: people search for these lines, and machines show them beside the file.
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
 #include "Tests/HostProgram/Complaint.hpp"
 
 namespace proupsells::tests {
@@ -26,6 +30,55 @@ TEST(ComplaintsAboutJson, SayWhereItIsBroken) {
 TEST(ComplaintsAboutJson, AreNoneAboutAHundredLevels) {
     const std::string deep = std::string(99, '[') + std::string(99, ']');
     expectComplaintsOfRun({{"{\"offers\": " + deep + "}", "/offers: no offers stand here, expected an object or a file name"}});
+}
+
+// An object, an array and its numbers.
+TEST(ComplaintsAboutJson, AreNoneAboutTwoMillionValues) {
+    const auto offersOf = [](int count) {
+        std::string numbers = "0";
+        for (int number = 1; number < count; ++number) numbers += ",0";
+        return "{\"options\":[" + numbers + "]}";
+    };
+
+    expectComplaints({"lint", "FILE"},
+                     {{offersOf(1'999'998), "/options/0: the number 0 stands here, expected an object"},
+                      {offersOf(1'999'999), "/options/1999998: there are more than 2000000 values, expected fewer"}});
+}
+
+TEST(ComplaintsAboutFiles, AreNoneAbout64Megabytes) {
+    expectComplaints({"lint", "FILE"},
+                     {{std::string(64u << 20, ' '), "/: malformed JSON at line 1, column 67108865, expected well-formed JSON"},
+                      {std::string((64u << 20) + 1, ' '), "/: the file is larger than 64 MB, expected a smaller one"}});
+}
+
+// Files are read in parts of 65536 bytes.
+TEST(ComplaintsAboutFiles, AreNoneAboutAnyLength) {
+    for (const std::size_t length : {65535u, 65536u, 65537u, 131073u}) {
+        const Folder folder;
+        const std::string begin = "{\"options\":[]";
+        const auto file = folder.write("offers.json", begin + std::string(length - begin.size() - 1, ' ') + "}");
+        EXPECT_EQ(runProgram({"lint", file.string()}).errors, "") << length;
+    }
+}
+
+TEST(ComplaintsAboutFiles, SayThatTheyCannotBeRead) {
+    const Folder folder;
+    const std::string expected = ": /: the file cannot be read, expected a readable JSON file\n";
+    // Nobody opens a socket.
+    const std::string path = (folder.path() / "socket").string();
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    path.copy(address.sun_path, sizeof address.sun_path - 1);
+    const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    ASSERT_EQ(bind(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+    EXPECT_EQ(runProgram({"run", path}).errors, path + expected);
+    close(socket);
+
+    // Nothing stands where this one begins.
+    const std::string memory = "/proc/self/mem";
+    if (std::filesystem::exists(memory)) {
+        EXPECT_EQ(runProgram({"run", memory}).errors, memory + expected);
+    }
 }
 
 TEST(ComplaintsAboutFiles, SayWhatTheyAre) {

@@ -146,6 +146,51 @@ TEST(EvidenceCommand, WritesNothingAboutAScenarioThatCannotBePlayed) {
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "evidence.html"));
 }
 
+TEST(EvidenceCommand, ShowsTheScreenWhereItHasChangedAndTheAgreementWhereItWasMade) {
+    const Folder folder;
+    Json scenario = purchase();
+    const Json theme{{"colours", {{"velaBackground", {{"light", "#FFF8EE"}}}, {"marwickContentAccent", {{"light", "#7A3E9D"}}}}}};
+    scenario["steps"] = {{{"tap", "Subscribe Now"}}, {{"wait", 0}}, {{"set", {{"theme", theme}}}}, {{"send", "cancel"}}};
+    scenario["offers"]["options"].erase(0);
+    writeEvidence(folder, scenario);
+    const std::string html = bytesOf(folder.path() / "evidence.html");
+    std::vector<std::string> moments;
+    for (std::size_t at = html.find("<section"); at != std::string::npos; at = html.find("<section", at + 1)) {
+        const std::string moment = html.substr(at, html.find("</section>", at) - at);
+        const auto has = [&](const char* words) { return moment.find(words) != std::string::npos; };
+        moments.push_back(std::string(has("moment agreed") ? "agreed " : "") + (has("didContinueWith") ? "told " : "") +
+                          (has("<img")                          ? "shown"
+                           : has("The screen has not changed.") ? "unchanged"
+                           : has("The screen has gone.")        ? "gone"
+                                                                : ""));
+    }
+
+    // A theme changes pixels and nothing in the tree.
+    EXPECT_THAT(moments, testing::ElementsAre("shown", "agreed told unchanged", "unchanged", "shown", "gone"));
+}
+
+TEST(EvidenceCommand, IsWrittenWhereAnExpectationDoesNotHoldToo) {
+    const Folder folder;
+    Json scenario = purchase();
+    scenario["steps"] = {{{"expect", {{"absent", "close"}}}}};
+
+    const Outcome outcome = writeEvidence(folder, scenario);
+
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_THAT(outcome.errorLines(), SizeIs(1));
+    EXPECT_THAT(bytesOf(folder.path() / "evidence.html"), HasSubstr(outcome.output.substr(0, 64)));
+}
+
+TEST(EvidenceCommand, SaysThatItCannotWriteBeforeItPlays) {
+    const Folder folder;
+    Json scenario = purchase();
+    scenario["steps"].push_back({{"tap", "Buy"}});
+    const std::string file = (folder.path() / "nowhere" / "evidence.html").string();
+
+    EXPECT_EQ(runProgram({"evidence", folder.write("scenario.json", scenario).string(), "--out", file}).errors,
+              file + ": /: the file cannot be written, expected a place where one can be\n");
+}
+
 TEST(EvidenceCommand, SaysInOneLineThatItCannotWrite) {
     const Folder folder;
     const auto scenario = folder.write("scenario.json", purchase());

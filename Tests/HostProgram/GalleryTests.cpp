@@ -142,6 +142,16 @@ TEST_F(GalleryCommand, NamesPicturesAfterWhatTheyShow) {
     EXPECT_EQ(pictures("out", "plan " + sku + "2")[0][tree], plan + "-2.txt");
 }
 
+TEST_F(GalleryCommand, NamesPicturesInPlainCharactersAlone) {
+    Json offers = sampleOffers();
+    offers["options"][1]["SKU"] = "AMZamz059@[`{/:~ \u00fc!";
+
+    gallery("out", {folder.write("offers.json", offers).string()});
+
+    EXPECT_EQ(pictures("out", "plan AMZamz059@[`{/:~ \u00fc!")[0][tree],
+              "pictures/en/paywall-320x568-large-light-plan-amzamz059-----------.txt");
+}
+
 TEST_F(GalleryCommand, ComesOutTheSameAgain) {
     matrix["screens"] = {"paywall", "comparison", "store"};
 
@@ -198,6 +208,10 @@ TEST_F(GalleryCommand, SaysWhatAnotherOfferHasChanged) {
     EXPECT_EQ(bytesOf(path("new/" + change["before"][file].get<std::string>())),
               bytesOf(path("old/" + pictures("old", "page 1")[0][file].get<std::string>())));
     EXPECT_NE(change["before"][digest], change["after"][digest]);
+    for (const Column column : {file, tree})
+        EXPECT_EQ(change["before"][column], "before/" + pictures("old", "page 1")[0][column].get<std::string>());
+    EXPECT_EQ(change["before"][width], 320);
+    EXPECT_EQ(change["before"][height], 568);
 }
 
 TEST_F(GalleryCommand, SaysWhichPicturesAreNewAndGone) {

@@ -78,6 +78,15 @@ TEST(WrongArguments, AreComplainedAboutInOneLine) {
     }
 }
 
+TEST(WrongArguments, AreThoseThatNoCommandTakes) {
+    for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{{"fly"}, {"run"}, {"texts", "--fast"}}) {
+        const std::string line = runProgram(arguments).errors;
+
+        EXPECT_THAT(line, testing::StartsWith("command line: /: ")) << arguments.front();
+        EXPECT_THAT(line, testing::EndsWith(", expected arguments as `proupsells --help` lists them\n")) << arguments.front();
+    }
+}
+
 TEST(WrongArguments, AreWhatCannotGoTogether) {
     const Folder folder;
     const std::string scenario = folder.write("scenario.json", Json{{"offers", sampleOffers()}}).string();

@@ -42,6 +42,19 @@ TEST(RecordedScenario, LetsNoTimePassWhileSomethingIsPresented) {
 
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
     EXPECT_THAT(outcome.events("dismiss"), IsEmpty());
+    EXPECT_THAT(timesOf(outcome.events()), testing::Each(testing::Le(0.2)));
+}
+
+TEST(RecordedScenario, ReadsTranslationsOfSeveralLanguagesInAnyOrder) {
+    Json strings = Json::object();
+    for (const char* const language : {"fr", "de", "nl", "es"})
+        strings[language] = {{"Subscribe Now", "in " + std::string(language)}};
+    for (const auto& [language, texts] : strings.items()) {
+        const Json device{{"locale", language}, {"strings", strings}};
+        const Json screen = dumpOf(
+            {{"device", device}, {"steps", Json::parse(R"([{"tap": {"identifier": "plan.pro.monthly"}}, {"dump": "screen"}])")}});
+        EXPECT_EQ(find(screen, "subscribe")["label"], "in " + language);
+    }
 }
 
 TEST(RecordedScenario, EndsWhereTheLastInputIs) {

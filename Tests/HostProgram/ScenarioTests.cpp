@@ -271,6 +271,19 @@ TEST(Scenario, SnapshotsHaveThePixelsOfTheDevice) {
     EXPECT_EQ(events[1]["pixels"], Json({375, 667}));
 }
 
+TEST(Scenario, SnapshotsThatCannotBeWrittenEndTheRun) {
+    const Folder folder;
+    const auto file =
+        folder.write("scenario.json", Json{{"offers", sampleOffers()}, {"steps", {{{"wait", 0}}, {{"snapshot", "a.png"}}}}});
+    const auto taken = folder.write("taken", std::string("no folder"));
+
+    const Outcome outcome = runProgram({"run", file.string(), "--out", taken.string()});
+
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.errors, file.string() + ": /steps/1/snapshot: \"" + (taken / "a.png").string() +
+                                  "\" cannot be written, expected a folder that can be written to\n");
+}
+
 TEST(Scenario, FileNamesAreUtf8) {
     const Folder folder;
     folder.write("Angebote \u00FC.json", sampleOffers());
@@ -316,6 +329,19 @@ TEST(Scenario, TenThousandOptionsStayUsable) {
 
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
     EXPECT_EQ(outcome.events("delegate")[0]["option"]["SKU"], "9999");
+}
+
+TEST(HostProgram, ShowNeedsTheProgramThatHasWindowsBesideIt) {
+    const Folder folder;
+    const auto alone = folder.path() / "proupsells";
+    std::filesystem::copy(builtProgram, alone);
+
+    const Outcome outcome = runProgram({"show"}, alone);
+
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.errors, (folder.path() / "proupsells-window").string() +
+                                  ": /: " + std::make_error_code(std::errc::no_such_file_or_directory).message() +
+                                  ", expected the program that has windows\n");
 }
 
 TEST(HostProgram, ShowSaysWhereThereIsNoDisplay) {

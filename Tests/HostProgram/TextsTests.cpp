@@ -21,6 +21,7 @@ Json listedTexts() { return Json::parse(runProgram({"texts", "--format", "json"}
 TEST(TextsCommand, ListsKeysWithCommentsAndScreens) {
     const Json texts = listedTexts();
 
+    EXPECT_THAT(runProgram({"texts", "--format", "json"}).output, StartsWith("{\n  \"texts\": [\n    {\n      \"key\": \""));
     EXPECT_THAT(texts, Contains(Json({{"key", "Pro"},
                                       {"comment", "Header denoting offerings from the Pro subscription"},
                                       {"screen", "Comparison"}})));

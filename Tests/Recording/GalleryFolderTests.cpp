@@ -5,6 +5,8 @@
 #include <functional>
 #include <stdexcept>
 
+#include <sys/resource.h>
+
 #include "Apps/ProUpsellsHost/GalleryFolder.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
 
@@ -86,6 +88,20 @@ TEST_F(FolderOfAGallery, IsRefusedWhereThereAreOtherThings) {
     for (const char* name : {"mine", "notes", "linked"})
         EXPECT_EQ(complaintOf([&] { GalleryFolder(path(name)); }),
                   path(name).string() + ": /: the folder holds other things than a gallery" + isExpected);
+}
+
+TEST_F(FolderOfAGallery, IsRefusedWhereItCannotBeRead) {
+    fs::create_directory(path("out"));
+    rlimit usual{};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &usual), 0);
+    const rlimit none{0, usual.rlim_max};
+    std::string complaint;
+    // Nobody opens anything now.
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+    complaint = complaintOf([&] { GalleryFolder(path("out")); });
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &usual), 0);
+
+    EXPECT_EQ(complaint, path("out").string() + ": /: the folder cannot be read" + isExpected);
 }
 
 TEST_F(FolderOfAGallery, WritesThroughNoLinkAndOverNoFolder) {

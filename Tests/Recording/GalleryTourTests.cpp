@@ -17,12 +17,21 @@ namespace {
 
 using Trees = std::map<std::string, SemanticNode>;
 
-Trees momentsOf(StartScreen screen, geometry::Size size) {
-    const Json json = Json::parse(tests::sampleOffersText());
+Trees momentsOf(StartScreen screen, geometry::Size size, const std::string& offersText = tests::sampleOffersText()) {
+    const Json json = Json::parse(offersText);
     GalleryTour tour(screen, readOffers(JsonCursor{json, "offers"}), {.size = size, .fonts = FontChoice::fixed});
     Trees trees;
     tour.run([&](const std::string& moment, uikit::UIWindow& window) { trees[moment] = window.semanticTree(); });
     return trees;
+}
+
+// When each moment is pictured, on the tour's clock.
+std::map<std::string, double> timesOf(StartScreen screen, geometry::Size size) {
+    const Json json = Json::parse(tests::sampleOffersText());
+    GalleryTour tour(screen, readOffers(JsonCursor{json, "offers"}), {.size = size, .fonts = FontChoice::fixed});
+    std::map<std::string, double> times_s;
+    tour.run([&](const std::string& moment, uikit::UIWindow&) { times_s[moment] = runloop::MainRunLoop::main().now_s(); });
+    return times_s;
 }
 
 // The first node of which this is true, from the outside.
@@ -32,6 +41,12 @@ const SemanticNode* firstWhere(const SemanticNode& node, const Predicate& isWant
     for (const SemanticNode& child : node.children)
         if (const SemanticNode* found = firstWhere(child, isWanted)) return found;
     return nullptr;
+}
+
+template <class Use>
+void forEachCircle(const SemanticNode& node, const Use& use) {
+    if (node.type == "Circle") use(node);
+    for (const SemanticNode& child : node.children) forEachCircle(child, use);
 }
 
 double leftOf(const SemanticNode& tree, const std::string& image) {
@@ -92,6 +107,35 @@ TEST(MomentsOfThePaywall, HaveEachPlanChosenOnceAndTheFirstOneInAllOthers) {
     }
 }
 
+// Indicators have faded, and titles have come. Pictures of strips that drift are held against those of earlier versions.
+TEST(MomentsOfEachScreen, ComeASecondAfterWhatLeadsToThemAndTwoAfterAPage) {
+    constexpr double precision_s = 1e-6;
+    const auto expectBetween = [](const std::map<std::string, double>& times_s, const char* before, const char* after,
+                                  double duration_s) {
+        EXPECT_NEAR(times_s.at(after) - times_s.at(before), duration_s, precision_s) << before << ", " << after;
+    };
+
+    const auto paywall = timesOf(StartScreen::paywall, {320, 240});
+    EXPECT_NEAR(paywall.at("page 1"), 0.5 + 1, precision_s);
+    expectBetween(paywall, "page 1", "plan pro.monthly", 1);
+    expectBetween(paywall, "turning", "page 2", 2);
+    expectBetween(paywall, "page 2", "page 3", 2);
+    expectBetween(paywall, "page 3", "page 4", 2);
+    expectBetween(paywall, "page 4", "further down", 1);
+    expectBetween(paywall, "further down", "further down 2", 1);
+
+    const auto comparison = timesOf(StartScreen::comparison, {375, 300});
+    expectBetween(comparison, "at first", "all open", 3);
+    expectBetween(comparison, "all open", "category Content And Assets", 1);
+    expectBetween(comparison, "category Content And Assets", "category Content And Assets 2", 1);
+
+    const auto store = timesOf(StartScreen::store, {375, 800});
+    expectBetween(store, "at first", "drifting", 4);
+    expectBetween(store, "drifting", "shelf ProIntroHeaderViewShelf", 1);
+    expectBetween(store, "shelf ProIntroHeaderViewShelf", "shelf BrandAssetsShelf", 1);
+    expectBetween(store, "shelf VideoImageLibrariesShelf", "end", 1);
+}
+
 TEST(MomentsOfThePaywall, HaveAllThatIsFurtherDown) {
     const Trees trees = momentsOf(StartScreen::paywall, {320, 568});
 
@@ -99,6 +143,84 @@ TEST(MomentsOfThePaywall, HaveAllThatIsFurtherDown) {
     EXPECT_TRUE(control(trees.at("end"), "restorePurchases").isOnScreen);
     EXPECT_LT(control(trees.at("further down"), "subscribe").frame.minY(), control(trees.at("page 1"), "subscribe").frame.minY());
     EXPECT_FALSE(momentsOf(StartScreen::paywall, {375, 1400}).contains("further down"));
+}
+
+// The header turns by itself after some seconds, but for a pointer that rests on it.
+TEST(MomentsOfThePaywall, HaveTheFirstPageHoweverManyPlansThereAre) {
+    Json offers{{"options", Json::array()}};
+    for (int plan = 1; plan <= 9; ++plan)
+        offers["options"].push_back({{"SKU", std::to_string(plan)}, {"type", "monthly"}, {"price", "$" + std::to_string(plan)}});
+
+    int count = 0;
+    for (const auto& [moment, tree] : momentsOf(StartScreen::paywall, {375, 800}, offers.dump())) {
+        if (!moment.starts_with("plan ")) continue;
+        ++count;
+        EXPECT_EQ(control(tree, "carousel.pageControl").value, "page 1 of 4") << moment;
+        for (int plan = 1; plan <= 9; ++plan)
+            EXPECT_EQ(isSelected(tree, "plan." + std::to_string(plan)), moment == "plan " + std::to_string(plan)) << moment;
+    }
+    EXPECT_EQ(count, 8);
+}
+
+TEST(MomentsOfThePaywall, HavePlansThatHaveBeenChosenForAWhile) {
+    const Trees trees = momentsOf(StartScreen::paywall, {375, 800});
+    const auto circlesOf = [&](const char* moment, const char* plan) {
+        std::vector<std::string> circles;
+        forEachCircle(control(trees.at(moment), plan), [&](const SemanticNode& circle) {
+            circles.push_back(std::to_string(circle.opacity) + " " + std::to_string(circle.scale.value_or(1)));
+        });
+        return circles;
+    };
+
+    const auto chosen = circlesOf("page 1", "plan.pro.yearly"), others = circlesOf("page 1", "plan.pro.monthly");
+    ASSERT_NE(chosen, others);
+    EXPECT_EQ(circlesOf("plan pro.monthly", "plan.pro.monthly"), chosen);
+    EXPECT_EQ(circlesOf("plan pro.monthly", "plan.pro.yearly"), others);
+    EXPECT_EQ(circlesOf("turning", "plan.pro.yearly"), chosen);
+    EXPECT_EQ(circlesOf("turning", "plan.pro.monthly"), others);
+}
+
+TEST(MomentsOfThePaywall, HaveAllPartsOfWhatIsFurtherDownWithoutTurningThePage) {
+    const Trees trees = momentsOf(StartScreen::paywall, {320, 240});
+
+    ASSERT_TRUE(trees.contains("further down") && trees.contains("further down 2") && trees.contains("further down 3"));
+    EXPECT_FALSE(trees.contains("further down 1") || trees.contains("further down 0"));
+    EXPECT_LT(control(trees.at("further down 2"), "subscribe").frame.minY(),
+              control(trees.at("further down"), "subscribe").frame.minY());
+    for (const auto& [moment, tree] : trees) {
+        if (!moment.starts_with("further down")) continue;
+        EXPECT_NEAR(leftOf(tree, "paywallHeaderD"), leftOf(trees.at("page 4"), "paywallHeaderD"), 20) << moment;
+    }
+}
+
+TEST(MomentsOfTheComparison, BeginAgainAtTheTopOnceAllIsClosed) {
+    const Trees trees = momentsOf(StartScreen::comparison, {375, 260});
+
+    const std::string first = "comparison.category.Content And Assets";
+    EXPECT_EQ(control(trees.at("all closed"), first).frame.minY(), control(trees.at("at first"), first).frame.minY());
+    EXPECT_LT(control(trees.at("end"), first).frame.minY(), control(trees.at("at first"), first).frame.minY());
+}
+
+// What is higher than the window: by six tenths of it, until its end stands above the lowest fifth.
+TEST(MomentsOfTheComparison, HaveTheRestOfWhatIsHigherThanTheWindow) {
+    constexpr double height = 300, step = 0.6 * height, lowest = 0.8 * height;
+    const Trees trees = momentsOf(StartScreen::comparison, {375, height});
+    const std::string category = "category Content And Assets";
+    const auto frameAt = [&](const std::string& moment) {
+        return control(trees.at(moment), "comparison.category.Content And Assets").frame;
+    };
+
+    ASSERT_TRUE(trees.contains(category + " 2"));
+    geometry::Rect frame = frameAt(category);
+    int part = 2;
+    for (; trees.contains(category + " " + std::to_string(part)); ++part) {
+        const geometry::Rect next = frameAt(category + " " + std::to_string(part));
+        EXPECT_NEAR(next.minY(), frame.minY() - std::min(step, frame.maxY() - lowest), 1e-6) << part;
+        frame = next;
+    }
+    EXPECT_GE(part, 4);
+    EXPECT_NEAR(frame.maxY(), lowest, 1e-6);
+    EXPECT_FALSE(momentsOf(StartScreen::comparison, {375, 2000}).contains(category + " 2"));
 }
 
 TEST(MomentsOfTheComparison, HaveAllCategoriesOpenAndAllClosed) {

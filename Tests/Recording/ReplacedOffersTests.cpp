@@ -222,16 +222,23 @@ TEST_F(ReplacedStorePage, LeadsBackToThePaywall) {
     offers.referrer = Referrer{"Feed"};
     session.replaceOffers(offers);
 
-    tap("store.choosePlan");
-    driver.finishTransitions();
+    const auto tree = session.window().semanticTree();
+    accessibility::findByIdentifier(tree, "store.choosePlan")->activate();
 
+    EXPECT_TRUE(session.window().isTransitioning()) << "it goes at once";
+    driver.finishTransitions();
     EXPECT_THAT(chosen(), ElementsAre("plan.y"));
 }
 
 TEST_F(ReplacedStorePage, IsTheSamePageWhereOnlyPricesChange) {
+    const auto* const page = session.entry().presentedViewController();
     session.replaceOffers(offersOf(R"([{ "SKU": "m", "type": "monthly", "price": "$9" }])"));
 
     EXPECT_EQ(events.str(), "");
+    EXPECT_EQ(session.entry().presentedViewController(), page);
+    const auto& options = dynamic_cast<const VelaProStorePageViewController&>(*page).subscriptionsOptions();
+    ASSERT_EQ(options.size(), 1u);
+    EXPECT_EQ(options[0].price(), "$9");
 }
 
 TEST_F(ReplacedOffers, LetAStorePageArriveFirst) {

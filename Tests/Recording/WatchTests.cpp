@@ -227,6 +227,11 @@ TEST_F(Keys, TurnTheDirectionRound) {
 
 TEST_F(Keys, StepTheTextSizeUpToItsEnds) {
     EXPECT_EQ(press(U'+').textSize, graphics::ContentSizeCategory::extraLarge);
+    EXPECT_EQ(press(U'=').textSize, graphics::ContentSizeCategory::extraExtraLarge);
+    for (int i = 0; i < 20; ++i) press(U'+');
+    EXPECT_EQ(device.textSize, graphics::ContentSizeCategory::accessibilityExtraExtraExtraLarge);
+    EXPECT_FALSE(keys.pressed(U'+', false, device, direction));
+    EXPECT_EQ(press(U'-').textSize, graphics::ContentSizeCategory::accessibilityExtraExtraLarge);
     for (int i = 0; i < 20; ++i) press(U'-');
     EXPECT_EQ(device.textSize, graphics::ContentSizeCategory::extraSmall);
     EXPECT_FALSE(keys.pressed(U'-', false, device, direction));
@@ -238,9 +243,21 @@ TEST_F(Keys, GoThroughTheLanguagesBothWays) {
     EXPECT_EQ(press(U'L', true).locale, "ar_XB");
 }
 
+TEST_F(Keys, BringTheDirectionWithTheLanguage) {
+    press(U'D');
+    ASSERT_EQ(device.layoutDirection, DirectionChoice::rightToLeft);
+
+    EXPECT_EQ(press(U'L').layoutDirection, DirectionChoice::automatic);
+}
+
 TEST_F(Keys, GoThroughTheSizes) {
     EXPECT_EQ(press(U'S').size, (geometry::Size{768, 1024}));
     EXPECT_EQ(press(U'S', true).size, (geometry::Size{375, 800}));
+    std::vector<double> widths;
+    for (int times = 0; times < 4; ++times) widths.push_back(press(U'S').size.width);
+    EXPECT_THAT(widths, ElementsAre(768, 960, 320, 375));
+    EXPECT_EQ(press(U'S', true).size, (geometry::Size{320, 568}));
+    EXPECT_EQ(press(U'S', true).size, (geometry::Size{960, 880}));
     device.size = {500, 500};
     EXPECT_EQ(press(U'S').size, (geometry::Size{320, 568}));
 }

@@ -87,6 +87,23 @@ TEST_F(Limit, OfTheFilesSizeIsOneLineAndNoHalfOfAPicture) {
     EXPECT_THAT(written(), IsEmpty());
 }
 
+TEST_F(Limit, OfTheFilesSizeIsOneLineAndNoDraftOfAGallery) {
+    const auto matrix = folder.write("matrix.json", Json{{"screens", {"comparison"}},
+                                                         {"sizes", {{320, 300}}},
+                                                         {"textSizes", {"large"}},
+                                                         {"locales", {"en_US"}},
+                                                         {"appearances", {"light"}}});
+    const auto out = folder.path() / "out";
+
+    const Outcome outcome = runProgramIn("ulimit -f 8; ", {"gallery", "--matrix", matrix.string(), "--out", out.string()});
+
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(outcome.errorLines(), SizeIs(1)) << outcome.errors;
+    EXPECT_THAT(outcome.errors, HasSubstr(": /: the file cannot be written, expected a folder to write a gallery into"));
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(out))
+        EXPECT_NE(entry.path().extension(), ".part") << entry.path();
+}
+
 TEST_F(Limit, OfTheFilesSizeIsOneLineForBadInput) {
     const auto broken = folder.write("broken.json", std::string("{"));
 
@@ -140,7 +157,8 @@ TEST_F(Limit, OfMemoryIsSaidOfAPictureThatIsTooLarge) {
 
     const Outcome outcome = runProgramIn("ulimit -v 1000000; ", {"run", large.string(), "--out", (folder.path() / "out").string()});
 
-    expectOneLine(outcome, large.string() + ": /steps/0/snapshot: a picture of 20000 by 20000 points at scale 1 does not fit");
+    expectOneLine(outcome, large.string() + ": /steps/0/snapshot: a picture of 20000 by 20000 points at scale 1 does not fit into "
+                                            "memory, expected a smaller one\n");
     EXPECT_THAT(written(), IsEmpty());
 }
 

@@ -54,6 +54,25 @@ TEST(ShowArguments, HaveEveryOptionOfADevice) {
                                              "safeArea", "strings"));
 }
 
+TEST(ShowArguments, SayNoToReducedMotionToo) {
+    const ShowArguments arguments = shownWith({"--reduce-motion=false"});
+
+    EXPECT_FALSE(arguments.device.reduceMotion);
+    EXPECT_THAT(arguments.given, ElementsAre("reduceMotion"));
+}
+
+TEST(ShowArguments, NameTheThemeToBeFollowed) {
+    const tests::TemporaryFolder folder;
+    const std::string file = folder.write("theme.json", R"({"faces": {"text": "Ours"}})").string();
+
+    const ShowArguments arguments = shownWith({"--theme", file.c_str()});
+
+    EXPECT_EQ(arguments.theme, file);
+    EXPECT_EQ(arguments.device.theme.families.text, "Ours");
+    EXPECT_THAT(arguments.given, ElementsAre("theme"));
+    EXPECT_FALSE(shownWith({}).theme.has_value());
+}
+
 TEST(ShowArguments, NameTheScreenToBeginWith) {
     EXPECT_EQ(shownWith({"--start", "paywall"}).start, StartScreen::paywall);
     EXPECT_EQ(shownWith({"--start", "comparison"}).start, StartScreen::comparison);
@@ -95,7 +114,7 @@ TEST(ShowCommand, SaysWhereThereIsNoDisplayAndNamesTheCommandThatNeedsNone) {
     const std::string said = testing::internal::GetCapturedStderr();
 
     EXPECT_EQ(status, 3);
-    EXPECT_THAT(said, HasSubstr("proupsells run"));
+    EXPECT_EQ(said, "There is no display to show a window on; `proupsells run SCENARIO.json` plays a script without one.\n");
 }
 
 } // namespace proupsells::hostprogram

@@ -12,6 +12,7 @@
 
 #include "Apps/ProUpsellsWindow/ShownSession.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
+#include "Tests/WindowProgram/Played.hpp"
 #include "Tests/WindowProgram/Program.hpp"
 
 namespace proupsells::hostprogram {
@@ -43,6 +44,7 @@ struct Session {
     geometry::Size windowSize;
     std::string printed;
     Json recording;
+    std::string played; // what the recording prints
 };
 
 class ShownSessionTest : public testing::Test {
@@ -74,6 +76,7 @@ protected:
         }
         result.printed = printed.text();
         result.recording = Json::parse(tests::bytesOf(file));
+        result.played = tests::playedLines(file);
         return result;
     }
     static void close(QWindow& window) { window.close(); }
@@ -111,16 +114,19 @@ TEST_F(ShownSessionTest, ClosesItsWindowOnceThePaywallIsGone) {
     EXPECT_EQ(session.status, 0);
     EXPECT_THAT(session.printed, HasSubstr("trackUpsellDismissed"));
     EXPECT_THAT(session.printed, HasSubstr(R"("event":"dismiss")"));
+    EXPECT_EQ(session.played, session.printed);
 }
 
 TEST_F(ShownSessionTest, BeginsWithTheScreenThatIsAskedFor) {
     const Session comparison = shown({.start = StartScreen::comparison}, "trackComparePlansTapped", close);
     EXPECT_THAT(comparison.printed, HasSubstr(R"("content":"ComparisonViewController")"));
     EXPECT_THAT(comparison.recording["inputs"].dump(), HasSubstr(R"("send":"comparePlans")"));
+    EXPECT_EQ(comparison.played, comparison.printed);
 
     const Session store = shown({.start = StartScreen::store}, "Vela Pro Store Page", close);
     EXPECT_THAT(store.printed, HasSubstr(R"("content":"VelaProStorePageViewController")"));
     EXPECT_THAT(store.recording["inputs"].dump(), HasSubstr(R"("send":"whatIsPro")"));
+    EXPECT_EQ(store.played, store.printed);
 }
 
 TEST_F(ShownSessionTest, KeepsTheDeviceOfItsArguments) {
