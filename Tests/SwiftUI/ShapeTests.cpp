@@ -8,7 +8,7 @@ using graphics::CommandKind;
 using testing::ElementsAre;
 
 constexpr graphics::Color crimson{"crimson", graphics::rgb(0xFF0000), graphics::rgb(0xFF8080)};
-constexpr Rect frame{{10, 20}, {60, 40}};
+constexpr Rect plate{{10, 20}, {60, 40}};
 
 geometry::Path slanted(const Rect& rect, double share) {
     geometry::Path path;
@@ -18,46 +18,46 @@ geometry::Path slanted(const Rect& rect, double share) {
 }
 
 TEST(ShapeOutline, FillsItsRectangleOrTheLargestCircleInItsMiddle) {
-    for (const Shape& shape : {Rectangle(), RoundedRectangle(5), Capsule(), Ellipse()}) EXPECT_EQ(shape.outlineRect(frame), frame);
-    EXPECT_EQ(Circle().outlineRect(frame), rect(20, 20, 40, 40));
+    for (const Shape& shape : {Rectangle(), RoundedRectangle(5), Capsule(), Ellipse()}) EXPECT_EQ(shape.outlineRect(plate), plate);
+    EXPECT_EQ(Circle().outlineRect(plate), rect(20, 20, 40, 40));
     EXPECT_EQ(Circle().outlineRect({{10, 20}, {40, 60}}), rect(10, 30, 40, 40));
 }
 
 TEST(ShapeOutline, IsInsetByNoMoreThanHalfItsLengths) {
-    EXPECT_EQ(Rectangle().inset(5).outlineRect(frame), rect(15, 25, 50, 30));
-    EXPECT_EQ(Rectangle().inset(5).inset(-7).outlineRect(frame), rect(8, 18, 64, 44));
-    EXPECT_EQ(Rectangle().inset(25).outlineRect(frame), rect(30, 40, 20, 0));
+    EXPECT_EQ(Rectangle().inset(5).outlineRect(plate), rect(15, 25, 50, 30));
+    EXPECT_EQ(Rectangle().inset(5).inset(-7).outlineRect(plate), rect(8, 18, 64, 44));
+    EXPECT_EQ(Rectangle().inset(25).outlineRect(plate), rect(30, 40, 20, 0));
     EXPECT_EQ(Rectangle().inset(25).outlineRect({{0, 0}, {10, 100}}), rect(5, 5, 0, 90));
-    EXPECT_EQ(Circle().inset(5).outlineRect(frame), rect(25, 25, 30, 30));
+    EXPECT_EQ(Circle().inset(5).outlineRect(plate), rect(25, 25, 30, 30));
     EXPECT_EQ(Rectangle().inset(geometry::infinity).insetAmount(), 0);
     EXPECT_EQ(Rectangle().inset(5).insetAmount(), 5);
 }
 
 TEST(ShapeOutline, HasCornersOfAtMostHalfItsShorterSide) {
-    EXPECT_EQ(RoundedRectangle(5).cornerRadiusIn(frame), 5);
-    EXPECT_EQ(RoundedRectangle(50).cornerRadiusIn(frame), 20);
-    EXPECT_EQ(RoundedRectangle(-5).cornerRadiusIn(frame), 0);
-    EXPECT_EQ(RoundedRectangle(50).inset(4).cornerRadiusIn(frame), 16);
-    EXPECT_EQ(Circle().cornerRadiusIn(frame), 20);
+    EXPECT_EQ(RoundedRectangle(5).cornerRadiusIn(plate), 5);
+    EXPECT_EQ(RoundedRectangle(50).cornerRadiusIn(plate), 20);
+    EXPECT_EQ(RoundedRectangle(-5).cornerRadiusIn(plate), 0);
+    EXPECT_EQ(RoundedRectangle(50).inset(4).cornerRadiusIn(plate), 16);
+    EXPECT_EQ(Circle().cornerRadiusIn(plate), 20);
     EXPECT_EQ(Capsule().cornerRadiusIn({{0, 0}, {10, 30}}), 5);
     EXPECT_EQ(Capsule().cornerRadiusIn({{0, 0}, {30, 10}}), 5);
-    EXPECT_EQ(Rectangle().cornerRadiusIn(frame), 0);
-    EXPECT_EQ(Ellipse().cornerRadiusIn(frame), 0);
+    EXPECT_EQ(Rectangle().cornerRadiusIn(plate), 0);
+    EXPECT_EQ(Ellipse().cornerRadiusIn(plate), 0);
 }
 
 TEST(ShapeOutline, IsAPath) {
-    EXPECT_EQ(Rectangle().path(frame), geometry::Path::rectangle(frame));
-    EXPECT_EQ(Circle().path(frame), geometry::Path::ellipse(rect(20, 20, 40, 40)));
-    EXPECT_EQ(Ellipse().inset(1).path(frame), geometry::Path::ellipse(rect(11, 21, 58, 38)));
-    EXPECT_EQ(RoundedRectangle(7).path(frame), geometry::Path::roundedRectangle(frame, 7, geometry::CornerStyle::circular));
-    EXPECT_EQ(Capsule(geometry::CornerStyle::continuous).path(frame),
-              geometry::Path::roundedRectangle(frame, 20, geometry::CornerStyle::continuous));
+    EXPECT_EQ(Rectangle().path(plate), geometry::Path::rectangle(plate));
+    EXPECT_EQ(Circle().path(plate), geometry::Path::ellipse(rect(20, 20, 40, 40)));
+    EXPECT_EQ(Ellipse().inset(1).path(plate), geometry::Path::ellipse(rect(11, 21, 58, 38)));
+    EXPECT_EQ(RoundedRectangle(7).path(plate), geometry::Path::roundedRectangle(plate, 7, geometry::CornerStyle::circular));
+    EXPECT_EQ(Capsule(geometry::CornerStyle::continuous).path(plate),
+              geometry::Path::roundedRectangle(plate, 20, geometry::CornerStyle::continuous));
     const Shape custom{CustomShape{.path = slanted, .animatableData = 0.5, .name = "Slanted"}};
-    EXPECT_EQ(custom.inset(2).path(frame), slanted(rect(12, 22, 56, 36), 0.5));
-    EXPECT_EQ(custom.outlineRect(frame), rect(10, 20, 30, 40));
-    EXPECT_EQ(custom.withAnimatableData(1).outlineRect(frame), frame);
-    EXPECT_EQ(Shape{CustomShape{}}.outlineRect(frame), frame);
-    EXPECT_EQ(Shape{CustomShape{}}.path(frame), geometry::Path{});
+    EXPECT_EQ(custom.inset(2).path(plate), slanted(rect(12, 22, 56, 36), 0.5));
+    EXPECT_EQ(custom.outlineRect(plate), rect(10, 20, 30, 40));
+    EXPECT_EQ(custom.withAnimatableData(1).outlineRect(plate), plate);
+    EXPECT_EQ(Shape{CustomShape{}}.outlineRect(plate), plate);
+    EXPECT_EQ(Shape{CustomShape{}}.path(plate), geometry::Path{});
 }
 
 TEST(ShapeOutline, HasAName) {

@@ -141,7 +141,8 @@ void Node::settleTransparentChildren(Size size) {
     }
 }
 
-// What has become absent is skipped by layOut(), and must not stay where it was. What still leaves in it keeps its place for so long.
+// What has become absent is skipped by layOut(), and must not stay where it was. What still leaves in it keeps its place for so
+// long.
 void Node::withdrawAbsentChildren() {
     for (const auto& child : m_children)
         if (child && child->m_hasBeenPlaced && child->isAbsent() && !child->holdsLeaving()) child->withdraw();
