@@ -245,8 +245,12 @@ TEST_F(StoreContainer, CannotComeFromAnArchiveOrHaveAFrameOfItsOwn) {
                  "Use of unimplemented initializer 'init\\(frame:\\)' for class 'ProUpsells.TemplatesVideoView'");
     EXPECT_DEATH(VelaProHeaderView{coder}, "init\\(coder:\\) has not been implemented");
     EXPECT_DEATH(LabelHeaderView{coder}, "init\\(coder:\\) has not been implemented");
-    EXPECT_DEATH(VerticallyStackedContainerViewController{coder}, "init\\(coder:\\) has not been implemented");
-    EXPECT_DEATH(TitleSubtitleContainerViewController{coder}, "init\\(coder:\\) has not been implemented");
+    EXPECT_DEATH(
+        VerticallyStackedContainerViewController{coder},
+        "Use of unimplemented initializer 'init\\(coder:\\)' for class 'ProUpsells\\.VerticallyStackedContainerViewController'");
+    EXPECT_DEATH(
+        TitleSubtitleContainerViewController{coder},
+        "Use of unimplemented initializer 'init\\(coder:\\)' for class 'ProUpsells\\.TitleSubtitleContainerViewController'");
 }
 
 } // namespace proupsells::tests
