@@ -69,7 +69,7 @@ void CoverageRasterizer::addCubic(Point from, Point control1, Point control2, Po
 }
 
 void CoverageRasterizer::addLine(Point from, Point to) {
-    if (!std::isfinite(from.x + from.y + to.x + to.y)) return;
+    if (from.y == to.y || !std::isfinite(from.x + from.y + to.x + to.y)) return;
     const double sign = from.y < to.y ? 1 : -1;
     const Point top = sign > 0 ? from : to, bottom = sign > 0 ? to : from;
     const double slope = (bottom.x - top.x) / (bottom.y - top.y);

@@ -55,7 +55,7 @@ Picture prepared(const Picture& source, const Rect& frame, const Transform& toPi
 
 void paintTransformed(Picture& target, const Picture& source, const Rect& frame, const Transform& toPixels,
                       CoverageRasterizer& rasterizer) {
-    if (source.isNull() || frame.isEmpty()) return;
+    if (source.isNull() || frame.isEmpty() || toPixels.a * toPixels.d == toPixels.b * toPixels.c) return;
     const Picture shown = prepared(source, frame, toPixels);
     const Transform toSource = sourceToFrame(shown, frame).then(toPixels).inverted();
 

@@ -1,5 +1,6 @@
 #include "Backends/FFmpeg/Plugin/PictureConverter.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 extern "C" {
@@ -21,7 +22,7 @@ PixelSize boundedSize(int width, int height) {
     const double pixels = static_cast<double>(width) * height;
     if (pixels <= PictureConverter::maximumPixels) return {width, height};
     const double factor = std::sqrt(PictureConverter::maximumPixels / pixels);
-    const auto bounded = [&](int length) { return int(length * factor / 2) * 2; };
+    const auto bounded = [&](int length) { return std::max(2, int(length * factor / 2) * 2); };
     return {bounded(width), bounded(height)};
 }
 
