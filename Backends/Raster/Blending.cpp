@@ -85,7 +85,7 @@ Pixel premultiplied(graphics::RGBA color, std::uint8_t opacity) {
 }
 
 PROUPSELLS_VECTORIZED void blendColor(Pixel* to, std::size_t count, Pixel color, std::uint8_t coverage) {
-    const Pixel top = scaled(color, coverage);
+    const Pixel top = coverage == 255 ? color : scaled(color, coverage);
     const std::uint32_t rest = 255u - alphaOf(top);
     if (rest == 0) {
         fill(to, count, top);

@@ -37,7 +37,8 @@ void forEachRow(const PixelRect& area, const PlacedMask& clip, PaintRow&& paintR
         }
         clip.visitRow(y, area.left, area.right, [&](int left, int right, const std::uint8_t* coverages, std::uint8_t shared) {
             if (!coverages) return paintRow(y, left, right, shared);
-            for (int x = left; x < right; ++x) paintRow(y, x, x + 1, coverages[x - left]);
+            for (int x = left; x < right; ++x)
+                if (coverages[x - left] > 0) paintRow(y, x, x + 1, coverages[x - left]);
         });
     }
 }
@@ -125,7 +126,7 @@ struct RasterPainter::Item {
         const PixelRect extent{job.window.left, mask.top(), job.window.right, mask.bottom()};
         paintRows(job, extent, [&](int y, int left, int right, std::uint8_t coverage) {
             Pixel* row = job.row(y);
-            const Pixel covered = scaled(color, coverage);
+            const Pixel covered = coverage == 255 ? color : scaled(color, coverage);
             mask.visitRow(y, left, right, [&](int from, int to, const std::uint8_t* coverages, std::uint8_t shared) {
                 if (coverages)
                     blendColor(row + from, std::size_t(to - from), covered, coverages);

@@ -145,7 +145,9 @@ void Node::settleTransparentChildren(Size size) {
 // long.
 void Node::withdrawAbsentChildren() {
     for (const auto& child : m_children)
-        if (child && child->m_hasBeenPlaced && child->isAbsent() && !child->holdsLeaving()) child->withdraw();
+        // What was laid out needs it no more.
+        if (child && child->m_needsLayout && child->m_hasBeenPlaced && child->isAbsent() && !child->holdsLeaving())
+            child->withdraw();
 }
 
 bool Node::holdsLeaving() const {
