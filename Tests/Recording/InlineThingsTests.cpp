@@ -12,6 +12,7 @@
 #include "Apps/ProUpsellsHost/Translations.hpp"
 #include "Platform/Foundation/StringsFile.hpp"
 #include "Platform/System/Files.hpp"
+#include "Tests/Recording/Refusal.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
 
@@ -22,16 +23,6 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 namespace {
-
-// What is said where something cannot be read; empty where it can.
-std::string refusalOf(const std::function<void()>& deed) {
-    try {
-        deed();
-    } catch (const std::runtime_error& error) {
-        return error.what();
-    }
-    return {};
-}
 
 Theme themeOf(const char* text, const std::filesystem::path& folder = "themes", ThemePlace place = ThemePlace::insideAnotherFile) {
     const Json json = Json::parse(text);

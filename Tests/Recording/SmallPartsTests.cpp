@@ -13,6 +13,7 @@
 #include "Apps/ProUpsellsHost/StepReading.hpp"
 #include "Apps/ProUpsellsHost/WholeFile.hpp"
 #include "Platform/System/WholeFile.hpp"
+#include "Tests/Recording/Refusal.hpp"
 #include "Tests/Support/PrintGeometry.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
 
@@ -21,15 +22,6 @@ namespace proupsells::hostprogram {
 using ::testing::ElementsAre;
 
 namespace {
-
-std::string wrongWith(const std::function<void()>& deed) {
-    try {
-        deed();
-    } catch (const std::runtime_error& error) {
-        return error.what();
-    }
-    return {};
-}
 
 std::int64_t wholeNumberIn(const char* text) {
     const Json json = Json::parse(text);
@@ -62,10 +54,10 @@ TEST(WholeNumbers, AreAllThatFitInto64Bits) {
     EXPECT_EQ(wholeNumberIn("5.0"), 5);
     EXPECT_EQ(wholeNumberIn("-1e3"), -1000);
     for (const char* const tooLarge : {"9223372036854775808", "9223372036854775808.0", "-9223372036854777856.0", "1e300"})
-        EXPECT_NE(wrongWith([&] { wholeNumberIn(tooLarge); }).find(" is out of range, expected a whole number in 64 bits"),
+        EXPECT_NE(refusalOf([&] { wholeNumberIn(tooLarge); }).find(" is out of range, expected a whole number in 64 bits"),
                   std::string::npos)
             << tooLarge;
-    EXPECT_EQ(wrongWith([] { wholeNumberIn("\"1\""); }), "a: /: a text stands here, expected a whole number in 64 bits");
+    EXPECT_EQ(refusalOf([] { wholeNumberIn("\"1\""); }), "a: /: a text stands here, expected a whole number in 64 bits");
 }
 
 // --- Offers ---
@@ -148,21 +140,21 @@ TEST(StepThatSets, HoldsNewLengthsAgainstTheDevicesOthers) {
     wide.scale = 1;
     wide.safeArea = {20, 0, 20, 0};
 
-    EXPECT_EQ(wrongWith([&] {
+    EXPECT_EQ(refusalOf([&] {
                   setOf({{"scale", 2}}, {{}, wide});
               }),
               "a: /scale: the window is out of range, expected at most 32000 pixels a side");
-    EXPECT_EQ(wrongWith([&] {
+    EXPECT_EQ(refusalOf([&] {
                   setOf({{"size", {100, 40}}}, {{}, wide});
               }),
               "a: /size: the safe area is out of range, expected insets that leave some of the window");
-    EXPECT_EQ(wrongWith([&] { setOf({{"size", {100, 41}}}, {{}, wide}); }), "");
+    EXPECT_EQ(refusalOf([&] { setOf({{"size", {100, 41}}}, {{}, wide}); }), "");
 }
 
 TEST(StepThatTakesAPicture, NamesAPlainFile) {
     EXPECT_EQ(std::get<SnapshotStep>(stepOf({{"snapshot", std::string(255, 'a')}})).file, std::string(255, 'a'));
     EXPECT_EQ(std::get<SnapshotStep>(stepOf({{"snapshot", "..."}})).file, "...");
-    EXPECT_EQ(wrongWith([] {
+    EXPECT_EQ(refusalOf([] {
                   stepOf({{"snapshot", std::string("a\0.png", 6)}});
               }),
               "a: /snapshot: \"a .png\" is no plain file name, expected one such as \"paywall.png\"");
@@ -175,7 +167,7 @@ TEST(StepThatExpects, HasWhatIsNamedAndNothingElse) {
 
     const auto framed = std::get<ExpectStep>(stepOf({{"expect", {{"identifier", "a"}, {"frame", {-1e6, 2, 3, 1e6}}}}}));
     EXPECT_EQ(framed.frame, (geometry::Rect{{-1e6, 2}, {3, 1e6}}));
-    EXPECT_EQ(wrongWith([] {
+    EXPECT_EQ(refusalOf([] {
                   stepOf({{"expect", {{"identifier", "a"}, {"frame", {-1000001, 0, 0, 0}}}}});
               }),
               "a: /expect/frame/0: the number -1000001 is out of range, expected a frame, x, y, width and height");
@@ -296,8 +288,8 @@ TEST(FileToBeWritten, IsRefusedWhereNoneCanBe) {
     const std::string reason = ": /: the file cannot be written, expected a place where one can be";
 
     for (const std::filesystem::path& file : {folder.path(), folder.path() / "nowhere" / "a.html", std::filesystem::path()}) {
-        EXPECT_EQ(wrongWith([&] { expectWritable(file); }), file.string() + reason);
-        EXPECT_EQ(wrongWith([&] { writeWhole(file, "bytes"); }), file.string() + reason);
+        EXPECT_EQ(refusalOf([&] { expectWritable(file); }), file.string() + reason);
+        EXPECT_EQ(refusalOf([&] { writeWhole(file, "bytes"); }), file.string() + reason);
     }
     writeWhole(folder.path() / "a.html", "bytes");
     EXPECT_EQ(tests::bytesOf(folder.path() / "a.html"), "bytes");
