@@ -72,6 +72,21 @@ TEST_F(AbsentContent, ComesBackAtItsPlaceWithoutAWayFromTheFormerOne) {
     EXPECT_EQ(screen.host().displayList().commands[1].frame, (Rect{{100, 175}, {100, 50}}));
 }
 
+// The group is of no size and place of its own in a stack.
+TEST(AbsentContentInAGroup, LeavesNothingPainted) {
+    bool isThere = true;
+    TouchScreen screen{[&] {
+        const View inside = isThere ? Group{.content = {box(100, 50, "box")}} : Group{};
+        return VStack{.content = {Group{.content = {inside | background(box(120, 70, "behind")), box(10, 10, "other")}}}};
+    }};
+    EXPECT_EQ(screen.host().displayList().commands.size(), 3u);
+
+    isThere = false;
+    screen.rebuild();
+
+    EXPECT_EQ(screen.host().displayList().commands.size(), 1u);
+}
+
 // What fades out stays where it is until it has gone, and so does what belongs to it.
 TEST(FadingContent, KeepsItsPlaceUntilItHasGone) {
     bool isThere = true;

@@ -129,7 +129,6 @@ void Node::placeAt(Node& child, Point leadingOrigin, Size childSize, const Propo
 }
 
 void Node::settleTransparentChildren(Size size) {
-    withdrawAbsentChildren();
     for (const auto& child : m_children) {
         if (!child || !child->isTransparent() || child->isAbsent()) continue;
         child->m_frame = {{}, size};
@@ -137,6 +136,7 @@ void Node::settleTransparentChildren(Size size) {
         child->m_hasBeenPlaced = true;
         child->m_needsLayout = false;
         child->settleTransparentChildren(size);
+        child->withdrawAbsentChildren();
         child->updatePaintBounds();
     }
 }
