@@ -36,16 +36,27 @@ std::string FeatureChildRow::spokenName() const {
         {feature.name});
 }
 
+View FeatureChildRow::name() const {
+    return Text{feature.name} | lumokit::textStyle(lumokit::TextStyle::based(lumokit::PlatformTextStyle::subheadline, 15, 15)) |
+           fixedSize(false, true) | lumokit::largestTextSize(lumokit::LargestSize::mainText);
+}
+
+View FeatureChildRow::columns() const {
+    return HStack{.spacing = 40, .content = {freeCell(), CheckIcon{} | accessibilityLabel(ComparisonCatalogue::proHeading())}};
+}
+
+View FeatureChildRow::row() const { return HStack{.spacing = 16, .content = {name(), Spacer{}, columns()}}; }
+
+View FeatureChildRow::stacked() const {
+    return VStack{.alignment = HorizontalAlignment::leading, .content = {name(), HStack{.content = {Spacer{}, columns()}}}};
+}
+
 View FeatureChildRow::cells(graphics::ContentSizeCategory textSize) const {
-    View name = Text{feature.name} |
-                lumokit::textStyle(lumokit::TextStyle::based(lumokit::PlatformTextStyle::subheadline, 15, 15)) |
-                fixedSize(false, true) | lumokit::largestTextSize(lumokit::LargestSize::mainText);
-    View columns =
-        HStack{.spacing = 40, .content = {freeCell(), CheckIcon{} | accessibilityLabel(ComparisonCatalogue::proHeading())}};
     // The largest words need the whole width.
-    if (textSize >= graphics::ContentSizeCategory::accessibilityMedium)
-        return VStack{.alignment = HorizontalAlignment::leading, .content = {name, HStack{.content = {Spacer{}, columns}}}};
-    return HStack{.spacing = 16, .content = {name, Spacer{}, columns}};
+    if (textSize >= graphics::ContentSizeCategory::accessibilityMedium) return stacked();
+    // Where the free plan has words, too, these and the name may be too long for one row.
+    if (feature.distribution.limit()) return FirstThatFits{.content = {row() | keepsWordsWhole(), stacked()}};
+    return row();
 }
 
 View FeatureChildRow::body(BuildContext& context) const {

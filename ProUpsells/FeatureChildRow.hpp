@@ -17,6 +17,10 @@ struct FeatureChildRow {
 private:
     swiftui::View freeCell() const;
     std::string spokenName() const;
+    swiftui::View name() const;
+    swiftui::View columns() const;
+    swiftui::View row() const;
+    swiftui::View stacked() const;
     swiftui::View cells(graphics::ContentSizeCategory textSize) const;
 };
 

@@ -112,8 +112,10 @@ void FittedText::showIn(const ProposedSize& room) {
     if (&linesWithin(limitsIn(room)) == &m_measured) std::swap(m_shown, m_measured);
 }
 
-ProposedSize FittedText::limitsIn(const ProposedSize& room) {
+ProposedSize FittedText::limitsIn(const ProposedSize& offered) {
     const Size& ideal = idealSize();
+    ProposedSize room = offered;
+    if (room.width && m_rules.keepsWordsWhole && m_rules.lineLimit != 1) room.width = std::max(*room.width, m_unbreakableWidth);
     const bool fits = (!room.width || *room.width + tolerance >= ideal.width) &&
                       (!room.height || m_idealLineCount <= 1 || *room.height + tolerance >= ideal.height);
     return fits ? ProposedSize{} : room;

@@ -26,6 +26,7 @@ struct TextRules {
     // The smallest share of its size to which a text is set instead of being broken inside a word, unless `minimumScale` allows a
     // smaller one. Where that does not suffice, it is broken at its full size.
     double wordScale = 1;
+    bool keepsWordsWhole = false; // never narrower than its longest word, nor set smaller for it, unless it has one line only
 
     bool operator==(const TextRules&) const = default;
 };
@@ -72,7 +73,7 @@ private:
     // The share of its size at which no word is broken in a width.
     double scaleForWords(const std::optional<double>& width);
     // The room, or no limits at all where the text needs no wrapping and no cutting in it.
-    geometry::ProposedSize limitsIn(const geometry::ProposedSize& room);
+    geometry::ProposedSize limitsIn(const geometry::ProposedSize& offered);
     const Lines& linesWithin(const geometry::ProposedSize& limits);
     const std::shared_ptr<const graphics::ShapedText>& shapedAt(double scale);
     void measure(double scale, const geometry::ProposedSize& limits);

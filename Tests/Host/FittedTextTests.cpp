@@ -185,6 +185,27 @@ TEST_F(FittedTextTest, MayShrinkForAWordAsMuchAsNotToBeCut) {
     EXPECT_EQ(shownIn({17.4, std::nullopt}).size, 10);
 }
 
+TEST_F(FittedTextTest, IsNeverNarrowerThanItsLongestWordWhereItKeepsWordsWhole) {
+    setText("aaaa $119.99 bb");
+    setRules({.wordScale = 0.8, .keepsWordsWhole = true});
+
+    for (const double width : {35.0, 34.9, 28.0, 0.0}) {
+        EXPECT_EQ(text.sizeIn({width, std::nullopt}).width, 35) << width; // seven characters of 5 points
+        EXPECT_EQ(shownIn({width, std::nullopt}).lineCount, 3) << width;
+        EXPECT_EQ(shownIn({width, std::nullopt}).size, 10) << width;
+    }
+    EXPECT_EQ(shownIn({60, std::nullopt}).lineCount, 2);
+    EXPECT_EQ(shownIn({std::nullopt, std::nullopt}).lineCount, 1);
+}
+
+TEST_F(FittedTextTest, IsCutInItsOneLineWhereItKeepsWordsWhole) {
+    setText("aaaa $119.99 bb");
+    setRules({.lineLimit = 1, .keepsWordsWhole = true});
+
+    EXPECT_TRUE(shownIn({20, std::nullopt}).isTruncated);
+    EXPECT_LE(text.sizeIn({20, std::nullopt}).width, 20);
+}
+
 TEST_F(FittedTextTest, NeverBecomesSmallerThanElevenPoints) {
     text.setRuns({{"aaaaaaaaaa", {.size = 20}, 0}});
     setRules({.lineLimit = 1, .minimumScale = 0.2});

@@ -343,7 +343,10 @@ TEST(ComparisonView, CutsNoTextAndBreaksNoWordAtAnyTextSize) {
         ScreenOptions options;
         options.traits.preferredContentSizeCategory = graphics::ContentSizeCategory(category);
         for (const double width : {320.0, 375.0}) {
-            const Comparison comparison({width, 1400}, options);
+            Comparison comparison({width, 1800}, options);
+            for (const std::string& name : {tools, growth, automation}) comparison.toggle(name);
+            comparison.runUntil(1);
+            ASSERT_TRUE(comparison.isOpen(tools));
             visit(comparison.tree(), [&](const accessibility::SemanticNode& node) {
                 if (!node.text) return;
                 EXPECT_FALSE(node.text->isTruncated) << node.text->text << " at " << category << ", " << width;

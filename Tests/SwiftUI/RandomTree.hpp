@@ -87,6 +87,7 @@ private:
         case 4: return ZStack{.alignment = alignment(), .content = views(depth)};
         case 5: return Group{.content = views(depth)};
         case 6: return ForEach(m_decisions.below(4), [&](int) { return view(depth + 1); });
+        case 7: return FirstThatFits{.content = views(depth)} | keepsWordsWhole();
         default: return leaf();
         }
     }

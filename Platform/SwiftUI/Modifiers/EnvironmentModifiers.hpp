@@ -39,6 +39,8 @@ inline EnvironmentModifier<&EnvironmentValues::multilineTextAlignment> multiline
 inline EnvironmentModifier<&EnvironmentValues::lineLimit> lineLimit(std::optional<int> limit) { return {{limit}}; }
 inline EnvironmentModifier<&EnvironmentValues::lineSpacing> lineSpacing(double spacing) { return {{spacing}}; }
 inline EnvironmentModifier<&EnvironmentValues::avoidsShortLastLine> avoidsShortLastLine() { return {{true}}; }
+// Texts are never narrower than their longest word.
+inline EnvironmentModifier<&EnvironmentValues::keepsWordsWhole> keepsWordsWhole() { return {{true}}; }
 inline EnvironmentModifier<&EnvironmentValues::textCase> textCase(TextCase textCase) { return {{textCase}}; }
 inline EnvironmentModifier<&EnvironmentValues::minimumScaleFactor> minimumScaleFactor(double factor) { return {{factor}}; }
 inline EnvironmentModifier<&EnvironmentValues::colorScheme> colorScheme(graphics::ColorScheme scheme) { return {{scheme}}; }

@@ -54,6 +54,7 @@ struct InheritedValues {
     std::optional<int> lineLimit; // absent: as many lines as it takes
     double lineSpacing = 0;
     bool avoidsShortLastLine = false; // see host::TextRules
+    bool keepsWordsWhole = false;     // the same
     double minimumScaleFactor = 1;    // a text that would be cut is shown smaller instead, down to this share of its size
 
     std::shared_ptr<const ButtonStyle> buttonStyle; // null: the automatic one

@@ -161,6 +161,8 @@ protected:
     void placeAt(Node& child, geometry::Point leadingOrigin, geometry::Size childSize, const geometry::ProposedSize& proposal);
     // Whether nothing has been measured since something inside has changed.
     bool isFirstMeasure() const { return m_sizeCount == 0; }
+    // To be called by layOut() for a child that the layout leaves out. It may have been placed before.
+    void leaveOut(Node& child);
     // Gives the transparent and absent children the whole size, once those inside them have been placed.
     void settleTransparentChildren(geometry::Size size);
     // Whether a state or an observed object has changed, here or inside.

@@ -155,6 +155,10 @@ bool Node::holdsLeaving() const {
     return std::any_of(m_children.begin(), m_children.end(), [](const auto& child) { return child && child->holdsLeaving(); });
 }
 
+void Node::leaveOut(Node& child) {
+    if (child.m_hasBeenPlaced) child.withdraw();
+}
+
 void Node::withdraw() {
     m_frame = m_paintBounds = {};
     m_frameAnimation.reset();

@@ -79,6 +79,50 @@ private:
     std::vector<Node*> m_nodes;
 };
 
+class FirstThatFitsNode final : public Node {
+public:
+    void adopt(FirstThatFits&& alternatives, UpdatePass& pass) { updateChildren(alternatives.content, pass); }
+
+    bool isAbsent() const override { return alternatives().empty(); }
+    bool sharesStackAxis() const override { return true; }
+    double firstBaseline(const ProposedSize& proposal) override {
+        Node* const fitting = chosen(proposal);
+        return fitting ? fitting->firstBaseline(proposal) : 0;
+    }
+
+protected:
+    Size measure(const ProposedSize& proposal) override {
+        Node* const fitting = chosen(proposal);
+        return fitting ? fitting->sizeThatFits(proposal) : Size{};
+    }
+
+    void layOut(const ProposedSize& proposal, Size) override {
+        Node* const fitting = chosen(proposal);
+        for (Node* node : alternatives())
+            if (node == fitting)
+                placeChild(*node, {}, proposal);
+            else
+                leaveOut(*node);
+    }
+
+private:
+    std::vector<Node*> alternatives() const {
+        std::vector<Node*> nodes;
+        collectLayoutChildren(nodes);
+        return nodes;
+    }
+    // Null where there is none at all.
+    Node* chosen(const ProposedSize& proposal) const {
+        Node* last = nullptr;
+        for (Node* node : alternatives()) {
+            last = node;
+            // Sums of lengths are not exact.
+            if (!proposal.width || node->sizeThatFits(proposal).width <= *proposal.width + 0.005) break;
+        }
+        return last;
+    }
+};
+
 class SpacerNode final : public Node {
 public:
     void adopt(Spacer&& spacer, UpdatePass&) {
@@ -129,6 +173,7 @@ private:
 Element* HStack::makeElement() && { return newElement<HStackNode>(std::move(*this)); }
 Element* VStack::makeElement() && { return newElement<VStackNode>(std::move(*this)); }
 Element* ZStack::makeElement() && { return newElement<ZStackNode>(std::move(*this)); }
+Element* FirstThatFits::makeElement() && { return newElement<FirstThatFitsNode>(std::move(*this)); }
 Element* Spacer::makeElement() && { return newElement<SpacerNode>(std::move(*this)); }
 Element* Group::makeElement() && { return newElement<GroupNode>(std::move(*this)); }
 

@@ -34,6 +34,14 @@ struct ZStack {
     Element* makeElement() &&;
 };
 
+// The first of its views that is no wider than the room offered, and otherwise the last. All of them live; the others are neither
+// seen, touched nor told.
+struct FirstThatFits {
+    ViewList content;
+
+    Element* makeElement() &&;
+};
+
 // Takes the room that the other views of its stack leave. Outside stacks it takes all room in both directions.
 struct Spacer {
     double minLength = defaultSpacing;

@@ -36,7 +36,8 @@ TextStyle styleOf(const Text& text, const EnvironmentValues& environment) {
                       .lineSpacing = paragraph ? paragraph->lineSpacing : environment.lineSpacing,
                       .avoidsShortLastLine = environment.avoidsShortLastLine,
                       .minimumScale = environment.minimumScaleFactor,
-                      .wordScale = host::wordScale(environment.contentSize)}};
+                      .wordScale = host::wordScale(environment.contentSize),
+                      .keepsWordsWhole = environment.keepsWordsWhole}};
 }
 
 // The runs to shape, in the case shown.
