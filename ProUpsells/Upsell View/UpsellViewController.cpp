@@ -128,7 +128,7 @@ std::string UpsellViewController::accessibilityScreenName() const {
 
 void UpsellViewController::viewWillAppear(bool /*animated*/) {
     if (!imageDownloadTask) return;
-    m_emptyStateView->configure({.kind = velauikit::EmptyStateView::Kind(2)});
+    m_emptyStateView->configure({.kind = velauikit::EmptyStateView::Kind::waiting});
     view()->addSubview(m_emptyStateView);
     m_emptyStateView->fillSuperview();
 }

@@ -66,6 +66,7 @@ TEST(ComparePlansButton, GivesALongTitleTheSpacersRoomFirst) {
 
     const auto title = firstOfType(screen.tree(), "Text");
     EXPECT_EQ(title.text->lineCount, 1);
+    EXPECT_EQ(title.text->size, 16);
     EXPECT_EQ(title.frame.minX(), 44);
     Screen longer(ComparePlansButton{.text = fitting + " x"}, Size{318, 300});
     EXPECT_EQ(firstOfType(longer.tree(), "Text").text->lineCount, 2);

@@ -38,6 +38,8 @@ void PrintTo(const Drawing& drawing, std::ostream* stream) { *stream << drawing.
 
 constexpr uikit::UITraitCollection light;
 constexpr uikit::UITraitCollection dark{.userInterfaceStyle = ColorScheme::dark};
+constexpr uikit::UITraitCollection darkAndRegular{.userInterfaceStyle = ColorScheme::dark,
+                                                  .horizontalSizeClass = uikit::UIUserInterfaceSizeClass::regular};
 constexpr uikit::UITraitCollection darkMirroredAndLarge{.userInterfaceStyle = ColorScheme::dark,
                                                         .layoutDirection = LayoutDirection::rightToLeft,
                                                         .preferredContentSizeCategory = ContentSizeCategory::accessibilityLarge};
@@ -50,18 +52,20 @@ std::vector<Drawing> drawings() {
         {"paywall", {375, 800}, light},
         {"paywall-chosen", {375, 700}, light, {"plan.pro.monthly"}},
         {"paywall-turning", {375, 699.9}, light, {}, 5.2},
-        {"paywall-wide", {1024, 768}, dark},
+        {"paywall-wide", {1024, 768}, darkAndRegular},
         {"paywall-narrow", {320, 568}, darkMirroredAndLarge},
+        {"paywall-tight", {320, 700}, light},
         {"paywall-many", {375, 1000}, light, {}, 2, {lifetime(), monthly("$14.99", {.hasUsedFreeTrial = true}), yearly()}},
         {"paywall-contrast", {375, 800}, light, {}, 2, trialAndMonthly(), contrastTheme()},
         {"comparison", {375, 1900}, light, openComparison},
         {"comparison-opening", {375, 800}, light, {"comparePlans", "comparison.category.Creation Tools"}, 0.1},
-        {"comparison-wide", {1024, 768}, dark, {"comparePlans"}},
+        {"comparison-wide", {1024, 768}, darkAndRegular, {"comparePlans"}},
         {"comparison-narrow", {320, 2600}, darkMirroredAndLarge, openComparison},
+        {"comparison-tight", {320, 1900}, light, openComparison},
         {"comparison-contrast", {375, 1900}, dark, openComparison, 2, trialAndMonthly(), contrastTheme()},
         {"store", {375, 4000}, light, {"whatIsPro"}},
         {"store-drifting", {375, 800}, light, {"whatIsPro"}, 7.25},
-        {"store-wide", {1024, 3000}, dark, {"whatIsPro"}},
+        {"store-wide", {1024, 3000}, darkAndRegular, {"whatIsPro"}},
         {"store-narrow", {320, 4000}, darkMirroredAndLarge, {"whatIsPro"}},
     };
 }

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "Platform/Graphics/ContentSize.hpp"
+#include "ProUpsells/CustomPageControl.hpp"
 #include "Tests/ProUpsells/Carousel.hpp"
 
 namespace proupsells::tests {
@@ -8,6 +9,18 @@ namespace {
 
 using geometry::Point;
 using ::testing::ElementsAre;
+
+TEST(CustomPageControl, MakesAPagerWithItsDotsAlone) {
+    const CustomPageControl control{.numberOfPages = 4, .currentPage = swiftui::Binding<int>::constant(0)};
+    const auto coordinator = control.makeCoordinator();
+
+    const auto view = control.makeUIView({coordinator, swiftui::EnvironmentValues{}});
+
+    EXPECT_EQ(view->numberOfPages(), 4);
+    EXPECT_EQ(view->backgroundStyle(), uikit::UIPageControl::BackgroundStyle::minimal);
+    EXPECT_EQ(view->accessibilitySpoken.role, accessibility::Role::pager);
+    EXPECT_EQ(view->accessibilityIdentifier, "carousel.pageControl");
+}
 
 TEST(Page, HasAnIdOfItsOwn) { EXPECT_NE(Page{}.id, Page{}.id); }
 

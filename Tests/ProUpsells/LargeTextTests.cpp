@@ -79,6 +79,10 @@ TEST(LargeText, LetsTheComparisonsHeaderScrollAwayWhereItIsInTheWay) {
     EXPECT_FALSE(isHeaderInTheList(Screen(ComparisonView{}, {667, 299})));
     EXPECT_TRUE(isHeaderInTheList(Screen(ComparisonView{}, {568, 244})));
     EXPECT_TRUE(isHeaderInTheList(Screen(ComparisonView{}, {375, 667}, {.traits = traitsWith(largest)})));
+    EXPECT_TRUE(
+        isHeaderInTheList(Screen(ComparisonView{}, {375, 667}, {.traits = traitsWith(ContentSizeCategory::accessibilityMedium)})));
+    EXPECT_FALSE(
+        isHeaderInTheList(Screen(ComparisonView{}, {375, 667}, {.traits = traitsWith(ContentSizeCategory::extraExtraExtraLarge)})));
 }
 
 class LargeTextStore : public StoreTest {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "Backends/Headless/TestBed.hpp"
+#include "ProUpsells/SubscriptionOptionFormatter.hpp"
 #include "ProUpsells/Theme.hpp"
 #include "ProUpsells/UpsellViewController.hpp"
 #include "ProUpsells/VelaProStorePageViewController.hpp"
@@ -42,6 +43,8 @@ TEST(MainThreadDeathTest, IsWantedByEveryCallOfAHost) {
         {"VelaProUpsellViewController::setOptions", [&] { entry->setOptions({monthly()}); }},
     };
     for (const auto& [name, call] : calls) EXPECT_DEATH(onAnotherThread(call), name + " must be called on the main thread");
+    EXPECT_DEATH(onAnotherThread([] { SubscriptionOptionFormatter::titleAndSubtitle(yearly(), std::nullopt); }),
+                 "on the main thread");
 }
 
 } // namespace

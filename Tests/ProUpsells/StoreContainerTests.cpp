@@ -228,6 +228,18 @@ TEST_F(StoreContainer, PlaysTheClipOfTheAppearance) {
     EXPECT_EQ(clip->videoView()->frame(), (geometry::Rect{{0, 0}, {375, 800}}));
 }
 
+TEST(EmptyStrip, ShowsNoIndicators) {
+    const headless::TestBed bed;
+    const auto strip = StorePageShelfViewController::create(uikit::UIImage{});
+
+    EXPECT_FALSE(strip->scrollView()->showsHorizontalScrollIndicator());
+    EXPECT_FALSE(strip->scrollView()->showsVerticalScrollIndicator());
+}
+
+TEST_F(StoreContainer, KnowsItsClipBeforeItStandsInAWindow) {
+    EXPECT_EQ(TemplatesVideoView().videoView()->file()->stem(), "StorePageTemplatesVideo");
+}
+
 TEST_F(StoreContainer, PlaysTheDarkClipFromTheStartWhereItIsDark) {
     setAppearance(graphics::ColorScheme::dark);
 

@@ -1,6 +1,7 @@
 // How the store page's texts are set: their faces, the room between their lines, and where their lines stand.
 #include "Platform/UIKit/Views/UILabel.hpp"
 #include "ProUpsells/BrandAssetsShelf.hpp"
+#include "ProUpsells/CenteredText.hpp"
 #include "ProUpsells/FooterView.hpp"
 #include "ProUpsells/LabelHeaderView.hpp"
 #include "ProUpsells/PlanButton.hpp"
@@ -96,6 +97,7 @@ TEST_F(StoreParagraph, StandsInTheMiddleOfItsLabelsToo) {
         EXPECT_EQ(label->textAlignment(), graphics::TextAlignment::center);
         EXPECT_EQ(label->numberOfLines(), 0);
     }
+    EXPECT_EQ(makeCenteredLabel()->textAlignment(), graphics::TextAlignment::center);
 }
 
 } // namespace proupsells::tests

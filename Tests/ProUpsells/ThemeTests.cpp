@@ -9,6 +9,7 @@
 #include <gmock/gmock.h>
 
 #include "Backends/Headless/TestBed.hpp"
+#include "Platform/Graphics/Typefaces.hpp"
 #include "Platform/UIKit/Controllers/UIWindow.hpp"
 #include "Platform/VelaUIKit/DesignColors.hpp"
 #include "ProUpsells/ImageResource.hpp"
@@ -294,6 +295,16 @@ TEST_F(ThemeTest, StaysWhenTheNextOneIsRefused) {
     open(Shown::paywall);
 
     EXPECT_TRUE(paints(green));
+}
+
+TEST_F(ThemeTest, ShowsItsTextFamilyAlsoInTitlesUnlessTheseHaveOne) {
+    setTheme({.families = {.text = "Lato"}});
+    EXPECT_EQ(graphics::Typefaces::current().families,
+              (std::map<std::string, std::string>{{"Inter", "Lato"}, {"Inter Display", "Lato"}}));
+
+    setTheme({.families = {.text = "Lato", .display = "Lobster", .headings = "Fraunces"}});
+    EXPECT_EQ(graphics::Typefaces::current().families,
+              (std::map<std::string, std::string>{{"Inter", "Lato"}, {"Inter Display", "Lobster"}, {"Sora", "Fraunces"}}));
 }
 
 TEST_F(ThemeTest, IsSetOnTheMainThread) {
