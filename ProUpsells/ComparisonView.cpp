@@ -1,6 +1,7 @@
 #include "ProUpsells/ComparisonView.hpp"
 
 #include <algorithm>
+#include <numeric>
 
 #include "Platform/Foundation/Bundle.hpp"
 #include "Platform/Graphics/ContentSize.hpp"
@@ -79,7 +80,7 @@ View ComparisonView::category(std::size_t index, const Expanded& expanded) const
 
 View ComparisonView::categoryList(const View& header, const Expanded& expanded) const {
     std::vector<std::size_t> indices(items->size());
-    for (std::size_t index = 0; index < indices.size(); ++index) indices[index] = index;
+    std::iota(indices.begin(), indices.end(), std::size_t(0));
     View categories = VStack{.spacing = 0,
                              .content = ForEach(
                                  indices, [&](std::size_t index) { return Key((*items)[index].name); },

@@ -77,9 +77,7 @@ LazyStorePageShelf::Strip LazyStorePageShelf::viewStrip(const std::shared_ptr<ui
 // --- What stands around them ---
 
 LazyStorePageShelf::Controller LazyStorePageShelf::twoRows(const Controller& upper, const Controller& lower) {
-    const auto rows = std::make_shared<VerticallyStackedContainerViewController>(upper, lower);
-    rows->setContentSpacing(16);
-    return rows;
+    return std::make_shared<VerticallyStackedContainerViewController>(upper, lower);
 }
 
 LazyStorePageShelf::Controller LazyStorePageShelf::withTexts(const Controller& picture) const {

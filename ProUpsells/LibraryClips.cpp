@@ -21,9 +21,7 @@ std::vector<std::filesystem::path> foundLibraryClips() {
 
 std::vector<std::filesystem::path> playList(const std::vector<std::filesystem::path>& found) {
     constexpr std::size_t thirdRound = 5;
-    std::vector<std::filesystem::path> list;
-    list.reserve(2 * found.size() + thirdRound);
-    list.insert(list.end(), found.begin(), found.end());
+    std::vector<std::filesystem::path> list = found;
     list.insert(list.end(), found.begin(), found.end());
     list.insert(list.end(), found.begin(), found.begin() + std::ptrdiff_t(std::min(thirdRound, found.size())));
     return list;

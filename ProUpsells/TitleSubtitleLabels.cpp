@@ -48,9 +48,7 @@ void TitleSubtitleLabels::addTo(uikit::UIView& container) const {
 double TitleSubtitleLabels::heightIn(double width, const uikit::UITraitCollection& traits) const {
     const auto heightOf = [&](uikit::UILabel& label, double labelWidth) {
         label.setOverrideTraitCollection(traits);
-        const double height = label.sizeThatFits({labelWidth, std::nullopt}).height;
-        label.setOverrideTraitCollection(std::nullopt);
-        return height;
+        return label.sizeThatFits({labelWidth, std::nullopt}).height;
     };
     return heightOf(*m_titleLabel, width - 2 * titleInset) + distance +
            heightOf(*m_subtitleLabel, std::min(widestSubtitle, width - 2 * subtitleInset));

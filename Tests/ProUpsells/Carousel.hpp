@@ -49,14 +49,14 @@ private:
     }
 };
 
-inline void swipe(Carousel& carousel, double fromX, double toX) {
+inline void swipe(Carousel& carousel, double fromX, double toX, double y = 100) {
     const double start_s = carousel.bed().now_s();
-    carousel.touch(host::TouchPhase::began, {fromX, 100});
+    carousel.touch(host::TouchPhase::began, {fromX, y});
     for (int step = 1; step <= 10; ++step) {
         carousel.runUntil(start_s + 0.02 * step);
-        carousel.touch(host::TouchPhase::moved, {fromX + (toX - fromX) * step / 10, 100});
+        carousel.touch(host::TouchPhase::moved, {fromX + (toX - fromX) * step / 10, y});
     }
-    carousel.touch(host::TouchPhase::ended, {toX, 100});
+    carousel.touch(host::TouchPhase::ended, {toX, y});
     carousel.settle();
 }
 

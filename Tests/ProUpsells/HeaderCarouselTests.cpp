@@ -122,6 +122,16 @@ TEST(HeaderCarousel, GoesToASwipedPageAndOnFromThere) {
     EXPECT_EQ(carousel.shownTitle(), "page 2");
 }
 
+TEST(HeaderCarousel, IsSwipedByItsTitleToo) {
+    Carousel carousel(4);
+    const geometry::Rect title =
+        allWhere(carousel.tree(), [](const auto& node) { return node.text && node.text->text == "page 0"; }).front().frame;
+
+    swipe(carousel, title.maxX() - 1, title.maxX() - 241, title.midY());
+
+    EXPECT_EQ(carousel.shownTitle(), "page 1");
+}
+
 TEST(HeaderCarousel, EndsItsPause5SecondsAfterTheFirstOfSeveralChanges) {
     Carousel carousel(4);
     const auto control = carousel.frame("carousel.pageControl");

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "ProUpsells/ComparisonView.hpp"
+#include "Tests/ProUpsells/HostTranslations.hpp"
 #include "Tests/ProUpsells/Paywall.hpp"
 #include "Tests/ProUpsells/StoreScreen.hpp"
 
@@ -83,6 +84,36 @@ TEST(LargeText, LetsTheComparisonsHeaderScrollAwayWhereItIsInTheWay) {
         isHeaderInTheList(Screen(ComparisonView{}, {375, 667}, {.traits = traitsWith(ContentSizeCategory::accessibilityMedium)})));
     EXPECT_FALSE(
         isHeaderInTheList(Screen(ComparisonView{}, {375, 667}, {.traits = traitsWith(ContentSizeCategory::extraExtraExtraLarge)})));
+}
+
+TEST(LargeText, StandsAboveTheComparisonsColumnsFromAccessibilitySizesOn) {
+    for (const auto& [category, isAbove] :
+         {std::pair(ContentSizeCategory::extraExtraExtraLarge, false), std::pair(ContentSizeCategory::accessibilityMedium, true)}) {
+        const Screen comparison(ComparisonView{}, {744, 1133}, {.traits = traitsWith(category)});
+        const Rect title =
+            allWhere(comparison.tree(), [](const SemanticNode& node) { return node.text && node.text->text == "Compare Plans"; })
+                .front()
+                .frame;
+
+        EXPECT_EQ(title.maxY() <= comparison.frameOfType("ComparisonColumnCapsule").minY(), isAbove);
+    }
+}
+
+// A title that is one word, 150 points wide at most: set in 14.4 points or the next larger step, whatever the text size.
+TEST(LargeText, LetsTheComparisonsTitleShrinkToSixTenthsOfItsUsualSize) {
+    struct Case {
+        ContentSizeCategory category;
+        std::string title;
+        double size;
+    };
+    for (const Case& shown :
+         {Case{ContentSizeCategory::large, std::string(20, 'x'), 14.4}, Case{ContentSizeCategory::large, std::string(21, 'x'), 24},
+          Case{ContentSizeCategory::extraLarge, std::string(19, 'x'), 24 * 19 / 17.0 * 0.55}}) {
+        const HostTranslations translations({{"Compare Plans", shown.title}});
+        const Screen comparison(ComparisonView{}, {320, 568}, {.traits = traitsWith(shown.category)});
+
+        EXPECT_NEAR(sizeOf(comparison.tree(), shown.title), shown.size, 1e-9) << shown.title.size();
+    }
 }
 
 class LargeTextStore : public StoreTest {

@@ -43,6 +43,9 @@ TEST(MainThreadDeathTest, IsWantedByEveryCallOfAHost) {
         {"VelaProUpsellViewController::setOptions", [&] { entry->setOptions({monthly()}); }},
     };
     for (const auto& [name, call] : calls) EXPECT_DEATH(onAnotherThread(call), name + " must be called on the main thread");
+    const UpsellViewModel model;
+    EXPECT_DEATH(onAnotherThread([&] { SubscriptionOptionFormatter::makePickerRow(yearly(), model); }), "on the main thread");
+    EXPECT_DEATH(onAnotherThread([&] { SubscriptionOptionFormatter::makePickerRows(model); }), "on the main thread");
     EXPECT_DEATH(onAnotherThread([] { SubscriptionOptionFormatter::titleAndSubtitle(yearly(), std::nullopt); }),
                  "on the main thread");
 }

@@ -236,6 +236,39 @@ TEST(EmptyStrip, ShowsNoIndicators) {
     EXPECT_FALSE(strip->scrollView()->showsVerticalScrollIndicator());
 }
 
+TEST(Strip, HasTheSizeOfItsImageFromTheBeginning) {
+    const headless::TestBed bed;
+    auto image = std::make_shared<graphics::Image>();
+    image->size = {343, 50};
+
+    EXPECT_EQ(StorePageShelfViewController::create(image)->scrollView()->contentSize(), (geometry::Size{343, 50}));
+}
+
+TEST_F(StoreContainer, DoesNotDriftWhileItIsAway) {
+    const auto strip = StorePageShelfViewController::create(uikit::UIImage{});
+    strip->setScrollDirection(StorePageShelfViewController::ScrollDirection::left);
+    show(strip);
+    EXPECT_TRUE(strip->isAutoScrolling());
+
+    strip->viewDidDisappear(false);
+    strip->traitCollectionDidChange({});
+    EXPECT_FALSE(strip->isAutoScrolling());
+}
+
+TEST(TextsBelowAShelf, AreNoHigherThanTheyMust) {
+    const headless::TestBed bed;
+
+    EXPECT_EQ(TitleSubtitleContainerViewController(BrandAssetsShelf()).view()->contentHuggingPriority(uikit::Axis::vertical),
+              uikit::layoutPriorityHigh);
+}
+
+TEST(EmptyStrip, IsNoHigherThanItMust) {
+    const headless::TestBed bed;
+    const auto strip = StorePageShelfViewController::create(uikit::UIImage{});
+
+    EXPECT_EQ(strip->view()->contentHuggingPriority(uikit::Axis::vertical), uikit::layoutPriorityHigh);
+}
+
 TEST_F(StoreContainer, KnowsItsClipBeforeItStandsInAWindow) {
     EXPECT_EQ(TemplatesVideoView().videoView()->file()->stem(), "StorePageTemplatesVideo");
 }

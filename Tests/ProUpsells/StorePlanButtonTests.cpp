@@ -132,6 +132,23 @@ TEST_F(StorePlanButton, ShrinksATitleThatIsTooLong) {
     EXPECT_EQ(arrow().frame, (geometry::Rect{{320 - 22 - 16 - 24, arrow().frame.minY()}, {24, 16}}));
 }
 
+TEST_F(StorePlanButton, KeepsItsArrowWholeWhateverTheWidth) {
+    const auto button = showButton();
+    for (const double width : {331.0, 240.0, 160.0, 120.0, 80.0, 60.0}) {
+        button->setFrame({{22, 100}, {width, 60}});
+        bed.settle();
+        const graphics::DisplayList list = painted();
+        const auto image = std::find_if(list.commands.begin(), list.commands.end(), [](const graphics::Command& command) {
+            return command.kind == graphics::CommandKind::image;
+        });
+
+        ASSERT_NE(image, list.commands.end()) << width;
+        EXPECT_EQ(image->frame.size, (geometry::Size{24, 16})) << width;
+        const double arrowWidth = tests::firstOfType(tree(), "UIImageView").frame.width();
+        EXPECT_TRUE(arrowWidth == 24 || width < 72) << width << ": " << arrowWidth;
+    }
+}
+
 TEST_F(StorePlanButton, ShrinksATitleToElevenPointsWhateverTheTextSize) {
     for (const auto& [title, isTruncated] :
          {std::pair{"den passenden tarif auswählen!", false}, {"den allerbesten tarif jetzt auswählen!", true}}) {

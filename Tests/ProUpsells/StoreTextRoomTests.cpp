@@ -1,34 +1,14 @@
 // How a headline and its explanation are set smaller where there is too little room for them.
-#include "Backends/Headless/FixedTextShaper.hpp"
 #include "ProUpsells/BrandAssetsShelf.hpp"
 #include "ProUpsells/TitleSubtitleContainerViewController.hpp"
 #include "ProUpsells/VerticallyStackedContainerViewController.hpp"
 #include "ProUpsells/VideoImageLibrariesShelf.hpp"
+#include "Tests/ProUpsells/FreeLines.hpp"
 #include "Tests/ProUpsells/StoreScreen.hpp"
 
 namespace proupsells::tests {
 
 namespace {
-
-// The fixed measures, as a shaper of real typefaces hands them out: whoever shows a text may choose where its lines end.
-class FreeLinesShaper : public host::TextShaper {
-public:
-    std::shared_ptr<const graphics::ShapedText> shape(std::span<const graphics::StyledRun> runs, std::string_view language,
-                                                      geometry::LayoutDirection direction) override {
-        auto shaped = std::make_shared<graphics::ShapedText>(*m_fixed.shape(runs, language, direction));
-        shaped->keepsGreedyLines = false;
-        return shaped;
-    }
-
-private:
-    headless::FixedTextShaper m_fixed;
-};
-
-host::Services servicesWithFreeLines() {
-    host::Services services;
-    services.textShaper = std::make_shared<FreeLinesShaper>();
-    return services;
-}
 
 // In 375 points the headline has two lines of 27.5 points, 9 apart, and its explanation three of 20: 158 points with the 16 between
 // them. In one of 0.84 the headline needs one line only.

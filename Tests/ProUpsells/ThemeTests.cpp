@@ -355,6 +355,20 @@ TEST_F(PicturesOfATheme, LeaveOursWhereTheyAreMissingAndSayItAtOnce) {
     EXPECT_EQ(log.messages().size(), 1u);
 }
 
+// In a program of its own, which has read none of the pictures yet.
+TEST(PicturesOfAThemeDeathTest, AreReadAtOnce) {
+    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
+    const auto setBrokenPicture = [] {
+        headless::TestBed bed;
+        Theme theme;
+        theme.pictures["paywallHeaderA"] = {"none.png", {}};
+        setTheme(theme);
+        std::exit(int(bed.takeLogRecords().size()));
+    };
+
+    EXPECT_EXIT(setBrokenPicture(), ::testing::ExitedWithCode(1), "");
+}
+
 TEST_F(PicturesOfATheme, GoWithTheTheme) {
     Theme theme;
     theme.pictures["paywallHeaderA"] = {likeOurs("brand.svg", ImageResource::paywallHeaderA()), {}};

@@ -1,0 +1,84 @@
+// Texts that do not end in a line of a single short word.
+#include <algorithm>
+
+#include <gmock/gmock.h>
+
+#include "ProUpsells/DisclaimerBlock.hpp"
+#include "ProUpsells/LabelHeaderView.hpp"
+#include "Tests/ProUpsells/FreeLines.hpp"
+#include "Tests/ProUpsells/HostTranslations.hpp"
+#include "Tests/ProUpsells/Paywall.hpp"
+#include "Tests/ProUpsells/StoreScreen.hpp"
+
+namespace proupsells::tests {
+namespace {
+
+class BalancedText : public ::testing::Test {
+protected:
+    ~BalancedText() override { window->setRootViewController(nullptr); }
+
+    void show(const std::shared_ptr<uikit::UIViewController>& root) {
+        window->setRootViewController(root);
+        bed.settle();
+    }
+    // As they are painted, from top to bottom.
+    std::vector<std::string> lines(std::string_view first) {
+        graphics::DisplayList list;
+        window->paint(list);
+        std::vector<std::string> lines;
+        for (const graphics::Command& command : list.commands) {
+            if (command.kind != graphics::CommandKind::text) continue;
+            const graphics::ShapedText& text = *list.texts[std::size_t(command.resource)];
+            const std::string all = graphics::joinedText(text.runs);
+            if (!all.starts_with(first)) continue;
+            const graphics::Cluster &from = text.clusters[command.firstCluster], &last = text.clusters[command.endCluster - 1];
+            lines.push_back(all.substr(from.textOffset, last.textOffset + last.textLength - from.textOffset));
+        }
+        return lines;
+    }
+
+    headless::TestBed bed{servicesWithFreeLines()};
+    std::shared_ptr<uikit::UIWindow> window = uikit::UIWindow::create({375, 800});
+};
+
+// So many words of three letters.
+std::string words(int count) {
+    std::string text = "one";
+    for (int number = 1; number < count; ++number) text += " two";
+    return text;
+}
+
+MATCHER(EndsInMoreThanAWord, "") { return !arg.empty() && (arg.size() == 1 || arg.back().find(' ') != std::string::npos); }
+
+TEST_F(BalancedText, IsTheStorePagesHeadline) {
+    for (int count = 2; count < 25; ++count) {
+        const HostTranslations translations({{LabelHeaderView::headline, words(count)}});
+        const auto root = std::make_shared<uikit::UIViewController>();
+        root->view()->addSubview(std::make_shared<LabelHeaderView>(geometry::Rect{{0, 0}, {375, 220}}));
+        show(root);
+
+        EXPECT_THAT(lines("one"), EndsInMoreThanAWord()) << count;
+    }
+}
+
+TEST_F(BalancedText, IsThePaywallsSmallPrint) {
+    for (int count = 2; count < 40; ++count) {
+        show(hosting::UIHostingController::create([count]() -> swiftui::View { return DisclaimerBlock{.payment = words(count)}; }));
+
+        EXPECT_THAT(lines("one"), EndsInMoreThanAWord()) << count;
+    }
+}
+
+TEST_F(BalancedText, IsTheTitleOnAHeadersPicture) {
+    for (int count = 2; count < 15; ++count) {
+        const HostTranslations translations({{"Endless premium templates, updated daily.", words(count)}});
+        PaywallModel paywall(twoPlans());
+        show(hosting::UIHostingController::create(paywall.root()));
+
+        EXPECT_THAT(lines("one"), EndsInMoreThanAWord()) << count;
+        window->setRootViewController(nullptr);
+    }
+}
+
+} // namespace
+} // namespace proupsells::tests
