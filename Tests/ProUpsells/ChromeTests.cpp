@@ -113,6 +113,7 @@ TEST(SubscribeButton, Is56HighAndSharesItsRoomUnequally) {
     // 12 above, and 8 less than it shows below: 60 in all.
     EXPECT_EQ(screen.frame("subscribe"), (Rect{{16, 12}, {343, 56}}));
     EXPECT_EQ(screen.frameOfType("SubscribeButton"), (Rect{{0, 0}, {375, 60}}));
+    EXPECT_EQ(Screen(SubscribeButton{.text = "Subscribe Now"}, Size{375, 300}).frameOfType("SubscribeButton").height(), 60);
     EXPECT_EQ(screen.find("subscribe").label, "Subscribe Now");
 }
 

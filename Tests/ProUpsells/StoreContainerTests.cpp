@@ -3,6 +3,9 @@
 #include <iostream>
 #include <limits>
 
+#include "Platform/UIKit/Views/UIImageView.hpp"
+#include "Platform/UIKit/Views/UIStackView.hpp"
+#include "Platform/VelaUIKit/VelaColors.hpp"
 #include "ProUpsells/AllTheThingsHeaderViewShelf.hpp"
 #include "ProUpsells/BrandAssetsShelf.hpp"
 #include "ProUpsells/BrandAssetsVideoView.hpp"
@@ -213,6 +216,34 @@ TEST_F(StoreContainer, ShowsTheOtherHeaderToo) {
     EXPECT_EQ(header->frame(), (geometry::Rect{{0, 0}, {375, 800}}));
     // 50 characters of 12 points: two lines of 30 with 8 between them.
     EXPECT_EQ(header->titleLabel()->frame(), (geometry::Rect{{30, 0}, {315, 68}}));
+}
+
+TEST(StoreHeader, HasItsLogoInARow) {
+    const headless::TestBed bed;
+    const VelaProHeaderView header{geometry::Rect{}};
+    const uikit::UIImageView& logo = *header.proLogoImageView();
+
+    EXPECT_EQ(logo.contentMode(), uikit::UIImageView::ContentMode::aspectFit);
+    EXPECT_EQ(logo.tintColor(), velauikit::velaLabel);
+    EXPECT_EQ(logo.accessibilitySpoken.name, "Marwick Folio Pro");
+    EXPECT_EQ(dynamic_cast<const uikit::UIStackView&>(*logo.superview()).spacing(), 8);
+}
+
+TEST_F(StoreContainer, MeasuresItsHeadlineWithoutChangingIt) {
+    const auto root = std::make_shared<uikit::UIViewController>();
+    const auto header = std::make_shared<VelaProHeaderView>(geometry::Rect{{0, 0}, {375, 220}});
+    root->view()->addSubview(header);
+    show(root);
+    const double size = firstOfType(tree(), "UILabel").text->size;
+
+    EXPECT_GT(header->heightAddedForHeadline(
+                  375, {.preferredContentSizeCategory = graphics::ContentSizeCategory::accessibilityExtraExtraLarge}),
+              0);
+    header->setNeedsLayout();
+    window->setSize({375, 801}, {});
+    bed.settle();
+
+    EXPECT_EQ(firstOfType(tree(), "UILabel").text->size, size);
 }
 
 TEST_F(StoreContainer, PlaysTheClipOfTheAppearance) {

@@ -177,6 +177,23 @@ TEST_F(StorePageChrome, ClosesOnTouchesAroundItsSmallButton) {
     EXPECT_EQ(page->view()->hitTest({23 - 6, 37 - 6}), page->dismissIconButton().get());
 }
 
+TEST_F(StorePageChrome, BouncesAndHasNoIndicator) {
+    const auto page = showPage();
+
+    EXPECT_TRUE(page->collectionView()->alwaysBounceVertical());
+    EXPECT_FALSE(page->collectionView()->showsVerticalScrollIndicator());
+}
+
+TEST_F(StorePageChrome, LetsKeysStopAtTheShelvesThatHaveATitle) {
+    const auto page = showPage();
+
+    for (std::size_t section = 0; section < page->shelves().size(); ++section) {
+        const auto told = page->collectionViewDescriptionOfItemAt(*page->collectionView(), {section, 0});
+        EXPECT_EQ(told.identifier, "store.shelf." + std::string(page->shelves()[section]->className()));
+        EXPECT_EQ(told.takesFocus, !page->shelves()[section]->footerTitle().empty()) << told.identifier;
+    }
+}
+
 TEST_F(StorePageChrome, CanBeScrolledClearOfTheBar) {
     const auto page = showPage();
     scrollTo(*page, 1e9);

@@ -158,6 +158,14 @@ TEST(PickerRow, IsTheSameAloneAndInTheList) {
     EXPECT_FALSE(rows[2].badge.has_value());
 }
 
+TEST(PickerRow, SaysLargeSavingsToo) {
+    MainThread main;
+    UpsellViewModel model;
+    model.options = std::vector{yearly("8.99"), monthly("14.99")};
+
+    EXPECT_EQ(Formatter::makePickerRows(model)[0].badge, "Save 95%");
+}
+
 TEST(PickerRow, DoesNotReadPlaceholdersInPrices) {
     MainThread main;
 

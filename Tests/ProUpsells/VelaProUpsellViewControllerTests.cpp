@@ -189,6 +189,22 @@ TEST_F(EntryController, PassesComparisonPricesOnBeforeAndAfterLoading) {
     EXPECT_FALSE(paywall()->annualSubscriptionPriceForComparisonWithPromotionalPrice().has_value());
 }
 
+TEST_F(EntryController, PassesTheMonthlyComparisonPriceOnWhenItLoads) {
+    entry->setMonthlySubscriptionPriceForComparisonWithPromotionalPrice("$19");
+    (void)entry->view();
+
+    EXPECT_EQ(paywall()->monthlySubscriptionPriceForComparisonWithPromotionalPrice(), "$19");
+}
+
+TEST_F(EntryController, IsASheetOf375By800WhateverItWasBeforeItLoads) {
+    entry->setModalPresentationStyle(uikit::UIModalPresentationStyle::fullScreen);
+    entry->setPreferredContentSize({100, 100});
+    (void)entry->view();
+
+    EXPECT_EQ(entry->modalPresentationStyle(), uikit::UIModalPresentationStyle::formSheet);
+    EXPECT_EQ(entry->preferredContentSize(), (geometry::Size{375, 800}));
+}
+
 TEST_F(EntryController, PassesOptionsOnBeforeAndAfterLoading) {
     entry->setOptions({lifetime(), monthly("$1", {}, "first")});
     (void)entry->view();
