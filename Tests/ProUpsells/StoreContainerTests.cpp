@@ -41,7 +41,23 @@ protected:
     }
 };
 
+class Child : public uikit::UIViewController {
+public:
+    void didMoveToParent(uikit::UIViewController* parent) override { newParent = parent; }
+    uikit::UIViewController* newParent = nullptr;
+};
+
 } // namespace
+
+TEST_F(StoreContainer, TellsItsChildrenThatTheyHaveCome) {
+    const auto first = std::make_shared<Child>(), second = std::make_shared<Child>();
+    const auto stack = std::make_shared<VerticallyStackedContainerViewController>(first, second);
+
+    show(stack);
+
+    EXPECT_EQ(first->newParent, stack.get());
+    EXPECT_EQ(second->newParent, stack.get());
+}
 
 TEST_F(StoreContainer, StacksTwoControllers) {
     const auto first = std::make_shared<uikit::UIViewController>(), second = highController(103);

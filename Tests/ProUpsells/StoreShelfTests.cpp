@@ -4,6 +4,7 @@
 #include <limits>
 #include <type_traits>
 
+#include "Platform/UIKit/Views/UIStackView.hpp"
 #include "ProUpsells/AllTheThingsHeaderViewShelf.hpp"
 #include "ProUpsells/BrandAssetsShelf.hpp"
 #include "ProUpsells/LayoutCollectionsShelf.hpp"
@@ -178,6 +179,17 @@ TEST_F(StoreShelf, StaysAsItWasWhenTheHostChangesItsMindWhileThePageIsOpen) {
     scrollTo(*page, 1900);
     EXPECT_FALSE(has("store.shelf.iCloudSyncShelf"));
     EXPECT_TRUE(has("store.shelf.VideoImageLibrariesShelf"));
+}
+
+TEST(VideosShelf, SharesItsRowOutEqually) {
+    const headless::TestBed bed;
+    const auto clip = std::make_shared<velauikit::VideoView>();
+    VideoImageLibrariesShelf shelf;
+
+    shelf.createVideosShelf({clip, std::make_shared<velauikit::VideoView>()});
+
+    EXPECT_EQ(dynamic_cast<const uikit::UIStackView&>(*clip->superview()).distribution(),
+              uikit::UIStackView::Distribution::fillEqually);
 }
 
 TEST_F(StoreShelf, LetsItsTwoRowsDriftApart) {
