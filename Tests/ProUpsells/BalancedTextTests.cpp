@@ -3,8 +3,11 @@
 
 #include <gmock/gmock.h>
 
+#include "ProUpsells/BrandAssetsShelf.hpp"
 #include "ProUpsells/DisclaimerBlock.hpp"
 #include "ProUpsells/LabelHeaderView.hpp"
+#include "ProUpsells/TitleSubtitleContainerViewController.hpp"
+#include "ProUpsells/VerticallyStackedContainerViewController.hpp"
 #include "Tests/ProUpsells/FreeLines.hpp"
 #include "Tests/ProUpsells/HostTranslations.hpp"
 #include "Tests/ProUpsells/Paywall.hpp"
@@ -58,6 +61,20 @@ TEST_F(BalancedText, IsTheStorePagesHeadline) {
         show(root);
 
         EXPECT_THAT(lines("one"), EndsInMoreThanAWord()) << count;
+    }
+}
+
+TEST_F(BalancedText, IsWhatAShelfSays) {
+    const BrandAssetsShelf shelf;
+    for (int count = 2; count < 25; ++count) {
+        const HostTranslations translations(
+            {{"Upload brand assets", words(count)},
+             {"Add your logos, fonts and color palettes to use within your projects.", "First " + words(count)}});
+        show(std::make_shared<VerticallyStackedContainerViewController>(
+            std::make_shared<uikit::UIViewController>(), std::make_shared<TitleSubtitleContainerViewController>(shelf)));
+
+        EXPECT_THAT(lines("one"), EndsInMoreThanAWord()) << count;
+        EXPECT_THAT(lines("First"), EndsInMoreThanAWord()) << count;
     }
 }
 
