@@ -66,12 +66,12 @@ TEST_F(BalancedText, IsTheStorePagesHeadline) {
 
 TEST_F(BalancedText, IsWhatAShelfSays) {
     const BrandAssetsShelf shelf;
-    for (int count = 2; count < 25; ++count) {
+    for (int count = 2; count < 15; ++count) {
         const HostTranslations translations(
             {{"Upload brand assets", words(count)},
              {"Add your logos, fonts and color palettes to use within your projects.", "First " + words(count)}});
         show(std::make_shared<VerticallyStackedContainerViewController>(
-            std::make_shared<uikit::UIViewController>(), std::make_shared<TitleSubtitleContainerViewController>(shelf)));
+            std::make_shared<TitleSubtitleContainerViewController>(shelf), std::make_shared<uikit::UIViewController>()));
 
         EXPECT_THAT(lines("one"), EndsInMoreThanAWord()) << count;
         EXPECT_THAT(lines("First"), EndsInMoreThanAWord()) << count;
