@@ -255,6 +255,7 @@ TEST_F(StoreContainer, MeasuresItsHeadlineWithoutChangingIt) {
     EXPECT_GT(header->heightAddedForHeadline(
                   375, {.preferredContentSizeCategory = graphics::ContentSizeCategory::accessibilityExtraExtraLarge}),
               0);
+    EXPECT_EQ(header->heightAddedForHeadline(1024, {}), 0);
     header->setNeedsLayout();
     window->setSize({375, 801}, {});
     bed.settle();
