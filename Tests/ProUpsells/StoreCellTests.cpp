@@ -191,6 +191,16 @@ TEST_F(StripInACell, IsNotTurnedWhereAllOfItIsSeen) {
     EXPECT_FALSE(adjustment());
 }
 
+TEST_F(StripInACell, IsTurnedWhereAPointOfItIsOutOfSight) {
+    window->setSize({21 * 16 + 32, 800}, {});
+    showStrip(16);
+    EXPECT_FALSE(adjustment());
+
+    window->setSize({21 * 16 + 31, 800}, {});
+    bed.settle();
+    EXPECT_EQ(offsetAfter(1), 1);
+}
+
 TEST_F(StoreCell, IsOneStopForThoseWhoHearItWhereItHasAName) {
     VelaProStoreCell cell;
 
