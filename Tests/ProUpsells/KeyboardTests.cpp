@@ -245,6 +245,22 @@ TEST_F(Keyboard, ArrowsTurnAShelfsStrips) {
     EXPECT_NE(offset(), before);
 }
 
+// The first category opens as it comes into sight, above the one that comes into focus.
+TEST_F(Keyboard, KeepsACategoryInSightThatAnotherPushesAway) {
+    window->setSize({375, 330}, {});
+    tap("comparePlans");
+    tap("comparison.category.Content And Assets");
+    tabTo("comparison.category.Business Growth Tools");
+    ASSERT_FALSE(isExpanded("comparison.category.Content And Assets"));
+    ASSERT_FALSE(isOnScreen("comparison.category.Content And Assets"));
+
+    press(Key::backTab);
+
+    EXPECT_EQ(inFocus(), "comparison.category.Creation Tools");
+    EXPECT_TRUE(isExpanded("comparison.category.Content And Assets"));
+    EXPECT_TRUE(isOnScreen("comparison.category.Creation Tools"));
+}
+
 // Neither under the white gradient nor beyond an edge.
 TEST_F(Keyboard, BringsTheWholeControlInSight) {
     for (const double height : {800.0, 600.0, 400.0}) {

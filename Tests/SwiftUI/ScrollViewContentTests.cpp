@@ -233,6 +233,46 @@ TEST(ScrollView, LeavesTheAnimationOfAChangeToWhatIsInSight) {
     EXPECT_NEAR(rows.screen.frame("row7").minY(), 200, 1e-9);
 }
 
+// What stands above the target changes its height in a second.
+struct MovingTarget {
+    MovingTarget(double before, double after, double below) : above(before), below(below) {
+        screen.rebuild();
+        withAnimation(motion::Animation{motion::TimingCurve::linear(), 1}, [&] {
+            above = after;
+            screen.rebuild();
+        });
+    }
+    double top() { return screen.frame("target").minY(); }
+
+    double above;
+    double below;
+    TouchScreen screen{[this] {
+        return ScrollView{
+            .content = {
+                VStack{.spacing = 0, .content = {box(300, above, "above"), box(300, 100, "target"), box(300, below, "below")}}}};
+    }};
+};
+
+TEST(ScrollView, RevealsWhatIsPushedOutOfSightWhereItComesToRest) {
+    MovingTarget target(100, 600, 1000);
+    ASSERT_EQ(target.top(), 100);
+
+    target.screen.find("target").reveal();
+    EXPECT_EQ(target.top(), 349); // its middle is the viewport's last point
+    target.screen.wait(1);
+    EXPECT_EQ(target.top(), 349);
+}
+
+TEST(ScrollView, RevealsAtOnceWhatIsOnItsWayIntoSight) {
+    MovingTarget target(600, 100, 200);
+    ASSERT_EQ(target.top(), 600);
+
+    target.screen.find("target").revealWhole();
+    EXPECT_EQ(target.top(), 100);
+    target.screen.wait(1);
+    EXPECT_EQ(target.top(), 100);
+}
+
 TEST(ScrollView, RevealsNothingOnceItIsGone) {
     bool isThere = true;
     TouchScreen screen{[&] { return isThere ? rows() : View{}; }};

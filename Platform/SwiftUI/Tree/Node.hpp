@@ -74,6 +74,8 @@ public:
     void place(geometry::Point origin, const geometry::ProposedSize& proposal);
     // Moves it without a new layout and without animation.
     void moveTo(geometry::Point origin);
+    // Ends the movements of what is inside: all of it is where the last layout has put it.
+    void bringToRest();
     // Where the last layout has put it, in its parent's coordinates. While it moves there, presentationFrame is where it is seen.
     const geometry::Rect& frame() const { return m_frame; }
     geometry::Rect presentationFrame(double now_s) const;
@@ -215,6 +217,8 @@ private:
     // The transitions of a subtree that is about to come or go.
     void collectTransitions(std::vector<TransitionHandler*>& result);
     void matchKeyedChildren(const ViewList& views, UpdatePass& pass);
+    void appendOwnSemantics(SemanticContext& context, const graphics::PaintState& parentState,
+                            std::vector<accessibility::SemanticNode>& result);
     void animateFrameTo(const geometry::Rect& target);
     void withdrawAbsentChildren();
     // Whether something inside is on its way out.

@@ -88,6 +88,15 @@ void Node::moveTo(Point origin) {
     m_frameAnimation.reset();
 }
 
+void Node::bringToRest() {
+    for (const auto& child : m_children) {
+        if (!child) continue;
+        child->m_frameAnimation.reset();
+        child->bringToRest();
+    }
+    setNeedsDisplay();
+}
+
 Rect Node::presentationFrame(double now_s) const { return m_frameAnimation ? m_frameAnimation->valueAt(now_s) : m_frame; }
 
 Rect Node::frameInHost(double now_s) const {

@@ -50,15 +50,33 @@ accessibility::SemanticNode SemanticContext::makeNode(std::string_view type, con
     node.isControl = attributes.isControl;
     node.activate = std::move(attributes.activate);
     if (reveal) {
-        node.reveal = [reveal = reveal, target = node.frame] { reveal(target, Revealed::centre); };
-        node.revealWhole = [reveal = reveal, target = node.frame] { reveal(target, Revealed::whole); };
+        node.reveal = revealing(node.frame, Revealed::centre);
+        node.revealWhole = revealing(node.frame, Revealed::whole);
     }
     return node;
+}
+
+// What moves is revealed where it comes to rest, and rests there from then on.
+std::function<void()> SemanticContext::revealing(const Rect& frame, Revealed revealed) const {
+    const Rect target = frame.offsetBy(movement);
+    if (movement == geometry::Point{}) return [reveal = reveal, target, revealed] { reveal(target, revealed); };
+    return [reveal = reveal, bringToRest = bringToRest, target, revealed] {
+        if (bringToRest) bringToRest();
+        reveal(target, revealed);
+    };
 }
 
 void Node::appendSemantics(SemanticContext& context, const PaintState& parentState,
                            std::vector<accessibility::SemanticNode>& result) {
     if (!m_hasBeenPlaced) return;
+    const geometry::Point movement = context.movement;
+    context.movement = movement + (m_frame.origin - presentationFrame(context.now_s).origin);
+    appendOwnSemantics(context, parentState, result);
+    context.movement = movement;
+}
+
+void Node::appendOwnSemantics(SemanticContext& context, const PaintState& parentState,
+                              std::vector<accessibility::SemanticNode>& result) {
     const double now_s = context.now_s;
     // What moves may be outside the bounds, which are those of the end of the movement.
     if (parentState.readsOnlyWhatIsSeen && parentState.hides(m_paintBounds.offsetBy(m_frame.origin)) && !isMovingAt(now_s)) return;

@@ -40,9 +40,16 @@ struct SemanticContext {
     SemanticAttributes pending;
     // Scrolls the scroll views around. Each scroll view puts its own in place for its content.
     Revealer reveal;
+    // By how far what is described still moves in the innermost scroll view's content before it rests, in points.
+    geometry::Point movement;
+    // Brings that content to rest at once. Empty outside scroll views.
+    std::function<void()> bringToRest;
 
     // Makes a node of the type. The pending attributes go into it and are empty afterwards.
     accessibility::SemanticNode makeNode(std::string_view type, const graphics::PaintState& state, const geometry::Rect& frame);
+
+private:
+    std::function<void()> revealing(const geometry::Rect& frame, Revealed revealed) const;
 };
 
 } // namespace proupsells::swiftui

@@ -1,6 +1,7 @@
 #include "Platform/SwiftUI/Views/ScrollView.hpp"
 
 #include <algorithm>
+#include <utility>
 
 #include "Platform/Graphics/ScrollIndicator.hpp"
 #include "Platform/Motion/DragOrigin.hpp"
@@ -278,6 +279,11 @@ void ScrollViewNode::appendSemantics(SemanticContext& context, const graphics::P
     const double shown = m_axis == Axis::vertical ? place.height() : place.width();
     const Sight sight{place, shownOffset(context.now_s), shown > 0 ? length() / shown : 1};
     const auto outer = context.reveal;
+    // Its own movement is none of its content.
+    const auto outerMovement = std::exchange(context.movement, presentationFrame(context.now_s).origin - frame().origin);
+    const auto outerRest = std::exchange(context.bringToRest, [self = std::weak_ptr(m_self)] {
+        if (const auto node = self.lock()) (*node)->bringToRest();
+    });
     context.reveal = [self = std::weak_ptr(m_self), sight, outer](const geometry::Rect& inWindow, Revealed revealed) {
         geometry::Point moved;
         if (const auto node = self.lock()) moved = (*node)->revealed(inWindow, revealed, sight);
@@ -285,6 +291,8 @@ void ScrollViewNode::appendSemantics(SemanticContext& context, const graphics::P
     };
     Node::appendSemantics(context, parentState, result);
     context.reveal = outer;
+    context.movement = outerMovement;
+    context.bringToRest = outerRest;
 }
 
 // Scrolls by as little as brings the rectangle, or its centre, into the viewport. Returns by how much the rectangle has moved in

@@ -88,7 +88,22 @@ void KeyboardFocus::give(const Stop& stop, std::size_t index) {
 void KeyboardFocus::giveInSight(const std::vector<Stop>& stops, std::size_t index) {
     give(stops[index], index);
     if (const auto& reveal = stops[index].element->revealWhole) reveal();
+    // What comes into sight with it may change the page, and push it away again.
+    constexpr int furtherAttempts = 2;
+    for (int attempt = 0; !isFocusSeen() && !m_window.isTransitioning() && attempt < furtherAttempts; ++attempt) revealFocus();
+}
+
+bool KeyboardFocus::isFocusSeen() {
     m_lastFrame = frameInFocus(m_window.semanticTree());
+    return m_lastFrame.has_value();
+}
+
+void KeyboardFocus::revealFocus() {
+    const Place* const here = place();
+    const Stops now = stops();
+    const std::optional<std::size_t> index = here ? indexOf(*here, now.all) : std::nullopt;
+    if (!index) return;
+    if (const auto& reveal = now.all[*index].element->revealWhole) reveal();
 }
 
 std::optional<std::size_t> KeyboardFocus::nextStop(const std::vector<Stop>& stops, std::ptrdiff_t from, int step,

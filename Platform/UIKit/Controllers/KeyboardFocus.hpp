@@ -81,6 +81,8 @@ private:
     static std::optional<std::size_t> nextStop(const std::vector<Stop>& stops, std::ptrdiff_t from, int step, const Element* group);
     void give(const Stop& stop, std::size_t index);
     void giveInSight(const std::vector<Stop>& stops, std::size_t index);
+    bool isFocusSeen();
+    void revealFocus();
     bool chooseNeighbour(const std::vector<Stop>& stops, std::size_t index, int step);
     // By how much a key steps along what reads from left to right or from right to left: 1, -1, or 0 for other keys.
     int horizontalStep(host::Key key) const;
