@@ -73,7 +73,7 @@ std::vector<Drawing> drawings() {
 }
 
 // The folder above the working directory, or above this source, that has them.
-std::filesystem::path folder() {
+std::filesystem::path drawnFolder() {
     for (auto start : {std::filesystem::current_path(), std::filesystem::path(__FILE__)})
         for (auto above = start; above != above.parent_path(); above = above.parent_path())
             if (std::filesystem::exists(above / "Tests/ProUpsells/Drawn")) return above / "Tests/ProUpsells/Drawn";
@@ -122,7 +122,7 @@ TEST_P(DrawnScreens, AreAsTheyWere) {
 
     const std::string seen = DrawnScreen(painted(), GetParam().size).text() + '\n' + described(tree());
 
-    const std::filesystem::path file = folder() / (std::string(GetParam().name) + ".txt");
+    const std::filesystem::path file = drawnFolder() / (std::string(GetParam().name) + ".txt");
     if (std::getenv("PROUPSELLS_DRAW")) std::ofstream(file, std::ios::binary) << seen;
     std::ostringstream drawn;
     drawn << std::ifstream(file, std::ios::binary).rdbuf();

@@ -7,7 +7,7 @@ namespace {
 
 using ScrollDirection = StorePageShelfViewController::ScrollDirection;
 
-uikit::UIImage imageOf(geometry::Size size) {
+uikit::UIImage pictureOf(geometry::Size size) {
     auto image = std::make_shared<graphics::Image>();
     image->size = size;
     return image;
@@ -17,7 +17,7 @@ class StripAttention : public StoreTest {
 protected:
     // 21 tiles of 100 points, 20 gaps and two edges of 16: 2452 points, 75 steps past the 2077 at which its end is seen.
     std::shared_ptr<StorePageShelfViewController> showStrip() {
-        auto strip = StorePageShelfViewController::create(RepeatableShelfImageView({imageOf({100, 50})}), 16);
+        auto strip = StorePageShelfViewController::create(RepeatableShelfImageView({pictureOf({100, 50})}), 16);
         strip->setScrollDirection(ScrollDirection::right);
         show(strip);
         return strip;
@@ -39,7 +39,7 @@ TEST_F(StripAttention, LeavesAStripThatFitsWhereItIs) {
     uikit::UITraitCollection traits = window->traits();
     traits.reduceMotion = true;
     window->setTraits(traits);
-    const auto strip = StorePageShelfViewController::create(imageOf({100, 50}));
+    const auto strip = StorePageShelfViewController::create(pictureOf({100, 50}));
     strip->setScrollDirection(ScrollDirection::right);
 
     show(strip);
