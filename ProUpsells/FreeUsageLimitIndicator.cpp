@@ -13,7 +13,7 @@ using lumokit::DecorativeColor::tealProminent;
 
 View FreeUsageLimitIndicator::body(BuildContext&) const {
     return Text{ComparisonCatalogue::freeUsageText(count)} | lumokit::textStyle(lumokit::labelCapsSmall) |
-           foregroundStyle(tealProminent) | padding(6) |
+           foregroundStyle(tealProminent) | multilineTextAlignment(graphics::TextAlignment::center) | padding(6) |
            background(Capsule(geometry::CornerStyle::continuous).fill(tealBackground));
 }
 
