@@ -17,7 +17,8 @@ public:
     // Puts the labels into `container`, the headline on top.
     void addTo(uikit::UIView& container) const;
 
-    // How high the two are, one below the other, where the container has a width and these traits.
+    // How high the two are, one below the other, where the container has a width and these traits. They keep the traits: labels
+    // that are shown are not asked.
     double heightIn(double width, const uikit::UITraitCollection& traits) const;
 
     // The share of their sizes, 0.8 at least, at which both are no higher than `room`. Where lines are to be worked out by hand, 1.

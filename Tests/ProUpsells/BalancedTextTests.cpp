@@ -8,6 +8,7 @@
 #include "ProUpsells/LabelHeaderView.hpp"
 #include "ProUpsells/TitleSubtitleContainerViewController.hpp"
 #include "ProUpsells/VerticallyStackedContainerViewController.hpp"
+#include "Tests/ProUpsells/DrawnScreen.hpp"
 #include "Tests/ProUpsells/FreeLines.hpp"
 #include "Tests/ProUpsells/HostTranslations.hpp"
 #include "Tests/ProUpsells/Paywall.hpp"
@@ -32,10 +33,7 @@ protected:
         for (const graphics::Command& command : list.commands) {
             if (command.kind != graphics::CommandKind::text) continue;
             const graphics::ShapedText& text = *list.texts[std::size_t(command.resource)];
-            const std::string all = graphics::joinedText(text.runs);
-            if (!all.starts_with(first)) continue;
-            const graphics::Cluster &from = text.clusters[command.firstCluster], &last = text.clusters[command.endCluster - 1];
-            lines.push_back(all.substr(from.textOffset, last.textOffset + last.textLength - from.textOffset));
+            if (graphics::joinedText(text.runs).starts_with(first)) lines.push_back(paintedWords(text, command));
         }
         return lines;
     }

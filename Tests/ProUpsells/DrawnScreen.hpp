@@ -21,6 +21,12 @@ inline std::string rounded(double number) {
     return result;
 }
 
+// What a command paints of its text.
+inline std::string paintedWords(const graphics::ShapedText& text, const graphics::Command& command) {
+    const graphics::Cluster &first = text.clusters[command.firstCluster], &last = text.clusters[command.endCluster - 1];
+    return graphics::joinedText(text.runs).substr(first.textOffset, last.textOffset + last.textLength - first.textOffset);
+}
+
 class DrawnScreen {
 public:
     explicit DrawnScreen(const graphics::DisplayList& list, geometry::Size size) : m_list(list), m_screen{{}, size} {}
@@ -79,11 +85,9 @@ private:
     }
 
     void sayText(const graphics::ShapedText& text, const graphics::Command& command) {
-        const std::string all = graphics::joinedText(text.runs);
-        const graphics::Cluster &first = text.clusters[command.firstCluster], &last = text.clusters[command.endCluster - 1];
-        const graphics::StyledRun& run = text.runs[first.run];
-        m_stream << " \"" << all.substr(first.textOffset, last.textOffset + last.textLength - first.textOffset) << "\" "
-                 << (run.font.face ? run.font.face->name : "system") << ' ' << rounded(run.font.size);
+        const graphics::StyledRun& run = text.runs[text.clusters[command.firstCluster].run];
+        m_stream << " \"" << paintedWords(text, command) << "\" " << (run.font.face ? run.font.face->name : "system") << ' '
+                 << rounded(run.font.size);
         if (run.font.weightOption) m_stream << " weight " << *run.font.weightOption;
         if (run.kern != 0) say(" kern", {run.kern});
     }

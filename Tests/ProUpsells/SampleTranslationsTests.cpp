@@ -16,6 +16,7 @@
 #include "Tests/ProUpsells/Offers.hpp"
 #include "Tests/ProUpsells/Screen.hpp"
 #include "Tests/ProUpsells/SemanticSearch.hpp"
+#include "Tests/Support/SourceFile.hpp"
 #include "Tooling/TranslatableText.hpp"
 
 namespace proupsells::tests {
@@ -28,13 +29,7 @@ using ::testing::IsEmpty;
 using ::testing::Not;
 using TapEvent = UpsellViewModel::TapEvent;
 
-// In the folder above the working directory, or above this source, that has them.
-std::filesystem::path folder() {
-    for (auto start : {std::filesystem::current_path(), std::filesystem::path(__FILE__)})
-        for (auto above = start; above != above.parent_path(); above = above.parent_path())
-            if (std::filesystem::exists(above / "Examples/Translations")) return above / "Examples/Translations";
-    return {};
-}
+std::filesystem::path folder() { return sourceFile("Examples/Translations"); }
 
 // What stands in the file of each language.
 std::map<std::string, std::string> files() {

@@ -12,21 +12,17 @@
 #include "Platform/VelaUIKit/VelaColors.hpp"
 #include "ProUpsells/Theme.hpp"
 #include "ProUpsells/ThemePicture.hpp"
+#include "Tests/Support/SourceFile.hpp"
 
 namespace proupsells::tests {
 namespace {
 
 using ::testing::HasSubstr;
 
-// The page in the folder above the working directory, or above this source, that has it.
 std::string page() {
-    for (auto start : {std::filesystem::current_path(), std::filesystem::path(__FILE__)}) {
-        for (auto folder = start; folder != folder.parent_path(); folder = folder.parent_path()) {
-            std::ostringstream content;
-            if (std::ifstream file(folder / "Docs/theme.md"); file && content << file.rdbuf()) return content.str();
-        }
-    }
-    return {};
+    std::ostringstream content;
+    content << std::ifstream(sourceFile("Docs/theme.md")).rdbuf();
+    return content.str();
 }
 
 std::string cell(std::string_view name) { return "| `" + std::string(name) + "` "; }
