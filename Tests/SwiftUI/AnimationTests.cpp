@@ -68,6 +68,40 @@ TEST_F(Animating, WithoutAnAnimationTheyJump) {
     EXPECT_FALSE(screen->host().isAnimating());
 }
 
+TEST_F(Animating, GoOnTheirWayWhenOnlyTheirSizeJumps) {
+    double width = 20;
+    show([&] {
+        return HStack{.spacing = 0, .content = {block("before", isOn ? 50 : 10, 10), block("box", width, 10)}} |
+               frame({.width = 100, .alignment = Alignment::leading});
+    });
+    change(linear(1));
+    screen->runFor(0.5);
+
+    width = 30;
+    screen->host().setNeedsUpdate();
+    screen->settle();
+
+    EXPECT_EQ(screen->frame("box"), Rect({30, 45}, {30, 10}));
+    screen->runFor(0.25);
+    EXPECT_EQ(screen->frame("box").minX(), 40);
+}
+
+TEST_F(Animating, GoOnGrowingWhenOnlyTheirPlaceJumps) {
+    double before = 10;
+    show([&] {
+        return HStack{.spacing = 0, .content = {block("before", before, 10), block("box", isOn ? 50 : 10, 10)}} |
+               frame({.width = 100, .alignment = Alignment::leading});
+    });
+    change(linear(1));
+    screen->runFor(0.5);
+
+    before = 20;
+    screen->host().setNeedsUpdate();
+    screen->settle();
+
+    EXPECT_EQ(screen->frame("box"), Rect({20, 45}, {30, 10}));
+}
+
 TEST_F(Animating, ReducedMotionJumpsButFades) {
     show([&] { return block("box", isOn ? 50 : 10, 10) | opacity(isOn ? 0 : 1); });
     EnvironmentValues values = screen->host().environment();

@@ -1,6 +1,7 @@
 // Values that get to where they are set over time.
 #pragma once
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -14,9 +15,8 @@ constexpr double interpolated(double from, double to, double progress) { return 
 constexpr geometry::Point interpolated(geometry::Point from, geometry::Point to, double progress) {
     return {interpolated(from.x, to.x, progress), interpolated(from.y, to.y, progress)};
 }
-constexpr geometry::Rect interpolated(const geometry::Rect& from, const geometry::Rect& to, double progress) {
-    return {interpolated(from.origin, to.origin, progress),
-            {interpolated(from.size.width, to.size.width, progress), interpolated(from.size.height, to.size.height, progress)}};
+constexpr geometry::Size interpolated(geometry::Size from, geometry::Size to, double progress) {
+    return {interpolated(from.width, to.width, progress), interpolated(from.height, to.height, progress)};
 }
 // Both appearances, as they are painted. It has no name: no palette has a value for what is on its way.
 graphics::Color interpolated(const graphics::Color& from, const graphics::Color& to, double progress);
@@ -62,6 +62,23 @@ private:
 
     Value m_target;
     std::unique_ptr<Movement> m_movement; // null before the first one
+};
+
+// Place and size move on their own: what only changes its size at once goes on its way.
+class AnimatedFrame {
+public:
+    explicit AnimatedFrame(const geometry::Rect& frame) : m_origin(frame.origin), m_size(frame.size) {}
+
+    geometry::Rect valueAt(double now_s) const { return {m_origin.valueAt(now_s), m_size.valueAt(now_s)}; }
+    double end_s() const { return std::max(m_origin.end_s(), m_size.end_s()); }
+    void set(const geometry::Rect& target, const motion::Animation* animation, double now_s) {
+        m_origin.set(target.origin, animation, now_s);
+        m_size.set(target.size, animation, now_s);
+    }
+
+private:
+    Animated<geometry::Point> m_origin;
+    Animated<geometry::Size> m_size;
 };
 
 } // namespace proupsells::swiftui

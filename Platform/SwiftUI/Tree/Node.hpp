@@ -251,7 +251,7 @@ private:
     geometry::Rect m_paintBounds;                 // of the node and everything inside, in its own coordinates
     std::unique_ptr<ChildExtents> m_childExtents; // null for few children
     StoredProposal m_placedProposal;
-    std::unique_ptr<Animated<geometry::Rect>> m_frameAnimation;
+    std::unique_ptr<AnimatedFrame> m_frameAnimation;
     CachedSize m_sizes[4];
     std::uint8_t m_sizeCount = 0;
     std::uint8_t m_nextSize = 0;

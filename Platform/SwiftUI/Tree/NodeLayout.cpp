@@ -73,13 +73,13 @@ void Node::place(Point origin, const ProposedSize& proposed) {
 
 void Node::animateFrameTo(const Rect& target) {
     const motion::Animation* animation = m_host->m_layoutAnimation;
-    if (!animation || !m_hasBeenPlaced || environment().reduceMotion) {
+    const bool mayMove = m_hasBeenPlaced && !environment().reduceMotion;
+    if (!mayMove || (!animation && !m_frameAnimation)) {
         m_frameAnimation.reset();
         return;
     }
-    const double now_s = m_host->now_s();
-    if (!m_frameAnimation) m_frameAnimation = std::make_unique<Animated<Rect>>(m_frame);
-    m_frameAnimation->set(target, animation, now_s);
+    if (!m_frameAnimation) m_frameAnimation = std::make_unique<AnimatedFrame>(m_frame);
+    m_frameAnimation->set(target, animation, m_host->now_s());
     noteMovement(m_frameAnimation->end_s());
 }
 
