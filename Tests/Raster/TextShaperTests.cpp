@@ -9,7 +9,6 @@
 #include "Backends/Raster/RasterShapedText.hpp"
 #include "Backends/Raster/RasterTextShaper.hpp"
 #include "Platform/Graphics/TextLayout.hpp"
-#include "Platform/Host/TextCache.hpp"
 #include "Tests/Support/LogRecorder.hpp"
 
 using namespace proupsells;
@@ -261,34 +260,12 @@ TEST(RasterTextShaper, KeepsTheOrderOfATextWhateverTheScreens) {
     EXPECT_THAT(levels(*greeting), Each(1));
 }
 
-TEST(RasterTextShaper, JoinsArabicLetters) {
-    const auto shapeOf = [](const std::string& text, std::size_t cluster) {
-        const auto shaped =
-            std::static_pointer_cast<const rasterbackend::RasterShapedText>(shape(text, LayoutDirection::rightToLeft));
-        return shaped->glyphs.at(shaped->glyphStarts.at(cluster)).shape;
-    };
-
-    EXPECT_NE(shapeOf("بب", 0), shapeOf("ب", 0));
-    EXPECT_NE(shapeOf("بب", 0), shapeOf("بب", 1));
-    EXPECT_EQ(shapeOf("بب ب", 3), shapeOf("ب", 0));
-}
-
 TEST(RasterTextShaper, TurnsLettersRoundWhereTheTextSaysSo) {
     const auto text = std::static_pointer_cast<const rasterbackend::RasterShapedText>(shape("\u202Eab\u202C"));
 
     EXPECT_EQ(text->clusters[1].bidiLevel, 1);
     EXPECT_EQ(text->clusters[2].bidiLevel, 1);
     EXPECT_NEAR(width(*text), width(*shape("ab")), 0.2);
-}
-
-TEST(RasterTextShaper, SharesALigaturesWidthAmongItsCharacters) {
-    // Lam and alef become one glyph.
-    const auto text = std::static_pointer_cast<const rasterbackend::RasterShapedText>(shape("لا", LayoutDirection::rightToLeft));
-
-    ASSERT_EQ(text->clusters.size(), 2u);
-    EXPECT_GT(text->clusters[0].advance, 0);
-    EXPECT_NEAR(text->clusters[0].advance, text->clusters[1].advance, 1e-9);
-    EXPECT_THAT(text->groupStarts, ElementsAre(0, 0));
 }
 
 TEST(RasterTextShaper, GivesClustersOfSeveralCharactersTheirOwnPlaces) {
@@ -379,45 +356,6 @@ TEST(RasterTextShaper, WritesLettersAsTheLanguageDoes) {
     EXPECT_NE(shapeOf("ro"), shapeOf("tr"));
     EXPECT_EQ(shapeOf("en"), shapeOf("tr"));
     EXPECT_EQ(shapeOf(""), shapeOf("\xFF no language"));
-}
-
-TEST(RasterTextShaper, JoinsArabicLettersAcrossRuns) {
-    const auto text = std::static_pointer_cast<const rasterbackend::RasterShapedText>(
-        shapeRuns({{"ب", {.size = 16}, 0}, {"ب", {.size = 16}, 0}}, LayoutDirection::rightToLeft));
-    const auto word = std::static_pointer_cast<const rasterbackend::RasterShapedText>(shape("بب", LayoutDirection::rightToLeft));
-
-    EXPECT_EQ(text->glyphs.at(0).shape, word->glyphs.at(0).shape);
-    EXPECT_EQ(text->glyphs.at(1).shape, word->glyphs.at(1).shape);
-}
-
-TEST(RasterTextShaper, LeavesLigaturesOutWhereLettersAreSpaced) {
-    const auto groups = [](double kern) {
-        const TextRef shaped = shapeRuns({{"ffi", {.face = sora(700), .size = 16}, kern}});
-        return std::static_pointer_cast<const rasterbackend::RasterShapedText>(shaped)->groupStarts;
-    };
-
-    EXPECT_THAT(groups(0), ElementsAre(0, 0, 0));
-    EXPECT_THAT(groups(0.5), ElementsAre(0, 1, 2));
-}
-
-TEST(RasterTextShaper, NeverPullsLettersApartThatAreJoined) {
-    const auto width = [](const char* word, double kern) {
-        return host::totalAdvance(*shapeRuns({{word, {.size = 16}, kern}}, LayoutDirection::rightToLeft));
-    };
-
-    EXPECT_EQ(width("سنوي", 2), width("سنوي", 0));
-    EXPECT_EQ(width("वार्षिक", 2), width("वार्षिक", 0));
-    EXPECT_NEAR(width("שנה", 2), width("שנה", 0) + 6, 1e-2);
-}
-
-TEST(RasterTextShaper, PutsTheKernOnTheFarSideOfALetter) {
-    const auto place = [](double kern) {
-        const auto shaped = std::static_pointer_cast<const rasterbackend::RasterShapedText>(
-            shapeRuns({{"א", {.size = 16}, kern}}, LayoutDirection::rightToLeft));
-        return shaped->glyphs.at(0).x;
-    };
-
-    EXPECT_NEAR(place(2), place(0) + 2, 1e-3);
 }
 
 TEST(RasterTextShaper, ShapesTheSameTextTheSameWayAgain) {

@@ -217,8 +217,8 @@ private:
     // The transitions of a subtree that is about to come or go.
     void collectTransitions(std::vector<TransitionHandler*>& result);
     void matchKeyedChildren(const ViewList& views, UpdatePass& pass);
-    void appendOwnSemantics(SemanticContext& context, const graphics::PaintState& parentState,
-                            std::vector<accessibility::SemanticNode>& result);
+    void appendSemanticsAt(const geometry::Rect& frame, SemanticContext& context, const graphics::PaintState& parentState,
+                           std::vector<accessibility::SemanticNode>& result);
     void animateFrameTo(const geometry::Rect& target);
     void withdrawAbsentChildren();
     // Whether something inside is on its way out.

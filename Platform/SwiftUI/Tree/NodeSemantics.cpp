@@ -69,18 +69,18 @@ std::function<void()> SemanticContext::revealing(const Rect& frame, Revealed rev
 void Node::appendSemantics(SemanticContext& context, const PaintState& parentState,
                            std::vector<accessibility::SemanticNode>& result) {
     if (!m_hasBeenPlaced) return;
+    const Rect frame = presentationFrame(context.now_s);
     const geometry::Point movement = context.movement;
-    context.movement = movement + (m_frame.origin - presentationFrame(context.now_s).origin);
-    appendOwnSemantics(context, parentState, result);
+    context.movement = movement + (m_frame.origin - frame.origin);
+    appendSemanticsAt(frame, context, parentState, result);
     context.movement = movement;
 }
 
-void Node::appendOwnSemantics(SemanticContext& context, const PaintState& parentState,
-                              std::vector<accessibility::SemanticNode>& result) {
+void Node::appendSemanticsAt(const Rect& frame, SemanticContext& context, const PaintState& parentState,
+                             std::vector<accessibility::SemanticNode>& result) {
     const double now_s = context.now_s;
     // What moves may be outside the bounds, which are those of the end of the movement.
     if (parentState.readsOnlyWhatIsSeen && parentState.hides(m_paintBounds.offsetBy(m_frame.origin)) && !isMovingAt(now_s)) return;
-    const Rect frame = presentationFrame(now_s);
     PaintState state = parentState.movedBy(frame.origin);
     state.scheme = environment().colorScheme;
     addAttributes(context, state);
