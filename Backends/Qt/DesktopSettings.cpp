@@ -16,12 +16,11 @@ constexpr const char *anyDesktop = "org.freedesktop.appearance", *gnome = "org.g
 
 QString nameOf(const QString& group, const QString& key) { return group + QLatin1Char(' ') + key; }
 
-// Only there is the factor for texts a part of the display's resolution, and only where Qt looks at that.
-bool displayMayCountTextScale() {
-    return QGuiApplication::platformName() == QLatin1String("xcb") && qgetenv("QT_ENABLE_HIGHDPI_SCALING") != "0";
-}
-
 } // namespace
+
+bool displayMayCountTextScale(const QString& platform, const QByteArray& scaling) {
+    return platform == QLatin1String("xcb") && scaling != "0";
+}
 
 double remainingTextScale(double textScale, double displayScale) {
     // The resolution is a whole number of dots an inch.
@@ -54,7 +53,8 @@ std::optional<graphics::ColorScheme> DesktopSettings::colorScheme() const {
 graphics::ContentSizeCategory DesktopSettings::textSize(double displayScale) const {
     const double factor = value(gnome, "text-scaling-factor").toDouble();
     if (!std::isfinite(factor) || factor <= 0) return graphics::ContentSizeCategory::large;
-    return graphics::nearestCategory(displayMayCountTextScale() ? remainingTextScale(factor, displayScale) : factor);
+    const bool mayBeCounted = displayMayCountTextScale(QGuiApplication::platformName(), qgetenv("QT_ENABLE_HIGHDPI_SCALING"));
+    return graphics::nearestCategory(mayBeCounted ? remainingTextScale(factor, displayScale) : factor);
 }
 
 bool DesktopSettings::reducesMotion() const {

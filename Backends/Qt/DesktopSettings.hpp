@@ -1,6 +1,7 @@
 // What a person has asked of the whole desktop.
 #pragma once
 
+#include <QByteArray>
 #include <QHash>
 #include <QObject>
 #include <QString>
@@ -49,6 +50,10 @@ private:
     // By "group key".
     QHash<QString, QVariant> m_values;
 };
+
+// Whether the factor for texts may be a part of the display's scale: on X11 alone, and where Qt looks at the display's resolution,
+// which QT_ENABLE_HIGHDPI_SCALING of "0" tells it not to.
+PROUPSELLS_EXPORT bool displayMayCountTextScale(const QString& platform, const QByteArray& scaling);
 
 // What is left of a factor for texts on such a display of X11: 1 where the display's scale is a whole number of times the factor.
 PROUPSELLS_EXPORT double remainingTextScale(double textScale, double displayScale);

@@ -45,7 +45,7 @@ constexpr double scaleStep = 0.05;
 // The share of its size down to which a text may be set at all. What is designed to be tiny may become smaller.
 double leastScale(const std::vector<graphics::StyledRun>& runs) {
     const double size = runs.front().font.size;
-    return size > graphics::leastTextSize ? graphics::leastTextSize / size : 0;
+    return size >= graphics::leastTextSize ? graphics::leastTextSize / size : 0;
 }
 
 std::optional<double> withTolerance(const std::optional<double>& length) {

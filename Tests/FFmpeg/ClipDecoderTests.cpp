@@ -21,6 +21,14 @@ const std::filesystem::path large = "Tests/FFmpeg/Data/large.mp4";
 
 class ClipDecoder : public ClipTest {};
 
+// Adds to the length that stands before the box's name.
+void makeLonger(std::string& bytes, const char* box, std::size_t added) {
+    const std::size_t place = bytes.find(box) - 2;
+    const std::size_t length = 256 * std::uint8_t(bytes[place]) + std::uint8_t(bytes[place + 1]) + added;
+    bytes[place] = char(length / 256);
+    bytes[place + 1] = char(length % 256);
+}
+
 } // namespace
 
 TEST_F(ClipDecoder, LoadsThePlugInWhenTheFirstPictureIsWanted) {
@@ -40,6 +48,23 @@ TEST_F(ClipDecoder, ShowsTheFrameThatIsDue) {
     for (const double time_s : {0.0, 0.05, 0.1, 0.199, 0.2, 1.0, 1.95}) numbers.push_back(numberOf(clip->frameAt(time_s)));
 
     EXPECT_THAT(numbers, ElementsAre(0, 0, 1, 1, 2, 10, 19));
+}
+
+TEST_F(ClipDecoder, BeginsWithTheFirstPictureWhereverTheClipsOwnClockDoes) {
+    std::string bytes = bytesOf(counting);
+    // Its list of cuts has half a second of nothing before the pictures.
+    const std::string nothing("\0\0\x01\xF4\xFF\xFF\xFF\xFF\0\1\0\0", 12);
+    const std::size_t cuts = bytes.find("elst");
+    bytes[cuts + 11] = 2;
+    bytes.insert(cuts + 12, nothing);
+    for (const char* box : {"moov", "trak", "edts", "elst"}) makeLonger(bytes, box, nothing.size());
+    LazyClipDecoder decoder = exactDecoder();
+    const auto clip = decoder.open(fileWith(bytes));
+
+    std::vector<int> numbers;
+    for (const double time_s : {0.0, 0.15, 1.05, 0.55, 1.65}) numbers.push_back(numberOf(clip->frameAt(time_s)));
+
+    EXPECT_THAT(numbers, ElementsAre(0, 1, 10, 5, 16));
 }
 
 TEST_F(ClipDecoder, RepeatsWithoutEnd) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "Backends/Headless/TestBed.hpp"
+#include "Platform/Graphics/ContentSize.hpp"
 #include "Platform/Host/FittedText.hpp"
 #include "Platform/Host/TextCache.hpp"
 #include "Tests/Support/FailOnUnexpectedLog.hpp"
@@ -95,6 +96,19 @@ TEST_F(FittedTextTest, ShrinksStepByStepAndAtLastToItsMinimum) {
     EXPECT_NEAR(shownIn({36.5, 20}).size, 7.2, 1e-9);
     EXPECT_FALSE(shownIn({36.5, 20}).isTruncated);
     EXPECT_TRUE(shownIn({30, 20}).isTruncated);
+}
+
+TEST_F(FittedTextTest, ShrinksToTheLeastSizeAndNoFurther) {
+    setRules({.lineLimit = 1, .minimumScale = 0.1});
+    const auto sizeOf = [this](double size) {
+        text.setRuns({{"aaaaaaaaaa", {.size = size}, 0}});
+        return shownIn({20, 20}).size;
+    };
+
+    EXPECT_EQ(sizeOf(20), graphics::leastTextSize);
+    EXPECT_EQ(sizeOf(graphics::leastTextSize), graphics::leastTextSize);
+    // What is tiny already is read by nobody for its size.
+    EXPECT_LT(sizeOf(10), 10);
 }
 
 // No size would make it whole.

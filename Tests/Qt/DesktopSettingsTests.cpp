@@ -211,6 +211,13 @@ TEST(DesktopSettingsOfAPerson, CountTheFactorForTextsOnce) {
         EXPECT_EQ(qtbackend::remainingTextScale(textScale, displayScale), expected) << textScale << " on " << displayScale;
 }
 
+TEST(DesktopSettingsOfAPerson, AreAPartOfTheScaleOnX11Alone) {
+    EXPECT_TRUE(qtbackend::displayMayCountTextScale("xcb", ""));
+    EXPECT_TRUE(qtbackend::displayMayCountTextScale("xcb", "1"));
+    EXPECT_FALSE(qtbackend::displayMayCountTextScale("xcb", "0"));
+    EXPECT_FALSE(qtbackend::displayMayCountTextScale("wayland", ""));
+}
+
 TEST(DesktopSettingsOfAPerson, CountTheFactorForTextsOnEveryDisplayThatDoesNot) {
     DesktopSettings settings;
     settings.adopt(gnome, "text-scaling-factor", 1.25);

@@ -339,6 +339,7 @@ TEST_F(TypefacesTest, LeaveTheFamilyOfABrokenFileAndSaySoOnce) {
 
     EXPECT_EQ(heading(), own);
     EXPECT_THAT(log.messages(), ElementsAre(HasSubstr("broken.otf is no font")));
+    EXPECT_EQ(log.records().at(0).function, "FontCatalog::followTypefaces");
 }
 
 TEST_F(TypefacesTest, AreAskedBeforeTheFacesThatAHostRegistered) {

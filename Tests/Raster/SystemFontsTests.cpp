@@ -19,15 +19,17 @@ const std::filesystem::path testFonts = PROUPSELLS_TEST_FONTS;
 // A machine that has the tests' own fonts, and no others.
 class SmallMachine {
 public:
+    explicit SmallMachine(const std::string& rules = "")
+        : m_configuration(m_folder.write("fonts.conf", "<fontconfig><dir>" + testFonts.string() + "</dir><cachedir>" +
+                                                           cache().string() + "</cachedir>" + rules + "</fontconfig>")) {}
+
     const std::filesystem::path& configuration() const { return m_configuration; }
     // fontconfig makes it when it looks at the fonts.
     std::filesystem::path cache() const { return m_folder.path() / "cache"; }
 
 private:
     tests::TemporaryFolder m_folder;
-    std::filesystem::path m_configuration =
-        m_folder.write("fonts.conf", "<fontconfig><dir>" + testFonts.string() + "</dir><cachedir>" + cache().string() +
-                                         "</cachedir></fontconfig>");
+    std::filesystem::path m_configuration;
 };
 
 } // namespace
@@ -39,6 +41,17 @@ TEST(SystemFonts, FindFamiliesByTheirName) {
     EXPECT_FALSE(fonts.isEmpty());
     EXPECT_THAT(fonts.facesOf("layers"), testing::ElementsAre(Field(&rasterbackend::FaceFile::path, testFonts / "Layers.ttf")));
     EXPECT_THAT(fonts.facesOf("Nowhere"), IsEmpty());
+}
+
+TEST(SystemFonts, HaveNoUprightFaceInASlantedOne) {
+    const auto styled = [](const std::string& style, const std::string& slant) {
+        return "<match target='scan'><test name='family'><string>Layers</string></test><edit name='style'><string>" + style +
+               "</string></edit><edit name='slant'><const>" + slant + "</const></edit></match>";
+    };
+    const SmallMachine slanted(styled("Italic", "italic")), upright(styled("Plain", "roman"));
+
+    EXPECT_THAT(SystemFonts(slanted.configuration()).facesOf("Layers"), IsEmpty());
+    EXPECT_THAT(SystemFonts(upright.configuration()).facesOf("Layers"), testing::SizeIs(1));
 }
 
 TEST(SystemFonts, TellColouredEmojiFromPlainFonts) {

@@ -105,6 +105,17 @@ TEST(RasterTextShaper, GrowsEvenlyWithTheFontSize) {
         EXPECT_NEAR(width(*shape("Cancel within 7 days", {}, size)), small * size / 10, 1e-9);
 }
 
+// Of two marks below a letter, the second makes room for the first.
+TEST(RasterTextShaper, SetsMarksAsFarBelowTheirLetterAsTheFontIsLarge) {
+    const auto depthOfMark = [](double size) {
+        const TextRef text = shape("\u0628\u0651\u0650", LayoutDirection::rightToLeft, size);
+        return std::static_pointer_cast<const rasterbackend::RasterShapedText>(text)->glyphs.at(0).y;
+    };
+
+    EXPECT_GT(depthOfMark(16), 1);
+    EXPECT_NEAR(depthOfMark(32), 2 * depthOfMark(16), 0.01);
+}
+
 TEST(RasterTextShaper, KernsPairsOfLetters) { EXPECT_LT(width(*shape("AV")), width(*shape("A")) + width(*shape("V")) - 0.1); }
 
 TEST(RasterTextShaper, AddsTheKernAfterEveryCluster) {

@@ -93,6 +93,22 @@ TEST(LongListAppearances, AreToldFrameByFrame) {
     EXPECT_THAT(list.takeEvents(), ElementsAre("-2", "-3", "-4", "-5", "+92", "+93", "+94", "+95"));
 }
 
+TEST(LongListAppearances, FollowRowsThatComeNearByALayout) {
+    double height = 200;
+    AppearingRows list(100, [&](int) { return box(300, height, "row"); });
+    TouchScreen screen{[&] { return list.view(); }};
+    // From then on only those near the screen are asked.
+    screen.host().scroll({100, 100}, {0, 10});
+    screen.settle();
+    EXPECT_THAT(list.takeEvents(), ElementsAre("+0", "+1", "+2"));
+
+    height = 100;
+    screen.host().setNeedsUpdate();
+    screen.settle();
+
+    EXPECT_THAT(list.takeEvents(), ElementsAre("+3", "+4"));
+}
+
 TEST(LongListAppearances, FollowAHostThatIsHiddenAndShown) {
     AppearingRows list(100, [](int) { return box(300, 200, "row"); });
     TouchScreen screen{[&] { return list.view(); }};

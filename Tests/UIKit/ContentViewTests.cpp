@@ -162,6 +162,20 @@ TEST_F(LabelTest, AttributedTextBringsItsOwnFontsColoursKerningAndSpacing) {
     EXPECT_TRUE(described.text->runs[1].isStruckThrough);
 }
 
+TEST_F(LabelTest, APlainTextAfterAnAttributedOneIsRestyled) {
+    label->setFrame({{0, 0}, {100, 20}});
+    label->setAttributedText(graphics::AttributedString("ab", {.font = body, .color = ink}));
+    label->setTextColor(UIColor::white);
+    EXPECT_EQ(painted().commands.at(0).color, graphics::rgb(0x111111));
+
+    label->setText("ab");
+    label->setTextColor(ink);
+
+    EXPECT_EQ(painted().commands.at(0).color, graphics::rgb(0x111111));
+    label->setTextColor(UIColor::white);
+    EXPECT_EQ(painted().commands.at(0).color, graphics::rgb(0xFFFFFF));
+}
+
 TEST_F(LabelTest, FollowsTheColourScheme) {
     label->setText("ab");
     label->setFrame({{0, 0}, {100, 20}});

@@ -152,15 +152,15 @@ void PictureStream::feedDecoder() {
 
 double PictureStream::timeOf(std::int64_t stamp) {
     if (stamp == AV_NOPTS_VALUE) return m_lastTime_s;
-    const std::int64_t start = m_stream->start_time == AV_NOPTS_VALUE ? 0 : m_stream->start_time;
-    return m_lastTime_s = secondsOf(stamp) - secondsOf(start);
+    return m_lastTime_s = secondsOf(stamp) - start_s();
 }
+
+double PictureStream::start_s() const { return m_stream->start_time == AV_NOPTS_VALUE ? 0 : secondsOf(m_stream->start_time); }
 
 double PictureStream::secondsOf(std::int64_t duration) const { return static_cast<double>(duration) * av_q2d(m_stream->time_base); }
 
 void PictureStream::seek(double time_s) {
-    const std::int64_t start = m_stream->start_time == AV_NOPTS_VALUE ? 0 : m_stream->start_time;
-    const auto stamp = static_cast<std::int64_t>((std::max(0.0, time_s) + secondsOf(start)) / av_q2d(m_stream->time_base));
+    const auto stamp = static_cast<std::int64_t>((std::max(0.0, time_s) + start_s()) / av_q2d(m_stream->time_base));
     av_seek_frame(m_format.get(), m_stream->index, stamp, AVSEEK_FLAG_BACKWARD);
     avcodec_flush_buffers(m_codec.get());
     m_isDraining = false;

@@ -35,6 +35,8 @@ public:
     // A stamp of a packet or frame in seconds. Without a stamp, the time of the one before.
     double timeOf(std::int64_t stamp);
     double secondsOf(std::int64_t duration) const;
+    // Where its first picture stands on its own clock.
+    double start_s() const;
 
     // Goes to the last key picture at or before `time_s`.
     void seek(double time_s);
