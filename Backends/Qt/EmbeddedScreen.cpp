@@ -54,17 +54,14 @@ void EmbeddedScreen::adoptTraits() {
 // --- Picture ---
 
 void EmbeddedScreen::setSeen(bool isSeen) {
-    schedule();
-    m_pacer.setRunning(isSeen);
+    m_pacer.setRunning(isSeen, display());
     if (!isSeen) m_input.cancelTouch();
     m_accessibility.updateLater();
 }
 
-// The display may have changed since the last frame.
-void EmbeddedScreen::schedule() {
+const QScreen* EmbeddedScreen::display() const {
     const QWindow* const window = m_place.window();
-    m_pacer.setScreen(window ? window->screen() : nullptr);
-    m_pacer.schedule();
+    return window ? window->screen() : nullptr;
 }
 
 // What is due runs the host's code, which may open an event loop of its own or delete the owner.
@@ -75,13 +72,13 @@ void EmbeddedScreen::makeFrame() {
     const QRegion damage = paint();
     if (!damage.isEmpty()) m_place.update(damage);
     adoptCursor();
-    schedule();
+    m_pacer.schedule(display());
 }
 
 bool EmbeddedScreen::prepareToDraw() {
     if (m_image.shows(wholeSize(), m_place.scale())) return false;
     const bool hasChanged = !paint().isEmpty();
-    schedule();
+    m_pacer.schedule(display());
     return hasChanged;
 }
 

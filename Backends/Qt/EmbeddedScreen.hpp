@@ -71,7 +71,8 @@ private:
     void makeFrame();
     void adoptCursor();
     QRegion paint();
-    void schedule();
+    // Null where it stands in no window.
+    const QScreen* display() const;
 
     ScreenPlace& m_place; // owned by what offers it to assistive technology
     ScreenTraits m_traits;

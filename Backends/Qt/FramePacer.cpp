@@ -15,7 +15,7 @@ FramePacer::FramePacer(rasterbackend::PixelView& view, std::function<void()> pai
         const auto paint = m_paint;
         paint();
     });
-    m_view.setFrameHandler([this] { schedule(); });
+    m_view.setFrameHandler([this] { arm(); });
     m_view.setSeen(false);
 }
 
@@ -26,18 +26,19 @@ double framesPerSecondFor(double refreshRate) {
 
 FramePacer::~FramePacer() { m_view.setFrameHandler({}); }
 
-void FramePacer::setRunning(bool isRunning) {
+void FramePacer::setRunning(bool isRunning, const QScreen* screen) {
     m_isRunning = isRunning;
     m_view.setSeen(isRunning);
-    schedule();
+    schedule(screen);
 }
 
-void FramePacer::setScreen(const QScreen* screen) {
+void FramePacer::schedule(const QScreen* screen) {
     constexpr double usual = 60;
     m_view.setRefreshRate(framesPerSecondFor(screen ? screen->refreshRate() : usual));
+    arm();
 }
 
-void FramePacer::schedule() {
+void FramePacer::arm() {
     const std::optional<double> delay_s = m_isRunning ? m_view.nextFrameDelay_s() : std::nullopt;
     if (!delay_s)
         m_timer.stop();

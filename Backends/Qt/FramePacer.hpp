@@ -23,15 +23,16 @@ public:
     FramePacer(const FramePacer&) = delete;
     FramePacer& operator=(const FramePacer&) = delete;
 
-    // Whether the view can be seen; not at first.
-    void setRunning(bool isRunning);
+    // Whether the view can be seen, not at first; and the display that shows the frames, null where unknown.
+    void setRunning(bool isRunning, const QScreen* screen);
     bool isRunning() const { return m_isRunning; }
-    // The display that shows the frames; null where unknown.
-    void setScreen(const QScreen* screen);
-    // Arms the timer for the next frame: to be called when one was made in another way than by `paint`.
-    void schedule();
+    // Arms the timer for the next frame: to be called when one was made in another way than by `paint`, and when the display may
+    // have changed.
+    void schedule(const QScreen* screen);
 
 private:
+    void arm();
+
     rasterbackend::PixelView& m_view;
     std::function<void()> m_paint;
     QTimer m_timer;

@@ -57,8 +57,7 @@ bool QtWindow::event(QEvent* event) {
 }
 
 void QtWindow::exposeEvent(QExposeEvent*) {
-    m_pacer->setScreen(screen());
-    m_pacer->setRunning(isExposed());
+    m_pacer->setRunning(isExposed(), screen());
     if (isExposed()) showFrame(true);
 }
 
@@ -80,7 +79,7 @@ void QtWindow::showFrame(bool isWhole) {
     }
     m_accessibility->update();
     adoptCursor();
-    m_pacer->schedule();
+    m_pacer->schedule(screen());
 }
 
 // A hand over what can be tapped.

@@ -168,10 +168,12 @@ CoverageMask ShapeMasks::makeOutline(const Path& path, const Transform& toPixels
 CoverageMask ShapeMasks::makeShadow(const Placement& placement, double blurRadius) {
     const Rect frame = placement.frame();
     const auto profile = [reach = 2 * blurRadius](int length, double from, double to) {
-        std::vector<double> values;
-        values.reserve(std::size_t(length));
-        for (int index = 0; index < length; ++index)
-            values.push_back(blurredStep(index + 0.5 - from, reach) - blurredStep(index + 0.5 - to, reach));
+        std::vector<double> values(static_cast<std::size_t>(length));
+        double middle = 0.5;
+        for (double& value : values) {
+            value = blurredStep(middle - from, reach) - blurredStep(middle - to, reach);
+            ++middle;
+        }
         return values;
     };
     const std::vector<double> columns = profile(placement.width(), frame.minX(), frame.maxX());

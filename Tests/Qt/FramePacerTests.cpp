@@ -27,7 +27,7 @@ TEST(FramePacer, TakesTheRateOfItsDisplay) {
     const auto content = std::make_shared<tests::FakeContent>();
     rasterbackend::PixelView view(content);
     FramePacer pacer(view, [] {});
-    pacer.setRunning(true);
+    pacer.setRunning(true, nullptr);
     view.setSize({10, 10});
     const auto secondsBetweenFrames = [&] {
         std::vector<std::uint32_t> pixels(100);
@@ -39,9 +39,9 @@ TEST(FramePacer, TakesTheRateOfItsDisplay) {
     const QScreen* const screen = QGuiApplication::primaryScreen();
 
     view.setRefreshRate(1);
-    pacer.setScreen(screen);
+    pacer.schedule(screen);
     EXPECT_DOUBLE_EQ(secondsBetweenFrames(), 1 / framesPerSecondFor(screen->refreshRate()));
     view.setRefreshRate(1);
-    pacer.setScreen(nullptr);
+    pacer.schedule(nullptr);
     EXPECT_DOUBLE_EQ(secondsBetweenFrames(), 1 / 60.0);
 }
