@@ -133,7 +133,6 @@ void ViewHost::noteOtherPlaces() {
 
 void ViewHost::departed(std::unique_ptr<Node> node) {
     m_departed.push_back(std::move(node));
-    m_appearances.forgetPlaces();
     setNeedsDisplay();
     setNeedsAppearanceUpdate();
 }
