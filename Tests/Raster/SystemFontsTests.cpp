@@ -65,6 +65,18 @@ TEST(SystemFonts, TellColouredEmojiFromPlainFonts) {
     EXPECT_EQ(fonts.faceFor(U"I", {}, 700)->path, testFonts / "Weighty.ttf");
 }
 
+TEST(SystemFonts, FollowTheRulesOfASystemForColouredEmoji) {
+    for (const std::string preferred : {"Pixels", "Strikes"}) {
+        const SmallMachine machine("<match target='pattern'><test name='color'><bool>true</bool></test><edit name='family' "
+                                   "mode='prepend' binding='strong'><string>" +
+                                   preferred + "</string></edit></match>");
+
+        const auto face = SystemFonts(machine.configuration()).emojiFor(U"\U0001F600");
+
+        EXPECT_THAT(face, testing::Optional(Field(&rasterbackend::FaceFile::path, testFonts / (preferred + ".ttf"))));
+    }
+}
+
 TEST(SystemFonts, HaveNothingForACharacterThatOneOfThemLacks) {
     const SmallMachine machine;
     SystemFonts fonts(machine.configuration());

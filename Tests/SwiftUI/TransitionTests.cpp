@@ -72,7 +72,8 @@ TEST_F(Transitions, AViewThatEndsInSightIsTakenOutOfThePictureAndDestroyed) {
     show([this, remains] {
         // Moved by its own width, which leaves it in sight.
         const auto branch = [&] {
-            return block("branch", 10, 40) | onTapGesture([kept = remains.lock()] {}) | transition(AnyTransition::move(Edge::trailing));
+            return block("branch", 10, 40) | onTapGesture([kept = remains.lock()] {}) |
+                   transition(AnyTransition::move(Edge::trailing));
         };
         return VStack{.content = {isOn ? branch() : View{}, block("other", 10, 10)}} |
                frame({.width = 100, .height = 100, .alignment = Alignment::topLeading});
