@@ -10,12 +10,11 @@ namespace proupsells::rasterbackend {
 
 namespace {
 
-// Codes that stand for several scripts.
+// Codes that stand for several scripts, without those whose most usual language is the code's only one.
 struct WritingSystem {
     std::string_view code, script;
 };
-constexpr WritingSystem writingSystems[] = {{"Jpan", "Hani"}, {"Jpan", "Hira"}, {"Jpan", "Kana"},
-                                            {"Kore", "Hani"}, {"Kore", "Hang"}, {"Hans", "Hani"},
+constexpr WritingSystem writingSystems[] = {{"Jpan", "Hani"}, {"Kore", "Hani"}, {"Hans", "Hani"},
                                             {"Hant", "Hani"}, {"Hans", "Bopo"}, {"Hant", "Bopo"}};
 
 icu::Locale likelyLocale(const std::string& tag) {
