@@ -45,21 +45,36 @@ Path lineThrough(std::initializer_list<Point> points) {
     return path;
 }
 
-// The curve, or as many lines as nobody can tell from it.
-Path curveOf(const Point (&points)[4], bool isOfLines) {
+Path curveInLines(const Point (&points)[4], int count) {
     Path path;
     path.moveTo(points[0]);
-    if (!isOfLines) {
-        path.cubicTo(points[1], points[2], points[3]);
-        return path;
-    }
-    for (int step = 1; step <= 400; ++step) {
-        const double t = step / 400.0, u = 1 - t;
+    for (int step = 1; step <= count; ++step) {
+        const double t = double(step) / count, u = 1 - t;
         const double a = u * u * u, b = 3 * u * u * t, c = 3 * u * t * t, d = t * t * t;
         path.lineTo({a * points[0].x + b * points[1].x + c * points[2].x + d * points[3].x,
                      a * points[0].y + b * points[1].y + c * points[2].y + d * points[3].y});
     }
     return path;
+}
+
+// The curve, or as many lines as nobody can tell from it.
+Path curveOf(const Point (&points)[4], bool isOfLines) {
+    if (isOfLines) return curveInLines(points, 400);
+    Path path;
+    path.moveTo(points[0]);
+    path.cubicTo(points[1], points[2], points[3]);
+    return path;
+}
+
+// By no more lines than keep within a hundredth of a pixel, wherever the curve is most bent.
+TEST(StrokeOutline, OfACurveHasAsManyLinesAsItsBendWants) {
+    rasterbackend::StrokeOutliner strokes;
+    const Point points[] = {{0, 0}, {20, 4}, {40, 4}, {60, 0}};
+    const auto pointsOf = [&](const Path& path, double scale) { return strokes.outline(path, {1}, scale).points().size(); };
+
+    EXPECT_EQ(pointsOf(curveOf(points, false), 1), pointsOf(curveInLines(points, 18), 1));
+    EXPECT_EQ(pointsOf(curveOf(points, false), 4), pointsOf(curveInLines(points, 35), 4));
+    EXPECT_LT(pointsOf(curveOf(points, false), 1), pointsOf(curveInLines(points, 19), 1));
 }
 
 // Some with one end nearly straight.
