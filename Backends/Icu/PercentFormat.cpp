@@ -116,16 +116,18 @@ void PercentFormat::appendDigit(icu::UnicodeString& text, char digit) const {
 }
 
 void PercentFormat::appendNumber(icu::UnicodeString& text, const RoundedDecimal& number) const {
-    const int digitCount = int(number.digits.size()), wholeDigits = std::max(number.wholeCount, 1);
-    const auto digitAt = [&](int index) { return index >= 0 && index < digitCount ? number.digits[std::size_t(index)] : '0'; };
-    const int firstWhole = number.wholeCount - wholeDigits;
-    for (int index = firstWhole; index < number.wholeCount; ++index) {
-        appendDigit(text, digitAt(index));
-        const int afterwards = number.wholeCount - 1 - index;
-        if (afterwards > 0 && endsGroup(afterwards, wholeDigits)) text += m_elements.group;
+    const auto wholeDigits = std::size_t(std::max(number.wholeCount, 1));
+    // All that are written, with zeros where the number has none.
+    std::string digits(std::size_t(int(wholeDigits) - number.wholeCount), '0');
+    digits += number.digits;
+    digits.resize(std::max(digits.size(), wholeDigits), '0');
+    for (std::size_t index = 0; index < wholeDigits; ++index) {
+        appendDigit(text, digits[index]);
+        const int afterwards = int(wholeDigits - 1 - index);
+        if (afterwards > 0 && endsGroup(afterwards, int(wholeDigits))) text += m_elements.group;
     }
-    if (digitCount > number.wholeCount) text += m_elements.decimal;
-    for (int index = number.wholeCount; index < digitCount; ++index) appendDigit(text, digitAt(index));
+    if (digits.size() > wholeDigits) text += m_elements.decimal;
+    for (std::size_t index = wholeDigits; index < digits.size(); ++index) appendDigit(text, digits[index]);
 }
 
 } // namespace proupsells::icubackend
