@@ -29,11 +29,6 @@ constexpr struct {
     {"org.gnome.desktop.interface", "enable-animations"}, {"org.gnome.desktop.interface", "text-scaling-factor"},
 };
 
-// Where the session names none, the library of D-Bus would start one.
-bool hasSessionBus() {
-    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") || QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus");
-}
-
 // Some answers are wrapped twice.
 QVariant unwrapped(QVariant value) {
     while (value.canConvert<QDBusVariant>()) value = value.value<QDBusVariant>().variant();
@@ -41,6 +36,10 @@ QVariant unwrapped(QVariant value) {
 }
 
 } // namespace
+
+bool hasSessionBus() {
+    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") || QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus");
+}
 
 DesktopPortal::DesktopPortal(const QDBusConnection& connection, const QString& service, DesktopSettings& settings)
     : QObject(&settings), m_connection(connection), m_service(service), m_settings(settings) {

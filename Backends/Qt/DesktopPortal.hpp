@@ -16,6 +16,10 @@ void followPortal(DesktopSettings& settings);
 
 #ifdef PROUPSELLS_HAS_DBUS
 
+// Whether the session names a bus (https://dbus.freedesktop.org/doc/dbus-specification.html). Where it names none, the library of
+// D-Bus would start one.
+bool hasSessionBus();
+
 // Asks a portal without waiting for it, and hears of every change.
 class DesktopPortal final : public QObject {
     Q_OBJECT

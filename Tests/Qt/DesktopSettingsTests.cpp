@@ -11,6 +11,7 @@
 #include "Backends/Qt/DesktopPortal.hpp"
 #include "Backends/Qt/DesktopSettings.hpp"
 #include "Tests/Qt/Events.hpp"
+#include "Tests/Support/TemporaryFolder.hpp"
 
 using namespace proupsells;
 
@@ -69,6 +70,21 @@ public:
 private:
     QDBusServer m_server;
     std::optional<QDBusConnection> m_client;
+};
+
+// Of the environment, for as long as it lives; without a value where that is null.
+class ChangedVariable {
+public:
+    ChangedVariable(const char* name, const char* value)
+        : m_name(name), m_former(qEnvironmentVariableIsSet(name) ? std::optional(qgetenv(name)) : std::nullopt) {
+        value ? qputenv(name, value) : qunsetenv(name);
+    }
+    ~ChangedVariable() { m_former ? qputenv(m_name, *m_former) : qunsetenv(m_name); }
+    ChangedVariable(const ChangedVariable&) = delete;
+
+private:
+    const char* m_name;
+    std::optional<QByteArray> m_former;
 };
 
 class DesktopPortals : public testing::Test {
@@ -138,6 +154,19 @@ TEST_F(DesktopPortals, ThatAreNotThereLeaveEverythingAsItIs) {
     EXPECT_FALSE(settings.reducesMotion());
     EXPECT_FALSE(settings.colorScheme());
     EXPECT_THAT(testing::internal::GetCapturedStderr(), IsEmpty());
+}
+
+TEST(SessionBus, IsNamedByItsAddressOrFoundInTheFolderOfTheSession) {
+    const tests::TemporaryFolder empty, full;
+    full.write("bus", "");
+    const auto isThere = [](const char* address, const std::filesystem::path& folder) {
+        const ChangedVariable bus("DBUS_SESSION_BUS_ADDRESS", address), runtime("XDG_RUNTIME_DIR", folder.c_str());
+        return qtbackend::hasSessionBus();
+    };
+
+    EXPECT_FALSE(isThere(nullptr, empty.path()));
+    EXPECT_TRUE(isThere("unix:path=/nowhere", empty.path()));
+    EXPECT_TRUE(isThere(nullptr, full.path()));
 }
 
 TEST(DesktopSettingsOfAPerson, LeaveTextsAsTheyAreWhereTheFactorIsNone) {
