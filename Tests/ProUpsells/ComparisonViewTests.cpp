@@ -222,6 +222,13 @@ TEST(ComparisonView, StacksHeaderListAndBottomBar) {
     EXPECT_EQ(comparison.frame("comparison.choosePlan"), (Rect{{16, 800 - 20 - 64}, {343, 64}}));
 }
 
+TEST(ComparisonView, ScrollsItsHeaderWhereTheScreenIsLow) {
+    const auto topOfList = [](double height) { return firstOfType(Comparison({375, height}).tree(), "ScrollView").frame.minY(); };
+
+    EXPECT_EQ(topOfList(259), 0);
+    EXPECT_GT(topOfList(260), 42);
+}
+
 TEST(ComparisonView, HasAButtonAsHighAsThePaywallsAtItsBarsBottom) {
     Screen screen(ComparisonView{}, Size{375, 800});
 
