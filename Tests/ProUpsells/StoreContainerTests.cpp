@@ -5,6 +5,7 @@
 
 #include "Platform/UIKit/Views/UIImageView.hpp"
 #include "Platform/UIKit/Views/UIStackView.hpp"
+#include "Platform/VelaUIKit/Fonts.hpp"
 #include "Platform/VelaUIKit/VelaColors.hpp"
 #include "ProUpsells/AllTheThingsHeaderViewShelf.hpp"
 #include "ProUpsells/BrandAssetsShelf.hpp"
@@ -102,6 +103,23 @@ TEST_F(StoreContainer, SetsTheHeadlineOverItsExplanation) {
     EXPECT_EQ(title.text->size, 22);
     EXPECT_EQ(title.text->weight, 2);
     EXPECT_EQ(title.text->color, "dynamicColor.9");
+}
+
+// 30 characters, each of half its size and 0.2 points more.
+TEST_F(StoreContainer, BreaksAnExplanationAtThreeHundredPointsOrNineteenFromEachSide) {
+    TitleSubtitleLabels labels(velauikit::velaDefaultFont(velauikit::FontOption::regular, 16));
+    const auto lines = [&](double width, double scale) {
+        labels.setScale(scale);
+        labels.setSubtitle("a");
+        const double withOneLine = labels.heightIn(width, {});
+        labels.setSubtitle("aaaaaaaaaaaaaaa aaaaaaaaaaaaaa");
+        return labels.heightIn(width, {}) > withOneLine ? 2 : 1;
+    };
+
+    EXPECT_EQ(lines(1000, (300.0 / 30 - 0.2) / 8), 1);
+    EXPECT_EQ(lines(1000, (300.5 / 30 - 0.2) / 8), 2);
+    EXPECT_EQ(lines(246 + 38, 1), 1);
+    EXPECT_EQ(lines(246 + 37, 1), 2);
 }
 
 TEST_F(StoreContainer, LetsAShortExplanationStandInTheMiddle) {
