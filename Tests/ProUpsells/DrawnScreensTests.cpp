@@ -33,6 +33,7 @@ struct Drawing {
     double wait_s = 2;
     std::vector<SubscriptionOption> options = trialAndMonthly();
     Theme theme = {};
+    bool isEmbedded = false; // the window's own screen, and as large
 };
 
 void PrintTo(const Drawing& drawing, std::ostream* stream) { *stream << drawing.name; }
@@ -54,6 +55,7 @@ std::vector<Drawing> drawings() {
         {"paywall-chosen", {375, 700}, light, {"plan.pro.monthly"}},
         {"paywall-turning", {375, 699.9}, light, {}, 5.2},
         {"paywall-wide", {1024, 768}, darkAndRegular},
+        {"paywall-embedded", {1024, 768}, light, {}, 2, trialAndMonthly(), {}, true},
         {"paywall-narrow", {320, 568}, darkMirroredAndLarge},
         {"paywall-tight", {320, 700}, light},
         {"paywall-many", {375, 1000}, light, {}, 2, {lifetime(), monthly("$14.99", {.hasUsedFreeTrial = true}), yearly()}},
@@ -79,11 +81,15 @@ protected:
         setTheme(GetParam().theme);
         window->setSize(GetParam().size, {});
         window->setTraits(GetParam().traits);
-        window->setRootViewController(std::make_shared<uikit::UIViewController>());
         VelaProStorePageViewController::shouldMentioniCloudSync = true;
         entry->setDelegate(delegate);
         entry->setAnnualSubscriptionPriceForComparisonWithPromotionalPrice("$119.99");
-        window->rootViewController()->present(entry, true);
+        if (GetParam().isEmbedded) {
+            window->setRootViewController(entry);
+        } else {
+            window->setRootViewController(std::make_shared<uikit::UIViewController>());
+            window->rootViewController()->present(entry, true);
+        }
         bed.runFor(1);
     }
 
