@@ -53,7 +53,7 @@ TEST_F(Animating, GoOnTheirWayWhenOnlyTheirSizeJumps) {
     screen->host().setNeedsUpdate();
     screen->settle();
 
-    EXPECT_EQ(screen->frame("box"), Rect({30, 45}, {30, 10}));
+    EXPECT_EQ(screen->frame("box"), (Rect{{30, 45}, {30, 10}}));
     screen->runFor(0.25);
     EXPECT_EQ(screen->frame("box").minX(), 40);
 }
@@ -71,7 +71,7 @@ TEST_F(Animating, GoOnGrowingWhenOnlyTheirPlaceJumps) {
     screen->host().setNeedsUpdate();
     screen->settle();
 
-    EXPECT_EQ(screen->frame("box"), Rect({20, 45}, {30, 10}));
+    EXPECT_EQ(screen->frame("box"), (Rect{{20, 45}, {30, 10}}));
 }
 
 TEST_F(Animating, ReducedMotionJumpsButFades) {
