@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QTest>
 #include <QWheelEvent>
 
 #include "Backends/QtQuick/PaywallItem.hpp"
@@ -18,6 +19,7 @@ using namespace proupsells;
 using qtquick::PaywallItem;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Not;
 using tests::Items;
 using tests::settle;
 
@@ -77,7 +79,7 @@ TEST_F(Items, CloseByTheirOwnButtonAndByEscape) {
     EXPECT_THAT(told(), ElementsAre("closed 1", "closed 1"));
 }
 
-TEST_F(Items, ScrollByTheWheelAndByAFinger) {
+TEST_F(Items, ScrollByTheWheel) {
     show();
     paywall->setHeight(400);
     settle();
@@ -91,6 +93,23 @@ TEST_F(Items, ScrollByTheWheelAndByAFinger) {
     settle();
 
     EXPECT_EQ(closeTop(), before - 60);
+}
+
+TEST_F(Items, AreTappedByAFinger) {
+    show();
+    const accessibility::SemanticNode screen = paywall->uiWindow().semanticTree();
+    const accessibility::SemanticNode* subscribe = accessibility::findByIdentifier(screen, "subscribe");
+    ASSERT_NE(subscribe, nullptr);
+    const QPointF at = paywall->mapToScene({subscribe->frame.midX(), subscribe->frame.midY()});
+    const std::unique_ptr<QPointingDevice> device(QTest::createTouchDevice());
+    QTest::touchEvent(&window, device.get()).press(1, at.toPoint());
+    settle();
+    QTest::touchEvent(&window, device.get()).release(1, at.toPoint());
+    settle();
+
+    // Not by way of a mouse that the scene makes of it.
+    EXPECT_TRUE(paywall->acceptTouchEvents());
+    EXPECT_THAT(told(), Not(IsEmpty()));
 }
 
 TEST_F(Items, GiveUpAPressThatTheSceneTakesAway) {
