@@ -8,6 +8,7 @@
 #include <random>
 
 #include "Tests/Raster/Canvas.hpp"
+#include "Tests/Support/UsedMemory.hpp"
 
 namespace proupsells::tests {
 namespace {
@@ -115,6 +116,18 @@ TEST(StrokeOutline, OfACurveAboutTheOriginIsThatOfManyShortLines) {
                                               strokeOf(curveOf(*points, true), 0.7, large)),
                               6);
             }
+}
+
+TEST(StrokeOutline, TakesItsMemoryWithIt) {
+    const auto makeSome = [] {
+        for (int count = 0; count < 5000; ++count) rasterbackend::StrokeOutliner().outline(lineThrough({{0, 0}, {20, 30}}), {2}, 1);
+    };
+    makeSome();
+    const std::size_t before = usedMemory_bytes();
+
+    makeSome();
+
+    EXPECT_LT(usedMemory_bytes(), before + (100u << 10));
 }
 
 TEST(StrokeOutline, FollowsALineThatComesBackToWhereItWas) {
