@@ -74,6 +74,8 @@ TEST_F(FadingPages, FadeOutOverThoseBeforeThem) {
     EXPECT_THAT(shown(), ElementsAre(0, 3));
     EXPECT_EQ(opacity(0), 1);
     EXPECT_NEAR(opacity(3), 0.75, 1e-9);
+    // Those between them take no part.
+    EXPECT_EQ(screen.find("page1").frame.minX(), 300);
 }
 
 TEST_F(FadingPages, StandStillFromRightToLeftToo) {

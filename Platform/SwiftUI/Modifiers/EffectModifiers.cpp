@@ -40,7 +40,7 @@ public:
     }
 
 private:
-    Animated<double> m_opacity{1};
+    Animated<double> m_opacity;
 };
 
 // Scales and rotations: a transform about a point of the view.
