@@ -60,11 +60,15 @@ protected:
             QCoreApplication::sendEvent(&window, &event);
         }
     }
-    void clickOn(std::string_view identifier) {
+    // The middle of a control, in the scene.
+    QPointF placeOf(std::string_view identifier) {
         const accessibility::SemanticNode screen = paywall->uiWindow().semanticTree();
         const accessibility::SemanticNode* node = accessibility::findByIdentifier(screen, identifier);
-        ASSERT_NE(node, nullptr) << identifier;
-        click(paywall->mapToScene({node->frame.midX(), node->frame.midY()}));
+        EXPECT_NE(node, nullptr) << identifier;
+        return node ? paywall->mapToScene({node->frame.midX(), node->frame.midY()}) : QPointF();
+    }
+    void clickOn(std::string_view identifier) {
+        click(placeOf(identifier));
         settle();
     }
     void pressKey(int key) {

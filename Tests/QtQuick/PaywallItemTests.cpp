@@ -97,14 +97,12 @@ TEST_F(Items, ScrollByTheWheel) {
 
 TEST_F(Items, AreTappedByAFinger) {
     show();
-    const accessibility::SemanticNode screen = paywall->uiWindow().semanticTree();
-    const accessibility::SemanticNode* subscribe = accessibility::findByIdentifier(screen, "subscribe");
-    ASSERT_NE(subscribe, nullptr);
-    const QPointF at = paywall->mapToScene({subscribe->frame.midX(), subscribe->frame.midY()});
-    const std::unique_ptr<QPointingDevice> device(QTest::createTouchDevice());
-    QTest::touchEvent(&window, device.get()).press(1, at.toPoint());
+    const QPointF at = placeOf("subscribe");
+    // The application's, as long as it lives.
+    static QPointingDevice* const device = QTest::createTouchDevice();
+    QTest::touchEvent(&window, device).press(1, at.toPoint());
     settle();
-    QTest::touchEvent(&window, device.get()).release(1, at.toPoint());
+    QTest::touchEvent(&window, device).release(1, at.toPoint());
     settle();
 
     // Not by way of a mouse that the scene makes of it.
@@ -114,10 +112,7 @@ TEST_F(Items, AreTappedByAFinger) {
 
 TEST_F(Items, GiveUpAPressThatTheSceneTakesAway) {
     show();
-    const accessibility::SemanticNode screen = paywall->uiWindow().semanticTree();
-    const accessibility::SemanticNode* subscribe = accessibility::findByIdentifier(screen, "subscribe");
-    ASSERT_NE(subscribe, nullptr);
-    const QPointF at = paywall->mapToScene({subscribe->frame.midX(), subscribe->frame.midY()});
+    const QPointF at = placeOf("subscribe");
     QMouseEvent press(QEvent::MouseButtonPress, at, window.mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, {});
     QCoreApplication::sendEvent(&window, &press);
     EXPECT_TRUE(paywall->hasActiveFocus());
