@@ -40,38 +40,42 @@ TEST_F(Animating, WithoutAnAnimationTheyJump) {
     EXPECT_FALSE(screen->host().isAnimating());
 }
 
-TEST_F(Animating, GoOnTheirWayWhenOnlyTheirSizeJumps) {
-    double width = 20;
-    show([&] {
-        return HStack{.spacing = 0, .content = {block("before", isOn ? 50 : 10, 10), block("box", width, 10)}} |
-               frame({.width = 100, .alignment = Alignment::leading});
-    });
-    change(linear(1));
-    screen->runFor(0.5);
+// A box behind another one, half a second after one of the two has begun to grow from 10 to 50 points.
+class MovingBox : public Animating {
+protected:
+    void begin(double& grown) {
+        show([this] {
+            return HStack{.spacing = 0, .content = {block("before", before, 10), block("box", own, 10)}} |
+                   frame({.width = 100, .alignment = Alignment::leading});
+        });
+        grown = 50;
+        change(linear(1));
+        screen->runFor(0.5);
+    }
 
-    width = 30;
-    screen->host().setNeedsUpdate();
-    screen->settle();
+    double before = 10, own = 10;
+};
+
+TEST_F(MovingBox, GoesOnItsWayWhenOnlyItsSizeJumps) {
+    begin(before);
+
+    own = 30;
+    change(std::nullopt);
 
     EXPECT_EQ(screen->frame("box"), (Rect{{30, 45}, {30, 10}}));
     screen->runFor(0.25);
-    EXPECT_EQ(screen->frame("box").minX(), 40);
+    EXPECT_EQ(screen->frame("box"), (Rect{{40, 45}, {30, 10}}));
 }
 
-TEST_F(Animating, GoOnGrowingWhenOnlyTheirPlaceJumps) {
-    double before = 10;
-    show([&] {
-        return HStack{.spacing = 0, .content = {block("before", before, 10), block("box", isOn ? 50 : 10, 10)}} |
-               frame({.width = 100, .alignment = Alignment::leading});
-    });
-    change(linear(1));
-    screen->runFor(0.5);
+TEST_F(MovingBox, GoesOnGrowingWhenOnlyItsPlaceJumps) {
+    begin(own);
 
     before = 20;
-    screen->host().setNeedsUpdate();
-    screen->settle();
+    change(std::nullopt);
 
     EXPECT_EQ(screen->frame("box"), (Rect{{20, 45}, {30, 10}}));
+    screen->runFor(0.25);
+    EXPECT_EQ(screen->frame("box"), (Rect{{20, 45}, {40, 10}}));
 }
 
 TEST_F(Animating, ReducedMotionJumpsButFades) {

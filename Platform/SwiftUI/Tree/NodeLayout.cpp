@@ -73,13 +73,15 @@ void Node::place(Point origin, const ProposedSize& proposed) {
 
 void Node::animateFrameTo(const Rect& target) {
     const motion::Animation* animation = m_host->m_layoutAnimation;
+    const double now_s = m_host->now_s();
     const bool mayMove = m_hasBeenPlaced && !environment().reduceMotion;
-    if (!mayMove || (!animation && !m_frameAnimation)) {
+    const bool isMoving = m_frameAnimation && now_s < m_frameAnimation->end_s();
+    if (!mayMove || (!animation && !isMoving)) {
         m_frameAnimation.reset();
         return;
     }
     if (!m_frameAnimation) m_frameAnimation = std::make_unique<AnimatedFrame>(m_frame);
-    m_frameAnimation->set(target, animation, m_host->now_s());
+    m_frameAnimation->set(target, animation, now_s);
     noteMovement(m_frameAnimation->end_s());
 }
 
