@@ -61,12 +61,12 @@ RadioPickerItem pickerRow(const SubscriptionOption& option, const UpsellViewMode
 } // namespace
 
 RadioPickerItem SubscriptionOptionFormatter::makePickerRow(const SubscriptionOption& option, const UpsellViewModel& model) {
-    runloop::MainActor::assertIsolated();
+    runloop::MainActor::assertIsolated("SubscriptionOptionFormatter::makePickerRow");
     return pickerRow(option, model, badgeText(option, model));
 }
 
 std::vector<RadioPickerItem> SubscriptionOptionFormatter::makePickerRows(const UpsellViewModel& model) {
-    runloop::MainActor::assertIsolated();
+    runloop::MainActor::assertIsolated("SubscriptionOptionFormatter::makePickerRows");
     // All yearly plans share one badge: to work out the saving for each of them would make long lists slow.
     const SubscriptionOption* yearly = model.yearlyOption();
     const std::optional<std::string> yearlyBadge = yearly ? badgeText(*yearly, model) : std::nullopt;
@@ -79,7 +79,7 @@ std::vector<RadioPickerItem> SubscriptionOptionFormatter::makePickerRows(const U
 
 SubscriptionOptionFormatter::TitleAndSubtitle
 SubscriptionOptionFormatter::titleAndSubtitle(const SubscriptionOption& option, const std::optional<std::string>& comparisonPrice) {
-    runloop::MainActor::assertIsolated();
+    runloop::MainActor::assertIsolated("SubscriptionOptionFormatter::titleAndSubtitle");
     TitleAndSubtitle result;
     std::string sentence;
     if (option.isYearly()) {

@@ -7,7 +7,6 @@
 namespace proupsells::qtbackend {
 
 QtRunLoopDriver::QtRunLoopDriver(runloop::MainRunLoop& loop) : m_loop(loop) {
-    m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
         m_loop.runDueTurns();

@@ -21,7 +21,7 @@ private:
     void arm();
 
     runloop::MainRunLoop& m_loop;
-    QTimer m_timer;
+    QTimer m_timer; // each time that it fires it is started anew, or stopped
 };
 
 } // namespace proupsells::qtbackend

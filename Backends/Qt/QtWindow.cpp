@@ -35,25 +35,25 @@ void QtWindow::setSafeArea(geometry::PhysicalInsets safeArea) {
 QAccessibleInterface* QtWindow::accessibleRoot() const { return m_accessibility->root(); }
 
 bool QtWindow::event(QEvent* event) {
+    const bool isHandled = QWindow::event(event);
     switch (event->type()) {
-    case QEvent::Close: {
-        const bool isHandled = QWindow::event(event);
+    case QEvent::Close:
         // A copy, because the handler may replace itself.
         if (const auto handler = m_closeHandler; handler && event->isAccepted()) handler();
-        return isHandled;
-    }
+        break;
     case QEvent::Enter:
         m_input->hovered(static_cast<QEnterEvent*>(event)->position());
         adoptCursor();
-        return true;
+        break;
     case QEvent::Leave:
         m_input->left();
         adoptCursor();
-        return true;
+        break;
     case QEvent::FocusIn:
-    case QEvent::FocusOut: m_accessibility->updateLater(); return QWindow::event(event);
-    default: return QWindow::event(event);
+    case QEvent::FocusOut: m_accessibility->updateLater(); break;
+    default: break;
     }
+    return isHandled;
 }
 
 void QtWindow::exposeEvent(QExposeEvent*) {

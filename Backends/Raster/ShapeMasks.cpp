@@ -39,7 +39,7 @@ struct Axis {
     int pixel;           // the one that the shape starts in
     std::int64_t start;  // in subpixels from there
     std::int64_t length; // subpixels, without what is left out
-    int repeated = 0, extra = 0;
+    int repeated, extra;
 
     // `corner` pixels at either end are to be kept.
     Axis(double from, double to, double corner) {
@@ -50,8 +50,7 @@ struct Axis {
         // Wide enough for a span of one coverage to hold the repeated pixel.
         constexpr int middle = 24;
         const std::int64_t kept = 2 * std::int64_t(std::ceil(corner)) + middle;
-        if (length / subpixels <= kept) return;
-        extra = int(length / subpixels - kept);
+        extra = int(std::max<std::int64_t>(length / subpixels - kept, 0));
         length -= extra * subpixels;
         repeated = int((start + length / 2) / subpixels);
     }

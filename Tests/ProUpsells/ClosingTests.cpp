@@ -199,7 +199,10 @@ TEST_F(Closing, ATrackerThatNobodyHoldsIsReported) {
     entry->setTracker(std::make_shared<LedgerTracker>(ledger));
     present();
 
-    EXPECT_THAT(bed.takeLogRecords(), SizeIs(1));
+    const auto records = bed.takeLogRecords();
+    ASSERT_THAT(records, SizeIs(1));
+    EXPECT_EQ(records[0].message,
+              "VelaProUpsellViewController - the tracker is gone already: it is held weakly, so the host must keep it");
 }
 
 TEST_F(Closing, ADelegateThatWasNeverSetOrGoesLaterIsNoMistake) {

@@ -29,6 +29,7 @@ TEST(MainThreadDeathTest, IsWantedByEveryCallOfAHost) {
     ::testing::FLAGS_gtest_death_test_style = "threadsafe";
     const headless::TestBed bed;
     const auto entry = entryController();
+    const UpsellViewModel model;
     const std::vector<std::pair<std::string, std::function<void()>>> calls = {
         {"setTheme", [] { setTheme({}); }},
         {"UpsellViewController::create",
@@ -41,13 +42,12 @@ TEST(MainThreadDeathTest, IsWantedByEveryCallOfAHost) {
         {"VelaProUpsellViewController::setTracker", [&] { entry->setTracker({}); }},
         {"VelaProUpsellViewController::setDelegate", [&] { entry->setDelegate({}); }},
         {"VelaProUpsellViewController::setOptions", [&] { entry->setOptions({monthly()}); }},
+        {"SubscriptionOptionFormatter::makePickerRow", [&] { SubscriptionOptionFormatter::makePickerRow(yearly(), model); }},
+        {"SubscriptionOptionFormatter::makePickerRows", [&] { SubscriptionOptionFormatter::makePickerRows(model); }},
+        {"SubscriptionOptionFormatter::titleAndSubtitle",
+         [] { SubscriptionOptionFormatter::titleAndSubtitle(yearly(), std::nullopt); }},
     };
     for (const auto& [name, call] : calls) EXPECT_DEATH(onAnotherThread(call), name + " must be called on the main thread");
-    const UpsellViewModel model;
-    EXPECT_DEATH(onAnotherThread([&] { SubscriptionOptionFormatter::makePickerRow(yearly(), model); }), "on the main thread");
-    EXPECT_DEATH(onAnotherThread([&] { SubscriptionOptionFormatter::makePickerRows(model); }), "on the main thread");
-    EXPECT_DEATH(onAnotherThread([] { SubscriptionOptionFormatter::titleAndSubtitle(yearly(), std::nullopt); }),
-                 "on the main thread");
 }
 
 } // namespace

@@ -1,7 +1,5 @@
 #include "ProUpsells/SubscriptionOptionFormatter.hpp"
 
-#include <thread>
-
 #include <gmock/gmock.h>
 #include <rapidcheck.h>
 
@@ -179,17 +177,6 @@ TEST(PickerRow, SurvivesATranslationWithAWrongPlaceholder) {
 
     EXPECT_EQ(texts.title, "Monatlich");
     EXPECT_EQ(texts.subtitle.text(), "  pro Monat, %d");
-}
-
-TEST(PickerRowDeathTest, BelongsToTheMainThread) {
-    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
-
-    EXPECT_DEATH(
-        {
-            MainThread main;
-            std::thread([] { (void)Formatter::titleAndSubtitle(yearly(), std::nullopt); }).join();
-        },
-        "main thread");
 }
 
 TEST(Savings, AreRoundedAndSnapped) {

@@ -104,10 +104,9 @@ std::string PictureStream::findStreams() {
 }
 
 double PictureStream::declaredDuration_s() const {
-    const double stream_s = m_stream->duration == AV_NOPTS_VALUE ? 0 : secondsOf(m_stream->duration);
-    if (stream_s > 0) return stream_s;
-    const double file_s = m_format->duration == AV_NOPTS_VALUE ? 0 : double(m_format->duration) / AV_TIME_BASE;
-    return file_s > 0 ? file_s : pictureDuration_s();
+    // What is not known, AV_NOPTS_VALUE, is below 0 as well.
+    if (m_stream->duration > 0) return secondsOf(m_stream->duration);
+    return m_format->duration > 0 ? double(m_format->duration) / AV_TIME_BASE : pictureDuration_s();
 }
 
 double PictureStream::pictureDuration_s() const {
