@@ -4,11 +4,16 @@ import pathlib
 import signal
 import subprocess
 import tempfile
+import threading
 import time
 import unittest
 
 import desktop
 import window
+
+
+# As the tracker is told.
+PAYWALL_TITLE, STORE_TITLE = "ProUpsell Phase 2: with Comparison List and Carousel Sept24", "Vela Pro Store Page"
 
 
 class RecordedWindow(window.Screen):
@@ -18,24 +23,49 @@ class RecordedWindow(window.Screen):
         self._folder = tempfile.TemporaryDirectory()
         self.file = pathlib.Path(self._folder.name) / "recording.json"
         super().__init__("1280x1000", "--size", "700x760", "--record", str(self.file), *options)
+        self._lines = []
+        self._reader = threading.Thread(target=self._read)
+        self._reader.start()
+
+    def _read(self):
+        for line in self._program.stdout:
+            self._lines.append(line)
 
     def __exit__(self, *_):
+        self._program.terminate()
+        self._reader.join()
         super().__exit__()
         self._folder.cleanup()
 
     def do(self, *command):
         self.ask("xdotool", *command)
+        # Nobody does two things at once.
         time.sleep(0.12)
 
-    def stand(self):
-        """Until the screen asked for has come, and the keys are its own."""
+    def stand(self, title):
+        """Until the first screen, whose title the tracker is told, has come; the keys are its own then."""
         self.do("windowfocus", "--sync", self.window())
-        time.sleep(2)
+        self.wait_for("tracker", operation="trackUpsellViewed", screenTitle=title)
+
+    def wait_for(self, event, **details):
+        """An event line with these details."""
+        def found():
+            return any(line["event"] == event and all(line.get(key) == value for key, value in details.items())
+                       for line in map(json.loads, list(self._lines)))
+        desktop.wait_for(lambda: f"the event {event} {details}; there were {self._lines}", found)
+
+    def leave(self):
+        """Presses Escape until the last screen has gone, and the program with it. One that comes while a screen moves does nothing."""
+        def has_ended():
+            self.do("key", "Escape")
+            return self._program.poll() is not None
+        desktop.wait_for("the program to end", has_ended)
 
     def end(self):
         """The exit status, and the event lines."""
-        lines = self._program.stdout.read()
-        return self._program.wait(window.TIMEOUT_S), lines
+        status = self._program.wait(window.TIMEOUT_S)
+        self._reader.join()
+        return status, b"".join(self._lines)
 
     def terminate(self):
         self._program.send_signal(signal.SIGTERM)
@@ -53,7 +83,7 @@ class Recording(unittest.TestCase):
 
     def test_of_mouse_wheel_and_keys_until_the_window_closes(self):
         with RecordedWindow("--start", "store") as screen:
-            screen.stand()
+            screen.stand(STORE_TITLE)
             screen.do("mousemove", "--window", screen.window(), "350", "500")
             for button in ("5", "5", "5", "4"):
                 screen.do("click", button)
@@ -63,13 +93,10 @@ class Recording(unittest.TestCase):
             screen.do("mouseup", "1")
             screen.do("windowsize", screen.window(), "520", "700")
             screen.do("key", "Escape")
-            time.sleep(1)
+            screen.wait_for("dismiss", controller="VelaProStorePageViewController")
             for key in ("Tab", "Tab", "Tab", "Down", "Page_Down", "Tab", "Return"):
                 screen.do("key", key)
-            time.sleep(1)
-            screen.do("key", "Escape")
-            time.sleep(1)
-            screen.do("key", "Escape")
+            screen.leave()
 
             status, lines = screen.end()
 
@@ -81,11 +108,10 @@ class Recording(unittest.TestCase):
 
     def test_is_whole_when_the_program_is_terminated(self):
         with RecordedWindow() as screen:
-            screen.stand()
+            screen.stand(PAYWALL_TITLE)
             screen.do("key", "Tab")
             screen.do("key", "Tab")
             screen.do("key", "Return")
-            time.sleep(0.2)
 
             status, lines = screen.terminate()
 
