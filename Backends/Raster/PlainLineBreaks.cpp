@@ -13,13 +13,14 @@ bool isOneOf(ULineBreak kind, std::initializer_list<ULineBreak> kinds) {
 }
 
 bool isLetter(ULineBreak kind) { return kind == U_LB_ALPHABETIC; }
-bool isUnit(ULineBreak kind) { return kind == U_LB_PREFIX_NUMERIC || kind == U_LB_POSTFIX_NUMERIC; }
+// Before a number or behind it.
+bool isUnit(ULineBreak kind) { return kind == U_LB_PREFIX_NUMERIC; }
 bool isHyphen(ULineBreak kind) { return kind == U_LB_HYPHEN || kind == U_LB_BREAK_AFTER; }
 bool isClosing(ULineBreak kind) { return kind == U_LB_CLOSE_PUNCTUATION || kind == U_LB_CLOSE_PARENTHESIS; }
 bool isInsideNumbers(ULineBreak kind) { return kind == U_LB_INFIX_NUMERIC || kind == U_LB_BREAK_SYMBOLS; }
 
 // From each character on, up to the next one of the list: Unicode's kinds by their short names. XX where the rules below know
-// nothing of it; a true hyphen has rules of its own in ICU.
+// nothing of it; a true hyphen has rules of its own in ICU. PR for PO, too, which no rule below tells apart.
 struct KindFrom {
     char16_t first;
     ULineBreak kind;
@@ -29,21 +30,19 @@ constexpr auto kinds = [] {
     constexpr ULineBreak AL = U_LB_ALPHABETIC, B2 = U_LB_BREAK_BOTH, BA = U_LB_BREAK_AFTER, BB = U_LB_BREAK_BEFORE,
                          CL = U_LB_CLOSE_PUNCTUATION, CP = U_LB_CLOSE_PARENTHESIS, EX = U_LB_EXCLAMATION, GL = U_LB_GLUE,
                          HY = U_LB_HYPHEN, IN = U_LB_INSEPARABLE, IS = U_LB_INFIX_NUMERIC, LF = U_LB_LINE_FEED, NU = U_LB_NUMERIC,
-                         OP = U_LB_OPEN_PUNCTUATION, PO = U_LB_POSTFIX_NUMERIC, PR = U_LB_PREFIX_NUMERIC, QU = U_LB_QUOTATION,
-                         SP = U_LB_SPACE, SY = U_LB_BREAK_SYMBOLS, XX = U_LB_UNKNOWN;
+                         OP = U_LB_OPEN_PUNCTUATION, PR = U_LB_PREFIX_NUMERIC, QU = U_LB_QUOTATION, SP = U_LB_SPACE,
+                         SY = U_LB_BREAK_SYMBOLS, XX = U_LB_UNKNOWN;
     // NOLINTEND(readability-identifier-naming)
     return std::to_array<KindFrom>(
         {{0x00, XX},   {0x09, BA},   {0x0A, LF},   {0x0B, XX},   {0x20, SP},   {0x21, EX},   {0x22, QU},   {0x23, AL},
-         {0x24, PR},   {0x25, PO},   {0x26, AL},   {0x27, QU},   {0x28, OP},   {0x29, CP},   {0x2A, AL},   {0x2B, PR},
-         {0x2C, IS},   {0x2D, HY},   {0x2E, IS},   {0x2F, SY},   {0x30, NU},   {0x3A, IS},   {0x3C, AL},   {0x3F, EX},
-         {0x40, AL},   {0x5B, OP},   {0x5C, PR},   {0x5D, CP},   {0x5E, AL},   {0x7B, OP},   {0x7C, BA},   {0x7D, CL},
-         {0x7E, AL},   {0x7F, XX},   {0xA0, GL},   {0xA1, OP},   {0xA2, PO},   {0xA3, PR},   {0xA6, AL},   {0xAB, QU},
-         {0xAC, AL},   {0xAD, BA},   {0xAE, AL},   {0xB0, PO},   {0xB1, PR},   {0xB2, AL},   {0xB4, BB},   {0xB5, AL},
-         {0xBB, QU},   {0xBC, AL},   {0xBF, OP},   {0xC0, AL},   {0x2C8, BB},  {0x2C9, AL},  {0x2CC, BB},  {0x2CD, AL},
-         {0x2DF, BB},  {0x2E0, AL},  {0x300, XX},  {0x2011, GL}, {0x2012, BA}, {0x2014, B2}, {0x2015, AL}, {0x2018, QU},
-         {0x201A, OP}, {0x201B, QU}, {0x201E, OP}, {0x201F, QU}, {0x2020, AL}, {0x2024, IN}, {0x2027, BA}, {0x2028, XX},
-         {0x20A0, PR}, {0x20A7, PO}, {0x20A8, PR}, {0x20B6, PO}, {0x20B7, PR}, {0x20BB, PO}, {0x20BC, PR}, {0x20BE, PO},
-         {0x20BF, PR}, {0x20C0, XX}});
+         {0x24, PR},   {0x26, AL},   {0x27, QU},   {0x28, OP},   {0x29, CP},   {0x2A, AL},   {0x2B, PR},   {0x2C, IS},
+         {0x2D, HY},   {0x2E, IS},   {0x2F, SY},   {0x30, NU},   {0x3A, IS},   {0x3C, AL},   {0x3F, EX},   {0x40, AL},
+         {0x5B, OP},   {0x5C, PR},   {0x5D, CP},   {0x5E, AL},   {0x7B, OP},   {0x7C, BA},   {0x7D, CL},   {0x7E, AL},
+         {0x7F, XX},   {0xA0, GL},   {0xA1, OP},   {0xA2, PR},   {0xA6, AL},   {0xAB, QU},   {0xAC, AL},   {0xAD, BA},
+         {0xAE, AL},   {0xB0, PR},   {0xB2, AL},   {0xB4, BB},   {0xB5, AL},   {0xBB, QU},   {0xBC, AL},   {0xBF, OP},
+         {0xC0, AL},   {0x2C8, BB},  {0x2C9, AL},  {0x2CC, BB},  {0x2CD, AL},  {0x2DF, BB},  {0x2E0, AL},  {0x300, XX},
+         {0x2011, GL}, {0x2012, BA}, {0x2014, B2}, {0x2015, AL}, {0x2018, QU}, {0x201A, OP}, {0x201B, QU}, {0x201E, OP},
+         {0x201F, QU}, {0x2020, AL}, {0x2024, IN}, {0x2027, BA}, {0x2028, XX}, {0x20A0, PR}, {0x20C0, XX}});
 }();
 
 ULineBreak kindOfCharacter(char16_t unit) {
